@@ -1,0 +1,18 @@
+#include "QuorIniFile/QuorError.h"
+
+#include "QuorIniFile/Utf8.h"
+
+#include <utility>
+
+namespace QuorIniFile {
+
+QuorError::QuorError(std::int32_t number, std::wstring source, std::wstring description,
+                     std::wstring helpFile, std::int32_t helpContext)
+    : m_number(number),
+      m_source(std::move(source)),
+      m_description(std::move(description)),
+      m_helpFile(std::move(helpFile)),
+      m_helpContext(helpContext),
+      m_what(ToUtf8(m_description)) {}
+
+} // namespace QuorIniFile

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "QuorIniFile/Export.h"
+
+#include <cstdint>
+#include <exception>
+#include <string>
+
+namespace QuorIniFile {
+
+/// Numbers of the errors that the three libraries raise. They leave the process in error reports, so a number
+/// keeps its meaning for ever; new ones are only added.
+enum EErrorNumber : std::int32_t {
+    ERROR_OVERFLOW = 6,
+    ERROR_OUT_OF_MEMORY = 7,
+    ERROR_SUBSCRIPT_OUT_OF_RANGE = 9,
+    ERROR_BAD_FILE_NAME = 52,
+    ERROR_FILE_NOT_FOUND = 53,
+    ERROR_DEVICE_IO = 57,
+    ERROR_DISK_FULL = 61,
+    ERROR_PERMISSION_DENIED = 70,
+    ERROR_PATH_FILE_ACCESS = 75,
+    ERROR_PATH_NOT_FOUND = 76,
+    ERROR_OBJECT_NOT_SET = 91,
+    ERROR_CANNOT_CREATE = 429,
+    ERROR_DIALOG_CANCELLED = 32755,
+    ERROR_INDEX_OUT_OF_RANGE = -2147221003, // 0x800401F5, the object-error base plus 501
+    ERROR_RANGE_OUT_OF_RANGE = -2147221002, // 0x800401F6, the object-error base plus 502
+    ERROR_UNEXPECTED = -2147467259,         // 0x80004005, any exception that carries no number of its own
+};
+
+/// The one exception of the libraries. It carries what an error report prints: number, source (the class or
+/// component that raised it), description, and optionally a help file with a topic.
+class QUORINIFILE_EXPORT QuorError : public std::exception {
+public:
+    QuorError(std::int32_t number, std::wstring source, std::wstring description, std::wstring helpFile = {},
+              std::int32_t helpContext = 0);
+
+    [[nodiscard]] std::int32_t Number() const noexcept { return m_number; }
+    [[nodiscard]] const std::wstring& Source() const noexcept { return m_source; }
+    [[nodiscard]] const std::wstring& Description() const noexcept { return m_description; }
+    [[nodiscard]] const std::wstring& HelpFile() const noexcept { return m_helpFile; }
+    [[nodiscard]] std::int32_t HelpContext() const noexcept { return m_helpContext; }
+
+    /// The description as UTF-8, for hosts that catch std::exception.
+    [[nodiscard]] const char* what() const noexcept override { return m_what.c_str(); }
+
+private:
+    std::int32_t m_number;
+    std::wstring m_source;
+    std::wstring m_description;
+    std::wstring m_helpFile;
+    std::int32_t m_helpContext;
+    std::string m_what;
+};
+
+} // namespace QuorIniFile

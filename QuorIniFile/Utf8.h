@@ -1,0 +1,17 @@
+#pragma once
+
+#include "QuorIniFile/Export.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace QuorIniFile {
+
+/// `text` as UTF-8. What is no Unicode character (a lone surrogate, a code past 0x10FFFF) becomes U+FFFD.
+[[nodiscard]] QUORINIFILE_EXPORT std::string ToUtf8(std::wstring_view text);
+
+/// `bytes` as text, or nothing when they are not valid UTF-8.
+[[nodiscard]] QUORINIFILE_EXPORT std::optional<std::wstring> FromUtf8(std::string_view bytes);
+
+} // namespace QuorIniFile

@@ -1,0 +1,7 @@
+#include "QuorRegistryII/Registry.h"
+
+namespace QuorRegistryII {
+
+Registry::~Registry() = default;
+
+} // namespace QuorRegistryII

@@ -1,0 +1,72 @@
+# Proves the arrows of the design: a folder includes from itself and from folders below it, never from one
+# beside or above it, and no library names a toolkit header.
+# Run as: cmake -D ROOT=<repository> -P CheckArrows.cmake
+
+# From the ground up; the folders of one line stand beside each other.
+set(storeys
+    "QuorIniFile"
+    "QuorRegistryII"
+    "QuorConversions/platform|QuorConversions/resources"
+    "QuorConversions/controls"
+    "QuorConversions/core"
+    "QuorConversions/rtd|QuorConversions/thermistor|QuorConversions/polynomial|QuorConversions/thermocouple"
+    "QuorConversions/dialogs"
+    "QuorConversions"
+    "toolkits/scripted"
+    "apps/quorconv")
+set(toolkit_header "^(Q[A-Z][A-Za-z]*|Qt[A-Za-z]*/.*|gtk/.*|wx/.*|windows\\.h)$")
+
+set(folders "")
+set(level 0)
+foreach(storey IN LISTS storeys)
+    string(REPLACE "|" ";" beside "${storey}")
+    foreach(folder IN LISTS beside)
+        list(APPEND folders ${folder})
+        set(level_of_${folder} ${level})
+    endforeach()
+    math(EXPR level "${level} + 1")
+endforeach()
+
+# The innermost folder of the list that holds `path`, or nothing.
+function(folder_of path result)
+    set(found "")
+    foreach(folder IN LISTS folders)
+        string(LENGTH "${folder}" length)
+        string(LENGTH "${found}" best)
+        string(FIND "${path}" "${folder}/" at)
+        if(at EQUAL 0 AND length GREATER best)
+            set(found ${folder})
+        endif()
+    endforeach()
+    set(${result} "${found}" PARENT_SCOPE)
+endfunction()
+
+set(problems "")
+set(checked 0)
+foreach(top IN ITEMS QuorIniFile QuorRegistryII QuorConversions toolkits/scripted apps/quorconv)
+    file(GLOB_RECURSE sources RELATIVE ${ROOT} ${ROOT}/${top}/*.h ${ROOT}/${top}/*.cpp ${ROOT}/${top}/*.def)
+    foreach(source IN LISTS sources)
+        math(EXPR checked "${checked} + 1")
+        folder_of(${source} from)
+        file(STRINGS ${ROOT}/${source} includes REGEX "^[ \t]*#[ \t]*include")
+        foreach(line IN LISTS includes)
+            string(REGEX REPLACE "^[^<\"]*[<\"]([^>\"]*)[>\"].*$" "\\1" header "${line}")
+            if(header MATCHES "${toolkit_header}" AND NOT source MATCHES "^(toolkits|apps)/")
+                list(APPEND problems "${source}: includes the toolkit header ${header}")
+            endif()
+            folder_of(${header} to)
+            if(to AND NOT to STREQUAL from AND NOT level_of_${to} LESS level_of_${from})
+                list(APPEND problems "${source}: includes ${header}, which stands beside or above it")
+            endif()
+        endforeach()
+    endforeach()
+endforeach()
+if(problems)
+    list(JOIN problems "\n" problems)
+    message(NOTICE "${problems}")
+    message(FATAL_ERROR "The arrows of the design are broken.")
+endif()
+if(checked EQUAL 0)
+    message(FATAL_ERROR "No sources found below ${ROOT}")
+endif()
+message(STATUS "${checked} sources: no include runs upwards")

@@ -1,0 +1,3 @@
+// Never compiled: the check of the includes has to complain about both lines.
+#include "QuorConversions/dialogs/Above.h"
+#include <QString>
