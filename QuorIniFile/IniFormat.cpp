@@ -1,0 +1,205 @@
+#include "QuorIniFile/IniFormat.h"
+
+#include "QuorIniFile/Utf8.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace QuorIniFile {
+namespace {
+
+constexpr auto npos = std::string_view::npos;
+
+bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+
+bool StartsComment(char c) { return c == ';' || c == '#'; }
+
+std::string_view TrimLeft(std::string_view text) {
+    while (!text.empty() && IsBlank(text.front()))
+        text.remove_prefix(1);
+    return text;
+}
+
+std::string_view TrimRight(std::string_view text) {
+    while (!text.empty() && IsBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+IniLine ClassifyHeader(std::string_view header) {
+    std::size_t close = npos;
+    for (std::size_t at = header.find(']'); at != npos; at = header.find(']', at + 1)) {
+        close = at;
+        const std::string_view behind = TrimLeft(header.substr(at + 1));
+        if (behind.empty() || StartsComment(behind.front()))
+            break;
+    }
+    if (close == npos)
+        return {IniLineKind::BrokenSection, {}, {}};
+    return {IniLineKind::Section, header.substr(1, close - 1), {}};
+}
+
+char Fold(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
+
+bool EqualFolded(std::string_view a, std::string_view b) {
+    return a.size() == b.size() &&
+           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Fold(x) == Fold(y); });
+}
+
+std::wstring FromLatin1(std::string_view bytes) {
+    std::wstring text(bytes.size(), L'\0');
+    std::transform(bytes.begin(), bytes.end(), text.begin(),
+                   [](char c) { return static_cast<wchar_t>(static_cast<unsigned char>(c)); });
+    return text;
+}
+
+/// Line breaks end a name wherever it stands, and a NUL can make a new file look like UTF-16.
+bool HasForbiddenByte(std::string_view name) {
+    return name.find_first_of(std::string_view("\n\r\0", 3)) != npos;
+}
+
+} // namespace
+
+IniLine ClassifyLine(std::string_view line) {
+    const std::string_view rest = TrimLeft(line);
+    if (rest.empty())
+        return {};
+    if (StartsComment(rest.front()))
+        return {IniLineKind::Comment, {}, {}};
+    if (rest.front() == '[')
+        return ClassifyHeader(rest);
+    const std::size_t equals = rest.find('=');
+    if (equals == npos)
+        return {IniLineKind::Malformed, {}, {}};
+    return {IniLineKind::Key, TrimRight(rest.substr(0, equals)),
+            TrimRight(TrimLeft(rest.substr(equals + 1)))};
+}
+
+IniCommentedValue SplitComment(std::string_view value) {
+    if (value.empty() || value.front() == '"')
+        return {value, {}};
+    for (std::size_t at = value.find(';'); at != npos; at = value.find(';', at + 1)) {
+        if (at == 0 || IsBlank(value[at - 1]))
+            return {TrimRight(value.substr(0, at)), value.substr(at)};
+    }
+    return {value, {}};
+}
+
+std::string RewriteLine(std::string_view line, const IniNewValue& value) {
+    const std::string_view present = ClassifyLine(line).value;
+    const std::string_view old = value.isText ? present : SplitComment(present).plain;
+    const auto start = static_cast<std::size_t>(old.data() - line.data());
+    std::string result(line.substr(0, start));
+    result += value.bytes;
+    if (!value.comment.empty())
+        return result.append(1, ' ').append(value.comment);
+    const std::string_view tail = line.substr(start + old.size());
+    if (tail.starts_with(';'))
+        result += ' '; // there was no value to keep the comment away from the '='
+    return result.append(tail);
+}
+
+IniCut CutLine(std::string_view text, std::size_t at) {
+    const std::size_t end = text.find('\n', at);
+    if (end == npos)
+        return {text.substr(at), text.size()};
+    const bool carriageReturn = end > at && text[end - 1] == '\r';
+    return {text.substr(at, end - at - (carriageReturn ? 1 : 0)), end + 1};
+}
+
+std::size_t MarkLength(std::string_view text) { return text.starts_with("\xEF\xBB\xBF") ? 3 : 0; }
+
+bool IsUtf16(std::string_view text) {
+    return text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF") ||
+           (text.size() >= 2 && (text[0] == '\0') != (text[1] == '\0'));
+}
+
+bool IniWalker::Next() {
+    if (m_next >= m_text.size())
+        return false;
+    const IniCut cut = CutLine(m_text, m_next);
+    m_line = ClassifyLine(cut.line);
+    m_next = cut.next;
+    ++m_number;
+    return true;
+}
+
+IniEncoding EncodingOf(std::string_view text) {
+    // Line by line: no character of UTF-8 reaches over a line end, and a long file needs no second copy.
+    for (std::size_t at = 0; at < text.size();) {
+        const IniCut cut = CutLine(text, at);
+        if (!IsAscii(cut.line) && !FromUtf8(cut.line))
+            return IniEncoding::Latin1;
+        at = cut.next;
+    }
+    return IniEncoding::Utf8;
+}
+
+bool IsAscii(std::string_view bytes) {
+    constexpr std::uint64_t highBits = 0x8080808080808080U;
+    std::size_t at = 0;
+    for (; bytes.size() - at >= sizeof highBits; at += sizeof highBits) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, bytes.data() + at, sizeof word);
+        if ((word & highBits) != 0)
+            return false;
+    }
+    return std::all_of(bytes.begin() + static_cast<std::ptrdiff_t>(at), bytes.end(),
+                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+std::wstring DecodeBytes(std::string_view bytes) {
+    std::optional<std::wstring> text = FromUtf8(bytes);
+    return text ? *std::move(text) : FromLatin1(bytes);
+}
+
+std::optional<std::string> NameToFind(std::wstring_view name) {
+    std::string bytes = ToUtf8(name);
+    if (!IsAscii(bytes) && FromUtf8(bytes) != name)
+        return std::nullopt;
+    return bytes;
+}
+
+std::optional<std::string> NameToWrite(std::wstring_view name, IniEncoding encoding) {
+    if (encoding == IniEncoding::Latin1 && std::all_of(name.begin(), name.end(), [](wchar_t c) {
+            return static_cast<std::uint32_t>(c) <= 0xFF;
+        })) {
+        std::string bytes(name.size(), '\0');
+        std::transform(name.begin(), name.end(), bytes.begin(),
+                       [](wchar_t c) { return static_cast<char>(c); });
+        if (DecodeBytes(bytes) == name)
+            return bytes;
+    }
+    return NameToFind(name);
+}
+
+std::string_view CanonicalName(std::string_view name, std::string& buffer) {
+    if (IsAscii(name) || FromUtf8(name))
+        return name;
+    buffer = ToUtf8(FromLatin1(name));
+    return buffer;
+}
+
+bool SameName(std::string_view name, std::string_view wanted) {
+    if (EqualFolded(name, wanted))
+        return true;
+    // Latin-1 takes fewer bytes than UTF-8, so names of one length were compared for good.
+    if (name.size() >= wanted.size() || IsAscii(name))
+        return false;
+    std::string buffer;
+    return EqualFolded(CanonicalName(name, buffer), wanted);
+}
+
+bool IsSectionName(std::string_view name) {
+    const std::string header = '[' + std::string(name) + ']';
+    const IniLine line = ClassifyLine(header);
+    return line.kind == IniLineKind::Section && line.name == name && !HasForbiddenByte(name);
+}
+
+bool IsKeyName(std::string_view name) {
+    const std::string text = std::string(name) + '=';
+    const IniLine line = ClassifyLine(text);
+    return line.kind == IniLineKind::Key && line.name == name && !HasForbiddenByte(name);
+}
+
+} // namespace QuorIniFile

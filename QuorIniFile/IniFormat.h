@@ -1,0 +1,123 @@
+#pragma once
+
+#include "QuorIniFile/Export.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+// How an INI file is laid out: lines, section headers, keys, and the spelling of names. Pure functions on
+// bytes; they know no file and keep no state. How a value is spelled is the business of IniValue.h.
+namespace QuorIniFile {
+
+/// What a line is.
+enum class IniLineKind : std::uint8_t {
+    Blank,
+    Comment,       // ';' or '#' is its first character that is no blank
+    Section,       // "[name]", with nothing behind it that counts
+    BrokenSection, // '[' without ']': starts a section that has no name, so that nobody can address its keys
+    Key,           // "key=value"
+    Malformed,     // anything else; kept, never looked at
+};
+
+struct IniLine {
+    IniLineKind kind = IniLineKind::Blank;
+    std::string_view name;  // of a section, as it stands between the brackets; of a key, without edge blanks
+    std::string_view value; // of a key: the bytes behind the '=', without edge blanks, still quoted
+};
+
+/// Says what `line` (without its line end) is. The views point into `line`; an empty value points to where
+/// a value would stand. A section's name ends at the first ']' behind which there is nothing but blanks or a
+/// comment, and at the last ']' when there is no such one.
+[[nodiscard]] QUORINIFILE_EXPORT IniLine ClassifyLine(std::string_view line);
+
+/// A value parted from the comment behind it: "100.02 ; ohms at 0 C".
+struct IniCommentedValue {
+    std::string_view plain;   // the value without blanks at its end
+    std::string_view comment; // from its ';' on; empty when there is none
+};
+
+/// Parts the trailing comment from the value of a number or flag, which can hold no ';' of its own. For text
+/// the whole value counts; a value that begins with a quote is never parted.
+[[nodiscard]] QUORINIFILE_EXPORT IniCommentedValue SplitComment(std::string_view value);
+
+/// What is to stand behind a key.
+struct IniNewValue {
+    std::string bytes;
+    bool isText = false; // text takes the place of all that stood there, anything else leaves the comment
+    std::string comment; // "; remark", takes the place of the comment that stood there; empty: leave it
+};
+
+/// The key line `line` with another value. Everything else of it stays as it was.
+[[nodiscard]] QUORINIFILE_EXPORT std::string RewriteLine(std::string_view line, const IniNewValue& value);
+
+/// The line that starts at a place of a text, and where the next one starts.
+struct IniCut {
+    std::string_view line; // without LF or CRLF; a CR elsewhere is a character like any other
+    std::size_t next = 0;
+};
+[[nodiscard]] QUORINIFILE_EXPORT IniCut CutLine(std::string_view text, std::size_t at);
+
+/// The length of the byte-order mark of UTF-8 at the start of `text`: 3 or 0.
+[[nodiscard]] QUORINIFILE_EXPORT std::size_t MarkLength(std::string_view text);
+
+/// Whether `text` is UTF-16: by its byte-order mark, or because one of its first two bytes is NUL and the
+/// other is not. Such a text cannot be taken for lines of bytes.
+[[nodiscard]] QUORINIFILE_EXPORT bool IsUtf16(std::string_view text);
+
+/// Walks through a text line by line:
+///     IniWalker walker(text);
+///     while (walker.Next())
+///         if (walker.Line().kind == IniLineKind::Malformed)
+///             report(walker.Number());
+/// The text must outlive the walker.
+class QUORINIFILE_EXPORT IniWalker {
+public:
+    explicit IniWalker(std::string_view text) : m_text(text), m_next(MarkLength(text)) {}
+
+    /// Moves to the next line, at first to the first one. False behind the last.
+    [[nodiscard]] bool Next();
+    /// The number of the line, from 1.
+    [[nodiscard]] std::size_t Number() const { return m_number; }
+    [[nodiscard]] const IniLine& Line() const { return m_line; }
+
+private:
+    std::string_view m_text;
+    std::size_t m_next;
+    std::size_t m_number = 0;
+    IniLine m_line;
+};
+
+/// How bytes outside ASCII stand in a file: as UTF-8, or, in a file that as a whole is no valid UTF-8, as
+/// Latin-1. Single values and names are always read as UTF-8 where they are valid, else as Latin-1.
+enum class IniEncoding : std::uint8_t { Utf8, Latin1 };
+[[nodiscard]] QUORINIFILE_EXPORT IniEncoding EncodingOf(std::string_view text);
+
+[[nodiscard]] QUORINIFILE_EXPORT bool IsAscii(std::string_view bytes);
+
+/// The text that `bytes` spell: UTF-8 where they are valid, else Latin-1.
+[[nodiscard]] QUORINIFILE_EXPORT std::wstring DecodeBytes(std::string_view bytes);
+
+/// `name` as look-ups take it (UTF-8), or nothing when no bytes of a file can spell it.
+[[nodiscard]] QUORINIFILE_EXPORT std::optional<std::string> NameToFind(std::wstring_view name);
+
+/// The bytes that spell `name` in a file of that encoding, or nothing when none reads back as `name`.
+/// A character that Latin-1 lacks makes the name UTF-8, because a name knows no escapes.
+[[nodiscard]] QUORINIFILE_EXPORT std::optional<std::string> NameToWrite(std::wstring_view name,
+                                                                        IniEncoding encoding);
+
+/// `name` as it stands in a file, as look-ups take it: UTF-8. `buffer` holds the answer when it is not
+/// `name`.
+[[nodiscard]] QUORINIFILE_EXPORT std::string_view CanonicalName(std::string_view name, std::string& buffer);
+
+/// Whether `name` as it stands in a file is the one that NameToFind gave. The case of ASCII letters does not
+/// matter.
+[[nodiscard]] QUORINIFILE_EXPORT bool SameName(std::string_view name, std::string_view wanted);
+
+/// Whether a new header or key line with that name would read back as that very name.
+[[nodiscard]] QUORINIFILE_EXPORT bool IsSectionName(std::string_view name);
+[[nodiscard]] QUORINIFILE_EXPORT bool IsKeyName(std::string_view name);
+
+} // namespace QuorIniFile

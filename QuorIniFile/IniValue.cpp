@@ -1,0 +1,287 @@
+#include "QuorIniFile/IniValue.h"
+
+#include "QuorIniFile/Utf8.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <limits>
+#include <system_error>
+#include <utility>
+
+namespace QuorIniFile {
+namespace {
+
+constexpr bool wideIsUtf16 = sizeof(wchar_t) == 2;
+constexpr std::uint32_t lastCharacter = 0x10FFFF;
+
+// Writing --------------------------------------------------------------------------------------------------
+
+template <class Number>
+std::string ToText(Number value) {
+    std::array<char, 32> buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+    return {buffer.data(), result.ptr};
+}
+
+std::uint32_t CodeOf(wchar_t c) {
+    if constexpr (wideIsUtf16)
+        return static_cast<std::uint16_t>(c);
+    else
+        return static_cast<std::uint32_t>(c);
+}
+
+/// How many units of `text` from `at` on form one character of UTF-8, 0 when the unit there is none.
+std::size_t CharacterLength(std::wstring_view text, std::size_t at) {
+    const std::uint32_t code = CodeOf(text[at]);
+    if (code < 0xD800 || (code > 0xDFFF && code <= lastCharacter))
+        return 1;
+    const bool pair = wideIsUtf16 && code <= 0xDBFF && at + 1 < text.size() &&
+                      CodeOf(text[at + 1]) >= 0xDC00 && CodeOf(text[at + 1]) <= 0xDFFF;
+    return pair ? 2 : 0;
+}
+
+void AppendEscape(std::string& out, std::uint32_t code) {
+    constexpr std::pair<char, char> named[] = {{'\\', '\\'}, {'"', '"'}, {'\n', 'n'}, {'\r', 'r'}};
+    for (const auto& [character, letter] : named) {
+        if (code == static_cast<unsigned char>(character)) {
+            out.append(1, '\\').append(1, letter);
+            return;
+        }
+    }
+    std::array<char, 8> digits{};
+    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), code, 16);
+    std::transform(digits.data(), result.ptr, digits.data(),
+                   [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
+    out.append("\\u{").append(digits.data(), result.ptr).append(1, '}');
+}
+
+bool IsControl(std::uint32_t code, IniEncoding encoding) {
+    // In a file that is not UTF-8 the bytes 80 to 9F are most likely letters of some code page.
+    return (code < 0x20 && code != '\t') || code == 0x7F ||
+           (encoding == IniEncoding::Utf8 && code >= 0x80 && code <= 0x9F);
+}
+
+bool IsEdge(wchar_t c) { return c == L' ' || c == L'\t'; }
+
+/// How text is put between the bytes of a file: what cannot stand there itself becomes an escape.
+class TextWriter {
+public:
+    /// Characters above `limit` are escaped, whether the encoding has them or not.
+    TextWriter(std::wstring_view text, IniEncoding encoding, std::uint32_t limit)
+        : m_text(text), m_encoding(encoding), m_limit(limit) {}
+
+    [[nodiscard]] std::string Write() const {
+        const bool quoted = NeedsQuotes();
+        std::string out(quoted ? 1 : 0, '"');
+        for (std::size_t at = 0; at < m_text.size();) {
+            const std::uint32_t code = CodeOf(m_text[at]);
+            const std::size_t length = CharacterLength(m_text, at);
+            if (NeedsEscape(at) || (quoted && (code == '"' || code == '\\')))
+                AppendEscape(out, code);
+            else if (m_encoding == IniEncoding::Latin1 || code < 0x80)
+                out += static_cast<char>(code);
+            else
+                out += ToUtf8(m_text.substr(at, length));
+            at += std::max<std::size_t>(length, 1);
+        }
+        return out.append(quoted ? 1 : 0, '"');
+    }
+
+private:
+    [[nodiscard]] bool NeedsEscape(std::size_t at) const {
+        const std::uint32_t code = CodeOf(m_text[at]);
+        return code > m_limit || CharacterLength(m_text, at) == 0 || IsControl(code, m_encoding);
+    }
+
+    [[nodiscard]] bool NeedsQuotes() const {
+        if (m_text.empty())
+            return false;
+        if (IsEdge(m_text.front()) || IsEdge(m_text.back()) || m_text.front() == L';' ||
+            m_text.front() == L'#')
+            return true;
+        for (std::size_t at = 0; at < m_text.size();
+             at += std::max<std::size_t>(CharacterLength(m_text, at), 1)) {
+            if (m_text[at] == L'"' || NeedsEscape(at))
+                return true;
+        }
+        return false;
+    }
+
+    std::wstring_view m_text;
+    IniEncoding m_encoding;
+    std::uint32_t m_limit;
+};
+
+// Reading --------------------------------------------------------------------------------------------------
+
+bool EqualIgnoringCase(std::string_view a, std::string_view lower) {
+    return a.size() == lower.size() && std::equal(a.begin(), a.end(), lower.begin(), [](char x, char y) {
+               return (x >= 'A' && x <= 'Z' ? static_cast<char>(x + ('a' - 'A')) : x) == y;
+           });
+}
+
+/// The number that all of `value` spells. from_chars knows no '+', and takes names that are none of ours.
+template <class Number>
+std::optional<Number> ToNumber(std::string_view value) {
+    if (value.starts_with('+') && !value.starts_with("+-"))
+        value.remove_prefix(1);
+    const std::size_t first = value.starts_with('-') ? 1 : 0;
+    if (value.size() == first || (value[first] != '.' && (value[first] < '0' || value[first] > '9')))
+        return std::nullopt;
+    Number number{};
+    const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
+    if (error != std::errc() || end != value.data() + value.size())
+        return std::nullopt;
+    return number;
+}
+
+bool IsWide(std::uint32_t code) { return !wideIsUtf16 || code <= lastCharacter; }
+
+void AppendCode(std::wstring& text, std::uint32_t code) {
+    if (wideIsUtf16 && code > 0xFFFF) {
+        code -= 0x10000;
+        text += static_cast<wchar_t>(0xD800 + (code >> 10));
+        code = 0xDC00 + (code & 0x3FF);
+    }
+    text += static_cast<wchar_t>(code);
+}
+
+/// The code of the escape "u{HEX}" at the start of `escape`, and how long it is; nothing when it is none.
+std::optional<std::pair<std::uint32_t, std::size_t>> ReadHexEscape(std::wstring_view escape) {
+    constexpr std::wstring_view digits = L"0123456789ABCDEFabcdef";
+    constexpr std::size_t mostDigits = 8;
+    const std::size_t close = escape.find_first_not_of(digits, 2);
+    if (!escape.starts_with(L"u{") || close == std::wstring_view::npos || escape[close] != L'}' ||
+        close == 2 || close > 2 + mostDigits)
+        return std::nullopt;
+    std::uint32_t code = 0;
+    for (const wchar_t c : escape.substr(2, close - 2)) {
+        const std::size_t digit = digits.find(c);
+        code = code * 16 + static_cast<std::uint32_t>(digit < 16 ? digit : digit - 6);
+    }
+    if (!IsWide(code))
+        return std::nullopt;
+    return std::pair{code, close + 1};
+}
+
+enum class Inside : std::uint8_t { WellFormed, ForeignBackslash, BareQuote };
+
+/// Unescapes what stands between quotes; the text counts only where all of it is well-formed.
+std::pair<Inside, std::wstring> Unescape(std::wstring_view inside) {
+    constexpr std::pair<wchar_t, wchar_t> named[] = {
+        {L'\\', L'\\'}, {L'"', L'"'}, {L'n', L'\n'}, {L'r', L'\r'}};
+    Inside result = Inside::WellFormed;
+    std::wstring text;
+    for (std::size_t at = 0; at < inside.size();) {
+        const wchar_t c = inside[at++];
+        if (c == L'"')
+            return {Inside::BareQuote, {}};
+        if (c != L'\\') {
+            text += c;
+            continue;
+        }
+        const std::wstring_view escape = inside.substr(at);
+        const auto* const known = std::find_if(std::begin(named), std::end(named), [&](const auto& entry) {
+            return escape.starts_with(entry.first);
+        });
+        if (known != std::end(named)) {
+            text += known->second;
+            ++at;
+        } else if (const auto hex = ReadHexEscape(escape)) {
+            AppendCode(text, hex->first);
+            at += hex->second;
+        } else {
+            result = Inside::ForeignBackslash;
+        }
+    }
+    return {result, std::move(text)};
+}
+
+} // namespace
+
+std::string FormatDouble(double value) {
+    if (std::isnan(value))
+        return "NaN";
+    if (std::isinf(value))
+        return value > 0 ? "Infinity" : "-Infinity";
+    return ToText(value);
+}
+
+std::optional<double> ParseDouble(std::string_view value) {
+    using Limits = std::numeric_limits<double>;
+    constexpr std::pair<std::string_view, double> named[] = {
+        {"nan", Limits::quiet_NaN()}, {"infinity", Limits::infinity()}, {"-infinity", -Limits::infinity()}};
+    for (const auto& [name, number] : named) {
+        if (EqualIgnoringCase(value, name))
+            return number;
+    }
+    return ToNumber<double>(value);
+}
+
+std::string FormatInteger(std::int16_t value) { return ToText(value); }
+
+std::optional<std::int16_t> ParseInteger(std::string_view value) { return ToNumber<std::int16_t>(value); }
+
+std::string FormatBoolean(bool value) { return value ? "True" : "False"; }
+
+std::optional<bool> ParseBoolean(std::string_view value) {
+    constexpr std::pair<std::string_view, bool> spellings[] = {
+        {"true", true}, {"-1", true}, {"1", true}, {"false", false}, {"0", false}};
+    for (const auto& [spelling, flag] : spellings) {
+        if (EqualIgnoringCase(value, spelling))
+            return flag;
+    }
+    return std::nullopt;
+}
+
+std::string EncodeText(std::wstring_view text, IniEncoding encoding) {
+    if (encoding == IniEncoding::Utf8)
+        return TextWriter(text, encoding, std::numeric_limits<std::uint32_t>::max()).Write();
+    std::string bytes = TextWriter(text, encoding, 0xFF).Write();
+    // Letters of Latin-1 that happen to form UTF-8 would be read as UTF-8.
+    if (!IsAscii(bytes) && FromUtf8(bytes))
+        bytes = TextWriter(text, encoding, 0x7F).Write();
+    return bytes;
+}
+
+std::wstring DecodeText(std::string_view value) {
+    std::wstring text = DecodeBytes(value);
+    if (text.size() < 2 || text.front() != L'"' || text.back() != L'"')
+        return text;
+    const std::wstring_view inside = std::wstring_view(text).substr(1, text.size() - 2);
+    auto [result, unescaped] = Unescape(inside);
+    switch (result) {
+    case Inside::WellFormed:
+        return std::move(unescaped);
+    case Inside::ForeignBackslash:
+        return std::wstring(inside);
+    case Inside::BareQuote:
+        break;
+    }
+    return text;
+}
+
+std::string FormatComment(std::wstring_view comment, IniEncoding encoding) {
+    std::wstring text(comment);
+    for (wchar_t& c : text) {
+        if (IsControl(CodeOf(c), IniEncoding::Utf8) || c == L'\t')
+            c = L' ';
+        else if (encoding == IniEncoding::Latin1 && CodeOf(c) > 0xFF)
+            c = L'?';
+    }
+    const std::size_t first = text.find_first_not_of(L' ');
+    if (first == std::wstring::npos)
+        return {};
+    text = text.substr(first, text.find_last_not_of(L' ') - first + 1);
+    if (encoding == IniEncoding::Utf8)
+        return "; " + ToUtf8(text);
+    std::string bytes = "; ";
+    for (const wchar_t c : text)
+        bytes += static_cast<char>(c);
+    return bytes;
+}
+
+} // namespace QuorIniFile

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "QuorIniFile/Export.h"
+#include "QuorIniFile/IniFormat.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+// How values are spelled in an INI file, both ways. Pure functions; the user's locale plays no part in them.
+// What is written reads back as the very value. Where a value cannot be read as that kind, the answer is
+// nothing.
+namespace QuorIniFile {
+
+/// The shortest decimal text that reads back to the same bits, with a point; "NaN", "Infinity", "-Infinity".
+/// (A NaN has one spelling: its sign and payload are not kept.)
+[[nodiscard]] QUORINIFILE_EXPORT std::string FormatDouble(double value);
+/// Decimal, from the first byte to the last, a leading '+' allowed; the three names in any case. Nothing for
+/// a number that a double cannot hold, be it too large or too close to zero.
+[[nodiscard]] QUORINIFILE_EXPORT std::optional<double> ParseDouble(std::string_view value);
+
+[[nodiscard]] QUORINIFILE_EXPORT std::string FormatInteger(std::int16_t value);
+/// Decimal, from the first byte to the last, a leading '+' allowed. Nothing outside 16 bits.
+[[nodiscard]] QUORINIFILE_EXPORT std::optional<std::int16_t> ParseInteger(std::string_view value);
+
+/// "True" or "False".
+[[nodiscard]] QUORINIFILE_EXPORT std::string FormatBoolean(bool value);
+/// True, -1 and 1, False and 0, in any case.
+[[nodiscard]] QUORINIFILE_EXPORT std::optional<bool> ParseBoolean(std::string_view value);
+
+/// Text as it stands, where it reads back so. Otherwise (blanks at an edge, a quote anywhere, ';' or '#' in
+/// front, line breaks and other control characters, characters that the encoding lacks) in double quotes with
+/// the escapes \\ \" \n \r and \u{HEX}. Every std::wstring comes back exactly, even one that is no valid
+/// text.
+[[nodiscard]] QUORINIFILE_EXPORT std::string EncodeText(std::wstring_view text, IniEncoding encoding);
+
+/// The text that a value spells. In double quotes:
+///   - with the escapes above and no others: unescaped;
+///   - with a backslash that starts none of them: other programs write "C:\Data" and mean C:\Data, so the
+///   outer
+///     quotes go and the rest is taken as it stands;
+///   - with a quote inside that no backslash escapes ("a" or "b"): taken as it stands, outer quotes included.
+/// Without quotes every byte means itself, the backslash too.
+[[nodiscard]] QUORINIFILE_EXPORT std::wstring DecodeText(std::string_view value);
+
+/// A remark as it stands behind a value: "; remark", with line breaks as blanks. Empty for an empty remark.
+[[nodiscard]] QUORINIFILE_EXPORT std::string FormatComment(std::wstring_view comment, IniEncoding encoding);
+
+} // namespace QuorIniFile
