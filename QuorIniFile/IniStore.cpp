@@ -1,0 +1,254 @@
+#include "QuorIniFile/IniStore.h"
+
+#include "QuorIniFile/IniDisk.h"
+#include "QuorIniFile/IniDocument.h"
+#include "QuorIniFile/IniError.h"
+#include "QuorIniFile/IniFormat.h"
+#include "QuorIniFile/IniValue.h"
+#include "QuorIniFile/Utf8.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstddef>
+#include <optional>
+#include <utility>
+
+namespace QuorIniFile {
+namespace {
+
+bool SameDouble(double a, double b) {
+    return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b) ||
+           (std::isnan(a) && std::isnan(b));
+}
+
+/// Takes over what a value could be read as.
+template <class Value>
+bool Assign(Value& value, std::optional<Value> read) {
+    if (!read)
+        return false;
+    value = *std::move(read);
+    return true;
+}
+
+/// No file has an empty name, or one with a NUL, or one that is no valid text.
+bool IsFileName(std::wstring_view name) {
+    return !name.empty() && name.find(L'\0') == std::wstring_view::npos && NameToFind(name);
+}
+
+} // namespace
+
+/// One file and the section that is selected in it.
+class IniStore::Session {
+public:
+    void SetFileName(std::wstring_view fileName) {
+        if (!IsFileName(fileName))
+            throw FileError(ERROR_BAD_FILE_NAME, fileName);
+        if (fileName == m_fileName)
+            return;
+        std::wstring name(fileName);
+        Save();
+        m_document.reset();
+        m_fileName = std::move(name);
+    }
+    [[nodiscard]] const std::wstring& FileName() const { return m_fileName; }
+
+    void SetSection(std::wstring_view section) {
+        if (section == m_section)
+            return;
+        m_section = section;
+        m_sectionName = NameToFind(section);
+        m_number.reset();
+    }
+    [[nodiscard]] const std::wstring& Section() const { return m_section; }
+
+    /// The key line of the selected section, or nothing. Raises 53 when there is no file.
+    std::optional<IniLine> Read(std::wstring_view key) {
+        Load();
+        if (!m_stamp.exists && !m_document->Changed())
+            throw FileError(ERROR_FILE_NOT_FOUND, m_fileName);
+        return Find(NameToFind(key));
+    }
+
+    /// Puts a number or flag behind `key`, unless `same(plain)` says that it stands there already.
+    template <class Same>
+    void Write(std::wstring_view key, std::string bytes, std::wstring_view comment, const Same& same) {
+        Load();
+        IniNewValue value{std::move(bytes), false, FormatComment(comment, EncodingFor(comment))};
+        const std::optional<std::string> name = NameToFind(key);
+        const std::optional<IniLine> line = Find(name);
+        const std::string_view present = line ? SplitComment(line->value).plain : std::string_view();
+        if (line && same(present))
+            value.bytes = present;
+        Put(key, name, line.has_value(), value);
+    }
+
+    void WriteText(std::wstring_view key, std::wstring_view text) {
+        Load();
+        const std::optional<std::string> name = NameToFind(key);
+        const std::optional<IniLine> line = Find(name);
+        const bool same = line && DecodeText(line->value) == text;
+        const IniNewValue value{
+            same ? std::string(line->value) : EncodeText(text, EncodingFor(text)), true, {}};
+        Put(key, name, line.has_value(), value);
+    }
+
+    void Hold() { ++m_holds; }
+    void Release() {
+        if (m_holds > 0 && --m_holds == 0)
+            Save();
+    }
+
+    void Save() {
+        if (!m_document || !m_document->Changed())
+            return;
+        if (StampOf(m_fileName) != m_stamp) {
+            auto [document, stamp] = LoadFile();
+            m_document->ApplyChangesTo(document);
+            Adopt(std::move(document), stamp);
+            if (!m_document->Changed())
+                return;
+        }
+        std::string text = m_document->Text();
+        const IniStamp stamp = ReplaceBytes(m_fileName, text);
+        Adopt(IniDocument(std::move(text)), stamp);
+    }
+
+private:
+    void Load() {
+        if (!IsFileName(m_fileName))
+            throw FileError(ERROR_BAD_FILE_NAME, m_fileName);
+        // A file that was not there may have come since, as long as we have nothing to say about it.
+        if (m_document && (m_stamp.exists || m_document->Changed()))
+            return;
+        auto [document, stamp] = LoadFile();
+        Adopt(std::move(document), stamp);
+    }
+
+    /// The file as it is now; an empty document when there is none.
+    [[nodiscard]] std::pair<IniDocument, IniStamp> LoadFile() const {
+        std::optional<IniFileBytes> file = ReadBytes(m_fileName);
+        if (!file)
+            return {IniDocument(), IniStamp()};
+        if (IsUtf16(file->bytes))
+            throw FileError(ERROR_PATH_FILE_ACCESS, m_fileName, L"The file is UTF-16 text");
+        return {IniDocument(std::move(file->bytes)), file->stamp};
+    }
+
+    void Adopt(IniDocument document, const IniStamp& stamp) {
+        m_document = std::move(document);
+        m_stamp = stamp;
+        m_number.reset();
+    }
+
+    /// The number of the selected section. It is looked up once and remembered.
+    std::optional<IniDocument::Section> Number() {
+        if (!m_number && m_sectionName)
+            m_number = m_document->FindSection(*m_sectionName);
+        return m_number;
+    }
+
+    std::optional<IniLine> Find(const std::optional<std::string>& key) {
+        const auto section = Number();
+        return section && key ? m_document->FindKey(*section, *key) : std::nullopt;
+    }
+
+    void Put(std::wstring_view key, const std::optional<std::string>& name, bool found,
+             const IniNewValue& value) {
+        std::string spelling;
+        if (!found) {
+            // Both names are checked before anything is changed.
+            spelling = SpellNew(L"key", key, IsKeyName);
+            if (!m_number)
+                m_number = m_document->AddSection(SpellNew(L"section", m_section, IsSectionName));
+        }
+        m_document->Write(*m_number, *name, spelling, value);
+        if (m_holds == 0)
+            Save();
+    }
+
+    /// How `text` is to be written. ASCII is the same in every file, whose bytes need no look then.
+    [[nodiscard]] IniEncoding EncodingFor(std::wstring_view text) const {
+        const bool ascii = std::all_of(text.begin(), text.end(),
+                                       [](wchar_t c) { return static_cast<std::uint32_t>(c) < 0x80; });
+        return ascii ? IniEncoding::Utf8 : m_document->Encoding();
+    }
+
+    [[nodiscard]] std::string SpellNew(std::wstring_view what, std::wstring_view name,
+                                       bool (*readsBack)(std::string_view)) const {
+        std::optional<std::string> spelling = NameToWrite(name, EncodingFor(name));
+        if (!spelling || !readsBack(*spelling))
+            throw FileError(ERROR_PATH_FILE_ACCESS, m_fileName,
+                            L"No " + std::wstring(what) + L" can have the name \"" + std::wstring(name) +
+                                L'"');
+        return *std::move(spelling);
+    }
+
+    std::wstring m_fileName;
+    std::wstring m_section;
+    std::optional<std::string> m_sectionName = ""; // as look-ups take it; nothing when no file can hold it
+    std::optional<IniDocument> m_document;         // nothing until the file is loaded
+    IniStamp m_stamp;                              // of the file that the document was read from
+    std::optional<IniDocument::Section> m_number;  // of the selected section, once it was found
+    std::size_t m_holds = 0;
+};
+
+IniStore::IniStore() : m_session(std::make_unique<Session>()) {}
+
+IniStore::~IniStore() {
+    try {
+        m_session->Save();
+    } catch (...) { // NOLINT(bugprone-empty-catch): a destructor has nobody to tell
+    }
+}
+
+void IniStore::SetFileName(std::wstring_view fileName) { m_session->SetFileName(fileName); }
+std::wstring_view IniStore::FileName() const { return m_session->FileName(); }
+void IniStore::SetSection(std::wstring_view section) { m_session->SetSection(section); }
+std::wstring_view IniStore::Section() const { return m_session->Section(); }
+
+bool IniStore::ReadBoolean(std::wstring_view key, bool& value) {
+    const auto line = m_session->Read(key);
+    return line && Assign(value, ParseBoolean(SplitComment(line->value).plain));
+}
+
+bool IniStore::ReadDouble(std::wstring_view key, double& value) {
+    const auto line = m_session->Read(key);
+    return line && Assign(value, ParseDouble(SplitComment(line->value).plain));
+}
+
+bool IniStore::ReadInteger(std::wstring_view key, std::int16_t& value) {
+    const auto line = m_session->Read(key);
+    return line && Assign(value, ParseInteger(SplitComment(line->value).plain));
+}
+
+bool IniStore::ReadString(std::wstring_view key, std::wstring& value) {
+    const auto line = m_session->Read(key);
+    return line && Assign(value, std::optional(DecodeText(line->value)));
+}
+
+void IniStore::WriteBoolean(std::wstring_view key, bool value) {
+    m_session->Write(key, FormatBoolean(value), {},
+                     [value](std::string_view present) { return ParseBoolean(present) == value; });
+}
+
+void IniStore::WriteDouble(std::wstring_view key, double value, std::wstring_view comment) {
+    m_session->Write(key, FormatDouble(value), comment, [value](std::string_view present) {
+        const std::optional<double> old = ParseDouble(present);
+        return old && SameDouble(*old, value);
+    });
+}
+
+void IniStore::WriteInteger(std::wstring_view key, std::int16_t value, std::wstring_view comment) {
+    m_session->Write(key, FormatInteger(value), comment,
+                     [value](std::string_view present) { return ParseInteger(present) == value; });
+}
+
+void IniStore::WriteString(std::wstring_view key, std::wstring_view value) {
+    m_session->WriteText(key, value);
+}
+
+void IniStore::Hold() { m_session->Hold(); }
+void IniStore::Release() { m_session->Release(); }
+
+} // namespace QuorIniFile

@@ -1,0 +1,213 @@
+// Files that no friend has written: a clear result, no crash, and the file stays as it is.
+
+#include "QuorIniFile/IniStore.h"
+
+#include "QuorIniFile/QuorError.h"
+#include "tests/support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <random>
+#include <string>
+#include <string_view>
+
+using namespace QuorIniFile;
+using namespace std::string_literals;
+
+namespace {
+
+/// Generous even for a sanitizer on a busy machine; anything quadratic takes hours.
+constexpr auto patience = std::chrono::seconds(60);
+
+std::string Many(int count, std::string_view part) {
+    std::string text;
+    for (int i = 0; i < count; ++i)
+        text += part;
+    return text;
+}
+
+class IniStoreHostile : public testing::Test {
+protected:
+    void Open(const std::string& bytes) {
+        folder.Write("a.ini", bytes);
+        store.SetFileName(folder.Name("a.ini"));
+        store.SetSection(L"A");
+    }
+    /// The text under a key, or "-" when there is none.
+    std::wstring Text(const wchar_t* section, const std::wstring& key) {
+        store.SetSection(section);
+        std::wstring text = L"-";
+        const bool found = store.ReadString(key, text);
+        EXPECT_NE(found, text == L"-");
+        return text;
+    }
+    [[nodiscard]] std::string File() const { return folder.Read("a.ini"); }
+
+    TempFolder folder;
+    IniStore store;
+};
+
+} // namespace
+
+TEST_F(IniStoreHostile, FilesWithoutASectionHaveNoKeys) {
+    for (const std::string& text : {""s, "\n"s, "\xEF\xBB\xBF"s, "\xEF\xBB"s, "["s, "]"s, "="s, "[\n=\n]"s,
+                                    "\0"s, "\0\0\0\0"s, "\r"s, "x=1"s, "[A"s, "[A\nx=1"s, "]A[\nx=1"s}) {
+        const TempFolder own;
+        own.Write("a.ini", text);
+        IniStore fresh;
+        fresh.SetFileName(own.Name("a.ini"));
+        fresh.SetSection(L"A");
+        std::wstring value = L"kept";
+        EXPECT_FALSE(fresh.ReadString(L"x", value)) << testing::PrintToString(text);
+        EXPECT_EQ(value, L"kept");
+        EXPECT_EQ(own.Read("a.ini"), text);
+    }
+}
+
+TEST_F(IniStoreHostile, Utf16IsRefusedForReadingAndWritingAndStays) {
+    for (const std::string& text : {"\xFF\xFE[\0A\0]\0\n\0"s, "\xFE\xFF\0[\0A\0]\0\n"s, "[\0A\0]\0\n\0"s,
+                                    "\0[\0A\0]\0\n"s, "\xFF\xFE"s}) {
+        const TempFolder own;
+        own.Write("a.ini", text);
+        IniStore fresh;
+        fresh.SetFileName(own.Name("a.ini"));
+        for (const bool writing : {false, true}) {
+            try {
+                bool flag = false;
+                if (writing)
+                    fresh.WriteBoolean(L"x", true);
+                else
+                    static_cast<void>(fresh.ReadBoolean(L"x", flag));
+                ADD_FAILURE() << "UTF-16 was taken for lines: " << testing::PrintToString(text);
+            } catch (const QuorError& error) {
+                EXPECT_EQ(error.Number(), 75);
+                EXPECT_EQ(error.Description(),
+                          L"Path/File access error: " + own.Name("a.ini") + L": The file is UTF-16 text");
+            }
+        }
+        EXPECT_EQ(own.Read("a.ini"), text);
+    }
+}
+
+TEST_F(IniStoreHostile, NulBytesAreOrdinaryBytes) {
+    Open("[A]\nx=1\0 2\ny\0=3\nz=4\n"s);
+    EXPECT_EQ(Text(L"A", L"x"), L"1\0 2"s);
+    EXPECT_EQ(Text(L"A", L"y\0"s), L"3");
+    store.WriteInteger(L"z", 5, L"");
+    EXPECT_EQ(File(), "[A]\nx=1\0 2\ny\0=3\nz=5\n"s);
+}
+
+TEST_F(IniStoreHostile, KeysWithoutAnEqualsSignAreNoKeys) {
+    Open("[A]\nx\nx 1\nx:1\nx=2\n");
+    EXPECT_EQ(Text(L"A", L"x"), L"2");
+    EXPECT_EQ(Text(L"A", L"x 1"), L"-");
+}
+
+TEST_F(IniStoreHostile, AHeaderWithoutItsBracketHidesItsKeys) {
+    Open("[A]\nx=1\n[B\nx=2\ny=3\n[C]\nz=4\n");
+    EXPECT_EQ(Text(L"A", L"x"), L"1");
+    EXPECT_EQ(Text(L"A", L"y"), L"-");
+    EXPECT_EQ(Text(L"B", L"x"), L"-");
+    EXPECT_EQ(Text(L"C", L"z"), L"4");
+    store.SetSection(L"A");
+    store.WriteInteger(L"y", 5, L"");
+    EXPECT_EQ(File(), "[A]\nx=1\ny=5\n[B\nx=2\ny=3\n[C]\nz=4\n");
+}
+
+TEST_F(IniStoreHostile, ALineOfTenMegabytesIsALine) {
+    const std::string line = Many(10'000'000, "x");
+    for (const std::string& text :
+         {line, "[A]\n" + line + "\ny=1\n", "[A]\nlong=" + line + "\ny=1\n", "[A]\n" + line + "=1\ny=1\n",
+          "[A] ;" + line + "\ny=1\n", "[" + line + "]\n[A]\ny=1\n",
+          "[A]\n" + Many(10'000'000, "[") + "\ny=1"}) {
+        Open(text);
+        static_cast<void>(Text(L"A", L"y"));
+        EXPECT_TRUE(File() == text);
+        store.SetFileName(folder.Name("other.ini"));
+    }
+    Open("[A]\nlong=" + line + "\ny=1\n");
+    EXPECT_EQ(Text(L"A", L"long").size(), line.size());
+    EXPECT_EQ(Text(L"A", L"y"), L"1");
+}
+
+TEST_F(IniStoreHostile, LongBlanksBracketsAndNamesCostNoMoreThanTheirLength) {
+    const auto start = std::chrono::steady_clock::now();
+    const std::string blanks = Many(1'000'000, " ");
+    const std::string text = blanks + "[A]" + blanks + ";" + blanks + "\n" + blanks + "x" + blanks + "=1\n";
+    Open(text + Many(100'000, "x=2\n") + Many(100'000, "[a]\n") + "[" + Many(500'000, "] ") + "x");
+    EXPECT_EQ(Text(L"A", L"x"), L"1");
+    EXPECT_LT(std::chrono::steady_clock::now() - start, patience);
+}
+
+TEST_F(IniStoreHostile, AMillionSectionsOfOneNameAreLoadedInOnePass) {
+    const auto start = std::chrono::steady_clock::now();
+    std::string text;
+    for (int i = 0; i < 1'000'000; ++i)
+        text += "[A]\nx=" + std::to_string(i) + "\n";
+    Open(text);
+    EXPECT_EQ(Text(L"A", L"x"), L"0");
+    store.WriteInteger(L"y", 1, L"");
+    EXPECT_TRUE(File() == "[A]\nx=0\ny=1\n" + text.substr(8));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, patience);
+}
+
+TEST_F(IniStoreHostile, AHundredThousandKeysOfOneNameHideAllButTheFirst) {
+    std::string text = "[A]\n";
+    for (int i = 0; i < 100'000; ++i)
+        text += "x=" + std::to_string(i) + "\n";
+    Open(text + "y=last\n");
+    EXPECT_EQ(Text(L"A", L"x"), L"0");
+    EXPECT_EQ(Text(L"A", L"y"), L"last");
+}
+
+TEST_F(IniStoreHostile, AMillionKeysOfOneSectionAreReadAndWrittenEachInConstantTime) {
+    const auto start = std::chrono::steady_clock::now();
+    std::string text = "[A]\n";
+    std::string expected = text;
+    for (int i = 0; i < 1'000'000; ++i) {
+        text += "Key" + std::to_string(i) + "=1\n";
+        expected += "Key" + std::to_string(i) + (i % 10 == 0 ? "=2\n" : "=1\n");
+    }
+    Open(text);
+    store.Hold();
+    std::int16_t value = 0;
+    for (int i = 0; i < 1'000'000; i += 10) {
+        ASSERT_TRUE(store.ReadInteger(L"key" + std::to_wstring(i), value));
+        store.WriteInteger(L"Key" + std::to_wstring(i), 2, L"");
+    }
+    for (int i = 0; i < 100'000; ++i) {
+        store.WriteInteger(L"New" + std::to_wstring(i), 3, L"");
+        expected += "New" + std::to_string(i) + "=3\n";
+    }
+    store.Release();
+    EXPECT_TRUE(File() == expected);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, patience);
+}
+
+TEST_F(IniStoreHostile, NoiseIsNeverMoreThanNoise) {
+    std::mt19937 random(1); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same noise in every run
+    const std::string alphabet = "[[]]==;#\"\\\n\n\n\r \tAxy1\xC3\xB6\xF6\xEF\xBB\xBF"s + '\0';
+    store.Hold();
+    for (int i = 0; i < 2000; ++i) {
+        std::string text(random() % 60, '\0');
+        for (char& c : text)
+            c = alphabet[random() % alphabet.size()];
+        const std::string name = std::to_string(i % 2) + ".ini"; // another name each time: it is loaded anew
+        folder.Write(name, "##" + text);
+        store.SetFileName(folder.Name(name));
+        store.SetSection(L"A");
+        std::wstring value;
+        static_cast<void>(store.ReadString(L"x", value));
+        ASSERT_EQ(folder.Read(name), "##" + text);
+        if (i % 40 != 0)
+            continue;
+        store.WriteString(L"x", L"new");
+        store.WriteString(L"y", L" new ");
+        store.Hold(); // only SetFileName saves
+        store.SetFileName(folder.Name("none.ini"));
+        store.SetFileName(folder.Name(name));
+        ASSERT_TRUE(store.ReadString(L"x", value) && value == L"new") << testing::PrintToString(text);
+        ASSERT_TRUE(store.ReadString(L"y", value) && value == L" new ") << testing::PrintToString(text);
+    }
+}

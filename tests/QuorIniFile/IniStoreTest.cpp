@@ -1,0 +1,187 @@
+#include "QuorIniFile/IniStore.h"
+
+#include "QuorIniFile/QuorError.h"
+#include "tests/support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using namespace QuorIniFile;
+
+namespace {
+
+/// A store on the file "a.ini" of a folder of its own, with section "A" selected.
+class IniStoreTest : public testing::Test {
+protected:
+    IniStoreTest() {
+        store.SetFileName(folder.Name("a.ini"));
+        store.SetSection(L"A");
+    }
+    void File(std::string_view bytes) const { folder.Write("a.ini", bytes); }
+    [[nodiscard]] std::string File() const { return folder.Read("a.ini"); }
+
+    TempFolder folder;
+    IniStore store;
+};
+
+template <class Action>
+QuorError RaisedBy(const Action& action) {
+    try {
+        action();
+    } catch (const QuorError& error) {
+        EXPECT_EQ(error.Source(), L"QuorIniFile");
+        return error;
+    }
+    return {0, L"", L"nothing"};
+}
+
+} // namespace
+
+TEST_F(IniStoreTest, ValuesOfEveryKindComeBack) {
+    store.WriteString(L"Version", L"1.0");
+    store.WriteInteger(L"NumCoefficients", 4, L"");
+    store.WriteBoolean(L"UsePolynomial", true);
+    store.WriteDouble(L"Coefficients0", 100.02, L"");
+    EXPECT_EQ(File(), "[A]\nVersion=1.0\nNumCoefficients=4\nUsePolynomial=True\nCoefficients0=100.02\n");
+
+    IniStore other;
+    other.SetFileName(folder.Name("a.ini"));
+    other.SetSection(L"a");
+    std::wstring text;
+    std::int16_t number = 0;
+    bool flag = false;
+    double value = 0;
+    EXPECT_TRUE(other.ReadString(L"VERSION", text));
+    EXPECT_TRUE(other.ReadInteger(L"numcoefficients", number));
+    EXPECT_TRUE(other.ReadBoolean(L"UsePolynomial", flag));
+    EXPECT_TRUE(other.ReadDouble(L"Coefficients0", value));
+    EXPECT_EQ(text, L"1.0");
+    EXPECT_EQ(number, 4);
+    EXPECT_TRUE(flag);
+    EXPECT_EQ(value, 100.02);
+}
+
+TEST_F(IniStoreTest, WhatIsMissingOrOfAnotherKindLeavesTheVariable) {
+    File("[A]\nempty=\ntext=12abc\ncomma=1,5\nlarge=40000\nhuge=1e999\n");
+    std::wstring text = L"kept";
+    std::int16_t number = 7;
+    bool flag = true;
+    double value = 1.5;
+    EXPECT_FALSE(store.ReadString(L"missing", text));
+    for (const wchar_t* key : {L"missing", L"empty", L"text", L"comma", L"large", L"huge"}) {
+        EXPECT_FALSE(store.ReadInteger(key, number)) << key;
+        EXPECT_FALSE(store.ReadBoolean(key, flag)) << key;
+        EXPECT_TRUE(key == std::wstring(L"large") || !store.ReadDouble(key, value)) << key;
+    }
+    store.SetSection(L"B");
+    EXPECT_FALSE(store.ReadString(L"text", text));
+    EXPECT_EQ(text, L"kept");
+    EXPECT_EQ(number, 7);
+    EXPECT_TRUE(flag);
+    EXPECT_EQ(value, 1.5);
+}
+
+TEST_F(IniStoreTest, AnEmptyTextIsFound) {
+    File("[A]\nname=\n");
+    std::wstring text = L"old";
+    EXPECT_TRUE(store.ReadString(L"name", text));
+    EXPECT_EQ(text, L"");
+}
+
+TEST_F(IniStoreTest, ACommentBehindANumberOrFlagIsPassedOver) {
+    File("[A]\nvalue=100.02 ; ohms\ncount=4\t;four\nflag=True ; yes\ntext=a ; b\nnone=4;four\n");
+    std::wstring text;
+    std::int16_t number = 0;
+    bool flag = false;
+    double value = 0;
+    EXPECT_TRUE(store.ReadDouble(L"value", value));
+    EXPECT_TRUE(store.ReadInteger(L"count", number));
+    EXPECT_TRUE(store.ReadBoolean(L"flag", flag));
+    EXPECT_TRUE(store.ReadString(L"text", text));
+    EXPECT_FALSE(store.ReadInteger(L"none", number)) << "a comment stands apart from the value";
+    EXPECT_EQ(value, 100.02);
+    EXPECT_EQ(number, 4);
+    EXPECT_TRUE(flag);
+    EXPECT_EQ(text, L"a ; b") << "text may hold a semicolon";
+}
+
+TEST_F(IniStoreTest, ReadingFromAMissingFileIsAnErrorAndMakesNone) {
+    bool flag = false;
+    for (int i = 0; i < 2; ++i) {
+        const QuorError error = RaisedBy([&] { static_cast<void>(store.ReadBoolean(L"x", flag)); });
+        EXPECT_EQ(error.Number(), 53);
+        EXPECT_EQ(error.Description(), L"File not found: " + folder.Name("a.ini"));
+    }
+    EXPECT_TRUE(folder.Files().empty());
+
+    File("[A]\nx=True\n");
+    EXPECT_TRUE(store.ReadBoolean(L"x", flag)) << "it has come since";
+}
+
+TEST_F(IniStoreTest, WithoutAGoodFileNameNothingIsReadOrWritten) {
+    IniStore fresh;
+    bool flag = false;
+    const QuorError error = RaisedBy([&] { static_cast<void>(fresh.ReadBoolean(L"x", flag)); });
+    EXPECT_EQ(error.Number(), 52);
+    EXPECT_EQ(error.Description(), L"Bad file name or number: ");
+    EXPECT_EQ(RaisedBy([&] { fresh.WriteBoolean(L"x", true); }).Number(), 52);
+
+    for (const std::wstring& name :
+         {std::wstring(), std::wstring(L"a\0b", 3), std::wstring(1, static_cast<wchar_t>(0xD800))}) {
+        EXPECT_EQ(RaisedBy([&] { store.SetFileName(name); }).Number(), 52);
+        EXPECT_EQ(store.FileName(), folder.Name("a.ini")) << "the name before stays";
+    }
+}
+
+TEST_F(IniStoreTest, SettingTheFileNameTouchesNoFile) {
+    store.SetFileName(folder.Name("b.ini"));
+    EXPECT_EQ(store.FileName(), folder.Name("b.ini"));
+    EXPECT_EQ(store.Section(), L"A");
+    EXPECT_TRUE(folder.Files().empty());
+}
+
+TEST_F(IniStoreTest, WithoutASectionTheOneWithoutANameIsMeant) {
+    IniStore fresh;
+    fresh.SetFileName(folder.Name("a.ini"));
+    fresh.WriteBoolean(L"x", true);
+    EXPECT_EQ(File(), "[]\nx=True\n");
+}
+
+TEST_F(IniStoreTest, ANameThatWouldNotReadBackIsRefusedBeforeAnythingIsChanged) {
+    File("[B]\nx=1\n");
+    const std::wstring surrogate(1, static_cast<wchar_t>(0xDC00));
+    for (const std::wstring& key : {std::wstring(L"a=b"), std::wstring(L" a"), std::wstring(L";a"),
+                                    std::wstring(L"[a"), std::wstring(L"a\nb"), surrogate}) {
+        const QuorError error = RaisedBy([&] { store.WriteBoolean(key, true); });
+        EXPECT_EQ(error.Number(), 75);
+        EXPECT_EQ(error.Description(), L"Path/File access error: " + folder.Name("a.ini") +
+                                           L": No key can have the name \"" + key + L"\"");
+    }
+    for (const std::wstring& section : {std::wstring(L"a] ; b"), std::wstring(L"a\r"), surrogate}) {
+        store.SetSection(section);
+        const QuorError error = RaisedBy([&] { store.WriteString(L"x", L"1"); });
+        EXPECT_EQ(error.Number(), 75);
+        EXPECT_NE(error.Description().find(L"No section can have the name"), std::wstring::npos);
+        bool flag = false;
+        EXPECT_FALSE(store.ReadBoolean(L"x", flag)) << "looking for it is no error";
+    }
+    store.SetSection(L"B");
+    store.WriteBoolean(L"x", true);
+    EXPECT_EQ(File(), "[B]\nx=1\n") << "1 is True already, and nothing was left pending";
+}
+
+TEST_F(IniStoreTest, AnyOtherNameComesBackInAnySpelling) {
+    store.SetSection(L" Range [0..100], \u2126 ");
+    store.WriteInteger(L"C\u00F6 [0] ; \"x\"", 3, L"");
+    store.WriteInteger(L"", 4, L"");
+    EXPECT_EQ(File(), "[ Range [0..100], \xE2\x84\xA6 ]\nC\xC3\xB6 [0] ; \"x\"=3\n=4\n");
+    IniStore other;
+    other.SetFileName(folder.Name("a.ini"));
+    other.SetSection(L" RANGE [0..100], \u2126 ");
+    std::int16_t number = 0;
+    EXPECT_TRUE(other.ReadInteger(L"c\u00F6 [0] ; \"X\"", number));
+    EXPECT_EQ(number, 3);
+    EXPECT_TRUE(other.ReadInteger(L"", number));
+    EXPECT_EQ(number, 4);
+}
