@@ -1,0 +1,51 @@
+#include "QuorConversions/core/CoefficientSettings.h"
+
+#include "QuorConversions/core/Record.h"
+
+namespace QuorConversions {
+namespace {
+
+constexpr const wchar_t* countKey = L"NumCoefficients";
+constexpr const wchar_t* coefficientsKey = L"Coefficients";
+
+} // namespace
+
+CoefficientSettings::CoefficientSettings(std::shared_ptr<Platform> platform, const SettingsTraits& traits,
+                                         std::int32_t highestIndex)
+    : SettingsObject(std::move(platform), traits), m_slots(traits.className, highestIndex) {}
+
+void CoefficientSettings::ResizeCoefficients(std::int16_t count) {
+    if (count == m_slots.Count())
+        return;
+    SetChanged(true);
+    m_slots.Resize(count);
+}
+
+void CoefficientSettings::SetNumCoefficients(std::int16_t value) {
+    if (value == m_slots.Count())
+        return;
+    SetChanged(true);
+    m_slots.SetCount(value);
+}
+
+void CoefficientSettings::WriteCount(RecordWriter& record) const {
+    record.Integer(countKey, NumCoefficients());
+}
+
+std::int16_t CoefficientSettings::ReadCount(RecordReader& record) const {
+    return record.Count(countKey, NumCoefficients());
+}
+
+void CoefficientSettings::WriteCoefficients(RecordWriter& record) const {
+    for (std::int32_t i = 0; i < NumCoefficients(); ++i)
+        record.Double(IndexedKey(coefficientsKey, i), Coefficients(i));
+}
+
+void CoefficientSettings::ReadCoefficients(RecordReader& record) {
+    if (NumCoefficients() < 0)
+        record.Fail();
+    for (std::int32_t i = 0; i < NumCoefficients(); ++i)
+        SetCoefficients(i, record.Double(IndexedKey(coefficientsKey, i), Coefficients(i)));
+}
+
+} // namespace QuorConversions

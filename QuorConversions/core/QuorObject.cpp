@@ -1,0 +1,130 @@
+#include "QuorConversions/core/QuorObject.h"
+
+#include "QuorConversions/core/BusyPointer.h"
+#include "QuorConversions/core/Record.h"
+#include "QuorConversions/core/modMessages.h"
+#include "QuorConversions/platform/HeadlessPlatform.h"
+
+#include <utility>
+
+namespace QuorConversions {
+namespace {
+
+/// Brackets the writes of one record, so that the store makes them durable once. The bracket is closed on
+/// every path; a failure to close it counts only when nothing failed before.
+class RecordHold {
+public:
+    explicit RecordHold(INIFile& iniFile) : m_iniFile(&iniFile) { iniFile.Hold(); }
+    RecordHold(const RecordHold&) = delete;
+    RecordHold& operator=(const RecordHold&) = delete;
+    ~RecordHold() {
+        try {
+            Release();
+        } catch (...) { // an earlier error is on its way to the report
+        }
+    }
+
+    void Release() {
+        if (INIFile* const held = std::exchange(m_iniFile, nullptr))
+            held->Release();
+    }
+
+private:
+    INIFile* m_iniFile;
+};
+
+/// Fills an empty reference for as long as it lives and leaves it null again.
+class TemporaryIniFile {
+public:
+    explicit TemporaryIniFile(std::shared_ptr<INIFile>& reference)
+        : m_reference(reference), m_made(!reference) {}
+    TemporaryIniFile(const TemporaryIniFile&) = delete;
+    TemporaryIniFile& operator=(const TemporaryIniFile&) = delete;
+    ~TemporaryIniFile() {
+        if (m_made)
+            m_reference = nullptr;
+    }
+
+    [[nodiscard]] bool IsNeeded() const { return m_made; }
+
+private:
+    std::shared_ptr<INIFile>& m_reference;
+    bool m_made;
+};
+
+} // namespace
+
+QuorObject::QuorObject(std::shared_ptr<Platform> platform, const wchar_t* className)
+    : m_platform(platform ? std::move(platform) : DefaultPlatform()), m_className(className) {}
+
+QuorObject::~QuorObject() = default;
+
+void QuorObject::SetRegistry(std::shared_ptr<QuorRegistryII::Registry>& vData) { m_registry = vData; }
+
+bool QuorObject::Changed() const { return m_changed; }
+
+void QuorObject::SetChanged(bool value) { m_changed = value; }
+
+QuorError QuorObject::Error(std::int32_t number, EStringId text) const {
+    return {number, m_className, TableText(text)};
+}
+
+void QuorObject::ShowMessage(const std::wstring& text) const {
+    QuorConversions::ShowMessage(*m_platform, text, TableText(IDS_MESSAGE_TITLE));
+}
+
+void QuorObject::ReportCurrentError(EStringId context) const noexcept {
+    try {
+        ReportError(*m_platform, CurrentError(m_className), TableText(context), TableText(IDS_MESSAGE_TITLE));
+    } catch (...) { // no memory left even for the words
+    }
+}
+
+template <class Body>
+void QuorObject::InFrame(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname,
+                         const std::wstring& secname, EStringId context, Body body) const {
+    const BusyPointer busy(*m_platform);
+    const TemporaryIniFile temporary(iniFile);
+    try {
+        if (temporary.IsNeeded()) {
+            if (fname.empty())
+                throw Error(QuorIniFile::ERROR_BAD_FILE_NAME, IDS_BAD_FILE_NAME);
+            iniFile = m_platform->CreateIniFile();
+            if (!iniFile)
+                throw Error(QuorIniFile::ERROR_CANNOT_CREATE, IDS_NO_INI_COMPONENT);
+            iniFile->SetFileName(fname);
+        }
+        // A reference of its own: host code that runs inside a message box may drop the caller's.
+        const std::shared_ptr<INIFile> store = iniFile;
+        store->SetSection(secname);
+        body(store);
+    } catch (...) {
+        ReportCurrentError(context);
+    }
+}
+
+void QuorObject::WriteToFile(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname,
+                             const std::wstring& secname) const {
+    InFrame(iniFile, fname, secname, IDS_WRITING_SETTINGS, [&](const std::shared_ptr<INIFile>& store) {
+        RecordHold hold(*store);
+        store->WriteString(L"Version", QUOR_LIBRARY_VERSION);
+        RecordWriter record(store, secname, m_className);
+        WriteRecord(record);
+        hold.Release();
+    });
+}
+
+bool QuorObject::ReadFromFile(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname,
+                              const std::wstring& secname) {
+    bool complete = false;
+    InFrame(iniFile, fname, secname, IDS_READING_SETTINGS, [&](const std::shared_ptr<INIFile>& store) {
+        RecordReader record(store, secname);
+        ReadRecord(record);
+        complete = !record.Failed();
+        if (!complete)
+            ShowMessage(TableText(IDS_WRONG_FILE_VERSION));
+    });
+    return complete;
+}
+
+} // namespace QuorConversions

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "QuorConversions/Export.h"
+#include "QuorConversions/core/modStrings.h"
+#include "QuorConversions/platform/Platform.h"
+#include "QuorIniFile/INIFile.h"
+#include "QuorIniFile/QuorError.h"
+#include "QuorRegistryII/Registry.h"
+
+#include <cmath>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace QuorConversions {
+
+using QuorIniFile::INIFile;
+using QuorIniFile::QuorError;
+
+class RecordReader;
+class RecordWriter;
+
+/// What the facade, the settings objects and the ITS-90 ranges share: the platform they speak through, the
+/// host's registry, the changed flag, and the frame around every save and load.
+class QUORCONVERSIONS_EXPORT QuorObject {
+public:
+    QuorObject(const QuorObject&) = delete;
+    QuorObject& operator=(const QuorObject&) = delete;
+    virtual ~QuorObject();
+
+    /// Keeps the reference, which may be null; the object behind it stays the host's.
+    virtual void SetRegistry(std::shared_ptr<QuorRegistryII::Registry>& vData);
+    [[nodiscard]] std::shared_ptr<QuorRegistryII::Registry> Registry() const { return m_registry; }
+
+    /// Whether a value has been changed since the flag was last cleared. Only a host clears it; no save does.
+    [[nodiscard]] virtual bool Changed() const;
+    virtual void SetChanged(bool value);
+
+    /// Writes the record into the section `secname`. With a null `iniFile` an INI-file object is made for the
+    /// call on the file `fname` and released before it returns; otherwise `fname` is not used and may be
+    /// empty. Every failure is reported to the user; what was written before it stays in the file.
+    void WriteToFile(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname,
+                     const std::wstring& secname) const;
+
+    /// Reads the record from the section `secname`; `iniFile` and `fname` as in WriteToFile. True when every
+    /// key was found. A key that is missing or cannot be read leaves the object's own value standing, and the
+    /// user is told once; any other failure is reported. There is no rollback.
+    bool ReadFromFile(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname,
+                      const std::wstring& secname);
+
+protected:
+    /// `className` is the source of the object's errors. A null platform is the headless one.
+    QuorObject(std::shared_ptr<Platform> platform, const wchar_t* className);
+
+    [[nodiscard]] const std::shared_ptr<Platform>& HostPlatform() const { return m_platform; }
+    [[nodiscard]] const wchar_t* ClassName() const { return m_className; }
+
+    /// An error of this class with a text of the string table.
+    [[nodiscard]] QuorError Error(std::int32_t number, EStringId text) const;
+    void ShowMessage(const std::wstring& text) const;
+    /// Reports the error that is being handled; call it inside a catch block.
+    void ReportCurrentError(EStringId context) const noexcept;
+
+    /// Marks the object changed when the new value differs, then stores it. NaN equals NaN here, and -0.0
+    /// equals 0.0 but is stored.
+    template <class T>
+    void Assign(T& field, const T& value) {
+        if (Differs(field, value))
+            SetChanged(true);
+        field = value;
+    }
+
+    /// The same, but a value that does not differ (a zero of the other sign) is not stored.
+    template <class T>
+    void AssignDifferent(T& field, const T& value) {
+        if (Differs(field, value))
+            Assign(field, value);
+    }
+
+    template <class T>
+    [[nodiscard]] static bool Differs(const T& stored, const T& value) {
+        return stored != value;
+    }
+    [[nodiscard]] static bool Differs(double stored, double value) {
+        return stored != value && !(std::isnan(stored) && std::isnan(value));
+    }
+
+private:
+    /// Writes the class's own keys, behind "Version".
+    virtual void WriteRecord(RecordWriter& record) const = 0;
+    /// Reads the class's own keys and applies each as it comes.
+    virtual void ReadRecord(RecordReader& record) = 0;
+
+    template <class Body>
+    void InFrame(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname, const std::wstring& secname,
+                 EStringId context, Body body) const;
+
+    std::shared_ptr<Platform> m_platform;
+    const wchar_t* m_className;
+    std::shared_ptr<QuorRegistryII::Registry> m_registry;
+    bool m_changed = false;
+};
+
+} // namespace QuorConversions

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "QuorConversions/core/QuorObject.h"
+#include "QuorIniFile/INIFile.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace QuorConversions {
+
+/// The key of one element of an indexed value: "Coefficients" and 3 make "Coefficients3".
+[[nodiscard]] std::wstring IndexedKey(const wchar_t* name, std::int32_t index);
+
+/// The section of a nested record: parent section, " - ", child name.
+[[nodiscard]] std::wstring NestedSection(const std::wstring& parent, const wchar_t* child);
+
+/// Writes what one record holds, key by key, into the selected section of an INI-file object.
+class RecordWriter {
+public:
+    RecordWriter(std::shared_ptr<INIFile> iniFile, const std::wstring& section, const wchar_t* source);
+
+    void Text(const wchar_t* key, const std::wstring& value);
+    /// Codes and counts are 16-bit values in a file. Raises 6 "Overflow" for one that does not fit.
+    void Integer(const wchar_t* key, std::int32_t value);
+    void Double(const std::wstring& key, double value);
+    void Boolean(const wchar_t* key, bool value);
+    /// Writes a nested record into its own section. The selected section is another one afterwards, so nested
+    /// records come last.
+    void Nested(const wchar_t* name, const QuorObject& child);
+
+private:
+    std::shared_ptr<INIFile> m_iniFile;
+    const std::wstring& m_section;
+    const wchar_t* m_source;
+};
+
+/// Reads what one record holds, key by key. Each read is given the object's current value and returns what
+/// the store left in it, so a missing key changes nothing; it marks the record as failed and the reading goes
+/// on.
+class RecordReader {
+public:
+    RecordReader(std::shared_ptr<INIFile> iniFile, const std::wstring& section);
+
+    [[nodiscard]] std::wstring Text(const wchar_t* key, std::wstring current);
+    [[nodiscard]] std::int32_t Integer(const wchar_t* key, std::int32_t current);
+    /// A count: always within 16 bits, as its current value is.
+    [[nodiscard]] std::int16_t Count(const wchar_t* key, std::int16_t current);
+    [[nodiscard]] double Double(const std::wstring& key, double current);
+    [[nodiscard]] bool Boolean(const wchar_t* key, bool current);
+    void Nested(const wchar_t* name, QuorObject& child);
+
+    void Fail() { m_failed = true; }
+    [[nodiscard]] bool Failed() const { return m_failed; }
+
+private:
+    std::shared_ptr<INIFile> m_iniFile;
+    const std::wstring& m_section;
+    bool m_failed = false;
+};
+
+} // namespace QuorConversions

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "QuorConversions/core/QuorObject.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace QuorConversions {
+
+/// The argument of the name functions (ConversionName, RangeName, GetName, ...) that means the object's
+/// current value. It is no member of any of their enumerations.
+inline constexpr std::int32_t currentValue = -2;
+
+/// What one settings class differs in from the others as data.
+struct SettingsTraits {
+    const wchar_t* className;     ///< the source of its errors
+    EStringId name;               ///< string-table entry of GetName
+    const wchar_t* fileExtension; ///< of its stand-alone files, without a point
+    const wchar_t* sectionName;   ///< the section of its stand-alone files; never translated
+};
+
+/// What every settings class offers besides its own coefficients. A settings object holds the settings of one
+/// conversion type; it computes nothing.
+class QUORCONVERSIONS_EXPORT SettingsObject : public QuorObject {
+public:
+    /// Whether the dialog may change values; True at first.
+    [[nodiscard]] bool AllowEdit() const { return m_allowEdit; }
+    void SetAllowEdit(bool value) { m_allowEdit = value; }
+
+    // SetRegistry, Registry, Changed and SetChanged stand here in the order of the contract.
+
+    /// Shows the settings dialog on this live object. False when the user cancelled, or when the dialog could
+    /// not be shown, which has been reported then.
+    bool Edit();
+
+    /// The display name, in the language of the string table.
+    [[nodiscard]] virtual std::wstring GetName() const;
+
+    /// The folder in which the file dialogs of this object start; empty at first.
+    [[nodiscard]] const std::wstring& FilePath() const { return m_filePath; }
+    void SetFilePath(std::wstring value);
+
+    /// Reads a stand-alone settings file: `filename` if it is not empty, else the one that the user chooses
+    /// in a file dialog owned by the window `hwnd`, which is then put into `filename`. True when the call ran
+    /// to its end, also when the file could not be read: that has been reported. False, and `filename` as it
+    /// was, when the user cancelled or the dialog failed.
+    bool OpenFile(std::int32_t hwnd, std::wstring& filename);
+
+    /// Asks for a file, starting at `filename` if it is not empty, and writes a stand-alone settings file.
+    /// The chosen path is put into `filename`. A name without an extension gets the class's extension
+    /// appended as it stands, without a point; file dialogs add their own before that. Result as in OpenFile.
+    bool SaveFileAs(std::int32_t hwnd, std::wstring& filename);
+
+    // WriteToFile and ReadFromFile stand here in the order of the contract.
+
+    /// Which stand-alone files hold this class: their extension, without a point, and their section.
+    [[nodiscard]] std::wstring FileExtension() const { return m_traits.fileExtension; }
+    [[nodiscard]] std::wstring SectionName() const { return m_traits.sectionName; }
+
+protected:
+    /// `traits` must live as long as the program.
+    SettingsObject(std::shared_ptr<Platform> platform, const SettingsTraits& traits);
+
+private:
+    [[nodiscard]] FileRequest RequestFor(FileDialogKind kind, std::int32_t hwnd,
+                                         const std::wstring& startFile) const;
+    [[nodiscard]] std::wstring AskForFile(const FileRequest& request) const;
+
+    const SettingsTraits& m_traits;
+    std::wstring m_filePath;
+    std::wstring m_lastFile;
+    bool m_allowEdit = true;
+};
+
+} // namespace QuorConversions

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <utility>
+
+namespace QuorConversions {
+
+/// One display format for all values of an object. Setting it is never a change, and it is not stored in
+/// files.
+class SharedValueFormat {
+public:
+    [[nodiscard]] const std::wstring& ValueFormat() const { return m_valueFormat; }
+    void SetValueFormat(std::wstring value) { m_valueFormat = std::move(value); }
+
+private:
+    std::wstring m_valueFormat;
+};
+
+} // namespace QuorConversions

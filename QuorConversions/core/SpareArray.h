@@ -1,0 +1,63 @@
+#pragma once
+
+#include "QuorConversions/core/modStrings.h"
+#include "QuorIniFile/QuorError.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <vector>
+
+namespace QuorConversions {
+
+/// Slots with indices 0 to count, of which 0 to count - 1 can be reached; the last one is spare. On purpose:
+/// a shorter array keeps in its spare slot what the longer one held there, and shows it again when it grows.
+template <class Slot>
+class SpareArray {
+public:
+    /// No index above `highestIndex` is valid, whatever the count. `source` names the class in errors.
+    explicit SpareArray(const wchar_t* source,
+                        std::int32_t highestIndex = std::numeric_limits<std::int32_t>::max())
+        : m_source(source), m_highestIndex(highestIndex) {}
+
+    [[nodiscard]] std::int16_t Count() const { return m_count; }
+
+    /// Resizes to 0 .. count; values are kept, new slots are empty. A negative count is stored, refuses every
+    /// index, and leaves the slots alone, so that a later valid count finds them again.
+    void SetCount(std::int16_t count) {
+        m_count = count;
+        if (count >= 0)
+            m_slots.resize(static_cast<std::size_t>(count) + 1);
+    }
+
+    /// SetCount that raises 9 "Subscript out of range" for a negative count, after it was stored.
+    void Resize(std::int16_t count) {
+        SetCount(count);
+        if (count < 0)
+            throw QuorIniFile::QuorError(QuorIniFile::ERROR_SUBSCRIPT_OUT_OF_RANGE, m_source,
+                                         TableText(IDS_SUBSCRIPT_OUT_OF_RANGE));
+    }
+
+    [[nodiscard]] bool IsValid(std::int32_t index) const {
+        return index >= 0 && index < m_count && index <= m_highestIndex;
+    }
+
+    /// Raises "Index out of range" for an index that is not valid.
+    [[nodiscard]] const Slot& At(std::int32_t index) const {
+        if (!IsValid(index))
+            throw QuorIniFile::QuorError(QuorIniFile::ERROR_INDEX_OUT_OF_RANGE, m_source,
+                                         TableText(IDS_INDEX_OUT_OF_RANGE));
+        return m_slots[static_cast<std::size_t>(index)];
+    }
+    [[nodiscard]] Slot& At(std::int32_t index) {
+        return const_cast<Slot&>(static_cast<const SpareArray&>(*this).At(index)); // NOLINT: the slot is ours
+    }
+
+private:
+    const wchar_t* m_source;
+    std::int32_t m_highestIndex;
+    std::int16_t m_count = 0;
+    std::vector<Slot> m_slots;
+};
+
+} // namespace QuorConversions

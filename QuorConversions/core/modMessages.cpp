@@ -1,0 +1,72 @@
+#include "QuorConversions/core/modMessages.h"
+
+#include "QuorConversions/core/BusyPointer.h"
+#include "QuorIniFile/Utf8.h"
+
+#include <new>
+
+namespace QuorConversions {
+namespace {
+
+std::wstring WideText(const char* text) {
+    if (auto wide = QuorIniFile::FromUtf8(text))
+        return *std::move(wide);
+    // Text of another encoding: its ASCII part is still worth reading.
+    std::wstring ascii;
+    for (; *text != '\0'; ++text)
+        ascii += static_cast<unsigned char>(*text) < 0x80 ? static_cast<wchar_t>(*text) : L'?';
+    return ascii;
+}
+
+void Show(Platform& platform, const MessageRequest& request) {
+    SetPointer(platform, POINTER_DEFAULT);
+    platform.ShowMessage(request);
+}
+
+} // namespace
+
+QuorError CurrentError(const std::wstring& source) {
+    using namespace QuorIniFile;
+    try {
+        throw;
+    } catch (const QuorError& error) {
+        return error;
+    } catch (const std::bad_alloc&) {
+        return {ERROR_OUT_OF_MEMORY, source, TableText(IDS_OUT_OF_MEMORY)};
+    } catch (const std::exception& error) {
+        std::wstring text = WideText(error.what());
+        return {ERROR_UNEXPECTED, source, text.empty() ? TableText(IDS_SYSTEM_ERROR) : std::move(text)};
+    } catch (...) {
+        return {ERROR_UNEXPECTED, source, TableText(IDS_SYSTEM_ERROR)};
+    }
+}
+
+void ReportError(Platform& platform, const QuorError& error, const std::wstring& context,
+                 const std::wstring& title, const std::wstring& helpFile, std::int32_t helpContext) noexcept {
+    try {
+        MessageRequest request{TableText(IDS_ERROR_OCCURRED_WHILE) + L" " + context + L".\r", title,
+                               ICON_CRITICAL, helpFile, helpContext};
+        if (error.Number() != 0) {
+            request.text += L"\r" + TableText(IDS_ERROR_WORD) + L": " + std::to_wstring(error.Number()) +
+                            L" - " + error.Description();
+            if (!error.Source().empty())
+                request.text += L"\r(" + error.Source() + L")";
+            if (helpFile.empty() && !error.HelpFile().empty()) {
+                request.helpFile = error.HelpFile();
+                request.helpContext = error.HelpContext();
+            }
+        }
+        Show(platform, request);
+    } catch (...) { // a message that cannot be shown must not replace the error that it reports
+    }
+}
+
+void ShowMessage(Platform& platform, const std::wstring& text, const std::wstring& title,
+                 const std::wstring& helpFile, std::int32_t helpContext) noexcept {
+    try {
+        Show(platform, {text, title, ICON_INFORMATION, helpFile, helpContext});
+    } catch (...) { // as above
+    }
+}
+
+} // namespace QuorConversions

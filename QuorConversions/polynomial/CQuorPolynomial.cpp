@@ -1,0 +1,37 @@
+#include "QuorConversions/polynomial/CQuorPolynomial.h"
+
+#include "QuorConversions/core/Record.h"
+
+namespace QuorConversions {
+namespace {
+
+constexpr SettingsTraits traits{L"CQuorPolynomial", IDS_POLYNOMIAL, L"ply", L"Polynomial"};
+constexpr const wchar_t* orderKey = L"Order";
+
+} // namespace
+
+CQuorPolynomial::CQuorPolynomial(CreationKey /*key*/, std::shared_ptr<Platform> platform)
+    : CoefficientSettings(std::move(platform), traits, POLY_A10) {
+    SetOrder(MinOrder());
+    SetChanged(false);
+}
+
+void CQuorPolynomial::SetOrder(std::int16_t value) {
+    if (value < MinOrder() || value > MaxOrder() || value == m_order)
+        return;
+    SetChanged(true);
+    m_order = value;
+    ResizeCoefficients(static_cast<std::int16_t>(value + 1));
+}
+
+void CQuorPolynomial::WriteRecord(RecordWriter& record) const {
+    record.Integer(orderKey, m_order);
+    WriteCoefficients(record);
+}
+
+void CQuorPolynomial::ReadRecord(RecordReader& record) {
+    SetOrder(record.Count(orderKey, m_order));
+    ReadCoefficients(record);
+}
+
+} // namespace QuorConversions

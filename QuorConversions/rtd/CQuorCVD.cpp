@@ -1,0 +1,30 @@
+#include "QuorConversions/rtd/CQuorCVD.h"
+
+#include "QuorConversions/core/Record.h"
+
+namespace QuorConversions {
+namespace {
+
+constexpr SettingsTraits traits{L"CQuorCVD", IDS_CALLENDAR_VAN_DUSEN, L"cvd", L"Callendar-Van Dusen"};
+
+} // namespace
+
+CQuorCVD::CQuorCVD(CreationKey /*key*/, std::shared_ptr<Platform> platform)
+    : CoefficientSettings(std::move(platform), traits, anyIndex) {
+    SetNumCoefficients(MaxCoefficients());
+    SetChanged(false);
+}
+
+void CQuorCVD::WriteRecord(RecordWriter& record) const {
+    WriteCount(record);
+    record.Boolean(L"UsePolynomial", m_usePolynomial);
+    WriteCoefficients(record);
+}
+
+void CQuorCVD::ReadRecord(RecordReader& record) {
+    SetNumCoefficients(ReadCount(record));
+    m_usePolynomial = record.Boolean(L"UsePolynomial", m_usePolynomial);
+    ReadCoefficients(record);
+}
+
+} // namespace QuorConversions

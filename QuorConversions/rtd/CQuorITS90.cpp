@@ -1,0 +1,48 @@
+#include "QuorConversions/rtd/CQuorITS90.h"
+
+#include "QuorConversions/core/Record.h"
+
+namespace QuorConversions {
+namespace {
+
+constexpr SettingsTraits traits{L"CQuorITS90", IDS_ITS_90, L"i90", L"ITS-90"};
+constexpr const wchar_t* highRangeName = L"High Range";
+constexpr const wchar_t* lowRangeName = L"Low Range";
+
+} // namespace
+
+CQuorITS90::CQuorITS90(CreationKey /*key*/, std::shared_ptr<Platform> platform)
+    : SettingsObject(std::move(platform), traits) {
+    m_lowRange = std::make_shared<CQuorITS90LowRange>(CreationKey{}, HostPlatform());
+    m_highRange = std::make_shared<CQuorITS90HighRange>(CreationKey{}, HostPlatform());
+}
+
+void CQuorITS90::SetRegistry(std::shared_ptr<QuorRegistryII::Registry>& vData) {
+    SettingsObject::SetRegistry(vData);
+    m_lowRange->SetRegistry(vData);
+    m_highRange->SetRegistry(vData);
+}
+
+bool CQuorITS90::Changed() const {
+    return SettingsObject::Changed() || m_lowRange->Changed() || m_highRange->Changed();
+}
+
+void CQuorITS90::SetChanged(bool value) {
+    SettingsObject::SetChanged(value);
+    m_lowRange->SetChanged(value);
+    m_highRange->SetChanged(value);
+}
+
+void CQuorITS90::WriteRecord(RecordWriter& record) const {
+    record.Double(L"RTPW", m_rtpw);
+    record.Nested(highRangeName, *m_highRange);
+    record.Nested(lowRangeName, *m_lowRange);
+}
+
+void CQuorITS90::ReadRecord(RecordReader& record) {
+    SetRTPW(record.Double(L"RTPW", m_rtpw));
+    record.Nested(highRangeName, *m_highRange);
+    record.Nested(lowRangeName, *m_lowRange);
+}
+
+} // namespace QuorConversions

@@ -1,0 +1,28 @@
+#include "QuorConversions/rtd/CQuorPT100.h"
+
+#include "QuorConversions/core/Record.h"
+
+namespace QuorConversions {
+namespace {
+
+constexpr SettingsTraits traits{L"CQuorPT100", IDS_PT100, L"pt1", L"Callendar-Van Dusen"};
+
+} // namespace
+
+CQuorPT100::CQuorPT100(std::shared_ptr<Platform> platform)
+    : CoefficientSettings(std::move(platform), traits, anyIndex) {
+    SetNumCoefficients(MaxCoefficients());
+    SetChanged(false);
+}
+
+void CQuorPT100::WriteRecord(RecordWriter& record) const {
+    WriteCount(record);
+    WriteCoefficients(record);
+}
+
+void CQuorPT100::ReadRecord(RecordReader& record) {
+    SetNumCoefficients(ReadCount(record));
+    ReadCoefficients(record);
+}
+
+} // namespace QuorConversions

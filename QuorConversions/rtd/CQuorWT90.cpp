@@ -1,0 +1,19 @@
+#include "QuorConversions/rtd/CQuorWT90.h"
+
+#include "QuorConversions/core/Record.h"
+
+namespace QuorConversions {
+namespace {
+
+constexpr SettingsTraits traits{L"CQuorWT90", IDS_W_T90, L"w90", L"W(T90)"};
+
+} // namespace
+
+CQuorWT90::CQuorWT90(CreationKey /*key*/, std::shared_ptr<Platform> platform)
+    : SettingsObject(std::move(platform), traits) {}
+
+void CQuorWT90::WriteRecord(RecordWriter& record) const { record.Double(L"RTPW", m_rtpw); }
+
+void CQuorWT90::ReadRecord(RecordReader& record) { SetRTPW(record.Double(L"RTPW", m_rtpw)); }
+
+} // namespace QuorConversions

@@ -1,0 +1,23 @@
+#include "QuorConversions/thermocouple/CQuorTCTable.h"
+
+namespace QuorConversions {
+namespace {
+
+constexpr SettingsTraits traits{L"CQuorTCTable", IDS_TC_TABLE, L"tct", L"Thermocouple Table"};
+
+} // namespace
+
+CQuorTCTable::CQuorTCTable(CreationKey /*key*/, std::shared_ptr<Platform> platform)
+    : PointSettings(std::move(platform), traits, TCTABLE_T10 + 1, L"Voltages", L"mV") {}
+
+void CQuorTCTable::WriteRecord(RecordWriter& record) const {
+    WriteNumPoints(record);
+    WritePoints(record);
+}
+
+void CQuorTCTable::ReadRecord(RecordReader& record) {
+    ReadNumPoints(record);
+    ReadPoints(record);
+}
+
+} // namespace QuorConversions

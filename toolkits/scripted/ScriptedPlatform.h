@@ -1,0 +1,60 @@
+#pragma once
+
+#include "QuorConversions/platform/Platform.h"
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace QuorConversions::Scripted {
+
+/// A platform for tests and scripts: file dialogs are answered beforehand, everything that a person would see
+/// or hear is recorded, and nothing ever blocks. A file dialog without an answer is cancelled.
+class ScriptedPlatform : public Platform {
+public:
+    struct HelpCall {
+        std::wstring helpFile;
+        std::uint32_t command;
+        std::int32_t data;
+    };
+
+    /// The next file dialogs are answered with `path`, or cancelled, in the order of these calls.
+    void ChooseFile(std::wstring path) { m_answers.emplace_back(std::move(path)); }
+    void CancelFile() { m_answers.emplace_back(std::nullopt); }
+    /// Makes the INI-file objects from now on; without it they are built-in stores.
+    void MakeIniFilesWith(std::function<std::shared_ptr<QuorIniFile::INIFile>()> factory) {
+        m_iniFiles = std::move(factory);
+    }
+    /// Runs inside each message box, as host code can.
+    void WhileMessageIsShown(std::function<void()> action) { m_whileShown = std::move(action); }
+
+    [[nodiscard]] const std::vector<MessageRequest>& Messages() const { return m_messages; }
+    [[nodiscard]] const std::vector<FileRequest>& FileRequests() const { return m_fileRequests; }
+    [[nodiscard]] const std::vector<HelpCall>& HelpCalls() const { return m_helpCalls; }
+    /// Everything in order, a line each: "pointer 11", "message TEXT", "file dialog TITLE", "help DATA",
+    /// "ini file".
+    [[nodiscard]] const std::vector<std::wstring>& Events() const { return m_events; }
+
+    [[nodiscard]] std::shared_ptr<QuorIniFile::INIFile> CreateIniFile() override;
+    void ShowMessage(const MessageRequest& request) override;
+    [[nodiscard]] std::optional<std::wstring> AskForFile(const FileRequest& request) override;
+    std::int32_t CallHelp(const std::wstring& helpFile, std::uint32_t command, std::int32_t data) override;
+    [[nodiscard]] EMousePointer MousePointer() const override { return m_pointer; }
+    void SetMousePointer(EMousePointer shape) override;
+
+private:
+    std::deque<std::optional<std::wstring>> m_answers;
+    std::function<std::shared_ptr<QuorIniFile::INIFile>()> m_iniFiles;
+    std::function<void()> m_whileShown;
+    EMousePointer m_pointer = POINTER_DEFAULT;
+    std::vector<MessageRequest> m_messages;
+    std::vector<FileRequest> m_fileRequests;
+    std::vector<HelpCall> m_helpCalls;
+    std::vector<std::wstring> m_events;
+};
+
+} // namespace QuorConversions::Scripted
