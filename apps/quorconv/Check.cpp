@@ -1,0 +1,184 @@
+#include "apps/quorconv/Commands.h"
+
+#include "QuorIniFile/IniValue.h"
+#include "QuorIniFile/QuorError.h"
+#include "QuorIniFile/Utf8.h"
+#include "apps/quorconv/IniImage.h"
+#include "apps/quorconv/Probe.h"
+#include "apps/quorconv/ProbeFile.h"
+
+#include <algorithm>
+#include <iostream>
+#include <map>
+#include <set>
+
+namespace quorconv {
+
+using namespace QuorConversions;
+using QuorIniFile::ToUtf8;
+
+namespace {
+
+/// Checks the records of one file and prints what it finds, in the order of the lines.
+class FileCheck {
+public:
+    explicit FileCheck(const std::wstring& path) : m_file(path) {}
+
+    [[nodiscard]] bool Run() {
+        if (const auto section = StandAloneSection(m_file.Path()); section && m_file.Records().empty())
+            Report(1, *section, L"", L"the section is missing");
+        for (const Record& record : m_file.Records())
+            CheckRecord(record);
+        for (const auto& [line, text] : m_problems)
+            std::cout << ToUtf8(m_file.Path()) << ':' << line << ": " << ToUtf8(text) << '\n';
+        return m_problems.empty();
+    }
+
+private:
+    void Report(std::size_t line, const std::wstring& section, const std::wstring& key,
+                const std::wstring& what) {
+        m_problems.emplace(line, L"[" + section + L"] " + (key.empty() ? L"" : key + L": ") + what);
+    }
+
+    void CheckRecord(const Record& record) {
+        Probe probe(m_file.Path(), record);
+        probe.Read();
+        bool aborted = CheckType(probe);
+        if (!aborted) {
+            aborted = CheckMessages(probe);
+            CheckReads(probe, record);
+        }
+        CheckSections(probe, record, aborted);
+    }
+
+    /// True when the type is not known, so that nothing else can be said of the record.
+    bool CheckType(const Probe& probe) {
+        const auto& reads = probe.Reads();
+        if (probe.Where().standAlone || reads.empty())
+            return false;
+        const ReadLog::Read& type = reads.front();
+        if (!type.found) {
+            ReportRead(type, probe.Where());
+            return true;
+        }
+        if (FindType(probe.Conversion().ConversionType()))
+            return false;
+        ReportAt(type, probe.Where(), ToText(type.value) + L" is no conversion type");
+        return true;
+    }
+
+    /// What the library itself refuses. The keys that decide how a record is read are whole numbers: the last
+    /// of them is to blame. True when the reading of a part was given up.
+    bool CheckMessages(const Probe& probe) {
+        bool aborted = false;
+        for (const auto& message : probe.Messages()) {
+            if (IsVersionMessage(message))
+                continue; // each missing key is a problem of its own here
+            aborted = true;
+            const auto& reads = probe.Reads();
+            const auto end = reads.rend();
+            const auto blamed = std::find_if(
+                std::make_reverse_iterator(reads.begin() + static_cast<std::ptrdiff_t>(message.readsBefore)),
+                end,
+                [](const ReadLog::Read& read) { return std::holds_alternative<std::int16_t>(read.value); });
+            if (blamed == end)
+                Report(probe.Where().line, probe.Where().section, L"", message.text);
+            else
+                ReportAt(*blamed, probe.Where(), message.text);
+        }
+        return aborted;
+    }
+
+    /// Keys that are missing, cannot be read, or hold what the object does not accept.
+    void CheckReads(const Probe& probe, const Record& record) {
+        const auto image = probe.Settings() ? IniImage::Of(*probe.Settings()) : nullptr;
+        for (const ReadLog::Read& read : probe.Reads()) {
+            if (!read.found) {
+                ReportRead(read, record);
+                continue;
+            }
+            const auto* const stored = image ? image->Find(probe.PathOf(read)) : nullptr;
+            if (stored && !SameValue(stored->value, read.value))
+                ReportAt(read, record,
+                         L"the value " + ToText(read.value) + L" is not accepted; " + ToText(stored->value) +
+                             L" would be used");
+        }
+    }
+
+    /// Keys that no record of this type has, keys and sections that stand twice, lines that are no keys.
+    void CheckSections(const Probe& probe, const Record& record, bool aborted) {
+        std::map<std::wstring, std::set<std::wstring>> known;
+        known[Folded(record.section)];
+        if (probe.Settings())
+            known[Folded(probe.SettingsSection())];
+        for (const ReadLog::Read& read : probe.Reads())
+            known[Folded(read.section)].insert(Folded(read.key));
+        for (const auto& section : m_file.Sections()) {
+            const auto keys = known.find(Folded(section.name));
+            if (keys == known.end() || section.name.empty())
+                continue;
+            const auto* const first = m_file.FindSection(section.name);
+            if (first != &section) {
+                Report(section.line, section.name, L"",
+                       L"the section stands twice; the one in line " + std::to_wstring(first->line) +
+                           L" is read");
+                continue;
+            }
+            for (const std::size_t line : section.malformedLines)
+                Report(line, section.name, L"", L"the line is no key=value");
+            for (const auto& key : section.keys) {
+                const auto* const read = ProbeFile::FindKey(section, key.name);
+                if (read != &key)
+                    Report(key.line, section.name, key.name,
+                           L"the key stands twice; the one in line " + std::to_wstring(read->line) +
+                               L" is read");
+                else if (!aborted && Folded(key.name) != L"version" &&
+                         keys->second.count(Folded(key.name)) == 0)
+                    Report(key.line, section.name, key.name, L"unknown key");
+            }
+        }
+    }
+
+    /// A key that was not found: it is missing, or its text is not of its kind.
+    void ReportRead(const ReadLog::Read& read, const Record& record) {
+        const auto* const section = m_file.FindSection(read.section);
+        const auto* const key = section ? ProbeFile::FindKey(*section, read.key) : nullptr;
+        if (!section) {
+            if (m_missingSections.insert(Folded(read.section)).second)
+                Report(record.line, read.section, L"", L"the section is missing");
+        } else if (!key) {
+            Report(section->line, read.section, read.key, L"the key is missing");
+        } else {
+            Report(key->line, read.section, read.key,
+                   WhatIsWrong(read.value, QuorIniFile::DecodeText(key->value)));
+        }
+    }
+
+    /// A problem with a key that was read.
+    void ReportAt(const ReadLog::Read& read, const Record& record, const std::wstring& what) {
+        const auto* const section = m_file.FindSection(read.section);
+        const auto* const key = section ? ProbeFile::FindKey(*section, read.key) : nullptr;
+        Report(key ? key->line : record.line, read.section, read.key, what);
+    }
+
+    ProbeFile m_file;
+    std::multimap<std::size_t, std::wstring> m_problems;
+    std::set<std::wstring> m_missingSections;
+};
+
+} // namespace
+
+bool CheckFiles(const std::vector<std::wstring>& files) {
+    bool fine = true;
+    for (const std::wstring& file : files) {
+        try {
+            fine = FileCheck(file).Run() && fine;
+        } catch (const QuorIniFile::QuorError& error) {
+            std::cout << ToUtf8(file) << ": " << ToUtf8(error.Description()) << '\n';
+            fine = false;
+        }
+    }
+    return fine;
+}
+
+} // namespace quorconv

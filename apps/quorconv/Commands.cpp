@@ -1,0 +1,270 @@
+#include "apps/quorconv/Commands.h"
+
+#include "QuorIniFile/QuorError.h"
+#include "QuorIniFile/Utf8.h"
+#include "apps/quorconv/IniImage.h"
+#include "apps/quorconv/Probe.h"
+#include "apps/quorconv/ProbeFile.h"
+#include "apps/quorconv/Types.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <iostream>
+#include <utility>
+
+namespace quorconv {
+
+using namespace QuorConversions;
+using QuorIniFile::ToUtf8;
+using Json = nlohmann::ordered_json;
+
+namespace {
+
+std::wstring Place(const std::wstring& file, const std::wstring& section) {
+    return file + L": [" + section + L"]";
+}
+
+/// The messages of the library as the reason of a problem.
+std::wstring Reasons(const Probe& probe) {
+    std::wstring text;
+    for (const auto& message : probe.Messages())
+        text += L"\n  " + message.text;
+    for (const auto& read : probe.Reads())
+        if (!read.found)
+            text += L"\n  [" + read.section + L"] " + read.key + L": missing or unreadable";
+    return text;
+}
+
+Record FindRecord(const ProbeFile& file, const std::wstring& section) {
+    if (auto record = file.FindRecord(section))
+        return *std::move(record);
+    const bool exists = file.FindSection(section) != nullptr;
+    throw Problem{Place(file.Path(), section) +
+                  (exists ? L": the section is not the record of a probe" : L": there is no such section")};
+}
+
+/// Whether the only complaint about a record is that it lacks keys which are about to be given.
+bool IsCompletedBy(const Probe& probe, const std::vector<Assignment>& assignments) {
+    const auto& messages = probe.Messages();
+    const auto& reads = probe.Reads();
+    return std::all_of(messages.begin(), messages.end(), IsVersionMessage) &&
+           std::all_of(reads.begin(), reads.end(), [&](const ReadLog::Read& read) {
+               return read.found ||
+                      std::any_of(assignments.begin(), assignments.end(), [&](const Assignment& a) {
+                          return Folded(a.key) == Folded(probe.PathOf(read));
+                      });
+           });
+}
+
+/// The probe of a record; raises Problem when the library could not read all of it, but for what `completion`
+/// gives.
+Probe ReadProbe(const std::wstring& file, Record record, const std::vector<Assignment>& completion = {}) {
+    Probe probe(file, std::move(record));
+    probe.Read();
+    if (!IsCompletedBy(probe, completion))
+        throw Problem{Place(file, probe.Where().section) + L": the record cannot be read" + Reasons(probe)};
+    return probe;
+}
+
+/// Where a record is to be written: what stands there already, or a place for a new one.
+struct Target {
+    Record record;
+    bool exists;
+};
+
+Target FindTarget(const std::wstring& path, const std::wstring& section,
+                  const std::wstring& standAloneSection) {
+    const auto standAlone = StandAloneSection(path);
+    const bool isStandAlone =
+        standAlone && Folded(*standAlone) == Folded(section) && Folded(standAloneSection) == Folded(section);
+    Target target{{section, 0, isStandAlone}, false};
+    try {
+        const ProbeFile file(path);
+        if (auto record = file.FindRecord(section))
+            return {*std::move(record), true};
+        if (file.FindSection(section))
+            throw Problem{Place(path, section) + L": the section exists and is not the record of a probe"};
+    } catch (const QuorIniFile::QuorError& error) {
+        if (error.Number() != QuorIniFile::ERROR_FILE_NOT_FOUND)
+            throw;
+    }
+    return target;
+}
+
+void WriteProbe(Probe& probe, const std::wstring& file) {
+    if (!probe.Write())
+        throw Problem{Place(file, probe.Where().section) + L": the record cannot be written" +
+                      Reasons(probe)};
+}
+
+/// Gives the settings the values of the assignments, through the object itself, so that its own rules decide.
+/// A value may need another one first (a coefficient past the count needs the count), so those that have no
+/// place yet are tried again as long as new places appear.
+void Assign(Probe& probe, const std::wstring& file, const std::vector<Assignment>& assignments) {
+    const std::wstring place = Place(file, probe.Where().section) + L" ";
+    SettingsObject* const settings = probe.Settings();
+    if (!settings) {
+        if (!assignments.empty())
+            throw Problem{place + assignments.front().key + L": " + probe.TypeName() + L" has no settings"};
+        return;
+    }
+    probe.ForgetMessages();
+    std::vector<Assignment> pending = assignments;
+    std::vector<IniImage::Entry> assigned;
+    while (!pending.empty()) {
+        const auto image = IniImage::Of(*settings);
+        const auto unplaced = std::stable_partition(pending.begin(), pending.end(), [&](const Assignment& a) {
+            return image->Find(a.key) != nullptr;
+        });
+        if (unplaced == pending.begin())
+            throw Problem{place + pending.front().key + L": there is no such key in a record of this type"};
+        for (auto assignment = pending.begin(); assignment != unplaced; ++assignment) {
+            IniImage::Entry& entry = *image->Find(assignment->key);
+            const auto value = ParseAs(entry.value, assignment->value);
+            if (!value)
+                throw Problem{place + assignment->key + L": " + WhatIsWrong(entry.value, assignment->value)};
+            entry.value = *value;
+            assigned.push_back(entry);
+        }
+        pending.erase(pending.begin(), unplaced);
+        IniImage::Apply(image, *settings);
+        if (!probe.Messages().empty())
+            throw Problem{place + L"the values are refused" + Reasons(probe)};
+    }
+    const auto result = IniImage::Of(*settings);
+    for (auto entry = assigned.begin(); entry != assigned.end(); ++entry) {
+        const bool replaced =
+            std::any_of(std::next(entry), assigned.end(),
+                        [&](const IniImage::Entry& later) { return later.path == entry->path; });
+        const IniImage::Entry* const stored = result->Find(entry->path);
+        if (!replaced && (!stored || !SameValue(stored->value, entry->value)))
+            throw Problem{place + entry->path + L": the value " + ToText(entry->value) + L" is not accepted"};
+    }
+}
+
+Json ToJson(const Value& value) {
+    struct Visitor {
+        Json operator()(const std::wstring& text) const { return ToUtf8(text); }
+        Json operator()(std::int16_t number) const { return number; }
+        Json operator()(bool flag) const { return flag; }
+        Json operator()(double number) const {
+            if (std::isfinite(number))
+                return number;
+            return ToUtf8(ToText(number)); // JSON has no number for these
+        }
+    };
+    return std::visit(Visitor{}, value);
+}
+
+Json ToJson(const Probe& probe) {
+    Json settings = Json::object();
+    if (probe.Settings()) {
+        for (const auto& entry : IniImage::Of(*probe.Settings())->Entries()) {
+            const auto slash = entry.path.find(L'/');
+            Json& parent =
+                slash == std::wstring::npos ? settings : settings[ToUtf8(entry.path.substr(0, slash))];
+            parent[ToUtf8(slash == std::wstring::npos ? entry.path : entry.path.substr(slash + 1))] =
+                ToJson(entry.value);
+        }
+    }
+    return {{"section", ToUtf8(probe.Where().section)},
+            {"code", static_cast<std::int32_t>(probe.Conversion().ConversionType())},
+            {"type", ToUtf8(probe.TypeName())},
+            {"name", ToUtf8(probe.Name())},
+            {"settings", std::move(settings)}};
+}
+
+void PrintProbe(const Probe& probe) {
+    std::cout << ToUtf8(L"[" + probe.Where().section + L"] " + probe.TypeName() + L" " + probe.Name())
+              << '\n';
+    if (probe.Settings())
+        for (const auto& entry : IniImage::Of(*probe.Settings())->Entries())
+            std::cout << ToUtf8(entry.path + L"=" + ToText(entry.value)) << '\n';
+}
+
+} // namespace
+
+void ListTypes() {
+    for (const TypeInfo& type : Types())
+        std::cout << type.code << '\t' << ToUtf8(type.enumerator) << '\t' << ToUtf8(type.name) << '\t'
+                  << ToUtf8(type.extension) << '\n';
+}
+
+void ListProbes(const std::wstring& path) {
+    const ProbeFile file(path);
+    for (const Record& record : file.Records()) {
+        Probe probe(path, record);
+        probe.Read();
+        std::cout << ToUtf8(record.section) << '\t' << ToUtf8(probe.TypeName()) << '\t'
+                  << ToUtf8(probe.Name()) << '\n';
+    }
+}
+
+void ShowProbes(const std::wstring& path, const std::wstring* section, bool asJson) {
+    const ProbeFile file(path);
+    std::vector<Record> records = file.Records();
+    if (section)
+        records = {FindRecord(file, *section)};
+    Json array = Json::array();
+    const char* separator = "";
+    for (const Record& record : records) {
+        const Probe probe = ReadProbe(path, record);
+        if (asJson) {
+            array.push_back(ToJson(probe));
+        } else {
+            std::cout << std::exchange(separator, "\n");
+            PrintProbe(probe);
+        }
+    }
+    if (asJson)
+        std::cout << (section ? array.front() : array).dump(2) << '\n';
+}
+
+void NewProbe(const std::wstring& path, const std::wstring& section, const std::wstring& typeText,
+              const std::vector<Assignment>& assignments) {
+    const TypeInfo* const type = ParseType(typeText);
+    if (!type || type->code == CONV_NONE)
+        throw Problem{L"\"" + typeText + L"\" is no conversion type; the command \"types\" lists them"};
+    Target target = FindTarget(path, section, type->section);
+    if (target.exists)
+        throw Problem{Place(path, section) + L": there is a probe in this section already"};
+    Probe probe(path, std::move(target.record));
+    probe.SetType(*type);
+    Assign(probe, path, assignments);
+    WriteProbe(probe, path);
+}
+
+void SetValues(const std::wstring& path, const std::wstring& section,
+               const std::vector<Assignment>& assignments) {
+    const ProbeFile file(path);
+    Probe probe = ReadProbe(path, FindRecord(file, section), assignments);
+    Assign(probe, path, assignments);
+    WriteProbe(probe, path);
+}
+
+void CopyProbe(const std::wstring& fromPath, const std::wstring& fromSection, const std::wstring& toPath,
+               const std::wstring& toSection) {
+    const ProbeFile from(fromPath);
+    const Probe source = ReadProbe(fromPath, FindRecord(from, fromSection));
+    const TypeInfo* const type = FindType(source.Conversion().ConversionType());
+    if (!type)
+        throw Problem{Place(fromPath, fromSection) + L": " + source.TypeName() + L" is no conversion type"};
+    Target target = FindTarget(toPath, toSection, type->section);
+    if (target.exists) {
+        // Nothing ever deletes keys, so a record of another type would leave its own among the new ones.
+        Probe old(toPath, target.record);
+        old.Read();
+        if (old.TypeName() != source.TypeName())
+            throw Problem{Place(toPath, toSection) + L": there is a probe of another type (" +
+                          old.TypeName() + L") in this section"};
+    }
+    Probe copy(toPath, std::move(target.record));
+    copy.SetType(*type);
+    if (source.Settings())
+        IniImage::Apply(IniImage::Of(*source.Settings()), *copy.Settings());
+    WriteProbe(copy, toPath);
+}
+
+} // namespace quorconv

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace quorconv {
+
+/// A wish that cannot be fulfilled; its text says why, with file, section and key where there is one. The
+/// program prints it and ends with 1.
+struct Problem {
+    std::wstring text;
+};
+
+/// A KEY=VALUE of the command line.
+struct Assignment {
+    std::wstring key;
+    std::wstring value;
+};
+
+// The commands. Each prints its results on the standard output and raises Problem or QuorError when it cannot
+// do what it is asked; nothing has been written then.
+
+void ListTypes();
+void ListProbes(const std::wstring& file);
+/// Without a section: every probe.
+void ShowProbes(const std::wstring& file, const std::wstring* section, bool asJson);
+void NewProbe(const std::wstring& file, const std::wstring& section, const std::wstring& type,
+              const std::vector<Assignment>& assignments);
+void SetValues(const std::wstring& file, const std::wstring& section,
+               const std::vector<Assignment>& assignments);
+void CopyProbe(const std::wstring& fromFile, const std::wstring& fromSection, const std::wstring& toFile,
+               const std::wstring& toSection);
+/// Prints each problem of each file as "file:line: [section] key: what is wrong"; true when there is none.
+[[nodiscard]] bool CheckFiles(const std::vector<std::wstring>& files);
+
+} // namespace quorconv

@@ -1,0 +1,102 @@
+#include "apps/quorconv/IniImage.h"
+
+#include "QuorIniFile/IniFormat.h"
+#include "QuorIniFile/IniValue.h"
+#include "QuorIniFile/Utf8.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace quorconv {
+
+using namespace QuorIniFile;
+
+namespace {
+
+constexpr std::wstring_view nestedSection = L" - ";
+
+std::wstring Wide(const std::string& ascii) { return {ascii.begin(), ascii.end()}; }
+
+} // namespace
+
+std::wstring ToText(const Value& value) {
+    struct Visitor {
+        std::wstring operator()(const std::wstring& text) const { return text; }
+        std::wstring operator()(std::int16_t number) const { return Wide(FormatInteger(number)); }
+        std::wstring operator()(double number) const { return Wide(FormatDouble(number)); }
+        std::wstring operator()(bool flag) const { return Wide(FormatBoolean(flag)); }
+    };
+    return std::visit(Visitor{}, value);
+}
+
+std::optional<Value> ParseAs(const Value& kind, const std::wstring& text) {
+    const std::string bytes = ToUtf8(text);
+    const auto asValue = [](const auto& parsed) {
+        return parsed ? std::optional<Value>(*parsed) : std::nullopt;
+    };
+    if (std::holds_alternative<double>(kind))
+        return asValue(ParseDouble(bytes));
+    if (std::holds_alternative<std::int16_t>(kind))
+        return asValue(ParseInteger(bytes));
+    if (std::holds_alternative<bool>(kind))
+        return asValue(ParseBoolean(bytes));
+    return text;
+}
+
+std::wstring WhatIsWrong(const Value& kind, const std::wstring& text) {
+    const std::wstring quoted = L"\"" + text + L"\" ";
+    if (std::holds_alternative<double>(kind))
+        return quoted + (text.find(L',') == std::wstring::npos
+                             ? L"is not a number that a double can hold"
+                             : L"is not a number; the decimal separator is a point");
+    if (std::holds_alternative<std::int16_t>(kind))
+        return quoted + L"is not a whole number from -32768 to 32767";
+    if (std::holds_alternative<bool>(kind))
+        return quoted + L"is neither True nor False";
+    return quoted + L"cannot be read";
+}
+
+bool SameValue(const Value& a, const Value& b) {
+    if (const auto* const x = std::get_if<double>(&a))
+        if (const auto* const y = std::get_if<double>(&b))
+            return (std::isnan(*x) && std::isnan(*y)) || (*x == *y && std::signbit(*x) == std::signbit(*y));
+    return a == b;
+}
+
+std::shared_ptr<IniImage> IniImage::Of(const QuorConversions::SettingsObject& settings) {
+    auto image = std::make_shared<IniImage>();
+    std::shared_ptr<INIFile> iniFile = image;
+    settings.WriteToFile(iniFile, L"", L"");
+    return image;
+}
+
+void IniImage::Apply(std::shared_ptr<IniImage> image, QuorConversions::SettingsObject& settings) {
+    std::shared_ptr<INIFile> iniFile = std::move(image);
+    settings.ReadFromFile(iniFile, L"", L"");
+}
+
+IniImage::Entry* IniImage::Find(std::wstring_view path) {
+    const std::string wanted = ToUtf8(path);
+    const auto entry = std::find_if(m_entries.begin(), m_entries.end(),
+                                    [&](const Entry& e) { return SameName(ToUtf8(e.path), wanted); });
+    return entry == m_entries.end() ? nullptr : &*entry;
+}
+
+void IniImage::SetFileName(std::wstring_view /*fileName*/) {}
+
+void IniImage::SetSection(std::wstring_view section) {
+    // The record itself stands in the section "", a nested one in " - High Range" or the like.
+    m_prefix = section.empty() ? L"" : std::wstring(section.substr(nestedSection.size())) + L"/";
+}
+
+void IniImage::Write(std::wstring_view key, Value value) {
+    if (key == L"Version")
+        return;
+    const std::wstring path = m_prefix + std::wstring(key);
+    if (Entry* const entry = Find(path))
+        entry->value = std::move(value);
+    else
+        m_entries.push_back({path, std::move(value)});
+}
+
+} // namespace quorconv

@@ -1,0 +1,98 @@
+#include "apps/quorconv/Probe.h"
+
+#include "QuorConversions/core/modPaths.h"
+#include "QuorConversions/core/modStrings.h"
+#include "QuorIniFile/IniStore.h"
+
+#include <algorithm>
+
+namespace quorconv {
+
+using namespace QuorConversions;
+
+void MessageLog::ShowMessage(const MessageRequest& request) {
+    std::wstring line;
+    for (const wchar_t character : request.text)
+        if (character != L'\r')
+            line += character;
+        else if (!line.empty() && line.back() != L' ')
+            line += L' ';
+    m_messages.push_back({line, m_reads->Count()});
+}
+
+bool IsVersionMessage(const MessageLog::Message& message) {
+    return message.text == TableText(IDS_WRONG_FILE_VERSION);
+}
+
+Probe::Probe(const std::wstring& path, Record record) : m_path(path), m_record(std::move(record)) {
+    StartAnew();
+}
+
+void Probe::StartAnew() {
+    auto store = std::make_shared<QuorIniFile::IniStore>();
+    store->SetFileName(m_path);
+    m_reads = std::make_shared<ReadLog>(std::move(store));
+    m_messages = std::make_shared<MessageLog>(m_reads);
+    m_conversion = std::make_unique<CQuorConversion>(m_messages);
+}
+
+void Probe::Read() {
+    std::shared_ptr<QuorIniFile::INIFile> iniFile = m_reads;
+    if (!m_record.standAlone) {
+        m_conversion->ReadFromFile(iniFile, L"", m_record.section);
+        return;
+    }
+    // Several types share an extension (the two directions of a thermistor): the first that reads the record
+    // without a complaint is meant, else the first of all.
+    const std::wstring extension = Folded(GetExtensionPart(m_path));
+    std::vector<const TypeInfo*> candidates;
+    for (const TypeInfo& type : Types())
+        if (type.extension == extension)
+            candidates.push_back(&type);
+    candidates.push_back(candidates.front());
+    for (const TypeInfo* const type : candidates) {
+        StartAnew();
+        SetType(*type);
+        iniFile = m_reads;
+        Settings()->ReadFromFile(iniFile, L"", m_record.section);
+        if (Messages().empty())
+            break;
+    }
+}
+
+void Probe::SetType(const TypeInfo& type) { m_conversion->SetConversionType(type.code); }
+
+bool Probe::Write() {
+    std::shared_ptr<QuorIniFile::INIFile> iniFile = m_reads;
+    m_messages->Forget();
+    if (m_record.standAlone)
+        Settings()->WriteToFile(iniFile, L"", m_record.section);
+    else
+        m_conversion->WriteToFile(iniFile, L"", m_record.section);
+    return Messages().empty();
+}
+
+std::wstring Probe::Name() const {
+    return m_conversion->ConversionName(Settings() ? currentValue : m_conversion->ConversionType());
+}
+
+std::wstring Probe::SettingsSection() const {
+    return m_record.standAlone ? m_record.section : m_record.section + L" - Settings";
+}
+
+std::wstring Probe::PathOf(const ReadLog::Read& read) const {
+    const std::wstring root = SettingsSection();
+    if (read.section == root)
+        return read.key;
+    const std::wstring nested = root + L" - ";
+    return read.section.starts_with(nested) ? read.section.substr(nested.size()) + L"/" + read.key
+                                            : std::wstring{};
+}
+
+std::wstring Probe::TypeName() const {
+    const std::int32_t code = m_conversion->ConversionType();
+    const wchar_t* const enumerator = ConversionEnumerator(code);
+    return enumerator ? enumerator : std::to_wstring(code);
+}
+
+} // namespace quorconv

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "QuorConversions/core/CQuorConversion.h"
+#include "QuorConversions/platform/HeadlessPlatform.h"
+#include "apps/quorconv/ProbeFile.h"
+#include "apps/quorconv/ReadLog.h"
+#include "apps/quorconv/Types.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace quorconv {
+
+/// Keeps what the library tells the user, and which read had come last by then.
+class MessageLog final : public QuorConversions::HeadlessPlatform {
+public:
+    struct Message {
+        std::wstring text; ///< on one line
+        std::size_t readsBefore;
+    };
+
+    explicit MessageLog(std::shared_ptr<ReadLog> reads) : m_reads(std::move(reads)) {}
+    [[nodiscard]] const std::vector<Message>& Messages() const { return m_messages; }
+    void Forget() { m_messages.clear(); }
+    void ShowMessage(const QuorConversions::MessageRequest& request) override;
+
+private:
+    std::shared_ptr<ReadLog> m_reads;
+    std::vector<Message> m_messages;
+};
+
+/// The message that tells of missing keys.
+[[nodiscard]] bool IsVersionMessage(const MessageLog::Message& message);
+
+/// A record of a file, or a place for one, with the conversion that belongs there.
+class Probe {
+public:
+    Probe(const std::wstring& path, Record record);
+
+    /// Reads the record. What went wrong stands in Messages() and Reads() afterwards.
+    void Read();
+    /// Makes the probe one of `type`, with default values.
+    void SetType(const TypeInfo& type);
+    /// Writes the record; false when that failed, which Messages() tells then.
+    [[nodiscard]] bool Write();
+
+    [[nodiscard]] const Record& Where() const { return m_record; }
+    [[nodiscard]] QuorConversions::CQuorConversion& Conversion() { return *m_conversion; }
+    [[nodiscard]] const QuorConversions::CQuorConversion& Conversion() const { return *m_conversion; }
+    [[nodiscard]] QuorConversions::SettingsObject* Settings() const { return m_conversion->Settings().get(); }
+    /// The name of the conversion: its settings' own, or its type's where it has none.
+    [[nodiscard]] std::wstring Name() const;
+    /// The enumerator of the type, or the code of one that is none.
+    [[nodiscard]] std::wstring TypeName() const;
+
+    /// The section of the settings: that of the record itself when it stands alone.
+    [[nodiscard]] std::wstring SettingsSection() const;
+    /// The path by which an image of the settings knows what was read; empty for what is not of the settings.
+    [[nodiscard]] std::wstring PathOf(const ReadLog::Read& read) const;
+
+    [[nodiscard]] const std::vector<ReadLog::Read>& Reads() const { return m_reads->Reads(); }
+    [[nodiscard]] const std::vector<MessageLog::Message>& Messages() const { return m_messages->Messages(); }
+    void ForgetMessages() { m_messages->Forget(); }
+
+private:
+    void StartAnew();
+
+    std::wstring m_path;
+    Record m_record;
+    std::shared_ptr<ReadLog> m_reads;
+    std::shared_ptr<MessageLog> m_messages;
+    std::unique_ptr<QuorConversions::CQuorConversion> m_conversion;
+};
+
+} // namespace quorconv

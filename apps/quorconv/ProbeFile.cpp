@@ -1,0 +1,100 @@
+#include "apps/quorconv/ProbeFile.h"
+
+#include "QuorConversions/core/modPaths.h"
+#include "QuorIniFile/IniDisk.h"
+#include "QuorIniFile/IniError.h"
+#include "apps/quorconv/Types.h"
+
+#include <algorithm>
+
+namespace quorconv {
+
+using namespace QuorIniFile;
+
+namespace {
+
+bool SameText(std::wstring_view a, std::wstring_view b) {
+    return Folded(std::wstring(a)) == Folded(std::wstring(b));
+}
+
+std::string BytesOf(const std::wstring& path) {
+    auto file = ReadBytes(path);
+    if (!file)
+        throw FileError(ERROR_FILE_NOT_FOUND, path);
+    if (IsUtf16(file->bytes))
+        throw FileError(ERROR_PATH_FILE_ACCESS, path, L"the file is UTF-16 text");
+    return std::move(file->bytes);
+}
+
+} // namespace
+
+std::optional<std::wstring> StandAloneSection(std::wstring_view path) {
+    const std::wstring extension = Folded(QuorConversions::GetExtensionPart(path));
+    const auto type = std::find_if(Types().begin(), Types().end(), [&](const TypeInfo& t) {
+        return !t.extension.empty() && t.extension == extension;
+    });
+    return type == Types().end() ? std::nullopt : std::optional(type->section);
+}
+
+ProbeFile::ProbeFile(std::wstring path) : m_path(std::move(path)), m_bytes(BytesOf(m_path)) {
+    ReadSections();
+    FindRecords();
+}
+
+void ProbeFile::ReadSections() {
+    IniWalker walker(m_bytes);
+    while (walker.Next()) {
+        const IniLine& line = walker.Line();
+        switch (line.kind) {
+        case IniLineKind::Section:
+            m_sections.push_back({DecodeBytes(line.name), walker.Number(), {}, {}});
+            m_firstByName.emplace(Folded(m_sections.back().name), m_sections.size() - 1);
+            break;
+        case IniLineKind::BrokenSection:
+            m_sections.push_back({{}, walker.Number(), {}, {walker.Number()}});
+            break;
+        case IniLineKind::Key:
+            if (!m_sections.empty())
+                m_sections.back().keys.push_back({DecodeBytes(line.name), line.value, walker.Number()});
+            break;
+        case IniLineKind::Malformed:
+            if (!m_sections.empty())
+                m_sections.back().malformedLines.push_back(walker.Number());
+            break;
+        case IniLineKind::Blank:
+        case IniLineKind::Comment:
+            break;
+        }
+    }
+}
+
+void ProbeFile::FindRecords() {
+    const auto standAlone = StandAloneSection(m_path);
+    for (const Section& section : m_sections) {
+        if (FindSection(section.name) != &section)
+            continue; // nobody reads a second section of that name
+        if (FindKey(section, L"ConversionType"))
+            m_records.push_back({section.name, section.line, false});
+        else if (standAlone && SameText(section.name, *standAlone))
+            m_records.push_back({section.name, section.line, true});
+    }
+}
+
+const ProbeFile::Section* ProbeFile::FindSection(std::wstring_view name) const {
+    const auto found = m_firstByName.find(Folded(std::wstring(name)));
+    return found == m_firstByName.end() ? nullptr : &m_sections[found->second];
+}
+
+std::optional<Record> ProbeFile::FindRecord(std::wstring_view section) const {
+    const auto record = std::find_if(m_records.begin(), m_records.end(),
+                                     [&](const Record& r) { return SameText(r.section, section); });
+    return record == m_records.end() ? std::nullopt : std::optional(*record);
+}
+
+const ProbeFile::Key* ProbeFile::FindKey(const Section& section, std::wstring_view name) {
+    const auto key = std::find_if(section.keys.begin(), section.keys.end(),
+                                  [&](const Key& k) { return SameText(k.name, name); });
+    return key == section.keys.end() ? nullptr : &*key;
+}
+
+} // namespace quorconv

@@ -1,0 +1,57 @@
+#include "apps/quorconv/Types.h"
+
+#include "QuorIniFile/IniValue.h"
+#include "QuorIniFile/Utf8.h"
+
+#include <algorithm>
+
+namespace quorconv {
+
+using namespace QuorConversions;
+
+const std::vector<TypeInfo>& Types() {
+    static const std::vector<TypeInfo> types = [] {
+        std::vector<TypeInfo> all;
+        for (std::int32_t code = CONV_NONE; ConversionEnumerator(code); ++code) {
+            CQuorConversion conversion;
+            conversion.SetConversionType(EQuorConversionType{code});
+            TypeInfo type{EQuorConversionType{code},
+                          ConversionEnumerator(code),
+                          conversion.ConversionName(code),
+                          {},
+                          {}};
+            if (const auto& settings = conversion.Settings()) {
+                type.extension = settings->FileExtension();
+                type.section = settings->SectionName();
+            }
+            all.push_back(std::move(type));
+        }
+        return all;
+    }();
+    return types;
+}
+
+const TypeInfo* FindType(std::int32_t code) {
+    const auto type =
+        std::find_if(Types().begin(), Types().end(), [&](const TypeInfo& t) { return t.code == code; });
+    return type == Types().end() ? nullptr : &*type;
+}
+
+const TypeInfo* ParseType(const std::wstring& text) {
+    if (const auto code = QuorIniFile::ParseInteger(QuorIniFile::ToUtf8(text)))
+        return FindType(*code);
+    const std::wstring wanted = Folded(text);
+    const auto type = std::find_if(Types().begin(), Types().end(), [&](const TypeInfo& t) {
+        return Folded(t.enumerator) == wanted || (!t.extension.empty() && t.extension == wanted);
+    });
+    return type == Types().end() ? nullptr : &*type;
+}
+
+std::wstring Folded(std::wstring text) {
+    for (wchar_t& character : text)
+        if (character >= L'A' && character <= L'Z')
+            character = static_cast<wchar_t>(character - L'A' + L'a');
+    return text;
+}
+
+} // namespace quorconv

@@ -1,0 +1,183 @@
+// quorconv: probe records in INI files, from the command line.
+
+#include "QuorIniFile/QuorError.h"
+#include "QuorIniFile/Utf8.h"
+#include "apps/quorconv/Commands.h"
+
+#include <CLI/CLI.hpp>
+
+#include <functional>
+#include <iostream>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace {
+
+using quorconv::Assignment;
+using QuorIniFile::ToUtf8;
+
+enum ExitCode : int { fine = 0, problemFound = 1, wrongUsage = 2 };
+
+struct UsageError : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+std::wstring Wide(const std::string& argument) {
+    if (auto text = QuorIniFile::FromUtf8(argument))
+        return *std::move(text);
+    throw UsageError("an argument is not UTF-8 text: " + argument);
+}
+
+std::vector<std::wstring> Wide(const std::vector<std::string>& arguments) {
+    std::vector<std::wstring> texts;
+    for (const std::string& argument : arguments)
+        texts.push_back(Wide(argument));
+    return texts;
+}
+
+std::vector<Assignment> Assignments(const std::vector<std::string>& arguments) {
+    std::vector<Assignment> assignments;
+    for (const std::wstring& text : Wide(arguments)) {
+        const auto equals = text.find(L'=');
+        if (equals == std::wstring::npos || equals == 0)
+            throw UsageError("KEY=VALUE expected: " + ToUtf8(text));
+        assignments.push_back({text.substr(0, equals), text.substr(equals + 1)});
+    }
+    return assignments;
+}
+
+/// The command line: one subcommand a command, each with an example.
+class CommandLine {
+public:
+    CommandLine() {
+        m_app.require_subcommand(1);
+        m_app.set_version_flag("--version", "quorconv " QUORCONV_VERSION);
+        m_app.failure_message(CLI::FailureMessage::help);
+        m_app.footer("Exit codes: 0 fine, 1 a problem was found, 2 wrong usage.\n"
+                     "\"quorconv COMMAND --help\" shows an example of each command.");
+
+        auto* types = Add("types", "List the conversion types: code, enumerator, name, file extension",
+                          "quorconv types", [] {
+                              quorconv::ListTypes();
+                              return fine;
+                          });
+        (void)types;
+
+        auto* list = Add("list", "List the probes of a file: section, type, name",
+                         "quorconv list laboratory.ini", [this] {
+                             quorconv::ListProbes(Wide(m_file));
+                             return fine;
+                         });
+        AddFile(list);
+
+        auto* show = Add("show", "Show the settings of a probe, or of all probes of a file",
+                         "quorconv show laboratory.ini \"Probe 1\" --json", [this] {
+                             const std::wstring section = Wide(m_section);
+                             quorconv::ShowProbes(Wide(m_file),
+                                                  m_hasSection->count() > 0 ? &section : nullptr, m_asJson);
+                             return fine;
+                         });
+        AddFile(show);
+        m_hasSection =
+            show->add_option("SECTION", m_section, "The section of the probe; without it, all probes");
+        show->add_flag("--json", m_asJson, "Print JSON: an object for one probe, an array for all");
+
+        auto* create = Add(
+            "new", "Add a probe to a file, which is created when it does not exist",
+            "quorconv new laboratory.ini \"Probe 7\" cvd Coefficients0=100.012 UsePolynomial=True", [this] {
+                quorconv::NewProbe(Wide(m_file), Wide(m_section), Wide(m_type), Assignments(m_assignments));
+                return fine;
+            });
+        AddFile(create);
+        AddSection(create);
+        create->add_option("TYPE", m_type, "A code (2), an enumerator (CONV_CVD) or a file extension (cvd)")
+            ->required();
+        create->add_option("KEY=VALUE", m_assignments, "Values, by the keys that \"show\" prints");
+
+        auto* set =
+            Add("set", "Change values of a probe",
+                "quorconv set laboratory.ini \"Probe 1\" \"Low Range/Coefficients0\"=-2.1E-4", [this] {
+                    quorconv::SetValues(Wide(m_file), Wide(m_section), Assignments(m_assignments));
+                    return fine;
+                });
+        AddFile(set);
+        AddSection(set);
+        set->add_option("KEY=VALUE", m_assignments, "Values, by the keys that \"show\" prints")->required();
+
+        auto* copy =
+            Add("copy", "Copy a probe to a section of the same or another file",
+                "quorconv copy prt-1188.cvd \"Callendar-Van Dusen\" laboratory.ini \"Probe 1\"", [this] {
+                    quorconv::CopyProbe(Wide(m_file), Wide(m_section), Wide(m_toFile), Wide(m_toSection));
+                    return fine;
+                });
+        copy->add_option("FILE", m_file, "The file to copy from")->required();
+        copy->add_option("SECTION", m_section, "The section to copy from")->required();
+        copy->add_option("TO-FILE", m_toFile, "The file to copy to")->required();
+        copy->add_option("TO-SECTION", m_toSection, "The section to copy to")->required();
+
+        auto* check = Add(
+            "check", "Check every probe of the files; each problem is a line FILE:LINE: [SECTION] KEY: ...",
+            "quorconv check laboratory.ini *.cvd",
+            [this] { return quorconv::CheckFiles(Wide(m_files)) ? fine : problemFound; });
+        check->add_option("FILE", m_files, "The files")->required();
+    }
+
+    int Run(int argc, const char* const* argv) {
+        try {
+            m_app.parse(argc, argv);
+        } catch (const CLI::ParseError& error) {
+            // Help and version are asked for as "errors" with the code 0.
+            return m_app.exit(error) == 0 ? fine : wrongUsage;
+        }
+        return m_command();
+    }
+
+private:
+    CLI::App* Add(const std::string& name, const std::string& description, const std::string& example,
+                  std::function<ExitCode()> run) {
+        CLI::App* const command = m_app.add_subcommand(name, description);
+        command->footer("Example:\n  " + example);
+        command->callback([this, run = std::move(run)] { m_command = run; });
+        return command;
+    }
+    void AddFile(CLI::App* command) { command->add_option("FILE", m_file, "The INI file")->required(); }
+    void AddSection(CLI::App* command) {
+        command->add_option("SECTION", m_section, "The section of the probe")->required();
+    }
+
+    CLI::App m_app{"Probe records in INI files: look at them, change them, keep them right."};
+    std::function<ExitCode()> m_command;
+    std::string m_file;
+    std::string m_section;
+    std::string m_type;
+    std::string m_toFile;
+    std::string m_toSection;
+    std::vector<std::string> m_assignments;
+    std::vector<std::string> m_files;
+    bool m_asJson = false;
+    CLI::Option* m_hasSection = nullptr;
+};
+
+int Failed(const std::string& text, ExitCode code) {
+    std::cerr << "quorconv: " << text << '\n';
+    return code;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        const int code = CommandLine().Run(argc, argv);
+        if (!std::cout.flush())
+            return Failed("the results cannot be written", problemFound);
+        return code;
+    } catch (const UsageError& error) {
+        return Failed(error.what(), wrongUsage);
+    } catch (const quorconv::Problem& problem) {
+        return Failed(ToUtf8(problem.text), problemFound);
+    } catch (const std::exception& error) {
+        return Failed(error.what(), problemFound);
+    }
+}
