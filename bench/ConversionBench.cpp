@@ -2,28 +2,9 @@
 
 #include "QuorConversions/core/CQuorConversion.h"
 #include "QuorConversions/rtd/CQuorCVD.h"
+#include "bench/Allocations.h"
 
 #include <benchmark/benchmark.h>
-
-#include <cstddef>
-#include <cstdlib>
-#include <new>
-
-namespace {
-
-std::size_t allocations = 0;
-
-} // namespace
-
-// The whole heap of the process is counted, so that the number of allocations is a figure and not an estimate.
-void* operator new(std::size_t size) {
-    ++allocations;
-    if (void* const memory = std::malloc(size == 0 ? 1 : size))
-        return memory;
-    throw std::bad_alloc();
-}
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t /*size*/) noexcept { std::free(memory); }
 
 namespace {
 
@@ -42,11 +23,11 @@ void MakeCvdProbe() {
 
 void CreateSetDestroyCvd(benchmark::State& state) {
     MakeCvdProbe(); // the default platform is made once
-    const std::size_t before = allocations;
+    const std::size_t before = Bench::Allocations();
     for (auto _ : state)
         MakeCvdProbe();
-    state.counters["allocations"] =
-        benchmark::Counter(static_cast<double>(allocations - before), benchmark::Counter::kAvgIterations);
+    state.counters["allocations"] = benchmark::Counter(static_cast<double>(Bench::Allocations() - before),
+                                                       benchmark::Counter::kAvgIterations);
 }
 BENCHMARK(CreateSetDestroyCvd);
 

@@ -1,4 +1,5 @@
-// Every random bit pattern of a double comes back from its text. Usage: QuorDoubles [COUNT], ten million without one.
+// Every random bit pattern of a double comes back from its text. Usage: QuorDoubles [COUNT], ten million
+// without one.
 
 #include "QuorIniFile/IniValue.h"
 
@@ -17,7 +18,8 @@ int main(int argc, char** argv) {
         std::memcpy(&value, &bits, sizeof value);
         const std::string text = QuorIniFile::FormatDouble(value);
         const auto back = QuorIniFile::ParseDouble(text);
-        const bool same = back && (std::isnan(value) ? std::isnan(*back) : std::memcmp(&value, &*back, sizeof value) == 0);
+        const bool same =
+            back && (std::isnan(value) ? std::isnan(*back) : std::memcmp(&value, &*back, sizeof value) == 0);
         if (!same) {
             std::cout << "lost: " << std::hex << bits << " written as " << text << '\n';
             return 1;

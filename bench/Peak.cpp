@@ -1,4 +1,5 @@
-// How much memory a process needs that loads a host file, beside the size of the file. Usage: QuorPeak FILE SECTION
+// How much memory a process needs that loads a host file, beside the size of the file. Usage: QuorPeak FILE
+// SECTION
 
 #include "QuorIniFile/IniStore.h"
 
@@ -34,6 +35,7 @@ int main(int argc, char** argv) {
     if (!store.ReadString(L"Version", version))
         return 1;
     std::cout << "Loading " << size / 1e6 << " MB takes " << (PeakMemory() - before) / size
-              << " times the file in memory at the peak, " << PeakMemory() / size << " with the whole process\n";
+              << " times the file in memory at the peak, " << PeakMemory() / size
+              << " with the whole process\n";
     return 0;
 }

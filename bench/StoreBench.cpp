@@ -1,5 +1,5 @@
-// What a host pays for its file of probes. The files are those of QuorWorkload: N.ini, N probes, in the folder that
-// the environment names in QUOR_WORKLOADS.
+// What a host pays for its file of probes. The files are those of QuorWorkload: N.ini, N probes, in the
+// folder that the environment names in QUOR_WORKLOADS.
 
 #include "QuorConversions/core/CQuorConversion.h"
 #include "QuorConversions/rtd/CQuorCVD.h"
@@ -33,7 +33,8 @@ std::shared_ptr<QuorIniFile::IniStore> LoadedStore(const std::filesystem::path& 
     return store;
 }
 
-/// Ten probes, spread over the whole file: the same number of warm records in a small file and in a large one.
+/// Ten probes, spread over the whole file: the same number of warm records in a small file and in a large
+/// one.
 std::wstring SectionOf(std::int64_t round, std::int64_t probes) {
     return L"Probe " + std::to_wstring(round % 10 * (probes / 10));
 }

@@ -1,7 +1,8 @@
 // Writes the host file on which the benchmarks run. Usage: QuorWorkload PROBES > FILE
 //
-// Each probe is a facade record of type 2 in two sections, with doubles of full precision; every tenth section has a
-// comment. 100,000 probes make about 25 MB. The same number of probes always makes the same file.
+// Each probe is a facade record of type 2 in two sections, with doubles of full precision; every tenth
+// section has a comment. 100,000 probes make about 25 MB. The same number of probes always makes the same
+// file.
 
 #include "QuorIniFile/IniValue.h"
 

@@ -11,6 +11,7 @@
 #include <iostream>
 #include <map>
 #include <set>
+#include <utility>
 
 namespace quorconv {
 
@@ -27,8 +28,9 @@ public:
     [[nodiscard]] bool Run() {
         if (const auto section = StandAloneSection(m_file.Path()); section && m_file.Records().empty())
             Report(1, *section, L"", L"the section is missing");
+        const auto store = StoreOf(m_file.Path());
         for (const Record& record : m_file.Records())
-            CheckRecord(record);
+            CheckRecord(Probe(store, m_file.Path(), record), record);
         for (const auto& [line, text] : m_problems)
             std::cout << ToUtf8(m_file.Path()) << ':' << line << ": " << ToUtf8(text) << '\n';
         return m_problems.empty();
@@ -40,8 +42,7 @@ private:
         m_problems.emplace(line, L"[" + section + L"] " + (key.empty() ? L"" : key + L": ") + what);
     }
 
-    void CheckRecord(const Record& record) {
-        Probe probe(m_file.Path(), record);
+    void CheckRecord(Probe probe, const Record& record) {
         probe.Read();
         bool aborted = CheckType(probe);
         if (!aborted) {
@@ -53,11 +54,10 @@ private:
 
     /// True when the type is not known, so that nothing else can be said of the record.
     bool CheckType(const Probe& probe) {
-        const auto& reads = probe.Reads();
-        if (probe.Where().standAlone || reads.empty())
+        if (probe.Where().standAlone || probe.Reads().empty())
             return false;
-        const ReadLog::Read& type = reads.front();
-        if (!type.found) {
+        const ReadLog::Read& type = probe.Reads().front();
+        if (!probe.HasType()) {
             ReportRead(type, probe.Where());
             return true;
         }
@@ -83,7 +83,7 @@ private:
                 [](const ReadLog::Read& read) { return std::holds_alternative<std::int16_t>(read.value); });
             if (blamed == end)
                 Report(probe.Where().line, probe.Where().section, L"", message.text);
-            else
+            else if (m_blamed.emplace(blamed->section, blamed->key).second)
                 ReportAt(*blamed, probe.Where(), message.text);
         }
         return aborted;
@@ -98,7 +98,8 @@ private:
                 continue;
             }
             const auto* const stored = image ? image->Find(probe.PathOf(read)) : nullptr;
-            if (stored && !SameValue(stored->value, read.value))
+            if (stored && !SameValue(stored->value, read.value) &&
+                !m_blamed.contains({read.section, read.key}))
                 ReportAt(read, record,
                          L"the value " + ToText(read.value) + L" is not accepted; " + ToText(stored->value) +
                              L" would be used");
@@ -113,29 +114,26 @@ private:
             known[Folded(probe.SettingsSection())];
         for (const ReadLog::Read& read : probe.Reads())
             known[Folded(read.section)].insert(Folded(read.key));
-        for (const auto& section : m_file.Sections()) {
-            const auto keys = known.find(Folded(section.name));
-            if (keys == known.end() || section.name.empty())
-                continue;
-            const auto* const first = m_file.FindSection(section.name);
-            if (first != &section) {
-                Report(section.line, section.name, L"",
-                       L"the section stands twice; the one in line " + std::to_wstring(first->line) +
-                           L" is read");
-                continue;
-            }
-            for (const std::size_t line : section.malformedLines)
-                Report(line, section.name, L"", L"the line is no key=value");
-            for (const auto& key : section.keys) {
-                const auto* const read = ProbeFile::FindKey(section, key.name);
-                if (read != &key)
-                    Report(key.line, section.name, key.name,
-                           L"the key stands twice; the one in line " + std::to_wstring(read->line) +
-                               L" is read");
-                else if (!aborted && Folded(key.name) != L"version" &&
-                         keys->second.count(Folded(key.name)) == 0)
-                    Report(key.line, section.name, key.name, L"unknown key");
-            }
+        for (const auto& [name, keys] : known)
+            if (const auto* const section = m_file.FindSection(name))
+                CheckSection(*section, keys, aborted);
+    }
+
+    void CheckSection(const ProbeFile::Section& section, const std::set<std::wstring>& known, bool aborted) {
+        const std::wstring isRead = L"the one in line ";
+        for (const std::size_t line : section.repetitions)
+            Report(line, section.name, L"",
+                   L"the section stands twice; " + isRead + std::to_wstring(section.line) + L" is read");
+        for (const std::size_t line : section.malformedLines)
+            Report(line, section.name, L"", L"the line is no key=value");
+        for (const auto& key : section.keys) {
+            const auto* const read = ProbeFile::FindKey(section, key.name);
+            if (read != &key)
+                Report(key.line, section.name, key.name,
+                       L"the key stands twice; " + isRead + std::to_wstring(read->line) + L" is read");
+            else if (!aborted && Folded(key.name) != L"version" && known.count(Folded(key.name)) == 0)
+                Report(key.line, section.name, key.name,
+                       L"unknown key: a record of this type and size does not hold it");
         }
     }
 
@@ -164,6 +162,8 @@ private:
     ProbeFile m_file;
     std::multimap<std::size_t, std::wstring> m_problems;
     std::set<std::wstring> m_missingSections;
+    std::set<std::pair<std::wstring, std::wstring>>
+        m_blamed; ///< sections and keys that the library complained of
 };
 
 } // namespace

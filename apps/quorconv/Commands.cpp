@@ -60,8 +60,9 @@ bool IsCompletedBy(const Probe& probe, const std::vector<Assignment>& assignment
 
 /// The probe of a record; raises Problem when the library could not read all of it, but for what `completion`
 /// gives.
-Probe ReadProbe(const std::wstring& file, Record record, const std::vector<Assignment>& completion = {}) {
-    Probe probe(file, std::move(record));
+Probe ReadProbe(const std::shared_ptr<QuorIniFile::INIFile>& store, const std::wstring& file, Record record,
+                const std::vector<Assignment>& completion = {}) {
+    Probe probe(store, file, std::move(record));
     probe.Read();
     if (!IsCompletedBy(probe, completion))
         throw Problem{Place(file, probe.Where().section) + L": the record cannot be read" + Reasons(probe)};
@@ -161,7 +162,8 @@ Json ToJson(const Value& value) {
 Json ToJson(const Probe& probe) {
     Json settings = Json::object();
     if (probe.Settings()) {
-        for (const auto& entry : IniImage::Of(*probe.Settings())->Entries()) {
+        const auto image = IniImage::Of(*probe.Settings());
+        for (const auto& entry : image->Entries()) {
             const auto slash = entry.path.find(L'/');
             Json& parent =
                 slash == std::wstring::npos ? settings : settings[ToUtf8(entry.path.substr(0, slash))];
@@ -179,9 +181,11 @@ Json ToJson(const Probe& probe) {
 void PrintProbe(const Probe& probe) {
     std::cout << ToUtf8(L"[" + probe.Where().section + L"] " + probe.TypeName() + L" " + probe.Name())
               << '\n';
-    if (probe.Settings())
-        for (const auto& entry : IniImage::Of(*probe.Settings())->Entries())
-            std::cout << ToUtf8(entry.path + L"=" + ToText(entry.value)) << '\n';
+    if (!probe.Settings())
+        return;
+    const auto image = IniImage::Of(*probe.Settings());
+    for (const auto& entry : image->Entries())
+        std::cout << ToUtf8(entry.path + L"=" + ToText(entry.value)) << '\n';
 }
 
 } // namespace
@@ -194,11 +198,12 @@ void ListTypes() {
 
 void ListProbes(const std::wstring& path) {
     const ProbeFile file(path);
+    const auto store = StoreOf(path);
     for (const Record& record : file.Records()) {
-        Probe probe(path, record);
+        Probe probe(store, path, record);
         probe.Read();
-        std::cout << ToUtf8(record.section) << '\t' << ToUtf8(probe.TypeName()) << '\t'
-                  << ToUtf8(probe.Name()) << '\n';
+        const std::wstring type = probe.HasType() ? probe.TypeName() + L"\t" + probe.Name() : L"?\t?";
+        std::cout << ToUtf8(record.section + L"\t" + type) << '\n';
     }
 }
 
@@ -207,10 +212,11 @@ void ShowProbes(const std::wstring& path, const std::wstring* section, bool asJs
     std::vector<Record> records = file.Records();
     if (section)
         records = {FindRecord(file, *section)};
+    const auto store = StoreOf(path);
     Json array = Json::array();
     const char* separator = "";
     for (const Record& record : records) {
-        const Probe probe = ReadProbe(path, record);
+        const Probe probe = ReadProbe(store, path, record);
         if (asJson) {
             array.push_back(ToJson(probe));
         } else {
@@ -230,7 +236,7 @@ void NewProbe(const std::wstring& path, const std::wstring& section, const std::
     Target target = FindTarget(path, section, type->section);
     if (target.exists)
         throw Problem{Place(path, section) + L": there is a probe in this section already"};
-    Probe probe(path, std::move(target.record));
+    Probe probe(StoreOf(path), path, std::move(target.record));
     probe.SetType(*type);
     Assign(probe, path, assignments);
     WriteProbe(probe, path);
@@ -239,7 +245,7 @@ void NewProbe(const std::wstring& path, const std::wstring& section, const std::
 void SetValues(const std::wstring& path, const std::wstring& section,
                const std::vector<Assignment>& assignments) {
     const ProbeFile file(path);
-    Probe probe = ReadProbe(path, FindRecord(file, section), assignments);
+    Probe probe = ReadProbe(StoreOf(path), path, FindRecord(file, section), assignments);
     Assign(probe, path, assignments);
     WriteProbe(probe, path);
 }
@@ -247,20 +253,21 @@ void SetValues(const std::wstring& path, const std::wstring& section,
 void CopyProbe(const std::wstring& fromPath, const std::wstring& fromSection, const std::wstring& toPath,
                const std::wstring& toSection) {
     const ProbeFile from(fromPath);
-    const Probe source = ReadProbe(fromPath, FindRecord(from, fromSection));
+    const Probe source = ReadProbe(StoreOf(fromPath), fromPath, FindRecord(from, fromSection));
     const TypeInfo* const type = FindType(source.Conversion().ConversionType());
     if (!type)
         throw Problem{Place(fromPath, fromSection) + L": " + source.TypeName() + L" is no conversion type"};
     Target target = FindTarget(toPath, toSection, type->section);
+    const auto store = StoreOf(toPath);
     if (target.exists) {
         // Nothing ever deletes keys, so a record of another type would leave its own among the new ones.
-        Probe old(toPath, target.record);
+        Probe old(store, toPath, target.record);
         old.Read();
         if (old.TypeName() != source.TypeName())
             throw Problem{Place(toPath, toSection) + L": there is a probe of another type (" +
                           old.TypeName() + L") in this section"};
     }
-    Probe copy(toPath, std::move(target.record));
+    Probe copy(store, toPath, std::move(target.record));
     copy.SetType(*type);
     if (source.Settings())
         IniImage::Apply(IniImage::Of(*source.Settings()), *copy.Settings());

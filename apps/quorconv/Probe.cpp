@@ -24,14 +24,19 @@ bool IsVersionMessage(const MessageLog::Message& message) {
     return message.text == TableText(IDS_WRONG_FILE_VERSION);
 }
 
-Probe::Probe(const std::wstring& path, Record record) : m_path(path), m_record(std::move(record)) {
+std::shared_ptr<QuorIniFile::INIFile> StoreOf(const std::wstring& path) {
+    auto store = std::make_shared<QuorIniFile::IniStore>();
+    store->SetFileName(path);
+    return store;
+}
+
+Probe::Probe(std::shared_ptr<QuorIniFile::INIFile> store, std::wstring path, Record record)
+    : m_store(std::move(store)), m_path(std::move(path)), m_record(std::move(record)) {
     StartAnew();
 }
 
 void Probe::StartAnew() {
-    auto store = std::make_shared<QuorIniFile::IniStore>();
-    store->SetFileName(m_path);
-    m_reads = std::make_shared<ReadLog>(std::move(store));
+    m_reads = std::make_shared<ReadLog>(m_store);
     m_messages = std::make_shared<MessageLog>(m_reads);
     m_conversion = std::make_unique<CQuorConversion>(m_messages);
 }
@@ -88,6 +93,8 @@ std::wstring Probe::PathOf(const ReadLog::Read& read) const {
     return read.section.starts_with(nested) ? read.section.substr(nested.size()) + L"/" + read.key
                                             : std::wstring{};
 }
+
+bool Probe::HasType() const { return m_record.standAlone || (!Reads().empty() && Reads().front().found); }
 
 std::wstring Probe::TypeName() const {
     const std::int32_t code = m_conversion->ConversionType();

@@ -30,13 +30,17 @@ private:
     std::vector<Message> m_messages;
 };
 
+/// A store bound to the file `path`.
+[[nodiscard]] std::shared_ptr<QuorIniFile::INIFile> StoreOf(const std::wstring& path);
+
 /// The message that tells of missing keys.
 [[nodiscard]] bool IsVersionMessage(const MessageLog::Message& message);
 
 /// A record of a file, or a place for one, with the conversion that belongs there.
 class Probe {
 public:
-    Probe(const std::wstring& path, Record record);
+    /// Stands on a store that is bound to the file `path`; the probes of one file share it.
+    Probe(std::shared_ptr<QuorIniFile::INIFile> store, std::wstring path, Record record);
 
     /// Reads the record. What went wrong stands in Messages() and Reads() afterwards.
     void Read();
@@ -51,6 +55,8 @@ public:
     [[nodiscard]] QuorConversions::SettingsObject* Settings() const { return m_conversion->Settings().get(); }
     /// The name of the conversion: its settings' own, or its type's where it has none.
     [[nodiscard]] std::wstring Name() const;
+    /// Whether the record says its type. The library takes one that does not for an ITS-90 calibration.
+    [[nodiscard]] bool HasType() const;
     /// The enumerator of the type, or the code of one that is none.
     [[nodiscard]] std::wstring TypeName() const;
 
@@ -66,6 +72,7 @@ public:
 private:
     void StartAnew();
 
+    std::shared_ptr<QuorIniFile::INIFile> m_store;
     std::wstring m_path;
     Record m_record;
     std::shared_ptr<ReadLog> m_reads;

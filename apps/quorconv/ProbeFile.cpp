@@ -47,11 +47,14 @@ void ProbeFile::ReadSections() {
         const IniLine& line = walker.Line();
         switch (line.kind) {
         case IniLineKind::Section:
-            m_sections.push_back({DecodeBytes(line.name), walker.Number(), {}, {}});
-            m_firstByName.emplace(Folded(m_sections.back().name), m_sections.size() - 1);
+            m_sections.push_back({DecodeBytes(line.name), walker.Number(), {}, {}, {}});
+            if (const auto [first, isFirst] =
+                    m_firstByName.emplace(Folded(m_sections.back().name), m_sections.size() - 1);
+                !isFirst)
+                m_sections[first->second].repetitions.push_back(walker.Number());
             break;
         case IniLineKind::BrokenSection:
-            m_sections.push_back({{}, walker.Number(), {}, {walker.Number()}});
+            m_sections.push_back({{}, walker.Number(), {}, {walker.Number()}, {}});
             break;
         case IniLineKind::Key:
             if (!m_sections.empty())

@@ -32,6 +32,8 @@ public:
         std::size_t line;
         std::vector<Key> keys;
         std::vector<std::size_t> malformedLines;
+        std::vector<std::size_t>
+            repetitions; ///< lines of later headers with the same name, which nobody reads
     };
 
     /// Reads the file. Raises QuorError when it cannot be read.

@@ -54,7 +54,7 @@ public:
     CommandLine() {
         m_app.require_subcommand(1);
         m_app.set_version_flag("--version", "quorconv " QUORCONV_VERSION);
-        m_app.failure_message(CLI::FailureMessage::help);
+        m_app.failure_message(CLI::FailureMessage::simple);
         m_app.footer("Exit codes: 0 fine, 1 a problem was found, 2 wrong usage.\n"
                      "\"quorconv COMMAND --help\" shows an example of each command.");
 

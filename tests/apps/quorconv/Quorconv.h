@@ -1,0 +1,49 @@
+#pragma once
+
+#include "tests/support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include <sys/wait.h>
+
+/// What a run of the program printed, and how it ended.
+struct Outcome {
+    int code;
+    std::string out;
+    std::string err;
+};
+
+/// Runs quorconv in a folder of the test's own, as a script would.
+class QuorconvTest : public testing::Test {
+protected:
+    TempFolder folder;
+
+    [[nodiscard]] Outcome Quorconv(const std::vector<std::string>& arguments) const {
+        std::string command = "cd '" + folder.Path().string() + "' && '" QUORCONV "'";
+        for (const std::string& argument : arguments)
+            command += " '" + argument + "'";
+        const int status = std::system((command + " >.out 2>.err").c_str());
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, folder.Read(".out"), folder.Read(".err")};
+    }
+
+    /// Expects a run that is fine, prints `out` and has nothing to say besides.
+    void ExpectFine(const std::vector<std::string>& arguments, const std::string& out = "") const {
+        const Outcome run = Quorconv(arguments);
+        EXPECT_EQ(run.code, 0);
+        EXPECT_EQ(run.out, out);
+        EXPECT_EQ(run.err, "");
+    }
+
+    /// Expects a run that does nothing, prints nothing and says `err`.
+    void ExpectRefused(const std::vector<std::string>& arguments, const std::string& err,
+                       int code = 1) const {
+        const Outcome run = Quorconv(arguments);
+        EXPECT_EQ(run.code, code);
+        EXPECT_EQ(run.out, "");
+        EXPECT_EQ(run.err, err);
+    }
+};

@@ -1,0 +1,102 @@
+#include "tests/apps/quorconv/Quorconv.h"
+
+#include <filesystem>
+
+TEST_F(QuorconvTest, ChecksTheSamplesWithoutAComplaint) {
+    std::vector<std::string> arguments{"check"};
+    for (const auto& entry : std::filesystem::directory_iterator(QUOR_SAMPLES))
+        if (entry.path().extension() != ".md" && entry.path().filename().string().front() != '.')
+            arguments.push_back(entry.path().string());
+    EXPECT_EQ(arguments.size(), 14U);
+    ExpectFine(arguments);
+}
+
+namespace {
+
+struct BadFile {
+    const char* claim;
+    const char* file;
+    const char* problems; ///< all that is printed
+};
+
+const BadFile badFiles[] = {
+    {"a missing key stands at the header of its section",
+     "[A]\nConversionType=14\n[A - Settings]\nVersion=1.0\n", //
+     "host.ini:3: [A - Settings] RTPW: the key is missing\n"},
+    {"a missing section is one problem",
+     "[A]\nConversionType=2\n", //
+     "host.ini:1: [A - Settings] the section is missing\n"},
+    {"a value that cannot be read stands at its line", "[A]\nConversionType=14\n[A - Settings]\nRTPW=25,5\n",
+     "host.ini:4: [A - Settings] RTPW: \"25,5\" is not a number; the decimal separator is a point\n"},
+    {"unknown keys are told in each section of a record, not in the host's own",
+     "[Host]\nColour=red\n[A]\nConversionType=14\nColour=red\n[A - Settings]\nRTPW=25.5\nRTWP=25.6\n",
+     "host.ini:5: [A] Colour: unknown key: a record of this type and size does not hold it\n"
+     "host.ini:8: [A - Settings] RTWP: unknown key: a record of this type and size does not hold it\n"},
+    {"surplus coefficients are told",
+     "[A]\nConversionType=19\n[A - Settings]\nNumCoefficients=1\nCoefficients0=100\nCoefficients1=7\n",
+     "host.ini:6: [A - Settings] Coefficients1: unknown key: a record of this type and size does not hold "
+     "it\n"},
+    {"keys and sections that stand twice are told with the line that counts",
+     "[A]\nConversionType=14\n[A - Settings]\nRTPW=25.5\nrtpw=25.6\n[a - settings]\nRTPW=1\n",
+     "host.ini:5: [A - Settings] rtpw: the key stands twice; the one in line 4 is read\n"
+     "host.ini:6: [A - Settings] the section stands twice; the one in line 3 is read\n"},
+    {"a line that is no key is told",
+     "[A]\nConversionType=14\n[A - Settings]\nRTPW=25.5\nRTPW 25.6\n", //
+     "host.ini:5: [A - Settings] the line is no key=value\n"},
+    {"a type that does not exist is told",
+     "[A]\nConversionType=99\n", //
+     "host.ini:2: [A] ConversionType: 99 is no conversion type\n"},
+    {"a type that cannot be read is all that can be told",
+     "[A]\nConversionType=two\n[A - Settings]\nRTPW=1\n",
+     "host.ini:2: [A] ConversionType: \"two\" is not a whole number from -32768 to 32767\n"},
+    {"a count that the class refuses is to blame for the index",
+     "[A]\nConversionType=3\n[A - Settings]\nNumCoefficients=4\nCoefficients0=1\nCoefficients1=1\n"
+     "Coefficients2=1\nCoefficients3=1\n",
+     "host.ini:4: [A - Settings] NumCoefficients: An error occurred while attempting to read settings. "
+     "Error: -2147221003 - Index out of range (CQuorHTPRT)\n"},
+    {"a value that would be ignored silently is told",
+     "[A]\nConversionType=8\n[A - Settings]\nNumPoints=11\n" //
+     "Temperatures0=0\nVoltages0=0\nTemperatures1=0\nVoltages1=0\nTemperatures2=0\nVoltages2=0\n"
+     "Temperatures3=0\nVoltages3=0\nTemperatures4=0\nVoltages4=0\nTemperatures5=0\nVoltages5=0\n"
+     "Temperatures6=0\nVoltages6=0\nTemperatures7=0\nVoltages7=0\nTemperatures8=0\nVoltages8=0\n"
+     "Temperatures9=0\nVoltages9=0\n",
+     "host.ini:4: [A - Settings] NumPoints: the value 11 is not accepted; 10 would be used\n"},
+    {"the other thermistor direction is told",
+     "[A]\nConversionType=6\n[A - Settings]\nConvType=0\nNumCoefficients=0\n",
+     "host.ini:4: [A - Settings] ConvType: This configuration file does not contain Thermistor R(T) "
+     "coefficients. "
+     "The conversion type must be changed to T(R) to open this file.\n"},
+    {"a range outside the limits is told",
+     "[A]\nConversionType=17\n[A - Settings]\nRTPW=25.5\n[A - Settings - High Range]\nRange=-1\n"
+     "[A - Settings - Low Range]\nRange=4\nCoefficients0=1\nCoefficients1=1\n",
+     "host.ini:8: [A - Settings - Low Range] Range: An error occurred while attempting to read settings. "
+     "Error: -2147221002 - ITS-90 range out of range. (CQuorITS90LowRange)\n"},
+    {"a file without probes is fine", "[Host]\nColour=red\n", ""},
+};
+
+} // namespace
+
+TEST_F(QuorconvTest, ChecksEachRecordAndTellsFileLineSectionAndKey) {
+    for (const BadFile& bad : badFiles) {
+        SCOPED_TRACE(bad.claim);
+        folder.Write("host.ini", bad.file);
+        const Outcome run = Quorconv({"check", "host.ini"});
+        EXPECT_EQ(run.out, bad.problems);
+        EXPECT_EQ(run.err, "");
+        EXPECT_EQ(run.code, *bad.problems == '\0' ? 0 : 1);
+        EXPECT_EQ(folder.Read("host.ini"), bad.file);
+    }
+}
+
+TEST_F(QuorconvTest, ChecksEveryFileAndGoesOnAfterABadOne) {
+    folder.Write("a.w90", "[W(T90)]\nRTPW=x\n");
+    folder.Write("b.w90", "[RTPW]\nRTPW=25\n");
+    folder.Write("c.w90", "\xFF\xFE[\0W\0");
+    folder.Write("d.w90", "[W(T90)]\nRTPW=25\n");
+    const Outcome run = Quorconv({"check", "a.w90", "b.w90", "c.w90", "missing.w90", "d.w90"});
+    EXPECT_EQ(run.code, 1);
+    EXPECT_EQ(run.out, "a.w90:2: [W(T90)] RTPW: \"x\" is not a number that a double can hold\n"
+                       "b.w90:1: [W(T90)] the section is missing\n"
+                       "c.w90: Path/File access error: c.w90: the file is UTF-16 text\n"
+                       "missing.w90: File not found: missing.w90\n");
+}

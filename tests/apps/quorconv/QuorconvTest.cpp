@@ -1,0 +1,304 @@
+#include "tests/apps/quorconv/Quorconv.h"
+
+#include <filesystem>
+#include <sstream>
+
+namespace {
+
+const std::string hostFile = "; The host's own file\n"
+                             "[Instrument]\n"
+                             "Channels=4 ; of eight\n"
+                             "\n"
+                             "[Probe 1]\n"
+                             "Version=1.0\n"
+                             "ConversionType=2\n"
+                             "\n"
+                             "[Probe 1 - Settings]\n"
+                             "Version=1.0\n"
+                             "NumCoefficients=4\n"
+                             "UsePolynomial=True\n"
+                             "; IEC 60751\n"
+                             "Coefficients0=100.0\n"
+                             "Coefficients1=3.9083E-3\n"
+                             "Coefficients2=-5.775E-7\n"
+                             "Coefficients3=-4.183E-12\n";
+
+std::string Replaced(std::string text, const std::string& from, const std::string& to) {
+    return text.replace(text.find(from), from.size(), to);
+}
+
+} // namespace
+
+TEST_F(QuorconvTest, ListsTheConversionTypes) {
+    ExpectFine({"types"}, "-1\tCONV_NONE\t<keep existing>\t\n"
+                          "0\tCONV_ITS90\tITS-90\ti90\n"
+                          "1\tCONV_IPTS68\tIPTS-68\ti68\n"
+                          "2\tCONV_CVD\tCallendar-Van Dusen\tcvd\n"
+                          "3\tCONV_HTPRT\tHigh Temperature PRT\thpt\n"
+                          "4\tCONV_POLYNOMIAL\tPolynomial\tply\n"
+                          "5\tCONV_THERMISTORT_R\tThermistor T(R)\tthr\n"
+                          "6\tCONV_THERMISTORR_T\tThermistor R(T)\tthr\n"
+                          "7\tCONV_TCPOLYNOMIAL\tTC Polynomial\ttcp\n"
+                          "8\tCONV_TCTABLE\tTC Table\ttct\n"
+                          "9\tCONV_TCTYPEX\tTC Type \ttcx\n"
+                          "10\tCONV_OHMS\tOhms\t\n"
+                          "11\tCONV_VOLTS\tVolts\t\n"
+                          "12\tCONV_IEC751\tIEC-751\t\n"
+                          "13\tCONV_YSI400\tYSI-400\t\n"
+                          "14\tCONV_WT90\tW(T90)\tw90\n"
+                          "15\tCONV_RATIO\tRatio\t\n"
+                          "16\tCONV_PT100\tPT100\t\n"
+                          "17\tCONV_ITSSR5\tITS-SR5\ti90\n"
+                          "18\tCONV_THERMISTOR_OHMS\t<unknown>\t\n"
+                          "19\tCONV_PT100R0\t<unknown>\tpt1\n"
+                          "20\tCONV_TCTYPEPOLY\t<unknown>\tttp\n");
+}
+
+TEST_F(QuorconvTest, ListsTheProbesOfAHostFileAndNothingElseInIt) {
+    folder.Write("host.ini", hostFile + "[Probe 2]\nConversionType=10\n[Probe 3]\nConversionType=x\n");
+    ExpectFine({"list", "host.ini"}, "Probe 1\tCONV_CVD\tCallendar-Van Dusen\n"
+                                     "Probe 2\tCONV_OHMS\tOhms\n"
+                                     "Probe 3\t?\t?\n");
+}
+
+TEST_F(QuorconvTest, ListsTheRecordOfAStandAloneFile) {
+    folder.Write("a.thr", "[Thermistor]\nConvType=1\nNumCoefficients=1\nCoefficients0=2\n");
+    ExpectFine({"list", "a.thr"}, "Thermistor\tCONV_THERMISTORR_T\tThermistor R(T)\n");
+    folder.Write("b.PT1", "[Callendar-Van Dusen]\nNumCoefficients=1\nCoefficients0=100.1\n");
+    ExpectFine({"list", "b.PT1"}, "Callendar-Van Dusen\tCONV_PT100R0\tPT100\n");
+}
+
+TEST_F(QuorconvTest, ShowsAProbeByItsKeysWithExactNumbers) {
+    folder.Write("host.ini", hostFile);
+    ExpectFine({"show", "host.ini", "probe 1"}, "[Probe 1] CONV_CVD Callendar-Van Dusen\n"
+                                                "NumCoefficients=4\n"
+                                                "UsePolynomial=True\n"
+                                                "Coefficients0=100\n"
+                                                "Coefficients1=0.0039083\n"
+                                                "Coefficients2=-5.775e-07\n"
+                                                "Coefficients3=-4.183e-12\n");
+}
+
+TEST_F(QuorconvTest, ShowsNestedRecordsByTheirPath) {
+    ExpectFine({"new", "a.ini", "S", "i90", "RTPW=25.5"});
+    ExpectFine({"set", "a.ini", "S", "High Range/Range=10", "High Range/Coefficients0=-1E-4"});
+    ExpectFine({"show", "a.ini"}, "[S] CONV_ITS90 ITS-90\n"
+                                  "RTPW=25.5\n"
+                                  "High Range/Range=10\n"
+                                  "High Range/Coefficients0=-1e-04\n"
+                                  "Low Range/Range=-1\n");
+}
+
+TEST_F(QuorconvTest, ShowsAProbeAsAJsonObject) {
+    folder.Write("a.tcx", "[Thermocouple Type]\nTCType=4\nNumPoints=1\nTempScale=°C\nOffsetScale=K\n"
+                          "Temperatures0=0.1\nOffsets0=-0\nCoefficients0=NaN\nCoefficients1=5e-324\n");
+    ExpectFine({"show", "a.tcx", "Thermocouple Type", "--json"}, R"({
+  "section": "Thermocouple Type",
+  "code": 9,
+  "type": "CONV_TCTYPEX",
+  "name": "TC Type K",
+  "settings": {
+    "TCType": 4,
+    "NumPoints": 1,
+    "TempScale": "°C",
+    "OffsetScale": "K",
+    "Temperatures0": 0.1,
+    "Offsets0": -0.0,
+    "Coefficients0": "NaN",
+    "Coefficients1": 5e-324
+  }
+}
+)");
+}
+
+TEST_F(QuorconvTest, ShowsAllProbesAsAJsonArrayWithNestedRecordsInside) {
+    ExpectFine({"new", "a.ini", "S", "17", "RTPW=25.5", "Low Range/Coefficients0=1E-4"});
+    ExpectFine({"show", "a.ini", "--json"}, R"([
+  {
+    "section": "S",
+    "code": 17,
+    "type": "CONV_ITSSR5",
+    "name": "ITS-90",
+    "settings": {
+      "RTPW": 25.5,
+      "High Range": {
+        "Range": -1
+      },
+      "Low Range": {
+        "Range": 5,
+        "Coefficients0": 0.0001,
+        "Coefficients1": 0.0
+      }
+    }
+  }
+]
+)");
+}
+
+TEST_F(QuorconvTest, AddsAProbeByCodeEnumeratorOrExtension) {
+    for (const char* const type : {"2", "CONV_CVD", "conv_cvd", "cvd", "CVD"}) {
+        const std::string file = std::string(type) + ".ini";
+        ExpectFine({"new", file, "Probe 1", type, "Coefficients0=100.0123", "UsePolynomial=true"});
+        EXPECT_EQ(folder.Read(file), "[Probe 1]\n"
+                                     "Version=1.0\n"
+                                     "ConversionType=2\n"
+                                     "\n"
+                                     "[Probe 1 - Settings]\n"
+                                     "Version=1.0\n"
+                                     "NumCoefficients=4\n"
+                                     "UsePolynomial=True\n"
+                                     "Coefficients0=100.0123\n"
+                                     "Coefficients1=0\n"
+                                     "Coefficients2=0\n"
+                                     "Coefficients3=0\n");
+    }
+}
+
+TEST_F(QuorconvTest, AddsAProbeToAHostFileBehindWhatIsThere) {
+    folder.Write("host.ini", hostFile);
+    ExpectFine({"new", "host.ini", "Probe 2", "CONV_OHMS"});
+    EXPECT_EQ(folder.Read("host.ini"), hostFile + "\n[Probe 2]\nVersion=1.0\nConversionType=10\n");
+}
+
+TEST_F(QuorconvTest, AddsAStandAloneRecordUnderItsOwnSection) {
+    ExpectFine({"new", "probe.pt1", "Callendar-Van Dusen", "pt1", "Coefficients0=100.02"});
+    EXPECT_EQ(folder.Read("probe.pt1"),
+              "[Callendar-Van Dusen]\nVersion=1.0\nNumCoefficients=1\nCoefficients0=100.02\n");
+}
+
+TEST_F(QuorconvTest, GivesACountBeforeWhatNeedsIt) {
+    ExpectFine({"new", "a.ini", "P", "ply", "Coefficients6=6.5", "Order=6"});
+    ExpectFine({"show", "a.ini", "P"},
+               "[P] CONV_POLYNOMIAL Polynomial\nOrder=6\nCoefficients0=0\nCoefficients1=0\n"
+               "Coefficients2=0\nCoefficients3=0\nCoefficients4=0\nCoefficients5=0\n"
+               "Coefficients6=6.5\n");
+}
+
+TEST_F(QuorconvTest, RefusesANewProbeWhereSomethingStands) {
+    folder.Write("host.ini", hostFile);
+    ExpectRefused({"new", "host.ini", "Probe 1", "cvd"},
+                  "quorconv: host.ini: [Probe 1]: there is a probe in this section already\n");
+    ExpectRefused({"new", "host.ini", "Instrument", "cvd"},
+                  "quorconv: host.ini: [Instrument]: the section exists and is not the record of a probe\n");
+    ExpectRefused({"new", "other.ini", "Probe 1", "CONV_XYZ"},
+                  "quorconv: \"CONV_XYZ\" is no conversion type; the command \"types\" lists them\n");
+    ExpectRefused({"new", "other.ini", "Probe 1", "CONV_OHMS", "R0=1"},
+                  "quorconv: other.ini: [Probe 1] R0: CONV_OHMS has no settings\n");
+    ExpectRefused({"new", "none/other.ini", "Probe 1", "cvd"},
+                  "quorconv: none/other.ini: [Probe 1]: the record cannot be written\n"
+                  "  An error occurred while attempting to write settings. Error: 76 - Path not found: "
+                  "none/other.ini (QuorIniFile)\n");
+    EXPECT_EQ(folder.Read("host.ini"), hostFile);
+    EXPECT_EQ(folder.Files(), (std::vector<std::string>{".err", ".out", "host.ini"}));
+}
+
+TEST_F(QuorconvTest, ChangesTheLineOfTheValueAndNoOtherByte) {
+    folder.Write("host.ini", hostFile);
+    ExpectFine({"set", "host.ini", "Probe 1", "coefficients0=100.0123"});
+    EXPECT_EQ(folder.Read("host.ini"),
+              Replaced(hostFile, "Coefficients0=100.0\n", "Coefficients0=100.0123\n"));
+}
+
+TEST_F(QuorconvTest, RefusesWhatIsNoExactValueAndWritesNothing) {
+    folder.Write("host.ini", hostFile);
+    const std::string place = "quorconv: host.ini: [Probe 1] ";
+    ExpectRefused({"set", "host.ini", "Probe 1", "Coefficients0=1,5"},
+                  place + "Coefficients0: \"1,5\" is not a number; the decimal separator is a point\n");
+    ExpectRefused({"set", "host.ini", "Probe 1", "Coefficients0=12abc"},
+                  place + "Coefficients0: \"12abc\" is not a number that a double can hold\n");
+    ExpectRefused({"set", "host.ini", "Probe 1", "Coefficients0=1e999"},
+                  place + "Coefficients0: \"1e999\" is not a number that a double can hold\n");
+    ExpectRefused({"set", "host.ini", "Probe 1", "NumCoefficients=70000"},
+                  place + "NumCoefficients: \"70000\" is not a whole number from -32768 to 32767\n");
+    ExpectRefused({"set", "host.ini", "Probe 1", "UsePolynomial=maybe"},
+                  place + "UsePolynomial: \"maybe\" is neither True nor False\n");
+    ExpectRefused({"set", "host.ini", "Probe 1", "Coefficients0=101", "Alpha=1"},
+                  place + "Alpha: there is no such key in a record of this type\n");
+    ExpectRefused({"set", "host.ini", "Probe 9", "Coefficients0=101"},
+                  "quorconv: host.ini: [Probe 9]: there is no such section\n");
+    ExpectRefused({"set", "host.ini", "Instrument", "Channels=5"},
+                  "quorconv: host.ini: [Instrument]: the section is not the record of a probe\n");
+    EXPECT_EQ(folder.Read("host.ini"), hostFile);
+}
+
+TEST_F(QuorconvTest, RefusesWhatTheObjectDoesNotAccept) {
+    ExpectFine({"new", "a.ini", "Table", "tct"});
+    ExpectFine({"new", "a.ini", "Its", "i90"});
+    const std::string before = folder.Read("a.ini");
+    ExpectRefused({"set", "a.ini", "Table", "NumPoints=11"},
+                  "quorconv: a.ini: [Table] NumPoints: the value 11 is not accepted\n");
+    const Outcome range = Quorconv({"set", "a.ini", "Its", "Low Range/Range=9"});
+    EXPECT_EQ(range.code, 1);
+    EXPECT_NE(range.err.find("ITS-90 range out of range."), std::string::npos) << range.err;
+    EXPECT_EQ(folder.Read("a.ini"), before);
+}
+
+TEST_F(QuorconvTest, CompletesARecordOnlyByAllKeysThatItLacks) {
+    folder.Write("host.ini", Replaced(hostFile, "Coefficients2=-5.775E-7\n", ""));
+    const Outcome run = Quorconv({"set", "host.ini", "Probe 1", "Coefficients0=100.5"});
+    EXPECT_EQ(run.code, 1);
+    EXPECT_NE(run.err.find("[Probe 1 - Settings] Coefficients2: missing or unreadable"), std::string::npos);
+    ExpectFine({"set", "host.ini", "Probe 1", "Coefficients2=-5.775E-7"});
+    EXPECT_EQ(folder.Read("host.ini"),
+              Replaced(hostFile, "Coefficients2=-5.775E-7\n", "") + "Coefficients2=-5.775e-07\n");
+}
+
+TEST_F(QuorconvTest, CopiesBetweenStandAloneFilesAndHostFiles) {
+    folder.Write("host.ini", hostFile);
+    ExpectFine({"copy", "host.ini", "Probe 1", "probe.cvd", "Callendar-Van Dusen"});
+    EXPECT_EQ(folder.Read("probe.cvd"),
+              "[Callendar-Van Dusen]\nVersion=1.0\nNumCoefficients=4\nUsePolynomial=True\n"
+              "Coefficients0=100\nCoefficients1=0.0039083\n"
+              "Coefficients2=-5.775e-07\nCoefficients3=-4.183e-12\n");
+    ExpectFine({"set", "probe.cvd", "Callendar-Van Dusen", "Coefficients0=100.0123"});
+    ExpectFine({"copy", "probe.cvd", "Callendar-Van Dusen", "host.ini", "Probe 1"});
+    EXPECT_EQ(folder.Read("host.ini"),
+              Replaced(hostFile, "Coefficients0=100.0\n", "Coefficients0=100.0123\n"));
+    ExpectFine({"copy", "probe.cvd", "Callendar-Van Dusen", "host.ini", "Probe 2"});
+    ExpectFine({"list", "host.ini"},
+               "Probe 1\tCONV_CVD\tCallendar-Van Dusen\nProbe 2\tCONV_CVD\tCallendar-Van Dusen\n");
+}
+
+TEST_F(QuorconvTest, CopiesOverNothingThatIsOfAnotherKind) {
+    folder.Write("host.ini", hostFile);
+    ExpectFine({"new", "other.ini", "P", "w90"});
+    ExpectRefused(
+        {"copy", "other.ini", "P", "host.ini", "Probe 1"},
+        "quorconv: host.ini: [Probe 1]: there is a probe of another type (CONV_CVD) in this section\n");
+    ExpectRefused({"copy", "other.ini", "P", "host.ini", "Instrument"},
+                  "quorconv: host.ini: [Instrument]: the section exists and is not the record of a probe\n");
+    EXPECT_EQ(folder.Read("host.ini"), hostFile);
+}
+
+TEST_F(QuorconvTest, CopiesEveryProbeOfTheSampleLaboratoryExactly) {
+    std::filesystem::copy_file(QUOR_SAMPLES "/laboratory.ini", folder.Path("laboratory.ini"));
+    const Outcome list = Quorconv({"list", "laboratory.ini"});
+    std::istringstream lines(list.out);
+    for (std::string line; std::getline(lines, line);) {
+        const std::string section = line.substr(0, line.find('\t'));
+        ExpectFine({"copy", "laboratory.ini", section, "copies.ini", section});
+    }
+    ExpectFine({"show", "copies.ini"}, Quorconv({"show", "laboratory.ini"}).out);
+    ExpectFine({"check", "copies.ini"});
+}
+
+TEST_F(QuorconvTest, TellsWrongUsageFromAProblem) {
+    EXPECT_EQ(Quorconv({}).code, 2);
+    EXPECT_EQ(Quorconv({"lsit", "a.ini"}).code, 2);
+    EXPECT_EQ(Quorconv({"set", "a.ini", "P"}).code, 2);
+    EXPECT_EQ(Quorconv({"types", "surplus"}).code, 2);
+    ExpectRefused({"set", "a.ini", "P", "Coefficients0"}, "quorconv: KEY=VALUE expected: Coefficients0\n", 2);
+    ExpectRefused({"list", "\xFF.ini"}, "quorconv: an argument is not UTF-8 text: \xFF.ini\n", 2);
+    ExpectRefused({"list", "missing.ini"}, "quorconv: File not found: missing.ini\n");
+    ExpectRefused({"list", "."}, "quorconv: Path/File access error: .: Is a directory\n");
+}
+
+TEST_F(QuorconvTest, ShowsAnExampleOfEachCommandAndItsVersion) {
+    for (const std::string command : {"types", "list", "show", "new", "set", "copy", "check"}) {
+        const Outcome run = Quorconv({command, "--help"});
+        EXPECT_EQ(run.code, 0) << command;
+        EXPECT_NE(run.out.find("Example:\n  quorconv " + command), std::string::npos) << run.out;
+        EXPECT_EQ(run.err, "");
+    }
+    ExpectFine({"--version"}, "quorconv 1.0.0\n");
+}
