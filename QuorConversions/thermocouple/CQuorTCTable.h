@@ -58,8 +58,10 @@ public:
     [[nodiscard]] const std::wstring& VoltageScale() const { return ValueScale(); }
     void SetVoltageScale(const std::wstring& value) { SetValueScale(value); }
 
-    using PointSettings::FillPointsCombo;
     using SettingsObject::Edit, SettingsObject::GetName;
+    /// "1" to "10", each with its number as item data.
+    using PointSettings::FillPointsCombo;
+
     using SettingsObject::OpenFile, SettingsObject::SaveFileAs;
     using SettingsObject::WriteToFile, SettingsObject::ReadFromFile;
 
