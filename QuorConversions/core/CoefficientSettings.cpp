@@ -43,7 +43,7 @@ void CoefficientSettings::WriteCoefficients(RecordWriter& record) const {
 
 void CoefficientSettings::ReadCoefficients(RecordReader& record) {
     if (NumCoefficients() < 0)
-        record.Fail();
+        record.Fail(); // where it is refused with an error, that happens only when the count changes
     for (std::int32_t i = 0; i < NumCoefficients(); ++i)
         SetCoefficients(i, record.Double(IndexedKey(coefficientsKey, i), Coefficients(i)));
 }

@@ -47,6 +47,8 @@ void PointSettings::WritePoints(RecordWriter& record) const {
 }
 
 void PointSettings::ReadPoints(RecordReader& record) {
+    if (NumPoints() < 0)
+        record.Fail(); // the count is refused with an error only when it changes
     for (std::int32_t i = 0; i < NumPoints(); ++i) {
         SetTemperatures(i, record.Double(IndexedKey(temperaturesKey, i), Temperatures(i)));
         SetPointValues(i, record.Double(IndexedKey(m_valuesKey, i), PointValues(i)));

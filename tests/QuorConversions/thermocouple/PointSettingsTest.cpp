@@ -215,6 +215,13 @@ TYPED_TEST(PointSettingsTest, ReportANegativeCountInAFileAndKeepTheirPoints) {
     this->ExpectPoints({1.0, 2.0, 3.0});
 }
 
+TYPED_TEST(PointSettingsTest, TakeNoFileForReadThatHoldsTheirOwnNegativeCount) {
+    EXPECT_FALSE(Support::Load(*this->settings, this->Points(-5, 3)));
+    EXPECT_FALSE(Support::Load(*this->settings, this->Points(-5, 3)));
+    ASSERT_EQ(this->platform->Messages().size(), 2U);
+    EXPECT_EQ(this->platform->Messages()[1].text, Support::versionMessage);
+}
+
 TYPED_TEST(PointSettingsTest, IgnoreACountAboveTheirLimitInAFileAndReadAsManyPointsAsTheyHave) {
     this->settings->SetNumPoints(2);
     for (const int count : {TypeParam::limit + 1, 32767}) {
