@@ -34,8 +34,9 @@ public:
     [[nodiscard]] const std::wstring& FilePath() const { return m_filePath; }
     void SetFilePath(std::wstring value);
     /// The settings object of the current type; null when the type has none. A reference that a host keeps
-    /// past a change of type stays alive, but the conversion never speaks to it again.
-    [[nodiscard]] const std::shared_ptr<SettingsObject>& Settings() const { return m_settings; }
+    /// past a change of type stays alive, but the conversion never speaks to it again. Always a reference of
+    /// the caller's own: host code inside a message box may change the type under a call on the object.
+    [[nodiscard]] std::shared_ptr<SettingsObject> Settings() const { return m_settings; }
     /// CONV_NONE at first. A new value drops the old settings object with all its values and makes a fresh
     /// one; the same value does nothing. Unknown codes are kept and have no settings object.
     [[nodiscard]] EQuorConversionType ConversionType() const { return m_type; }

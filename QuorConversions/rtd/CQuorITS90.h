@@ -23,9 +23,10 @@ public:
     void SetChanged(bool value) override;
     using SettingsObject::FilePath, SettingsObject::SetFilePath;
 
-    /// The ranges live as long as this object. A host that keeps one longer keeps it alive.
-    [[nodiscard]] const std::shared_ptr<CQuorITS90HighRange>& HighRange() const { return m_highRange; }
-    [[nodiscard]] const std::shared_ptr<CQuorITS90LowRange>& LowRange() const { return m_lowRange; }
+    /// The ranges live as long as this object. A host that keeps one longer keeps it alive; so does the call
+    /// that is made on it, whatever host code does inside a message box.
+    [[nodiscard]] std::shared_ptr<CQuorITS90HighRange> HighRange() const { return m_highRange; }
+    [[nodiscard]] std::shared_ptr<CQuorITS90LowRange> LowRange() const { return m_lowRange; }
     /// Resistance at the triple point of water, in the units that the instrument uses (ohms, as a rule). A
     /// change marks both ranges changed as well.
     [[nodiscard]] double RTPW() const { return m_rtpw; }
