@@ -32,6 +32,9 @@ public:
     /// Runs inside each message box, as host code can.
     void WhileMessageIsShown(std::function<void()> action) { m_whileShown = std::move(action); }
 
+    /// Adds a line of the caller's own to Events, to show what happened before and after it.
+    void Note(std::wstring line) { m_events.push_back(std::move(line)); }
+
     [[nodiscard]] const std::vector<MessageRequest>& Messages() const { return m_messages; }
     [[nodiscard]] const std::vector<FileRequest>& FileRequests() const { return m_fileRequests; }
     [[nodiscard]] const std::vector<HelpCall>& HelpCalls() const { return m_helpCalls; }
