@@ -20,8 +20,8 @@ public:
     CQuorCVD(CreationKey key, std::shared_ptr<Platform> platform);
 
     using SettingsObject::AllowEdit, SettingsObject::SetAllowEdit;
+    using SettingsObject::SetRegistry, SettingsObject::Registry;
     using SettingsObject::Changed, SettingsObject::SetChanged;
-    using SettingsObject::Registry, SettingsObject::SetRegistry;
 
     /// 4 at first. Any value is taken; a negative one refuses every index until a valid one is set.
     using CoefficientSettings::NumCoefficients, CoefficientSettings::SetNumCoefficients;

@@ -19,9 +19,9 @@ public:
     CQuorHTPRT(CreationKey key, std::shared_ptr<Platform> platform);
 
     using SettingsObject::AllowEdit, SettingsObject::SetAllowEdit;
+    using SettingsObject::SetRegistry, SettingsObject::Registry;
     using SettingsObject::Changed, SettingsObject::SetChanged;
     using SettingsObject::FilePath, SettingsObject::SetFilePath;
-    using SettingsObject::Registry, SettingsObject::SetRegistry;
 
     /// 3 unless a file held another count.
     using CoefficientSettings::NumCoefficients;

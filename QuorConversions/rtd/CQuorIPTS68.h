@@ -24,9 +24,9 @@ public:
     CQuorIPTS68(CreationKey key, std::shared_ptr<Platform> platform);
 
     using SettingsObject::AllowEdit, SettingsObject::SetAllowEdit;
+    using SettingsObject::SetRegistry, SettingsObject::Registry;
     using SettingsObject::Changed, SettingsObject::SetChanged;
     using SettingsObject::FilePath, SettingsObject::SetFilePath;
-    using SettingsObject::Registry, SettingsObject::SetRegistry;
 
     /// Whether the dialog offers the choice of the scale; False at first. Setting it is never a change.
     [[nodiscard]] bool ScaleEnabled() const { return m_scaleEnabled; }

@@ -45,8 +45,8 @@ public:
     [[nodiscard]] bool AllowChangeRange() const { return m_allowChangeRange; }
     void SetAllowChangeRange(bool value) { m_allowChangeRange = value; }
 
+    using QuorObject::SetRegistry, QuorObject::Registry;
     using QuorObject::Changed, QuorObject::SetChanged;
-    using QuorObject::Registry, QuorObject::SetRegistry;
 
     /// True at first. Setting it False selects the first range that is of this side alone, through Range.
     [[nodiscard]] bool RangeEnabled() const { return m_rangeEnabled; }

@@ -17,8 +17,8 @@ public:
     explicit CQuorPT100(std::shared_ptr<Platform> platform = nullptr);
 
     using SettingsObject::AllowEdit, SettingsObject::SetAllowEdit;
+    using SettingsObject::SetRegistry, SettingsObject::Registry;
     using SettingsObject::Changed, SettingsObject::SetChanged;
-    using SettingsObject::Registry, SettingsObject::SetRegistry;
 
     /// 1 at first. Any value is taken; a negative one refuses every index until a valid one is set.
     using CoefficientSettings::NumCoefficients, CoefficientSettings::SetNumCoefficients;

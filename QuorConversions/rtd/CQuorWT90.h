@@ -12,9 +12,9 @@ public:
     CQuorWT90(CreationKey key, std::shared_ptr<Platform> platform);
 
     using SettingsObject::AllowEdit, SettingsObject::SetAllowEdit;
+    using SettingsObject::SetRegistry, SettingsObject::Registry;
     using SettingsObject::Changed, SettingsObject::SetChanged;
     using SettingsObject::FilePath, SettingsObject::SetFilePath;
-    using SettingsObject::Registry, SettingsObject::SetRegistry;
 
     /// Resistance at the triple point of water, ohms. A value equal to the stored one is not stored again.
     [[nodiscard]] double RTPW() const { return m_rtpw; }
