@@ -17,13 +17,20 @@ namespace Support {
 
 using QuorConversions::Scripted::ScriptedPlatform;
 
-/// The settings object that the facade makes for a type; `Changed` is cleared, so that a test starts clean.
+/// The settings object as the facade makes it for a type.
+template <class T>
+std::shared_ptr<T> FreshSettings(QuorConversions::EQuorConversionType type,
+                                 const std::shared_ptr<ScriptedPlatform>& platform) {
+    QuorConversions::CQuorConversion conversion(platform);
+    conversion.SetConversionType(type);
+    return QuorConversions::SettingsAs<T>(conversion);
+}
+
+/// The same with `Changed` cleared, so that a test starts clean.
 template <class T>
 std::shared_ptr<T> NewSettings(QuorConversions::EQuorConversionType type,
                                const std::shared_ptr<ScriptedPlatform>& platform) {
-    QuorConversions::CQuorConversion conversion(platform);
-    conversion.SetConversionType(type);
-    auto settings = QuorConversions::SettingsAs<T>(conversion);
+    auto settings = FreshSettings<T>(type, platform);
     if (settings)
         settings->SetChanged(false);
     return settings;
