@@ -13,6 +13,7 @@ bool IsSurrogate(std::uint32_t code) { return code >= 0xD800 && code <= 0xDFFF; 
 
 /// The character that starts at `text[at]`; moves `at` behind it.
 std::uint32_t NextCharacter(std::wstring_view text, std::size_t& at) {
+    // NOLINTNEXTLINE(bugprone-signed-char-misuse,cert-str34-c): a wide character, whatever its sign
     auto code = static_cast<std::uint32_t>(text[at++]);
     if constexpr (wideIsUtf16) {
         code &= 0xFFFFU;

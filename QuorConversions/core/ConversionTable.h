@@ -13,9 +13,9 @@ namespace QuorConversions {
 /// What belongs to one conversion type.
 struct ConversionTypeRow {
     EQuorConversionType code;
-    const wchar_t* enumerator;
     /// The string-table entry of the name, or 0 where a new settings object names the type.
     std::int32_t name;
+    const wchar_t* enumerator;
     /// Makes an object of the type's class; null for a type without settings.
     std::shared_ptr<SettingsObject> (*create)(const std::shared_ptr<Platform>& platform);
     /// What the facade sets up in its own object, through the setters; null for nothing.

@@ -91,7 +91,8 @@ void QuorObject::InFrame(std::shared_ptr<INIFile>& iniFile, const std::wstring& 
                 throw Error(QuorIniFile::ERROR_BAD_FILE_NAME, IDS_BAD_FILE_NAME);
             iniFile = m_platform->CreateIniFile();
             if (!iniFile)
-                throw Error(QuorIniFile::ERROR_CANNOT_CREATE, IDS_NO_INI_COMPONENT);
+                throw QuorError(QuorIniFile::ERROR_CANNOT_CREATE, m_className,
+                                TableText(IDS_NO_INI_COMPONENT) + L": " + fname);
             iniFile->SetFileName(fname);
         }
         // A reference of its own: host code that runs inside a message box may drop the caller's.

@@ -11,9 +11,8 @@ std::wstring NestedSection(const std::wstring& parent, const wchar_t* child) {
     return parent + L" - " + child;
 }
 
-RecordWriter::RecordWriter(std::shared_ptr<INIFile> iniFile, const std::wstring& section,
-                           const wchar_t* source)
-    : m_iniFile(std::move(iniFile)), m_section(section), m_source(source) {}
+RecordWriter::RecordWriter(std::shared_ptr<INIFile> iniFile, std::wstring section, const wchar_t* source)
+    : m_iniFile(std::move(iniFile)), m_section(std::move(section)), m_source(source) {}
 
 void RecordWriter::Text(const wchar_t* key, const std::wstring& value) { m_iniFile->WriteString(key, value); }
 
@@ -32,8 +31,8 @@ void RecordWriter::Nested(const wchar_t* name, const QuorObject& child) {
     child.WriteToFile(m_iniFile, L"", NestedSection(m_section, name));
 }
 
-RecordReader::RecordReader(std::shared_ptr<INIFile> iniFile, const std::wstring& section)
-    : m_iniFile(std::move(iniFile)), m_section(section) {}
+RecordReader::RecordReader(std::shared_ptr<INIFile> iniFile, std::wstring section)
+    : m_iniFile(std::move(iniFile)), m_section(std::move(section)) {}
 
 std::wstring RecordReader::Text(const wchar_t* key, std::wstring current) {
     if (!m_iniFile->ReadString(key, current))

@@ -18,7 +18,7 @@ namespace QuorConversions {
 /// Writes what one record holds, key by key, into the selected section of an INI-file object.
 class RecordWriter {
 public:
-    RecordWriter(std::shared_ptr<INIFile> iniFile, const std::wstring& section, const wchar_t* source);
+    RecordWriter(std::shared_ptr<INIFile> iniFile, std::wstring section, const wchar_t* source);
 
     void Text(const wchar_t* key, const std::wstring& value);
     /// Codes and counts are 16-bit values in a file. Raises 6 "Overflow" for one that does not fit.
@@ -31,7 +31,7 @@ public:
 
 private:
     std::shared_ptr<INIFile> m_iniFile;
-    const std::wstring& m_section;
+    std::wstring m_section; // a copy: host code that runs inside a message box may change the caller's
     const wchar_t* m_source;
 };
 
@@ -40,7 +40,7 @@ private:
 /// on.
 class RecordReader {
 public:
-    RecordReader(std::shared_ptr<INIFile> iniFile, const std::wstring& section);
+    RecordReader(std::shared_ptr<INIFile> iniFile, std::wstring section);
 
     [[nodiscard]] std::wstring Text(const wchar_t* key, std::wstring current);
     [[nodiscard]] std::int32_t Integer(const wchar_t* key, std::int32_t current);
@@ -55,7 +55,7 @@ public:
 
 private:
     std::shared_ptr<INIFile> m_iniFile;
-    const std::wstring& m_section;
+    std::wstring m_section; // a copy: host code that runs inside a message box may change the caller's
     bool m_failed = false;
 };
 

@@ -27,9 +27,9 @@ public:
     CQuorPolynomial(CreationKey key, std::shared_ptr<Platform> platform);
 
     using SettingsObject::AllowEdit, SettingsObject::SetAllowEdit;
+    using SettingsObject::SetRegistry, SettingsObject::Registry;
     using SettingsObject::Changed, SettingsObject::SetChanged;
     using SettingsObject::FilePath, SettingsObject::SetFilePath;
-    using SettingsObject::Registry, SettingsObject::SetRegistry;
 
     /// Order + 1.
     using CoefficientSettings::NumCoefficients;
@@ -39,9 +39,9 @@ public:
     [[nodiscard]] std::int16_t MinOrder() const { return 4; }  // NOLINT: a property of the interface
     [[nodiscard]] std::int16_t MaxOrder() const { return 10; } // NOLINT: a property of the interface
     /// Index: EPolynomialCoefficients, below NumCoefficients. Raises "Index out of range".
-    using CoefficientSettings::Coefficients, CoefficientSettings::SetCoefficients;
+    using CoefficientSettings::SetCoefficients, CoefficientSettings::Coefficients;
     /// How the dialog shows all coefficients.
-    using SharedValueFormat::ValueFormat, SharedValueFormat::SetValueFormat;
+    using SharedValueFormat::SetValueFormat, SharedValueFormat::ValueFormat;
 
     using SettingsObject::Edit, SettingsObject::GetName;
     using SettingsObject::OpenFile, SettingsObject::SaveFileAs;

@@ -31,9 +31,9 @@ public:
     CQuorThermistor(CreationKey key, std::shared_ptr<Platform> platform);
 
     using SettingsObject::AllowEdit, SettingsObject::SetAllowEdit;
+    using SettingsObject::SetRegistry, SettingsObject::Registry;
     using SettingsObject::Changed, SettingsObject::SetChanged;
     using SettingsObject::FilePath, SettingsObject::SetFilePath;
-    using SettingsObject::Registry, SettingsObject::SetRegistry;
 
     /// TCT_THRMT_R at first; any value is stored. A file is read only into an object of its own direction.
     [[nodiscard]] EThermistorConvType ConvType() const { return m_convType; }

@@ -24,9 +24,9 @@ public:
     void SetShowmV25C(bool value) { m_showmV25C = value; }
 
     using SettingsObject::AllowEdit, SettingsObject::SetAllowEdit;
+    using SettingsObject::SetRegistry, SettingsObject::Registry;
     using SettingsObject::Changed, SettingsObject::SetChanged;
     using SettingsObject::FilePath, SettingsObject::SetFilePath;
-    using SettingsObject::Registry, SettingsObject::SetRegistry;
 
     /// 16 at first. There is no upper limit, yet no index above 15 is valid. A negative value is stored and
     /// then raises 9 "Subscript out of range".

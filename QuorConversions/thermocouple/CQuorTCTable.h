@@ -36,25 +36,25 @@ public:
     CQuorTCTable(CreationKey key, std::shared_ptr<Platform> platform);
 
     using SettingsObject::AllowEdit, SettingsObject::SetAllowEdit;
+    using SettingsObject::SetRegistry, SettingsObject::Registry;
     using SettingsObject::Changed, SettingsObject::SetChanged;
     using SettingsObject::FilePath, SettingsObject::SetFilePath;
-    using SettingsObject::Registry, SettingsObject::SetRegistry;
 
     /// 10 at first. A value above 10 is ignored; a negative one is stored and then raises 9 "Subscript out of
     /// range".
     using PointSettings::NumPoints, PointSettings::SetNumPoints;
     /// Index: ETCTableCoefficients, below NumPoints. Raises "Index out of range" (0x800401F5). Any value is
     /// taken.
-    using PointSettings::SetTemperatures, PointSettings::Temperatures;
+    using PointSettings::Temperatures, PointSettings::SetTemperatures;
     [[nodiscard]] double Voltages(std::int32_t index) const { return PointValues(index); }
     void SetVoltages(std::int32_t index, double value) { SetPointValues(index, value); }
     /// How the dialog shows temperatures and voltages. Setting a format is never a change.
-    using PointSettings::SetTempFormat, PointSettings::TempFormat;
+    using PointSettings::TempFormat, PointSettings::SetTempFormat;
     [[nodiscard]] const std::wstring& VoltageFormat() const { return PointValueFormat(); }
     void SetVoltageFormat(std::wstring value) { SetPointValueFormat(std::move(value)); }
     /// Unit texts beside the values; they convert nothing and are not stored in files. Another text is a
     /// change.
-    using PointSettings::SetTempScale, PointSettings::TempScale;
+    using PointSettings::TempScale, PointSettings::SetTempScale;
     [[nodiscard]] const std::wstring& VoltageScale() const { return ValueScale(); }
     void SetVoltageScale(const std::wstring& value) { SetValueScale(value); }
 

@@ -16,9 +16,9 @@ public:
     explicit CQuorTCTypePoly(std::shared_ptr<Platform> platform = nullptr);
 
     using SettingsObject::AllowEdit, SettingsObject::SetAllowEdit;
+    using SettingsObject::SetRegistry, SettingsObject::Registry;
     using SettingsObject::Changed, SettingsObject::SetChanged;
     using SettingsObject::FilePath, SettingsObject::SetFilePath;
-    using SettingsObject::Registry, SettingsObject::SetRegistry;
 
     /// 4 at first. There is no upper limit, yet no index above 3 is valid. A negative value is stored and
     /// then raises 9 "Subscript out of range".

@@ -30,11 +30,11 @@ public:
     void SetShowDCCoefs(bool value) { m_showDCCoefs = value; }
 
     using SettingsObject::AllowEdit, SettingsObject::SetAllowEdit;
+    using SettingsObject::SetRegistry, SettingsObject::Registry;
     using SettingsObject::Changed, SettingsObject::SetChanged;
-    using SettingsObject::Registry, SettingsObject::SetRegistry;
 
     /// Unit texts beside the values; they convert nothing. Another text is a change.
-    using PointSettings::SetTempScale, PointSettings::TempScale;
+    using PointSettings::TempScale, PointSettings::SetTempScale;
     [[nodiscard]] const std::wstring& OffsetScale() const { return ValueScale(); }
     void SetOffsetScale(const std::wstring& value) { SetValueScale(value); }
     using SettingsObject::FilePath, SettingsObject::SetFilePath;
@@ -60,7 +60,7 @@ public:
     [[nodiscard]] double Offsets(std::int32_t index) const;
     void SetOffsets(std::int32_t index, double value);
     /// How the dialog shows temperatures, DC coefficients and offsets. Setting a format is never a change.
-    using PointSettings::SetTempFormat, PointSettings::TempFormat;
+    using PointSettings::TempFormat, PointSettings::SetTempFormat;
     [[nodiscard]] const std::wstring& ValueFormat() const { return m_coefficientFormat; }
     void SetValueFormat(std::wstring value) { m_coefficientFormat = std::move(value); }
     [[nodiscard]] const std::wstring& OffsetFormat() const { return PointValueFormat(); }

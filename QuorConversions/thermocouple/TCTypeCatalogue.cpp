@@ -9,7 +9,7 @@ std::wstring TCTypeCatalogue::Name(std::int32_t type, std::int32_t current) cons
     const bool isCurrent = type == currentValue;
     if (isCurrent)
         type = current;
-    const std::wstring prefix = isCurrent ? TableText(IDS_TC_TYPE) + L" " : L"";
+    std::wstring prefix = isCurrent ? TableText(IDS_TC_TYPE) + L" " : L"";
     if (type == TCTYPE_NONE)
         return prefix;
     const auto index = static_cast<std::size_t>(type);

@@ -131,7 +131,7 @@ private:
             if (read != &key)
                 Report(key.line, section.name, key.name,
                        L"the key stands twice; " + isRead + std::to_wstring(read->line) + L" is read");
-            else if (!aborted && Folded(key.name) != L"version" && known.count(Folded(key.name)) == 0)
+            else if (!aborted && Folded(key.name) != L"version" && !known.contains(Folded(key.name)))
                 Report(key.line, section.name, key.name,
                        L"unknown key: a record of this type and size does not hold it");
         }

@@ -21,14 +21,14 @@ struct Assignment {
 // do what it is asked; nothing has been written then.
 
 void ListTypes();
-void ListProbes(const std::wstring& file);
+void ListProbes(const std::wstring& path);
 /// Without a section: every probe.
-void ShowProbes(const std::wstring& file, const std::wstring* section, bool asJson);
-void NewProbe(const std::wstring& file, const std::wstring& section, const std::wstring& type,
+void ShowProbes(const std::wstring& path, const std::wstring* section, bool asJson);
+void NewProbe(const std::wstring& path, const std::wstring& section, const std::wstring& typeText,
               const std::vector<Assignment>& assignments);
-void SetValues(const std::wstring& file, const std::wstring& section,
+void SetValues(const std::wstring& path, const std::wstring& section,
                const std::vector<Assignment>& assignments);
-void CopyProbe(const std::wstring& fromFile, const std::wstring& fromSection, const std::wstring& toFile,
+void CopyProbe(const std::wstring& fromPath, const std::wstring& fromSection, const std::wstring& toPath,
                const std::wstring& toSection);
 /// Prints each problem of each file as "file:line: [section] key: what is wrong"; true when there is none.
 [[nodiscard]] bool CheckFiles(const std::vector<std::wstring>& files);

@@ -40,6 +40,7 @@ public:
     explicit ProbeFile(std::wstring path);
     ProbeFile(const ProbeFile&) = delete;
     ProbeFile& operator=(const ProbeFile&) = delete;
+    ~ProbeFile() = default;
 
     [[nodiscard]] const std::wstring& Path() const { return m_path; }
     [[nodiscard]] const std::vector<Section>& Sections() const { return m_sections; }

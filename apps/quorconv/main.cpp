@@ -32,6 +32,7 @@ std::wstring Wide(const std::string& argument) {
 
 std::vector<std::wstring> Wide(const std::vector<std::string>& arguments) {
     std::vector<std::wstring> texts;
+    texts.reserve(arguments.size());
     for (const std::string& argument : arguments)
         texts.push_back(Wide(argument));
     return texts;

@@ -2,6 +2,7 @@
 
 // What the tests claim about saved and loaded records.
 
+#include "tests/support/Messages.h"
 #include "tests/support/Objects.h"
 
 #include <gtest/gtest.h>
@@ -15,22 +16,6 @@
 namespace Support {
 
 using Lines = std::vector<std::wstring>;
-
-/// The report of an error inside a save ("write") or a load ("read").
-inline std::wstring ErrorReport(const std::wstring& what, std::int32_t number,
-                                const std::wstring& description, const std::wstring& source) {
-    return L"An error occurred while attempting to " + what + L" settings.\r\rError: " +
-           std::to_wstring(number) + L" - " + description + L"\r(" + source + L")";
-}
-
-/// The texts of all messages, in order.
-inline Lines MessageTexts(const ScriptedPlatform& platform) {
-    Lines texts;
-    for (const auto& message : platform.Messages())
-        texts.push_back(message.text);
-    return texts;
-}
-
 using Records = decltype(MemoryIniFile::values);
 
 /// Reads the records `file` in the section "Probe", without one of their keys, into an object that holds

@@ -311,7 +311,7 @@ TEST_P(QuorObjectTest, ReportsThatThereIsNeitherAnIniFileObjectNorAName) {
 }
 
 TEST_P(QuorObjectTest, ReportsThatThePlatformMakesNoIniFileObject) {
-    ExpectReports(L"probe.ini", 429, L"The INI-file component cannot be created");
+    ExpectReports(L"probe.ini", 429, L"The INI-file component cannot be created: probe.ini");
 }
 
 TEST_P(QuorObjectTest, ReportsAFailedWriteOnceWhicheverOperationFails) {

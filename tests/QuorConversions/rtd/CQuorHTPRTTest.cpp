@@ -131,8 +131,8 @@ TEST_F(CQuorHTPRTTest, FindsTheSpareSlotAgainWhenAFileBringsTheCountBack) {
 
 TEST_F(CQuorHTPRTTest, ReportsACountAboveThreeAndKeepsWhatItReached) {
     EXPECT_FALSE(Read(4));
-    EXPECT_EQ(MessageTexts(*platform),
-              (Lines{ErrorReport(L"read", indexOutOfRange, L"Index out of range", L"CQuorHTPRT")}));
+    EXPECT_EQ(MessageTexts(*platform), (Lines{ErrorReport(Support::readingSettings, indexOutOfRange,
+                                                          L"Index out of range", L"CQuorHTPRT")}));
     EXPECT_EQ(htprt->NumCoefficients(), 4);
     EXPECT_EQ(htprt->Coefficients(HTPRT_B), 6.78901e-6);
     EXPECT_QUOR_ERROR((void)htprt->Coefficients(3), indexOutOfRange, L"CQuorHTPRT", L"Index out of range");
@@ -144,7 +144,7 @@ TEST_F(CQuorHTPRTTest, ReportsTheSurplusCountAgainWhenItIsWritten) {
     memory->operations.clear();
     htprt->WriteToFile(ini, L"", L"Probe");
     EXPECT_EQ(platform->Messages().back().text,
-              ErrorReport(L"write", indexOutOfRange, L"Index out of range", L"CQuorHTPRT"));
+              ErrorReport(Support::writingSettings, indexOutOfRange, L"Index out of range", L"CQuorHTPRT"));
     EXPECT_EQ(memory->Double(L"Probe", L"Coefficients2"), 6.78901e-6);
     EXPECT_EQ(memory->operations.back(), L"Release"); // the store is not left held
 }
@@ -154,7 +154,7 @@ TEST_F(CQuorHTPRTTest, ReportsANegativeCountAndFindsItsValuesAgain) {
     htprt->SetChanged(false);
     EXPECT_FALSE(Read(-1));
     EXPECT_EQ(MessageTexts(*platform),
-              (Lines{ErrorReport(L"read", 9, L"Subscript out of range", L"CQuorHTPRT")}));
+              (Lines{ErrorReport(Support::readingSettings, 9, L"Subscript out of range", L"CQuorHTPRT")}));
     EXPECT_EQ(htprt->NumCoefficients(), -1);
     EXPECT_TRUE(htprt->Changed());
     EXPECT_QUOR_ERROR((void)htprt->Coefficients(HTPRT_RTPW), indexOutOfRange, L"CQuorHTPRT",

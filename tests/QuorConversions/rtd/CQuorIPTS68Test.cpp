@@ -198,8 +198,8 @@ TEST_F(CQuorIPTS68Test, ReportsACountAboveFiveAndKeepsWhatItReached) {
         memory->Set(L"Probe", L"Coefficients5", 6.0);
         EXPECT_FALSE(ipts68->ReadFromFile(ini, L"", L"Probe"));
         ASSERT_EQ(platform->Messages().size(), shown + 1);
-        EXPECT_EQ(platform->Messages().back().text,
-                  ErrorReport(L"read", indexOutOfRange, L"Index out of range", L"CQuorIPTS68"));
+        EXPECT_EQ(platform->Messages().back().text, ErrorReport(Support::readingSettings, indexOutOfRange,
+                                                                L"Index out of range", L"CQuorIPTS68"));
         EXPECT_EQ(ipts68->NumCoefficients(), count);
         EXPECT_EQ(ipts68->Coefficients(IPTS68_C4), 2.25e-14);
     }
@@ -213,7 +213,7 @@ TEST_F(CQuorIPTS68Test, ReportsANegativeCountAndFindsItsValuesAgain) {
                       {{L"Probe", L"NumCoefficients"}, std::int16_t{-32768}}};
     EXPECT_FALSE(ipts68->ReadFromFile(ini, L"", L"Probe"));
     EXPECT_EQ(MessageTexts(*platform),
-              (Lines{ErrorReport(L"read", 9, L"Subscript out of range", L"CQuorIPTS68")}));
+              (Lines{ErrorReport(Support::readingSettings, 9, L"Subscript out of range", L"CQuorIPTS68")}));
     EXPECT_EQ(ipts68->NumCoefficients(), -32768);
     EXPECT_TRUE(ipts68->Changed());
 
@@ -229,7 +229,8 @@ TEST_F(CQuorIPTS68Test, ReportsAScaleThatDoesNotFitIntoAFile) {
         ipts68->SetIPTS68Scale(EIPTS68Scale{scale});
         ipts68->WriteToFile(ini, L"", L"Probe");
         ASSERT_EQ(platform->Messages().size(), shown + 1);
-        EXPECT_EQ(platform->Messages().back().text, ErrorReport(L"write", 6, L"Overflow", L"CQuorIPTS68"));
+        EXPECT_EQ(platform->Messages().back().text,
+                  ErrorReport(Support::writingSettings, 6, L"Overflow", L"CQuorIPTS68"));
         EXPECT_FALSE(memory->Has(L"Probe", L"IPTS-68 scale"));
         EXPECT_FALSE(memory->Has(L"Probe", L"NumCoefficients")); // the error ended the save
     }

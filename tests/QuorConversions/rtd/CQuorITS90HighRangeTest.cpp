@@ -54,6 +54,6 @@ TEST_F(CQuorITS90HighRangeTest, ReportsWhatAStoreLeavesInTheVariableWhereItIsNoR
     EXPECT_FALSE(high->ReadFromFile(ini, L"", L"R"));
     EXPECT_EQ(high->Range(), ITS90_NORANGE);
     EXPECT_EQ(Support::MessageTexts(*platform),
-              (Support::Lines{Support::ErrorReport(L"read", -2147221002, L"ITS-90 range out of range.",
-                                                   L"CQuorITS90HighRange")}));
+              (Support::Lines{Support::ErrorReport(Support::readingSettings, -2147221002,
+                                                   L"ITS-90 range out of range.", L"CQuorITS90HighRange")}));
 }

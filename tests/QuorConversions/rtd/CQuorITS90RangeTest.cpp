@@ -367,8 +367,8 @@ TEST_P(CQuorITS90RangeTest, ReportsARangeOfTheFileThatItsLimitsRefuse) {
     memory->Set(L"R", L"Range", std::int16_t{12});
     memory->Set(L"R", L"Coefficients0", 1.0);
     EXPECT_FALSE(range->ReadFromFile(ini, L"", L"R"));
-    EXPECT_EQ(MessageTexts(*platform),
-              (Lines{ErrorReport(L"read", rangeOutOfRange, L"ITS-90 range out of range.", side.className)}));
+    EXPECT_EQ(MessageTexts(*platform), (Lines{ErrorReport(Support::readingSettings, rangeOutOfRange,
+                                                          L"ITS-90 range out of range.", side.className)}));
     EXPECT_EQ(range->Range(), ITS90_RANGE_5);
     EXPECT_EQ(range->Coefficients(0), -2.5e-4);
     EXPECT_FALSE(range->Changed());
@@ -378,7 +378,8 @@ TEST_P(CQuorITS90RangeTest, ReportsARangeThatDoesNotFitIntoAFile) {
     range->SetMaxRange(Number(70000));
     range->SetRange(Number(70000));
     range->WriteToFile(ini, L"", L"R");
-    EXPECT_EQ(MessageTexts(*platform), (Lines{ErrorReport(L"write", 6, L"Overflow", side.className)}));
+    EXPECT_EQ(MessageTexts(*platform),
+              (Lines{ErrorReport(Support::writingSettings, 6, L"Overflow", side.className)}));
     EXPECT_FALSE(memory->Has(L"R", L"Range"));
 
     EXPECT_FALSE(range->ReadFromFile(ini, L"", L"R"));

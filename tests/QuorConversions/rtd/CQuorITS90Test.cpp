@@ -268,7 +268,8 @@ TEST_F(CQuorITS90Test, ReportsARangeThatItsSideRefusesAndReadsTheOther) {
     memory->Set(L"Probe - High Range", L"Range", std::int16_t{4});
     EXPECT_FALSE(its90->ReadFromFile(ini, L"", L"Probe"));
     EXPECT_EQ(MessageTexts(*platform),
-              (Lines{ErrorReport(L"read", -2147221002, L"ITS-90 range out of range.", L"CQuorITS90HighRange"),
+              (Lines{ErrorReport(Support::readingSettings, -2147221002, L"ITS-90 range out of range.",
+                                 L"CQuorITS90HighRange"),
                      versionMessage}));
     EXPECT_EQ(its90->RTPW(), 25.5);
     EXPECT_EQ(high->Range(), ITS90_NORANGE);
@@ -282,7 +283,7 @@ TEST_F(CQuorITS90Test, KeepsRange5OfITSSR5WhenAForeignFileHoldsOtherRanges) {
     memory->Set(L"Probe - Low Range", L"Range", std::int16_t{7});
     EXPECT_FALSE(its90->ReadFromFile(ini, L"", L"Probe"));
     const auto refused = [](const wchar_t* source) {
-        return ErrorReport(L"read", -2147221002, L"ITS-90 range out of range.", source);
+        return ErrorReport(Support::readingSettings, -2147221002, L"ITS-90 range out of range.", source);
     };
     EXPECT_EQ(MessageTexts(*platform),
               (Lines{refused(L"CQuorITS90HighRange"), refused(L"CQuorITS90LowRange"), versionMessage}));
@@ -294,8 +295,8 @@ TEST_F(CQuorITS90Test, WritesTheLowRangeAfterTheHighOneHasFailed) {
     memory->failAt = 7; // the range number of the high range
     its90->WriteToFile(ini, L"", L"Probe");
     ASSERT_EQ(memory->operations.at(7), L"WriteInteger Range=-1 comment \"\"");
-    EXPECT_EQ(MessageTexts(*platform),
-              (Lines{ErrorReport(L"write", 57, L"Device I/O error: memory", L"QuorIniFile")}));
+    EXPECT_EQ(MessageTexts(*platform), (Lines{ErrorReport(Support::writingSettings, 57,
+                                                          L"Device I/O error: memory", L"QuorIniFile")}));
     EXPECT_TRUE(memory->Has(L"Probe - Low Range", L"Range"));
     EXPECT_FALSE(memory->Has(L"Probe - High Range", L"Range"));
 }
@@ -304,7 +305,8 @@ TEST_F(CQuorITS90Test, ReportsACodeThatDoesNotFitOnceAndFromItsRange) {
     low->SetMaxRange(EITS90RangeNumber{70000});
     low->SetRange(EITS90RangeNumber{70000});
     its90->WriteToFile(ini, L"", L"Probe");
-    EXPECT_EQ(MessageTexts(*platform), (Lines{ErrorReport(L"write", 6, L"Overflow", L"CQuorITS90LowRange")}));
+    EXPECT_EQ(MessageTexts(*platform),
+              (Lines{ErrorReport(Support::writingSettings, 6, L"Overflow", L"CQuorITS90LowRange")}));
 }
 
 TEST_F(CQuorITS90Test, TakesTheRTPWThatAStoreLeavesForAMissingKey) {
