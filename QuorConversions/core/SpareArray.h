@@ -25,9 +25,9 @@ public:
     /// Resizes to 0 .. count; values are kept, new slots are empty. A negative count is stored, refuses every
     /// index, and leaves the slots alone, so that a later valid count finds them again.
     void SetCount(std::int16_t count) {
-        m_count = count;
         if (count >= 0)
             m_slots.resize(static_cast<std::size_t>(count) + 1);
+        m_count = count; // last: without memory for the slots the old count must stand
     }
 
     /// SetCount that raises 9 "Subscript out of range" for a negative count, after it was stored.

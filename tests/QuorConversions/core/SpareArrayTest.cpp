@@ -2,6 +2,8 @@
 
 #include "tests/support/Objects.h"
 
+#include <new>
+
 using QuorConversions::SpareArray;
 using Support::indexOutOfRange;
 
@@ -17,6 +19,15 @@ SpareArray<double> Filled(std::int16_t count) {
         array.At(i) = i + 1.5;
     return array;
 }
+
+/// A slot for whose kind the memory runs out.
+struct ScarceSlot {
+    static inline int left = 0;
+    ScarceSlot() {
+        if (left-- == 0)
+            throw std::bad_alloc();
+    }
+};
 
 } // namespace
 
@@ -75,6 +86,15 @@ TEST(SpareArrayTest, StoresANegativeCountAndFindsItsSlotsAgainLater) {
         EXPECT_EQ(array.At(0), 1.5);
         EXPECT_EQ(array.At(1), 2.5);
     }
+}
+
+TEST(SpareArrayTest, KeepsItsCountWhenTheMemoryForMoreSlotsIsMissing) {
+    SpareArray<ScarceSlot> array(L"CHost");
+    ScarceSlot::left = 3;
+    array.Resize(2);
+    EXPECT_THROW(array.Resize(4), std::bad_alloc);
+    EXPECT_EQ(array.Count(), 2);
+    EXPECT_FALSE(array.IsValid(2));
 }
 
 TEST(SpareArrayTest, ReachesEverySlotOfTheGreatestCount) {
