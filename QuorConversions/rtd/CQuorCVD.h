@@ -8,9 +8,9 @@ namespace QuorConversions {
 /// Indices of the coefficients of CQuorCVD.
 enum ECVDCoefficients : std::int32_t {
     CVD_R0 = 0,    ///< resistance at 0 degrees Celsius, ohms
-    CVD_ALPHA = 1, ///< 1/degree Celsius; A in the polynomial form
-    CVD_DELTA = 2, ///< degrees Celsius; B in the polynomial form
-    CVD_BETA = 3,  ///< dimensionless; C in the polynomial form
+    CVD_ALPHA = 1, ///< 1/degree Celsius; A, of the same unit, in the polynomial form
+    CVD_DELTA = 2, ///< degrees Celsius; B, in 1/degree Celsius^2, in the polynomial form
+    CVD_BETA = 3,  ///< degrees Celsius; C, in 1/degree Celsius^4, in the polynomial form
 };
 
 /// A platinum resistance thermometer described by the Callendar-Van Dusen equation (IEC 60751), by R0, alpha,
