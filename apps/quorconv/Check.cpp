@@ -68,14 +68,16 @@ private:
     }
 
     /// What the library itself refuses. The keys that decide how a record is read are whole numbers: the last
-    /// of them is to blame. True when the reading of a part was given up.
+    /// of them is to blame. The version message blames a value, too, where no key is missing (a count below
+    /// zero). True when the reading of a part was given up.
     bool CheckMessages(const Probe& probe) {
         bool aborted = false;
+        const auto& reads = probe.Reads();
         for (const auto& message : probe.Messages()) {
-            if (IsVersionMessage(message))
+            const bool isVersion = IsVersionMessage(message);
+            if (isVersion && probe.LacksKeys())
                 continue; // each missing key is a problem of its own here
             aborted = true;
-            const auto& reads = probe.Reads();
             const auto end = reads.rend();
             const auto blamed = std::find_if(
                 std::make_reverse_iterator(reads.begin() + static_cast<std::ptrdiff_t>(message.readsBefore)),
@@ -84,7 +86,9 @@ private:
             if (blamed == end)
                 Report(probe.Where().line, probe.Where().section, L"", message.text);
             else if (m_blamed.emplace(blamed->section, blamed->key).second)
-                ReportAt(*blamed, probe.Where(), message.text);
+                ReportAt(*blamed, probe.Where(),
+                         isVersion ? L"the value " + ToText(blamed->value) + L" is not accepted"
+                                   : message.text);
         }
         return aborted;
     }

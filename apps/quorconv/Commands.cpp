@@ -45,11 +45,12 @@ Record FindRecord(const ProbeFile& file, const std::wstring& section) {
                   (exists ? L": the section is not the record of a probe" : L": there is no such section")};
 }
 
-/// Whether the only complaint about a record is that it lacks keys which are about to be given.
+/// Whether there is no complaint about a record but that it lacks keys which are about to be given.
 bool IsCompletedBy(const Probe& probe, const std::vector<Assignment>& assignments) {
     const auto& messages = probe.Messages();
     const auto& reads = probe.Reads();
-    return std::all_of(messages.begin(), messages.end(), IsVersionMessage) &&
+    return (messages.empty() || probe.LacksKeys()) &&
+           std::all_of(messages.begin(), messages.end(), IsVersionMessage) &&
            std::all_of(reads.begin(), reads.end(), [&](const ReadLog::Read& read) {
                return read.found ||
                       std::any_of(assignments.begin(), assignments.end(), [&](const Assignment& a) {

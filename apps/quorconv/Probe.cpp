@@ -96,6 +96,10 @@ std::wstring Probe::PathOf(const ReadLog::Read& read) const {
 
 bool Probe::HasType() const { return m_record.standAlone || (!Reads().empty() && Reads().front().found); }
 
+bool Probe::LacksKeys() const {
+    return std::any_of(Reads().begin(), Reads().end(), [](const ReadLog::Read& read) { return !read.found; });
+}
+
 std::wstring Probe::TypeName() const {
     const std::int32_t code = m_conversion->ConversionType();
     const wchar_t* const enumerator = ConversionEnumerator(code);

@@ -57,6 +57,8 @@ public:
     [[nodiscard]] std::wstring Name() const;
     /// Whether the record says its type. The library takes one that does not for an ITS-90 calibration.
     [[nodiscard]] bool HasType() const;
+    /// Whether a key that was looked for is missing or cannot be read.
+    [[nodiscard]] bool LacksKeys() const;
     /// The enumerator of the type, or the code of one that is none.
     [[nodiscard]] std::wstring TypeName() const;
 

@@ -54,6 +54,9 @@ const BadFile badFiles[] = {
      "Coefficients2=1\nCoefficients3=1\n",
      "host.ini:4: [A - Settings] NumCoefficients: An error occurred while attempting to read settings. "
      "Error: -2147221003 - Index out of range (CQuorHTPRT)\n"},
+    {"a count below zero is told, though no key is missing",
+     "[A]\nConversionType=2\n[A - Settings]\nNumCoefficients=-5\nUsePolynomial=False\nCoefficients0=1\n",
+     "host.ini:4: [A - Settings] NumCoefficients: the value -5 is not accepted\n"},
     {"a value that would be ignored silently is told",
      "[A]\nConversionType=8\n[A - Settings]\nNumPoints=11\n" //
      "Temperatures0=0\nVoltages0=0\nTemperatures1=0\nVoltages1=0\nTemperatures2=0\nVoltages2=0\n"

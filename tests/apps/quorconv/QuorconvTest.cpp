@@ -243,6 +243,16 @@ TEST_F(QuorconvTest, CompletesARecordOnlyByAllKeysThatItLacks) {
               Replaced(hostFile, "Coefficients2=-5.775E-7\n", "") + "Coefficients2=-5.775e-07\n");
 }
 
+TEST_F(QuorconvTest, ShowsAndCopiesNoRecordThatTheLibraryRefuses) {
+    folder.Write("host.ini", Replaced(hostFile, "NumCoefficients=4", "NumCoefficients=-4"));
+    const std::string refusal =
+        "quorconv: host.ini: [Probe 1]: the record cannot be read\n"
+        "  Cannot read the selected settings file because the file version is incorrect.\n"
+        "  Cannot read the selected settings file because the file version is incorrect.\n";
+    ExpectRefused({"show", "host.ini"}, refusal);
+    ExpectRefused({"copy", "host.ini", "Probe 1", "host.ini", "Probe 2"}, refusal);
+}
+
 TEST_F(QuorconvTest, CopiesBetweenStandAloneFilesAndHostFiles) {
     folder.Write("host.ini", hostFile);
     ExpectFine({"copy", "host.ini", "Probe 1", "probe.cvd", "Callendar-Van Dusen"});
