@@ -11,6 +11,7 @@
 #include <iostream>
 #include <map>
 #include <set>
+#include <unordered_map>
 #include <utility>
 
 namespace quorconv {
@@ -131,7 +132,7 @@ private:
         for (const std::size_t line : section.malformedLines)
             Report(line, section.name, L"", L"the line is no key=value");
         for (const auto& key : section.keys) {
-            const auto* const read = ProbeFile::FindKey(section, key.name);
+            const auto* const read = FindKey(section, key.name);
             if (read != &key)
                 Report(key.line, section.name, key.name,
                        L"the key stands twice; " + isRead + std::to_wstring(read->line) + L" is read");
@@ -141,10 +142,23 @@ private:
         }
     }
 
+    /// The key of that name that look-ups find. Sections are asked one after the other, each for all its
+    /// keys: an index of the one that was asked last keeps a long section from taking long.
+    const ProbeFile::Key* FindKey(const ProbeFile::Section& section, const std::wstring& name) {
+        if (m_indexed != &section) {
+            m_indexed = &section;
+            m_keys = {};
+            for (const auto& key : section.keys)
+                m_keys.emplace(Folded(key.name), &key);
+        }
+        const auto found = m_keys.find(Folded(name));
+        return found == m_keys.end() ? nullptr : found->second;
+    }
+
     /// A key that was not found: it is missing, or its text is not of its kind.
     void ReportRead(const ReadLog::Read& read, const Record& record) {
         const auto* const section = m_file.FindSection(read.section);
-        const auto* const key = section ? ProbeFile::FindKey(*section, read.key) : nullptr;
+        const auto* const key = section ? FindKey(*section, read.key) : nullptr;
         if (!section) {
             if (m_missingSections.insert(Folded(read.section)).second)
                 Report(record.line, read.section, L"", L"the section is missing");
@@ -159,11 +173,13 @@ private:
     /// A problem with a key that was read.
     void ReportAt(const ReadLog::Read& read, const Record& record, const std::wstring& what) {
         const auto* const section = m_file.FindSection(read.section);
-        const auto* const key = section ? ProbeFile::FindKey(*section, read.key) : nullptr;
+        const auto* const key = section ? FindKey(*section, read.key) : nullptr;
         Report(key ? key->line : record.line, read.section, read.key, what);
     }
 
     ProbeFile m_file;
+    const ProbeFile::Section* m_indexed = nullptr;
+    std::unordered_map<std::wstring, const ProbeFile::Key*> m_keys; ///< of m_indexed, by folded name
     std::multimap<std::size_t, std::wstring> m_problems;
     std::set<std::wstring> m_missingSections;
     std::set<std::pair<std::wstring, std::wstring>>

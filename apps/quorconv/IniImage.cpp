@@ -1,10 +1,9 @@
 #include "apps/quorconv/IniImage.h"
 
-#include "QuorIniFile/IniFormat.h"
 #include "QuorIniFile/IniValue.h"
 #include "QuorIniFile/Utf8.h"
+#include "apps/quorconv/Types.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace quorconv {
@@ -76,10 +75,8 @@ void IniImage::Apply(std::shared_ptr<IniImage> image, QuorConversions::SettingsO
 }
 
 IniImage::Entry* IniImage::Find(std::wstring_view path) {
-    const std::string wanted = ToUtf8(path);
-    const auto entry = std::find_if(m_entries.begin(), m_entries.end(),
-                                    [&](const Entry& e) { return SameName(ToUtf8(e.path), wanted); });
-    return entry == m_entries.end() ? nullptr : &*entry;
+    const auto found = m_byPath.find(Folded(std::wstring(path)));
+    return found == m_byPath.end() ? nullptr : &m_entries[found->second];
 }
 
 void IniImage::SetFileName(std::wstring_view /*fileName*/) {}
@@ -92,11 +89,11 @@ void IniImage::SetSection(std::wstring_view section) {
 void IniImage::Write(std::wstring_view key, Value value) {
     if (key == L"Version")
         return;
-    const std::wstring path = m_prefix + std::wstring(key);
-    if (Entry* const entry = Find(path))
-        entry->value = std::move(value);
+    std::wstring path = m_prefix + std::wstring(key);
+    if (const auto [at, isNew] = m_byPath.emplace(Folded(path), m_entries.size()); isNew)
+        m_entries.push_back({std::move(path), std::move(value)});
     else
-        m_entries.push_back({path, std::move(value)});
+        m_entries[at->second].value = std::move(value);
 }
 
 } // namespace quorconv

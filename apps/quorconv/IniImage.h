@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <variant>
 #include <vector>
 
@@ -71,6 +72,7 @@ private:
     void Write(std::wstring_view key, Value value);
 
     std::vector<Entry> m_entries;
+    std::unordered_map<std::wstring, std::size_t> m_byPath; ///< a file may claim 32767 coefficients
     std::wstring m_prefix;
 };
 

@@ -1,5 +1,6 @@
 #include "tests/apps/quorconv/Quorconv.h"
 
+#include <algorithm>
 #include <filesystem>
 
 TEST_F(QuorconvTest, ChecksTheSamplesWithoutAComplaint) {
@@ -89,6 +90,20 @@ TEST_F(QuorconvTest, ChecksEachRecordAndTellsFileLineSectionAndKey) {
         EXPECT_EQ(run.code, *bad.problems == '\0' ? 0 : 1);
         EXPECT_EQ(folder.Read("host.ini"), bad.file);
     }
+}
+
+TEST_F(QuorconvTest, ChecksARecordOfTheGreatestCountAndALongSection) {
+    std::string file = "[A]\nConversionType=2\n[A - Settings]\nNumCoefficients=32767\nUsePolynomial=False\n";
+    for (int i = 0; i < 32766; ++i) // the last one is missing
+        file += "Coefficients" + std::to_string(i) + "=1\n";
+    file += "[B]\nConversionType=10\nlast=1\n";
+    for (int i = 0; i < 32767; ++i)
+        file += "last" + std::to_string(i % 10) + "=1\n";
+    folder.Write("host.ini", file);
+    const Outcome run = Quorconv({"check", "host.ini"});
+    EXPECT_EQ(run.out.substr(0, run.out.find('\n')),
+              "host.ini:3: [A - Settings] Coefficients32766: the key is missing");
+    EXPECT_EQ(std::count(run.out.begin(), run.out.end(), '\n'), 1 + 1 + 32767);
 }
 
 TEST_F(QuorconvTest, ChecksEveryFileAndGoesOnAfterABadOne) {
