@@ -1,5 +1,6 @@
 #include "apps/quorconv/Commands.h"
 
+#include "QuorConversions/core/modPaths.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
 #include "apps/quorconv/IniImage.h"
@@ -73,15 +74,10 @@ Probe ReadProbe(const std::shared_ptr<QuorIniFile::INIFile>& store, const std::w
 /// Where a record is to be written: what stands there already, or a place for a new one.
 struct Target {
     Record record;
-    bool exists;
+    bool exists = false;
 };
 
-Target FindTarget(const std::wstring& path, const std::wstring& section,
-                  const std::wstring& standAloneSection) {
-    const auto standAlone = StandAloneSection(path);
-    const bool isStandAlone =
-        standAlone && Folded(*standAlone) == Folded(section) && Folded(standAloneSection) == Folded(section);
-    Target target{{section, 0, isStandAlone}, false};
+Target FindTarget(const std::wstring& path, const std::wstring& section, const TypeInfo& type) {
     try {
         const ProbeFile file(path);
         if (auto record = file.FindRecord(section))
@@ -92,7 +88,13 @@ Target FindTarget(const std::wstring& path, const std::wstring& section,
         if (error.Number() != QuorIniFile::ERROR_FILE_NOT_FOUND)
             throw;
     }
-    return target;
+    // Types share sections, not extensions: a PT100 would fit into a "cvd" file, and then be no valid one.
+    const auto standAlone = StandAloneSection(path);
+    const bool isStandAlone = standAlone && Folded(*standAlone) == Folded(section);
+    if (isStandAlone && Folded(GetExtensionPart(path)) != type.extension)
+        throw Problem{Place(path, section) + L": in a file of this kind the section is not for " +
+                      type.enumerator};
+    return {{section, 0, isStandAlone}, false};
 }
 
 void WriteProbe(Probe& probe, const std::wstring& file) {
@@ -234,7 +236,7 @@ void NewProbe(const std::wstring& path, const std::wstring& section, const std::
     const TypeInfo* const type = ParseType(typeText);
     if (!type || type->code == CONV_NONE)
         throw Problem{L"\"" + typeText + L"\" is no conversion type; the command \"types\" lists them"};
-    Target target = FindTarget(path, section, type->section);
+    Target target = FindTarget(path, section, *type);
     if (target.exists)
         throw Problem{Place(path, section) + L": there is a probe in this section already"};
     Probe probe(StoreOf(path), path, std::move(target.record));
@@ -258,7 +260,7 @@ void CopyProbe(const std::wstring& fromPath, const std::wstring& fromSection, co
     const TypeInfo* const type = FindType(source.Conversion().ConversionType());
     if (!type)
         throw Problem{Place(fromPath, fromSection) + L": " + source.TypeName() + L" is no conversion type"};
-    Target target = FindTarget(toPath, toSection, type->section);
+    Target target = FindTarget(toPath, toSection, *type);
     const auto store = StoreOf(toPath);
     if (target.exists) {
         // Nothing ever deletes keys, so a record of another type would leave its own among the new ones.

@@ -280,6 +280,19 @@ TEST_F(QuorconvTest, CopiesOverNothingThatIsOfAnotherKind) {
     EXPECT_EQ(folder.Read("host.ini"), hostFile);
 }
 
+TEST_F(QuorconvTest, MakesNoStandAloneFileOfATypeThatHasAnotherExtension) {
+    ExpectRefused({"new", "a.cvd", "Callendar-Van Dusen", "pt1"},
+                  "quorconv: a.cvd: [Callendar-Van Dusen]: in a file of this kind the section is not for "
+                  "CONV_PT100R0\n");
+    ExpectFine({"new", "host.ini", "P", "tcp"});
+    ExpectRefused({"copy", "host.ini", "P", "a.ttp", "Thermocouple Polynomial"},
+                  "quorconv: a.ttp: [Thermocouple Polynomial]: in a file of this kind the section is not for "
+                  "CONV_TCPOLYNOMIAL\n");
+    EXPECT_EQ(folder.Files(), (std::vector<std::string>{".err", ".out", "host.ini"}));
+    ExpectFine({"new", "a.cvd", "Probe 1", "pt1"});
+    ExpectFine({"check", "a.cvd"});
+}
+
 TEST_F(QuorconvTest, CopiesEveryProbeOfTheSampleLaboratoryExactly) {
     std::filesystem::copy_file(QUOR_SAMPLES "/laboratory.ini", folder.Path("laboratory.ini"));
     const Outcome list = Quorconv({"list", "laboratory.ini"});
