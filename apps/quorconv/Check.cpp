@@ -29,6 +29,8 @@ public:
     [[nodiscard]] bool Run() {
         if (const auto section = StandAloneSection(m_file.Path()); section && m_file.Records().empty())
             Report(1, *section, L"", L"the section is missing");
+        for (const std::size_t line : m_file.LostRecords())
+            Report(line, L"", L"", L"the header has no \"]\"; nobody can read the record below it");
         const auto store = StoreOf(m_file.Path());
         for (const Record& record : m_file.Records())
             CheckRecord(Probe(store, m_file.Path(), record), record);

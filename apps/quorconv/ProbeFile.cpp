@@ -47,14 +47,14 @@ void ProbeFile::ReadSections() {
         const IniLine& line = walker.Line();
         switch (line.kind) {
         case IniLineKind::Section:
-            m_sections.push_back({DecodeBytes(line.name), walker.Number(), {}, {}, {}});
+            m_sections.push_back({DecodeBytes(line.name), walker.Number(), {}, {}, {}, false});
             if (const auto [first, isFirst] =
                     m_firstByName.emplace(Folded(m_sections.back().name), m_sections.size() - 1);
                 !isFirst)
                 m_sections[first->second].repetitions.push_back(walker.Number());
             break;
         case IniLineKind::BrokenSection:
-            m_sections.push_back({{}, walker.Number(), {}, {walker.Number()}, {}});
+            m_sections.push_back({{}, walker.Number(), {}, {}, {}, true});
             break;
         case IniLineKind::Key:
             if (!m_sections.empty())
@@ -74,9 +74,12 @@ void ProbeFile::ReadSections() {
 void ProbeFile::FindRecords() {
     const auto standAlone = StandAloneSection(m_path);
     for (const Section& section : m_sections) {
+        const bool hasType = FindKey(section, L"ConversionType") != nullptr;
+        if (section.isBroken && hasType)
+            m_lostRecords.push_back(section.line);
         if (FindSection(section.name) != &section)
             continue; // nobody reads a second section of that name
-        if (FindKey(section, L"ConversionType"))
+        if (hasType)
             m_records.push_back({section.name, section.line, false});
         else if (standAlone && SameText(section.name, *standAlone))
             m_records.push_back({section.name, section.line, true});

@@ -33,7 +33,8 @@ public:
         std::vector<Key> keys;
         std::vector<std::size_t> malformedLines;
         std::vector<std::size_t>
-            repetitions; ///< lines of later headers with the same name, which nobody reads
+            repetitions;       ///< lines of later headers with the same name, which nobody reads
+        bool isBroken = false; ///< its header has no ']', so it has no name
     };
 
     /// Reads the file. Raises QuorError when it cannot be read.
@@ -43,8 +44,9 @@ public:
     ~ProbeFile() = default;
 
     [[nodiscard]] const std::wstring& Path() const { return m_path; }
-    [[nodiscard]] const std::vector<Section>& Sections() const { return m_sections; }
     [[nodiscard]] const std::vector<Record>& Records() const { return m_records; }
+    /// The lines of headers without a ']' above what would be a record: nobody can read it.
+    [[nodiscard]] const std::vector<std::size_t>& LostRecords() const { return m_lostRecords; }
     /// The section of that name, in any ASCII case, that look-ups find: the first one. Null for none.
     [[nodiscard]] const Section* FindSection(std::wstring_view name) const;
     [[nodiscard]] std::optional<Record> FindRecord(std::wstring_view section) const;
@@ -61,6 +63,7 @@ private:
     std::vector<Section> m_sections;
     std::unordered_map<std::wstring, std::size_t> m_firstByName;
     std::vector<Record> m_records;
+    std::vector<std::size_t> m_lostRecords;
 };
 
 /// The section in which a stand-alone settings file with the extension of `path` keeps its record; nothing
