@@ -59,12 +59,11 @@ public:
         m_app.footer("Exit codes: 0 fine, 1 a problem was found, 2 wrong usage.\n"
                      "\"quorconv COMMAND --help\" shows an example of each command.");
 
-        auto* types = Add("types", "List the conversion types: code, enumerator, name, file extension",
-                          "quorconv types", [] {
-                              quorconv::ListTypes();
-                              return fine;
-                          });
-        (void)types;
+        Add("types", "List the conversion types: code, enumerator, name, file extension", "quorconv types",
+            [] {
+                quorconv::ListTypes();
+                return fine;
+            });
 
         auto* list = Add("list", "List the probes of a file: section, type, name",
                          "quorconv list laboratory.ini", [this] {
