@@ -189,7 +189,7 @@ std::size_t IniDocument::FindLine(Section section, std::string_view key) const {
 }
 
 std::optional<IniLine> IniDocument::FindKey(Section section, std::string_view key) const {
-    if (Changed()) {
+    if (Written()) {
         if (const auto change = FindChange(section, key, HashOf(section, key)))
             return ClassifyLine(m_changes[*change].text);
     }
@@ -204,22 +204,33 @@ void IniDocument::Write(Section section, std::string_view key, std::string_view 
     const std::uint64_t hash = HashOf(section, key);
     if (const auto number = FindChange(section, key, hash)) {
         Change& change = m_changes[*number];
-        change.text = RewriteLine(change.text, value);
+        std::string line = RewriteLine(change.text, value);
+        m_differing -= Differs(change) ? 1 : 0;
+        change.text = std::move(line);
         change.isText = value.isText;
         change.hasComment = !value.isText && (change.hasComment || !value.comment.empty());
+        m_differing += Differs(change) ? 1 : 0;
         return;
     }
     const std::size_t at = FindLine(section, key);
     const std::string added = std::string(spelling) + '=';
     const std::string_view present = at == npos ? std::string_view(added) : CutLine(m_text, at).line;
     std::string line = RewriteLine(present, value);
-    if (at != npos && line == present)
-        return;
     if (m_changes.size() >= nameless)
         throw std::bad_alloc();
     m_changedKeys.Reserve(m_changes.size() + 1); // so that nothing fails between the two
     m_changes.push_back({section, value.isText, !value.comment.empty(), at, std::move(line)});
     m_changedKeys.Add(hash, static_cast<std::uint32_t>(m_changes.size() - 1));
+    m_differing += Differs(m_changes.back()) ? 1 : 0;
+}
+
+bool IniDocument::Differs(const Change& change) const {
+    return change.line == npos || CutLine(m_text, change.line).line != change.text;
+}
+
+void IniDocument::ForgetWrites() {
+    m_changes.clear();
+    m_changedKeys = {};
 }
 
 std::size_t IniDocument::BehindLastKey(Section section) const {

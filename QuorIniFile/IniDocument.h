@@ -43,11 +43,17 @@ public:
     /// behind the last key of the section, with `spelling` as the bytes of the key.
     void Write(Section section, std::string_view key, std::string_view spelling, const IniNewValue& value);
 
-    [[nodiscard]] bool Changed() const { return !m_changes.empty(); }
+    /// Whether the text with all changes is another one.
+    [[nodiscard]] bool Changed() const { return m_differing != 0; }
+    /// Whether anything was written, even if it stood there already: in the text that somebody else has made
+    /// of the file since, it may not.
+    [[nodiscard]] bool Written() const { return !m_changes.empty(); }
+    /// Forgets what was written. For a document that it has not changed.
+    void ForgetWrites();
     /// The text with all changes.
     [[nodiscard]] std::string Text() const;
-    /// Makes the changes of this document in another one, in their order: for a text that somebody else has
-    /// changed since it was read.
+    /// Writes into another document, in the same order, what was written into this one: for a text that
+    /// somebody else has changed since it was read.
     void ApplyChangesTo(IniDocument& other) const;
 
 private:
@@ -87,6 +93,7 @@ private:
     [[nodiscard]] const KeyIndex& KeysOf(Section section) const;
     [[nodiscard]] std::size_t LineStart(std::size_t at) const;
 
+    [[nodiscard]] bool Differs(const Change& change) const;
     [[nodiscard]] std::optional<std::uint32_t> FindChange(Section section, std::string_view key,
                                                           std::uint64_t hash) const;
     /// Where the text has the key line, npos when it has none.
@@ -100,6 +107,7 @@ private:
     std::vector<std::string> m_newSections;
     IniIndex m_sectionNames;
     std::vector<Change> m_changes;
+    std::size_t m_differing = 0; // how many of them say something else than the text
     IniIndex m_changedKeys;
     mutable std::unordered_map<Section, KeyIndex> m_keyIndexes; // of the large sections that were asked
     mutable std::optional<IniEncoding> m_encoding;

@@ -100,14 +100,16 @@ public:
     }
 
     void Save() {
-        if (!m_document || !m_document->Changed())
+        if (!m_document || !m_document->Written())
             return;
         if (StampOf(m_fileName) != m_stamp) {
             auto [document, stamp] = LoadFile();
             m_document->ApplyChangesTo(document);
             Adopt(std::move(document), stamp);
-            if (!m_document->Changed())
-                return;
+        }
+        if (!m_document->Changed()) {
+            m_document->ForgetWrites();
+            return;
         }
         std::string text = m_document->Text();
         const IniStamp stamp = ReplaceBytes(m_fileName, text);

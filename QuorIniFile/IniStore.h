@@ -19,9 +19,9 @@ namespace QuorIniFile {
 ///
 /// A write is durable when it returns. Between Hold and Release the writes are kept in memory; the outermost
 /// Release makes them durable together. A value that stands in the file already writes nothing. A save
-/// replaces the file as a whole, atomically. If another program has changed the file since it was loaded, our
-/// changes are applied to its text. A save that fails raises and keeps the changes; the next write or Release
-/// tries again.
+/// replaces the file as a whole, atomically. If another program has changed the file since it was loaded,
+/// what we have written is written into its text. A save that fails raises and keeps the changes; the next
+/// write or Release tries again.
 ///
 /// All errors are QuorError with the source "QuorIniFile" and the file's name in the description: bad file
 /// name 52, device error 57, disk full 61, permission denied 70, path not found 76, anything else that cannot

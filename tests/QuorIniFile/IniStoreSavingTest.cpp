@@ -171,6 +171,35 @@ TEST_F(IniStoreSaving, WhatAnotherProgramHasWrittenSurvives) {
     EXPECT_EQ(value, 6);
 }
 
+TEST_F(IniStoreSaving, AValueThatAnotherProgramHasReplacedIsWrittenAgain) {
+    File("[A]\nx=1\ny=1\n");
+    Put(L"x", 1);
+    File("[A]\nx=22\ny=1\n");
+    Put(L"x", 1);
+    EXPECT_EQ(File(), "[A]\nx=1\ny=1\n");
+
+    store->Hold();
+    Put(L"x", 1);
+    Put(L"y", 2);
+    File("[A]\nx=333\ny=333\nz=333\n");
+    store->Release();
+    EXPECT_EQ(File(), "[A]\nx=1\ny=2\nz=333\n");
+
+    fs::remove(folder.Path("a.ini"));
+    Put(L"x", 1);
+    EXPECT_EQ(File(), "[A]\nx=1\n");
+}
+
+TEST_F(IniStoreSaving, AHeldValueThatIsTakenBackSavesNothing) {
+    File("[A]\nx=1 ; ohms\n");
+    ASSERT_EQ(::chmod(folder.Path("a.ini").c_str(), 0444), 0); // a save would be refused
+    store->Hold();
+    Put(L"x", 2);
+    Put(L"x", 1);
+    store->Release();
+    EXPECT_EQ(File(), "[A]\nx=1 ; ohms\n");
+}
+
 TEST_F(IniStoreSaving, AFileThatAnotherProgramHasMadeInTheMeantimeSurvives) {
     store->Hold();
     Put(L"x", 1);
