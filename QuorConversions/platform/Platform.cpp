@@ -10,4 +10,6 @@ std::shared_ptr<QuorIniFile::INIFile> Platform::CreateIniFile() {
     return std::make_shared<QuorIniFile::IniStore>();
 }
 
+std::wstring Platform::DecimalSeparator() { return L"."; }
+
 } // namespace QuorConversions

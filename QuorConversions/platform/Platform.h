@@ -60,6 +60,9 @@ public:
     /// Returns the engine's result, 0 on failure.
     virtual std::int32_t CallHelp(const std::wstring& helpFile, std::uint32_t command, std::int32_t data) = 0;
 
+    /// The decimal separator of the user's regional settings; by default ".". Asked once in a process.
+    [[nodiscard]] virtual std::wstring DecimalSeparator();
+
     [[nodiscard]] virtual EMousePointer MousePointer() const = 0;
     virtual void SetMousePointer(EMousePointer shape) = 0;
 };

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "QuorConversions/Export.h"
+#include "QuorConversions/core/ValueFormatter.h"
+#include "QuorConversions/platform/Platform.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace QuorConversions {
+
+// Numbers that a person types. The key filters are no validators: they let pass what can stand in a number,
+// anywhere and as often as it is typed; the text is judged as a whole when a dialog gathers its values.
+
+/// The user's decimal separator, one character. The first call in the process asks `platform`; nobody asks
+/// again, and a platform that gives none, or raises, has ".".
+[[nodiscard]] QUORCONVERSIONS_EXPORT const std::wstring& GetDecimalSeparator(Platform& platform);
+
+/// The separators for values that are shown: the user's decimal one, and "," for groups, or "." where "," is
+/// taken.
+[[nodiscard]] QUORCONVERSIONS_EXPORT NumberSeparators UserSeparators(Platform& platform);
+
+/// Swallows a key that cannot stand in a number without exponent, by setting it to 0. Digits, signs,
+/// `separator`, and backspace, Enter, copy, paste, cut and undo pass; a point becomes the separator.
+QUORCONVERSIONS_EXPORT void FilterNumericKey(std::int16_t& keyAscii, std::wstring_view separator);
+/// The same for a number with exponent: "e" and "E" pass, too.
+QUORCONVERSIONS_EXPORT void FilterNumericKeyExp(std::int16_t& keyAscii, std::wstring_view separator);
+
+/// `text` with a point for every `separator`, as the parsing of numbers expects it.
+[[nodiscard]] QUORCONVERSIONS_EXPORT std::wstring ToPointDecimal(std::wstring text,
+                                                                 std::wstring_view separator);
+
+} // namespace QuorConversions
