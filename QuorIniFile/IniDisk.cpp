@@ -35,27 +35,27 @@ struct SystemError {
 };
 
 constexpr SystemError systemErrors[] = {
-    {EACCES, ERROR_PERMISSION_DENIED, true},
-    {EPERM, ERROR_PERMISSION_DENIED, false},
-    {EROFS, ERROR_PERMISSION_DENIED, false},
-    {ENOSPC, ERROR_DISK_FULL, true},
-    {EDQUOT, ERROR_DISK_FULL, false},
-    {EFBIG, ERROR_DISK_FULL, false},
-    {EIO, ERROR_DEVICE_IO, true},
-    {ENOTDIR, ERROR_PATH_NOT_FOUND, false},
-    {ENAMETOOLONG, ERROR_BAD_FILE_NAME, false},
+    {EACCES, ERR_PERMISSION_DENIED, true},
+    {EPERM, ERR_PERMISSION_DENIED, false},
+    {EROFS, ERR_PERMISSION_DENIED, false},
+    {ENOSPC, ERR_DISK_FULL, true},
+    {EDQUOT, ERR_DISK_FULL, false},
+    {EFBIG, ERR_DISK_FULL, false},
+    {EIO, ERR_DEVICE_IO, true},
+    {ENOTDIR, ERR_PATH_NOT_FOUND, false},
+    {ENAMETOOLONG, ERR_BAD_FILE_NAME, false},
 };
 
 [[noreturn]] void Raise(int code, std::wstring_view fileName, Deed deed) {
     if (code == ENOMEM)
         throw std::bad_alloc();
     if (code == ENOENT)
-        throw FileError(deed == Deed::Read ? ERROR_FILE_NOT_FOUND : ERROR_PATH_NOT_FOUND, fileName);
+        throw FileError(deed == Deed::Read ? ERR_FILE_NOT_FOUND : ERR_PATH_NOT_FOUND, fileName);
     const auto* const known = std::find_if(std::begin(systemErrors), std::end(systemErrors),
                                            [code](const SystemError& error) { return error.code == code; });
     if (known != std::end(systemErrors) && known->causeAddsNothing)
         throw FileError(known->number, fileName);
-    throw FileError(known != std::end(systemErrors) ? known->number : ERROR_PATH_FILE_ACCESS, fileName,
+    throw FileError(known != std::end(systemErrors) ? known->number : ERR_PATH_FILE_ACCESS, fileName,
                     DecodeBytes(std::generic_category().message(code)));
 }
 
@@ -102,7 +102,7 @@ void RequireRegular(const struct stat& status, std::wstring_view fileName) {
     if (S_ISDIR(status.st_mode))
         Raise(EISDIR, fileName, Deed::Read);
     if (!S_ISREG(status.st_mode))
-        throw FileError(ERROR_PATH_FILE_ACCESS, fileName, L"It is not a regular file");
+        throw FileError(ERR_PATH_FILE_ACCESS, fileName, L"It is not a regular file");
 }
 
 /// The status of the regular file behind `path`, or nothing when there is none.
@@ -256,7 +256,7 @@ IniStamp ReplaceBytes(std::wstring_view fileName, std::string_view bytes) {
     const std::optional<struct stat> old = FindRegular(path.string(), fileName);
     // The superuser may write anything; a file without any write bit is still meant to stay as it is.
     if (old && (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0 || (old->st_mode & 0222U) == 0))
-        throw FileError(ERROR_PERMISSION_DENIED, fileName, L"The file is read-only");
+        throw FileError(ERR_PERMISSION_DENIED, fileName, L"The file is read-only");
 
     TemporaryFile temporary(folder, old ? 0600 : 0666);
     if (!temporary.IsOpen())

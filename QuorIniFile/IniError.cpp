@@ -9,13 +9,13 @@ namespace QuorIniFile {
 namespace {
 
 constexpr std::pair<EErrorNumber, std::wstring_view> texts[] = {
-    {ERROR_BAD_FILE_NAME, L"Bad file name or number"},
-    {ERROR_FILE_NOT_FOUND, L"File not found"},
-    {ERROR_DEVICE_IO, L"Device I/O error"},
-    {ERROR_DISK_FULL, L"Disk full"},
-    {ERROR_PERMISSION_DENIED, L"Permission denied"},
-    {ERROR_PATH_FILE_ACCESS, L"Path/File access error"},
-    {ERROR_PATH_NOT_FOUND, L"Path not found"},
+    {ERR_BAD_FILE_NAME, L"Bad file name or number"},
+    {ERR_FILE_NOT_FOUND, L"File not found"},
+    {ERR_DEVICE_IO, L"Device I/O error"},
+    {ERR_DISK_FULL, L"Disk full"},
+    {ERR_PERMISSION_DENIED, L"Permission denied"},
+    {ERR_PATH_FILE_ACCESS, L"Path/File access error"},
+    {ERR_PATH_NOT_FOUND, L"Path not found"},
 };
 
 } // namespace

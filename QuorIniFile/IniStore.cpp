@@ -43,7 +43,7 @@ class IniStore::Session {
 public:
     void SetFileName(std::wstring_view fileName) {
         if (!IsFileName(fileName))
-            throw FileError(ERROR_BAD_FILE_NAME, fileName);
+            throw FileError(ERR_BAD_FILE_NAME, fileName);
         if (fileName == m_fileName)
             return;
         std::wstring name(fileName);
@@ -66,7 +66,7 @@ public:
     std::optional<IniLine> Read(std::wstring_view key) {
         Load();
         if (!m_stamp.exists && !m_document->Changed())
-            throw FileError(ERROR_FILE_NOT_FOUND, m_fileName);
+            throw FileError(ERR_FILE_NOT_FOUND, m_fileName);
         return Find(NameToFind(key));
     }
 
@@ -119,7 +119,7 @@ public:
 private:
     void Load() {
         if (!IsFileName(m_fileName))
-            throw FileError(ERROR_BAD_FILE_NAME, m_fileName);
+            throw FileError(ERR_BAD_FILE_NAME, m_fileName);
         // A file that was not there may have come since, as long as we have nothing to say about it.
         if (m_document && (m_stamp.exists || m_document->Changed()))
             return;
@@ -133,7 +133,7 @@ private:
         if (!file)
             return {IniDocument(), IniStamp()};
         if (IsUtf16(file->bytes))
-            throw FileError(ERROR_PATH_FILE_ACCESS, m_fileName, L"The file is UTF-16 text");
+            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, L"The file is UTF-16 text");
         return {IniDocument(std::move(file->bytes)), file->stamp};
     }
 
@@ -180,7 +180,7 @@ private:
                                        bool (*readsBack)(std::string_view)) const {
         std::optional<std::string> spelling = NameToWrite(name, EncodingFor(name));
         if (!spelling || !readsBack(*spelling))
-            throw FileError(ERROR_PATH_FILE_ACCESS, m_fileName,
+            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName,
                             L"No " + std::wstring(what) + L" can have the name \"" + std::wstring(name) +
                                 L'"');
         return *std::move(spelling);

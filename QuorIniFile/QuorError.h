@@ -9,24 +9,24 @@
 namespace QuorIniFile {
 
 /// Numbers of the errors that the three libraries raise. They leave the process in error reports, so a number
-/// keeps its meaning for ever; new ones are only added.
+/// keeps its meaning for ever; new ones are only added. (Not ERROR_...: system headers have macros of such
+/// names.)
 enum EErrorNumber : std::int32_t {
-    ERROR_OVERFLOW = 6,
-    ERROR_OUT_OF_MEMORY = 7,
-    ERROR_SUBSCRIPT_OUT_OF_RANGE = 9,
-    ERROR_BAD_FILE_NAME = 52,
-    ERROR_FILE_NOT_FOUND = 53,
-    ERROR_DEVICE_IO = 57,
-    ERROR_DISK_FULL = 61,
-    ERROR_PERMISSION_DENIED = 70,
-    ERROR_PATH_FILE_ACCESS = 75,
-    ERROR_PATH_NOT_FOUND = 76,
-    ERROR_OBJECT_NOT_SET = 91,
-    ERROR_CANNOT_CREATE = 429,
-    ERROR_DIALOG_CANCELLED = 32755,
-    ERROR_INDEX_OUT_OF_RANGE = -2147221003, // 0x800401F5, the object-error base plus 501
-    ERROR_RANGE_OUT_OF_RANGE = -2147221002, // 0x800401F6, the object-error base plus 502
-    ERROR_UNEXPECTED = -2147467259,         // 0x80004005, any exception that carries no number of its own
+    ERR_OVERFLOW = 6,
+    ERR_OUT_OF_MEMORY = 7,
+    ERR_SUBSCRIPT_OUT_OF_RANGE = 9,
+    ERR_BAD_FILE_NAME = 52,
+    ERR_FILE_NOT_FOUND = 53,
+    ERR_DEVICE_IO = 57,
+    ERR_DISK_FULL = 61,
+    ERR_PERMISSION_DENIED = 70,
+    ERR_PATH_FILE_ACCESS = 75,
+    ERR_PATH_NOT_FOUND = 76,
+    ERR_CANNOT_CREATE = 429,
+    ERR_DIALOG_CANCELLED = 32755,
+    ERR_INDEX_OUT_OF_RANGE = -2147221003, // 0x800401F5, the object-error base plus 501
+    ERR_RANGE_OUT_OF_RANGE = -2147221002, // 0x800401F6, the object-error base plus 502
+    ERR_UNEXPECTED = -2147467259,         // 0x80004005, any exception that carries no number of its own
 };
 
 /// The one exception of the libraries. It carries what an error report prints: number, source (the class or

@@ -31,7 +31,7 @@ std::wstring ConfigurationFolder() {
         return *std::move(folder);
     if (const auto home = PathFrom("HOME"))
         return *home + L"/.config";
-    Raise(QuorIniFile::ERROR_PATH_NOT_FOUND,
+    Raise(QuorIniFile::ERR_PATH_NOT_FOUND,
           L"Path not found: the user's configuration folder, because HOME is not set");
 }
 
@@ -40,7 +40,7 @@ std::wstring ConfigurationFolder() {
 FileRegistry::FileRegistry(std::wstring_view application, std::wstring_view folder) {
     if (application.empty() || application == L"." || application == L".." ||
         application.find_first_of(std::wstring_view(L"/\0", 2)) != std::wstring_view::npos)
-        Raise(QuorIniFile::ERROR_BAD_FILE_NAME, L"Bad file name or number: " + std::wstring(application));
+        Raise(QuorIniFile::ERR_BAD_FILE_NAME, L"Bad file name or number: " + std::wstring(application));
     m_folder = folder.empty() ? ConfigurationFolder().append(L"/").append(application) : std::wstring(folder);
     m_fileName = std::wstring(m_folder).append(L"/").append(application).append(L".ini");
 }
@@ -52,7 +52,7 @@ bool FileRegistry::ReadValue(std::wstring_view section, std::wstring_view name, 
     try {
         return store.ReadString(name, value);
     } catch (const QuorError& error) {
-        if (error.Number() == QuorIniFile::ERROR_FILE_NOT_FOUND)
+        if (error.Number() == QuorIniFile::ERR_FILE_NOT_FOUND)
             return false;
         throw;
     }

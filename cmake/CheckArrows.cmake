@@ -6,7 +6,8 @@
 set(storeys
     "QuorIniFile"
     "QuorRegistryII"
-    "QuorConversions/platform|QuorConversions/resources"
+    "QuorConversions/resources"
+    "QuorConversions/platform"
     "QuorConversions/controls"
     "QuorConversions/core"
     "QuorConversions/rtd|QuorConversions/thermistor|QuorConversions/polynomial|QuorConversions/thermocouple"
@@ -43,11 +44,14 @@ endfunction()
 
 set(problems "")
 set(checked 0)
-foreach(top IN ITEMS QuorIniFile QuorRegistryII QuorConversions toolkits/scripted apps/quorconv)
+foreach(top IN ITEMS QuorIniFile QuorRegistryII QuorConversions toolkits apps)
     file(GLOB_RECURSE sources RELATIVE ${ROOT} ${ROOT}/${top}/*.h ${ROOT}/${top}/*.cpp ${ROOT}/${top}/*.def)
     foreach(source IN LISTS sources)
         math(EXPR checked "${checked} + 1")
         folder_of(${source} from)
+        if(NOT from)
+            list(APPEND problems "${source}: stands in a folder that has no storey here")
+        endif()
         file(STRINGS ${ROOT}/${source} includes REGEX "^[ \t]*#[ \t]*include")
         foreach(line IN LISTS includes)
             string(REGEX REPLACE "^[^<\"]*[<\"]([^>\"]*)[>\"].*$" "\\1" header "${line}")

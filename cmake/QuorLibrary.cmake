@@ -10,7 +10,7 @@ target_compile_options(quor_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Werror)
 if(QUOR_SANITIZE)
     target_compile_options(quor_options INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(quor_options INTERFACE -fsanitize=address,undefined)
 endif()
 

@@ -67,7 +67,7 @@ LeadingNumber Read(std::wstring_view text) {
 double ParseLeadingNumber(std::wstring_view text) {
     const double value = Read(text).value;
     if (std::isinf(value))
-        throw QuorIniFile::QuorError(QuorIniFile::ERROR_OVERFLOW, L"QuorConversions",
+        throw QuorIniFile::QuorError(QuorIniFile::ERR_OVERFLOW, L"QuorConversions",
                                      TableText(IDS_OVERFLOWED));
     return value;
 }

@@ -88,10 +88,10 @@ void QuorObject::InFrame(std::shared_ptr<INIFile>& iniFile, const std::wstring& 
     try {
         if (temporary.IsNeeded()) {
             if (fname.empty())
-                throw Error(QuorIniFile::ERROR_BAD_FILE_NAME, IDS_BAD_FILE_NAME);
+                throw Error(QuorIniFile::ERR_BAD_FILE_NAME, IDS_BAD_FILE_NAME);
             iniFile = m_platform->CreateIniFile();
             if (!iniFile)
-                throw QuorError(QuorIniFile::ERROR_CANNOT_CREATE, m_className,
+                throw QuorError(QuorIniFile::ERR_CANNOT_CREATE, m_className,
                                 TableText(IDS_NO_INI_COMPONENT) + L": " + fname);
             iniFile->SetFileName(fname);
         }

@@ -19,7 +19,7 @@ void RecordWriter::Text(const wchar_t* key, const std::wstring& value) { m_iniFi
 void RecordWriter::Integer(const wchar_t* key, std::int32_t value) {
     using Limits = std::numeric_limits<std::int16_t>;
     if (value < Limits::min() || value > Limits::max())
-        throw QuorError(QuorIniFile::ERROR_OVERFLOW, m_source, TableText(IDS_OVERFLOWED));
+        throw QuorError(QuorIniFile::ERR_OVERFLOW, m_source, TableText(IDS_OVERFLOWED));
     m_iniFile->WriteInteger(key, static_cast<std::int16_t>(value), L"");
 }
 

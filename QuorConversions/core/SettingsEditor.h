@@ -6,6 +6,7 @@
 
 namespace QuorConversions {
 
+class Platform;
 class SettingsObject;
 
 /// The dialog of one settings object, as the object sees it.
@@ -22,6 +23,7 @@ public:
 
 /// The dialog that belongs to the class of `settings`; null when there is none. Defined with the table of
 /// dialogs, so that a settings class knows no dialog.
-[[nodiscard]] std::unique_ptr<SettingsEditor> CreateEditor(SettingsObject& settings);
+[[nodiscard]] std::unique_ptr<SettingsEditor> CreateEditor(SettingsObject& settings,
+                                                           const std::shared_ptr<Platform>& platform);
 
 } // namespace QuorConversions

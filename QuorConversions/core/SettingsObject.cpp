@@ -20,9 +20,9 @@ SettingsObject::SettingsObject(std::shared_ptr<Platform> platform, const Setting
 
 bool SettingsObject::Edit() {
     try {
-        const std::unique_ptr<SettingsEditor> editor = CreateEditor(*this);
+        const std::unique_ptr<SettingsEditor> editor = CreateEditor(*this, HostPlatform());
         if (!editor)
-            throw QuorError(QuorIniFile::ERROR_CANNOT_CREATE, ClassName(),
+            throw QuorError(QuorIniFile::ERR_CANNOT_CREATE, ClassName(),
                             ReplaceTildes(TableText(IDS_NO_DIALOG), ClassName()));
         return editor->Run();
     } catch (...) {
@@ -55,7 +55,7 @@ FileRequest SettingsObject::RequestFor(FileDialogKind kind, std::int32_t hwnd,
 std::wstring SettingsObject::AskForFile(const FileRequest& request) const {
     if (auto path = HostPlatform()->AskForFile(request))
         return *std::move(path);
-    throw Error(QuorIniFile::ERROR_DIALOG_CANCELLED, IDS_CANCEL_SELECTED);
+    throw Error(QuorIniFile::ERR_DIALOG_CANCELLED, IDS_CANCEL_SELECTED);
 }
 
 bool SettingsObject::OpenFile(std::int32_t hwnd, std::wstring& filename) {

@@ -5,8 +5,9 @@
 
 namespace QuorConversions {
 
-/// One display format for all values of an object. Setting it is never a change, and it is not stored in
-/// files.
+/// One display format for all values of an object (see ValueFormatter.h). Setting it is never a change, and
+/// it is not stored in files. Under any but the empty format the dialog stores what it shows; formats that
+/// group digits are not for boxes that people edit.
 class SharedValueFormat {
 public:
     [[nodiscard]] const std::wstring& ValueFormat() const { return m_valueFormat; }

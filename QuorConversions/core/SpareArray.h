@@ -34,7 +34,7 @@ public:
     void Resize(std::int16_t count) {
         SetCount(count);
         if (count < 0)
-            throw QuorIniFile::QuorError(QuorIniFile::ERROR_SUBSCRIPT_OUT_OF_RANGE, m_source,
+            throw QuorIniFile::QuorError(QuorIniFile::ERR_SUBSCRIPT_OUT_OF_RANGE, m_source,
                                          TableText(IDS_SUBSCRIPT_OUT_OF_RANGE));
     }
 
@@ -45,7 +45,7 @@ public:
     /// Raises "Index out of range" for an index that is not valid.
     [[nodiscard]] const Slot& At(std::int32_t index) const {
         if (!IsValid(index))
-            throw QuorIniFile::QuorError(QuorIniFile::ERROR_INDEX_OUT_OF_RANGE, m_source,
+            throw QuorIniFile::QuorError(QuorIniFile::ERR_INDEX_OUT_OF_RANGE, m_source,
                                          TableText(IDS_INDEX_OUT_OF_RANGE));
         return m_slots[static_cast<std::size_t>(index)];
     }

@@ -56,6 +56,31 @@ std::wstring ToPointDecimal(std::wstring text, std::wstring_view separator) {
     return text;
 }
 
+void EnterToTab(std::int16_t& keyAscii, Dialog& dialog, PushButton* button, bool enableButton) {
+    constexpr std::int16_t enter = 13;
+    if (keyAscii != enter)
+        return;
+    if (button && enableButton)
+        button->SetEnabled(true);
+    dialog.FocusNext();
+    keyAscii = 0;
+}
+
+void SelectAllText(Dialog& dialog) {
+    Control* const active = dialog.ActiveControl();
+    if (active && active->Kind() == ControlKind::TextBox) {
+        auto& box = static_cast<TextBox&>(*active);
+        box.SetSelection(0, box.Text().size());
+    }
+}
+
+void SelectItemByData(DropDownList& list, std::int32_t value) {
+    const std::int32_t count = list.ListCount();
+    for (std::int32_t index = 0; index < count; ++index)
+        if (list.ItemData(index) == value)
+            return list.SetListIndex(index);
+}
+
 #ifdef QUOR_TEST_ACCESS
 // Declared for the tests alone, in tests/support/DecimalSeparator.h: no host can ask for the separator anew.
 QUORCONVERSIONS_EXPORT void ForgetDecimalSeparator() { CachedSeparator().clear(); }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "QuorConversions/Export.h"
+#include "QuorConversions/controls/Dialog.h"
 #include "QuorConversions/core/ValueFormatter.h"
 #include "QuorConversions/platform/Platform.h"
 
@@ -30,5 +31,18 @@ QUORCONVERSIONS_EXPORT void FilterNumericKeyExp(std::int16_t& keyAscii, std::wst
 /// `text` with a point for every `separator`, as the parsing of numbers expects it.
 [[nodiscard]] QUORCONVERSIONS_EXPORT std::wstring ToPointDecimal(std::wstring text,
                                                                  std::wstring_view separator);
+
+// The same keys and boxes, in a dialog.
+
+/// The Enter key moves the focus to the next control, as Tab does, and is swallowed; before that it enables
+/// `button` when there is one and `enableButton` says so. Other keys pass.
+QUORCONVERSIONS_EXPORT void EnterToTab(std::int16_t& keyAscii, Dialog& dialog, PushButton* button,
+                                       bool enableButton);
+
+/// Selects the whole text of the control that has the focus; nothing happens when it has none.
+QUORCONVERSIONS_EXPORT void SelectAllText(Dialog& dialog);
+
+/// Selects the first item whose data is `value`, which raises Click; without one the selection stays.
+QUORCONVERSIONS_EXPORT void SelectItemByData(DropDownList& list, std::int32_t value);
 
 } // namespace QuorConversions

@@ -32,12 +32,12 @@ QuorError CurrentError(const std::wstring& source) {
     } catch (const QuorError& error) {
         return error;
     } catch (const std::bad_alloc&) {
-        return {ERROR_OUT_OF_MEMORY, source, TableText(IDS_OUT_OF_MEMORY)};
+        return {ERR_OUT_OF_MEMORY, source, TableText(IDS_OUT_OF_MEMORY)};
     } catch (const std::exception& error) {
         std::wstring text = WideText(error.what());
-        return {ERROR_UNEXPECTED, source, text.empty() ? TableText(IDS_SYSTEM_ERROR) : std::move(text)};
+        return {ERR_UNEXPECTED, source, text.empty() ? TableText(IDS_SYSTEM_ERROR) : std::move(text)};
     } catch (...) {
-        return {ERROR_UNEXPECTED, source, TableText(IDS_SYSTEM_ERROR)};
+        return {ERR_UNEXPECTED, source, TableText(IDS_SYSTEM_ERROR)};
     }
 }
 

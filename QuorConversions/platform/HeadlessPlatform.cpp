@@ -1,11 +1,19 @@
 #include "QuorConversions/platform/HeadlessPlatform.h"
 
+#include "QuorConversions/resources/StringIds.h"
+#include "QuorConversions/resources/StringTable.h"
+#include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
 
 #include <algorithm>
 #include <iostream>
 
 namespace QuorConversions {
+
+void HeadlessPlatform::RunDialog(Dialog& /*dialog*/, DialogInput& /*input*/) {
+    throw QuorIniFile::QuorError(QuorIniFile::ERR_CANNOT_CREATE, L"HeadlessPlatform",
+                                 TableText(IDS_NO_SCREEN));
+}
 
 void HeadlessPlatform::ShowMessage(const MessageRequest& request) {
     std::wstring line = request.title + L": " + request.text + L"\n";
@@ -23,7 +31,6 @@ std::int32_t HeadlessPlatform::CallHelp(const std::wstring& /*helpFile*/, std::u
 }
 
 std::shared_ptr<Platform> DefaultPlatform() {
-    // Nothing in it is worth more than one copy: the pointer shape is given back by everyone who takes it.
     static const std::shared_ptr<Platform> headless = std::make_shared<HeadlessPlatform>();
     return headless;
 }

@@ -38,6 +38,9 @@ struct FileRequest {
     std::int32_t owner = 0;        ///< window handle of the owner
 };
 
+class Dialog;
+class DialogInput;
+
 /// What a host environment offers to the library: one class, which the host makes and hands to the objects
 /// that it creates; they hand it on. A platform holds no settings and decides nothing about them.
 class QUORCONVERSIONS_EXPORT Platform {
@@ -49,6 +52,10 @@ public:
 
     /// A new INI-file object, not bound to a file; by default the built-in store.
     [[nodiscard]] virtual std::shared_ptr<QuorIniFile::INIFile> CreateIniFile();
+
+    /// Shows the dialog, reports through `input` what the user does, and returns when the dialog is no longer
+    /// open.
+    virtual void RunDialog(Dialog& dialog, DialogInput& input) = 0;
 
     /// Shows the message and waits until it is closed.
     virtual void ShowMessage(const MessageRequest& request) = 0;

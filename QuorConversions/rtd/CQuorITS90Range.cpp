@@ -39,15 +39,19 @@ std::wstring CQuorITS90Range::RangeName(std::int32_t vData) const {
     return row ? TableText(row->name) : std::wstring{};
 }
 
+std::int16_t CQuorITS90Range::CoefficientsOf(std::int32_t range) const {
+    const Row* const row = FindRow(range);
+    return row ? row->count : std::int16_t{0};
+}
+
 void CQuorITS90Range::SetRange(EITS90RangeNumber value) {
     if (value == m_range)
         return;
     if (value != ITS90_NORANGE && (value < m_minRange || value > m_maxRange))
-        throw Error(QuorIniFile::ERROR_RANGE_OUT_OF_RANGE, IDS_RANGE_OUT_OF_RANGE);
+        throw Error(QuorIniFile::ERR_RANGE_OUT_OF_RANGE, IDS_RANGE_OUT_OF_RANGE);
     SetChanged(true);
     m_range = value;
-    const Row* const row = FindRow(value);
-    const std::int16_t count = row ? row->count : std::int16_t{0};
+    const std::int16_t count = CoefficientsOf(value);
     if (count != m_coefficients.Count())
         m_coefficients.Resize(count);
 }

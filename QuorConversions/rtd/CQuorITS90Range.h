@@ -77,6 +77,10 @@ public:
 
     using QuorObject::WriteToFile, QuorObject::ReadFromFile;
 
+    /// How many coefficients a range of this side carries, whether it is selected or not; 0 for any other
+    /// value.
+    [[nodiscard]] std::int16_t CoefficientsOf(std::int32_t range) const;
+
 protected:
     struct Row {
         EITS90RangeNumber range;

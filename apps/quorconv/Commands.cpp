@@ -1,12 +1,15 @@
 #include "apps/quorconv/Commands.h"
 
 #include "QuorConversions/core/modPaths.h"
+#include "QuorIniFile/IniDisk.h"
+#include "QuorIniFile/IniError.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
 #include "apps/quorconv/IniImage.h"
 #include "apps/quorconv/Probe.h"
 #include "apps/quorconv/ProbeFile.h"
 #include "apps/quorconv/Types.h"
+#include "toolkits/scripted/Script.h"
 
 #include <nlohmann/json.hpp>
 
@@ -85,7 +88,7 @@ Target FindTarget(const std::wstring& path, const std::wstring& section, const T
         if (file.FindSection(section))
             throw Problem{Place(path, section) + L": the section exists and is not the record of a probe"};
     } catch (const QuorIniFile::QuorError& error) {
-        if (error.Number() != QuorIniFile::ERROR_FILE_NOT_FOUND)
+        if (error.Number() != QuorIniFile::ERR_FILE_NOT_FOUND)
             throw;
     }
     // Types share sections, not extensions: a PT100 would fit into a "cvd" file, and then be no valid one.
@@ -251,6 +254,39 @@ void SetValues(const std::wstring& path, const std::wstring& section,
     Probe probe = ReadProbe(StoreOf(path), path, FindRecord(file, section), assignments);
     Assign(probe, path, assignments);
     WriteProbe(probe, path);
+}
+
+void EditProbe(const std::wstring& path, const std::wstring& section, const std::wstring* scriptPath,
+               bool show) {
+    const ProbeFile file(path);
+    Probe probe = ReadProbe(StoreOf(path), path, FindRecord(file, section));
+    if (!probe.Settings())
+        throw Problem{Place(path, section) + L": " + probe.TypeName() + L" has no settings"};
+    std::wstring commands = show ? L"show\n" : L"";
+    if (scriptPath) {
+        const auto script = QuorIniFile::ReadBytes(*scriptPath);
+        if (!script)
+            throw QuorIniFile::FileError(QuorIniFile::ERR_FILE_NOT_FOUND, *scriptPath);
+        commands += QuorIniFile::DecodeBytes(script->bytes);
+    } else {
+        commands += L"escape";
+    }
+    const std::size_t added = show ? 1 : 0; // lines that the script does not have
+    try {
+        Scripted::Script(commands, added).PlayOn(probe.Screen(), [](const std::wstring& screen) {
+            std::cout << ToUtf8(screen);
+        });
+    } catch (const Scripted::ScriptError& error) {
+        throw Problem{*scriptPath + L": " + error.text};
+    }
+    const bool accepted = probe.Settings()->Edit();
+    std::wstring complaints;
+    for (const std::wstring& complaint : probe.Screen().Complaints())
+        complaints += L"\n  " + complaint;
+    if (!complaints.empty())
+        throw Problem{Place(path, section) + L": the dialog did not go as the script says" + complaints};
+    if (accepted)
+        WriteProbe(probe, path);
 }
 
 void CopyProbe(const std::wstring& fromPath, const std::wstring& fromSection, const std::wstring& toPath,

@@ -30,6 +30,10 @@ void SetValues(const std::wstring& path, const std::wstring& section,
                const std::vector<Assignment>& assignments);
 void CopyProbe(const std::wstring& fromPath, const std::wstring& fromSection, const std::wstring& toPath,
                const std::wstring& toSection);
+/// Opens the dialog of the probe and plays the script in it, a file; `show` prints the dialog as it opens,
+/// and without a script that is all. What was accepted is written.
+void EditProbe(const std::wstring& path, const std::wstring& section, const std::wstring* scriptPath,
+               bool show);
 /// Prints each problem of each file as "file:line: [section] key: what is wrong"; true when there is none.
 [[nodiscard]] bool CheckFiles(const std::vector<std::wstring>& files);
 

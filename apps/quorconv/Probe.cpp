@@ -11,13 +11,8 @@ namespace quorconv {
 using namespace QuorConversions;
 
 void MessageLog::ShowMessage(const MessageRequest& request) {
-    std::wstring line;
-    for (const wchar_t character : request.text)
-        if (character != L'\r')
-            line += character;
-        else if (!line.empty() && line.back() != L' ')
-            line += L' ';
-    m_messages.push_back({line, m_reads->Count()});
+    ScriptedPlatform::ShowMessage(request);
+    m_messages.push_back({Scripted::OnOneLine(request.text), m_reads->Count()});
 }
 
 bool IsVersionMessage(const MessageLog::Message& message) {

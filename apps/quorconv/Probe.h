@@ -1,10 +1,10 @@
 #pragma once
 
 #include "QuorConversions/core/CQuorConversion.h"
-#include "QuorConversions/platform/HeadlessPlatform.h"
 #include "apps/quorconv/ProbeFile.h"
 #include "apps/quorconv/ReadLog.h"
 #include "apps/quorconv/Types.h"
+#include "toolkits/scripted/ScriptedPlatform.h"
 
 #include <memory>
 #include <string>
@@ -13,7 +13,7 @@
 namespace quorconv {
 
 /// Keeps what the library tells the user, and which read had come last by then.
-class MessageLog final : public QuorConversions::HeadlessPlatform {
+class MessageLog final : public QuorConversions::Scripted::ScriptedPlatform {
 public:
     struct Message {
         std::wstring text; ///< on one line
@@ -70,6 +70,8 @@ public:
     [[nodiscard]] const std::vector<ReadLog::Read>& Reads() const { return m_reads->Reads(); }
     [[nodiscard]] const std::vector<MessageLog::Message>& Messages() const { return m_messages->Messages(); }
     void ForgetMessages() { m_messages->Forget(); }
+    /// The screen on which the library shows its dialogs.
+    [[nodiscard]] QuorConversions::Scripted::ScriptedPlatform& Screen() { return *m_messages; }
 
 private:
     void StartAnew();

@@ -20,9 +20,9 @@ bool SameText(std::wstring_view a, std::wstring_view b) {
 std::string BytesOf(const std::wstring& path) {
     auto file = ReadBytes(path);
     if (!file)
-        throw FileError(ERROR_FILE_NOT_FOUND, path);
+        throw FileError(ERR_FILE_NOT_FOUND, path);
     if (IsUtf16(file->bytes))
-        throw FileError(ERROR_PATH_FILE_ACCESS, path, L"the file is UTF-16 text");
+        throw FileError(ERR_PATH_FILE_ACCESS, path, L"the file is UTF-16 text");
     return std::move(file->bytes);
 }
 

@@ -106,6 +106,22 @@ public:
         AddSection(set);
         set->add_option("KEY=VALUE", m_assignments, "Values, by the keys that \"show\" prints")->required();
 
+        auto* edit =
+            Add("edit", "Edit a probe in its dialog, as a script says",
+                "quorconv edit laboratory.ini \"Probe 1\" --script steps.txt", [this] {
+                    if (m_script.empty() && !m_show)
+                        throw UsageError("edit needs --script FILE or --show: nobody can click here");
+                    const std::wstring script = Wide(m_script);
+                    quorconv::EditProbe(Wide(m_file), Wide(m_section), m_script.empty() ? nullptr : &script,
+                                        m_show);
+                    return fine;
+                });
+        AddFile(edit);
+        AddSection(edit);
+        edit->add_option("--script", m_script,
+                         "What the person does, a command a line: type R0 100.0123, choose Type K, click OK");
+        edit->add_flag("--show", m_show, "Print the dialog as text, as it opens");
+
         auto* copy =
             Add("copy", "Copy a probe to a section of the same or another file",
                 "quorconv copy prt-1188.cvd \"Callendar-Van Dusen\" laboratory.ini \"Probe 1\"", [this] {
@@ -156,7 +172,9 @@ private:
     std::string m_toSection;
     std::vector<std::string> m_assignments;
     std::vector<std::string> m_files;
+    std::string m_script;
     bool m_asJson = false;
+    bool m_show = false;
     CLI::Option* m_hasSection = nullptr;
 };
 

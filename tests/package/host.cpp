@@ -25,7 +25,7 @@ int main(int, char** argv) {
         (void)SettingsAs<CQuorCVD>(again)->Coefficients(4);
         return 1;
     } catch (const QuorError& error) { // crosses the border of a shared library
-        if (error.Number() != QuorIniFile::ERROR_INDEX_OUT_OF_RANGE)
+        if (error.Number() != QuorIniFile::ERR_INDEX_OUT_OF_RANGE)
             return 1;
     }
     return SettingsAs<CQuorCVD>(again)->Coefficients(CVD_R0) == 100.0123 ? 0 : 1;

@@ -34,8 +34,7 @@ double MemoryIniFile::Double(const std::wstring& section, const std::wstring& ke
 void MemoryIniFile::Operation(std::wstring line) {
     operations.push_back(std::move(line));
     if (operations.size() - 1 == failAt)
-        throw QuorIniFile::QuorError(QuorIniFile::ERROR_DEVICE_IO, L"QuorIniFile",
-                                     L"Device I/O error: memory");
+        throw QuorIniFile::QuorError(QuorIniFile::ERR_DEVICE_IO, L"QuorIniFile", L"Device I/O error: memory");
 }
 
 template <class T>

@@ -2,14 +2,65 @@
 
 namespace QuorConversions::Scripted {
 
+std::wstring OnOneLine(const std::wstring& text) {
+    std::wstring line;
+    for (const wchar_t character : text)
+        if (character != L'\r')
+            line += character;
+        else if (!line.empty() && line.back() != L' ')
+            line += L' ';
+    return line;
+}
+
 std::shared_ptr<QuorIniFile::INIFile> ScriptedPlatform::CreateIniFile() {
     m_events.emplace_back(L"ini file");
     return m_iniFiles ? m_iniFiles() : Platform::CreateIniFile();
 }
 
+void ScriptedPlatform::ExpectMessage(std::wstring text) {
+    m_expectsMessages = true;
+    m_expected.push_back(std::move(text));
+}
+
+void ScriptedPlatform::ComplainOfWhatDidNotCome() {
+    for (const std::wstring& message : m_expected)
+        Complain(L"there was no message \"" + message + L"\"");
+    for (const auto& file : m_answers)
+        Complain(L"there was no file dialog for \"" + file.value_or(L"") + L"\"");
+}
+
+void ScriptedPlatform::RunDialog(Dialog& dialog, DialogInput& input) {
+    m_events.push_back(L"dialog " + dialog.Title());
+    dialog.SetWindowHandle(1); // any window will do as the owner of a file dialog
+    input.Activate();
+    if (m_dialogs.empty()) {
+        Complain(L"nobody is there for the dialog \"" + dialog.Title() + L"\"");
+    } else {
+        const auto action = std::move(m_dialogs.front());
+        m_dialogs.pop_front();
+        Person person(dialog, input);
+        try {
+            action(person);
+        } catch (const CannotDo& error) {
+            Complain(error.text);
+        }
+        if (dialog.IsOpen())
+            Complain(L"the dialog \"" + dialog.Title() + L"\" was left open");
+    }
+    input.Escape();
+    dialog.SetWindowHandle(0);
+}
+
 void ScriptedPlatform::ShowMessage(const MessageRequest& request) {
     m_events.push_back(L"message " + request.text);
     m_messages.push_back(request);
+    if (m_expectsMessages) {
+        const std::wstring text = OnOneLine(request.text);
+        if (m_expected.empty() || m_expected.front() != text)
+            Complain(L"there was the message \"" + text + L"\"");
+        else
+            m_expected.pop_front();
+    }
     if (m_whileShown)
         m_whileShown();
 }

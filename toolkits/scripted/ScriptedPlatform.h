@@ -1,6 +1,7 @@
 #pragma once
 
 #include "QuorConversions/platform/Platform.h"
+#include "toolkits/scripted/Person.h"
 
 #include <cstdint>
 #include <deque>
@@ -11,6 +12,9 @@
 #include <vector>
 
 namespace QuorConversions::Scripted {
+
+/// The text of a message with single blanks for its line breaks.
+[[nodiscard]] std::wstring OnOneLine(const std::wstring& text);
 
 /// A platform for tests and scripts: file dialogs are answered beforehand, everything that a person would see
 /// or hear is recorded, and nothing ever blocks. A file dialog without an answer is cancelled.
@@ -25,10 +29,27 @@ public:
     /// The next file dialogs are answered with `path`, or cancelled, in the order of these calls.
     void ChooseFile(std::wstring path) { m_answers.emplace_back(std::move(path)); }
     void CancelFile() { m_answers.emplace_back(std::nullopt); }
+    /// What the person does in the next dialog, in the order of these calls. A dialog that they leave open,
+    /// or for which nobody is there, is left by Cancel; that is a complaint.
+    void InDialog(std::function<void(Person&)> action) { m_dialogs.push_back(std::move(action)); }
+    /// From now on a message that was not announced is a complaint.
+    void ExpectNoMessages() { m_expectsMessages = true; }
+    /// The next message is to say `text`, with blanks for its line breaks.
+    void ExpectMessage(std::wstring text);
+    /// What went otherwise than announced.
+    [[nodiscard]] const std::vector<std::wstring>& Complaints() const { return m_complaints; }
+    /// Complains of each file dialog and message that was announced and has not come.
+    void ComplainOfWhatDidNotCome();
+    void Complain(std::wstring text) { m_complaints.push_back(std::move(text)); }
+    /// Whether all answers, dialogs and expected messages were used up, without a complaint.
+    [[nodiscard]] bool NothingLeft() const {
+        return m_complaints.empty() && m_answers.empty() && m_dialogs.empty() && m_expected.empty();
+    }
     /// Makes the INI-file objects from now on; without it they are built-in stores.
     void MakeIniFilesWith(std::function<std::shared_ptr<QuorIniFile::INIFile>()> factory) {
         m_iniFiles = std::move(factory);
     }
+    void SetDecimalSeparator(std::wstring separator) { m_separator = std::move(separator); }
     /// Runs inside each message box, as host code can.
     void WhileMessageIsShown(std::function<void()> action) { m_whileShown = std::move(action); }
 
@@ -39,18 +60,25 @@ public:
     [[nodiscard]] const std::vector<FileRequest>& FileRequests() const { return m_fileRequests; }
     [[nodiscard]] const std::vector<HelpCall>& HelpCalls() const { return m_helpCalls; }
     /// Everything in order, a line each: "pointer 11", "message TEXT", "file dialog TITLE", "help DATA",
-    /// "ini file".
+    /// "dialog TITLE", "ini file".
     [[nodiscard]] const std::vector<std::wstring>& Events() const { return m_events; }
 
     [[nodiscard]] std::shared_ptr<QuorIniFile::INIFile> CreateIniFile() override;
+    void RunDialog(Dialog& dialog, DialogInput& input) override;
     void ShowMessage(const MessageRequest& request) override;
     [[nodiscard]] std::optional<std::wstring> AskForFile(const FileRequest& request) override;
     std::int32_t CallHelp(const std::wstring& helpFile, std::uint32_t command, std::int32_t data) override;
     [[nodiscard]] EMousePointer MousePointer() const override { return m_pointer; }
     void SetMousePointer(EMousePointer shape) override;
+    [[nodiscard]] std::wstring DecimalSeparator() override { return m_separator; }
 
 private:
     std::deque<std::optional<std::wstring>> m_answers;
+    std::deque<std::function<void(Person&)>> m_dialogs;
+    std::wstring m_separator = L".";
+    bool m_expectsMessages = false;
+    std::deque<std::wstring> m_expected;
+    std::vector<std::wstring> m_complaints;
     std::function<std::shared_ptr<QuorIniFile::INIFile>()> m_iniFiles;
     std::function<void()> m_whileShown;
     EMousePointer m_pointer = POINTER_DEFAULT;

@@ -15,6 +15,7 @@
 #include "QuorConversions/thermocouple/CQuorTCTypeX.h"
 #include "tests/support/HostRegistry.h"
 #include "tests/support/Messages.h"
+#include "tests/support/NoScreen.h"
 #include "tests/support/Objects.h"
 
 #include <functional>
@@ -89,7 +90,7 @@ protected:
         conversion.WriteToFile(same, L"", L"Probe");
     }
 
-    std::shared_ptr<ScriptedPlatform> platform = std::make_shared<ScriptedPlatform>();
+    std::shared_ptr<ScriptedPlatform> platform = std::make_shared<Support::NoScreen>();
     CQuorConversion conversion{platform};
     std::shared_ptr<MemoryIniFile> memory = std::make_shared<MemoryIniFile>();
     std::shared_ptr<INIFile> ini = memory;
@@ -285,10 +286,9 @@ TEST_F(CQuorConversionTest, SharesOneHelpFileWithTheWholeLibrary) {
 TEST_F(CQuorConversionTest, ReportsOnceThatItsSettingsCannotBeEdited) {
     conversion.SetConversionType(CONV_CVD);
     EXPECT_FALSE(conversion.Edit());
-    ASSERT_EQ(platform->Messages().size(), 1U);
-    EXPECT_EQ(platform->Messages().at(0).text.find(
-                  L"An error occurred while attempting to edit the conversion settings.\r\rError: "),
-              0U);
+    EXPECT_EQ(MessageTexts(*platform),
+              (Texts{ErrorReport(L"attempting to edit the conversion settings", 429,
+                                 L"No dialog can be shown here", L"HeadlessPlatform")}));
 }
 
 TEST_F(CQuorConversionTest, HasNothingToEditWithoutSettings) {

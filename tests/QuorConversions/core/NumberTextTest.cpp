@@ -2,9 +2,9 @@
 
 #include "QuorConversions/core/ValueFormatter.h"
 #include "QuorIniFile/Utf8.h"
+#include "tests/support/CommaLocale.h"
 #include "tests/support/Objects.h"
 
-#include <clocale>
 #include <cmath>
 #include <limits>
 #include <random>
@@ -135,20 +135,10 @@ TEST(NumberText, TakesANumberThatIsTooSmallAsZero) {
 }
 
 TEST(NumberText, DoesNotDependOnTheLocale) {
-    const std::string before = std::setlocale(LC_ALL, nullptr);
-    for (const char* const name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8"})
-        if (std::setlocale(LC_ALL, name) != nullptr)
-            break;
-    const bool comma = std::localeconv()->decimal_point[0] == ',';
-    const double value = ParseLeadingNumber(L"1.5");
-    const std::wstring text = FormatValue(1.5, L"0.00");
-    const std::wstring general = FormatValue(1234.5, L"Standard");
-    (void)std::setlocale(LC_ALL, before.c_str());
-    if (!comma)
-        GTEST_SKIP() << "no locale with a decimal comma is installed";
-    EXPECT_EQ(value, 1.5);
-    EXPECT_EQ(text, L"1.50");
-    EXPECT_EQ(general, L"1,234.50");
+    const CommaLocale comma;
+    EXPECT_EQ(ParseLeadingNumber(L"1.5"), 1.5);
+    EXPECT_EQ(FormatValue(1.5, L"0.00"), L"1.50");
+    EXPECT_EQ(FormatValue(1234.5, L"Standard"), L"1,234.50");
 }
 
 TEST(NumberText, ReadsAnyTextWhatever) {

@@ -3,6 +3,7 @@
 #include "QuorConversions/thermocouple/CQuorTCTypeX.h"
 #include "tests/support/HostRegistry.h"
 #include "tests/support/Messages.h"
+#include "tests/support/NoScreen.h"
 #include "tests/support/Objects.h"
 #include "tests/support/SettingsClasses.h"
 
@@ -259,13 +260,13 @@ TEST_P(SettingsObjectTest, TakesTheNameBeforeItWritesTheFile) {
     EXPECT_EQ(startInBox, nameInBox);
 }
 
-TEST_P(SettingsObjectTest, TellsThatItHasNoDialogYet) {
+TEST_P(SettingsObjectTest, TellsWhereNoDialogCanBeShown) {
+    UsePlatform(std::make_shared<Support::NoScreen>());
     EXPECT_FALSE(settings->Edit());
     ASSERT_EQ(platform->Messages().size(), 1U);
     const MessageRequest& message = platform->Messages()[0];
-    EXPECT_EQ(message.text.find(L"An error occurred while attempting to edit the conversion settings.\r"),
-              0U);
-    EXPECT_NE(message.text.find(L"There is no dialog for "), std::wstring::npos);
+    EXPECT_EQ(message.text, Support::ErrorReport(L"attempting to edit the conversion settings", 429,
+                                                 L"No dialog can be shown here", L"HeadlessPlatform"));
     EXPECT_EQ(message.title, L"Quor Scientific");
     EXPECT_EQ(message.icon, ICON_CRITICAL);
     EXPECT_FALSE(settings->Changed());

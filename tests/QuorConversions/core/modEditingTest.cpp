@@ -25,6 +25,23 @@ private:
     std::wstring m_separator;
 };
 
+/// A box, a list of ranges and a button, and what was clicked.
+class SmallDialog : public Dialog {
+public:
+    SmallDialog() : Dialog(L"frmSmall") {
+        AddItemWithData(list, L"<none>", -1);
+        AddItemWithData(list, L"Range 1", 1);
+        AddItemWithData(list, L"Range 2", 2);
+    }
+    TextBox& box = Add<TextBox>(L"txtBox");
+    DropDownList& list = Add<DropDownList>(L"cboList");
+    PushButton& button = Add<PushButton>(L"cmdOK");
+    int clicks = 0;
+
+private:
+    void OnClick(Control& /*control*/) override { ++clicks; }
+};
+
 class FailingPlatform : public HeadlessPlatform {
 public:
     std::wstring DecimalSeparator() override { throw std::runtime_error("no regional settings"); }
@@ -122,4 +139,69 @@ TEST(ToPointDecimal, PutsAPointForEverySeparator) {
     EXPECT_EQ(ToPointDecimal(L"1.5", L","), L"1.5");
     EXPECT_EQ(ToPointDecimal(L"1,5", L"."), L"1,5");
     EXPECT_EQ(ToPointDecimal(L"", L","), L"");
+}
+
+TEST(EnterToTab, MovesTheFocusOnAndSwallowsTheKey) {
+    SmallDialog dialog;
+    dialog.SetFocus(dialog.box);
+    std::int16_t key = 13;
+    EnterToTab(key, dialog, nullptr, true);
+    EXPECT_EQ(key, 0);
+    EXPECT_EQ(dialog.ActiveControl(), &dialog.list);
+}
+
+TEST(EnterToTab, EnablesTheButtonFirstWhenItIsAskedTo) {
+    for (const bool enable : {false, true}) {
+        SmallDialog dialog;
+        dialog.list.SetEnabled(false);
+        dialog.button.SetEnabled(false);
+        dialog.SetFocus(dialog.box);
+        std::int16_t key = 13;
+        EnterToTab(key, dialog, &dialog.button, enable);
+        EXPECT_EQ(dialog.button.Enabled(), enable);
+        EXPECT_EQ(dialog.ActiveControl() == &dialog.button, enable) << "the focus can go there by now";
+        EXPECT_EQ(dialog.clicks, 0);
+    }
+}
+
+TEST(EnterToTab, LetsOtherKeysPass) {
+    SmallDialog dialog;
+    dialog.button.SetEnabled(false);
+    dialog.SetFocus(dialog.box);
+    for (const int other : {0, 1, 9, 10, 12, 14, 32, 49, -13}) {
+        auto key = static_cast<std::int16_t>(other);
+        EnterToTab(key, dialog, &dialog.button, true);
+        EXPECT_EQ(key, other);
+    }
+    EXPECT_EQ(dialog.ActiveControl(), &dialog.box);
+    EXPECT_FALSE(dialog.button.Enabled());
+}
+
+TEST(SelectAllText, SelectsTheTextOfTheControlThatHasTheFocus) {
+    SmallDialog dialog;
+    dialog.box.SetText(L"100.5");
+    dialog.box.SetSelection(2, 1);
+    SelectAllText(dialog);
+    EXPECT_EQ(dialog.box.SelLength(), 1U) << "nothing has the focus";
+    dialog.SetFocus(dialog.button);
+    SelectAllText(dialog);
+    EXPECT_EQ(dialog.box.SelLength(), 1U) << "a button has no text to select";
+    dialog.SetFocus(dialog.box);
+    SelectAllText(dialog);
+    EXPECT_EQ(dialog.box.SelStart(), 0U);
+    EXPECT_EQ(dialog.box.SelLength(), 5U);
+}
+
+TEST(SelectItemByData, SelectsTheFirstItemWithThatDataWhichIsAClick) {
+    SmallDialog dialog;
+    AddItemWithData(dialog.list, L"Range 1 again", 1);
+    SelectItemByData(dialog.list, 1);
+    EXPECT_EQ(dialog.list.ListIndex(), 1);
+    EXPECT_EQ(dialog.clicks, 1);
+    SelectItemByData(dialog.list, 7);
+    EXPECT_EQ(dialog.list.ListIndex(), 1) << "the selection stays";
+    EXPECT_EQ(dialog.clicks, 1);
+    SelectItemByData(dialog.list, -1);
+    EXPECT_EQ(dialog.list.ListIndex(), 0);
+    EXPECT_EQ(dialog.clicks, 2);
 }

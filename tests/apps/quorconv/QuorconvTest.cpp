@@ -317,7 +317,7 @@ TEST_F(QuorconvTest, TellsWrongUsageFromAProblem) {
 }
 
 TEST_F(QuorconvTest, ShowsAnExampleOfEachCommandAndItsVersion) {
-    for (const std::string command : {"types", "list", "show", "new", "set", "copy", "check"}) {
+    for (const std::string command : {"types", "list", "show", "new", "set", "edit", "copy", "check"}) {
         const Outcome run = Quorconv({command, "--help"});
         EXPECT_EQ(run.code, 0) << command;
         EXPECT_NE(run.out.find("Example:\n  quorconv " + command), std::string::npos) << run.out;

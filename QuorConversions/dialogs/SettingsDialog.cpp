@@ -1,0 +1,285 @@
+#include "QuorConversions/dialogs/SettingsDialog.h"
+
+#include "QuorConversions/core/NumberText.h"
+#include "QuorConversions/core/ValueFormatter.h"
+#include "QuorConversions/core/modEditing.h"
+#include "QuorConversions/core/modHelp.h"
+#include "QuorConversions/core/modMessages.h"
+#include "QuorConversions/thermocouple/TCTypeCatalogue.h"
+
+#include <algorithm>
+#include <charconv>
+#include <optional>
+#include <utility>
+
+namespace QuorConversions {
+namespace {
+
+// Names in the registry: they are no texts for users.
+constexpr const wchar_t* leftName = L"Left";
+constexpr const wchar_t* topName = L"Top";
+
+/// A coordinate that StorePlacement wrote; nothing for anything else.
+std::optional<std::int32_t> ReadCoordinate(QuorRegistryII::Registry& registry, const std::wstring& group,
+                                           const wchar_t* name) {
+    std::wstring text;
+    if (!registry.ReadValue(group, name, text))
+        return std::nullopt;
+    if (text.find_first_not_of(L"-0123456789") != std::wstring::npos)
+        return std::nullopt;
+    const std::string digits(text.begin(), text.end());
+    std::int32_t value = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    if (error != std::errc() || end != digits.data() + digits.size())
+        return std::nullopt;
+    return value;
+}
+
+} // namespace
+
+SettingsDialog::SettingsDialog(SettingsObject& settings, std::shared_ptr<Platform> platform,
+                               const wchar_t* name, std::int32_t helpContext)
+    : Dialog(name),
+      m_settings(settings),
+      m_platform(std::move(platform)),
+      m_frame(Add<Frame>(L"framSettings")) {
+    SetHelpContext(helpContext);
+    AddColumn(m_frame);
+}
+
+bool SettingsDialog::Run() {
+    // The buttons come last, so that they are last in tab order.
+    m_openSaveAs = AddArray<PushButton>(L"cmdOpenSaveAs", 2);
+    m_okCancelHelp = AddArray<PushButton>(L"cmdOKCancelHelp", 3);
+    auto& buttons = Add<Frame>(L"framButtons");
+    for (PushButton* const button : m_okCancelHelp)
+        buttons.AddRow({button});
+    for (PushButton* const button : m_openSaveAs)
+        buttons.AddRow({button});
+    AddColumn(buttons);
+    SetCancelButton(*m_okCancelHelp[Cancel]);
+    SetCaptions();
+
+    SetTitle(m_settings.GetName() + L" " + TableText(IDS_SETTINGS_WORD));
+    m_frame.SetCaption(m_settings.GetName() + L":");
+    RestorePlacement();
+    DialogInput input = Input();
+    m_platform->RunDialog(*this, input);
+    StorePlacement();
+    return !m_cancelled;
+}
+
+void SettingsDialog::SetCaptions() {
+    m_okCancelHelp[OK]->SetCaption(TableText(IDS_OK_BUTTON));
+    m_okCancelHelp[Cancel]->SetCaption(TableText(IDS_CANCEL_BUTTON));
+    m_okCancelHelp[Help]->SetCaption(TableText(IDS_HELP_BUTTON));
+    m_openSaveAs[Open]->SetCaption(TableText(IDS_OPEN_BUTTON));
+    m_openSaveAs[SaveAs]->SetCaption(TableText(IDS_SAVE_AS_BUTTON));
+}
+
+void SettingsDialog::LoadControls() {
+    AllowEditing({m_openSaveAs[Open], m_openSaveAs[SaveAs], m_okCancelHelp[OK]});
+}
+
+SettingsDialog::Field& SettingsDialog::AddField(std::wstring labelName, std::wstring boxName,
+                                                std::function<double()> get, std::function<void(double)> set,
+                                                std::function<std::wstring()> format) {
+    auto& label = Add<Label>(std::move(labelName));
+    auto& box = Add<TextBox>(std::move(boxName));
+    m_frame.AddRow({&label, &box});
+    return AddField(label, box, std::move(get), std::move(set), std::move(format));
+}
+
+SettingsDialog::Field& SettingsDialog::AddField(Label& label, TextBox& box, std::function<double()> get,
+                                                std::function<void(double)> set,
+                                                std::function<std::wstring()> format) {
+    return m_fields.emplace_back(Field{label, box, std::move(get), std::move(set), std::move(format)});
+}
+
+void SettingsDialog::ShowValue(const Field& field) const {
+    field.box.SetText(FormatValue(field.get(), field.format(), UserSeparators(*m_platform)));
+}
+
+void SettingsDialog::StoreValue(const Field& field) const {
+    const std::wstring& text = field.box.Text();
+    // Without a format the text says exactly what is stored, also where it is no number that can be typed:
+    // NaN.
+    if (field.format().empty() && text == FormatValue(field.get(), {}, UserSeparators(*m_platform)))
+        return;
+    field.set(ParseLeadingNumber(PointText(text)));
+}
+
+SettingsDialog::Choice SettingsDialog::MakeChoice(std::wstring labelName, std::wstring listName,
+                                                  std::function<void(ListControl&)> fill,
+                                                  std::function<std::int32_t()> get,
+                                                  std::function<void(std::int32_t)> set) {
+    auto& label = Add<Label>(std::move(labelName));
+    auto& list = Add<DropDownList>(std::move(listName));
+    m_frame.AddRow({&label, &list});
+    return {label, list, std::move(fill), std::move(get), std::move(set)};
+}
+
+void SettingsDialog::ShowChoice(const Choice& choice) const {
+    choice.fill(choice.list);
+    SelectItemByData(choice.list, choice.get());
+    AllowEditing({&choice.label, &choice.list});
+}
+
+bool SettingsDialog::StoreChoice(const Choice& choice) {
+    if (!choice.list.HasSelection())
+        return false;
+    choice.set(choice.list.ItemData(choice.list.ListIndex()));
+    return true;
+}
+
+bool SettingsDialog::StoreTCType(const Choice& choice) {
+    return StoreChoice(choice) || Refuse(IDS_SELECT_TC_TYPE, &choice.list);
+}
+
+bool SettingsDialog::RequireTCType(const Choice& choice) {
+    const std::int32_t type = choice.get();
+    return (type >= TCTYPE_B && type <= TCTYPE_AUPT) || Refuse(IDS_SELECT_TC_TYPE, &choice.list);
+}
+
+void SettingsDialog::SetVisible(const Field& field, bool visible) {
+    field.label.SetVisible(visible);
+    field.box.SetVisible(visible);
+}
+
+void SettingsDialog::AllowEditing(std::initializer_list<Control*> controls) const {
+    for (Control* const control : controls)
+        control->SetEnabled(m_settings.AllowEdit());
+}
+
+bool SettingsDialog::Refuse(EStringId message, Control* focus) {
+    ShowMessage(*m_platform, TableText(message), TableText(IDS_MESSAGE_TITLE));
+    if (focus) {
+        ShowPageOf(*focus);
+        SetFocus(*focus);
+    }
+    return false;
+}
+
+void SettingsDialog::OnActivate() {
+    if (std::exchange(m_activated, true))
+        return;
+    LoadAll(true);
+    // A box that may not be edited cannot keep the focus.
+    if (ActiveControl() && !ActiveControl()->IsUsable())
+        FocusNext();
+    SelectAllText(*this);
+}
+
+void SettingsDialog::LoadAll(bool first) {
+    try {
+        if (first)
+            PrepareControls();
+        LoadControls();
+    } catch (...) {
+        ReportError(IDS_EDITING_SETTINGS);
+        // What could not be shown must not be gathered.
+        m_okCancelHelp[OK]->SetEnabled(false);
+        m_openSaveAs[SaveAs]->SetEnabled(false);
+    }
+}
+
+void SettingsDialog::OnClick(Control& control) {
+    try {
+        if (control.Kind() == ControlKind::PushButton)
+            OnButton(static_cast<const PushButton&>(control));
+        else
+            OnChoice(control);
+    } catch (...) {
+        ReportError(IDS_EDITING_SETTINGS);
+    }
+}
+
+void SettingsDialog::OnButton(const PushButton& button) {
+    if (&button == m_okCancelHelp[OK]) {
+        if (Accept())
+            Hide();
+    } else if (&button == m_okCancelHelp[Cancel]) {
+        m_cancelled = true;
+        Hide();
+    } else if (&button == m_okCancelHelp[Help]) {
+        ShowHelpTopic(*m_platform, HelpContext());
+    } else if (&button == m_openSaveAs[Open]) {
+        std::wstring file;
+        if (m_settings.OpenFile(WindowHandle(), file))
+            LoadAll(false);
+    } else if (&button == m_openSaveAs[SaveAs] && Accept()) {
+        std::wstring file;
+        m_settings.SaveFileAs(WindowHandle(), file);
+    }
+}
+
+bool SettingsDialog::Accept() {
+    EStringId context = IDS_GATHERING_SETTINGS;
+    try {
+        if (!GatherSettings())
+            return false;
+        context = IDS_VALIDATING_SETTINGS;
+        return ValidateSettings();
+    } catch (...) {
+        ReportError(context);
+        return false;
+    }
+}
+
+void SettingsDialog::OnGotFocus(Control& control) {
+    if (control.Kind() == ControlKind::TextBox)
+        SelectAllText(*this);
+}
+
+void SettingsDialog::OnLostFocus(Control& control) {
+    const auto field = std::find_if(m_fields.begin(), m_fields.end(),
+                                    [&](const Field& candidate) { return &candidate.box == &control; });
+    if (field == m_fields.end())
+        return;
+    try {
+        const std::wstring format = field->format();
+        const auto number = ParseWholeNumber(PointText(field->box.Text()));
+        if (number && !format.empty())
+            field->box.SetText(FormatValue(*number, format, UserSeparators(*m_platform)));
+    } catch (...) { // a row that the object refuses by now keeps the text that was typed
+    }
+}
+
+void SettingsDialog::OnKeyPress(TextBox& /*box*/, std::int16_t& keyAscii) {
+    FilterNumericKeyExp(keyAscii, GetDecimalSeparator(*m_platform));
+    EnterToTab(keyAscii, *this, nullptr, false);
+}
+
+std::wstring SettingsDialog::PointText(const std::wstring& text) const {
+    return ToPointDecimal(text, GetDecimalSeparator(*m_platform));
+}
+
+void SettingsDialog::ReportError(EStringId context) const {
+    QuorConversions::ReportError(*m_platform, CurrentError(Name()), TableText(context),
+                                 TableText(IDS_MESSAGE_TITLE));
+}
+
+void SettingsDialog::RestorePlacement() {
+    try {
+        if (const auto registry = m_settings.Registry()) {
+            const auto left = ReadCoordinate(*registry, Name(), leftName);
+            const auto top = ReadCoordinate(*registry, Name(), topName);
+            if (left && top)
+                SetPlace(Placement{*left, *top});
+        }
+    } catch (...) { // the dialog stands where the toolkit puts it
+    }
+}
+
+void SettingsDialog::StorePlacement() const {
+    try {
+        const auto registry = m_settings.Registry();
+        if (registry && Place()) {
+            registry->WriteValue(Name(), leftName, std::to_wstring(Place()->left));
+            registry->WriteValue(Name(), topName, std::to_wstring(Place()->top));
+        }
+    } catch (...) { // where a window stood is not worth a message
+    }
+}
+
+} // namespace QuorConversions

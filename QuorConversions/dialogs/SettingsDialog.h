@@ -1,0 +1,126 @@
+#pragma once
+
+#include "QuorConversions/controls/Dialog.h"
+#include "QuorConversions/core/SettingsEditor.h"
+#include "QuorConversions/core/SettingsObject.h"
+
+#include <deque>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace QuorConversions {
+
+/// What all settings dialogs share: the buttons, the cycle of loading, gathering and validating, the
+/// behaviour of value boxes, the read-only rule, Open and Save As, Help, and the placement. A dialog edits
+/// its settings object in place; nothing is copied and nothing rolled back.
+class SettingsDialog : public Dialog, public SettingsEditor {
+public:
+    /// Shows the dialog modally. False only when the user left it by Cancel.
+    bool Run() override;
+    [[nodiscard]] bool Cancelled() const { return m_cancelled; }
+
+protected:
+    /// A value of the object and the box that shows it.
+    struct Field {
+        Label& label;
+        TextBox& box;
+        std::function<double()> get;
+        std::function<void(double)> set;
+        std::function<std::wstring()> format;
+    };
+    /// A choice of the object, and the list that offers it.
+    struct Choice {
+        Label& label;
+        DropDownList& list;
+        std::function<void(ListControl&)> fill;
+        std::function<std::int32_t()> get;
+        std::function<void(std::int32_t)> set;
+    };
+
+    /// `settings` outlives the dialog.
+    SettingsDialog(SettingsObject& settings, std::shared_ptr<Platform> platform, const wchar_t* name,
+                   std::int32_t helpContext);
+
+    // What a dialog says for itself. Each is called by the cycle; errors that they raise are reported by it.
+
+    /// Constant texts; the settings object is not looked at.
+    virtual void SetCaptions();
+    virtual void LoadControls();
+    /// Stores what the controls show. False when something could not be stored, of which the user has been
+    /// told.
+    [[nodiscard]] virtual bool GatherSettings() = 0;
+    /// Checks the object, not the controls. False at the first failure, by way of Refuse.
+    [[nodiscard]] virtual bool ValidateSettings() { return true; }
+    /// The first activation, before the controls are loaded.
+    virtual void PrepareControls() {}
+    /// An item of a list was selected, or a tab.
+    virtual void OnChoice(Control& /*control*/) {}
+
+    /// Adds a label and a box in a row of their own.
+    Field& AddField(std::wstring labelName, std::wstring boxName, std::function<double()> get,
+                    std::function<void(double)> set, std::function<std::wstring()> format);
+    Field& AddField(Label& label, TextBox& box, std::function<double()> get, std::function<void(double)> set,
+                    std::function<std::wstring()> format);
+    /// The value in the format of its field.
+    void ShowValue(const Field& field) const;
+    /// The leading number of the text, or 0, stored in the object.
+    void StoreValue(const Field& field) const;
+    /// Adds a label and a list in a row of their own.
+    [[nodiscard]] Choice MakeChoice(std::wstring labelName, std::wstring listName,
+                                    std::function<void(ListControl&)> fill, std::function<std::int32_t()> get,
+                                    std::function<void(std::int32_t)> set);
+    /// Fills the list and selects what the object holds, which raises Click.
+    void ShowChoice(const Choice& choice) const;
+    /// Stores what is selected. False when nothing is.
+    [[nodiscard]] static bool StoreChoice(const Choice& choice);
+    /// The same for thermocouple types, of which one must be selected; the user is told when none is.
+    [[nodiscard]] bool StoreTCType(const Choice& choice);
+    /// Refuses an object without a thermocouple type of the catalogue.
+    [[nodiscard]] bool RequireTCType(const Choice& choice);
+    /// Shows or hides the controls of a field.
+    static void SetVisible(const Field& field, bool visible);
+    /// Enables controls when the object may be edited.
+    void AllowEditing(std::initializer_list<Control*> controls) const;
+
+    /// Tells why the values are not taken and puts the focus where to mend it. Returns false.
+    [[nodiscard]] bool Refuse(EStringId message, Control* focus);
+    /// Shows the page that a control stands on, before it gets the focus.
+    virtual void ShowPageOf(Control& /*control*/) {}
+
+    [[nodiscard]] Frame& Settings() { return m_frame; }
+    [[nodiscard]] Platform& Host() const { return *m_platform; }
+
+    // What the events do.
+    void OnActivate() override;
+    void OnClick(Control& control) override;
+    void OnGotFocus(Control& control) override;
+    void OnLostFocus(Control& control) override;
+    void OnKeyPress(TextBox& box, std::int16_t& keyAscii) override;
+
+private:
+    enum OKCancelHelp : std::size_t { OK, Cancel, Help };
+    enum OpenSaveAs : std::size_t { Open, SaveAs };
+
+    void OnButton(const PushButton& button);
+    /// Gathers, then validates.
+    [[nodiscard]] bool Accept();
+    void LoadAll(bool first);
+    void RestorePlacement();
+    void StorePlacement() const;
+    void ReportError(EStringId context) const;
+    /// The text with a point for the user's decimal separator.
+    [[nodiscard]] std::wstring PointText(const std::wstring& text) const;
+
+    SettingsObject& m_settings;
+    std::shared_ptr<Platform> m_platform;
+    Frame& m_frame;
+    std::vector<PushButton*> m_openSaveAs;
+    std::vector<PushButton*> m_okCancelHelp;
+    std::deque<Field> m_fields;
+    bool m_cancelled = false;
+    bool m_activated = false;
+};
+
+} // namespace QuorConversions

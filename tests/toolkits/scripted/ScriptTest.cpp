@@ -1,0 +1,195 @@
+#include "toolkits/scripted/Script.h"
+
+#include "QuorConversions/rtd/CQuorCVD.h"
+#include "QuorConversions/rtd/CQuorITS90.h"
+#include "QuorConversions/thermocouple/CQuorTCTypeX.h"
+#include "tests/support/DecimalSeparator.h"
+#include "tests/support/Objects.h"
+
+using namespace QuorConversions;
+using QuorConversions::Scripted::Script;
+using QuorConversions::Scripted::ScriptedPlatform;
+using QuorConversions::Scripted::ScriptError;
+
+namespace {
+
+using Texts = std::vector<std::wstring>;
+
+class ScriptTest : public testing::Test {
+protected:
+    Support::FreshDecimalSeparator fresh;
+    std::shared_ptr<ScriptedPlatform> platform = std::make_shared<ScriptedPlatform>();
+    std::shared_ptr<CQuorCVD> cvd = Support::NewSettings<CQuorCVD>(CONV_CVD, platform);
+    Texts printed;
+
+    bool Edit(SettingsObject& settings, std::wstring_view script) {
+        Script(script).PlayOn(*platform, [this](const std::wstring& screen) { printed.push_back(screen); });
+        return settings.Edit();
+    }
+    bool Edit(std::wstring_view script) { return Edit(*cvd, script); }
+};
+
+/// What a script that cannot be read says of itself.
+std::wstring Refused(std::wstring_view text, std::size_t ownLines = 0) {
+    try {
+        const Script script(text, ownLines);
+    } catch (const ScriptError& error) {
+        return error.text;
+    }
+    return L"";
+}
+
+} // namespace
+
+TEST_F(ScriptTest, TypesIntoBoxesAndClicksButtons) {
+    EXPECT_TRUE(Edit(L"type R0 100.0123\ntype ALPHA 3.9083E-3\ntype DELTA 1.5\nclick OK\n"));
+    EXPECT_EQ(cvd->Coefficients(CVD_R0), 100.0123);
+    EXPECT_EQ(cvd->Coefficients(CVD_ALPHA), 3.9083E-3);
+    EXPECT_TRUE(platform->NothingLeft());
+    EXPECT_TRUE(printed.empty());
+}
+
+TEST_F(ScriptTest, SkipsBlankLinesRemarksAndBlanksAroundCommands) {
+    EXPECT_FALSE(Edit(L"# a remark\r\n\r\n \t type  R0   7 \r\n  # another\n\nclick Cancel"));
+    EXPECT_TRUE(platform->NothingLeft());
+}
+
+TEST_F(ScriptTest, ChoosesItemsOfLists) {
+    const auto thermocouple = Support::NewSettings<CQuorTCTypeX>(CONV_TCTYPEX, platform);
+    EXPECT_TRUE(Edit(*thermocouple, L"choose Type R\ntype DC1 0.5\ntype Temperature 2 20\nclick OK"));
+    EXPECT_EQ(thermocouple->TCType(), TCTYPE_R);
+    EXPECT_EQ(thermocouple->Coefficients(TCTYPEX_DC1), 0.5);
+    EXPECT_EQ(thermocouple->Temperatures(TCTYPEX_T2), 20.0);
+    EXPECT_TRUE(platform->NothingLeft());
+}
+
+TEST_F(ScriptTest, TurnsPages) {
+    const auto its90 = Support::NewSettings<CQuorITS90>(CONV_ITS90, platform);
+    EXPECT_TRUE(Edit(*its90, L"type RTPW 25.5\npage High Range\n"
+                             L"choose Select high range to use Range 11 (273K to 302K)\n"
+                             L"type A[11] -1e-4\nclick OK"));
+    EXPECT_EQ(its90->HighRange()->Range(), ITS90_RANGE_11);
+    EXPECT_EQ(its90->HighRange()->Coefficients(ITS90_HIGH_A), -1e-4);
+    EXPECT_TRUE(platform->NothingLeft());
+}
+
+TEST_F(ScriptTest, PressesKeysAndMovesTheFocus) {
+    cvd->SetCoefficients(CVD_DELTA, 9);
+    EXPECT_TRUE(Edit(L"type R0 1\nenter\nkey 2\ntab\nbacktab\nbacktab\nkey 3\ntab\ntab\nkey 4e-1\nclick OK"));
+    EXPECT_EQ(cvd->Coefficients(CVD_R0), 3.0);
+    EXPECT_EQ(cvd->Coefficients(CVD_ALPHA), 2.0);
+    EXPECT_EQ(cvd->Coefficients(CVD_DELTA), 0.4);
+    EXPECT_TRUE(platform->NothingLeft());
+}
+
+TEST_F(ScriptTest, LeavesByEscapeAndByTheFrame) {
+    EXPECT_FALSE(Edit(L"type R0 1\nescape"));
+    EXPECT_TRUE(Edit(L"type R0 1\nclose"));
+    EXPECT_EQ(cvd->Coefficients(CVD_R0), 0.0);
+    EXPECT_TRUE(platform->NothingLeft());
+}
+
+TEST_F(ScriptTest, AnswersFileDialogs) {
+    const auto file = std::make_shared<Support::MemoryIniFile>();
+    platform->MakeIniFilesWith([&] { return file; });
+    EXPECT_FALSE(Edit(L"type R0 1\ntype ALPHA 2\ntype DELTA 3\n"
+                      L"nofile\nclick Save As\nfile C:\\my probes\\a b.cvd\nclick Save As\nescape"));
+    ASSERT_FALSE(file->operations.empty());
+    EXPECT_EQ(file->operations[0], L"FileName \"C:\\my probes\\a b.cvd\"");
+    EXPECT_EQ(platform->FileRequests().size(), 2U);
+    EXPECT_TRUE(platform->NothingLeft());
+}
+
+TEST_F(ScriptTest, GoesOnAfterTheMessageThatItExpects) {
+    EXPECT_FALSE(Edit(L"expect Enter valid values for all coefficients.\nclick OK\nclick Cancel"));
+    EXPECT_TRUE(platform->NothingLeft());
+}
+
+TEST_F(ScriptTest, ExpectsAReportWithBlanksForItsLineBreaks) {
+    EXPECT_FALSE(Edit(L"expect An error occurred while attempting to gather settings. Error: 6 - Overflow "
+                      L"(QuorConversions)\ntype R0 1e999\nclick OK\nescape"));
+    EXPECT_TRUE(platform->NothingLeft());
+}
+
+TEST_F(ScriptTest, EndsAtAMessageThatItDoesNotExpect) {
+    EXPECT_FALSE(Edit(L"type R0 1\nclick OK\ntype R0 2\nclose"));
+    EXPECT_EQ(platform->Complaints(),
+              (Texts{L"there was the message \"Enter valid values for all coefficients.\"",
+                     L"in line 2: click OK", L"the dialog \"Callendar-Van Dusen Settings\" was left open"}));
+    EXPECT_EQ(cvd->Coefficients(CVD_R0), 1.0) << "no further line was played";
+}
+
+TEST_F(ScriptTest, EndsAtAnotherMessageThanTheOneThatItExpects) {
+    EXPECT_FALSE(Edit(L"expect Select the IPTS-68 scale.\nclick OK\nescape"));
+    ASSERT_GE(platform->Complaints().size(), 2U);
+    EXPECT_EQ(platform->Complaints()[0],
+              L"there was the message \"Enter valid values for all coefficients.\"");
+    EXPECT_EQ(platform->Complaints()[1], L"in line 2: click OK");
+}
+
+// An expectation that was not met was once forgotten without a word.
+TEST_F(ScriptTest, MissesAnExpectedMessageThatDoesNotCome) {
+    EXPECT_FALSE(Edit(L"expect Boo\nescape"));
+    EXPECT_EQ(platform->Complaints(), Texts{L"there was no message \"Boo\""});
+}
+
+TEST_F(ScriptTest, MissesAFileDialogThatDoesNotCome) {
+    EXPECT_FALSE(Edit(L"file a.cvd\nescape"));
+    EXPECT_EQ(platform->Complaints(), Texts{L"there was no file dialog for \"a.cvd\""});
+}
+
+TEST_F(ScriptTest, EndsAtWhatAPersonCannotDo) {
+    const std::pair<const wchar_t*, const wchar_t*> impossible[] = {
+        {L"type R9 1", L"there is no \"R9\" in this dialog"},
+        {L"click Apply", L"there is no \"Apply\" in this dialog"},
+        {L"choose R0 x", L"\"R0\" is no list"},
+        {L"page Low Range", L"there is no page \"Low Range\""}};
+    for (const auto& [line, why] : impossible) {
+        platform = std::make_shared<ScriptedPlatform>();
+        cvd = Support::NewSettings<CQuorCVD>(CONV_CVD, platform);
+        EXPECT_FALSE(Edit(L"\n" + std::wstring(line) + L"\nclose"));
+        EXPECT_EQ(platform->Complaints(),
+                  (Texts{why, L"in line 2: " + std::wstring(line),
+                         L"the dialog \"Callendar-Van Dusen Settings\" was left open"}));
+    }
+}
+
+TEST_F(ScriptTest, DoesNothingOnAClickOnADisabledButtonAndSaysSo) {
+    cvd->SetAllowEdit(false);
+    EXPECT_FALSE(Edit(L"click OK"));
+    EXPECT_EQ(platform->Complaints().at(0), L"\"OK\" is disabled");
+}
+
+TEST_F(ScriptTest, EndsWhereTheDialogIsClosed) {
+    EXPECT_TRUE(Edit(L"close\ntype R0 1"));
+    EXPECT_EQ(platform->Complaints(), (Texts{L"the dialog is closed", L"in line 2: type R0 1"}));
+}
+
+TEST_F(ScriptTest, ComplainsOfADialogThatItLeavesOpen) {
+    EXPECT_FALSE(Edit(L"type R0 1"));
+    EXPECT_EQ(platform->Complaints(), Texts{L"the dialog \"Callendar-Van Dusen Settings\" was left open"});
+}
+
+TEST_F(ScriptTest, PrintsTheDialogAtAnyMoment) {
+    EXPECT_FALSE(Edit(L"show\ntype R0 1\nshow\nescape"));
+    ASSERT_EQ(printed.size(), 2U);
+    EXPECT_NE(printed[0].find(L"  R0: [0]\n"), std::wstring::npos);
+    EXPECT_NE(printed[1].find(L"  R0: [1]\n"), std::wstring::npos);
+}
+
+TEST_F(ScriptTest, RefusesUnknownCommandsWithTheNumberOfTheLine) {
+    EXPECT_EQ(Refused(L"click OK\n\n# no\npress OK\n"), L"line 4: there is no command \"press\"");
+    EXPECT_EQ(Refused(L"Click OK"), L"line 1: there is no command \"Click\"");
+    EXPECT_EQ(Refused(L"show\nclick OK\nx", 1), L"line 2: there is no command \"x\"");
+}
+
+TEST_F(ScriptTest, RefusesCommandsWithTooMuchOrTooLittle) {
+    for (const wchar_t* const verb : {L"type", L"choose", L"page", L"click", L"key", L"file", L"expect"})
+        EXPECT_EQ(Refused(std::wstring(verb) + L" "), L"line 1: \"" + std::wstring(verb) + L"\" needs more");
+    for (const wchar_t* const verb :
+         {L"enter", L"tab", L"backtab", L"escape", L"close", L"nofile", L"show"}) {
+        EXPECT_EQ(Refused(verb), L"");
+        EXPECT_EQ(Refused(std::wstring(verb) + L" x"),
+                  L"line 1: \"" + std::wstring(verb) + L"\" stands alone");
+    }
+}

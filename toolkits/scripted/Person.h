@@ -1,0 +1,71 @@
+#pragma once
+
+#include "QuorConversions/controls/Dialog.h"
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace QuorConversions::Scripted {
+
+/// What a person cannot do with the dialog in front of them: there is no such control, it is hidden, it is
+/// disabled, the dialog is closed.
+struct CannotDo : std::runtime_error {
+    explicit CannotDo(const std::wstring& what);
+    std::wstring text;
+};
+
+/// A user written down: sees what is on the screen, and does with it what people do. Controls are named as
+/// they see them: by the label beside them ("R0", without the colon), by the heading above them and the
+/// number of the row
+/// ("Temperature 2"), by their own caption ("OK", without the access key); or by their name in the code
+/// ("txtCoefficients(0)").
+class Person {
+public:
+    Person(Dialog& dialog, DialogInput& input) : m_dialog(dialog), m_input(input) {}
+
+    /// Goes to a text box, which selects its text, and types over it.
+    void Type(std::wstring_view box, std::wstring_view text);
+    /// Types at the place of the selection of the box that has the focus.
+    void TypeHere(std::wstring_view text);
+    /// Presses a key that has a character code, 13 for Enter, 8 for Backspace.
+    void Press(std::int16_t keyAscii);
+    void Tab(bool backwards = false) { Input().Tab(backwards); }
+    void Escape() { Input().Escape(); }
+    /// Goes to a control.
+    void GoTo(std::wstring_view control);
+    /// Chooses the item with that text.
+    void Choose(std::wstring_view list, std::wstring_view item);
+    /// Goes to the page with that tab.
+    void TurnTo(std::wstring_view tab);
+    void Click(std::wstring_view button);
+    /// Moves the window.
+    void MoveTo(std::int32_t left, std::int32_t top) { m_dialog.SetPlace(Dialog::Placement{left, top}); }
+    /// Closes the window by its own close box.
+    void Close() { Input().Close(); }
+
+    [[nodiscard]] const Dialog& Sees() const { return m_dialog; }
+    /// The text of a box, the selected item of a list, the caption of anything else.
+    [[nodiscard]] std::wstring Reads(std::wstring_view control) const;
+    /// The name in the code of the control that has the focus; empty for none.
+    [[nodiscard]] std::wstring Focused() const;
+    /// The whole dialog as text: its title, and a line a row with what stands in it. Disabled controls stand
+    /// in parentheses; what is hidden is listed behind, by name.
+    [[nodiscard]] std::wstring Screen() const;
+
+    /// The controls that a person can name here, by those names.
+    [[nodiscard]] std::vector<std::wstring> Names() const;
+
+private:
+    /// Only an open dialog can be acted on.
+    [[nodiscard]] DialogInput& Input() const;
+    [[nodiscard]] Control& Find(std::wstring_view name) const;
+    template <class T>
+    [[nodiscard]] T& Find(std::wstring_view name, ControlKind kind, const wchar_t* what) const;
+
+    Dialog& m_dialog;
+    DialogInput& m_input;
+};
+
+} // namespace QuorConversions::Scripted

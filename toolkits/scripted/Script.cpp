@@ -1,0 +1,129 @@
+#include "toolkits/scripted/Script.h"
+
+#include "QuorIniFile/Utf8.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace QuorConversions::Scripted {
+namespace {
+
+constexpr std::int16_t enterKey = 13;
+
+std::wstring_view Trimmed(std::wstring_view text) {
+    const auto first = text.find_first_not_of(L" \t\r");
+    if (first == std::wstring_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(L" \t\r") - first + 1);
+}
+
+/// The name of a control at the start of `rest`, and what follows it. The longest name counts, because names
+/// hold blanks.
+std::pair<std::wstring, std::wstring> SplitName(const Person& person, const std::wstring& rest) {
+    std::wstring best;
+    for (const std::wstring& name : person.Names())
+        if (name.size() > best.size() && (rest == name || rest.starts_with(name + L" ")))
+            best = name;
+    if (best.empty())
+        best = rest.substr(0, rest.find(L' ')); // a name in the code, or one that will be complained of
+    return {best, std::wstring(Trimmed(std::wstring_view(rest).substr(best.size())))};
+}
+
+} // namespace
+
+ScriptError::ScriptError(std::size_t lineNumber, const std::wstring& what)
+    : std::runtime_error(QuorIniFile::ToUtf8(L"line " + std::to_wstring(lineNumber) + L": " + what)),
+      line(lineNumber),
+      text(L"line " + std::to_wstring(lineNumber) + L": " + what) {}
+
+/// What may be needed to carry out a command.
+struct Script::Verb {
+    struct Stage {
+        Person& person;
+        ScriptedPlatform& platform;
+        const std::function<void(const std::wstring&)>& print;
+    };
+    const wchar_t* name;
+    bool hasArgument;
+    void (*run)(const Stage& stage, const std::wstring& rest);
+};
+
+const Script::Verb* Script::FindVerb(const std::wstring& name) {
+    static constexpr Verb verbs[] = {
+        {L"type", true,
+         [](const Verb::Stage& stage, const std::wstring& rest) {
+             const auto [box, text] = SplitName(stage.person, rest);
+             stage.person.Type(box, text);
+         }},
+        {L"choose", true,
+         [](const Verb::Stage& stage, const std::wstring& rest) {
+             const auto [list, item] = SplitName(stage.person, rest);
+             stage.person.Choose(list, item);
+         }},
+        {L"page", true,
+         [](const Verb::Stage& stage, const std::wstring& rest) { stage.person.TurnTo(rest); }},
+        {L"click", true,
+         [](const Verb::Stage& stage, const std::wstring& rest) { stage.person.Click(rest); }},
+        {L"key", true,
+         [](const Verb::Stage& stage, const std::wstring& rest) { stage.person.TypeHere(rest); }},
+        {L"enter", false,
+         [](const Verb::Stage& stage, const std::wstring&) { stage.person.Press(enterKey); }},
+        {L"tab", false, [](const Verb::Stage& stage, const std::wstring&) { stage.person.Tab(); }},
+        {L"backtab", false, [](const Verb::Stage& stage, const std::wstring&) { stage.person.Tab(true); }},
+        {L"escape", false, [](const Verb::Stage& stage, const std::wstring&) { stage.person.Escape(); }},
+        {L"close", false, [](const Verb::Stage& stage, const std::wstring&) { stage.person.Close(); }},
+        {L"file", true,
+         [](const Verb::Stage& stage, const std::wstring& rest) { stage.platform.ChooseFile(rest); }},
+        {L"nofile", false,
+         [](const Verb::Stage& stage, const std::wstring&) { stage.platform.CancelFile(); }},
+        {L"expect", true,
+         [](const Verb::Stage& stage, const std::wstring& rest) { stage.platform.ExpectMessage(rest); }},
+        {L"show", false,
+         [](const Verb::Stage& stage, const std::wstring&) { stage.print(stage.person.Screen()); }},
+    };
+    const auto* const verb =
+        std::find_if(std::begin(verbs), std::end(verbs), [&](const Verb& v) { return v.name == name; });
+    return verb == std::end(verbs) ? nullptr : verb;
+}
+
+Script::Script(std::wstring_view text, std::size_t ownLines) {
+    for (std::size_t number = 1; !text.empty(); ++number) {
+        const auto end = text.find(L'\n');
+        const std::wstring_view line = Trimmed(text.substr(0, end));
+        text = end == std::wstring_view::npos ? std::wstring_view{} : text.substr(end + 1);
+        if (line.empty() || line.front() == L'#')
+            continue;
+        const auto blank = line.find(L' ');
+        std::wstring verb(line.substr(0, blank));
+        std::wstring rest(blank == std::wstring_view::npos ? std::wstring_view{}
+                                                           : Trimmed(line.substr(blank)));
+        const Verb* const known = FindVerb(verb);
+        if (!known)
+            throw ScriptError(number - ownLines, L"there is no command \"" + verb + L"\"");
+        if (known->hasArgument == rest.empty())
+            throw ScriptError(number - ownLines,
+                              L"\"" + verb + (rest.empty() ? L"\" needs more" : L"\" stands alone"));
+        m_lines.push_back({number - ownLines, std::move(verb), std::move(rest)});
+    }
+}
+
+void Script::PlayOn(ScriptedPlatform& platform, std::function<void(const std::wstring&)> print) const {
+    platform.ExpectNoMessages();
+    platform.InDialog([lines = m_lines, &platform, print = std::move(print)](Person& person) {
+        for (const Line& line : lines) {
+            const std::size_t before = platform.Complaints().size();
+            try {
+                FindVerb(line.verb)->run({person, platform, print}, line.rest);
+            } catch (const CannotDo& error) {
+                platform.Complain(error.text);
+            }
+            if (platform.Complaints().size() > before)
+                throw CannotDo(L"in line " + std::to_wstring(line.number) + L": " + line.verb + L" " +
+                               line.rest);
+        }
+        platform.ComplainOfWhatDidNotCome();
+    });
+}
+
+} // namespace QuorConversions::Scripted
