@@ -82,20 +82,23 @@ void DialogInput::SelectTab(TabStrip& tabs, std::size_t tab) {
         tabs.Select(tab);
 }
 
-void DialogInput::Focus(Control& control) { m_dialog.SetFocus(control); }
+void DialogInput::Focus(Control& control) {
+    if (m_dialog.IsOpen())
+        m_dialog.SetFocus(control);
+}
 
 std::int16_t DialogInput::KeyPress(std::int16_t keyAscii) {
     Control* const active = m_dialog.m_active;
     if (!active || active->Kind() != ControlKind::TextBox)
         return keyAscii;
-    if (!active->IsUsable())
+    if (!active->IsUsable() || !m_dialog.IsOpen())
         return 0;
     m_dialog.OnKeyPress(static_cast<TextBox&>(*active), keyAscii);
     return keyAscii;
 }
 
 void DialogInput::Edit(TextBox& box, std::wstring text, std::size_t selStart, std::size_t selLength) {
-    if (!box.IsUsable())
+    if (!box.IsUsable() || !m_dialog.IsOpen())
         return;
     box.SetText(std::move(text));
     box.SetSelection(selStart, selLength);

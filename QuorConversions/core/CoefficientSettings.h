@@ -35,8 +35,8 @@ protected:
 
     /// How the dialog shows the coefficient (see ValueFormatter.h); never stored in a file and never a
     /// change. Under an empty format nothing is lost. Under any other the dialog stores what it shows: digits
-    /// that the format leaves out are gone after OK. Formats that group digits are not for boxes that people
-    /// edit, because a number is read up to the first separator of a group.
+    /// that the format leaves out are gone after OK. Formats that group digits, scale, or add percent
+    /// signs or brackets are not for boxes that people edit, because the number is read as it stands.
     [[nodiscard]] const std::wstring& ValueFormat(std::int32_t index) const {
         return m_slots.At(index).format;
     }

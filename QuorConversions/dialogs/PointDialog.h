@@ -35,10 +35,10 @@ protected:
     };
 
     PointDialog(SettingsClass& settings, std::shared_ptr<Platform> platform, const wchar_t* name,
-                std::int32_t helpContext, const SecondValue& second)
+                std::int32_t helpContext, SecondValue second)
         : SettingsDialog(settings, std::move(platform), name, helpContext),
           m_object(settings),
-          m_second(second) {}
+          m_second(std::move(second)) {}
 
     [[nodiscard]] SettingsClass& Object() const { return m_object; }
     [[nodiscard]] const std::vector<PointRow>& Rows() const { return m_rows; }

@@ -171,11 +171,14 @@ void SettingsDialog::OnActivate() {
 }
 
 void SettingsDialog::LoadAll(bool first) {
+    m_loading = true;
     try {
         if (first)
             PrepareControls();
         LoadControls();
+        m_loading = false;
     } catch (...) {
+        m_loading = false;
         ReportError(IDS_EDITING_SETTINGS);
         // What could not be shown must not be gathered.
         m_okCancelHelp[OK]->SetEnabled(false);
@@ -190,6 +193,8 @@ void SettingsDialog::OnClick(Control& control) {
         else
             OnChoice(control);
     } catch (...) {
+        if (m_loading)
+            throw; // the list was selected by LoadControls, which has failed then
         ReportError(IDS_EDITING_SETTINGS);
     }
 }
@@ -234,8 +239,8 @@ void SettingsDialog::OnGotFocus(Control& control) {
 void SettingsDialog::OnLostFocus(Control& control) {
     const auto field = std::find_if(m_fields.begin(), m_fields.end(),
                                     [&](const Field& candidate) { return &candidate.box == &control; });
-    if (field == m_fields.end())
-        return;
+    if (field == m_fields.end() || !control.Enabled())
+        return; // nobody can have typed into a disabled box: what it shows is the object's
     try {
         const std::wstring format = field->format();
         const auto number = ParseWholeNumber(PointText(field->box.Text()));

@@ -121,6 +121,7 @@ private:
     std::deque<Field> m_fields;
     bool m_cancelled = false;
     bool m_activated = false;
+    bool m_loading = false;
 };
 
 } // namespace QuorConversions

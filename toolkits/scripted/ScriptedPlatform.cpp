@@ -68,8 +68,11 @@ void ScriptedPlatform::ShowMessage(const MessageRequest& request) {
 std::optional<std::wstring> ScriptedPlatform::AskForFile(const FileRequest& request) {
     m_events.push_back(L"file dialog " + request.title);
     m_fileRequests.push_back(request);
-    if (m_answers.empty())
+    if (m_answers.empty()) {
+        if (m_expectsMessages)
+            Complain(L"there was the file dialog \"" + request.title + L"\"");
         return std::nullopt;
+    }
     auto answer = std::move(m_answers.front());
     m_answers.pop_front();
     return answer;

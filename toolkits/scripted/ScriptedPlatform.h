@@ -32,7 +32,7 @@ public:
     /// What the person does in the next dialog, in the order of these calls. A dialog that they leave open,
     /// or for which nobody is there, is left by Cancel; that is a complaint.
     void InDialog(std::function<void(Person&)> action) { m_dialogs.push_back(std::move(action)); }
-    /// From now on a message that was not announced is a complaint.
+    /// From now on a message, or a file dialog, that was not announced is a complaint.
     void ExpectNoMessages() { m_expectsMessages = true; }
     /// The next message is to say `text`, with blanks for its line breaks.
     void ExpectMessage(std::wstring text);

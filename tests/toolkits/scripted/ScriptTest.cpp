@@ -138,6 +138,12 @@ TEST_F(ScriptTest, MissesAFileDialogThatDoesNotCome) {
     EXPECT_EQ(platform->Complaints(), Texts{L"there was no file dialog for \"a.cvd\""});
 }
 
+TEST_F(ScriptTest, ComplainsOfAFileDialogThatItDidNotExpect) {
+    EXPECT_FALSE(Edit(L"click Open\nescape"));
+    ASSERT_FALSE(platform->Complaints().empty());
+    EXPECT_EQ(platform->Complaints().front(), L"there was the file dialog \"Open Callendar-Van Dusen File\"");
+}
+
 TEST_F(ScriptTest, EndsAtWhatAPersonCannotDo) {
     const std::pair<const wchar_t*, const wchar_t*> impossible[] = {
         {L"type R9 1", L"there is no \"R9\" in this dialog"},
