@@ -181,7 +181,8 @@ void Person::Press(std::int16_t keyAscii) {
     constexpr std::int16_t backspace = 8;
     const std::int16_t key = Input().KeyPress(keyAscii);
     Control* const active = m_dialog.ActiveControl();
-    if (key == 0 || !active || active->Kind() != ControlKind::TextBox)
+    const bool changesText = key == backspace || key >= 32; // copy and the like have no clipboard here
+    if (!changesText || !active || active->Kind() != ControlKind::TextBox)
         return;
     auto& box = static_cast<TextBox&>(*active);
     std::wstring text = box.Text();
