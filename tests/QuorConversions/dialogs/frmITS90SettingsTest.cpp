@@ -557,3 +557,41 @@ TEST_F(frmITS90SettingsTest, ShowsAnITSSR5AsItsFixedRange5) {
     EXPECT_EQ(Values(*settings->LowRange()), (std::vector<double>{1e-4, 2e-4}));
     EXPECT_EQ(settings->HighRange()->Range(), ITS90_NORANGE);
 }
+
+namespace {
+
+/// A toolkit whose drawing fails once, when the first low coefficient is shown.
+class FailingToolkit : public ScriptedPlatform, private DialogListener {
+public:
+    bool okEnabled = true;
+
+    void RunDialog(Dialog& dialog, DialogInput& input) override {
+        dialog.SetListener(this);
+        input.Activate();
+        dialog.SetListener(nullptr);
+        okEnabled = dialog.Find(L"cmdOKCancelHelp(0)")->Enabled();
+        input.Escape();
+    }
+
+private:
+    void OnControlChanged(const Control& control) override {
+        if (control.Name() == L"txtLowCoefficient(0)" && !static_cast<const TextBox&>(control).Text().empty())
+            throw std::runtime_error("cannot draw");
+    }
+    void OnFocusMoved(const Control* /*focused*/) override {}
+    void OnTitleChanged() override {}
+    void OnHidden() override {}
+};
+
+} // namespace
+
+TEST(frmITS90SettingsLoading, LetsNobodyAcceptRowsThatItCouldNotFill) {
+    const auto platform = std::make_shared<FailingToolkit>();
+    const auto its90 = Support::NewSettings<CQuorITS90>(CONV_ITS90, platform);
+    its90->LowRange()->SetRange(ITS90_RANGE_4);
+    its90->LowRange()->SetCoefficients(ITS90_LOW_A, -2.1E-4);
+    EXPECT_FALSE(its90->Edit());
+    EXPECT_FALSE(platform->okEnabled);
+    EXPECT_EQ(platform->Messages().size(), 1U);
+    EXPECT_EQ(its90->LowRange()->Coefficients(ITS90_LOW_A), -2.1E-4);
+}
