@@ -8,22 +8,23 @@
 #include <array>
 #include <cerrno>
 #include <charconv>
+#include <chrono>
 #include <cstddef>
 #include <filesystem>
 #include <iterator>
 #include <new>
-#include <random>
 #include <system_error>
 #include <utility>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace QuorIniFile {
 namespace {
 
 namespace fs = std::filesystem;
+using Opening = IniFileSystem::Opening;
+
+constexpr std::uint64_t largestFile = 0xFFFFFFFF;
+
+// Errors ---------------------------------------------------------------------------------------------------
 
 /// What is being done when the system refuses; a missing part of a path means another thing in each case.
 enum class Deed : std::uint8_t { Read, Write };
@@ -59,75 +60,166 @@ constexpr SystemError systemErrors[] = {
                     DecodeBytes(std::generic_category().message(code)));
 }
 
-/// Repeats a system call that a signal has interrupted.
+int ErrorOf(int error) { return error; }
+
+template <class Value>
+int ErrorOf(const IniResult<Value>& result) {
+    return result.error;
+}
+
+/// Repeats a call that a signal has interrupted.
 template <class Call>
 auto Uninterrupted(const Call& call) {
     auto result = call();
-    while (result == -1 && errno == EINTR)
+    while (ErrorOf(result) == EINTR)
         result = call();
     return result;
 }
 
-class Descriptor {
-public:
-    Descriptor(const std::string& path, int flags, mode_t mode = 0)
-        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the system's interface
-        : m_descriptor(Uninterrupted([&] { return ::open(path.c_str(), flags | O_CLOEXEC, mode); })) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() { static_cast<void>(Close()); }
+// Files ----------------------------------------------------------------------------------------------------
 
-    [[nodiscard]] bool IsOpen() const { return m_descriptor >= 0; }
-    [[nodiscard]] int Get() const { return m_descriptor; }
-    /// The error code of closing, 0 when it went well or there was nothing to close.
-    int Close() {
-        const int descriptor = std::exchange(m_descriptor, -1);
-        return descriptor < 0 || ::close(descriptor) == 0 || errno == EINTR ? 0 : errno;
-    }
-
-private:
-    int m_descriptor;
-};
-
-IniStamp StampFrom(const struct stat& status) {
-    return {true,
-            static_cast<std::uint64_t>(status.st_dev),
-            static_cast<std::uint64_t>(status.st_ino),
-            static_cast<std::uint64_t>(status.st_size),
-            static_cast<std::int64_t>(status.st_mtim.tv_sec),
-            static_cast<std::int64_t>(status.st_mtim.tv_nsec)};
+IniStamp StampFrom(const IniFileStatus& status) {
+    return {true, status.device, status.inode, status.size, status.seconds, status.nanoseconds};
 }
 
-void RequireRegular(const struct stat& status, std::wstring_view fileName) {
-    if (S_ISDIR(status.st_mode))
+/// A file system and the file whose errors are to be told.
+struct Target {
+    IniFileSystem& files;
+    std::wstring_view fileName;
+};
+
+void RequireRegular(const IniFileStatus& status, std::wstring_view fileName) {
+    if (status.kind == IniFileStatus::Kind::Folder)
         Raise(EISDIR, fileName, Deed::Read);
-    if (!S_ISREG(status.st_mode))
+    if (status.kind != IniFileStatus::Kind::Regular)
         throw FileError(ERR_PATH_FILE_ACCESS, fileName, L"It is not a regular file");
+    if (status.size > largestFile)
+        throw FileError(ERR_PATH_FILE_ACCESS, fileName, L"It is larger than 4 GiB");
 }
 
 /// The status of the regular file behind `path`, or nothing when there is none.
-std::optional<struct stat> FindRegular(const std::string& path, std::wstring_view fileName) {
-    struct stat status {};
-    if (::stat(path.c_str(), &status) != 0) {
-        if (errno == ENOENT)
-            return std::nullopt;
-        Raise(errno, fileName, Deed::Read);
-    }
-    RequireRegular(status, fileName);
-    return status;
+std::optional<IniFileStatus> FindRegular(const std::string& path, const Target& target) {
+    const auto status = Uninterrupted([&] { return target.files.StatusAt(path); });
+    if (status.error == ENOENT)
+        return std::nullopt;
+    if (status.error != 0)
+        Raise(status.error, target.fileName, Deed::Read);
+    RequireRegular(status.value, target.fileName);
+    return status.value;
 }
 
+/// An open file, closed at the end.
+class OpenFile {
+public:
+    OpenFile() = default;
+    OpenFile(IniFileSystem& files, IniFileSystem::Handle handle) : m_files(&files), m_handle(handle) {}
+    OpenFile(OpenFile&& other) noexcept
+        : m_files(std::exchange(other.m_files, nullptr)), m_handle(other.m_handle) {}
+    OpenFile& operator=(OpenFile&& other) noexcept {
+        std::swap(m_files, other.m_files);
+        std::swap(m_handle, other.m_handle);
+        return *this;
+    }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+    ~OpenFile() {
+        if (m_files != nullptr)
+            m_files->Close(m_handle);
+    }
+    [[nodiscard]] IniFileSystem::Handle Get() const { return m_handle; }
+
+private:
+    IniFileSystem* m_files = nullptr; // there is no file without one
+    IniFileSystem::Handle m_handle = 0;
+};
+
+IniFileStatus StatusOf(const OpenFile& file, const Target& target, Deed deed) {
+    const auto status = Uninterrupted([&] { return target.files.StatusOf(file.Get()); });
+    if (status.error != 0)
+        Raise(status.error, target.fileName, deed);
+    return status.value;
+}
+
+struct RegularFile {
+    OpenFile file;
+    IniFileStatus status;
+};
+
+/// The regular file behind `path`, open for reading, or nothing when there is none.
+std::optional<RegularFile> OpenRegular(const std::string& path, const Target& target) {
+    // Devices do things when they are opened, so one looks first; and what is there may be another thing by
+    // the time it is open, so one looks again.
+    if (!FindRegular(path, target))
+        return std::nullopt;
+    const auto opened = Uninterrupted([&] { return target.files.Open(path, Opening::ToRead); });
+    if (opened.error == ENOENT)
+        return std::nullopt;
+    if (opened.error != 0)
+        Raise(opened.error, target.fileName, Deed::Read);
+    OpenFile file(target.files, opened.value);
+    const IniFileStatus status = StatusOf(file, target, Deed::Read);
+    RequireRegular(status, target.fileName);
+    return RegularFile{std::move(file), status};
+}
+
+std::size_t ReadAt(const OpenFile& file, std::uint64_t offset, char* bytes, std::size_t size,
+                   const Target& target) {
+    const auto count = Uninterrupted([&] { return target.files.Read(file.Get(), offset, bytes, size); });
+    if (count.error != 0)
+        Raise(count.error, target.fileName, Deed::Read);
+    return count.value;
+}
+
+constexpr std::size_t bufferSize = 65536;
+
+std::string ReadAll(const RegularFile& regular, const Target& target) {
+    std::string bytes(static_cast<std::size_t>(regular.status.size), '\0');
+    for (std::size_t used = 0;;) {
+        // The size is what the system said; there may be more.
+        std::array<char, bufferSize> beyond; // NOLINT(cppcoreguidelines-pro-type-member-init): it is filled
+        const bool full = used == bytes.size();
+        const std::size_t count =
+            full ? ReadAt(regular.file, used, beyond.data(), beyond.size(), target)
+                 : ReadAt(regular.file, used, bytes.data() + used, bytes.size() - used, target);
+        if (count == 0) {
+            bytes.resize(used);
+            return bytes;
+        }
+        used += count;
+        if (used > largestFile)
+            throw FileError(ERR_PATH_FILE_ACCESS, target.fileName, L"It is larger than 4 GiB");
+        if (full)
+            bytes.append(beyond.data(), count);
+    }
+}
+
+/// Whether a file has these very bytes. It is not kept in memory.
+bool HasOnly(const OpenFile& file, std::string_view bytes, const Target& target) {
+    std::array<char, bufferSize> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): it is filled
+    for (std::size_t used = 0;;) {
+        const std::size_t count = ReadAt(file, used, buffer.data(), buffer.size(), target);
+        if (count == 0)
+            return used == bytes.size();
+        if (bytes.substr(used, count) != std::string_view(buffer.data(), count))
+            return false;
+        used += count;
+    }
+}
+
+// Paths ----------------------------------------------------------------------------------------------------
+
 /// The path at the end of all symbolic links, whether there is a file or not.
-fs::path FollowLinks(fs::path path, std::wstring_view fileName) {
+fs::path FollowLinks(fs::path path, const Target& target) {
     constexpr int mostLinks = 40;
     for (int links = 0; links <= mostLinks; ++links) {
-        std::error_code noLink;
-        const fs::path target = fs::read_symlink(path, noLink);
-        if (noLink)
+        const auto link = Uninterrupted([&] { return target.files.LinkAt(path.string()); });
+        if (link.error == EINVAL || link.error == ENOENT)
             return path;
-        path = path.parent_path() / target;
+        if (link.error != 0)
+            Raise(link.error, target.fileName, Deed::Write);
+        path = path.parent_path() / link.value;
     }
-    Raise(ELOOP, fileName, Deed::Write);
+    Raise(ELOOP, target.fileName, Deed::Write);
 }
 
 std::string FolderOf(const fs::path& path) {
@@ -135,156 +227,262 @@ std::string FolderOf(const fs::path& path) {
     return folder.empty() ? "." : folder.string();
 }
 
-/// The file that is written in place of the old one until it takes that one's name. It vanishes on every way
-/// that does not lead there.
-class TemporaryFile {
-public:
-    TemporaryFile(const std::string& folder, mode_t mode)
-        : m_path(folder + '/' + RandomName()), m_file(m_path, O_WRONLY | O_CREAT | O_EXCL, mode) {}
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-    ~TemporaryFile() {
-        if (m_file.IsOpen() || m_written)
-            ::unlink(m_path.c_str());
+/// The temporary file for a path, the same in every process. Its name says nothing but which file is meant:
+/// two files of one folder whose numbers are the same would wait for each other and come to no harm.
+std::string TemporaryPathFor(const fs::path& path) {
+    std::uint64_t number = 0xCBF29CE484222325U;
+    for (const char c : path.filename().string()) {
+        // Where the case of letters makes no difference, it must not make two locks.
+        const char small = c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+        number = (number ^ static_cast<unsigned char>(small)) * 0x100000001B3U;
     }
-
-    [[nodiscard]] bool IsOpen() const { return m_file.IsOpen(); }
-    [[nodiscard]] int Get() const { return m_file.Get(); }
-
-    /// Each of these returns the error code, 0 when it went well.
-    [[nodiscard]] int Write(std::string_view bytes) const {
-        while (!bytes.empty()) {
-            const ssize_t count =
-                Uninterrupted([&] { return ::write(m_file.Get(), bytes.data(), bytes.size()); });
-            if (count < 0)
-                return errno;
-            bytes.remove_prefix(static_cast<std::size_t>(count));
-        }
-        return Uninterrupted([&] { return ::fsync(m_file.Get()); }) == 0 ? 0 : errno;
-    }
-    [[nodiscard]] int Close() {
-        m_written = true;
-        return m_file.Close();
-    }
-    [[nodiscard]] int Become(const std::string& path) {
-        if (::rename(m_path.c_str(), path.c_str()) != 0)
-            return errno;
-        m_written = false;
-        return 0;
-    }
-
-private:
-    static std::string RandomName() {
-        std::random_device random;
-        std::array<char, 16> digits{};
-        const auto result = std::to_chars(digits.data(), digits.data() + digits.size(),
-                                          (std::uint64_t{random()} << 32U) | random(), 16);
-        return ".quor-" + std::string(digits.data(), result.ptr) + ".tmp";
-    }
-
-    std::string m_path;
-    Descriptor m_file;
-    bool m_written = false;
-};
-
-/// Gives the new file the owner, the group and the mode of the old one. Where the group cannot be kept, what
-/// it was allowed is not passed on to another group.
-void KeepOwnerAndMode(int descriptor, const struct stat& old) {
-    mode_t mode = old.st_mode & 07777U;
-    if (::fchown(descriptor, old.st_uid, old.st_gid) != 0 &&
-        ::fchown(descriptor, static_cast<uid_t>(-1), old.st_gid) != 0)
-        mode &= ~mode_t{070} | ((mode & 07U) << 3U);
-    static_cast<void>(
-        ::fchmod(descriptor, mode)); // a file system that knows no modes refuses, and needs none
-}
-
-/// Makes the new name in the folder outlive a power cut. Where the folder may not be opened for reading, or
-/// the file system cannot do it, there is nothing that could be done.
-void FlushFolder(const std::string& folder, std::wstring_view fileName) {
-    const Descriptor directory(folder, O_RDONLY | O_DIRECTORY);
-    if (directory.IsOpen() && Uninterrupted([&] { return ::fsync(directory.Get()); }) != 0 && errno != EINVAL)
-        Raise(errno, fileName, Deed::Write);
+    std::array<char, 16> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number, 16).ptr;
+    return (path.parent_path() / (".quor-" + std::string(digits.data(), end) + ".tmp")).string();
 }
 
 } // namespace
 
-std::optional<IniFileBytes> ReadBytes(std::wstring_view fileName) {
-    const std::string path = ToUtf8(fileName);
-    if (!FindRegular(path, fileName))
-        return std::nullopt;
-    // Between the two looks somebody may put a pipe there: O_NONBLOCK keeps us from waiting for it.
-    const Descriptor file(path, O_RDONLY | O_NONBLOCK);
-    struct stat status {};
-    if (!file.IsOpen() || ::fstat(file.Get(), &status) != 0) {
-        if (errno == ENOENT)
-            return std::nullopt;
-        Raise(errno, fileName, Deed::Read);
-    }
-    RequireRegular(status, fileName);
+// Reading --------------------------------------------------------------------------------------------------
 
-    constexpr std::size_t step = 65536;
-    IniFileBytes result{{}, StampFrom(status)};
-    std::string& bytes = result.bytes;
-    bytes.resize(static_cast<std::size_t>(status.st_size));
-    for (std::size_t used = 0;;) {
-        std::array<char, step> beyond; // NOLINT(cppcoreguidelines-pro-type-member-init): read() fills it
-        const bool full = used == bytes.size();
-        const ssize_t count = Uninterrupted([&] {
-            return full ? ::read(file.Get(), beyond.data(), beyond.size())
-                        : ::read(file.Get(), bytes.data() + used, bytes.size() - used);
-        });
-        if (count < 0)
-            Raise(errno, fileName, Deed::Read);
-        if (count == 0) {
-            bytes.resize(used);
+std::optional<IniFileBytes> ReadBytes(std::wstring_view fileName, IniFileSystem& files) {
+    const Target target{files, fileName};
+    const std::string path = ToUtf8(fileName);
+    constexpr int mostReadings = 10; // a file that is always being written is taken as it is
+    for (int reading = 1;; ++reading) {
+        const auto regular = OpenRegular(path, target);
+        if (!regular)
+            return std::nullopt;
+        IniFileBytes result{ReadAll(*regular, target), StampFrom(regular->status)};
+        if (reading == mostReadings || result.stamp == StampFrom(StatusOf(regular->file, target, Deed::Read)))
             return result;
-        }
-        used += static_cast<std::size_t>(count);
-        if (full)
-            bytes.append(beyond.data(), static_cast<std::size_t>(count));
+        files.Pause(std::chrono::milliseconds(1));
     }
 }
 
-IniStamp StampOf(std::wstring_view fileName) {
-    const auto status = FindRegular(ToUtf8(fileName), fileName);
+IniStamp StampOf(std::wstring_view fileName, IniFileSystem& files) {
+    const auto status = FindRegular(ToUtf8(fileName), {files, fileName});
     return status ? StampFrom(*status) : IniStamp{};
 }
 
-IniStamp ReplaceBytes(std::wstring_view fileName, std::string_view bytes) {
-    const fs::path path = FollowLinks(fs::path(ToUtf8(fileName)), fileName);
-    const std::string folder = FolderOf(path);
-    const std::optional<struct stat> old = FindRegular(path.string(), fileName);
-    // The superuser may write anything; a file without any write bit is still meant to stay as it is.
-    if (old && (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0 || (old->st_mode & 0222U) == 0))
-        throw FileError(ERR_PERMISSION_DENIED, fileName, L"The file is read-only");
-
-    TemporaryFile temporary(folder, old ? 0600 : 0666);
-    if (!temporary.IsOpen())
-        Raise(errno, fileName, Deed::Write);
-    if (old)
-        KeepOwnerAndMode(temporary.Get(), *old);
-    struct stat status {};
-    int error = temporary.Write(bytes);
-    if (error == 0 && ::fstat(temporary.Get(), &status) != 0)
-        error = errno;
-    if (error == 0)
-        error = temporary.Close();
-    if (error == 0)
-        error = temporary.Become(path.string());
-    if (error != 0)
-        Raise(error, fileName, Deed::Write);
-    FlushFolder(folder, fileName);
-    return StampFrom(status);
+bool IsSettled(const IniStamp& stamp) {
+    constexpr std::int64_t coarsestTick = 2;
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    return !stamp.exists ||
+           std::chrono::duration_cast<std::chrono::seconds>(now).count() > stamp.seconds + coarsestTick;
 }
 
-void MakeFolders(std::wstring_view folder) {
+bool HasBytes(std::wstring_view fileName, std::string_view bytes, IniFileSystem& files) {
+    const Target target{files, fileName};
+    const auto regular = OpenRegular(ToUtf8(fileName), target);
+    return regular ? HasOnly(regular->file, bytes, target) : bytes.empty();
+}
+
+void MakeFolders(std::wstring_view folder, IniFileSystem& files) {
     const fs::path path(ToUtf8(folder));
     fs::path made;
     for (const fs::path& part : path) {
         made /= part;
-        if (::mkdir(made.c_str(), 0700) != 0 && errno != EEXIST)
-            Raise(errno, folder, Deed::Write);
+        const int error = Uninterrupted([&] { return files.MakeFolder(made.string()); });
+        if (error != 0 && error != EEXIST)
+            Raise(error, folder, Deed::Write);
     }
 }
+
+// Replacing ------------------------------------------------------------------------------------------------
+
+class IniReplacement::Work {
+public:
+    Work(std::wstring_view fileName, IniFileSystem& files)
+        : m_fileName(fileName),
+          m_files(files),
+          m_path(FollowLinks(fs::path(ToUtf8(fileName)), {files, fileName})),
+          m_temporaryPath(TemporaryPathFor(m_path)) {}
+    Work(const Work&) = delete;
+    Work& operator=(const Work&) = delete;
+    ~Work() {
+        // While the lock is held, so that nobody else's file goes. Where it cannot be removed, the next
+        // replacement does it.
+        if (m_isOurs)
+            static_cast<void>(Uninterrupted([&] { return m_files.Remove(m_temporaryPath); }));
+    }
+
+    void Begin() {
+        constexpr std::chrono::seconds patience(10);
+        constexpr std::chrono::milliseconds step(1); // short, so that each of many has its turn
+        for (std::chrono::milliseconds waited(0); !TryBegin(waited >= patience); waited += step)
+            m_files.Pause(step);
+    }
+
+    [[nodiscard]] const IniStamp& Stamp() const { return m_stamp; }
+    [[nodiscard]] bool Has(std::string_view bytes) const {
+        return m_old ? HasOnly(m_old->file, bytes, Here()) : bytes.empty();
+    }
+    [[nodiscard]] std::string Bytes() const { return m_old ? ReadAll(*m_old, Here()) : std::string(); }
+
+    void Flush() const {
+        if (!m_old)
+            return;
+        Require([&] { return m_files.Sync(m_old->file.Get()); });
+        Require([&] { return m_files.SyncFolder(FolderOf(m_path)); });
+    }
+
+    std::optional<IniStamp> Commit(std::string_view bytes) {
+        if (bytes.size() > largestFile)
+            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, L"It would be larger than 4 GiB");
+        if (m_old)
+            TakeOverAttributes();
+        Write(bytes);
+        Require([&] { return m_files.Sync(m_temporary.Get()); });
+        const auto now = FindRegular(m_path.string(), Here());
+        if ((now ? StampFrom(*now) : IniStamp{}) != m_stamp)
+            return std::nullopt;
+        Require([&] { return m_files.Rename(m_temporaryPath, m_path.string()); });
+        m_isOurs = false;
+        Require([&] { return m_files.SyncFolder(FolderOf(m_path)); });
+        return StampFrom(StatusOf(m_temporary, Here(), Deed::Write));
+    }
+
+private:
+    [[nodiscard]] Target Here() const { return {m_files, m_fileName}; }
+
+    template <class Call>
+    void Require(const Call& call) const {
+        if (const int error = Uninterrupted(call))
+            Raise(error, m_fileName, Deed::Write);
+    }
+
+    /// Whether it is our turn now. Raises when it is not and `isLast` says that we have waited long enough.
+    bool TryBegin(bool isLast) {
+        const bool exists = FindRegular(m_path.string(), Here()).has_value();
+        const auto created = Uninterrupted([&] {
+            return m_files.Open(m_temporaryPath, exists ? Opening::CreatePrivate : Opening::CreateShared);
+        });
+        if (created.error == EEXIST) {
+            RemoveAbandoned(isLast);
+            return false;
+        }
+        if (created.error == EACCES)
+            throw FileError(ERR_PERMISSION_DENIED, m_fileName, L"Its folder does not allow new files");
+        if (created.error != 0)
+            Raise(created.error, m_fileName, Deed::Write);
+
+        OpenFile temporary(m_files, created.value);
+        const int lock = Uninterrupted([&] { return m_files.TryLock(temporary.Get()); });
+        if (lock == EWOULDBLOCK) // it was taken for abandoned before we could lock it
+            return false;
+        if (lock != 0 && lock != ENOTSUP)
+            Raise(lock, m_fileName, Deed::Write);
+        if (!IsTemporary(temporary))
+            return false;
+        m_temporary = std::move(temporary);
+        m_isOurs = true;
+
+        m_old = OpenRegular(m_path.string(), Here());
+        m_stamp = m_old ? StampFrom(m_old->status) : IniStamp{};
+        if (m_old.has_value() == exists)
+            return true;
+        // It has come or gone meanwhile; the temporary file was made for the wrong readers.
+        Require([&] { return m_files.Remove(m_temporaryPath); });
+        m_isOurs = false;
+        return false;
+    }
+
+    /// Removes a temporary file whose process has ended. Raises when there is one that is in use and
+    /// `isLast`.
+    void RemoveAbandoned(bool isLast) {
+        const auto opened = Uninterrupted([&] { return m_files.Open(m_temporaryPath, Opening::ToLock); });
+        if (opened.error == ENOENT)
+            return;
+        if (opened.error == EACCES) { // another user's, as long as nobody but that one may read it
+            if (isLast)
+                throw FileError(ERR_PERMISSION_DENIED, m_fileName,
+                                L"In use by the owner of " + DecodeBytes(m_temporaryPath));
+            return;
+        }
+        if (opened.error != 0)
+            Raise(opened.error, m_fileName, Deed::Write);
+
+        const OpenFile temporary(m_files, opened.value);
+        const int lock = Uninterrupted([&] { return m_files.TryLock(temporary.Get()); });
+        if (lock != 0 && lock != EWOULDBLOCK && lock != ENOTSUP)
+            Raise(lock, m_fileName, Deed::Write);
+        if (lock == 0 || (lock == ENOTSUP && IsUntouched(temporary, isLast))) {
+            if (!IsTemporary(temporary))
+                return;
+            const int error = Uninterrupted([&] { return m_files.Remove(m_temporaryPath); });
+            if (error != 0 && error != ENOENT)
+                Raise(error, m_fileName, Deed::Write);
+            return;
+        }
+        if (isLast) {
+            const std::string holder = m_files.LockHolder(temporary.Get());
+            throw FileError(ERR_PERMISSION_DENIED, m_fileName,
+                            L"In use by " + (holder.empty() ? L"another program" : DecodeBytes(holder)));
+        }
+    }
+
+    /// Whether the temporary file is as it was when we first saw it, asked at the end of the waiting.
+    bool IsUntouched(const OpenFile& temporary, bool isLast) {
+        const IniStamp stamp = StampFrom(StatusOf(temporary, Here(), Deed::Write));
+        if (!m_firstSeen.exists)
+            m_firstSeen = stamp;
+        return isLast && stamp == m_firstSeen;
+    }
+
+    /// Whether an open file is the one that has the name of the temporary file.
+    [[nodiscard]] bool IsTemporary(const OpenFile& file) const {
+        const auto named = Uninterrupted([&] { return m_files.StatusAt(m_temporaryPath); });
+        if (named.error == ENOENT)
+            return false;
+        if (named.error != 0)
+            Raise(named.error, m_fileName, Deed::Write);
+        const IniFileStatus own = StatusOf(file, Here(), Deed::Write);
+        return own.device == named.value.device && own.inode == named.value.inode;
+    }
+
+    void TakeOverAttributes() {
+        const int error = Uninterrupted([&] { return m_files.MayWrite(m_path.string()); });
+        if (error == EACCES)
+            throw FileError(ERR_PERMISSION_DENIED, m_fileName, L"The file is read-only");
+        if (error != 0)
+            Raise(error, m_fileName, Deed::Write);
+        Require([&] { return m_files.CopyAttributes(m_old->file.Get(), m_temporary.Get()); });
+    }
+
+    void Write(std::string_view bytes) const {
+        while (!bytes.empty()) {
+            const auto count = Uninterrupted([&] { return m_files.Write(m_temporary.Get(), bytes); });
+            if (count.error != 0)
+                Raise(count.error, m_fileName, Deed::Write);
+            if (count.value == 0) // a system that neither writes nor says why would be asked for ever
+                Raise(EIO, m_fileName, Deed::Write);
+            bytes.remove_prefix(count.value);
+        }
+    }
+
+    std::wstring m_fileName;
+    IniFileSystem& m_files;
+    fs::path m_path; // at the end of all links
+    std::string m_temporaryPath;
+    OpenFile m_temporary;
+    bool m_isOurs = false;            // the temporary file: it was made, locked, and has still its name
+    std::optional<RegularFile> m_old; // nothing when there is no file yet
+    IniStamp m_stamp;
+    IniStamp m_firstSeen; // of a temporary file that cannot be locked
+};
+
+IniReplacement::IniReplacement(std::wstring_view fileName, IniFileSystem& files)
+    : m_work(std::make_unique<Work>(fileName, files)) {
+    m_work->Begin();
+}
+
+IniReplacement::~IniReplacement() = default;
+
+const IniStamp& IniReplacement::Stamp() const { return m_work->Stamp(); }
+bool IniReplacement::Has(std::string_view bytes) const { return m_work->Has(bytes); }
+std::string IniReplacement::Bytes() const { return m_work->Bytes(); }
+void IniReplacement::Flush() const { m_work->Flush(); }
+std::optional<IniStamp> IniReplacement::Commit(std::string_view bytes) { return m_work->Commit(bytes); }
 
 } // namespace QuorIniFile

@@ -1,27 +1,30 @@
 #pragma once
 
 #include "QuorIniFile/Export.h"
+#include "QuorIniFile/IniFileSystem.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
-// Files as the store needs them: read whole, replaced whole. The one place that talks to the operating
-// system; it knows nothing of what the bytes mean. File names go to the system as UTF-8.
+// Files as the store needs them: read whole, replaced whole, by one process at a time. It knows nothing of
+// what the bytes mean. File names go to the system as UTF-8.
 //
-// Only regular files are touched: a folder, a pipe, a socket or a device is error 75 at once. Symbolic links
-// are followed. Failures are raised as QuorError with the file's name and, where it adds something, the cause
-// in the system's words; a lack of memory stays std::bad_alloc.
+// Only regular files of less than 4 GiB are touched: a folder, a pipe, a socket, a device or a larger file is
+// error 75 at once. Symbolic links are followed and stay. Failures are raised as QuorError with the file's
+// name and, where it adds something, the cause in the system's words; a lack of memory is std::bad_alloc.
 namespace QuorIniFile {
 
-/// By what one tells that a file is still the one that was read. Equal stamps: nobody has written in between.
+/// By what one tells that a file is still the one that was read. Other stamps: it may have changed. Equal
+/// ones: it has not, unless it was written at the very moment (see IsSettled).
 struct IniStamp {
     bool exists = false;
     std::uint64_t device = 0;
     std::uint64_t inode = 0;
     std::uint64_t size = 0;
-    std::int64_t seconds = 0; // of the last change of its bytes
+    std::int64_t seconds = 0; // of the last change of its bytes, name or rights
     std::int64_t nanoseconds = 0;
 
     friend bool operator==(const IniStamp&, const IniStamp&) = default;
@@ -32,19 +35,66 @@ struct IniFileBytes {
     IniStamp stamp;
 };
 
-/// All bytes of a file, or nothing when there is no such file.
-[[nodiscard]] QUORINIFILE_EXPORT std::optional<IniFileBytes> ReadBytes(std::wstring_view fileName);
+/// All bytes of a file, or nothing when there is no such file. A file that is being written meanwhile is read
+/// again.
+[[nodiscard]] QUORINIFILE_EXPORT std::optional<IniFileBytes>
+ReadBytes(std::wstring_view fileName, IniFileSystem& files = IniFileSystem::System());
 
 /// The stamp of a file as it is now; that of a missing file says so.
-[[nodiscard]] QUORINIFILE_EXPORT IniStamp StampOf(std::wstring_view fileName);
+[[nodiscard]] QUORINIFILE_EXPORT IniStamp StampOf(std::wstring_view fileName,
+                                                  IniFileSystem& files = IniFileSystem::System());
 
-/// Replaces a file by `bytes`, or creates it; returns the new stamp. On success the bytes have reached the
-/// disk. On failure the old file is as it was and nothing is left beside it; the one exception is a folder
-/// that cannot be flushed after the file was replaced: the file is whole and new then, but may not outlive a
-/// power cut. Mode and owner are kept as far as the system allows; a file that we may not write is error 70.
-QUORINIFILE_EXPORT IniStamp ReplaceBytes(std::wstring_view fileName, std::string_view bytes);
+/// Whether every change of the file from now on gives another stamp. Clocks of file systems tick every few
+/// milliseconds, the coarsest every two seconds; a change in the same tick leaves no trace.
+[[nodiscard]] QUORINIFILE_EXPORT bool IsSettled(const IniStamp& stamp);
+
+/// Whether the file has these very bytes; a missing file has none.
+[[nodiscard]] QUORINIFILE_EXPORT bool HasBytes(std::wstring_view fileName, std::string_view bytes,
+                                               IniFileSystem& files = IniFileSystem::System());
 
 /// Creates a folder, and those above it, where they are missing. What is created is for the user alone.
-QUORINIFILE_EXPORT void MakeFolders(std::wstring_view folder);
+QUORINIFILE_EXPORT void MakeFolders(std::wstring_view folder, IniFileSystem& files = IniFileSystem::System());
+
+/// The replacement of one file: locked, then read, then written, so that no other process that goes this way
+/// comes in between.
+///
+/// A file beside the target, ".quor-<number of its name>.tmp", is the lock and the new text in one: whoever
+/// creates it and holds the kernel's lock on it may replace the target, and does so by giving it the target's
+/// name. It needs no other file, nothing to clean up after a save, and no lock on the target itself. The
+/// kernel's lock dies with its process; the file that such a process leaves is removed by the next
+/// replacement. Where a file system knows no locks, the file alone is the lock, and one that nobody has
+/// touched for as long as one waits is taken for abandoned.
+class QUORINIFILE_EXPORT IniReplacement {
+public:
+    /// Waits up to ten seconds for its turn, then raises 70 with the process that has the file in use. A
+    /// folder that does not exist is 76, one that cannot be written 70.
+    explicit IniReplacement(std::wstring_view fileName, IniFileSystem& files = IniFileSystem::System());
+    IniReplacement(const IniReplacement&) = delete;
+    IniReplacement& operator=(const IniReplacement&) = delete;
+    /// Without Commit the file is as it was, and nothing is left beside it.
+    ~IniReplacement();
+
+    /// The stamp of the file that is to be replaced.
+    [[nodiscard]] const IniStamp& Stamp() const;
+    /// Whether it has these very bytes; a missing file has none.
+    [[nodiscard]] bool Has(std::string_view bytes) const;
+    /// All its bytes; empty when it is missing.
+    [[nodiscard]] std::string Bytes() const;
+
+    /// Makes what stands in the file outlive a power cut, without replacing it.
+    void Flush() const;
+
+    /// Replaces the file by `bytes`, or creates it; to be called once. Returns the new stamp when the bytes
+    /// have reached the disk; nothing when a program that takes no lock has changed the file meanwhile, which
+    /// is then left as that made it. On a failure the file is as it was; the one exception is a folder that
+    /// cannot be flushed after the file was replaced: the file is whole and new then, but may not outlive a
+    /// power cut. Mode, owner, access lists and extended attributes are kept as far as the system allows; of
+    /// several hard links the others keep the old file. A file that we are not to write is error 70.
+    [[nodiscard]] std::optional<IniStamp> Commit(std::string_view bytes);
+
+private:
+    class Work;
+    std::unique_ptr<Work> m_work;
+};
 
 } // namespace QuorIniFile

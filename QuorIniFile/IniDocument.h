@@ -50,6 +50,8 @@ public:
     [[nodiscard]] bool Written() const { return !m_changes.empty(); }
     /// Forgets what was written. For a document that it has not changed.
     void ForgetWrites();
+    /// The text as it was read.
+    [[nodiscard]] std::string_view BaseText() const { return m_text; }
     /// The text with all changes.
     [[nodiscard]] std::string Text() const;
     /// Writes into another document, in the same order, what was written into this one: for a text that

@@ -12,6 +12,7 @@
 #include <cmath>
 #include <cstddef>
 #include <optional>
+#include <type_traits>
 #include <utility>
 
 namespace QuorIniFile {
@@ -41,6 +42,8 @@ bool IsFileName(std::wstring_view name) {
 /// One file and the section that is selected in it.
 class IniStore::Session {
 public:
+    explicit Session(IniFileSystem& files) : m_files(files) {}
+
     void SetFileName(std::wstring_view fileName) {
         if (!IsFileName(fileName))
             throw FileError(ERR_BAD_FILE_NAME, fileName);
@@ -99,21 +102,42 @@ public:
             Save();
     }
 
+    /// Nothing of the object changes unless all has gone well.
     void Save() {
         if (!m_document || !m_document->Written())
             return;
-        if (StampOf(m_fileName) != m_stamp) {
-            auto [document, stamp] = LoadFile();
-            m_document->ApplyChangesTo(document);
-            Adopt(std::move(document), stamp);
-        }
-        if (!m_document->Changed()) {
+        if (!m_document->Changed() && !FileChanged()) {
             m_document->ForgetWrites();
             return;
         }
-        std::string text = m_document->Text();
-        const IniStamp stamp = ReplaceBytes(m_fileName, text);
-        Adopt(IniDocument(std::move(text)), stamp);
+        constexpr int mostTries = 20;
+        for (int tries = 0; tries < mostTries; ++tries) {
+            if (TrySave())
+                return;
+        }
+        throw FileError(ERR_PERMISSION_DENIED, m_fileName, L"Another program keeps writing it");
+    }
+
+    bool FileChanged() {
+        if (!m_document)
+            return false;
+        const IniStamp now = StampOf(m_fileName, m_files);
+        if (now.exists != m_stamp.exists)
+            return true;
+        if (now == m_stamp && m_isSettled)
+            return false;
+        if (!HasBytes(m_fileName, m_document->BaseText(), m_files))
+            return true;
+        Remember(now);
+        return false;
+    }
+
+    void Reload() {
+        if (!m_document)
+            return;
+        auto [document, stamp] = LoadFile();
+        m_document->ApplyChangesTo(document);
+        Adopt(std::move(document), stamp);
     }
 
 private:
@@ -129,18 +153,51 @@ private:
 
     /// The file as it is now; an empty document when there is none.
     [[nodiscard]] std::pair<IniDocument, IniStamp> LoadFile() const {
-        std::optional<IniFileBytes> file = ReadBytes(m_fileName);
+        std::optional<IniFileBytes> file = ReadBytes(m_fileName, m_files);
         if (!file)
             return {IniDocument(), IniStamp()};
-        if (IsUtf16(file->bytes))
-            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, L"The file is UTF-16 text");
-        return {IniDocument(std::move(file->bytes)), file->stamp};
+        return {Document(std::move(file->bytes)), file->stamp};
     }
 
-    void Adopt(IniDocument document, const IniStamp& stamp) {
+    [[nodiscard]] IniDocument Document(std::string bytes) const {
+        if (IsUtf16(bytes))
+            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, L"The file is UTF-16 text");
+        return IniDocument(std::move(bytes));
+    }
+
+    void Adopt(IniDocument document, const IniStamp& stamp) noexcept {
+        static_assert(std::is_nothrow_move_assignable_v<IniDocument>);
         m_document = std::move(document);
-        m_stamp = stamp;
         m_number.reset();
+        Remember(stamp);
+    }
+
+    void Remember(const IniStamp& stamp) noexcept {
+        m_stamp = stamp;
+        m_isSettled = IsSettled(stamp);
+    }
+
+    /// Writes the changes into the file as it is now. False when it was changed while that was done.
+    bool TrySave() {
+        IniReplacement replacement(m_fileName, m_files);
+        std::optional<IniDocument> theirs; // what somebody else has made of the file, and our changes to it
+        if (!replacement.Has(m_document->BaseText())) {
+            theirs = Document(replacement.Bytes());
+            m_document->ApplyChangesTo(*theirs);
+        }
+        const IniDocument& changed = theirs ? *theirs : *m_document;
+        // The document of the new text is made before the file, so that nothing can fail after that.
+        IniDocument saved(changed.Changed() ? changed.Text() : std::string(changed.BaseText()));
+        if (!changed.Changed()) {
+            // Whoever wrote it, what we say is saved has to outlive a power cut.
+            replacement.Flush();
+            Adopt(std::move(saved), replacement.Stamp());
+            return true;
+        }
+        const std::optional<IniStamp> stamp = replacement.Commit(saved.BaseText());
+        if (stamp)
+            Adopt(std::move(saved), *stamp);
+        return stamp.has_value();
     }
 
     /// The number of the selected section. It is looked up once and remembered.
@@ -186,16 +243,18 @@ private:
         return *std::move(spelling);
     }
 
+    IniFileSystem& m_files;
     std::wstring m_fileName;
     std::wstring m_section;
     std::optional<std::string> m_sectionName = ""; // as look-ups take it; nothing when no file can hold it
     std::optional<IniDocument> m_document;         // nothing until the file is loaded
     IniStamp m_stamp;                              // of the file that the document was read from
+    bool m_isSettled = false;                      // the stamp was, when it was taken
     std::optional<IniDocument::Section> m_number;  // of the selected section, once it was found
     std::size_t m_holds = 0;
 };
 
-IniStore::IniStore() : m_session(std::make_unique<Session>()) {}
+IniStore::IniStore(IniFileSystem& files) : m_session(std::make_unique<Session>(files)) {}
 
 IniStore::~IniStore() {
     try {
@@ -252,5 +311,8 @@ void IniStore::WriteString(std::wstring_view key, std::wstring_view value) {
 
 void IniStore::Hold() { m_session->Hold(); }
 void IniStore::Release() { m_session->Release(); }
+
+bool IniStore::FileChanged() { return m_session->FileChanged(); }
+void IniStore::Reload() { m_session->Reload(); }
 
 } // namespace QuorIniFile

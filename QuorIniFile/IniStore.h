@@ -2,6 +2,7 @@
 
 #include "QuorIniFile/Export.h"
 #include "QuorIniFile/INIFile.h"
+#include "QuorIniFile/IniFileSystem.h"
 
 #include <cstdint>
 #include <memory>
@@ -15,20 +16,25 @@ namespace QuorIniFile {
 ///
 /// The file is loaded by the first read or write. A read from a file that does not exist is error 53; a write
 /// creates it, in a folder that must exist (76). A key that is missing, or whose value is not of the kind
-/// asked for, reads as False and leaves `value` as it was.
+/// asked for, reads as False and leaves `value` as it was. All reads see one and the same text, with what was
+/// written through this object: that which was loaded, until a save finds that another program has changed
+/// it, or until Reload.
 ///
 /// A write is durable when it returns. Between Hold and Release the writes are kept in memory; the outermost
 /// Release makes them durable together. A value that stands in the file already writes nothing. A save
-/// replaces the file as a whole, atomically. If another program has changed the file since it was loaded,
-/// what we have written is written into its text. A save that fails raises and keeps the changes; the next
-/// write or Release tries again.
+/// replaces the file as a whole, atomically, and one process at a time: it takes the lock, reads the file,
+/// and writes what we have written into the text that it finds. A save that fails raises and keeps the
+/// changes; the next write or Release tries again.
 ///
-/// All errors are QuorError with the source "QuorIniFile" and the file's name in the description: bad file
-/// name 52, device error 57, disk full 61, permission denied 70, path not found 76, anything else that cannot
-/// be read or written 75, UTF-16 text and names that the file could not give back among it.
+/// Errors are QuorError with the source "QuorIniFile" and the file's name in the description: bad file name
+/// 52, device error 57, disk full 61, permission denied 70, path not found 76, anything else that cannot be
+/// read or written 75, UTF-16 text and names that the file could not give back among it. A file that another
+/// process has been saving for ten seconds is 70, "In use by" whom. A lack of memory is std::bad_alloc. After
+/// any of them the file is as it was or complete, and the object holds what it held before.
 class QUORINIFILE_EXPORT IniStore final : public INIFile {
 public:
-    IniStore();
+    /// On the files of this computer, or on others, which must outlive the store.
+    explicit IniStore(IniFileSystem& files = IniFileSystem::System());
     IniStore(const IniStore&) = delete;
     IniStore& operator=(const IniStore&) = delete;
     /// Saves what is still held; failures are swallowed, so a caller that must know calls Release.
@@ -55,6 +61,14 @@ public:
     void Hold() override;
     /// Without a Hold it does nothing.
     void Release() override;
+
+    /// Whether the file holds another text now than the one that was loaded or last saved; that it has come
+    /// or gone counts too. Costs a look at the folder, or reading the file when it was touched. False as long
+    /// as nothing was loaded. Raises what loading would raise.
+    [[nodiscard]] bool FileChanged();
+    /// Loads the file as it is now. What was written and not saved stays, upon the new text. On an error the
+    /// object is as before. Before the first read or write there is nothing to load anew.
+    void Reload();
 
 private:
     class Session;

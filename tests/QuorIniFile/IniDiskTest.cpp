@@ -35,6 +35,10 @@ QuorError RaisedBy(const Action& action) {
     return {0, L"", L"nothing"};
 }
 
+IniStamp ReplaceBytes(const std::wstring& name, std::string_view bytes) {
+    return IniReplacement(name).Commit(bytes).value();
+}
+
 /// While it lives no file may grow beyond so many bytes: the way a full disk can be had on any machine.
 class FileSizeLimit {
 public:

@@ -1,0 +1,305 @@
+// The one file that talks to the operating system, here one of the POSIX family.
+
+#include "QuorIniFile/IniFileSystem.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <fstream>
+#include <initializer_list>
+#include <optional>
+#include <sstream>
+#include <system_error>
+#include <thread>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#ifdef __linux__
+#include <sys/sysmacros.h>
+#include <sys/xattr.h>
+#endif
+
+namespace QuorIniFile {
+namespace {
+
+using Handle = IniFileSystem::Handle;
+
+int Fd(Handle file) { return static_cast<int>(file); }
+
+int ErrorUnless(bool success) { return success ? 0 : errno; }
+
+bool IsOneOf(int error, std::initializer_list<int> errors) {
+    return std::find(errors.begin(), errors.end(), error) != errors.end();
+}
+
+/// Whether the system says "not you" or "not here", rather than that something went wrong.
+bool IsRefusal(int error) { return IsOneOf(error, {EPERM, EACCES, EINVAL, ENOSYS, ENOTSUP, EOPNOTSUPP}); }
+
+IniFileStatus StatusFrom(const struct stat& status) {
+    using Kind = IniFileStatus::Kind;
+    return {S_ISREG(status.st_mode)   ? Kind::Regular
+            : S_ISDIR(status.st_mode) ? Kind::Folder
+                                      : Kind::Other,
+            static_cast<std::uint64_t>(status.st_dev),
+            static_cast<std::uint64_t>(status.st_ino),
+            static_cast<std::uint64_t>(status.st_size),
+            static_cast<std::int64_t>(status.st_ctim.tv_sec),
+            static_cast<std::int64_t>(status.st_ctim.tv_nsec)};
+}
+
+#ifdef __linux__
+
+// Extended attributes, access lists (system.posix_acl_access) among them.
+
+/// A text of the system whose length it says when it is asked with no room at all; nothing on an error.
+template <class Call>
+std::optional<std::string> TextOf(const Call& call) {
+    for (;;) {
+        const ssize_t size = call(nullptr, 0);
+        if (size <= 0)
+            return size == 0 ? std::optional<std::string>("") : std::nullopt;
+        std::string text(static_cast<std::size_t>(size), '\0');
+        const ssize_t got = call(text.data(), text.size());
+        if (got >= 0) {
+            text.resize(static_cast<std::size_t>(got));
+            return text;
+        }
+        if (errno != ERANGE) // it has grown in between
+            return std::nullopt;
+    }
+}
+
+/// The names of a file's attributes. Sums over the bytes of a file are none of them: they would be wrong.
+std::optional<std::vector<std::string>> AttributeNames(int file) {
+    const auto list = TextOf([file](char* text, std::size_t size) { return ::flistxattr(file, text, size); });
+    if (!list)
+        return std::nullopt;
+    std::vector<std::string> names;
+    for (std::size_t at = 0; at < list->size();) {
+        std::string name(list->c_str() + at);
+        at += name.size() + 1;
+        if (name != "security.ima" && name != "security.evm")
+            names.push_back(std::move(name));
+    }
+    return names;
+}
+
+int CopyExtendedAttributes(int from, int to, bool sameGroup) {
+    auto names = AttributeNames(from);
+    if (!names)
+        return IsRefusal(errno) ? 0 : errno;
+    if (!sameGroup) // an access list says what the group may, and this one is another
+        names->erase(std::remove(names->begin(), names->end(), "system.posix_acl_access"), names->end());
+    const auto inherited = AttributeNames(to);
+    if (!inherited)
+        return IsRefusal(errno) ? 0 : errno;
+    // What the folder gives to new files, the old one need not have: an access list for instance.
+    for (const std::string& name : *inherited) {
+        if (std::find(names->begin(), names->end(), name) == names->end() &&
+            ::fremovexattr(to, name.c_str()) != 0 && errno != ENODATA && !IsRefusal(errno))
+            return errno;
+    }
+    for (const std::string& name : *names) {
+        const auto value = TextOf([&name, from](char* text, std::size_t size) {
+            return ::fgetxattr(from, name.c_str(), text, size);
+        });
+        if (!value && errno != ENODATA && !IsRefusal(errno))
+            return errno;
+        if (value && ::fsetxattr(to, name.c_str(), value->data(), value->size(), 0) != 0 && !IsRefusal(errno))
+            return errno;
+    }
+    return 0;
+}
+
+/// The process that holds the lock on a file, from the kernel's list of locks, a line each:
+/// "1: FLOCK  ADVISORY  WRITE 1234 fe:00:10985491 0 EOF".
+std::optional<std::string> LockingProcess(const struct stat& status) {
+    std::array<char, 64> wanted{};
+    char* end = wanted.data() + wanted.size();
+    const auto append = [end](char* at, std::uint64_t number, int base, std::ptrdiff_t digits) {
+        const auto result = std::to_chars(at, end, number, base);
+        const std::ptrdiff_t missing = std::max<std::ptrdiff_t>(0, digits - (result.ptr - at));
+        std::move_backward(at, result.ptr, result.ptr + missing);
+        std::fill_n(at, missing, '0');
+        return result.ptr + missing;
+    };
+    char* at = append(wanted.data(), ::major(status.st_dev), 16, 2);
+    *at++ = ':';
+    at = append(at, ::minor(status.st_dev), 16, 2);
+    *at++ = ':';
+    at = append(at, status.st_ino, 10, 1);
+    const std::string_view file(wanted.data(), static_cast<std::size_t>(at - wanted.data()));
+
+    std::ifstream locks("/proc/locks");
+    for (std::string line; std::getline(locks, line);) {
+        std::istringstream words(line);
+        std::string number;
+        std::string kind;
+        std::string strictness;
+        std::string access;
+        std::string process;
+        std::string place;
+        if (words >> number >> kind >> strictness >> access >> process >> place && place == file)
+            return process;
+    }
+    return std::nullopt;
+}
+
+#else
+
+int CopyExtendedAttributes(int /*from*/, int /*to*/, bool /*sameGroup*/) { return 0; }
+std::optional<std::string> LockingProcess(const struct stat& /*status*/) { return std::nullopt; }
+
+#endif
+
+class PosixFileSystem final : public IniFileSystem {
+public:
+    IniResult<IniFileStatus> StatusAt(const std::string& path) override {
+        struct stat status {};
+        return ::stat(path.c_str(), &status) == 0 ? IniResult<IniFileStatus>{0, StatusFrom(status)}
+                                                  : IniResult<IniFileStatus>{errno, {}};
+    }
+
+    IniResult<IniFileStatus> StatusOf(Handle file) override {
+        struct stat status {};
+        return ::fstat(Fd(file), &status) == 0 ? IniResult<IniFileStatus>{0, StatusFrom(status)}
+                                               : IniResult<IniFileStatus>{errno, {}};
+    }
+
+    IniResult<std::string> LinkAt(const std::string& path) override {
+        std::string target(256, '\0');
+        for (;;) {
+            const ssize_t length = ::readlink(path.c_str(), target.data(), target.size());
+            if (length < 0)
+                return {IsOneOf(errno, {ENOSYS, ENOTSUP}) ? EINVAL : errno, {}}; // no links there at all
+            if (static_cast<std::size_t>(length) < target.size()) {
+                target.resize(static_cast<std::size_t>(length));
+                return {0, std::move(target)};
+            }
+            target.resize(target.size() * 2); // it may have been cut off
+        }
+    }
+
+    int MayWrite(const std::string& path) override {
+        struct stat status {};
+        if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0 || ::stat(path.c_str(), &status) != 0)
+            return errno;
+        // The superuser may write anything; a file without any write bit is still meant to stay as it is.
+        return (status.st_mode & 0222U) == 0 ? EACCES : 0;
+    }
+
+    IniResult<Handle> Open(const std::string& path, Opening how) override {
+        int file = -1;
+        switch (how) {
+        case Opening::ToRead:
+            file = OpenFile(path, O_RDONLY | O_NONBLOCK, 0);
+            break;
+        case Opening::ToLock:
+            // Some network file systems lock only what is open for writing; elsewhere reading will do.
+            file = OpenFile(path, O_RDWR | O_NONBLOCK | O_NOFOLLOW, 0);
+            if (file < 0 && errno == EACCES)
+                file = OpenFile(path, O_RDONLY | O_NONBLOCK | O_NOFOLLOW, 0);
+            break;
+        case Opening::CreatePrivate:
+            file = OpenFile(path, O_RDWR | O_CREAT | O_EXCL, 0600);
+            break;
+        case Opening::CreateShared:
+            file = OpenFile(path, O_RDWR | O_CREAT | O_EXCL, 0666);
+            break;
+        }
+        return {ErrorUnless(file >= 0), file};
+    }
+
+    // After a Sync that went well, closing has nothing to tell.
+    void Close(Handle file) override { ::close(Fd(file)); }
+
+    IniResult<std::size_t> Read(Handle file, std::uint64_t offset, char* bytes, std::size_t size) override {
+        const ssize_t count = ::pread(Fd(file), bytes, size, static_cast<off_t>(offset));
+        return count >= 0 ? IniResult<std::size_t>{0, static_cast<std::size_t>(count)}
+                          : IniResult<std::size_t>{errno, 0};
+    }
+
+    IniResult<std::size_t> Write(Handle file, std::string_view bytes) override {
+        const ssize_t count = ::write(Fd(file), bytes.data(), bytes.size());
+        return count >= 0 ? IniResult<std::size_t>{0, static_cast<std::size_t>(count)}
+                          : IniResult<std::size_t>{errno, 0};
+    }
+
+    int Sync(Handle file) override { return ErrorUnless(::fsync(Fd(file)) == 0); }
+
+    int SyncFolder(const std::string& path) override {
+        const int folder = OpenFile(path, O_RDONLY | O_DIRECTORY, 0);
+        if (folder < 0) // one may be allowed to write into a folder and not to read it
+            return errno == EACCES ? 0 : errno;
+        const int error = ErrorUnless(::fsync(folder) == 0);
+        ::close(folder);
+        return error == EINVAL ? 0 : error;
+    }
+
+    int TryLock(Handle file) override {
+        const int error = ErrorUnless(::flock(Fd(file), LOCK_EX | LOCK_NB) == 0);
+        return IsOneOf(error, {ENOLCK, ENOSYS, EINVAL, EOPNOTSUPP}) ? ENOTSUP : error;
+    }
+
+    std::string LockHolder(Handle file) override {
+        struct stat status {};
+        const auto process = ::fstat(Fd(file), &status) == 0 ? LockingProcess(status) : std::nullopt;
+        if (!process)
+            return {};
+        std::string name;
+        std::ifstream command("/proc/" + *process + "/comm");
+        return "process " + *process + (std::getline(command, name) ? " (" + name + ')' : "");
+    }
+
+    int CopyAttributes(Handle from, Handle to) override {
+        struct stat old {};
+        if (::fstat(Fd(from), &old) != 0)
+            return errno;
+        bool sameGroup = true;
+        if (::fchown(Fd(to), old.st_uid, old.st_gid) != 0) {
+            if (!IsRefusal(errno))
+                return errno;
+            sameGroup = ::fchown(Fd(to), static_cast<uid_t>(-1), old.st_gid) == 0;
+            if (!sameGroup && !IsRefusal(errno))
+                return errno;
+        }
+        // The access list goes first: mode bits mean another thing with it than without.
+        if (const int error = CopyExtendedAttributes(Fd(from), Fd(to), sameGroup))
+            return error;
+        mode_t mode = old.st_mode & 07777U;
+        if (!sameGroup) // what the group was allowed is not passed on to another group
+            mode &= ~mode_t{070} | ((mode & 07U) << 3U);
+        return ::fchmod(Fd(to), mode) == 0 || IsRefusal(errno) ? 0 : errno;
+    }
+
+    int Rename(const std::string& from, const std::string& to) override {
+        return ErrorUnless(::rename(from.c_str(), to.c_str()) == 0);
+    }
+
+    int Remove(const std::string& path) override { return ErrorUnless(::unlink(path.c_str()) == 0); }
+
+    int MakeFolder(const std::string& path) override { return ErrorUnless(::mkdir(path.c_str(), 0700) == 0); }
+
+    void Pause(std::chrono::milliseconds time) override { std::this_thread::sleep_for(time); }
+
+private:
+    static int OpenFile(const std::string& path, int flags, mode_t mode) {
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the system's interface
+        return ::open(path.c_str(), flags | O_CLOEXEC, mode);
+    }
+};
+
+} // namespace
+
+IniFileSystem& IniFileSystem::System() {
+    static PosixFileSystem system;
+    return system;
+}
+
+IniFileSystem::~IniFileSystem() = default;
+
+} // namespace QuorIniFile
