@@ -237,7 +237,7 @@ std::string TemporaryPathFor(const fs::path& path) {
         number = (number ^ static_cast<unsigned char>(small)) * 0x100000001B3U;
     }
     std::array<char, 16> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number, 16).ptr;
+    char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number, 16).ptr;
     return (path.parent_path() / (".quor-" + std::string(digits.data(), end) + ".tmp")).string();
 }
 

@@ -1,0 +1,255 @@
+// Calls of the system that fail, one after the other: the file is the old one or the new one, the error says
+// which file and why, and what was written is saved as soon as the system works again.
+
+#include "QuorIniFile/IniStore.h"
+
+#include "QuorIniFile/QuorError.h"
+#include "tests/support/InterceptedFiles.h"
+#include "tests/support/SimulatedDisk.h"
+#include "tests/support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <chrono>
+#include <filesystem>
+#include <functional>
+#include <limits>
+#include <new>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace fs = std::filesystem;
+using namespace QuorIniFile;
+using Names = std::vector<std::string>;
+using Support::InterceptedFiles;
+using Support::SimulatedDisk;
+
+namespace {
+
+constexpr const char* oldText = "; mine\r\n[A]\r\nx=1\r\n[B]\r\ny=1\r\n";
+constexpr const char* newText = "; mine\r\n[A]\r\nx=2\r\n[B]\r\ny=1\r\n";
+constexpr const char* firstText = "[A]\nx=2\n";
+
+/// A file that is read and saved on a system whose calls fail.
+class FaultyRun {
+public:
+    explicit FaultyRun(bool exists) : m_exists(exists) {
+        if (exists)
+            folder.Write("a.ini", oldText);
+        store.SetFileName(folder.Name("a.ini"));
+        store.SetSection(L"A");
+    }
+
+    /// Reads x, where there is a file, and writes it.
+    void ReadAndSave() {
+        std::int16_t value = 0;
+        if (m_exists) {
+            EXPECT_TRUE(store.ReadInteger(L"x", value));
+            EXPECT_EQ(value, 1);
+        }
+        Save();
+    }
+    void Save() { store.WriteInteger(L"x", 2, L""); }
+
+    [[nodiscard]] bool IsNew() const {
+        return fs::exists(folder.Path("a.ini")) && folder.Read("a.ini") == (m_exists ? newText : firstText);
+    }
+    [[nodiscard]] bool IsOld() const {
+        return m_exists ? folder.Read("a.ini") == oldText : !fs::exists(folder.Path("a.ini"));
+    }
+
+    TempFolder folder;
+    InterceptedFiles files;
+    IniStore store{files};
+
+private:
+    bool m_exists;
+};
+
+/// Fails call `at`, counted from 0, and when `lasting` all that follow.
+struct Fault {
+    std::size_t at;
+    int error;
+    bool lasting = false;
+    std::size_t calls = 0;
+    std::string name = {};
+
+    int operator()(std::string_view call) {
+        const std::size_t number = calls++;
+        if (number == at)
+            name = call;
+        return number == at || (lasting && number > at) ? error : 0;
+    }
+    [[nodiscard]] bool WasReached() const { return calls > at; }
+};
+
+/// The error of a run, nothing when it succeeded.
+std::optional<QuorError> ErrorOf(FaultyRun& run) {
+    try {
+        run.ReadAndSave();
+    } catch (const QuorError& error) {
+        return error;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+TEST(IniStoreFaults, EveryCallThatFailsIsAnErrorAndLeavesTheOldFileOrTheNewOne) {
+    const std::pair<int, std::int32_t> errors[] = {{EIO, 57}, {ENOSPC, 61}, {EDQUOT, 61}, {EROFS, 70}};
+    for (const bool exists : {true, false}) {
+        for (const auto& [error, number] : errors) {
+            for (const bool lasting : {false, true}) {
+                std::size_t at = 0;
+                for (bool reached = true; reached; ++at) {
+                    FaultyRun run(exists);
+                    Fault fault{at, error, lasting};
+                    run.files.onCall = std::ref(fault);
+                    const auto raised = ErrorOf(run);
+                    reached = fault.WasReached();
+                    const std::string where = fault.name + ", call " + std::to_string(at);
+                    ASSERT_EQ(raised.has_value(), reached) << where;
+                    if (!reached) {
+                        EXPECT_TRUE(run.IsNew());
+                        break;
+                    }
+                    EXPECT_EQ(raised->Number(), number) << where;
+                    EXPECT_NE(raised->Description().find(run.folder.Name("a.ini")), std::wstring::npos);
+                    EXPECT_TRUE(run.IsOld() || run.IsNew()) << where;
+                    EXPECT_TRUE(run.IsOld() || fault.name == "SyncFolder" || fault.name == "StatusOf")
+                        << where;
+
+                    run.files.onCall = [](std::string_view) { return 0; };
+                    run.Save();
+                    EXPECT_TRUE(run.IsNew()) << where;
+                    EXPECT_EQ(run.folder.Files(), Names{"a.ini"}) << where;
+                }
+                EXPECT_GT(at, exists ? 20U : 10U) << "the calls of a read and a save";
+            }
+        }
+    }
+}
+
+TEST(IniStoreFaults, AfterAFailedSaveTheObjectHoldsWhatItHeldAndAnotherStoreSeesTheFile) {
+    for (std::size_t at = 0;; ++at) {
+        FaultyRun run(true);
+        Fault fault{at, EIO};
+        run.files.onCall = std::ref(fault);
+        const bool failed = ErrorOf(run).has_value();
+        run.files.onCall = [](std::string_view) { return 0; };
+        if (!failed)
+            break;
+
+        IniStore other;
+        other.SetFileName(run.folder.Name("a.ini"));
+        other.SetSection(L"B");
+        other.WriteInteger(L"y", 7, L"");
+        EXPECT_EQ(run.folder.Files(), Names{"a.ini"}) << "the next save removes what was left, call " << at;
+
+        std::int16_t value = 0;
+        EXPECT_TRUE(run.store.ReadInteger(L"x", value));
+        EXPECT_TRUE(value == 1 || value == 2) << "as read, or as written and still to be saved";
+        run.Save();
+        EXPECT_EQ(run.folder.Read("a.ini"), "; mine\r\n[A]\r\nx=2\r\n[B]\r\ny=7\r\n");
+    }
+}
+
+TEST(IniStoreFaults, AnInterruptedCallIsMadeAgain) {
+    for (const bool exists : {true, false}) {
+        bool reached = true;
+        for (std::size_t at = 0; reached; ++at) {
+            FaultyRun run(exists);
+            Fault fault{at, EINTR};
+            run.files.onCall = std::ref(fault);
+            EXPECT_EQ(ErrorOf(run), std::nullopt) << fault.name;
+            reached = fault.WasReached();
+            EXPECT_TRUE(run.IsNew()) << fault.name;
+            EXPECT_EQ(run.folder.Files(), Names{"a.ini"});
+        }
+    }
+}
+
+TEST(IniStoreFaults, ReadsAndWritesMayMoveOneByteAtATime) {
+    for (const bool exists : {true, false}) {
+        FaultyRun run(exists);
+        run.files.mostBytes = 1;
+        run.ReadAndSave();
+        EXPECT_TRUE(run.IsNew());
+    }
+}
+
+TEST(IniStoreFaults, ASystemThatWritesNothingAndSaysNothingIsADeviceError) {
+    FaultyRun run(true);
+    run.store.Hold();
+    run.ReadAndSave();
+    run.files.mostBytes = 0;
+    const std::size_t most = std::numeric_limits<std::size_t>::max();
+    run.files.onCall = [&run, most](std::string_view call) {
+        run.files.mostBytes = call == "Write" ? 0 : most;
+        return 0;
+    };
+    try {
+        run.store.Release();
+        FAIL() << "nothing was written";
+    } catch (const QuorError& error) {
+        EXPECT_EQ(error.Number(), 57);
+    }
+    EXPECT_TRUE(run.IsOld());
+}
+
+TEST(IniStoreFaults, ALackOfMemoryInTheSystemIsBadAlloc) {
+    FaultyRun run(true);
+    Fault fault{0, ENOMEM};
+    run.files.onCall = std::ref(fault);
+    EXPECT_THROW(run.ReadAndSave(), std::bad_alloc);
+    EXPECT_TRUE(run.IsOld());
+}
+
+TEST(IniStoreFaults, ADiskThatIsFullAfterAnyNumberOfBytesKeepsTheOldFile) {
+    const std::string before = "[A]\nx=1\n";
+    const std::string after = "[A]\nx=12345\n";
+    for (std::size_t room = 0; room <= after.size(); ++room) {
+        SimulatedDisk disk(SimulatedDisk::Files{{"/a.ini", before}});
+        disk.capacity = before.size() + room;
+        IniStore store(disk);
+        store.SetFileName(L"/a.ini");
+        store.SetSection(L"A");
+        std::int32_t number = 0;
+        try {
+            store.WriteInteger(L"x", 12345, L"");
+        } catch (const QuorError& error) {
+            number = error.Number();
+        }
+        const bool fits = room >= after.size();
+        EXPECT_EQ(number, fits ? 0 : 61) << room;
+        EXPECT_EQ(disk.Now(), (SimulatedDisk::Files{{"/a.ini", fits ? after : before}})) << room;
+    }
+}
+
+TEST(IniStoreFaults, AProgramThatTakesNoLockMayRewriteTheFileAtAnyCallAndItsKeysSurvive) {
+    const std::string theirs = "; theirs, and longer than ours\n[B]\ny=5\n[A]\nx=1\n";
+    const std::string both = "; theirs, and longer than ours\n[B]\ny=5\n[A]\nx=2\n";
+    bool reached = true;
+    for (std::size_t at = 0; reached; ++at) {
+        FaultyRun run(true);
+        std::size_t calls = 0;
+        bool isRenamed = false;
+        std::string expected = newText;
+        run.files.onCall = [&](std::string_view call) {
+            // Between the last look at the file and its replacement nobody can be seen.
+            if (calls++ == at && call != "Rename") {
+                run.folder.Write("a.ini", theirs);
+                expected = isRenamed ? theirs : both;
+            }
+            isRenamed = isRenamed || call == "Rename";
+            return 0;
+        };
+        run.ReadAndSave();
+        reached = calls > at;
+        EXPECT_EQ(run.folder.Read("a.ini"), expected) << "call " << at;
+        EXPECT_EQ(run.folder.Files(), Names{"a.ini"});
+    }
+}

@@ -1,0 +1,111 @@
+// A power cut at any call of a save, after which each change that was not flushed is lost, done or half done.
+
+#include "QuorIniFile/IniStore.h"
+
+#include "tests/support/InterceptedFiles.h"
+#include "tests/support/SimulatedDisk.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <set>
+#include <string>
+
+using namespace QuorIniFile;
+using Support::InterceptedFiles;
+using Support::SimulatedDisk;
+using Files = SimulatedDisk::Files;
+
+namespace {
+
+constexpr const char* path = "/laboratory/a.ini";
+
+struct PowerCut {};
+
+void Write(IniFileSystem& files, const wchar_t* key, std::int16_t value) {
+    IniStore store(files);
+    store.SetFileName(L"/laboratory/a.ini");
+    store.SetSection(L"A");
+    store.WriteInteger(key, value, L"");
+}
+
+/// Cuts the power at each call of a save that turns `before` into `after`.
+void CutEverywhere(const Files& before, const std::string& after) {
+    std::size_t states = 0;
+    bool finished = false;
+    for (std::size_t at = 0; !finished; ++at) {
+        SimulatedDisk disk(before);
+        InterceptedFiles files(disk);
+        bool isDark = false;
+        std::size_t calls = 0;
+        files.onCall = [&](std::string_view) {
+            if (!isDark && calls++ == at) {
+                isDark = true;
+                throw PowerCut();
+            }
+            return isDark ? EIO : 0;
+        };
+        try {
+            Write(files, L"x", 2);
+            finished = true;
+        } catch (const PowerCut&) {
+        }
+
+        for (const Files& left : disk.AfterPowerCut()) {
+            ++states;
+            const auto file = left.find(path);
+            const auto old = before.find(path);
+            const bool isNew = file != left.end() && file->second == after;
+            const bool isOld =
+                file == left.end() ? old == before.end() : old != before.end() && file->second == old->second;
+            ASSERT_TRUE(isNew || (isOld && !finished)) << "call " << at;
+
+            SimulatedDisk next(left);
+            Write(next, L"x", 2);
+            Write(next, L"y", 3);
+            EXPECT_EQ(next.Now(), (Files{{path, after + "y=3\n"}})) << "call " << at;
+        }
+    }
+    EXPECT_GT(states, 30U);
+}
+
+} // namespace
+
+TEST(IniStorePowerCut, LeavesTheOldFileOrTheCompleteNewOne) {
+    CutEverywhere(Files{{path, "[A]\nx=1\n"}}, "[A]\nx=2\n");
+}
+
+TEST(IniStorePowerCut, LeavesNoFileOrTheCompleteFirstOne) { CutEverywhere({}, "[A]\nx=2\n"); }
+
+TEST(IniStorePowerCut, AfterAFolderThatCouldNotBeFlushedTheNextSaveMakesItDurable) {
+    SimulatedDisk disk(Files{{path, "[A]\nx=1\n"}});
+    InterceptedFiles files(disk);
+    files.onCall = [](std::string_view call) { return call == "SyncFolder" ? EIO : 0; };
+    IniStore store(files);
+    store.SetFileName(L"/laboratory/a.ini");
+    store.SetSection(L"A");
+    EXPECT_ANY_THROW(store.WriteInteger(L"x", 2, L""));
+    EXPECT_EQ(disk.Now().at(path), "[A]\nx=2\n");
+    EXPECT_GT(disk.AfterPowerCut().size(), 1U) << "the old file may come back";
+
+    files.onCall = [](std::string_view) { return 0; };
+    store.WriteInteger(L"x", 2, L"");
+    for (const Files& left : disk.AfterPowerCut())
+        EXPECT_EQ(left.at(path), "[A]\nx=2\n");
+}
+
+TEST(IniStorePowerCut, AFileThatIsNotFlushedIsSeenToBeLost) {
+    // The simulated disk itself: it must be able to show the fault that a save does not have.
+    SimulatedDisk disk;
+    const auto file = disk.Open("/t", IniFileSystem::Opening::CreatePrivate);
+    ASSERT_EQ(disk.Write(file.value, "text").value, 4U);
+    ASSERT_EQ(disk.Rename("/t", "/a"), 0);
+    ASSERT_EQ(disk.SyncFolder("/"), 0);
+    std::set<std::string> left;
+    for (const Files& files : disk.AfterPowerCut())
+        left.insert(files.at("/a"));
+    using namespace std::string_literals;
+    EXPECT_EQ(left,
+              (std::set<std::string>{"", "\0\0x"s, "\0\0xt"s, "t", "t\0x"s, "t\0xt"s, "te", "tex", "text"}));
+    disk.Close(file.value);
+}

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "QuorIniFile/IniFileSystem.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <functional>
+#include <limits>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace Support {
+
+/// A file system in front of another one, on which a test can see and stop every call.
+class InterceptedFiles final : public QuorIniFile::IniFileSystem {
+public:
+    explicit InterceptedFiles(QuorIniFile::IniFileSystem& files = System()) : m_files(files) {}
+
+    /// Asked before each call that can fail, by its name: the error to give instead, 0 to let it pass.
+    std::function<int(std::string_view call)> onCall = [](std::string_view) { return 0; };
+    /// How many bytes a read or a write moves at most.
+    std::size_t mostBytes = std::numeric_limits<std::size_t>::max();
+
+    QuorIniFile::IniResult<QuorIniFile::IniFileStatus> StatusAt(const std::string& path) override {
+        return Ask("StatusAt", [&] { return m_files.StatusAt(path); });
+    }
+    QuorIniFile::IniResult<QuorIniFile::IniFileStatus> StatusOf(Handle file) override {
+        return Ask("StatusOf", [&] { return m_files.StatusOf(file); });
+    }
+    QuorIniFile::IniResult<std::string> LinkAt(const std::string& path) override {
+        return Ask("LinkAt", [&] { return m_files.LinkAt(path); });
+    }
+    int MayWrite(const std::string& path) override {
+        return Do("MayWrite", [&] { return m_files.MayWrite(path); });
+    }
+    QuorIniFile::IniResult<Handle> Open(const std::string& path, Opening how) override {
+        return Ask("Open", [&] { return m_files.Open(path, how); });
+    }
+    void Close(Handle file) override { m_files.Close(file); }
+    QuorIniFile::IniResult<std::size_t> Read(Handle file, std::uint64_t offset, char* bytes,
+                                             std::size_t size) override {
+        return Ask("Read", [&] { return m_files.Read(file, offset, bytes, std::min(size, mostBytes)); });
+    }
+    QuorIniFile::IniResult<std::size_t> Write(Handle file, std::string_view bytes) override {
+        return Ask("Write", [&] { return m_files.Write(file, bytes.substr(0, mostBytes)); });
+    }
+    int Sync(Handle file) override {
+        return Do("Sync", [&] { return m_files.Sync(file); });
+    }
+    int SyncFolder(const std::string& path) override {
+        return Do("SyncFolder", [&] { return m_files.SyncFolder(path); });
+    }
+    int TryLock(Handle file) override {
+        return Do("TryLock", [&] { return m_files.TryLock(file); });
+    }
+    std::string LockHolder(Handle file) override { return m_files.LockHolder(file); }
+    int CopyAttributes(Handle from, Handle to) override {
+        return Do("CopyAttributes", [&] { return m_files.CopyAttributes(from, to); });
+    }
+    int Rename(const std::string& from, const std::string& to) override {
+        return Do("Rename", [&] { return m_files.Rename(from, to); });
+    }
+    int Remove(const std::string& path) override {
+        return Do("Remove", [&] { return m_files.Remove(path); });
+    }
+    int MakeFolder(const std::string& path) override {
+        return Do("MakeFolder", [&] { return m_files.MakeFolder(path); });
+    }
+    void Pause(std::chrono::milliseconds time) override { m_files.Pause(time); }
+
+private:
+    template <class Call>
+    auto Ask(std::string_view name, const Call& call) -> decltype(call()) {
+        if (const int error = onCall(name))
+            return {error, {}};
+        return call();
+    }
+    template <class Call>
+    int Do(std::string_view name, const Call& call) {
+        const int error = onCall(name);
+        return error != 0 ? error : call();
+    }
+
+    QuorIniFile::IniFileSystem& m_files;
+};
+
+} // namespace Support
