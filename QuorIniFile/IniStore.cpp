@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <chrono>
 #include <cmath>
 #include <cstddef>
 #include <optional>
@@ -103,20 +104,24 @@ public:
     }
 
     /// Nothing of the object changes unless all has gone well.
-    void Save() {
+    void Save(std::chrono::milliseconds patience = IniReplacement::usualPatience) {
         if (!m_document || !m_document->Written())
             return;
         if (!m_document->Changed() && !FileChanged()) {
             m_document->ForgetWrites();
             return;
         }
+        m_hasFailed = true;
         constexpr int mostTries = 20;
-        for (int tries = 0; tries < mostTries; ++tries) {
-            if (TrySave())
-                return;
+        for (int tries = 0; !TrySave(patience); ++tries) {
+            if (tries == mostTries)
+                throw FileError(ERR_PERMISSION_DENIED, m_fileName, L"Another program keeps writing it");
         }
-        throw FileError(ERR_PERMISSION_DENIED, m_fileName, L"Another program keeps writing it");
+        m_hasFailed = false;
     }
+
+    /// A save that has failed is tried once more, without waiting for others: that was done then.
+    void SaveAtEnd() { Save(m_hasFailed ? std::chrono::milliseconds(0) : IniReplacement::usualPatience); }
 
     bool FileChanged() {
         if (!m_document)
@@ -178,8 +183,8 @@ private:
     }
 
     /// Writes the changes into the file as it is now. False when it was changed while that was done.
-    bool TrySave() {
-        IniReplacement replacement(m_fileName, m_files);
+    bool TrySave(std::chrono::milliseconds patience) {
+        IniReplacement replacement(m_fileName, m_files, patience);
         std::optional<IniDocument> theirs; // what somebody else has made of the file, and our changes to it
         if (!replacement.Has(m_document->BaseText())) {
             theirs = Document(replacement.Bytes());
@@ -251,6 +256,7 @@ private:
     IniStamp m_stamp;                              // of the file that the document was read from
     bool m_isSettled = false;                      // the stamp was, when it was taken
     std::optional<IniDocument::Section> m_number;  // of the selected section, once it was found
+    bool m_hasFailed = false;                      // the last save
     std::size_t m_holds = 0;
 };
 
@@ -258,7 +264,7 @@ IniStore::IniStore(IniFileSystem& files) : m_session(std::make_unique<Session>(f
 
 IniStore::~IniStore() {
     try {
-        m_session->Save();
+        m_session->SaveAtEnd();
     } catch (...) { // NOLINT(bugprone-empty-catch): a destructor has nobody to tell
     }
 }

@@ -3,6 +3,7 @@
 #include "QuorIniFile/IniFileSystem.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <limits>
@@ -21,6 +22,8 @@ public:
     std::function<int(std::string_view call)> onCall = [](std::string_view) { return 0; };
     /// How many bytes a read or a write moves at most.
     std::size_t mostBytes = std::numeric_limits<std::size_t>::max();
+    /// How long one has waited for others.
+    std::chrono::milliseconds paused{0};
 
     QuorIniFile::IniResult<QuorIniFile::IniFileStatus> StatusAt(const std::string& path) override {
         return Ask("StatusAt", [&] { return m_files.StatusAt(path); });
@@ -67,7 +70,10 @@ public:
     int MakeFolder(const std::string& path) override {
         return Do("MakeFolder", [&] { return m_files.MakeFolder(path); });
     }
-    void Pause(std::chrono::milliseconds time) override { m_files.Pause(time); }
+    void Pause(std::chrono::milliseconds time) override {
+        paused += time;
+        m_files.Pause(time);
+    }
 
 private:
     template <class Call>
