@@ -307,7 +307,8 @@ public:
             static_cast<void>(Uninterrupted([&] { return m_files.Remove(m_temporaryPath); }));
     }
 
-    void Begin(std::chrono::milliseconds patience) {
+    void Begin() {
+        constexpr std::chrono::seconds patience(10);
         constexpr std::chrono::milliseconds step(1); // short, so that each of many has its turn
         for (std::chrono::milliseconds waited(0); !TryBegin(waited >= patience); waited += step)
             m_files.Pause(step);
@@ -471,10 +472,9 @@ private:
     IniStamp m_firstSeen; // of a temporary file that cannot be locked
 };
 
-IniReplacement::IniReplacement(std::wstring_view fileName, IniFileSystem& files,
-                               std::chrono::milliseconds patience)
+IniReplacement::IniReplacement(std::wstring_view fileName, IniFileSystem& files)
     : m_work(std::make_unique<Work>(fileName, files)) {
-    m_work->Begin(patience);
+    m_work->Begin();
 }
 
 IniReplacement::~IniReplacement() = default;

@@ -3,7 +3,6 @@
 #include "QuorIniFile/Export.h"
 #include "QuorIniFile/IniFileSystem.h"
 
-#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -67,12 +66,9 @@ QUORINIFILE_EXPORT void MakeFolders(std::wstring_view folder, IniFileSystem& fil
 /// touched for as long as one waits is taken for abandoned.
 class QUORINIFILE_EXPORT IniReplacement {
 public:
-    static constexpr std::chrono::milliseconds usualPatience{10'000};
-
-    /// Waits up to `patience` for its turn, then raises 70 with the process that has the file in use. A
+    /// Waits up to ten seconds for its turn, then raises 70 with the process that has the file in use. A
     /// folder that does not exist is 76, one that cannot be written 70.
-    explicit IniReplacement(std::wstring_view fileName, IniFileSystem& files = IniFileSystem::System(),
-                            std::chrono::milliseconds patience = usualPatience);
+    explicit IniReplacement(std::wstring_view fileName, IniFileSystem& files = IniFileSystem::System());
     IniReplacement(const IniReplacement&) = delete;
     IniReplacement& operator=(const IniReplacement&) = delete;
     /// Without Commit the file is as it was, and nothing is left beside it.

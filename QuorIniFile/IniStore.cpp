@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <chrono>
 #include <cmath>
 #include <cstddef>
 #include <optional>
@@ -104,7 +103,7 @@ public:
     }
 
     /// Nothing of the object changes unless all has gone well.
-    void Save(std::chrono::milliseconds patience = IniReplacement::usualPatience) {
+    void Save() {
         if (!m_document || !m_document->Written())
             return;
         if (!m_document->Changed() && !FileChanged()) {
@@ -113,15 +112,18 @@ public:
         }
         m_hasFailed = true;
         constexpr int mostTries = 20;
-        for (int tries = 0; !TrySave(patience); ++tries) {
+        for (int tries = 0; !TrySave(); ++tries) {
             if (tries == mostTries)
                 throw FileError(ERR_PERMISSION_DENIED, m_fileName, L"Another program keeps writing it");
         }
         m_hasFailed = false;
     }
 
-    /// A save that has failed is tried once more, without waiting for others: that was done then.
-    void SaveAtEnd() { Save(m_hasFailed ? std::chrono::milliseconds(0) : IniReplacement::usualPatience); }
+    /// What a save has failed for was reported; it is not saved behind the user's back.
+    void SaveAtEnd() {
+        if (!m_hasFailed)
+            Save();
+    }
 
     bool FileChanged() {
         if (!m_document)
@@ -183,8 +185,8 @@ private:
     }
 
     /// Writes the changes into the file as it is now. False when it was changed while that was done.
-    bool TrySave(std::chrono::milliseconds patience) {
-        IniReplacement replacement(m_fileName, m_files, patience);
+    bool TrySave() {
+        IniReplacement replacement(m_fileName, m_files);
         std::optional<IniDocument> theirs; // what somebody else has made of the file, and our changes to it
         if (!replacement.Has(m_document->BaseText())) {
             theirs = Document(replacement.Bytes());
@@ -227,6 +229,7 @@ private:
                 m_number = m_document->AddSection(SpellNew(L"section", m_section, IsSectionName));
         }
         m_document->Write(*m_number, *name, spelling, value);
+        m_hasFailed = false;
         if (m_holds == 0)
             Save();
     }
@@ -256,7 +259,7 @@ private:
     IniStamp m_stamp;                              // of the file that the document was read from
     bool m_isSettled = false;                      // the stamp was, when it was taken
     std::optional<IniDocument::Section> m_number;  // of the selected section, once it was found
-    bool m_hasFailed = false;                      // the last save
+    bool m_hasFailed = false;                      // a save of all that is written
     std::size_t m_holds = 0;
 };
 

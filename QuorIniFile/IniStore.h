@@ -37,7 +37,8 @@ public:
     explicit IniStore(IniFileSystem& files = IniFileSystem::System());
     IniStore(const IniStore&) = delete;
     IniStore& operator=(const IniStore&) = delete;
-    /// Saves what is still held; failures are swallowed, so a caller that must know calls Release.
+    /// Saves what is still held; failures are swallowed, so a caller that must know calls Release. What a
+    /// save has raised for is not tried again.
     ~IniStore() override;
 
     /// Remembers the name; the file is not touched. An empty name, or one that no file can have, is error 52.
