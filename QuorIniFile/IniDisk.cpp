@@ -297,6 +297,7 @@ public:
         : m_fileName(fileName),
           m_files(files),
           m_path(FollowLinks(fs::path(ToUtf8(fileName)), {files, fileName})),
+          m_folder(FolderOf(m_path)),
           m_temporaryPath(TemporaryPathFor(m_path)) {}
     Work(const Work&) = delete;
     Work& operator=(const Work&) = delete;
@@ -324,7 +325,7 @@ public:
         if (!m_old)
             return;
         Require([&] { return m_files.Sync(m_old->file.Get()); });
-        Require([&] { return m_files.SyncFolder(FolderOf(m_path)); });
+        Require([&] { return m_files.SyncFolder(m_folder); });
     }
 
     std::optional<IniStamp> Commit(std::string_view bytes) {
@@ -339,7 +340,7 @@ public:
             return std::nullopt;
         Require([&] { return m_files.Rename(m_temporaryPath, m_path.string()); });
         m_isOurs = false;
-        Require([&] { return m_files.SyncFolder(FolderOf(m_path)); });
+        Require([&] { return m_files.SyncFolder(m_folder); });
         return StampFrom(StatusOf(m_temporary, Here(), Deed::Write));
     }
 
@@ -464,6 +465,7 @@ private:
     std::wstring m_fileName;
     IniFileSystem& m_files;
     fs::path m_path; // at the end of all links
+    std::string m_folder;
     std::string m_temporaryPath;
     OpenFile m_temporary;
     bool m_isOurs = false;            // the temporary file: it was made, locked, and has still its name

@@ -37,6 +37,7 @@ constexpr const char* firstText = "[A]\nx=2\n";
 class FaultyRun {
 public:
     explicit FaultyRun(bool exists) : m_exists(exists) {
+        files.flushes = false;
         if (exists)
             folder.Write("a.ini", oldText);
         store.SetFileName(folder.Name("a.ini"));

@@ -1,0 +1,259 @@
+// A lack of memory at each allocation in turn. A program of its own, because it replaces the operators new of
+// all that is in it. That nothing leaks is seen by the sanitizer at its end.
+
+#include "QuorIniFile/IniStore.h"
+
+#include "QuorIniFile/QuorError.h"
+#include "tests/support/InterceptedFiles.h"
+#include "tests/support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstdlib>
+#include <functional>
+#include <limits>
+#include <memory>
+#include <new>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr std::size_t never = std::numeric_limits<std::size_t>::max();
+
+std::size_t allocationsLeft = never; // until one fails
+bool allFollowingFail = false;
+bool hasFailed = false;
+bool hasThrown = false; // some ask without an exception, and can do without the memory
+
+void* Allocate(std::size_t size) {
+    if (allocationsLeft != never && allocationsLeft-- == 0) {
+        hasFailed = true;
+        allocationsLeft = allFollowingFail ? 0 : never;
+        return nullptr;
+    }
+    return std::malloc(size == 0 ? 1 : size);
+}
+
+void* AllocateOrThrow(std::size_t size) {
+    if (void* const memory = Allocate(size))
+        return memory;
+    hasThrown = true;
+    throw std::bad_alloc();
+}
+
+} // namespace
+
+void* operator new(std::size_t size) { return AllocateOrThrow(size); }
+void* operator new[](std::size_t size) { return AllocateOrThrow(size); }
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept { return Allocate(size); }
+void* operator new[](std::size_t size, const std::nothrow_t& /*tag*/) noexcept { return Allocate(size); }
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete[](void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t /*size*/) noexcept { std::free(memory); }
+void operator delete[](void* memory, std::size_t /*size*/) noexcept { std::free(memory); }
+void operator delete(void* memory, const std::nothrow_t& /*tag*/) noexcept { std::free(memory); }
+void operator delete[](void* memory, const std::nothrow_t& /*tag*/) noexcept { std::free(memory); }
+
+using namespace QuorIniFile;
+using Names = std::vector<std::string>;
+
+namespace {
+
+constexpr const char* text = "; mine, \xE4\r\n[A]\r\nx=1\r\nname=\xB0\r\n\r\n[B]\r\ny=1\r\n";
+
+/// A store that has loaded "a.ini", with section "A" selected.
+struct Scene {
+    explicit Scene(const std::string& file) {
+        files.flushes = false;
+        folder.Write("a.ini", file);
+        store->SetFileName(folder.Name("a.ini"));
+        store->SetSection(L"A");
+    }
+    [[nodiscard]] std::string File() const { return folder.Read("a.ini"); }
+    [[nodiscard]] std::int16_t Read(const wchar_t* key) const {
+        std::int16_t value = -1;
+        EXPECT_TRUE(store->ReadInteger(key, value));
+        return value;
+    }
+
+    TempFolder folder;
+    Support::InterceptedFiles files;
+    std::unique_ptr<IniStore> store = std::make_unique<IniStore>(files);
+};
+
+/// Does `action` with each of its allocations failing in turn, alone and with all that follow: it raises
+/// std::bad_alloc, and the file is as `before` says; done again, it goes well.
+void FailEach(const std::function<void(Scene&)>& prepare, const std::function<void(Scene&)>& action,
+              const std::function<void(Scene&)>& before, const std::function<void(Scene&)>& after,
+              std::size_t atLeast) {
+    for (const bool lasting : {false, true}) {
+        std::size_t failures = 0;
+        for (bool failed = true; failed;) {
+            Scene scene(text);
+            prepare(scene);
+            hasFailed = hasThrown = false;
+            allFollowingFail = lasting;
+            allocationsLeft = failures;
+            bool raised = false;
+            try {
+                action(scene);
+            } catch (const std::bad_alloc&) {
+                raised = true;
+            }
+            allocationsLeft = never;
+            failed = hasFailed;
+            ASSERT_EQ(raised, hasThrown) << "allocation " << failures;
+            failures += failed ? 1 : 0;
+            if (raised) {
+                before(scene);
+                EXPECT_EQ(scene.folder.Files(), Names{"a.ini"});
+                action(scene);
+            }
+            after(scene);
+            EXPECT_EQ(scene.folder.Files(), Names{"a.ini"});
+        }
+        EXPECT_GE(failures, atLeast);
+    }
+}
+
+void Nothing(Scene& /*scene*/) {}
+
+void FileIsAsBefore(Scene& scene) { EXPECT_EQ(scene.File(), text); }
+
+std::string With(const std::string& line, const std::string& other) {
+    std::string result = text;
+    return result.replace(result.find(line), line.size(), other);
+}
+
+} // namespace
+
+TEST(IniStoreMemory, LoadingFailsClearlyAndLoadsTheNextTime) {
+    FailEach(
+        Nothing,
+        [](Scene& scene) {
+            std::int16_t value = 0;
+            EXPECT_TRUE(scene.store->ReadInteger(L"x", value));
+            EXPECT_EQ(value, 1);
+        },
+        FileIsAsBefore, FileIsAsBefore, 4);
+}
+
+TEST(IniStoreMemory, SavingFailsClearlyAndSavesTheNextTime) {
+    FailEach([](Scene& scene) { EXPECT_EQ(scene.Read(L"x"), 1); },
+             [](Scene& scene) { scene.store->WriteInteger(L"x", 2, L"a comment"); },
+             [](Scene& scene) {
+                 FileIsAsBefore(scene);
+                 const std::int16_t value = scene.Read(L"x");
+                 EXPECT_TRUE(value == 1 || value == 2) << "as read, or as written and still to be saved";
+             },
+             [](Scene& scene) { EXPECT_EQ(scene.File(), With("x=1", "x=2 ; a comment")); }, 15);
+}
+
+TEST(IniStoreMemory, TextThatIsSpelledAndAddedSectionsFailClearly) {
+    FailEach(
+        Nothing,
+        [](Scene& scene) {
+            scene.store->SetSection(L"A");
+            scene.store->WriteString(L"name", L" \u2126, a text that is longer than a short one");
+            scene.store->SetSection(L"A section of its own \u00D6");
+            scene.store->WriteString(L"K\u00F6ln, which is not a short key", L"\u00B0");
+        },
+        Nothing,
+        [](Scene& scene) {
+            EXPECT_EQ(scene.File(),
+                      With("\xB0", "\" \\u{2126}, a text that is longer than a short one\"") +
+                          "\r\n[A section of its own \xD6]\r\nK\xF6ln, which is not a short key=\xB0\r\n");
+        },
+        40);
+}
+
+TEST(IniStoreMemory, ARecordOfManyKeysIsKeptWholeUntilThereIsMemoryToSaveIt) {
+    FailEach(
+        [](Scene& scene) {
+            scene.store->Hold();
+            for (std::int16_t i = 0; i < 40; ++i)
+                scene.store->WriteInteger(L"Coefficients" + std::to_wstring(i), i, L"");
+            scene.store->Hold();
+        },
+        [](Scene& scene) {
+            scene.store->Release();
+            scene.store->Release();
+        },
+        [](Scene& scene) {
+            FileIsAsBefore(scene);
+            for (std::int16_t i = 0; i < 40; ++i)
+                EXPECT_EQ(scene.Read((L"Coefficients" + std::to_wstring(i)).c_str()), i);
+            scene.store->Hold(); // the Release that has failed is done again
+            scene.store->Hold();
+        },
+        [](Scene& scene) {
+            std::string keys = "x=1\r\nname=\xB0\r\n";
+            for (int i = 0; i < 40; ++i)
+                keys += "Coefficients" + std::to_string(i) + "=" + std::to_string(i) + "\r\n";
+            EXPECT_EQ(scene.File(), With("x=1\r\nname=\xB0\r\n", keys));
+        },
+        15);
+}
+
+TEST(IniStoreMemory, TheKeysOfAnotherProgramAreSafeToo) {
+    const std::string theirs = With("x=1", "z=9\r\nx=1");
+    FailEach(
+        [&](Scene& scene) {
+            scene.store->Hold();
+            scene.store->WriteInteger(L"x", 2, L"");
+            scene.folder.Write("a.ini", theirs);
+            scene.store->Hold();
+        },
+        [](Scene& scene) {
+            scene.store->Release();
+            scene.store->Release();
+        },
+        [&](Scene& scene) {
+            EXPECT_EQ(scene.File(), theirs);
+            scene.store->Hold();
+            scene.store->Hold();
+        },
+        [](Scene& scene) { EXPECT_EQ(scene.File(), With("x=1", "z=9\r\nx=2")); }, 20);
+}
+
+TEST(IniStoreMemory, LoadingAnewFailsClearlyAndKeepsWhatIsNotSaved) {
+    const std::string theirs = With("x=1", "z=9\r\nx=1");
+    FailEach(
+        [&](Scene& scene) {
+            scene.store->Hold();
+            scene.store->WriteInteger(L"x", 2, L"");
+            scene.folder.Write("a.ini", theirs);
+        },
+        [](Scene& scene) {
+            EXPECT_TRUE(scene.store->FileChanged());
+            scene.store->Reload();
+        },
+        [](Scene& scene) {
+            EXPECT_EQ(scene.Read(L"x"), 2);
+            std::int16_t value = 0;
+            EXPECT_FALSE(scene.store->ReadInteger(L"z", value)) << "the text that was loaded first";
+        },
+        [](Scene& scene) {
+            EXPECT_EQ(scene.Read(L"x"), 2);
+            EXPECT_EQ(scene.Read(L"z"), 9);
+            scene.store->Release();
+            EXPECT_EQ(scene.File(), With("x=1", "z=9\r\nx=2"));
+        },
+        5);
+}
+
+TEST(IniStoreMemory, AStoreThatEndsWithoutMemoryEndsQuietly) {
+    for (std::size_t left = 0; left < 60; ++left) {
+        Scene scene(text);
+        scene.store->Hold();
+        scene.store->WriteInteger(L"x", 2, L"");
+        allFollowingFail = true;
+        allocationsLeft = left;
+        scene.store.reset();
+        allocationsLeft = never;
+        EXPECT_TRUE(scene.File() == text || scene.File() == With("x=1", "x=2"));
+        EXPECT_EQ(scene.folder.Files(), Names{"a.ini"});
+    }
+}
