@@ -1,5 +1,7 @@
 #include "QuorIniFile/IniDocument.h"
 
+#include "QuorIniFile/IniValue.h"
+
 #include <algorithm>
 #include <new>
 #include <tuple>
@@ -300,20 +302,28 @@ std::string IniDocument::Text() const {
 }
 
 void IniDocument::ApplyChangesTo(IniDocument& other) const {
+    // What was spelled for this text is spelled anew for one of another encoding.
+    const auto nameFor = [&other](std::string_view name) {
+        return IsAscii(name) ? std::string(name)
+                             : NameToWrite(DecodeBytes(name), other.Encoding()).value_or(std::string(name));
+    };
+    const auto textFor = [&other](std::string_view text) {
+        return IsAscii(text) ? std::string(text) : EncodeText(DecodeText(text), other.Encoding());
+    };
     for (const Change& change : m_changes) {
         std::string buffer;
         const std::string_view name = CanonicalName(Name(change.section), buffer);
         std::optional<Section> section = other.FindSection(name);
         if (!section)
-            section = other.AddSection(Name(change.section));
+            section = other.AddSection(nameFor(Name(change.section)));
 
         const IniLine line = ClassifyLine(change.text);
         const IniCommentedValue parts = SplitComment(line.value);
-        IniNewValue value{std::string(change.isText ? line.value : parts.plain), change.isText, {}};
+        IniNewValue value{change.isText ? textFor(line.value) : std::string(parts.plain), change.isText, {}};
         if (change.hasComment)
             value.comment = parts.comment;
         std::string keyBuffer;
-        other.Write(*section, CanonicalName(line.name, keyBuffer), line.name, value);
+        other.Write(*section, CanonicalName(line.name, keyBuffer), nameFor(line.name), value);
     }
 }
 

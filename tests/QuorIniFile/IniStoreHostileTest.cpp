@@ -66,8 +66,10 @@ TEST_F(IniStoreHostile, FilesWithoutASectionHaveNoKeys) {
 }
 
 TEST_F(IniStoreHostile, Utf16IsRefusedForReadingAndWritingAndStays) {
-    for (const std::string& text : {"\xFF\xFE[\0A\0]\0\n\0"s, "\xFE\xFF\0[\0A\0]\0\n"s, "[\0A\0]\0\n\0"s,
-                                    "\0[\0A\0]\0\n"s, "\xFF\xFE"s}) {
+    for (const std::string& text :
+         {"\xFF\xFE[\0A\0]\0\n\0"s, "\xFE\xFF\0[\0A\0]\0\n"s, "[\0A\0]\0\n\0"s, "\0[\0A\0]\0\n"s, "\xFF\xFE"s,
+          // cut off in the middle of a character
+          "\xFF\xFE[\0A\0]"s, "\xFE\xFF\0[\0A\0]\0"s, "[\0A\0]"s, "\0[\0"s, "\xFF\xFE["s, "\xFE\xFF\0"s}) {
         const TempFolder own;
         own.Write("a.ini", text);
         IniStore fresh;

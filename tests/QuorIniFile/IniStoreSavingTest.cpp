@@ -230,6 +230,33 @@ TEST_F(IniStoreSaving, AFileThatHasBecomeUtf16IsLeftAlone) {
     EXPECT_EQ(File(), "[A]\nx=2\ny=3\n") << "the changes were kept";
 }
 
+TEST_F(IniStoreSaving, WhatIsHeldIsSpelledInTheEncodingThatTheFileHasWhenItIsSaved) {
+    const std::string latin1 = "; K\xF6ln\n[A]\nx=\xB0\n";
+    const std::string utf8 = "; K\xC3\xB6ln\n[A]\nx=\xC2\xB0\n";
+    const auto write = [this] {
+        store->Hold();
+        store->WriteString(L"x", L"20 \u00B0C");
+        store->WriteString(L"\u00D6l", L"\u2126");
+        store->SetSection(L"K\u00FChlung");
+        store->WriteString(L"y", L"1");
+        store->SetSection(L"A");
+    };
+    File(utf8);
+    write();
+    File(latin1);
+    store->Release();
+    EXPECT_EQ(File(), "; K\xF6ln\n[A]\nx=20 \xB0"
+                      "C\n\xD6l=\"\\u{2126}\"\n\n[K\xFChlung]\ny=1\n");
+
+    File(latin1);
+    store->Reload();
+    write();
+    File(utf8);
+    store->Release();
+    EXPECT_EQ(File(), "; K\xC3\xB6ln\n[A]\nx=20 \xC2\xB0"
+                      "C\n\xC3\x96l=\"\\u{2126}\"\n\n[K\xC3\xBChlung]\ny=1\n");
+}
+
 TEST_F(IniStoreSaving, AfterAnotherProgramHasWrittenTheSameNothingIsSaved) {
     File("[A]\nx=1\n");
     store->Hold();

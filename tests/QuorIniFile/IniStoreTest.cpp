@@ -185,3 +185,26 @@ TEST_F(IniStoreTest, AnyOtherNameComesBackInAnySpelling) {
     EXPECT_TRUE(other.ReadInteger(L"", number));
     EXPECT_EQ(number, 4);
 }
+
+TEST_F(IniStoreTest, NamesAndValuesOfEveryLengthComeBack) {
+    for (const std::size_t length :
+         {0U, 1U, 15U, 16U, 255U, 256U, 4095U, 4096U, 65535U, 65537U, 300'000U}) {
+        const TempFolder own;
+        const std::wstring section = L"s" + std::wstring(length, L's');
+        const std::wstring key(length, L'k');
+        const std::wstring value(length, L'\u2126');
+        for (const wchar_t* behind : {L"", L"\u00F6"}) { // the second time the section stands in the file
+            IniStore writer;
+            writer.SetFileName(own.Name("a.ini"));
+            writer.SetSection(section);
+            writer.WriteString(key, value);
+            writer.WriteString(L"last", value + behind + L' '); // in quotes, for its blank
+            IniStore reader;
+            reader.SetFileName(own.Name("a.ini"));
+            reader.SetSection(section);
+            std::wstring text;
+            EXPECT_TRUE(reader.ReadString(key, text) && text == value) << length;
+            EXPECT_TRUE(reader.ReadString(L"last", text) && text == value + behind + L' ') << length;
+        }
+    }
+}
