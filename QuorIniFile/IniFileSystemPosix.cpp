@@ -3,11 +3,11 @@
 #include "QuorIniFile/IniFileSystem.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
-#include <charconv>
 #include <fstream>
 #include <initializer_list>
+#include <iomanip>
+#include <locale>
 #include <optional>
 #include <sstream>
 #include <system_error>
@@ -118,21 +118,10 @@ int CopyExtendedAttributes(int from, int to, bool sameGroup) {
 /// The process that holds the lock on a file, from the kernel's list of locks, a line each:
 /// "1: FLOCK  ADVISORY  WRITE 1234 fe:00:10985491 0 EOF".
 std::optional<std::string> LockingProcess(const struct stat& status) {
-    std::array<char, 64> wanted{};
-    char* end = wanted.data() + wanted.size();
-    const auto append = [end](char* at, std::uint64_t number, int base, std::ptrdiff_t digits) {
-        const auto result = std::to_chars(at, end, number, base);
-        const std::ptrdiff_t missing = std::max<std::ptrdiff_t>(0, digits - (result.ptr - at));
-        std::move_backward(at, result.ptr, result.ptr + missing);
-        std::fill_n(at, missing, '0');
-        return result.ptr + missing;
-    };
-    char* at = append(wanted.data(), ::major(status.st_dev), 16, 2);
-    *at++ = ':';
-    at = append(at, ::minor(status.st_dev), 16, 2);
-    *at++ = ':';
-    at = append(at, status.st_ino, 10, 1);
-    const std::string_view file(wanted.data(), static_cast<std::size_t>(at - wanted.data()));
+    std::ostringstream file;
+    file.imbue(std::locale::classic());
+    file << std::hex << std::setfill('0') << std::setw(2) << ::major(status.st_dev) << ':' << std::setw(2)
+         << ::minor(status.st_dev) << ':' << std::dec << status.st_ino;
 
     std::ifstream locks("/proc/locks");
     for (std::string line; std::getline(locks, line);) {
@@ -143,7 +132,7 @@ std::optional<std::string> LockingProcess(const struct stat& status) {
         std::string access;
         std::string process;
         std::string place;
-        if (words >> number >> kind >> strictness >> access >> process >> place && place == file)
+        if (words >> number >> kind >> strictness >> access >> process >> place && place == file.str())
             return process;
     }
     return std::nullopt;

@@ -3,22 +3,24 @@
 #include "QuorIniFile/IniStore.h"
 
 #include "QuorIniFile/QuorError.h"
+#include "tests/support/InterceptedFiles.h"
 #include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <chrono>
+#include <algorithm>
+#include <ctime>
+#include <functional>
+#include <limits>
 #include <random>
 #include <string>
 #include <string_view>
+#include <utility>
 
 using namespace QuorIniFile;
 using namespace std::string_literals;
 
 namespace {
-
-/// Generous even for a sanitizer on a busy machine; anything quadratic takes hours.
-constexpr auto patience = std::chrono::seconds(60);
 
 std::string Many(int count, std::string_view part) {
     std::string text;
@@ -27,8 +29,35 @@ std::string Many(int count, std::string_view part) {
     return text;
 }
 
+/// The processor time of opening a file, reading a key, changing one and saving, in seconds: the shortest of
+/// a few rounds, so that the work of other programs does not count.
+double TimeOf(const std::string& text) {
+    Support::InterceptedFiles files;
+    files.flushes = false;
+    double best = std::numeric_limits<double>::infinity();
+    for (int round = 0; round < 3; ++round) {
+        const TempFolder folder;
+        folder.Write("a.ini", text);
+        const std::clock_t start = std::clock();
+        IniStore store(files);
+        store.SetFileName(folder.Name("a.ini"));
+        store.SetSection(L"A");
+        std::int16_t value = 0;
+        static_cast<void>(store.ReadInteger(L"x", value));
+        store.WriteInteger(L"y", 12345, L"");
+        best = std::min(best, static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
+    }
+    return best;
+}
+
+/// Four times the text may take four times as long and some more, but not its square, sixteen times.
+void ExpectLinear(const std::function<std::string(int)>& text, int count) {
+    EXPECT_LT(TimeOf(text(4 * count)), 10 * TimeOf(text(count)));
+}
+
 class IniStoreHostile : public testing::Test {
 protected:
+    IniStoreHostile() { files.flushes = false; }
     void Open(const std::string& bytes) {
         folder.Write("a.ini", bytes);
         store.SetFileName(folder.Name("a.ini"));
@@ -45,7 +74,8 @@ protected:
     [[nodiscard]] std::string File() const { return folder.Read("a.ini"); }
 
     TempFolder folder;
-    IniStore store;
+    Support::InterceptedFiles files;
+    IniStore store{files};
 };
 
 } // namespace
@@ -133,17 +163,14 @@ TEST_F(IniStoreHostile, ALineOfTenMegabytesIsALine) {
     EXPECT_EQ(Text(L"A", L"y"), L"1");
 }
 
-TEST_F(IniStoreHostile, LongBlanksBracketsAndNamesCostNoMoreThanTheirLength) {
-    const auto start = std::chrono::steady_clock::now();
+TEST_F(IniStoreHostile, LongBlanksAreNoPartOfNamesAndValues) {
     const std::string blanks = Many(1'000'000, " ");
-    const std::string text = blanks + "[A]" + blanks + ";" + blanks + "\n" + blanks + "x" + blanks + "=1\n";
-    Open(text + Many(100'000, "x=2\n") + Many(100'000, "[a]\n") + "[" + Many(500'000, "] ") + "x");
+    Open(blanks + "[A]" + blanks + ";" + blanks + "\n" + blanks + "x" + blanks + "=" + blanks + "1" + blanks +
+         "\n");
     EXPECT_EQ(Text(L"A", L"x"), L"1");
-    EXPECT_LT(std::chrono::steady_clock::now() - start, patience);
 }
 
-TEST_F(IniStoreHostile, AMillionSectionsOfOneNameAreLoadedInOnePass) {
-    const auto start = std::chrono::steady_clock::now();
+TEST_F(IniStoreHostile, OfAMillionSectionsOfOneNameTheFirstCounts) {
     std::string text;
     for (int i = 0; i < 1'000'000; ++i)
         text += "[A]\nx=" + std::to_string(i) + "\n";
@@ -151,7 +178,46 @@ TEST_F(IniStoreHostile, AMillionSectionsOfOneNameAreLoadedInOnePass) {
     EXPECT_EQ(Text(L"A", L"x"), L"0");
     store.WriteInteger(L"y", 1, L"");
     EXPECT_TRUE(File() == "[A]\nx=0\ny=1\n" + text.substr(8));
-    EXPECT_LT(std::chrono::steady_clock::now() - start, patience);
+}
+
+TEST_F(IniStoreHostile, ManyOfAnythingTakeTimeInProportion) {
+    using Text = std::function<std::string(int)>;
+    const auto numbered = [](const char* before, const char* behind) {
+        return [=](int count) {
+            std::string text = "[A]\n";
+            for (int i = 0; i < count; ++i)
+                text += before + std::to_string(i) + behind;
+            return text;
+        };
+    };
+    const auto repeated = [](const std::string& before, const std::string& part, int each) {
+        return [=](int count) { return before + Many(count * each, part) + "\n"; };
+    };
+    const std::pair<const char*, Text> cases[] = {
+        {"sections", numbered("[", "]\n")},
+        {"keys", numbered("K", "=1\n")},
+        {"sections of one name", repeated("", "[A]\n", 4)},
+        {"keys of one name", repeated("[A]\n", "x=1\n", 4)},
+        {"keys of one long name",
+         [](int count) { return "[A]\n" + Many(count / 50, Many(300, "x") + "=1\n"); }},
+        {"headers without a bracket", repeated("", "[A\n", 4)},
+        {"brackets", repeated("[A]\n", "[", 40)},
+        {"brackets that close", repeated("[", "]", 10)},
+        {"brackets, blanks and semicolons", repeated("[", "] ;", 4)},
+        {"semicolons", repeated("[A]\nx=", ";", 20)},
+        {"quotes", repeated("[A]\nx=\"", "\"\\", 20)},
+        {"blank lines", repeated("[A]\n", "\n", 20)},
+        {"blanks", repeated("[A]\n", " ", 40)},
+        {"blanks and brackets", repeated("", "    [\n", 4)},
+        {"carriage returns", repeated("[A]\nx=1", "\r", 40)},
+        {"Latin-1", repeated("[A]\nx=", "\xB0", 40)},
+        {"UTF-8", repeated("[A]\nx=", "\xC2\xB0", 20)},
+        {"NUL", repeated("[A]\nx=", "\0"s, 40)},
+    };
+    for (const auto& [name, text] : cases) {
+        SCOPED_TRACE(name);
+        ExpectLinear(text, 10'000);
+    }
 }
 
 TEST_F(IniStoreHostile, AHundredThousandKeysOfOneNameHideAllButTheFirst) {
@@ -163,8 +229,7 @@ TEST_F(IniStoreHostile, AHundredThousandKeysOfOneNameHideAllButTheFirst) {
     EXPECT_EQ(Text(L"A", L"y"), L"last");
 }
 
-TEST_F(IniStoreHostile, AMillionKeysOfOneSectionAreReadAndWrittenEachInConstantTime) {
-    const auto start = std::chrono::steady_clock::now();
+TEST_F(IniStoreHostile, AMillionKeysOfOneSectionAreReadAndWritten) {
     std::string text = "[A]\n";
     std::string expected = text;
     for (int i = 0; i < 1'000'000; ++i) {
@@ -184,7 +249,6 @@ TEST_F(IniStoreHostile, AMillionKeysOfOneSectionAreReadAndWrittenEachInConstantT
     }
     store.Release();
     EXPECT_TRUE(File() == expected);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, patience);
 }
 
 TEST_F(IniStoreHostile, NoiseIsNeverMoreThanNoise) {
