@@ -1,0 +1,30 @@
+# Checks that every test which a document names in backquotes, `Suite.Test`, is a test of the sources.
+# Run as: cmake -D DOCUMENT=<file> -D TESTS=<folder> -P CheckPromises.cmake
+
+file(READ ${DOCUMENT} document)
+string(REGEX MATCHALL "`[A-Za-z0-9]+\\.[A-Z][A-Za-z0-9]+`" names "${document}")
+list(REMOVE_DUPLICATES names)
+
+set(tests "")
+file(GLOB_RECURSE sources ${TESTS}/*Test.cpp)
+foreach(source IN LISTS sources)
+    file(READ ${source} text)
+    string(REGEX MATCHALL "TEST(_F|_P)?\\([A-Za-z0-9]+,[ \n]+[A-Za-z0-9]+\\)" found "${text}")
+    foreach(test IN LISTS found)
+        string(REGEX REPLACE "^TEST(_F|_P)?\\(([A-Za-z0-9]+),[ \n]+([A-Za-z0-9]+)\\)$" "\\2.\\3" test "${test}")
+        list(APPEND tests "`${test}`")
+    endforeach()
+endforeach()
+
+set(missing ${names})
+list(REMOVE_ITEM missing ${tests})
+if(missing)
+    list(JOIN missing "\n" missing)
+    message(NOTICE "named, but no test:\n${missing}")
+    message(FATAL_ERROR "${DOCUMENT} names tests that do not exist.")
+endif()
+list(LENGTH names count)
+if(count EQUAL 0)
+    message(FATAL_ERROR "${DOCUMENT} names no test")
+endif()
+message(STATUS "${count} tests are named and exist")
