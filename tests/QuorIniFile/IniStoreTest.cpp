@@ -187,8 +187,7 @@ TEST_F(IniStoreTest, AnyOtherNameComesBackInAnySpelling) {
 }
 
 TEST_F(IniStoreTest, NamesAndValuesOfEveryLengthComeBack) {
-    for (const std::size_t length :
-         {0U, 1U, 15U, 16U, 255U, 256U, 4095U, 4096U, 65535U, 65537U, 300'000U}) {
+    for (const std::size_t length : {0U, 1U, 15U, 16U, 255U, 256U, 4095U, 4096U, 65535U, 65537U, 300'000U}) {
         const TempFolder own;
         const std::wstring section = L"s" + std::wstring(length, L's');
         const std::wstring key(length, L'k');
