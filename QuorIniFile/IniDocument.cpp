@@ -1,6 +1,7 @@
 #include "QuorIniFile/IniDocument.h"
 
 #include "QuorIniFile/IniValue.h"
+#include "QuorIniFile/Utf8.h"
 
 #include <algorithm>
 #include <new>
@@ -9,19 +10,6 @@
 
 namespace QuorIniFile {
 namespace {
-
-constexpr std::size_t npos = std::string::npos;
-constexpr std::size_t largeSection = 4096; // bytes from which on an index beats looking through
-
-std::uint64_t HashOf(std::string_view nameInFile) {
-    std::string buffer;
-    return HashName(CanonicalName(nameInFile, buffer));
-}
-
-/// One key may be changed in many sections: the odd factor keeps these apart.
-std::uint64_t HashOf(IniDocument::Section section, std::string_view key) {
-    return HashName(key) ^ (section * 0x9E3779B97F4A7C15U);
-}
 
 // The end of a text that is being put together. `start` is the length of its byte-order mark.
 
@@ -34,7 +22,8 @@ std::string_view LineEndOf(std::string_view text) {
 void AppendLine(std::string& text, std::size_t start, std::string_view line) {
     const std::string_view end = LineEndOf(text);
     if (text.size() > start && text.back() != '\n')
-        text.append(end).append(line);
+        // A last CR belongs to the value before it: LF alone would make both a line end.
+        text.append(text.back() == '\r' ? "\r\n" : end).append(line);
     else
         text.append(line).append(end);
 }
@@ -53,38 +42,15 @@ void AppendHeader(std::string& text, std::size_t start, std::string_view name) {
     AppendLine(text, start, header);
 }
 
+bool CanHaveName(std::string_view text, const IniHeader& header, std::string_view name) {
+    std::string line(CutLine(text, header.start).line);
+    line.replace(1, header.name->size(), name);
+    return ClassifyLine(line).name == name;
+}
+
 } // namespace
 
-IniDocument::IniDocument(std::string text) : m_text(std::move(text)) { IndexSections(); }
-
-void IniDocument::IndexSections() {
-    // Headers are rare: looking for their bracket is quicker than looking at every line.
-    const std::size_t start = MarkLength(m_text);
-    for (std::size_t at = start; (at = m_text.find('[', at)) != npos;) {
-        const std::size_t line = LineStart(at);
-        if (line != start && m_text[line - 1] != '\n') {
-            ++at;
-            continue;
-        }
-        const IniCut cut = CutLine(m_text, at);
-        const IniLine header = ClassifyLine(cut.line);
-        const auto number = static_cast<Section>(m_sections.size());
-        if (number == nameless)
-            throw std::bad_alloc();
-        SectionSpan span{at + 1, cut.next, nameless};
-        if (header.kind == IniLineKind::Section && header.name.size() < nameless)
-            span.nameLength = static_cast<std::uint32_t>(header.name.size());
-        m_sections.push_back(span);
-        if (span.nameLength != nameless) {
-            std::string buffer;
-            const std::string_view name = CanonicalName(header.name, buffer);
-            const std::uint64_t hash = HashName(name);
-            if (!m_sectionNames.Find(hash, [&](Section other) { return SameName(Name(other), name); }))
-                m_sectionNames.Add(hash, number);
-        }
-        at = cut.next;
-    }
-}
+IniDocument::IniDocument(std::string text) : m_text(std::move(text)) {}
 
 IniEncoding IniDocument::Encoding() const {
     if (!m_encoding)
@@ -92,216 +58,305 @@ IniEncoding IniDocument::Encoding() const {
     return *m_encoding;
 }
 
+const IniDocument::Edit* IniDocument::EditOf(Section section) const {
+    if (m_edits.empty()) // as almost always
+        return nullptr;
+    const auto edit = m_edits.find(section);
+    return edit == m_edits.end() ? nullptr : &edit->second;
+}
+
 std::string_view IniDocument::Name(Section section) const {
     if (IsNew(section))
-        return m_newSections[section - m_sections.size()];
-    const SectionSpan& span = m_sections[section];
-    return std::string_view(m_text).substr(span.name, span.nameLength);
+        return m_newSections[section - m_firstNew];
+    const Edit* const edit = EditOf(section);
+    return edit ? std::string_view(edit->name) : m_sections.Name(m_text, section);
 }
 
-std::size_t IniDocument::BodyEnd(Section section) const {
-    // Blanks before the '[' of the next header do no harm: they look like a blank line.
-    return section + std::size_t{1} < m_sections.size() ? m_sections[section + 1].name - 1 : m_text.size();
+bool IniDocument::IsThere(Section section) const {
+    if (IsNew(section))
+        return m_changes.FirstOf(section) != IniChanges::none;
+    const Edit* const edit = EditOf(section);
+    return !edit || !edit->isRemoved;
 }
 
-bool IniDocument::IsLarge(Section section) const {
-    return BodyEnd(section) - m_sections[section].body > largeSection;
+bool IniDocument::IsCalled(Section section, std::string_view name) const {
+    return SameName(Name(section), name) && IsThere(section);
 }
 
-std::size_t IniDocument::LineStart(std::size_t at) const {
-    const std::size_t start = MarkLength(m_text);
-    while (at > start && (m_text[at - 1] == ' ' || m_text[at - 1] == '\t'))
-        --at;
-    return at;
+bool IniDocument::HasKeysInText(Section section) const {
+    if (IsNew(section))
+        return false;
+    const Edit* const edit = EditOf(section);
+    return !edit || !edit->isEmptied;
 }
 
 std::optional<IniDocument::Section> IniDocument::FindSection(std::string_view name) const {
-    return m_sectionNames.Find(HashName(name),
-                               [&](Section section) { return SameName(Name(section), name); });
+    if (m_newSections.empty() && m_edits.empty())
+        return m_sections.Find(m_text, name);
+    // What is new follows the whole text, which has been looked through then.
+    const auto isCalledSo = [&](Section section) { return IsCalled(section, name); };
+    if (const auto found = m_newNames.Find(HashName(name), isCalledSo))
+        return found;
+    const auto found = m_sections.Find(m_text, name);
+    return found && EditOf(*found) && !isCalledSo(*found) ? std::nullopt : found;
 }
 
 IniDocument::Section IniDocument::AddSection(std::string_view name) {
-    const std::size_t number = m_sections.size() + m_newSections.size();
-    if (number >= nameless)
+    std::string buffer;
+    const std::string_view canonical = CanonicalName(name, buffer);
+    const std::uint64_t hash = HashName(canonical);
+    const auto hadTheName = [&](Section section) { return SameName(Name(section), canonical); };
+    auto old = m_edits.empty() ? std::nullopt : m_sections.Find(m_text, canonical);
+    if (!old || !hadTheName(*old))
+        old = m_newNames.Find(hash, hadTheName);
+    if (old) {
+        if (const auto edit = m_edits.find(*old); edit != m_edits.end()) {
+            edit->second.isRemoved = false;
+            edit->second.isEmptied = true;
+        }
+        return *old;
+    }
+    const std::size_t first = m_sections.Count(m_text);
+    const std::size_t number = first + m_newSections.size();
+    if (number >= IniChanges::none)
         throw std::bad_alloc();
-    m_sectionNames.Reserve(number + 1);
-    m_newSections.emplace_back(name);
-    m_sectionNames.Add(HashOf(name), static_cast<Section>(number));
+    m_newSections.emplace_back(name); // should the next step fail, it never gets a key
+    m_firstNew = static_cast<Section>(first);
+    m_newNames.Add(hash, static_cast<Section>(number));
     return static_cast<Section>(number);
 }
 
-const IniDocument::KeyIndex& IniDocument::KeysOf(Section section) const {
-    const auto known = m_keyIndexes.find(section);
-    if (known != m_keyIndexes.end())
-        return known->second;
-
-    KeyIndex index;
-    const std::string_view body = std::string_view(m_text).substr(0, BodyEnd(section));
-    for (std::size_t at = m_sections[section].body; at < body.size();) {
-        const IniCut cut = CutLine(body, at);
-        const IniLine line = ClassifyLine(cut.line);
-        if (line.kind == IniLineKind::Key && line.name.size() < nameless)
-            index.keys.push_back({static_cast<std::size_t>(line.name.data() - m_text.data()),
-                                  static_cast<std::uint32_t>(line.name.size())});
-        at = cut.next;
+std::vector<std::string_view> IniDocument::SectionNames() const {
+    std::vector<std::string_view> names;
+    const std::size_t inText = m_sections.Count(m_text);
+    for (Section section = 0; section < inText + m_newSections.size(); ++section) {
+        if ((IsNew(section) || m_sections.CanBeFound(section)) && IsThere(section))
+            names.push_back(Name(section));
     }
-    if (index.keys.size() >= nameless)
-        throw std::bad_alloc();
-    index.names.Reserve(index.keys.size());
-    const auto name = [&](std::uint32_t key) {
-        return body.substr(index.keys[key].name, index.keys[key].nameLength);
-    };
-    for (std::uint32_t key = 0; key < index.keys.size(); ++key) {
-        std::string buffer;
-        const std::string_view canonical = CanonicalName(name(key), buffer);
-        const std::uint64_t hash = HashName(canonical);
-        if (!index.names.Find(hash, [&](std::uint32_t other) { return SameName(name(other), canonical); }))
-            index.names.Add(hash, key);
-    }
-    return m_keyIndexes.emplace(section, std::move(index)).first->second;
+    return names;
 }
 
-std::optional<std::uint32_t> IniDocument::FindChange(Section section, std::string_view key,
-                                                     std::uint64_t hash) const {
-    return m_changedKeys.Find(hash, [&](std::uint32_t number) {
-        const Change& change = m_changes[number];
-        return change.section == section && SameName(ClassifyLine(change.text).name, key);
-    });
+std::vector<IniHeader> IniDocument::HeadersOf(Section section) const {
+    std::string buffer;
+    const std::string_view name = CanonicalName(m_sections.Name(m_text, section), buffer);
+    std::vector<IniHeader> headers = AllHeaders(m_text);
+    headers.erase(std::remove_if(
+                      headers.begin(), headers.end(),
+                      [&](const IniHeader& header) { return !header.name || !SameName(*header.name, name); }),
+                  headers.end());
+    if (!HasKeysInText(section)) // the later ones have not come back
+        headers.resize(1);
+    return headers;
 }
 
-std::size_t IniDocument::FindLine(Section section, std::string_view key) const {
-    if (IsNew(section))
-        return npos;
-    const std::string_view body = std::string_view(m_text).substr(0, BodyEnd(section));
-    if (IsLarge(section)) {
-        const KeyIndex& index = KeysOf(section);
-        const auto found = index.names.Find(HashName(key), [&](std::uint32_t number) {
-            return SameName(body.substr(index.keys[number].name, index.keys[number].nameLength), key);
-        });
-        return found ? LineStart(index.keys[*found].name) : npos;
+IniDocument::Edit& IniDocument::Note(Section section, std::optional<std::string> to) {
+    std::string buffer;
+    m_moves.push_back({std::string(CanonicalName(Name(section), buffer)), std::move(to)});
+    try {
+        return m_edits.try_emplace(section, Edit{false, false, std::string(Name(section))}).first->second;
+    } catch (...) {
+        m_moves.pop_back();
+        throw;
     }
-    for (std::size_t at = m_sections[section].body; at < body.size();) {
-        const IniCut cut = CutLine(body, at);
-        const IniLine line = ClassifyLine(cut.line);
-        if (line.kind == IniLineKind::Key && SameName(line.name, key))
-            return at;
-        at = cut.next;
+}
+
+void IniDocument::RemoveSection(Section section) {
+    if (!IsNew(section)) {
+        Edit& edit = Note(section, std::nullopt);
+        edit.isRemoved = true;
+        edit.isEmptied = false;
     }
-    return npos;
+    for (std::uint32_t number = m_changes.FirstOf(section); number != IniChanges::none;
+         number = m_changes[number].next)
+        m_differing -= Differs(m_changes[number]) ? 1 : 0;
+    m_changes.Drop(section);
+}
+
+bool IniDocument::RenameSection(Section section, std::string_view name) {
+    std::string spelling(name);
+    std::string buffer;
+    const std::uint64_t hash = HashName(CanonicalName(name, buffer));
+    if (IsNew(section)) {
+        m_newNames.Add(hash, section);
+        m_newSections[section - m_firstNew] = std::move(spelling);
+        return true;
+    }
+    const std::vector<IniHeader> headers = HeadersOf(section);
+    if (!std::all_of(headers.begin(), headers.end(),
+                     [&](const IniHeader& header) { return CanHaveName(m_text, header, name); }))
+        return false;
+    m_newNames.Add(hash, section);
+    Edit& edit = Note(section, spelling);
+    edit.name = std::move(spelling);
+    if (!edit.isEmptied && std::all_of(headers.begin(), headers.end(),
+                                       [&](const IniHeader& header) { return header.name == name; }))
+        m_edits.erase(section);
+    return true;
+}
+
+const IniKeys& IniDocument::KeysOf(Section section) const {
+    if (m_keysOf == section)
+        return m_keys;
+    if (!m_longKeys.empty()) {
+        const auto known = m_longKeys.find(section);
+        if (known != m_longKeys.end())
+            return known->second;
+    }
+    m_keysOf.reset();
+    m_keys.Read(m_text, m_sections.Begin(m_text, section), m_sections.End(m_text, section));
+    if (m_keys.AreLong())
+        return m_longKeys.emplace(section, std::exchange(m_keys, {})).first->second;
+    m_keysOf = section;
+    return m_keys;
 }
 
 std::optional<IniLine> IniDocument::FindKey(Section section, std::string_view key) const {
     if (Written()) {
-        if (const auto change = FindChange(section, key, HashOf(section, key)))
-            return ClassifyLine(m_changes[*change].text);
+        if (const auto change = m_changes.Find(section, key))
+            return ClassifyLine(m_changes.Line(m_changes[*change]));
     }
-    const std::size_t line = FindLine(section, key);
-    if (line == npos)
+    if (!HasKeysInText(section))
         return std::nullopt;
-    return ClassifyLine(CutLine(m_text, line).line);
+    const auto found = KeysOf(section).Find(m_text, key);
+    return found ? std::optional(found->line) : std::nullopt;
 }
 
 void IniDocument::Write(Section section, std::string_view key, std::string_view spelling,
                         const IniNewValue& value) {
-    const std::uint64_t hash = HashOf(section, key);
-    if (const auto number = FindChange(section, key, hash)) {
-        Change& change = m_changes[*number];
-        std::string line = RewriteLine(change.text, value);
-        m_differing -= Differs(change) ? 1 : 0;
-        change.text = std::move(line);
-        change.isText = value.isText;
-        change.hasComment = !value.isText && (change.hasComment || !value.comment.empty());
-        m_differing += Differs(change) ? 1 : 0;
+    const bool newComment = !value.isText && !value.comment.empty();
+    if (const auto number = m_changes.Find(section, key)) {
+        const IniChanges::Change& change = m_changes[*number];
+        const std::string line = RewriteLine(m_changes.Line(change), value);
+        const std::size_t others = m_differing - (Differs(change) ? 1 : 0);
+        m_changes.Rewrite(*number, line, value.isText, !value.isText && (change.hasComment || newComment));
+        m_differing = others + (Differs(m_changes[*number]) ? 1 : 0);
         return;
     }
-    const std::size_t at = FindLine(section, key);
-    const std::string added = std::string(spelling) + '=';
-    const std::string_view present = at == npos ? std::string_view(added) : CutLine(m_text, at).line;
-    std::string line = RewriteLine(present, value);
-    if (m_changes.size() >= nameless)
-        throw std::bad_alloc();
-    m_changedKeys.Reserve(m_changes.size() + 1); // so that nothing fails between the two
-    m_changes.push_back({section, value.isText, !value.comment.empty(), at, std::move(line)});
-    m_changedKeys.Add(hash, static_cast<std::uint32_t>(m_changes.size() - 1));
-    m_differing += Differs(m_changes.back()) ? 1 : 0;
+    IniChanges::Change change;
+    change.section = section;
+    change.isText = value.isText;
+    change.hasComment = newComment;
+    std::string line;
+    if (const auto found = HasKeysInText(section) ? KeysOf(section).Find(m_text, key) : std::nullopt) {
+        change.line = found->start;
+        line = RewriteLine(CutLine(m_text, found->start).line, value);
+    } else {
+        line.append(spelling).append(1, '=').append(value.bytes);
+        if (!value.comment.empty())
+            line.append(1, ' ').append(value.comment);
+    }
+    m_changes.Add(change, key, line);
+    m_differing += Differs(m_changes[m_changes.Size() - 1]) ? 1 : 0;
 }
 
-bool IniDocument::Differs(const Change& change) const {
-    return change.line == npos || CutLine(m_text, change.line).line != change.text;
+bool IniDocument::Differs(const IniChanges::Change& change) const {
+    return change.line == IniChanges::newLine || CutLine(m_text, change.line).line != m_changes.Line(change);
 }
 
 void IniDocument::ForgetWrites() {
-    m_changes.clear();
-    m_changedKeys = {};
-}
-
-std::size_t IniDocument::BehindLastKey(Section section) const {
-    if (IsNew(section))
-        return m_text.size();
-    std::size_t behind = m_sections[section].body;
-    if (IsLarge(section)) {
-        const KeyIndex& index = KeysOf(section);
-        return index.keys.empty() ? behind : CutLine(m_text, index.keys.back().name).next;
-    }
-    const std::string_view body = std::string_view(m_text).substr(0, BodyEnd(section));
-    for (std::size_t at = behind; at < body.size();) {
-        const IniCut cut = CutLine(body, at);
-        at = cut.next;
-        if (ClassifyLine(cut.line).kind == IniLineKind::Key)
-            behind = at;
-    }
-    return behind;
+    m_changes = {};
+    m_moves.clear();
 }
 
 std::vector<IniDocument::Placed> IniDocument::PlacedChanges() const {
-    std::unordered_map<Section, std::size_t> ends;
     std::vector<Placed> placed;
-    placed.reserve(m_changes.size());
-    for (const Change& change : m_changes) {
+    for (std::uint32_t number = 0; number < m_changes.Size(); ++number) {
+        const IniChanges::Change& change = m_changes[number];
+        if (change.section == IniChanges::none || IsNew(change.section))
+            continue;
         std::size_t at = change.line;
-        if (at == npos) {
-            const auto [end, isFirst] = ends.try_emplace(change.section, 0);
-            if (isFirst)
-                end->second = BehindLastKey(change.section);
-            at = end->second;
-        }
+        if (at == IniChanges::newLine)
+            at = HasKeysInText(change.section) ? KeysOf(change.section).BehindLast()
+                                               : m_sections.Begin(m_text, change.section);
         placed.push_back({at, &change});
     }
-    // New sections follow what is added at the end of the last old one; keys keep the order of their writing.
+    // Keys keep the order of their writing.
     std::stable_sort(placed.begin(), placed.end(), [](const Placed& a, const Placed& b) {
         return std::tie(a.at, a.change->section) < std::tie(b.at, b.change->section);
     });
     return placed;
 }
 
+std::vector<IniDocument::Patch> IniDocument::Patches() const {
+    std::vector<Patch> patches;
+    if (m_edits.empty())
+        return patches;
+    std::vector<IniExtent> removed;
+    const std::vector<IniHeader> headers = AllHeaders(m_text);
+    for (std::size_t number = 0; number < headers.size(); ++number) {
+        const auto& name = headers[number].name;
+        std::string buffer;
+        const auto section = name ? m_sections.Find(m_text, CanonicalName(*name, buffer)) : std::nullopt;
+        const Edit* const edit = section ? EditOf(*section) : nullptr;
+        if (!edit)
+            continue;
+        const bool isFirst = m_sections.Name(m_text, *section).data() == name->data();
+        if (edit->isRemoved || (edit->isEmptied && !isFirst)) {
+            removed.push_back(SectionExtent(m_text, headers, number));
+            continue;
+        }
+        if (edit->isEmptied)
+            removed.push_back(BodyExtent(m_text, headers, number));
+        if (name != edit->name) {
+            const std::size_t start = headers[number].start + 1;
+            patches.push_back({{start, start + name->size()}, edit->name});
+        }
+    }
+    for (const IniExtent& extent : JoinExtents(m_text, std::move(removed)))
+        patches.push_back({extent, {}});
+    std::sort(patches.begin(), patches.end(),
+              [](const Patch& a, const Patch& b) { return a.old.start < b.old.start; });
+    return patches;
+}
+
 std::string IniDocument::Text() const {
     const std::size_t start = MarkLength(m_text);
-    const std::vector<Placed> placed = PlacedChanges();
     std::size_t size = m_text.size();
-    for (const Placed& piece : placed)
-        size += piece.change->text.size() + 2;
+    for (std::size_t number = 0; number < m_changes.Size(); ++number)
+        size += m_changes.Line(m_changes[number]).size() + 2;
+    for (const std::string& name : m_newSections)
+        size += name.size() + 6; // with brackets, two line ends of two bytes at most
+    const std::vector<Patch> patches = Patches();
+    for (const Patch& patch : patches)
+        size += patch.text.size();
     std::string text;
     text.reserve(size);
 
     std::size_t copied = 0;
-    std::optional<Section> opened;
-    for (const auto& [at, change] : placed) {
-        text.append(m_text, copied, at - copied);
-        copied = at;
-        if (change->line != npos) {
-            text += change->text;
-            copied += CutLine(m_text, at).line.size();
+    auto patch = patches.begin();
+    // What is added stands before what is removed in the same place.
+    const auto copyUpTo = [&](std::size_t end) {
+        for (; patch != patches.end() && patch->old.start < end; ++patch) {
+            text.append(m_text, copied, patch->old.start - copied).append(patch->text);
+            copied = patch->old.end;
+        }
+        text.append(m_text, copied, end - copied);
+        copied = end;
+    };
+    for (const auto& [at, change] : PlacedChanges()) {
+        copyUpTo(at);
+        if (change->line == IniChanges::newLine) {
+            AppendLine(text, start, m_changes.Line(*change));
             continue;
         }
-        if (IsNew(change->section) && opened != change->section)
-            AppendHeader(text, start, Name(change->section));
-        opened = change->section;
-        AppendLine(text, start, change->text);
+        text += m_changes.Line(*change);
+        copied += CutLine(m_text, at).line.size();
     }
-    return text.append(m_text, copied);
+    copyUpTo(m_text.size());
+    for (Section section = m_firstNew; section < m_firstNew + m_newSections.size(); ++section) {
+        std::uint32_t number = m_changes.FirstOf(section);
+        if (number != IniChanges::none)
+            AppendHeader(text, start, Name(section));
+        for (; number != IniChanges::none; number = m_changes[number].next)
+            AppendLine(text, start, m_changes.Line(m_changes[number]));
+    }
+    // A text whose last line has no end stays one, also when that line was removed.
+    if (!m_edits.empty() && m_text.size() > start && !m_text.ends_with('\n') && text.ends_with('\n'))
+        text.erase(text.size() - LineEndOf(text).size());
+    return text;
 }
 
-void IniDocument::ApplyChangesTo(IniDocument& other) const {
+std::optional<std::string> IniDocument::ApplyChangesTo(IniDocument& other) const {
     // What was spelled for this text is spelled anew for one of another encoding.
     const auto nameFor = [&other](std::string_view name) {
         return IsAscii(name) ? std::string(name)
@@ -310,14 +365,31 @@ void IniDocument::ApplyChangesTo(IniDocument& other) const {
     const auto textFor = [&other](std::string_view text) {
         return IsAscii(text) ? std::string(text) : EncodeText(DecodeText(text), other.Encoding());
     };
-    for (const Change& change : m_changes) {
+    for (const auto& [from, to] : m_moves) {
+        const std::optional<Section> section = other.FindSection(from);
+        if (!section)
+            continue;
+        if (!to) {
+            other.RemoveSection(*section);
+            continue;
+        }
+        const std::string name = nameFor(*to);
+        std::string buffer;
+        const std::optional<Section> holder = other.FindSection(CanonicalName(name, buffer));
+        if ((holder && holder != section) || !other.RenameSection(*section, name))
+            return name;
+    }
+    for (std::size_t number = 0; number < m_changes.Size(); ++number) {
+        const IniChanges::Change& change = m_changes[number];
+        if (change.section == IniChanges::none)
+            continue;
         std::string buffer;
         const std::string_view name = CanonicalName(Name(change.section), buffer);
         std::optional<Section> section = other.FindSection(name);
         if (!section)
             section = other.AddSection(nameFor(Name(change.section)));
 
-        const IniLine line = ClassifyLine(change.text);
+        const IniLine line = ClassifyLine(m_changes.Line(change));
         const IniCommentedValue parts = SplitComment(line.value);
         IniNewValue value{change.isText ? textFor(line.value) : std::string(parts.plain), change.isText, {}};
         if (change.hasComment)
@@ -325,6 +397,7 @@ void IniDocument::ApplyChangesTo(IniDocument& other) const {
         std::string keyBuffer;
         other.Write(*section, CanonicalName(line.name, keyBuffer), nameFor(line.name), value);
     }
+    return std::nullopt;
 }
 
 } // namespace QuorIniFile

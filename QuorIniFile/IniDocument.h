@@ -1,8 +1,12 @@
 #pragma once
 
 #include "QuorIniFile/Export.h"
+#include "QuorIniFile/IniChanges.h"
+#include "QuorIniFile/IniExtents.h"
 #include "QuorIniFile/IniFormat.h"
 #include "QuorIniFile/IniIndex.h"
+#include "QuorIniFile/IniKeys.h"
+#include "QuorIniFile/IniSections.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -18,14 +22,14 @@ namespace QuorIniFile {
 /// It knows no file and no kinds of values: a value is the bytes behind a key.
 ///
 /// Names are given as NameToFind or CanonicalName spell them, and looked up without regard to the case of
-/// ASCII letters; of several sections or keys of one name the first counts. Keys are found when they are
-/// asked for: by looking through a small section, by an index in a large one. The text is never touched:
+/// ASCII letters; of several sections or keys of one name the first counts. Sections and keys are found when
+/// they are asked for, in one pass over the text that goes as far as it has to. The text is never touched:
 /// changes stand beside it until Text() puts both together, so that a change costs the same in a file of any
 /// size.
 class QUORINIFILE_EXPORT IniDocument {
 public:
     /// The number of a section of this document.
-    using Section = std::uint32_t;
+    using Section = IniSections::Section;
 
     explicit IniDocument(std::string text = {});
 
@@ -34,8 +38,21 @@ public:
 
     [[nodiscard]] std::optional<Section> FindSection(std::string_view name) const;
     /// Adds a section at the end; it becomes part of the text with its first key. `name` is spelled as it
-    /// will stand in the text, and no section of that name is there yet.
+    /// will stand in the text, and no section of that name is there yet. One that was removed comes back in
+    /// its old place, without its old keys.
     Section AddSection(std::string_view name);
+    /// The names as they stand in the text with all changes, in its order; of a name that stands several
+    /// times the first. The views live until the next change.
+    [[nodiscard]] std::vector<std::string_view> SectionNames() const;
+    /// Removes a section, and later ones of its name, which would be found in its place otherwise: the
+    /// header, the comments that touch it from above, and what follows down to the last key and the comments
+    /// that touch that one. Comments that stand apart stay, and so do those that touch the next header, and
+    /// those that open the text, for these may speak of the whole of it.
+    void RemoveSection(Section section);
+    /// Rewrites the name in the header of a section, and of later ones of its name, and nothing else. `name`
+    /// is spelled as it will stand in the text, and no other section of that name is there. False, and
+    /// nothing has changed, when a header line would not give that name back.
+    [[nodiscard]] bool RenameSection(Section section, std::string_view name);
 
     /// The key line as it stands now. The views live until the next change.
     [[nodiscard]] std::optional<IniLine> FindKey(Section section, std::string_view key) const;
@@ -44,10 +61,10 @@ public:
     void Write(Section section, std::string_view key, std::string_view spelling, const IniNewValue& value);
 
     /// Whether the text with all changes is another one.
-    [[nodiscard]] bool Changed() const { return m_differing != 0; }
+    [[nodiscard]] bool Changed() const { return m_differing != 0 || !m_edits.empty(); }
     /// Whether anything was written, even if it stood there already: in the text that somebody else has made
     /// of the file since, it may not.
-    [[nodiscard]] bool Written() const { return !m_changes.empty(); }
+    [[nodiscard]] bool Written() const { return m_changes.Size() != 0 || !m_moves.empty(); }
     /// Forgets what was written. For a document that it has not changed.
     void ForgetWrites();
     /// The text as it was read.
@@ -55,64 +72,68 @@ public:
     /// The text with all changes.
     [[nodiscard]] std::string Text() const;
     /// Writes into another document, in the same order, what was written into this one: for a text that
-    /// somebody else has changed since it was read.
-    void ApplyChangesTo(IniDocument& other) const;
+    /// somebody else has changed since it was read. A section that was to be removed or renamed and is gone
+    /// there needs neither. Where a section was to get a name that another one has there, nothing more is
+    /// applied and that name is returned; otherwise nothing.
+    [[nodiscard]] std::optional<std::string> ApplyChangesTo(IniDocument& other) const;
 
 private:
-    static constexpr std::uint32_t nameless = 0xFFFFFFFF;
-
-    struct SectionSpan {
-        std::size_t name = 0; // where its name starts; the '[' stands right before
-        std::size_t body = 0; // where the line behind its header starts
-        std::uint32_t nameLength = nameless;
-    };
-    struct KeySpan {
-        std::size_t name = 0;
-        std::uint32_t nameLength = 0;
-    };
-    struct KeyIndex {
-        std::vector<KeySpan> keys; // every key line of the section
-        IniIndex names;            // of these, the first of each name
-    };
-    struct Change {
-        Section section = 0;
-        bool isText = false;
-        bool hasComment = false; // the comment on the line was written with the value
-        std::size_t line = 0;    // where the line stands in the text; npos: it is new
-        std::string text;        // the line as it is to be
-    };
     struct Placed {
         std::size_t at = 0; // in the text
-        const Change* change = nullptr;
+        const IniChanges::Change* change = nullptr;
+    };
+    /// What has become of a section of the text. Later ones of its name share its lot.
+    struct Edit {
+        bool isRemoved = false;
+        bool isEmptied = false; // it was removed and has come back, without the later ones of its name
+        std::string name;       // as it stands now
+    };
+    /// A removal (without `to`) or a renaming, in the order in which they were asked for.
+    struct Move {
+        std::string from; // as look-ups take it
+        std::optional<std::string> to;
+    };
+    /// What takes the place of a part of the text.
+    struct Patch {
+        IniExtent old;
+        std::string_view text;
     };
 
-    void IndexSections();
+    /// The name as it stands now.
     [[nodiscard]] std::string_view Name(Section section) const;
-    [[nodiscard]] bool IsNew(Section section) const { return section >= m_sections.size(); }
-    /// Where the text of a section ends.
-    [[nodiscard]] std::size_t BodyEnd(Section section) const;
-    [[nodiscard]] bool IsLarge(Section section) const;
-    [[nodiscard]] const KeyIndex& KeysOf(Section section) const;
-    [[nodiscard]] std::size_t LineStart(std::size_t at) const;
-
-    [[nodiscard]] bool Differs(const Change& change) const;
-    [[nodiscard]] std::optional<std::uint32_t> FindChange(Section section, std::string_view key,
-                                                          std::uint64_t hash) const;
-    /// Where the text has the key line, npos when it has none.
-    [[nodiscard]] std::size_t FindLine(Section section, std::string_view key) const;
-    /// Where the line behind the last key of a section starts.
-    [[nodiscard]] std::size_t BehindLastKey(Section section) const;
+    [[nodiscard]] bool IsNew(Section section) const { return section >= m_firstNew; }
+    /// Whether the text has keys that count for the section.
+    [[nodiscard]] bool HasKeysInText(Section section) const;
+    /// Whether the text with all changes has the section, and under that name.
+    [[nodiscard]] bool IsThere(Section section) const;
+    [[nodiscard]] bool IsCalled(Section section, std::string_view name) const;
+    /// The edit of a section; null for none.
+    [[nodiscard]] const Edit* EditOf(Section section) const;
+    /// Notes a removal or renaming of a section of the text, and gives its edit to be changed.
+    Edit& Note(Section section, std::optional<std::string> to);
+    /// The headers of a section of the text and of the later ones of its name, as far as they are there.
+    [[nodiscard]] std::vector<IniHeader> HeadersOf(Section section) const;
+    [[nodiscard]] const IniKeys& KeysOf(Section section) const;
+    [[nodiscard]] bool Differs(const IniChanges::Change& change) const;
+    /// The changes of sections that the text has, in the order of the text.
     [[nodiscard]] std::vector<Placed> PlacedChanges() const;
+    /// What removals and new names make of the text, in its order.
+    [[nodiscard]] std::vector<Patch> Patches() const;
 
     std::string m_text;
-    std::vector<SectionSpan> m_sections;
-    std::vector<std::string> m_newSections;
-    IniIndex m_sectionNames;
-    std::vector<Change> m_changes;
-    std::size_t m_differing = 0; // how many of them say something else than the text
-    IniIndex m_changedKeys;
-    mutable std::unordered_map<Section, KeyIndex> m_keyIndexes; // of the large sections that were asked
+    mutable IniSections m_sections;
+    mutable IniKeys m_keys;                                  // of the section that was asked last
+    mutable std::optional<Section> m_keysOf;                 // which one that is
+    mutable std::unordered_map<Section, IniKeys> m_longKeys; // of all long sections that were asked
     mutable std::optional<IniEncoding> m_encoding;
+
+    std::vector<std::string> m_newSections; // each is there as soon as it has a key
+    Section m_firstNew = 0xFFFFFFFF;        // the number of the first new section, once there is one
+    std::unordered_map<Section, Edit> m_edits;
+    std::vector<Move> m_moves;
+    IniIndex m_newNames; // of new sections, and those that sections were given
+    IniChanges m_changes;
+    std::size_t m_differing = 0; // how many of them say something else than the text
 };
 
 } // namespace QuorIniFile

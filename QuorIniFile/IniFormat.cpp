@@ -3,12 +3,9 @@
 #include "QuorIniFile/Utf8.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace QuorIniFile {
 namespace {
-
-constexpr auto npos = std::string_view::npos;
 
 bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 
@@ -28,7 +25,9 @@ std::string_view TrimRight(std::string_view text) {
 
 IniLine ClassifyHeader(std::string_view header) {
     std::size_t close = npos;
-    for (std::size_t at = header.find(']'); at != npos; at = header.find(']', at + 1)) {
+    for (std::size_t at = 1; at < header.size(); ++at) {
+        if (header[at] != ']')
+            continue;
         close = at;
         const std::string_view behind = TrimLeft(header.substr(at + 1));
         if (behind.empty() || StartsComment(behind.front()))
@@ -125,27 +124,7 @@ bool IniWalker::Next() {
 }
 
 IniEncoding EncodingOf(std::string_view text) {
-    // Line by line: no character of UTF-8 reaches over a line end, and a long file needs no second copy.
-    for (std::size_t at = 0; at < text.size();) {
-        const IniCut cut = CutLine(text, at);
-        if (!IsAscii(cut.line) && !FromUtf8(cut.line))
-            return IniEncoding::Latin1;
-        at = cut.next;
-    }
-    return IniEncoding::Utf8;
-}
-
-bool IsAscii(std::string_view bytes) {
-    constexpr std::uint64_t highBits = 0x8080808080808080U;
-    std::size_t at = 0;
-    for (; bytes.size() - at >= sizeof highBits; at += sizeof highBits) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, bytes.data() + at, sizeof word);
-        if ((word & highBits) != 0)
-            return false;
-    }
-    return std::all_of(bytes.begin() + static_cast<std::ptrdiff_t>(at), bytes.end(),
-                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    return IsUtf8(text) ? IniEncoding::Utf8 : IniEncoding::Latin1;
 }
 
 std::wstring DecodeBytes(std::string_view bytes) {
@@ -174,14 +153,22 @@ std::optional<std::string> NameToWrite(std::wstring_view name, IniEncoding encod
 }
 
 std::string_view CanonicalName(std::string_view name, std::string& buffer) {
-    if (IsAscii(name) || FromUtf8(name))
+    if (IsUtf8(name))
         return name;
-    buffer = ToUtf8(FromLatin1(name));
+    buffer.clear();
+    for (const char c : name) {
+        const auto code = static_cast<unsigned char>(c);
+        if (code < 0x80)
+            buffer += c;
+        else
+            buffer.append(1, static_cast<char>(0xC0U | code >> 6U))
+                .append(1, static_cast<char>(0x80U | (code & 0x3FU)));
+    }
     return buffer;
 }
 
 bool SameName(std::string_view name, std::string_view wanted) {
-    if (EqualFolded(name, wanted))
+    if (name == wanted || EqualFolded(name, wanted))
         return true;
     // Latin-1 takes fewer bytes than UTF-8, so names of one length were compared for good.
     if (name.size() >= wanted.size() || IsAscii(name))

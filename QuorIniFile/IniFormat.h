@@ -12,6 +12,8 @@
 // bytes; they know no file and keep no state. How a value is spelled is the business of IniValue.h.
 namespace QuorIniFile {
 
+inline constexpr std::size_t npos = std::string_view::npos;
+
 /// What a line is.
 enum class IniLineKind : std::uint8_t {
     Blank,
@@ -94,8 +96,6 @@ private:
 /// Latin-1. Single values and names are always read as UTF-8 where they are valid, else as Latin-1.
 enum class IniEncoding : std::uint8_t { Utf8, Latin1 };
 [[nodiscard]] QUORINIFILE_EXPORT IniEncoding EncodingOf(std::string_view text);
-
-[[nodiscard]] QUORINIFILE_EXPORT bool IsAscii(std::string_view bytes);
 
 /// The text that `bytes` spell: UTF-8 where they are valid, else Latin-1.
 [[nodiscard]] QUORINIFILE_EXPORT std::wstring DecodeBytes(std::string_view bytes);

@@ -81,8 +81,8 @@ std::uint64_t HashName(std::string_view name) {
         hash.Take(Fold(word));
     }
     std::uint64_t rest = 0;
-    if (!name.empty())
-        std::memcpy(&rest, name.data(), name.size());
+    for (std::size_t at = 0; at < name.size(); ++at) // a copy of unknown length would take longer
+        rest |= std::uint64_t{static_cast<unsigned char>(name[at])} << (8 * at);
     hash.Take(Fold(rest));
     hash.Take(length);
     return hash.Finish();

@@ -7,7 +7,6 @@
 #include "QuorIniFile/IniValue.h"
 #include "QuorIniFile/Utf8.h"
 
-#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstddef>
@@ -67,9 +66,7 @@ public:
 
     /// The key line of the selected section, or nothing. Raises 53 when there is no file.
     std::optional<IniLine> Read(std::wstring_view key) {
-        Load();
-        if (!m_stamp.exists && !m_document->Changed())
-            throw FileError(ERR_FILE_NOT_FOUND, m_fileName);
+        LoadExisting();
         return Find(NameToFind(key));
     }
 
@@ -94,6 +91,43 @@ public:
         const IniNewValue value{
             same ? std::string(line->value) : EncodeText(text, EncodingFor(text)), true, {}};
         Put(key, name, line.has_value(), value);
+    }
+
+    [[nodiscard]] std::vector<std::wstring> Sections() {
+        LoadExisting();
+        std::vector<std::wstring> names;
+        for (const std::string_view name : m_document->SectionNames())
+            names.push_back(DecodeBytes(name));
+        return names;
+    }
+
+    void RemoveSection(std::wstring_view name) {
+        Load();
+        const auto section = FindSection(name);
+        if (!section)
+            return;
+        m_document->RemoveSection(*section);
+        SectionsChanged();
+    }
+
+    void RenameSection(std::wstring_view from, std::wstring_view to) {
+        Load();
+        const auto section = FindSection(from);
+        if (!section)
+            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, L"There is no section " + Quoted(from));
+        const std::string spelling = SpellNew(L"section", to, IsSectionName);
+        const auto holder = FindSection(to);
+        if (holder && holder != section)
+            throw NameIsTaken(to);
+        if (!m_document->RenameSection(*section, spelling))
+            throw NoSuchName(L"section", to);
+        SectionsChanged();
+    }
+
+    void Discard() {
+        m_document.reset();
+        m_hasFailed = false;
+        m_number.reset();
     }
 
     void Hold() { ++m_holds; }
@@ -143,19 +177,25 @@ public:
         if (!m_document)
             return;
         auto [document, stamp] = LoadFile();
-        m_document->ApplyChangesTo(document);
+        ApplyChangesTo(document);
         Adopt(std::move(document), stamp);
     }
 
 private:
     void Load() {
-        if (!IsFileName(m_fileName))
-            throw FileError(ERR_BAD_FILE_NAME, m_fileName);
         // A file that was not there may have come since, as long as we have nothing to say about it.
         if (m_document && (m_stamp.exists || m_document->Changed()))
             return;
+        if (m_fileName.empty())
+            throw FileError(ERR_BAD_FILE_NAME, m_fileName);
         auto [document, stamp] = LoadFile();
         Adopt(std::move(document), stamp);
+    }
+
+    void LoadExisting() {
+        Load();
+        if (!m_stamp.exists && !m_document->Changed())
+            throw FileError(ERR_FILE_NOT_FOUND, m_fileName);
     }
 
     /// The file as it is now; an empty document when there is none.
@@ -184,13 +224,19 @@ private:
         m_isSettled = IsSettled(stamp);
     }
 
+    /// Raises when a section cannot get its new name there.
+    void ApplyChangesTo(IniDocument& other) const {
+        if (const auto taken = m_document->ApplyChangesTo(other))
+            throw NameIsTaken(DecodeBytes(*taken));
+    }
+
     /// Writes the changes into the file as it is now. False when it was changed while that was done.
     bool TrySave() {
         IniReplacement replacement(m_fileName, m_files);
         std::optional<IniDocument> theirs; // what somebody else has made of the file, and our changes to it
         if (!replacement.Has(m_document->BaseText())) {
             theirs = Document(replacement.Bytes());
-            m_document->ApplyChangesTo(*theirs);
+            ApplyChangesTo(*theirs);
         }
         const IniDocument& changed = theirs ? *theirs : *m_document;
         // The document of the new text is made before the file, so that nothing can fail after that.
@@ -201,6 +247,9 @@ private:
             Adopt(std::move(saved), replacement.Stamp());
             return true;
         }
+        // A file of one NUL is no UTF-16, and becomes it with what follows: nobody could load that.
+        if (IsUtf16(saved.BaseText()))
+            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, L"With these changes it would be UTF-16 text");
         const std::optional<IniStamp> stamp = replacement.Commit(saved.BaseText());
         if (stamp)
             Adopt(std::move(saved), *stamp);
@@ -212,6 +261,18 @@ private:
         if (!m_number && m_sectionName)
             m_number = m_document->FindSection(*m_sectionName);
         return m_number;
+    }
+
+    [[nodiscard]] std::optional<IniDocument::Section> FindSection(std::wstring_view name) const {
+        const std::optional<std::string> wanted = NameToFind(name);
+        return wanted ? m_document->FindSection(*wanted) : std::nullopt;
+    }
+
+    void SectionsChanged() {
+        m_number.reset();
+        m_hasFailed = false;
+        if (m_holds == 0)
+            Save();
     }
 
     std::optional<IniLine> Find(const std::optional<std::string>& key) {
@@ -236,19 +297,25 @@ private:
 
     /// How `text` is to be written. ASCII is the same in every file, whose bytes need no look then.
     [[nodiscard]] IniEncoding EncodingFor(std::wstring_view text) const {
-        const bool ascii = std::all_of(text.begin(), text.end(),
-                                       [](wchar_t c) { return static_cast<std::uint32_t>(c) < 0x80; });
-        return ascii ? IniEncoding::Utf8 : m_document->Encoding();
+        return IsAscii(text) ? IniEncoding::Utf8 : m_document->Encoding();
     }
 
     [[nodiscard]] std::string SpellNew(std::wstring_view what, std::wstring_view name,
                                        bool (*readsBack)(std::string_view)) const {
         std::optional<std::string> spelling = NameToWrite(name, EncodingFor(name));
         if (!spelling || !readsBack(*spelling))
-            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName,
-                            L"No " + std::wstring(what) + L" can have the name \"" + std::wstring(name) +
-                                L'"');
+            throw NoSuchName(what, name);
         return *std::move(spelling);
+    }
+
+    static std::wstring Quoted(std::wstring_view name) { return L'"' + std::wstring(name) + L'"'; }
+    [[nodiscard]] QuorError NoSuchName(std::wstring_view what, std::wstring_view name) const {
+        return FileError(ERR_PATH_FILE_ACCESS, m_fileName,
+                         L"No " + std::wstring(what) + L" can have the name " + Quoted(name));
+    }
+    [[nodiscard]] QuorError NameIsTaken(std::wstring_view name) const {
+        return FileError(ERR_PATH_FILE_ACCESS, m_fileName,
+                         L"There is a section " + Quoted(name) + L" already");
     }
 
     IniFileSystem& m_files;
@@ -317,6 +384,13 @@ void IniStore::WriteInteger(std::wstring_view key, std::int16_t value, std::wstr
 void IniStore::WriteString(std::wstring_view key, std::wstring_view value) {
     m_session->WriteText(key, value);
 }
+
+std::vector<std::wstring> IniStore::Sections() { return m_session->Sections(); }
+void IniStore::RemoveSection(std::wstring_view name) { m_session->RemoveSection(name); }
+void IniStore::RenameSection(std::wstring_view from, std::wstring_view to) {
+    m_session->RenameSection(from, to);
+}
+void IniStore::Discard() { m_session->Discard(); }
 
 void IniStore::Hold() { m_session->Hold(); }
 void IniStore::Release() { m_session->Release(); }

@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace QuorIniFile {
 
@@ -58,6 +59,22 @@ public:
     void WriteDouble(std::wstring_view key, double value, std::wstring_view comment) override;
     void WriteInteger(std::wstring_view key, std::int16_t value, std::wstring_view comment) override;
     void WriteString(std::wstring_view key, std::wstring_view value) override;
+
+    /// The names of all sections, in the order of the file with what was written; of a name that stands
+    /// several times the first. Raises 53 when there is no file.
+    [[nodiscard]] std::vector<std::wstring> Sections();
+    /// Removes a section with its header, the comments that touch the header from above, and its body down to
+    /// the last key and the comments that touch that one. Comments that stand apart stay, and so do those
+    /// that open the file. Later sections of that name, which nobody has read, go too. A section that is not
+    /// there needs no removal. One that is written into afterwards comes back in its old place.
+    void RemoveSection(std::wstring_view name);
+    /// Rewrites the name in the header of a section and nothing else, and so for later sections of that name.
+    /// Raises 75 when there is no section `from`, when another section has the name `to`, and when the file
+    /// could not give that name back.
+    void RenameSection(std::wstring_view from, std::wstring_view to);
+    /// Forgets what was written, removed and renamed and is not in the file yet: what was held, or what could
+    /// not be saved. The file is loaded anew when it is next needed.
+    void Discard();
 
     void Hold() override;
     /// Without a Hold it does nothing.

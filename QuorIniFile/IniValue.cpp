@@ -14,7 +14,6 @@
 namespace QuorIniFile {
 namespace {
 
-constexpr bool wideIsUtf16 = sizeof(wchar_t) == 2;
 constexpr std::uint32_t lastCharacter = 0x10FFFF;
 
 // Writing --------------------------------------------------------------------------------------------------
@@ -242,7 +241,7 @@ std::string EncodeText(std::wstring_view text, IniEncoding encoding) {
         return TextWriter(text, encoding, std::numeric_limits<std::uint32_t>::max()).Write();
     std::string bytes = TextWriter(text, encoding, 0xFF).Write();
     // Letters of Latin-1 that happen to form UTF-8 would be read as UTF-8.
-    if (!IsAscii(bytes) && FromUtf8(bytes))
+    if (!IsAscii(bytes) && IsUtf8(bytes))
         bytes = TextWriter(text, encoding, 0x7F).Write();
     return bytes;
 }

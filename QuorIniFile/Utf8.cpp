@@ -1,13 +1,15 @@
 #include "QuorIniFile/Utf8.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 namespace QuorIniFile {
 namespace {
 
-constexpr bool wideIsUtf16 = sizeof(wchar_t) == 2;
 constexpr std::uint32_t replacement = 0xFFFD;
+constexpr std::uint32_t noCharacter = 0xFFFFFFFF;
 
 bool IsSurrogate(std::uint32_t code) { return code >= 0xD800 && code <= 0xDFFF; }
 
@@ -28,6 +30,25 @@ std::uint32_t NextCharacter(std::wstring_view text, std::size_t& at) {
     return IsSurrogate(code) || code > 0x10FFFF ? replacement : code;
 }
 
+/// The character that starts at `bytes[at]`, or noCharacter; moves `at` behind it.
+std::uint32_t NextFromUtf8(std::string_view bytes, std::size_t& at) {
+    const auto lead = static_cast<unsigned char>(bytes[at++]);
+    if (lead < 0x80)
+        return lead;
+    const int continuations = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : 1;
+    if (lead < 0xC2 || lead > 0xF4 || bytes.size() - at < static_cast<std::size_t>(continuations))
+        return noCharacter;
+    std::uint32_t code = lead & (0x3FU >> continuations);
+    for (int i = 0; i < continuations; ++i) {
+        const auto next = static_cast<unsigned char>(bytes[at++]);
+        if ((next & 0xC0U) != 0x80U)
+            return noCharacter;
+        code = (code << 6) | (next & 0x3FU);
+    }
+    constexpr std::uint32_t smallest[] = {0, 0x80, 0x800, 0x10000};
+    return code < smallest[continuations] || IsSurrogate(code) || code > 0x10FFFF ? noCharacter : code;
+}
+
 void AppendWide(std::wstring& text, std::uint32_t code) {
     if (wideIsUtf16 && code > 0xFFFF) {
         code -= 0x10000;
@@ -41,8 +62,15 @@ void AppendWide(std::wstring& text, std::uint32_t code) {
 
 std::string ToUtf8(std::wstring_view text) {
     std::string bytes;
+    std::size_t at = 0;
+    if (IsAscii(text)) { // nearly all names are
+        bytes.resize(text.size());
+        for (; at < text.size(); ++at)
+            bytes[at] = static_cast<char>(text[at]);
+        return bytes;
+    }
     bytes.reserve(text.size());
-    for (std::size_t at = 0; at < text.size();) {
+    while (at < text.size()) {
         const std::uint32_t code = NextCharacter(text, at);
         if (code < 0x80) {
             bytes += static_cast<char>(code);
@@ -57,27 +85,49 @@ std::string ToUtf8(std::wstring_view text) {
     return bytes;
 }
 
+bool IsAscii(std::wstring_view text) {
+    std::uint32_t bits = 0; // of all characters at once: a look at each would take longer
+    for (const wchar_t c : text)
+        bits |= static_cast<std::uint32_t>(c); // NOLINT(bugprone-signed-char-misuse,cert-str34-c): as above
+    return bits < 0x80;
+}
+
+bool IsAscii(std::string_view bytes) {
+    constexpr std::uint64_t highBits = 0x8080808080808080U;
+    constexpr std::size_t step = sizeof highBits;
+    const auto word = [bytes](std::size_t at) {
+        std::uint64_t read = 0;
+        std::memcpy(&read, bytes.data() + at, sizeof read);
+        return read;
+    };
+    if (bytes.size() < step)
+        return std::all_of(bytes.begin(), bytes.end(),
+                           [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    for (std::size_t at = 0; at + step <= bytes.size(); at += step) {
+        if ((word(at) & highBits) != 0)
+            return false;
+    }
+    return (word(bytes.size() - step) & highBits) == 0; // the last bytes, some of them once more
+}
+
+bool IsUtf8(std::string_view bytes) {
+    if (IsAscii(bytes))
+        return true;
+    for (std::size_t at = 0; at < bytes.size();) {
+        if (NextFromUtf8(bytes, at) == noCharacter)
+            return false;
+    }
+    return true;
+}
+
 std::optional<std::wstring> FromUtf8(std::string_view bytes) {
+    if (IsAscii(bytes))
+        return std::wstring(bytes.begin(), bytes.end());
     std::wstring text;
     text.reserve(bytes.size());
     for (std::size_t at = 0; at < bytes.size();) {
-        const auto lead = static_cast<unsigned char>(bytes[at++]);
-        if (lead < 0x80) {
-            text += static_cast<wchar_t>(lead);
-            continue;
-        }
-        const int continuations = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : 1;
-        if (lead < 0xC2 || lead > 0xF4 || bytes.size() - at < static_cast<std::size_t>(continuations))
-            return std::nullopt;
-        std::uint32_t code = lead & (0x3FU >> continuations);
-        for (int i = 0; i < continuations; ++i) {
-            const auto next = static_cast<unsigned char>(bytes[at++]);
-            if ((next & 0xC0U) != 0x80U)
-                return std::nullopt;
-            code = (code << 6) | (next & 0x3FU);
-        }
-        constexpr std::uint32_t smallest[] = {0, 0x80, 0x800, 0x10000};
-        if (code < smallest[continuations] || IsSurrogate(code) || code > 0x10FFFF)
+        const std::uint32_t code = NextFromUtf8(bytes, at);
+        if (code == noCharacter)
             return std::nullopt;
         AppendWide(text, code);
     }

@@ -1,31 +1,40 @@
-// Writes the host file on which the benchmarks run. Usage: QuorWorkload PROBES > FILE
-//
-// Each probe is a facade record of type 2 in two sections, with doubles of full precision; every tenth
-// section has a comment. 100,000 probes make about 25 MB. The same number of probes always makes the same
-// file.
+#include "bench/Workload.h"
 
-#include "QuorIniFile/IniValue.h"
-
-#include <cstdlib>
-#include <iostream>
+#include <charconv>
+#include <ostream>
 #include <random>
+#include <string_view>
 
-int main(int argc, char** argv) {
-    const long probes = argc == 2 ? std::atol(argv[1]) : 0;
-    if (probes <= 0) {
-        std::cerr << "usage: QuorWorkload PROBES\n";
-        return 2;
-    }
+namespace Bench {
+
+Workload::Workload(std::size_t probes) : m_coefficients(probes) {
     std::mt19937_64 random(20261121);
     std::uniform_real_distribution<double> coefficient(-1000.0, 1000.0);
-    for (long probe = 0; probe < probes; ++probe) {
-        if (probe % 5 == 0)
-            std::cout << "; certificate " << 4000 + probe << ", calibrated at five fixed points\n";
-        std::cout << "[Probe " << probe << "]\nVersion=1.0\nConversionType=2\n\n[Probe " << probe
-                  << " - Settings]\nVersion=1.0\nNumCoefficients=4\nUsePolynomial=False\n";
-        for (int i = 0; i < 4; ++i)
-            std::cout << "Coefficients" << i << '=' << QuorIniFile::FormatDouble(coefficient(random)) << '\n';
-        std::cout << '\n';
-    }
-    return std::cout.flush() ? 0 : 1;
+    for (Coefficients& coefficients : m_coefficients)
+        for (double& value : coefficients)
+            value = coefficient(random);
 }
+
+std::string Workload::Section(std::size_t probe) { return "Probe " + std::to_string(probe); }
+
+std::string Workload::SettingsSection(std::size_t probe) { return Section(probe) + " - Settings"; }
+
+void Workload::WriteTo(std::ostream& out, char commentMark) const {
+    for (std::size_t probe = 0; probe < Probes(); ++probe) {
+        if (probe % 5 == 0)
+            out << commentMark << " certificate " << 4000 + probe << ", calibrated at five fixed points\n";
+        out << '[' << Section(probe) << "]\nVersion=1.0\nConversionType=2\n\n[" << SettingsSection(probe)
+            << "]\nVersion=1.0\nNumCoefficients=4\nUsePolynomial=False\n";
+        for (std::size_t i = 0; i < m_coefficients[probe].size(); ++i) {
+            std::array<char, 32> digits{};
+            const auto result =
+                std::to_chars(digits.data(), digits.data() + digits.size(), m_coefficients[probe][i]);
+            out << "Coefficients" << i << '='
+                << std::string_view(digits.data(), static_cast<std::size_t>(result.ptr - digits.data()))
+                << '\n';
+        }
+        out << '\n';
+    }
+}
+
+} // namespace Bench

@@ -4,14 +4,20 @@
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
+# Installed libraries find each other, and installed programs find them, wherever the folder is.
+set(CMAKE_INSTALL_RPATH $ORIGIN $ORIGIN/../${CMAKE_INSTALL_LIBDIR})
+
 add_library(quor_options INTERFACE)
 target_compile_features(quor_options INTERFACE cxx_std_20)
 target_compile_options(quor_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Werror)
-if(QUOR_SANITIZE)
+if(QUOR_SANITIZE OR QUOR_FUZZ)
     target_compile_options(quor_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(quor_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(QUOR_FUZZ)
+    target_compile_options(quor_options INTERFACE -fsanitize=fuzzer-no-link) # the fuzzer sees which code ran
 endif()
 
 # quor_library(NAME DEPENDS lib... SOURCES file...)

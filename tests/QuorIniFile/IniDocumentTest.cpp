@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 using namespace QuorIniFile;
 
@@ -165,7 +168,7 @@ TEST(IniDocument, ChangesCanBeMadeInATextThatSomebodyElseHasChanged) {
     Write(ours, "B", "new", {"40", false, {}});
 
     IniDocument theirs("; theirs\r\n[C]\r\nv=1\r\n[a]\r\nname = old\r\ny=2 ; theirs\r\nX =5 ; Ohm\r\n");
-    ours.ApplyChangesTo(theirs);
+    EXPECT_EQ(ours.ApplyChangesTo(theirs), std::nullopt);
     EXPECT_EQ(theirs.Text(), "; theirs\r\n[C]\r\nv=1\r\n[a]\r\nname = \"a ; b \"\r\ny=20 ; ours\r\n"
                              "X =10 ; Ohm\r\nz=30\r\n\r\n[B]\r\nnew=40\r\n");
 }
@@ -181,6 +184,158 @@ TEST(IniDocument, NamesInLatin1AreFoundByTheirText) {
     document.Write(*section, "N\xC3\xB6tig", "N\xF6tig", {"1", false, {}});
     EXPECT_EQ(ValueOf(document, "K\xC3\xB6ln", "n\xC3\xB6tig"), "1") << "among the changes";
     IniDocument other("[K\xC3\xB6ln]\n");
-    document.ApplyChangesTo(other);
+    EXPECT_EQ(document.ApplyChangesTo(other), std::nullopt);
     EXPECT_EQ(ValueOf(other, "K\xC3\xB6ln", "N\xC3\xB6tig"), "1");
+}
+
+namespace {
+
+/// `text` without a section.
+std::string Without(const std::string& text, std::string_view section) {
+    IniDocument document(text);
+    document.RemoveSection(document.FindSection(section).value());
+    return document.Text();
+}
+
+/// `text` with another name for a section.
+std::string Renamed(const std::string& text, std::string_view from, std::string_view to) {
+    IniDocument document(text);
+    EXPECT_TRUE(document.RenameSection(document.FindSection(from).value(), to));
+    return document.Text();
+}
+
+} // namespace
+
+TEST(IniDocument, ARemovedSectionGoesWithItsHeaderItsKeysAndTheBlankLinesBehindIt) {
+    EXPECT_EQ(Without("[A]\nx=1\n\n[B]\ny=2\nno key\n\n[C]\nz=3\n", "B"), "[A]\nx=1\n\n[C]\nz=3\n");
+    EXPECT_EQ(Without("[A]\r\nx=1\r\n\r\n[B]\r\ny=2\r\n", "A"), "[B]\r\ny=2\r\n");
+    EXPECT_EQ(Without("[A]\nx=1\n  [B]\ny=2\n[C]\n", "b"), "[A]\nx=1\n[C]\n");
+    EXPECT_EQ(Without("\xEF\xBB\xBF[A]\nx=1\n", "A"), "\xEF\xBB\xBF");
+}
+
+TEST(IniDocument, RemovingTheLastSectionUndoesWhatAddingItHasDone) {
+    for (const std::string text : {"[A]\nx=1\n", "[A]\r\nx=1\r\n", "[A]\nx=1", "; remark\n", ""}) {
+        EXPECT_EQ(Without(With(text, "B", "y", "2"), "B"), text);
+    }
+    EXPECT_EQ(Without("[A]\nx=1\n\n \t\n[B]\ny=2\n\n", "B"), "[A]\nx=1\n");
+}
+
+TEST(IniDocument, CommentsThatTouchARemovedSectionGoWithItAndOthersStay) {
+    EXPECT_EQ(
+        Without("[A]\nx=1\n\n; group\n\n; about B\n# more\n[B]\ny=2\n;z=3\n\n; group\n\n; about C\n[C]\n",
+                "B"),
+        "[A]\nx=1\n\n; group\n\n; group\n\n; about C\n[C]\n");
+    EXPECT_EQ(Without("[A]\nx=1\n[B]\ny=2\n; about C\n[C]\n", "B"), "[A]\nx=1\n; about C\n[C]\n");
+    EXPECT_EQ(Without("[A]\nx=1\n[B]\n; about C\n[C]\n", "B"), "[A]\nx=1\n; about C\n[C]\n");
+    EXPECT_EQ(Without("[A]\nx=1\n\n[B]\ny=2\n\n; the end of the file\n", "B"),
+              "[A]\nx=1\n\n; the end of the file\n");
+    EXPECT_EQ(Without("; about the file\n[A]\nx=1\n\n[B]\n", "A"), "; about the file\n[B]\n")
+        << "what opens the file may speak of all of it";
+}
+
+TEST(IniDocument, LaterSectionsOfARemovedNameDoNotComeToLight) {
+    EXPECT_EQ(Without("[A]\nx=1\n\n[B]\n\n[a]\nx=2\n\n[C]\n", "A"), "[B]\n\n[C]\n");
+}
+
+TEST(IniDocument, ARenamedSectionHasAnotherHeaderAndNothingElse) {
+    EXPECT_EQ(Renamed("; a\n  [A] ; remark\r\nx = 1\r\n[B]\n", "a", "New [name]"),
+              "; a\n  [New [name]] ; remark\r\nx = 1\r\n[B]\n");
+    EXPECT_EQ(Renamed("[A]\nx=1\n[B]\n[a]\nx=2\n", "A", "C"), "[C]\nx=1\n[B]\n[C]\nx=2\n");
+    EXPECT_EQ(Renamed("[A]\n", "A", "a"), "[a]\n");
+}
+
+TEST(IniDocument, AHeaderThatWouldNotGiveTheNameBackKeepsItsOwn) {
+    IniDocument document("[A] tail]\nx=1\n[B] tail\n");
+    EXPECT_EQ(document.SectionNames(), (std::vector<std::string_view>{"A] tail", "B"}));
+    EXPECT_TRUE(document.RenameSection(document.FindSection("A] tail").value(), "C"));
+    EXPECT_FALSE(document.RenameSection(document.FindSection("B").value(), "D];"));
+    EXPECT_EQ(document.Text(), "[C]\nx=1\n[B] tail\n");
+}
+
+TEST(IniDocument, ARenamedSectionIsFoundUnderItsNewNameAlone) {
+    IniDocument document("[A]\nx=1\n[B]\ny=2\n");
+    ASSERT_TRUE(document.RenameSection(document.FindSection("A").value(), "C"));
+    EXPECT_EQ(ValueOf(document, "A", "x"), "no section");
+    EXPECT_EQ(ValueOf(document, "c", "x"), "1");
+    ASSERT_TRUE(document.RenameSection(document.FindSection("B").value(), "A"));
+    ASSERT_TRUE(document.RenameSection(document.FindSection("C").value(), "B"));
+    Write(document, "B", "x", {"3", false, {}});
+    EXPECT_EQ(document.Text(), "[B]\nx=3\n[A]\ny=2\n") << "two sections may change their names";
+}
+
+TEST(IniDocument, RenamingThereAndBackIsNoChange) {
+    IniDocument document("[A]\nx=1\n");
+    ASSERT_TRUE(document.RenameSection(document.FindSection("A").value(), "B"));
+    EXPECT_TRUE(document.Changed());
+    ASSERT_TRUE(document.RenameSection(document.FindSection("B").value(), "A"));
+    EXPECT_FALSE(document.Changed());
+    EXPECT_EQ(ValueOf(document, "A", "x"), "1");
+}
+
+TEST(IniDocument, ARemovedSectionTakesWhatWasWrittenIntoItAlong) {
+    IniDocument document("[A]\nx=1\n");
+    Write(document, "A", "x", {"2", false, {}});
+    Write(document, "B", "y", {"3", false, {}});
+    document.RemoveSection(document.FindSection("B").value());
+    EXPECT_EQ(document.Text(), "[A]\nx=2\n");
+    EXPECT_EQ(ValueOf(document, "B", "y"), "no section");
+    document.RemoveSection(document.FindSection("A").value());
+    EXPECT_EQ(ValueOf(document, "A", "x"), "no section");
+    EXPECT_EQ(document.Text(), "");
+    EXPECT_TRUE(document.Changed());
+}
+
+TEST(IniDocument, ARemovedSectionThatIsWrittenAgainStandsInItsOldPlaceWithTheNewKeysAlone) {
+    IniDocument document("; about A\n\n; on A\n[A] ; here\n; keys\nx=1\nold=1\n; tail\n\n; B\n[B]\ny=2\n");
+    document.RemoveSection(document.FindSection("A").value());
+    Write(document, "A", "new", {"3", false, {}});
+    Write(document, "A", "x", {"4", false, {}});
+    EXPECT_EQ(ValueOf(document, "A", "old"), "no key");
+    EXPECT_EQ(document.Text(), "; about A\n\n; on A\n[A] ; here\nnew=3\nx=4\n\n; B\n[B]\ny=2\n");
+    document.RemoveSection(document.FindSection("A").value());
+    EXPECT_EQ(document.Text(), "; about A\n\n; B\n[B]\ny=2\n");
+}
+
+TEST(IniDocument, SectionsOfAllKindsOfChangeStandInTheOrderOfTheText) {
+    IniDocument document("x=0\n[A]\n[B\n[C]\nz=3\n[c]\n[D]\n\n[E]");
+    Write(document, "F", "x", {"1", false, {}});
+    Write(document, "G", "x", {"1", false, {}});
+    Write(document, "D", "x", {"1", false, {}});
+    document.RemoveSection(document.FindSection("A").value());
+    document.RemoveSection(document.FindSection("E").value());
+    document.RemoveSection(document.FindSection("F").value());
+    ASSERT_TRUE(document.RenameSection(document.FindSection("G").value(), "A"));
+    EXPECT_EQ(document.SectionNames(), (std::vector<std::string_view>{"C", "D", "A"}));
+    EXPECT_EQ(document.Text(), "x=0\n[B\n[C]\nz=3\n[c]\n[D]\nx=1\n\n[A]\nx=1");
+}
+
+TEST(IniDocument, RemovalsAndNewNamesAreAppliedToATextThatHasChangedSince) {
+    IniDocument ours("[A]\nx=1\n\n[B]\ny=2\n\n[C]\nz=3\n");
+    ours.RemoveSection(ours.FindSection("A").value());
+    ASSERT_TRUE(ours.RenameSection(ours.FindSection("B").value(), "A"));
+    ours.RemoveSection(ours.FindSection("C").value());
+    Write(ours, "C", "w", {"4", false, {}});
+    Write(ours, "A", "y", {"5", false, {}});
+
+    IniDocument theirs("; theirs\n\n[C]\nz=3\nmore=1\n\n[A]\nx=7\n\n[B]\ny=2\nmine=1\n");
+    EXPECT_EQ(ours.ApplyChangesTo(theirs), std::nullopt);
+    EXPECT_EQ(theirs.Text(), "; theirs\n\n[C]\nw=4\n\n[A]\ny=5\nmine=1\n");
+}
+
+TEST(IniDocument, WhatIsGoneAlreadyNeedsNoRemovalAndNoNewName) {
+    IniDocument ours("[A]\nx=1\n\n[B]\ny=2\n");
+    ours.RemoveSection(ours.FindSection("A").value());
+    ASSERT_TRUE(ours.RenameSection(ours.FindSection("B").value(), "C"));
+    Write(ours, "C", "y", {"3", false, {}});
+    IniDocument theirs("[D]\n");
+    EXPECT_EQ(ours.ApplyChangesTo(theirs), std::nullopt);
+    EXPECT_EQ(theirs.Text(), "[D]\n\n[C]\ny=3\n");
+}
+
+TEST(IniDocument, ANameThatSomebodyElseHasGivenMeanwhileIsToldAndNotTaken) {
+    IniDocument ours("[A]\nx=1\n");
+    ASSERT_TRUE(ours.RenameSection(ours.FindSection("A").value(), "B"));
+    IniDocument theirs("[A]\nx=1\n[b]\ny=2\n");
+    EXPECT_EQ(ours.ApplyChangesTo(theirs), "B");
+    EXPECT_EQ(theirs.Text(), "[A]\nx=1\n[b]\ny=2\n");
 }

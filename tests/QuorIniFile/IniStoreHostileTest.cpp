@@ -122,6 +122,13 @@ TEST_F(IniStoreHostile, Utf16IsRefusedForReadingAndWritingAndStays) {
     }
 }
 
+TEST_F(IniStoreHostile, AFileOfOneNulIsNotMadeIntoWhatNobodyCouldLoad) {
+    Open("\0"s);
+    EXPECT_EQ(Text(L"A", L"x"), L"-");
+    EXPECT_THROW(store.WriteInteger(L"x", 1, L""), QuorError);
+    EXPECT_EQ(File(), "\0"s);
+}
+
 TEST_F(IniStoreHostile, NulBytesAreOrdinaryBytes) {
     Open("[A]\nx=1\0 2\ny\0=3\nz=4\n"s);
     EXPECT_EQ(Text(L"A", L"x"), L"1\0 2"s);

@@ -113,6 +113,17 @@ TEST(IniStoreLayout, ALastLineWithoutAnEndStaysOne) {
               "[A]\r\nx=1\r\ny=2");
 }
 
+TEST(IniStoreLayout, ACarriageReturnAtTheEndOfTheFileStaysWithItsValue) {
+    EXPECT_EQ(After("[A]\nx=1\r",
+                    [](IniStore& store) {
+                        store.WriteInteger(L"y", 2, L"");
+                        std::wstring text;
+                        EXPECT_TRUE(store.ReadString(L"x", text));
+                        EXPECT_EQ(text, L"1\r");
+                    }),
+              "[A]\nx=1\r\r\ny=2");
+}
+
 TEST(IniStoreLayout, NewSectionsStandAtTheEnd) {
     EXPECT_EQ(After("[B]\nx=1\n; the end\n",
                     [](IniStore& store) {

@@ -1,0 +1,136 @@
+#include "QuorIniFile/IniSections.h"
+
+#include "QuorIniFile/IniFormat.h"
+
+#include <algorithm>
+#include <new>
+#include <string>
+
+namespace QuorIniFile {
+namespace {
+
+/// The next '[' at the start of a line. Headers are rare: looking for their bracket is quicker than looking
+/// at every line.
+std::size_t FindHeader(std::string_view text, std::size_t from) {
+    const std::size_t start = MarkLength(text);
+    for (std::size_t at = std::max(from, start); (at = text.find('[', at)) != npos; ++at) {
+        std::size_t line = at;
+        while (line > start && (text[line - 1] == ' ' || text[line - 1] == '\t'))
+            --line;
+        if (line == start || text[line - 1] == '\n')
+            return at;
+    }
+    return npos;
+}
+
+struct HeaderCut {
+    IniLine header;
+    std::size_t next = 0; // where the line behind it starts
+};
+
+/// The header line that starts at a '['. Nearly all have their line end right behind the ']', or no ']' at
+/// all: one look at each character tells.
+HeaderCut CutHeader(std::string_view text, std::size_t at) {
+    std::size_t end = at + 1;
+    while (end < text.size() && text[end] != ']' && text[end] != '\n')
+        ++end;
+    if (end < text.size() && text[end] == '\n')
+        return {{IniLineKind::BrokenSection, {}, {}}, end + 1};
+    if (end + 1 < text.size() && text[end + 1] == '\n')
+        return {{IniLineKind::Section, text.substr(at + 1, end - at - 1), {}}, end + 2};
+    const IniCut cut = CutLine(text, at);
+    return {ClassifyLine(cut.line), cut.next};
+}
+
+} // namespace
+
+std::vector<IniHeader> AllHeaders(std::string_view text) {
+    std::vector<IniHeader> headers;
+    for (std::size_t at = 0; (at = FindHeader(text, at)) != npos; at = headers.back().next) {
+        const auto [header, next] = CutHeader(text, at);
+        headers.push_back({at, next, std::nullopt});
+        if (header.kind == IniLineKind::Section)
+            headers.back().name = header.name;
+    }
+    return headers;
+}
+
+std::string_view IniSections::Name(std::string_view text, Section section) const {
+    const Span& span = m_spans[section];
+    return text.substr(span.name, span.nameLength);
+}
+
+bool IniSections::IsNamed(std::string_view text, std::size_t section, std::string_view name) const {
+    return m_spans[section].isFirst && SameName(Name(text, static_cast<Section>(section)), name);
+}
+
+std::optional<IniSections::Section> IniSections::Find(std::string_view text, std::string_view name) {
+    // Hosts walk through their files: the next section is the likeliest one.
+    const std::size_t next = m_asked ? *m_asked + std::size_t{1} : 0;
+    if ((next < m_spans.size() || ReadOn(text)) && IsNamed(text, next, name))
+        return m_asked = static_cast<Section>(next);
+
+    const auto known =
+        m_names.Find(HashName(name), [&](Section section) { return SameName(Name(text, section), name); });
+    if (known)
+        return m_asked = *known;
+    while (ReadOn(text)) {
+        if (IsNamed(text, m_spans.size() - 1, name))
+            return m_asked = static_cast<Section>(m_spans.size() - 1);
+    }
+    return std::nullopt;
+}
+
+std::size_t IniSections::Count(std::string_view text) {
+    while (ReadOn(text))
+        ;
+    return m_spans.size();
+}
+
+std::size_t IniSections::Begin(std::string_view text, Section section) const {
+    return CutLine(text, m_spans[section].name).next;
+}
+
+std::size_t IniSections::End(std::string_view text, Section section) {
+    const std::size_t next = section + std::size_t{1};
+    // Blanks before the '[' of the next header do no harm: they look like a blank line.
+    return next < m_spans.size() || ReadOn(text) ? m_spans[next].name - 1 : text.size();
+}
+
+bool IniSections::ReadOn(std::string_view text) {
+    for (;;) {
+        const std::size_t at = FindHeader(text, m_next);
+        if (at == npos) {
+            m_next = text.size();
+            return false;
+        }
+        if (m_spans.size() == m_spans.capacity()) // so that nothing fails once the name is in the index
+            m_spans.reserve(2 * m_spans.size() + 16);
+        const auto [header, next] = CutHeader(text, at);
+        Span span{at + 1, nameless, false};
+        if (header.kind == IniLineKind::Section && header.name.size() < nameless) {
+            span.nameLength = static_cast<std::uint32_t>(header.name.size());
+            span.isFirst = AddName(text, header.name);
+        }
+        m_next = next;
+        // Of headers that nobody can ask for, the first one marks where the section before them ends.
+        if (span.isFirst || m_spans.empty() || m_spans.back().isFirst) {
+            m_spans.push_back(span);
+            return true;
+        }
+    }
+}
+
+bool IniSections::AddName(std::string_view text, std::string_view name) {
+    if (m_spans.size() >= nameless)
+        throw std::bad_alloc();
+    std::string buffer;
+    const std::string_view canonical = CanonicalName(name, buffer);
+    const std::uint64_t hash = HashName(canonical);
+    if (m_names.Find(hash, [&](Section other) { return SameName(Name(text, other), canonical); }))
+        return false;
+    m_names.Add(hash, static_cast<Section>(m_spans.size()));
+    return true;
+}
+
+} // namespace QuorIniFile

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "QuorIniFile/Export.h"
+#include "QuorIniFile/IniIndex.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace QuorIniFile {
+
+/// A header line of a text.
+struct IniHeader {
+    std::size_t start = 0;                // where its '[' stands
+    std::size_t next = 0;                 // where the line behind it starts
+    std::optional<std::string_view> name; // nothing for a broken header
+};
+
+/// All headers of a text, in its order.
+[[nodiscard]] QUORINIFILE_EXPORT std::vector<IniHeader> AllHeaders(std::string_view text);
+
+/// The sections of a text, found as far as they were asked for: a host that wants one probe does not wait for
+/// all of them. It holds places and no text: each call is given the same one.
+class QUORINIFILE_EXPORT IniSections {
+public:
+    /// The number of a section, in the order of the text.
+    using Section = std::uint32_t;
+
+    /// The first section of that name.
+    [[nodiscard]] std::optional<Section> Find(std::string_view text, std::string_view name);
+    /// How many numbers are taken. Broken headers and sections whose name stood before may share one.
+    [[nodiscard]] std::size_t Count(std::string_view text);
+    [[nodiscard]] std::string_view Name(std::string_view text, Section section) const;
+    /// Whether Find knows it: it has a name that did not stand before.
+    [[nodiscard]] bool CanBeFound(Section section) const { return m_spans[section].isFirst; }
+    /// Where the line behind the header starts, and where the text of the section ends.
+    [[nodiscard]] std::size_t Begin(std::string_view text, Section section) const;
+    [[nodiscard]] std::size_t End(std::string_view text, Section section);
+
+private:
+    static constexpr std::uint32_t nameless = 0xFFFFFFFF;
+
+    struct Span {
+        std::size_t name = 0; // where its name starts; the '[' stands right before
+        std::uint32_t nameLength = nameless;
+        bool isFirst = false; // of its name
+    };
+
+    /// Gives the next header that matters a number. False when there is none.
+    bool ReadOn(std::string_view text);
+    /// Gives a name the next number. False when a section before has the name.
+    bool AddName(std::string_view text, std::string_view name);
+    [[nodiscard]] bool IsNamed(std::string_view text, std::size_t section, std::string_view name) const;
+
+    std::vector<Span> m_spans;
+    IniIndex m_names;
+    std::size_t m_next = 0;         // up to where the text was looked through
+    std::optional<Section> m_asked; // the section that was found last
+};
+
+} // namespace QuorIniFile

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "QuorIniFile/IniFormat.h"
+
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace Fuzz {
+
+/// `name` with ASCII letters in small: the one way in which names that differ are still the same.
+[[nodiscard]] std::wstring Folded(std::wstring name);
+
+/// A text read the plain way: line by line, with a map. It says what the indexed document has to find.
+/// It points into the text, which must outlive it.
+class PlainIni {
+public:
+    struct Line {
+        std::string_view content, end; // end: "\n", "\r\n" or, on the last line, nothing
+        QuorIniFile::IniLine parsed;
+    };
+    /// Section and key, both folded.
+    using Place = std::pair<std::wstring, std::wstring>;
+
+    explicit PlainIni(std::string_view text);
+
+    [[nodiscard]] const std::vector<Line>& Lines() const { return m_lines; }
+    /// The number of the line that counts for each key: the first of its name in the first section of its
+    /// name.
+    [[nodiscard]] const std::map<Place, std::size_t>& Keys() const { return m_keys; }
+    [[nodiscard]] bool HasSection(const std::wstring& folded) const { return m_sections.contains(folded); }
+    /// The value behind a key, as it stands in the text.
+    [[nodiscard]] std::optional<std::string_view> Value(const Place& place) const;
+
+private:
+    std::vector<Line> m_lines;
+    std::map<std::wstring, std::size_t> m_sections; // by folded name: the number of its first header line
+    std::map<Place, std::size_t> m_keys;
+};
+
+} // namespace Fuzz

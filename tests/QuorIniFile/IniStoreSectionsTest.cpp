@@ -1,0 +1,160 @@
+// Sections as a whole: listed, removed, renamed, and what becomes of that when the file is saved.
+
+#include "QuorIniFile/IniStore.h"
+
+#include "QuorIniFile/QuorError.h"
+#include "tests/support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <sys/stat.h>
+
+namespace fs = std::filesystem;
+using namespace QuorIniFile;
+
+namespace {
+
+using Names = std::vector<std::wstring>;
+
+class IniStoreSections : public testing::Test {
+protected:
+    IniStoreSections() { store->SetFileName(folder.Name("a.ini")); }
+    void File(std::string_view bytes) const { folder.Write("a.ini", bytes); }
+    [[nodiscard]] std::string File() const { return folder.Read("a.ini"); }
+    void Put(const wchar_t* section, const wchar_t* key, std::int16_t value) const {
+        store->SetSection(section);
+        store->WriteInteger(key, value, L"");
+    }
+    template <class Action>
+    std::wstring Refusal(const Action& action) const {
+        try {
+            action();
+        } catch (const QuorError& error) {
+            EXPECT_EQ(error.Source(), L"QuorIniFile");
+            std::wstring text = error.Description();
+            const std::wstring name = folder.Name("a.ini");
+            if (const auto at = text.find(name); at != std::wstring::npos)
+                text.replace(at, name.size(), L"a.ini");
+            return std::to_wstring(error.Number()) + L' ' + text;
+        }
+        return L"no refusal";
+    }
+
+    TempFolder folder;
+    std::unique_ptr<IniStore> store = std::make_unique<IniStore>();
+};
+
+} // namespace
+
+TEST_F(IniStoreSections, StandInTheOrderOfTheFileAndNewOnesBehindThem) {
+    File("top=1\n[K\xC3\xB6ln]\n[B]\n[b]\n[broken\n[A]\n");
+    store->Hold();
+    Put(L"New", L"x", 1);
+    EXPECT_EQ(store->Sections(), (Names{L"Köln", L"B", L"A", L"New"}));
+}
+
+TEST_F(IniStoreSections, OfAFileThatIsNotThereAreAnError) {
+    EXPECT_EQ(Refusal([&] { static_cast<void>(store->Sections()); }), L"53 File not found: a.ini");
+    store->RemoveSection(L"A");
+    EXPECT_FALSE(fs::exists(folder.Path("a.ini"))) << "there was nothing to remove";
+}
+
+TEST_F(IniStoreSections, AreRemovedAndRenamedWhenTheCallReturns) {
+    File("[A]\nx=1\n\n[B] ; remark\ny=2\n");
+    store->RemoveSection(L"a");
+    EXPECT_EQ(File(), "[B] ; remark\ny=2\n");
+    store->RenameSection(L"b", L"Köln");
+    EXPECT_EQ(File(), "[K\xC3\xB6ln] ; remark\ny=2\n");
+    store->RemoveSection(L"C");
+    EXPECT_EQ(store->Sections(), Names{L"Köln"});
+}
+
+TEST_F(IniStoreSections, TakeTheEncodingOfTheFile) {
+    File("[A]\nx=\xE4\n");
+    store->RenameSection(L"A", L"Köln");
+    EXPECT_EQ(File(), "[K\xF6ln]\nx=\xE4\n");
+}
+
+TEST_F(IniStoreSections, AreChangedTogetherWithWhatIsHeld) {
+    File("[A]\nx=1\n\n[B]\ny=2\n");
+    const std::string old = File();
+    store->Hold();
+    Put(L"A", L"x", 5);
+    store->RenameSection(L"A", L"C");
+    store->RemoveSection(L"B");
+    Put(L"C", L"z", 6);
+    EXPECT_EQ(File(), old);
+    store->Release();
+    EXPECT_EQ(File(), "[C]\nx=5\nz=6\n");
+}
+
+TEST_F(IniStoreSections, GiveTheSelectedNameAnotherSectionWhenTheyAreRenamed) {
+    File("[A]\nx=1\n\n[B]\nx=2\n");
+    store->SetSection(L"A");
+    std::int16_t value = 0;
+    ASSERT_TRUE(store->ReadInteger(L"x", value));
+    store->Hold();
+    store->RenameSection(L"A", L"C");
+    EXPECT_FALSE(store->ReadInteger(L"x", value));
+    store->RenameSection(L"B", L"A");
+    EXPECT_TRUE(store->ReadInteger(L"x", value));
+    EXPECT_EQ(value, 2);
+    store->Release();
+}
+
+TEST_F(IniStoreSections, KeepTheirNamesWhenTheNewOneCannotBe) {
+    const std::string text = "[A]\nx=1\n\n[B]\ny=2\n";
+    File(text);
+    EXPECT_EQ(Refusal([&] { store->RenameSection(L"A", L"b"); }),
+              L"75 Path/File access error: a.ini: There is a section \"b\" already");
+    EXPECT_EQ(Refusal([&] { store->RenameSection(L"C", L"D"); }),
+              L"75 Path/File access error: a.ini: There is no section \"C\"");
+    EXPECT_EQ(Refusal([&] { store->RenameSection(L"A", L"C\nD"); }),
+              L"75 Path/File access error: a.ini: No section can have the name \"C\nD\"");
+    EXPECT_EQ(File(), text);
+}
+
+TEST_F(IniStoreSections, AreRemovedAndRenamedInTheFileThatAnotherProgramHasChanged) {
+    File("[A]\nx=1\n\n[B]\ny=2\n");
+    store->Hold();
+    store->RemoveSection(L"A");
+    store->RenameSection(L"B", L"C");
+    File("[New]\nz=3\n\n[B]\ny=4\nw=5\n\n[A]\nx=6\n");
+    store->Release();
+    EXPECT_EQ(File(), "[New]\nz=3\n\n[C]\ny=4\nw=5\n");
+}
+
+TEST_F(IniStoreSections, TakeNoNameThatAnotherProgramHasGivenMeanwhile) {
+    File("[A]\nx=1\n");
+    store->Hold();
+    store->RenameSection(L"A", L"C");
+    const std::string theirs = "[A]\nx=1\n\n[C]\ny=4\n";
+    File(theirs);
+    EXPECT_EQ(Refusal([&] { store->Release(); }),
+              L"75 Path/File access error: a.ini: There is a section \"C\" already");
+    store->Discard();
+    EXPECT_EQ(store->Sections(), (Names{L"A", L"C"}));
+    store.reset();
+    EXPECT_EQ(File(), theirs);
+}
+
+TEST_F(IniStoreSections, ThatWereDiscardedAreNeverSaved) {
+    const std::string text = "[A]\nx=1\n";
+    File(text);
+    store->Hold();
+    store->RemoveSection(L"A");
+    Put(L"B", L"y", 2);
+    store->Discard();
+    store->Release();
+    EXPECT_EQ(store->Sections(), Names{L"A"});
+    store->Hold();
+    store->RemoveSection(L"A");
+    store->Discard();
+    store.reset();
+    EXPECT_EQ(File(), text);
+}
