@@ -1,5 +1,5 @@
 # Proves the arrows of the design: a folder includes from itself and from folders below it, never from one
-# beside or above it, and no library names a toolkit header.
+# beside or above it, and only the Qt toolkit and the window that stands on it name a toolkit header.
 # Run as: cmake -D ROOT=<repository> -P CheckArrows.cmake
 
 # From the ground up; the folders of one line stand beside each other.
@@ -13,8 +13,9 @@ set(storeys
     "QuorConversions/rtd|QuorConversions/thermistor|QuorConversions/polynomial|QuorConversions/thermocouple"
     "QuorConversions/dialogs"
     "QuorConversions"
-    "toolkits/scripted"
-    "apps/quorconv")
+    "toolkits/scripted|toolkits/qt"
+    "apps/records"
+    "apps/quorconv|apps/probe-setup")
 set(toolkit_header "^(Q[A-Z][A-Za-z]*|Qt[A-Za-z]*/.*|gtk/.*|wx/.*|windows\\.h)$")
 
 set(folders "")
@@ -55,7 +56,7 @@ foreach(top IN ITEMS QuorIniFile QuorRegistryII QuorConversions toolkits apps)
         file(STRINGS ${ROOT}/${source} includes REGEX "^[ \t]*#[ \t]*include")
         foreach(line IN LISTS includes)
             string(REGEX REPLACE "^[^<\"]*[<\"]([^>\"]*)[>\"].*$" "\\1" header "${line}")
-            if(header MATCHES "${toolkit_header}" AND NOT source MATCHES "^(toolkits|apps)/")
+            if(header MATCHES "${toolkit_header}" AND NOT source MATCHES "^(toolkits/qt|apps/probe-setup)/")
                 list(APPEND problems "${source}: includes the toolkit header ${header}")
             endif()
             folder_of(${header} to)

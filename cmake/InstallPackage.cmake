@@ -1,13 +1,23 @@
-# The CMake package: find_package(QuorConversions) gives QuorConversions::QuorConversions,
-# QuorConversions::QuorIniFile and QuorConversions::QuorRegistryII.
+# The CMake package. find_package(QuorConversions) gives QuorConversions::QuorConversions,
+# QuorConversions::QuorIniFile and QuorConversions::QuorRegistryII; with COMPONENTS Qt also
+# QuorConversions::QtToolkit, and only then it looks for Qt.
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/QuorConversions)
 install(EXPORT QuorConversionsTargets NAMESPACE QuorConversions:: DESTINATION ${package_dir})
+set(qt_components Widgets)
+if(TARGET QtToolkit)
+    install(EXPORT QuorConversionsQtTargets NAMESPACE QuorConversions:: DESTINATION ${package_dir})
+    if(NOT BUILD_SHARED_LIBS)
+        list(APPEND qt_components Help) # the host links what the archive needs
+    endif()
+endif()
+list(JOIN qt_components " " qt_components)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/QuorConversionsConfigVersion.cmake
     COMPATIBILITY SameMajorVersion)
-file(WRITE ${PROJECT_BINARY_DIR}/QuorConversionsConfig.cmake
-    "include(\"\${CMAKE_CURRENT_LIST_DIR}/QuorConversionsTargets.cmake\")\n")
+configure_package_config_file(cmake/QuorConversionsConfig.cmake.in
+    ${PROJECT_BINARY_DIR}/QuorConversionsConfig.cmake INSTALL_DESTINATION ${package_dir}
+    NO_SET_AND_CHECK_MACRO)
 install(FILES
     ${PROJECT_BINARY_DIR}/QuorConversionsConfig.cmake
     ${PROJECT_BINARY_DIR}/QuorConversionsConfigVersion.cmake

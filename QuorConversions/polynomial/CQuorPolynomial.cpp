@@ -5,13 +5,13 @@
 namespace QuorConversions {
 namespace {
 
-constexpr SettingsTraits traits{L"CQuorPolynomial", IDS_POLYNOMIAL, L"ply", L"Polynomial"};
+constexpr SettingsTraits polynomialTraits{L"CQuorPolynomial", IDS_POLYNOMIAL, L"ply", L"Polynomial"};
 constexpr const wchar_t* orderKey = L"Order";
 
 } // namespace
 
 CQuorPolynomial::CQuorPolynomial(CreationKey /*key*/, std::shared_ptr<Platform> platform)
-    : CoefficientSettings(std::move(platform), traits, POLY_A10) {
+    : CoefficientSettings(std::move(platform), polynomialTraits, POLY_A10) {
     SetOrder(MinOrder());
     SetChanged(false);
 }

@@ -5,12 +5,12 @@
 namespace QuorConversions {
 namespace {
 
-constexpr SettingsTraits traits{L"CQuorCVD", IDS_CALLENDAR_VAN_DUSEN, L"cvd", L"Callendar-Van Dusen"};
+constexpr SettingsTraits cvdTraits{L"CQuorCVD", IDS_CALLENDAR_VAN_DUSEN, L"cvd", L"Callendar-Van Dusen"};
 
 } // namespace
 
 CQuorCVD::CQuorCVD(CreationKey /*key*/, std::shared_ptr<Platform> platform)
-    : CoefficientSettings(std::move(platform), traits, anyIndex) {
+    : CoefficientSettings(std::move(platform), cvdTraits, anyIndex) {
     SetNumCoefficients(MaxCoefficients());
     SetChanged(false);
 }

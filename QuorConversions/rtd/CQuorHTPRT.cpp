@@ -6,12 +6,12 @@ namespace QuorConversions {
 namespace {
 
 // The section keeps its short form, which is not the display name, for the files that exist.
-constexpr SettingsTraits traits{L"CQuorHTPRT", IDS_HIGH_TEMPERATURE_PRT, L"hpt", L"High Temp PRT"};
+constexpr SettingsTraits htprtTraits{L"CQuorHTPRT", IDS_HIGH_TEMPERATURE_PRT, L"hpt", L"High Temp PRT"};
 
 } // namespace
 
 CQuorHTPRT::CQuorHTPRT(CreationKey /*key*/, std::shared_ptr<Platform> platform)
-    : CoefficientSettings(std::move(platform), traits, HTPRT_B) {
+    : CoefficientSettings(std::move(platform), htprtTraits, HTPRT_B) {
     ResizeCoefficients(HTPRT_B + 1);
     SetChanged(false);
 }

@@ -5,13 +5,13 @@
 namespace QuorConversions {
 namespace {
 
-constexpr SettingsTraits traits{L"CQuorIPTS68", IDS_IPTS_68, L"i68", L"IPTS-68"};
+constexpr SettingsTraits ipts68Traits{L"CQuorIPTS68", IDS_IPTS_68, L"i68", L"IPTS-68"};
 constexpr const wchar_t* scaleKey = L"IPTS-68 scale"; // spelled so, with a small word, in every file
 
 } // namespace
 
 CQuorIPTS68::CQuorIPTS68(CreationKey /*key*/, std::shared_ptr<Platform> platform)
-    : CoefficientSettings(std::move(platform), traits, IPTS68_C4) {
+    : CoefficientSettings(std::move(platform), ipts68Traits, IPTS68_C4) {
     ResizeCoefficients(IPTS68_C4 + 1);
     SetChanged(false);
 }

@@ -5,14 +5,14 @@
 namespace QuorConversions {
 namespace {
 
-constexpr SettingsTraits traits{L"CQuorITS90", IDS_ITS_90, L"i90", L"ITS-90"};
+constexpr SettingsTraits its90Traits{L"CQuorITS90", IDS_ITS_90, L"i90", L"ITS-90"};
 constexpr const wchar_t* highRangeName = L"High Range";
 constexpr const wchar_t* lowRangeName = L"Low Range";
 
 } // namespace
 
 CQuorITS90::CQuorITS90(CreationKey /*key*/, std::shared_ptr<Platform> platform)
-    : SettingsObject(std::move(platform), traits) {
+    : SettingsObject(std::move(platform), its90Traits) {
     m_lowRange = std::make_shared<CQuorITS90LowRange>(CreationKey{}, HostPlatform());
     m_highRange = std::make_shared<CQuorITS90HighRange>(CreationKey{}, HostPlatform());
 }

@@ -5,12 +5,12 @@
 namespace QuorConversions {
 namespace {
 
-constexpr SettingsTraits traits{L"CQuorPT100", IDS_PT100, L"pt1", L"Callendar-Van Dusen"};
+constexpr SettingsTraits pt100Traits{L"CQuorPT100", IDS_PT100, L"pt1", L"Callendar-Van Dusen"};
 
 } // namespace
 
 CQuorPT100::CQuorPT100(std::shared_ptr<Platform> platform)
-    : CoefficientSettings(std::move(platform), traits, anyIndex) {
+    : CoefficientSettings(std::move(platform), pt100Traits, anyIndex) {
     SetNumCoefficients(MaxCoefficients());
     SetChanged(false);
 }

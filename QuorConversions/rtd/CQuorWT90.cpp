@@ -5,12 +5,12 @@
 namespace QuorConversions {
 namespace {
 
-constexpr SettingsTraits traits{L"CQuorWT90", IDS_W_T90, L"w90", L"W(T90)"};
+constexpr SettingsTraits wt90Traits{L"CQuorWT90", IDS_W_T90, L"w90", L"W(T90)"};
 
 } // namespace
 
 CQuorWT90::CQuorWT90(CreationKey /*key*/, std::shared_ptr<Platform> platform)
-    : SettingsObject(std::move(platform), traits) {}
+    : SettingsObject(std::move(platform), wt90Traits) {}
 
 void CQuorWT90::WriteRecord(RecordWriter& record) const { record.Double(L"RTPW", m_rtpw); }
 

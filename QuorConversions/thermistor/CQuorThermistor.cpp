@@ -5,7 +5,7 @@
 namespace QuorConversions {
 namespace {
 
-constexpr SettingsTraits traits{L"CQuorThermistor", IDS_THERMISTOR, L"thr", L"Thermistor"};
+constexpr SettingsTraits thermistorTraits{L"CQuorThermistor", IDS_THERMISTOR, L"thr", L"Thermistor"};
 constexpr const wchar_t* convTypeKey = L"ConvType";
 
 /// A direction that is neither is shown as T(R).
@@ -16,7 +16,7 @@ std::wstring Direction(std::int32_t convType) {
 } // namespace
 
 CQuorThermistor::CQuorThermistor(CreationKey /*key*/, std::shared_ptr<Platform> platform)
-    : CoefficientSettings(std::move(platform), traits, THRM_A3) {
+    : CoefficientSettings(std::move(platform), thermistorTraits, THRM_A3) {
     ResizeCoefficients(THRM_A3 + 1);
     SetChanged(false);
 }

@@ -5,13 +5,14 @@
 namespace QuorConversions {
 namespace {
 
-constexpr SettingsTraits traits{L"CQuorTCPolynomial", IDS_TC_POLYNOMIAL, L"tcp", L"Thermocouple Polynomial"};
+constexpr SettingsTraits tcPolynomialTraits{L"CQuorTCPolynomial", IDS_TC_POLYNOMIAL, L"tcp",
+                                            L"Thermocouple Polynomial"};
 constexpr const wchar_t* mV25CKey = L"mV(25C)";
 
 } // namespace
 
 CQuorTCPolynomial::CQuorTCPolynomial(CreationKey /*key*/, std::shared_ptr<Platform> platform)
-    : CoefficientSettings(std::move(platform), traits, TC_POLY_C15) {
+    : CoefficientSettings(std::move(platform), tcPolynomialTraits, TC_POLY_C15) {
     SetNumCoefficients(TC_POLY_C15 + 1);
     SetChanged(false);
 }

@@ -3,12 +3,12 @@
 namespace QuorConversions {
 namespace {
 
-constexpr SettingsTraits traits{L"CQuorTCTable", IDS_TC_TABLE, L"tct", L"Thermocouple Table"};
+constexpr SettingsTraits tcTableTraits{L"CQuorTCTable", IDS_TC_TABLE, L"tct", L"Thermocouple Table"};
 
 } // namespace
 
 CQuorTCTable::CQuorTCTable(CreationKey /*key*/, std::shared_ptr<Platform> platform)
-    : PointSettings(std::move(platform), traits, TCTABLE_T10 + 1, L"Voltages", L"mV") {}
+    : PointSettings(std::move(platform), tcTableTraits, TCTABLE_T10 + 1, L"Voltages", L"mV") {}
 
 void CQuorTCTable::WriteRecord(RecordWriter& record) const {
     WriteNumPoints(record);

@@ -5,21 +5,20 @@
 namespace QuorConversions {
 namespace {
 
-constexpr SettingsTraits traits{L"CQuorTCTypeX", IDS_TC_TYPE, L"tcx", L"Thermocouple Type"};
-constexpr const wchar_t* typeKey = L"TCType";
+constexpr SettingsTraits tcTypeXTraits{L"CQuorTCTypeX", IDS_TC_TYPE, L"tcx", L"Thermocouple Type"};
 constexpr const wchar_t* tempScaleKey = L"TempScale";
 constexpr const wchar_t* offsetScaleKey = L"OffsetScale";
 constexpr const wchar_t* coefficientsKey = L"Coefficients";
 
 // C, L, M and U are members of the enumeration that this class neither names nor offers.
-constexpr TCTypeCatalogue catalogue{
+constexpr TCTypeCatalogue typesWithPoints{
     {L"B", nullptr, L"E", L"J", L"K", nullptr, nullptr, L"N", L"R", L"S", L"T", nullptr, L"AuPt"}};
 
 } // namespace
 
 CQuorTCTypeX::CQuorTCTypeX(CreationKey /*key*/, std::shared_ptr<Platform> platform)
-    : PointSettings(std::move(platform), traits, TCTYPEX_T3 + 1, L"Offsets", L"\u00B0C"),
-      m_coefficients(traits.className, TCTYPEX_DC2) {
+    : PointSettings(std::move(platform), tcTypeXTraits, TCTYPEX_T3 + 1, L"Offsets", L"\u00B0C"),
+      m_coefficients(tcTypeXTraits.className, TCTYPEX_DC2) {
     m_coefficients.Resize(TCTYPEX_DC2 + 1);
 }
 
@@ -27,7 +26,7 @@ std::wstring CQuorTCTypeX::GetTCTypeName(std::int32_t tc) const {
     return GetName(tc == currentValue ? m_type : tc);
 }
 
-void CQuorTCTypeX::FillTCTypeNameCombo(ListControl& ctrl) const { catalogue.Fill(ctrl); }
+void CQuorTCTypeX::FillTCTypeNameCombo(ListControl& ctrl) const { typesWithPoints.Fill(ctrl); }
 
 bool CQuorTCTypeX::CheckPoint(std::int32_t index) const {
     if (IsValidPoint(index))
@@ -54,12 +53,12 @@ void CQuorTCTypeX::SetOffsets(std::int32_t index, double value) {
         SetPointValues(index, value);
 }
 
-std::wstring CQuorTCTypeX::GetName(std::int32_t tc) const { return catalogue.Name(tc, m_type); }
+std::wstring CQuorTCTypeX::GetName(std::int32_t tc) const { return typesWithPoints.Name(tc, m_type); }
 
 std::wstring CQuorTCTypeX::GetName() const { return GetName(currentValue); }
 
 void CQuorTCTypeX::WriteRecord(RecordWriter& record) const {
-    record.Integer(typeKey, m_type);
+    record.Integer(tcTypeKey, m_type);
     WriteNumPoints(record);
     record.Text(tempScaleKey, TempScale());
     record.Text(offsetScaleKey, OffsetScale());
@@ -69,7 +68,7 @@ void CQuorTCTypeX::WriteRecord(RecordWriter& record) const {
 }
 
 void CQuorTCTypeX::ReadRecord(RecordReader& record) {
-    SetTCType(ETCType{record.Integer(typeKey, m_type)});
+    SetTCType(ETCType{record.Integer(tcTypeKey, m_type)});
     ReadNumPoints(record);
     SetTempScale(record.Text(tempScaleKey, TempScale()));
     SetOffsetScale(record.Text(offsetScaleKey, OffsetScale()));

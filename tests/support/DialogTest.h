@@ -3,6 +3,7 @@
 #include "tests/support/Messages.h"
 #include "tests/support/Objects.h"
 #include "tests/support/SettingsClasses.h"
+#include "tests/support/TestedScreen.h"
 
 #include <algorithm>
 #include <functional>
@@ -81,7 +82,7 @@ private:
     QuorConversions::EQuorConversionType m_type;
 
 protected:
-    std::shared_ptr<ScriptedPlatform> platform = std::make_shared<ScriptedPlatform>();
+    std::shared_ptr<ScriptedPlatform> platform = std::make_shared<ScriptedPlatform>(TestedScreen());
     std::shared_ptr<T> settings = NewSettings<T>(m_type, platform);
 };
 

@@ -1,71 +1,12 @@
 #include "toolkits/scripted/Person.h"
 
+#include "QuorConversions/controls/ControlNames.h"
 #include "QuorIniFile/Utf8.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace QuorConversions::Scripted {
 namespace {
-
-/// A caption as it is spoken of: without access key and colon.
-std::wstring Spoken(std::wstring caption) {
-    std::erase(caption, L'&');
-    if (!caption.empty() && caption.back() == L':')
-        caption.pop_back();
-    return caption;
-}
-
-struct Named {
-    std::wstring name;
-    Control* control;
-};
-
-/// What a row gives names to: a label names the next control; the label that begins a row of points names,
-/// with the heading above, each box of the row.
-void NameRow(const Frame::Row& row, const Frame::Row* headings, std::vector<Named>& names) {
-    const Control* label = nullptr;
-    for (std::size_t column = 0; column < row.size(); ++column) {
-        Control* const control = row[column];
-        if (!control)
-            continue;
-        if (control->Kind() == ControlKind::Label) {
-            if (!label)
-                label = control;
-            continue;
-        }
-        if (!control->TakesFocus() || !label)
-            continue;
-        const bool inGrid = headings && column < headings->size() && (*headings)[column];
-        names.push_back({inGrid ? Spoken((*headings)[column]->Caption()) + L" " + label->Caption()
-                                : Spoken(label->Caption()),
-                         control});
-    }
-}
-
-bool IsHeadings(const Frame::Row& row) {
-    return row.size() > 1 && !row.front() && std::all_of(row.begin(), row.end(), [](const Control* c) {
-               return !c || c->Kind() == ControlKind::Label;
-           });
-}
-
-std::vector<Named> NamesOf(const Dialog& dialog) {
-    std::vector<Named> names;
-    for (const auto& control : dialog.Controls()) {
-        if (control->Kind() == ControlKind::PushButton)
-            names.push_back({Spoken(control->Caption()), control.get()});
-        if (control->Kind() != ControlKind::Frame)
-            continue;
-        const Frame::Row* headings = nullptr;
-        for (const Frame::Row& row : static_cast<const Frame&>(*control).Rows()) {
-            if (IsHeadings(row))
-                headings = &row;
-            else
-                NameRow(row, headings, names);
-        }
-    }
-    return names;
-}
 
 std::wstring TextOf(const Control& control) {
     switch (control.Kind()) {
@@ -91,7 +32,7 @@ std::wstring Drawn(const Control& control) {
         text = L"[" + TextOf(control) + L" v]";
         break;
     case ControlKind::PushButton:
-        text = L"<" + Spoken(control.Caption()) + L">";
+        text = L"<" + SpokenCaption(control.Caption()) + L">";
         break;
     case ControlKind::TabStrip: {
         const auto& tabs = static_cast<const TabStrip&>(control);
@@ -130,17 +71,17 @@ void DrawFrame(const Frame& frame, const std::wstring& indent, std::wstring& scr
 
 CannotDo::CannotDo(const std::wstring& what) : std::runtime_error(QuorIniFile::ToUtf8(what)), text(what) {}
 
-DialogInput& Person::Input() const {
+Hands& Person::OnOpenDialog() const {
     if (!m_dialog.IsOpen())
         throw CannotDo(L"the dialog is closed");
-    return m_input;
+    return m_hands;
 }
 
 Control& Person::Find(std::wstring_view name) const {
     if (Control* const control = m_dialog.Find(name))
         return *control;
     Control* hidden = nullptr;
-    for (const Named& named : NamesOf(m_dialog)) {
+    for (const ControlName& named : ControlNames(m_dialog)) {
         if (named.name != name)
             continue;
         if (named.control->IsShown())
@@ -166,8 +107,8 @@ T& Person::Find(std::wstring_view name, ControlKind kind, const wchar_t* what) c
 
 void Person::Type(std::wstring_view box, std::wstring_view text) {
     auto& target = Find<TextBox>(box, ControlKind::TextBox, L"text box");
-    Input().Focus(target);
-    target.SetSelection(0, target.Text().size());
+    OnOpenDialog().GoTo(target);
+    OnOpenDialog().SelectAll();
     TypeHere(text);
 }
 
@@ -177,33 +118,13 @@ void Person::TypeHere(std::wstring_view text) {
             Press(static_cast<std::int16_t>(character));
 }
 
-void Person::Press(std::int16_t keyAscii) {
-    constexpr std::int16_t backspace = 8;
-    const std::int16_t key = Input().KeyPress(keyAscii);
-    Control* const active = m_dialog.ActiveControl();
-    const bool changesText = key == backspace || key >= 32; // copy and the like have no clipboard here
-    if (!changesText || !active || active->Kind() != ControlKind::TextBox)
-        return;
-    auto& box = static_cast<TextBox&>(*active);
-    std::wstring text = box.Text();
-    std::size_t at = box.SelStart();
-    const std::size_t selected = box.SelLength();
-    if (key == backspace && selected == 0 && at > 0)
-        text.erase(--at, 1);
-    else if (key == backspace || key >= 32)
-        text.erase(at, selected);
-    if (key >= 32)
-        text.insert(at++, 1, static_cast<wchar_t>(key));
-    Input().Edit(box, std::move(text), at, 0);
-}
-
-void Person::GoTo(std::wstring_view control) { Input().Focus(Find(control)); }
+void Person::GoTo(std::wstring_view control) { OnOpenDialog().GoTo(Find(control)); }
 
 void Person::Choose(std::wstring_view list, std::wstring_view item) {
     auto& target = Find<DropDownList>(list, ControlKind::DropDownList, L"list");
     for (std::int32_t index = 0; index < target.ListCount(); ++index)
         if (target.List(index) == item)
-            return Input().Choose(target, index);
+            return OnOpenDialog().Choose(target, index);
     throw CannotDo(L"\"" + std::wstring(list) + L"\" does not offer \"" + std::wstring(item) + L"\"");
 }
 
@@ -214,13 +135,13 @@ void Person::TurnTo(std::wstring_view tab) {
         auto& strip = static_cast<TabStrip&>(*control);
         for (std::size_t i = 0; i < strip.Tabs().size(); ++i)
             if (strip.Tabs()[i].present && strip.Tabs()[i].caption == tab)
-                return Input().SelectTab(strip, i);
+                return OnOpenDialog().SelectTab(strip, i);
     }
     throw CannotDo(L"there is no page \"" + std::wstring(tab) + L"\"");
 }
 
 void Person::Click(std::wstring_view button) {
-    Input().Click(Find<PushButton>(button, ControlKind::PushButton, L"button"));
+    OnOpenDialog().Click(Find<PushButton>(button, ControlKind::PushButton, L"button"));
 }
 
 std::wstring Person::Reads(std::wstring_view control) const { return TextOf(Find(control)); }
@@ -242,7 +163,7 @@ std::wstring Person::Screen() const {
 
 std::vector<std::wstring> Person::Names() const {
     std::vector<std::wstring> names;
-    for (Named& named : NamesOf(m_dialog))
+    for (ControlName& named : ControlNames(m_dialog))
         names.push_back(std::move(named.name));
     return names;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "QuorConversions/controls/Dialog.h"
+#include "toolkits/scripted/Hands.h"
 
 #include <stdexcept>
 #include <string>
@@ -23,16 +24,16 @@ struct CannotDo : std::runtime_error {
 /// ("txtCoefficients(0)").
 class Person {
 public:
-    Person(Dialog& dialog, DialogInput& input) : m_dialog(dialog), m_input(input) {}
+    Person(Dialog& dialog, Hands& hands) : m_dialog(dialog), m_hands(hands) {}
 
     /// Goes to a text box, which selects its text, and types over it.
     void Type(std::wstring_view box, std::wstring_view text);
     /// Types at the place of the selection of the box that has the focus.
     void TypeHere(std::wstring_view text);
     /// Presses a key that has a character code, 13 for Enter, 8 for Backspace.
-    void Press(std::int16_t keyAscii);
-    void Tab(bool backwards = false) { Input().Tab(backwards); }
-    void Escape() { Input().Escape(); }
+    void Press(std::int16_t keyAscii) { OnOpenDialog().Press(keyAscii); }
+    void Tab(bool backwards = false) { OnOpenDialog().Tab(backwards); }
+    void Escape() { OnOpenDialog().Escape(); }
     /// Goes to a control.
     void GoTo(std::wstring_view control);
     /// Chooses the item with that text.
@@ -41,9 +42,9 @@ public:
     void TurnTo(std::wstring_view tab);
     void Click(std::wstring_view button);
     /// Moves the window.
-    void MoveTo(std::int32_t left, std::int32_t top) { m_dialog.SetPlace(Dialog::Placement{left, top}); }
+    void MoveTo(std::int32_t left, std::int32_t top) { m_hands.MoveTo(left, top); }
     /// Closes the window by its own close box.
-    void Close() { Input().Close(); }
+    void Close() { OnOpenDialog().Close(); }
 
     [[nodiscard]] const Dialog& Sees() const { return m_dialog; }
     /// The text of a box, the selected item of a list, the caption of anything else.
@@ -59,13 +60,13 @@ public:
 
 private:
     /// Only an open dialog can be acted on.
-    [[nodiscard]] DialogInput& Input() const;
+    [[nodiscard]] Hands& OnOpenDialog() const;
     [[nodiscard]] Control& Find(std::wstring_view name) const;
     template <class T>
     [[nodiscard]] T& Find(std::wstring_view name, ControlKind kind, const wchar_t* what) const;
 
     Dialog& m_dialog;
-    DialogInput& m_input;
+    Hands& m_hands;
 };
 
 } // namespace QuorConversions::Scripted

@@ -31,24 +31,27 @@ void ScriptedPlatform::ComplainOfWhatDidNotCome() {
 
 void ScriptedPlatform::RunDialog(Dialog& dialog, DialogInput& input) {
     m_events.push_back(L"dialog " + dialog.Title());
-    dialog.SetWindowHandle(1); // any window will do as the owner of a file dialog
-    input.Activate();
+    m_screen->Run(dialog, input, [&](Hands& hands) {
+        Act(dialog, hands);
+        hands.Escape();
+    });
+}
+
+void ScriptedPlatform::Act(Dialog& dialog, Hands& hands) {
     if (m_dialogs.empty()) {
         Complain(L"nobody is there for the dialog \"" + dialog.Title() + L"\"");
-    } else {
-        const auto action = std::move(m_dialogs.front());
-        m_dialogs.pop_front();
-        Person person(dialog, input);
-        try {
-            action(person);
-        } catch (const CannotDo& error) {
-            Complain(error.text);
-        }
-        if (dialog.IsOpen())
-            Complain(L"the dialog \"" + dialog.Title() + L"\" was left open");
+        return;
     }
-    input.Escape();
-    dialog.SetWindowHandle(0);
+    const auto action = std::move(m_dialogs.front());
+    m_dialogs.pop_front();
+    Person person(dialog, hands);
+    try {
+        action(person);
+    } catch (const CannotDo& error) {
+        Complain(error.text);
+    }
+    if (dialog.IsOpen())
+        Complain(L"the dialog \"" + dialog.Title() + L"\" was left open");
 }
 
 void ScriptedPlatform::ShowMessage(const MessageRequest& request) {
@@ -61,8 +64,10 @@ void ScriptedPlatform::ShowMessage(const MessageRequest& request) {
         else
             m_expected.pop_front();
     }
-    if (m_whileShown)
-        m_whileShown();
+    m_screen->ShowMessage(request, [this] {
+        if (m_whileShown)
+            m_whileShown();
+    });
 }
 
 std::optional<std::wstring> ScriptedPlatform::AskForFile(const FileRequest& request) {

@@ -2,6 +2,7 @@
 
 #include "QuorConversions/platform/Platform.h"
 #include "toolkits/scripted/Person.h"
+#include "toolkits/scripted/Screen.h"
 
 #include <cstdint>
 #include <deque>
@@ -20,6 +21,9 @@ namespace QuorConversions::Scripted {
 /// or hear is recorded, and nothing ever blocks. A file dialog without an answer is cancelled.
 class ScriptedPlatform : public Platform {
 public:
+    explicit ScriptedPlatform(std::shared_ptr<Screen> screen = std::make_shared<Screen>())
+        : m_screen(std::move(screen)) {}
+
     struct HelpCall {
         std::wstring helpFile;
         std::uint32_t command;
@@ -73,6 +77,10 @@ public:
     [[nodiscard]] std::wstring DecimalSeparator() override { return m_separator; }
 
 private:
+    /// Lets the next person act on the dialog.
+    void Act(Dialog& dialog, Hands& hands);
+
+    std::shared_ptr<Screen> m_screen;
     std::deque<std::optional<std::wstring>> m_answers;
     std::deque<std::function<void(Person&)>> m_dialogs;
     std::wstring m_separator = L".";

@@ -16,6 +16,7 @@
 #include "tests/support/DecimalSeparator.h"
 #include "tests/support/Messages.h"
 #include "tests/support/Objects.h"
+#include "tests/support/TestedScreen.h"
 
 #include <algorithm>
 #include <bit>
@@ -145,6 +146,8 @@ void PrintTo(const DialogCase& dialog, std::ostream* out) { *out << PlainName(di
 /// A scripted screen whose dialog a test can also follow, and speak to, as a toolkit does.
 class TestScreen : public ScriptedPlatform {
 public:
+    TestScreen() : ScriptedPlatform(Support::TestedScreen()) {}
+
     Dialog* dialog = nullptr;
     DialogInput* input = nullptr;
     std::function<void()> beforeActivation;
@@ -929,7 +932,7 @@ void PrintTo(const ChangingHost& host, std::ostream* out) {
 class ChangingHostTest : public testing::TestWithParam<ChangingHost> {
 protected:
     Support::FreshDecimalSeparator fresh;
-    std::shared_ptr<ScriptedPlatform> platform = std::make_shared<ScriptedPlatform>();
+    std::shared_ptr<ScriptedPlatform> platform = std::make_shared<ScriptedPlatform>(Support::TestedScreen());
     std::shared_ptr<SettingsObject> settings =
         Support::NewSettings<SettingsObject>(GetParam().code, platform);
 

@@ -6,7 +6,8 @@
 TEST_F(QuorconvTest, ChecksTheSamplesWithoutAComplaint) {
     std::vector<std::string> arguments{"check"};
     for (const auto& entry : std::filesystem::directory_iterator(QUOR_SAMPLES))
-        if (entry.path().extension() != ".md" && entry.path().filename().string().front() != '.')
+        if (entry.is_regular_file() && entry.path().extension() != ".md" &&
+            entry.path().filename().string().front() != '.')
             arguments.push_back(entry.path().string());
     EXPECT_EQ(arguments.size(), 14U);
     ExpectFine(arguments);

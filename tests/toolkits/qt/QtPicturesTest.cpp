@@ -1,0 +1,210 @@
+// What a person sees of the twelve dialogs, checked by measure: at the scale of this process
+// (QT_SCALE_FACTOR), in a light and a dark palette, in two languages, in large letters, from right to left.
+// The pictures are left in the folder "pictures", by scale, for people to look at.
+
+#include "QuorConversions/resources/StringIds.h"
+#include "QuorConversions/resources/StringTable.h"
+#include "QuorConversions/rtd/CQuorITS90.h"
+#include "tests/support/DecimalSeparator.h"
+#include "tests/support/Objects.h"
+#include "tests/support/SettingsClasses.h"
+#include "tests/support/TestedScreen.h"
+#include "tests/toolkits/qt/QtScreen.h"
+#include "toolkits/qt/QtText.h"
+#include "toolkits/qt/Translations.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPalette>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
+#include <QTabBar>
+#include <QTest>
+
+#include <algorithm>
+
+using namespace QuorConversions;
+using QtToolkit::FromQt;
+using QtToolkit::InstallTranslations;
+using Scripted::Person;
+using Support::FreshDecimalSeparator;
+using Support::QtHands;
+using Support::settingsClasses;
+
+namespace {
+
+/// The longest number: 17 digits, two signs, three digits of exponent.
+const wchar_t* const longestNumber = L"-2.2250738585072014e-308";
+
+QPalette Dark() {
+    QPalette palette(QColor(45, 45, 45));
+    palette.setColor(QPalette::Base, QColor(30, 30, 30));
+    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(140, 140, 140));
+    return palette;
+}
+
+struct Look {
+    const char* name;
+    bool dark;
+    QLocale::Language language;
+    int pointSize; ///< 0 for the usual one
+    Qt::LayoutDirection direction;
+};
+
+const Look looks[] = {
+    {"light", false, QLocale::English, 0, Qt::LeftToRight},
+    {"dark", true, QLocale::English, 0, Qt::LeftToRight},
+    {"light-german", false, QLocale::German, 0, Qt::LeftToRight},
+    {"dark-german", true, QLocale::German, 0, Qt::LeftToRight},
+    {"large", false, QLocale::English, 18, Qt::LeftToRight},
+    {"mirrored", false, QLocale::English, 0, Qt::RightToLeft},
+};
+
+void PrintTo(const Look& look, std::ostream* out) { *out << look.name; }
+
+/// The application as it looks in one case, and as it was afterwards.
+class Dressed {
+public:
+    explicit Dressed(const Look& look) : m_palette(QApplication::palette()), m_font(QApplication::font()) {
+        if (look.dark)
+            QApplication::setPalette(Dark());
+        QFont font = m_font;
+        if (look.pointSize > 0)
+            font.setPointSize(look.pointSize);
+        QApplication::setFont(font);
+        QLocale::setDefault(QLocale(look.language));
+        InstallTranslations(QLocale());
+        QApplication::setLayoutDirection(look.direction);
+    }
+    Dressed(const Dressed&) = delete;
+    Dressed& operator=(const Dressed&) = delete;
+    ~Dressed() {
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+        QLocale::setDefault(QLocale::c());
+        InstallTranslations(QLocale());
+        QApplication::setFont(m_font);
+        QApplication::setPalette(m_palette);
+    }
+
+private:
+    FreshDecimalSeparator m_separator;
+    QPalette m_palette;
+    QFont m_font;
+};
+
+QRect PlaceIn(const QWidget& widget, const QWidget& window) {
+    return {widget.mapTo(&window, QPoint()), widget.size()};
+}
+
+/// How wide the widget has to be to show all of its text; 0 where that is no matter.
+int WidthOfText(const QWidget& widget) {
+    const QFontMetrics metrics = widget.fontMetrics();
+    if (const auto* const label = qobject_cast<const QLabel*>(&widget)) {
+        return label->wordWrap() ? 0 : metrics.size(Qt::TextShowMnemonic, label->text()).width();
+    }
+    if (const auto* const button = qobject_cast<const QPushButton*>(&widget)) {
+        return metrics.size(Qt::TextShowMnemonic, button->text()).width();
+    }
+    if (const auto* const box = qobject_cast<const QLineEdit*>(&widget)) {
+        const int frame = 2 * (box->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, box) + 2);
+        return metrics.horizontalAdvance(box->text()) + frame;
+    }
+    if (const auto* const list = qobject_cast<const QComboBox*>(&widget)) {
+        return list->sizeHint().width(); // that of its longest item
+    }
+    if (const auto* const group = qobject_cast<const QGroupBox*>(&widget)) {
+        return metrics.horizontalAdvance(group->title());
+    }
+    if (const auto* const tabs = qobject_cast<const QTabBar*>(&widget)) {
+        return tabs->sizeHint().width();
+    }
+    return 0;
+}
+
+void ExpectWellDrawn(const QWidget& window, const Dialog& dialog) {
+    const auto& area = *window.findChild<QScrollArea*>();
+    const QWidget& content = *area.widget();
+    EXPECT_FALSE(area.horizontalScrollBar()->isVisible()) << "rows must not be cut at the side";
+    EXPECT_FALSE(area.verticalScrollBar()->isVisible()) << "there is room for all rows on this screen";
+    std::vector<const QWidget*> controls;
+    for (const auto& control : dialog.Controls()) {
+        const auto* const widget = window.findChild<QWidget*>(QtToolkit::ToQt(control->Name()));
+        ASSERT_NE(widget, nullptr);
+        if (!widget->isVisible())
+            continue;
+        SCOPED_TRACE(testing::PrintToString(control->Name()));
+        const QRect place = PlaceIn(*widget, content);
+        EXPECT_TRUE(content.rect().contains(place)) << "it stands outside of its window";
+        EXPECT_LE(WidthOfText(*widget), widget->width()) << "its text is cut";
+        if (const auto* const label = qobject_cast<const QLabel*>(widget); label && label->wordWrap()) {
+            EXPECT_LE(label->heightForWidth(label->width()), label->height()) << "its lines are cut";
+        }
+        if (control->Kind() != ControlKind::Frame) {
+            EXPECT_LE(widget->minimumSizeHint().height(), widget->height()) << "its text is cut";
+            for (const QWidget* const other : controls)
+                EXPECT_FALSE(place.intersects(PlaceIn(*other, content)))
+                    << "it overlaps " << other->objectName().toStdString();
+            controls.push_back(widget);
+        }
+        if (control->Kind() == ControlKind::TextBox) {
+            EXPECT_FALSE(widget->accessibleName().isEmpty());
+        }
+    }
+    EXPECT_GT(controls.size(), 5U);
+}
+
+class QtPicturesTest : public testing::TestWithParam<Look> {};
+
+} // namespace
+
+TEST_P(QtPicturesTest, EveryDialogShowsAllItsTextsAndNoTwoControlsOverlap) {
+    const Dressed dressed(GetParam());
+    const QString folder = QStringLiteral("pictures/") + qEnvironmentVariable("QT_SCALE_FACTOR", "1") +
+                           QLatin1Char('/') + QLatin1String(GetParam().name);
+    ASSERT_TRUE(QDir().mkpath(folder));
+    for (const auto& settingsClass : settingsClasses) {
+        SCOPED_TRACE(testing::PrintToString(settingsClass));
+        const auto platform = std::make_shared<Scripted::ScriptedPlatform>(Support::TestedScreen());
+        platform->SetDecimalSeparator(FromQt(QLocale().decimalPoint()));
+        const auto settings = Support::NewSettings<SettingsObject>(settingsClass.code, platform);
+        if (const auto its90 = std::dynamic_pointer_cast<CQuorITS90>(settings)) {
+            its90->LowRange()->SetRange(ITS90_RANGE_5);
+            its90->HighRange()->SetMinRange(ITS90_RANGE_6); // now range 5 needs the note
+            its90->HighRange()->SetRange(ITS90_RANGE_6);
+        }
+        platform->InDialog([&](Person& person) {
+            std::wstring number = longestNumber;
+            std::replace(number.begin(), number.end(), L'.', FromQt(QLocale().decimalPoint()).front());
+            for (const auto& control : person.Sees().Controls())
+                if (control->Kind() == ControlKind::TextBox && control->IsUsable())
+                    person.Type(control->Name(), number);
+            QWidget& window = *QApplication::activeModalWidget();
+            QTest::qWait(20); // what was changed is laid out
+            ExpectWellDrawn(window, person.Sees());
+            EXPECT_TRUE(window.grab().save(folder + QLatin1Char('/') + window.objectName() + ".png"));
+            if (settingsClass.code == CONV_ITS90) {
+                person.TurnTo(TableText(IDS_HIGH_RANGE));
+                QTest::qWait(20);
+                ExpectWellDrawn(window, person.Sees());
+                EXPECT_TRUE(
+                    window.grab().save(folder + QLatin1Char('/') + window.objectName() + "-high.png"));
+            }
+            person.Escape();
+        });
+        EXPECT_FALSE(settings->Edit());
+        EXPECT_TRUE(platform->NothingLeft()) << testing::PrintToString(platform->Complaints());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Looks, QtPicturesTest, testing::ValuesIn(looks), [](const auto& tested) {
+    std::string name = tested.param.name;
+    std::erase(name, '-');
+    return name;
+});

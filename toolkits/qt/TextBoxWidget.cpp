@@ -1,0 +1,136 @@
+#include "toolkits/qt/TextBoxWidget.h"
+
+#include <QKeyEvent>
+#include <QStyle>
+#include <QStyleOptionFrame>
+
+#include <utility>
+
+namespace QuorConversions::QtToolkit {
+namespace {
+
+constexpr std::int16_t backspaceKey = 8;
+constexpr std::int16_t enterKey = 13;
+constexpr std::int16_t noSuchKey = -1;
+
+/// Keys that stand for what they do, in whatever combination the system has for it.
+const struct {
+    QKeySequence::StandardKey key;
+    std::int16_t keyAscii;
+    void (QLineEdit::*perform)();
+} editingKeys[] = {
+    {QKeySequence::Copy, 3, nullptr}, // copying is const
+    {QKeySequence::Paste, 22, &QLineEdit::paste},
+    {QKeySequence::Cut, 24, &QLineEdit::cut},
+    {QKeySequence::Undo, 26, &QLineEdit::undo},
+};
+
+/// A character typed with Control, Alt or the system key is a command. Both Control and Alt are AltGr.
+bool IsTyped(const QKeyEvent& event) {
+    const auto modifiers = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const bool isPlain = modifiers == Qt::NoModifier || modifiers == (Qt::ControlModifier | Qt::AltModifier);
+    return isPlain && !event.text().isEmpty() && event.text().front().unicode() >= u' ' &&
+           event.text().front().unicode() != 127;
+}
+
+/// Whether the key is a command and yet has a character, which a line of text would type unasked: one with
+/// Alt or the system key, or an invisible mark with Control.
+bool WouldTypeUnasked(const QKeyEvent& event) {
+    if (event.text().isEmpty() || IsTyped(event))
+        return false;
+    return event.modifiers() & (Qt::AltModifier | Qt::MetaModifier) ||
+           event.text().front().category() == QChar::Other_Format;
+}
+
+} // namespace
+
+std::int16_t KeyAsciiOf(const QKeyEvent& event) {
+    for (const auto& row : editingKeys)
+        if (event.matches(row.key))
+            return row.keyAscii;
+    if (event.key() == Qt::Key_Backspace)
+        return backspaceKey;
+    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
+        return enterKey;
+    if (!IsTyped(event))
+        return 0;
+    const char16_t character = event.text().front().unicode();
+    return character <= 0x7FFF ? static_cast<std::int16_t>(character) : noSuchKey;
+}
+
+TextBoxWidget::TextBoxWidget(KeyFilter filter, QWidget* parent)
+    : QLineEdit(parent), m_filter(std::move(filter)) {
+    setLayoutDirection(Qt::LeftToRight);
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    Measure();
+}
+
+void TextBoxWidget::Measure() {
+    ensurePolished();
+    // Seventeen digits, two signs, a separator, an exponent; and the cursor.
+    const int text = fontMetrics().horizontalAdvance(QStringLiteral("-8.8888888888888888E-888")) +
+                     fontMetrics().averageCharWidth();
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    const QSize contents(text + 4, fontMetrics().height()); // 2 on each side of the text
+    setMinimumWidth(style()->sizeFromContents(QStyle::CT_LineEdit, &option, contents, this).width());
+}
+
+void TextBoxWidget::changeEvent(QEvent* event) {
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        Measure();
+}
+
+void TextBoxWidget::keyPressEvent(QKeyEvent* event) {
+    const std::int16_t pressed = KeyAsciiOf(*event);
+    if (pressed == 0 && WouldTypeUnasked(*event))
+        return event->ignore();
+    if (pressed == 0)
+        return QLineEdit::keyPressEvent(event);
+    event->accept();
+    const std::int16_t counts = pressed == noSuchKey ? std::int16_t{0} : m_filter(pressed);
+    if (counts == 0 || counts == enterKey) // an Enter that nobody took does nothing to a line of text
+        return;
+    if (counts == pressed)
+        QLineEdit::keyPressEvent(event);
+    else
+        Perform(counts);
+}
+
+void TextBoxWidget::Perform(std::int16_t keyAscii) {
+    for (const auto& row : editingKeys)
+        if (row.keyAscii == keyAscii) {
+            if (row.perform)
+                (this->*row.perform)();
+            else
+                copy();
+            return;
+        }
+    if (keyAscii == backspaceKey)
+        backspace();
+    else if (keyAscii >= ' ')
+        insert(QString(QChar(keyAscii)));
+}
+
+void TextBoxWidget::focusInEvent(QFocusEvent* event) {
+    m_clickBringsFocus = event->reason() == Qt::MouseFocusReason;
+    QLineEdit::focusInEvent(event);
+}
+
+void TextBoxWidget::mousePressEvent(QMouseEvent* event) {
+    // The click that goes to a box leaves its text selected, as the Tab key does; the next one puts the
+    // cursor.
+    m_clickSelectsAll = std::exchange(m_clickBringsFocus, false) && event->button() == Qt::LeftButton;
+    if (m_clickSelectsAll)
+        event->accept();
+    else
+        QLineEdit::mousePressEvent(event);
+}
+
+void TextBoxWidget::mouseMoveEvent(QMouseEvent* event) {
+    if (!m_clickSelectsAll) // also where the hand trembles
+        QLineEdit::mouseMoveEvent(event);
+}
+
+} // namespace QuorConversions::QtToolkit

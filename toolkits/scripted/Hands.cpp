@@ -1,0 +1,37 @@
+#include "toolkits/scripted/Hands.h"
+
+#include <string>
+#include <utility>
+
+namespace QuorConversions::Scripted {
+
+TextBox* ModelHands::ActiveBox() const {
+    Control* const active = m_dialog.ActiveControl();
+    return active && active->Kind() == ControlKind::TextBox ? static_cast<TextBox*>(active) : nullptr;
+}
+
+void ModelHands::SelectAll() {
+    if (TextBox* const box = ActiveBox())
+        box->SetSelection(0, box->Text().size());
+}
+
+void ModelHands::Press(std::int16_t keyAscii) {
+    constexpr std::int16_t backspace = 8;
+    const std::int16_t key = m_input.KeyPress(keyAscii);
+    TextBox* const box = ActiveBox();
+    const bool changesText = key == backspace || key >= 32; // copy and the like have no clipboard here
+    if (!changesText || !box)
+        return;
+    std::wstring text = box->Text();
+    std::size_t at = box->SelStart();
+    const std::size_t selected = box->SelLength();
+    if (key == backspace && selected == 0 && at > 0)
+        text.erase(--at, 1);
+    else if (key == backspace || key >= 32)
+        text.erase(at, selected);
+    if (key >= 32)
+        text.insert(at++, 1, static_cast<wchar_t>(key));
+    m_input.Edit(*box, std::move(text), at, 0);
+}
+
+} // namespace QuorConversions::Scripted
