@@ -1,11 +1,12 @@
 #include "apps/quorconv/Commands.h"
 
+#include "QuorIniFile/IniFormat.h"
 #include "QuorIniFile/IniValue.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
-#include "apps/quorconv/IniImage.h"
 #include "apps/quorconv/Probe.h"
-#include "apps/quorconv/ProbeFile.h"
+#include "apps/records/IniImage.h"
+#include "apps/records/ProbeFile.h"
 
 #include <algorithm>
 #include <iostream>
@@ -17,6 +18,7 @@
 namespace quorconv {
 
 using namespace QuorConversions;
+using namespace ProbeRecords;
 using QuorIniFile::ToUtf8;
 
 namespace {
@@ -134,12 +136,13 @@ private:
         for (const std::size_t line : section.malformedLines)
             Report(line, section.name, L"", L"the line is no key=value");
         for (const auto& key : section.keys) {
-            const auto* const read = FindKey(section, key.name);
+            const std::wstring name = QuorIniFile::DecodeBytes(key.name);
+            const auto* const read = FindKey(section, name);
             if (read != &key)
-                Report(key.line, section.name, key.name,
+                Report(key.line, section.name, name,
                        L"the key stands twice; " + isRead + std::to_wstring(read->line) + L" is read");
-            else if (!aborted && Folded(key.name) != L"version" && !known.contains(Folded(key.name)))
-                Report(key.line, section.name, key.name,
+            else if (!aborted && Folded(name) != L"version" && !known.contains(Folded(name)))
+                Report(key.line, section.name, name,
                        L"unknown key: a record of this type and size does not hold it");
         }
     }
@@ -151,7 +154,7 @@ private:
             m_indexed = &section;
             m_keys = {};
             for (const auto& key : section.keys)
-                m_keys.emplace(Folded(key.name), &key);
+                m_keys.emplace(Folded(QuorIniFile::DecodeBytes(key.name)), &key);
         }
         const auto found = m_keys.find(Folded(name));
         return found == m_keys.end() ? nullptr : found->second;

@@ -5,10 +5,10 @@
 #include "QuorIniFile/IniError.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
-#include "apps/quorconv/IniImage.h"
 #include "apps/quorconv/Probe.h"
-#include "apps/quorconv/ProbeFile.h"
-#include "apps/quorconv/Types.h"
+#include "apps/records/IniImage.h"
+#include "apps/records/ProbeFile.h"
+#include "apps/records/Types.h"
 #include "toolkits/scripted/Script.h"
 
 #include <nlohmann/json.hpp>
@@ -21,6 +21,7 @@
 namespace quorconv {
 
 using namespace QuorConversions;
+using namespace ProbeRecords;
 using QuorIniFile::ToUtf8;
 using Json = nlohmann::ordered_json;
 
@@ -256,12 +257,21 @@ void SetValues(const std::wstring& path, const std::wstring& section,
     WriteProbe(probe, path);
 }
 
-void EditProbe(const std::wstring& path, const std::wstring& section, const std::wstring* scriptPath,
-               bool show) {
+namespace {
+
+Probe ReadEditableProbe(const std::wstring& path, const std::wstring& section) {
     const ProbeFile file(path);
     Probe probe = ReadProbe(StoreOf(path), path, FindRecord(file, section));
     if (!probe.Settings())
         throw Problem{Place(path, section) + L": " + probe.TypeName() + L" has no settings"};
+    return probe;
+}
+
+} // namespace
+
+void EditProbe(const std::wstring& path, const std::wstring& section, const std::wstring* scriptPath,
+               bool show) {
+    Probe probe = ReadEditableProbe(path, section);
     std::wstring commands = show ? L"show\n" : L"";
     if (scriptPath) {
         const auto script = QuorIniFile::ReadBytes(*scriptPath);
@@ -287,6 +297,19 @@ void EditProbe(const std::wstring& path, const std::wstring& section, const std:
         throw Problem{Place(path, section) + L": the dialog did not go as the script says" + complaints};
     if (accepted)
         WriteProbe(probe, path);
+}
+
+void EditProbeOn(const std::shared_ptr<Platform>& platform, const std::wstring& path,
+                 const std::wstring& section) {
+    Probe probe = ReadEditableProbe(path, section);
+    // The probe itself stays with the platform that logs: its messages decide what is told here.
+    CQuorConversion shown(platform);
+    shown.SetConversionType(probe.Conversion().ConversionType());
+    IniImage::Apply(IniImage::Of(*probe.Settings()), *shown.Settings());
+    if (!shown.Edit())
+        return;
+    IniImage::Apply(IniImage::Of(*shown.Settings()), *probe.Settings());
+    WriteProbe(probe, path);
 }
 
 void CopyProbe(const std::wstring& fromPath, const std::wstring& fromSection, const std::wstring& toPath,

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "QuorConversions/platform/Platform.h"
+
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -34,6 +37,9 @@ void CopyProbe(const std::wstring& fromPath, const std::wstring& fromSection, co
 /// and without a script that is all. What was accepted is written.
 void EditProbe(const std::wstring& path, const std::wstring& section, const std::wstring* scriptPath,
                bool show);
+/// Opens the dialog of the probe on the screen of `platform`. What was accepted is written.
+void EditProbeOn(const std::shared_ptr<QuorConversions::Platform>& platform, const std::wstring& path,
+                 const std::wstring& section);
 /// Prints each problem of each file as "file:line: [section] key: what is wrong"; true when there is none.
 [[nodiscard]] bool CheckFiles(const std::vector<std::wstring>& files);
 

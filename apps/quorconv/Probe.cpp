@@ -9,6 +9,7 @@
 namespace quorconv {
 
 using namespace QuorConversions;
+using namespace ProbeRecords;
 
 void MessageLog::ShowMessage(const MessageRequest& request) {
     ScriptedPlatform::ShowMessage(request);

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "QuorConversions/core/CQuorConversion.h"
-#include "apps/quorconv/ProbeFile.h"
-#include "apps/quorconv/ReadLog.h"
-#include "apps/quorconv/Types.h"
+#include "apps/records/ProbeFile.h"
+#include "apps/records/ReadLog.h"
+#include "apps/records/Types.h"
 #include "toolkits/scripted/ScriptedPlatform.h"
 
 #include <memory>
@@ -20,13 +20,13 @@ public:
         std::size_t readsBefore;
     };
 
-    explicit MessageLog(std::shared_ptr<ReadLog> reads) : m_reads(std::move(reads)) {}
+    explicit MessageLog(std::shared_ptr<ProbeRecords::ReadLog> reads) : m_reads(std::move(reads)) {}
     [[nodiscard]] const std::vector<Message>& Messages() const { return m_messages; }
     void Forget() { m_messages.clear(); }
     void ShowMessage(const QuorConversions::MessageRequest& request) override;
 
 private:
-    std::shared_ptr<ReadLog> m_reads;
+    std::shared_ptr<ProbeRecords::ReadLog> m_reads;
     std::vector<Message> m_messages;
 };
 
@@ -40,16 +40,16 @@ private:
 class Probe {
 public:
     /// Stands on a store that is bound to the file `path`; the probes of one file share it.
-    Probe(std::shared_ptr<QuorIniFile::INIFile> store, std::wstring path, Record record);
+    Probe(std::shared_ptr<QuorIniFile::INIFile> store, std::wstring path, ProbeRecords::Record record);
 
     /// Reads the record. What went wrong stands in Messages() and Reads() afterwards.
     void Read();
     /// Makes the probe one of `type`, with default values.
-    void SetType(const TypeInfo& type);
+    void SetType(const ProbeRecords::TypeInfo& type);
     /// Writes the record; false when that failed, which Messages() tells then.
     [[nodiscard]] bool Write();
 
-    [[nodiscard]] const Record& Where() const { return m_record; }
+    [[nodiscard]] const ProbeRecords::Record& Where() const { return m_record; }
     [[nodiscard]] QuorConversions::CQuorConversion& Conversion() { return *m_conversion; }
     [[nodiscard]] const QuorConversions::CQuorConversion& Conversion() const { return *m_conversion; }
     [[nodiscard]] QuorConversions::SettingsObject* Settings() const { return m_conversion->Settings().get(); }
@@ -65,9 +65,9 @@ public:
     /// The section of the settings: that of the record itself when it stands alone.
     [[nodiscard]] std::wstring SettingsSection() const;
     /// The path by which an image of the settings knows what was read; empty for what is not of the settings.
-    [[nodiscard]] std::wstring PathOf(const ReadLog::Read& read) const;
+    [[nodiscard]] std::wstring PathOf(const ProbeRecords::ReadLog::Read& read) const;
 
-    [[nodiscard]] const std::vector<ReadLog::Read>& Reads() const { return m_reads->Reads(); }
+    [[nodiscard]] const std::vector<ProbeRecords::ReadLog::Read>& Reads() const { return m_reads->Reads(); }
     [[nodiscard]] const std::vector<MessageLog::Message>& Messages() const { return m_messages->Messages(); }
     void ForgetMessages() { m_messages->Forget(); }
     /// The screen on which the library shows its dialogs.
@@ -78,8 +78,8 @@ private:
 
     std::shared_ptr<QuorIniFile::INIFile> m_store;
     std::wstring m_path;
-    Record m_record;
-    std::shared_ptr<ReadLog> m_reads;
+    ProbeRecords::Record m_record;
+    std::shared_ptr<ProbeRecords::ReadLog> m_reads;
     std::shared_ptr<MessageLog> m_messages;
     std::unique_ptr<QuorConversions::CQuorConversion> m_conversion;
 };

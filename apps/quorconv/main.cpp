@@ -4,6 +4,11 @@
 #include "QuorIniFile/Utf8.h"
 #include "apps/quorconv/Commands.h"
 
+#ifdef QUORCONV_HAS_WINDOWS
+#include "toolkits/qt/QtPlatform.h"
+#include "toolkits/qt/QtSession.h"
+#endif
+
 #include <CLI/CLI.hpp>
 
 #include <functional>
@@ -106,20 +111,21 @@ public:
         AddSection(set);
         set->add_option("KEY=VALUE", m_assignments, "Values, by the keys that \"show\" prints")->required();
 
-        auto* edit =
-            Add("edit", "Edit a probe in its dialog, as a script says",
-                "quorconv edit laboratory.ini \"Probe 1\" --script steps.txt", [this] {
-                    if (m_script.empty() && !m_show)
-                        throw UsageError("edit needs --script FILE or --show: nobody can click here");
-                    const std::wstring script = Wide(m_script);
-                    quorconv::EditProbe(Wide(m_file), Wide(m_section), m_script.empty() ? nullptr : &script,
-                                        m_show);
-                    return fine;
-                });
+        auto* edit = Add("edit", "Edit a probe in its dialog, on the screen or as a script says",
+                         "quorconv edit laboratory.ini \"Probe 1\" --script steps.txt", [this] {
+                             if (m_script.empty() && !m_show)
+                                 return EditOnTheScreen();
+                             const std::wstring script = Wide(m_script);
+                             quorconv::EditProbe(Wide(m_file), Wide(m_section),
+                                                 m_script.empty() ? nullptr : &script, m_show);
+                             return fine;
+                         });
         AddFile(edit);
         AddSection(edit);
-        edit->add_option("--script", m_script,
-                         "What the person does, a command a line: type R0 100.0123, choose Type K, click OK");
+        edit->add_option(
+            "--script", m_script,
+            "What the person does, a command a line: type R0 100.0123, choose Type K, click OK;\n"
+            "without it the dialog opens on the screen");
         edit->add_flag("--show", m_show, "Print the dialog as text, as it opens");
 
         auto* copy =
@@ -161,6 +167,23 @@ private:
     void AddFile(CLI::App* command) { command->add_option("FILE", m_file, "The INI file")->required(); }
     void AddSection(CLI::App* command) {
         command->add_option("SECTION", m_section, "The section of the probe")->required();
+    }
+
+    [[nodiscard]] ExitCode EditOnTheScreen() const {
+#ifdef QUORCONV_HAS_WINDOWS
+        if (QuorConversions::QtToolkit::HasDisplay()) {
+            const QuorConversions::QtToolkit::QtSession session("quorconv");
+            quorconv::EditProbeOn(session.Platform(), Wide(m_file), Wide(m_section));
+            return fine;
+        }
+        const char* const why = "there is no display";
+#else
+        const char* const why = "this quorconv was built without windows";
+#endif
+        throw UsageError(std::string("edit needs --script FILE or --show here: ") + why +
+                         ". A script has a command a line:\n"
+                         "  type R0 100.0123\n"
+                         "  click OK");
     }
 
     CLI::App m_app{"Probe records in INI files: look at them, change them, keep them right."};

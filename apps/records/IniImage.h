@@ -11,7 +11,7 @@
 #include <variant>
 #include <vector>
 
-namespace quorconv {
+namespace ProbeRecords {
 
 /// A value of a record, with the kind that the library gave it.
 using Value = std::variant<std::wstring, std::int16_t, double, bool>;
@@ -25,8 +25,8 @@ using Value = std::variant<std::wstring, std::int16_t, double, bool>;
 /// Bit for bit for numbers, so that -0.0 is not 0.0 and NaN is NaN.
 [[nodiscard]] bool SameValue(const Value& a, const Value& b);
 
-/// A settings record in memory: what the library writes, in its order and with its kinds, so that this
-/// program knows the keys of no class. It can be read back into an object; a key that it does not hold counts
+/// A settings record in memory: what the library writes, in its order and with its kinds, so that a
+/// host knows the keys of no class. It can be read back into an object; a key that it does not hold counts
 /// as found and leaves the object's own value.
 class IniImage final : public QuorIniFile::INIFile {
 public:
@@ -39,6 +39,8 @@ public:
     [[nodiscard]] static std::shared_ptr<IniImage> Of(const QuorConversions::SettingsObject& settings);
     /// Puts the values of the image into `settings`.
     static void Apply(std::shared_ptr<IniImage> image, QuorConversions::SettingsObject& settings);
+    /// Whether two images have the same values under the same paths, in the same order.
+    [[nodiscard]] static bool Same(const IniImage& a, const IniImage& b);
 
     [[nodiscard]] const std::vector<Entry>& Entries() const { return m_entries; }
     /// The entry of a path, in any ASCII case; null when there is none.
@@ -76,4 +78,4 @@ private:
     std::wstring m_prefix;
 };
 
-} // namespace quorconv
+} // namespace ProbeRecords

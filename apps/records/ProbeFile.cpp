@@ -1,13 +1,14 @@
-#include "apps/quorconv/ProbeFile.h"
+#include "apps/records/ProbeFile.h"
 
 #include "QuorConversions/core/modPaths.h"
 #include "QuorIniFile/IniDisk.h"
 #include "QuorIniFile/IniError.h"
-#include "apps/quorconv/Types.h"
+#include "QuorIniFile/Utf8.h"
+#include "apps/records/Types.h"
 
 #include <algorithm>
 
-namespace quorconv {
+namespace ProbeRecords {
 
 using namespace QuorIniFile;
 
@@ -58,7 +59,7 @@ void ProbeFile::ReadSections() {
             break;
         case IniLineKind::Key:
             if (!m_sections.empty())
-                m_sections.back().keys.push_back({DecodeBytes(line.name), line.value, walker.Number()});
+                m_sections.back().keys.push_back({line.name, line.value, walker.Number()});
             break;
         case IniLineKind::Malformed:
             if (!m_sections.empty())
@@ -98,9 +99,10 @@ std::optional<Record> ProbeFile::FindRecord(std::wstring_view section) const {
 }
 
 const ProbeFile::Key* ProbeFile::FindKey(const Section& section, std::wstring_view name) {
+    const std::string wanted = ToUtf8(name);
     const auto key = std::find_if(section.keys.begin(), section.keys.end(),
-                                  [&](const Key& k) { return SameText(k.name, name); });
+                                  [&](const Key& k) { return SameName(k.name, wanted); });
     return key == section.keys.end() ? nullptr : &*key;
 }
 
-} // namespace quorconv
+} // namespace ProbeRecords

@@ -1,11 +1,11 @@
-#include "apps/quorconv/Types.h"
+#include "apps/records/Types.h"
 
 #include "QuorIniFile/IniValue.h"
 #include "QuorIniFile/Utf8.h"
 
 #include <algorithm>
 
-namespace quorconv {
+namespace ProbeRecords {
 
 using namespace QuorConversions;
 
@@ -54,4 +54,4 @@ std::wstring Folded(std::wstring text) {
     return text;
 }
 
-} // namespace quorconv
+} // namespace ProbeRecords

@@ -1,16 +1,16 @@
 #pragma once
 
 #include "QuorIniFile/INIFile.h"
-#include "apps/quorconv/IniImage.h"
+#include "apps/records/IniImage.h"
 
 #include <memory>
 #include <string>
 #include <vector>
 
-namespace quorconv {
+namespace ProbeRecords {
 
-/// Passes everything on to another INI-file object and remembers what was read through it, so that this
-/// program learns from the library itself which keys a record consists of.
+/// Passes everything on to another INI-file object and remembers what was read through it, so that a
+/// host learns from the library itself which keys a record consists of.
 class ReadLog final : public QuorIniFile::INIFile {
 public:
     struct Read {
@@ -69,4 +69,4 @@ private:
     std::vector<Read> m_reads;
 };
 
-} // namespace quorconv
+} // namespace ProbeRecords

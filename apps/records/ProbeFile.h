@@ -9,7 +9,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace quorconv {
+namespace ProbeRecords {
 
 /// A probe's record in a file: a section of the host's choosing that the facade wrote, or the section of a
 /// stand-alone settings file.
@@ -23,7 +23,7 @@ struct Record {
 class ProbeFile {
 public:
     struct Key {
-        std::wstring name;
+        std::string_view name;  ///< as it stands, without edge blanks
         std::string_view value; ///< as it stands, without edge blanks
         std::size_t line;
     };
@@ -70,4 +70,4 @@ private:
 /// for any other file.
 [[nodiscard]] std::optional<std::wstring> StandAloneSection(std::wstring_view path);
 
-} // namespace quorconv
+} // namespace ProbeRecords

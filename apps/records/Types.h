@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace quorconv {
+namespace ProbeRecords {
 
 /// One conversion type as the library describes it.
 struct TypeInfo {
@@ -28,4 +28,4 @@ struct TypeInfo {
 /// `text` with ASCII capitals made small.
 [[nodiscard]] std::wstring Folded(std::wstring text);
 
-} // namespace quorconv
+} // namespace ProbeRecords

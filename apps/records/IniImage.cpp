@@ -1,12 +1,13 @@
-#include "apps/quorconv/IniImage.h"
+#include "apps/records/IniImage.h"
 
 #include "QuorIniFile/IniValue.h"
 #include "QuorIniFile/Utf8.h"
-#include "apps/quorconv/Types.h"
+#include "apps/records/Types.h"
 
+#include <algorithm>
 #include <cmath>
 
-namespace quorconv {
+namespace ProbeRecords {
 
 using namespace QuorIniFile;
 
@@ -74,6 +75,12 @@ void IniImage::Apply(std::shared_ptr<IniImage> image, QuorConversions::SettingsO
     settings.ReadFromFile(iniFile, L"", L"");
 }
 
+bool IniImage::Same(const IniImage& a, const IniImage& b) {
+    return std::equal(
+        a.m_entries.begin(), a.m_entries.end(), b.m_entries.begin(), b.m_entries.end(),
+        [](const Entry& x, const Entry& y) { return x.path == y.path && SameValue(x.value, y.value); });
+}
+
 IniImage::Entry* IniImage::Find(std::wstring_view path) {
     const auto found = m_byPath.find(Folded(std::wstring(path)));
     return found == m_byPath.end() ? nullptr : &m_entries[found->second];
@@ -96,4 +103,4 @@ void IniImage::Write(std::wstring_view key, Value value) {
         m_entries[at->second].value = std::move(value);
 }
 
-} // namespace quorconv
+} // namespace ProbeRecords

@@ -1,0 +1,776 @@
+#include "apps/probe-setup/ProbeDocument.h"
+
+#include "QuorConversions/core/modPaths.h"
+#include "QuorConversions/core/modStrings.h"
+#include "QuorIniFile/IniDisk.h"
+#include "QuorIniFile/IniError.h"
+#include "QuorIniFile/IniFormat.h"
+#include "QuorIniFile/Utf8.h"
+#include "apps/records/IniImage.h"
+#include "apps/records/ProbeFile.h"
+#include "apps/records/ReadLog.h"
+#include "apps/records/Types.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <iterator>
+#include <random>
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
+
+#include <unistd.h>
+
+namespace ProbeSetup {
+
+using namespace QuorConversions;
+using namespace ProbeRecords;
+using QuorIniFile::IniStore;
+using QuorIniFile::ToUtf8;
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::wstring_view settingsSuffix = L" - Settings";
+constexpr std::wstring_view nestedMark = L" - ";
+
+wchar_t Fold(wchar_t c) { return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c; }
+
+bool SameName(std::wstring_view a, std::wstring_view b) {
+    return a.size() == b.size() &&
+           std::equal(a.begin(), a.end(), b.begin(), [](wchar_t x, wchar_t y) { return Fold(x) == Fold(y); });
+}
+
+/// Gives a file these bytes, whatever stands in it.
+void ReplaceBytes(const std::wstring& path, std::string_view bytes) {
+    constexpr int mostTries = 20;
+    for (int tries = 0; !QuorIniFile::IniReplacement(path).Commit(bytes); ++tries) {
+        if (tries == mostTries)
+            throw QuorIniFile::FileError(QuorIniFile::ERR_PERMISSION_DENIED, path,
+                                         L"Another program keeps writing it");
+    }
+}
+
+/// Whether the settings of a probe stand in `section`, or below it: "P - Settings", "P - Settings - Low
+/// Range".
+bool HoldsSettingsOf(std::wstring_view section, std::wstring_view probe) {
+    const std::size_t length = probe.size() + settingsSuffix.size();
+    return section.size() >= length && SameName(section.substr(0, probe.size()), probe) &&
+           SameName(section.substr(probe.size(), settingsSuffix.size()), settingsSuffix) &&
+           (section.size() == length || section.substr(length).starts_with(nestedMark));
+}
+
+/// Calls `visit` with each part of `section` that is the name of a probe, if `section` holds its settings.
+template <class Visit>
+void ForEachOwner(std::wstring_view section, const Visit& visit) {
+    for (std::size_t at = section.find(nestedMark); at != std::wstring_view::npos;
+         at = section.find(nestedMark, at + 1)) {
+        if (HoldsSettingsOf(section, section.substr(0, at)))
+            visit(section.substr(0, at));
+    }
+}
+
+/// Types of one code whose names depend on their values.
+bool IsNamedByItsValues(std::int32_t type) { return type == CONV_TCTYPEX || type == CONV_TCTYPEPOLY; }
+
+bool IsReadOnlyFile(const std::wstring& path) {
+    const fs::path file(ToUtf8(path));
+    std::error_code error;
+    const fs::perms mode = fs::status(file, error).permissions();
+    constexpr fs::perms anyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    // A save puts a new file into the folder.
+    const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
+    return error || (mode & anyWrite) == fs::perms::none || ::access(file.c_str(), W_OK) != 0 ||
+           ::access(folder.c_str(), W_OK) != 0;
+}
+
+/// A file in a folder of its own, which vanishes with it.
+class WorkFile {
+public:
+    WorkFile()
+        : m_folder(fs::temp_directory_path() / ("probe-setup-" + std::to_string(std::random_device{}()))) {
+        QuorIniFile::MakeFolders(m_folder.wstring());
+    }
+    WorkFile(const WorkFile&) = delete;
+    WorkFile& operator=(const WorkFile&) = delete;
+    ~WorkFile() {
+        std::error_code ignored;
+        fs::remove_all(m_folder, ignored);
+    }
+    [[nodiscard]] std::wstring Path() const { return (m_folder / "copy.ini").wstring(); }
+
+private:
+    fs::path m_folder;
+};
+
+ReadProblems ProblemsOf(const std::vector<ReadLog::Read>& reads, const QuietPlatform::Quiet& quiet) {
+    ReadProblems problems;
+    for (const ReadLog::Read& read : reads) {
+        if (!read.found)
+            problems.keys.push_back(L"[" + read.section + L"] " + read.key);
+    }
+    // The message of missing keys says less than the keys themselves.
+    const std::wstring version = TableText(IDS_WRONG_FILE_VERSION);
+    std::copy_if(quiet.Messages().begin(), quiet.Messages().end(), std::back_inserter(problems.messages),
+                 [&](const std::wstring& message) { return problems.keys.empty() || message != version; });
+    return problems;
+}
+
+/// What DocumentError says of a probe that cannot be written.
+std::vector<std::wstring> Details(const std::wstring& probe, const QuietPlatform::Quiet& quiet) {
+    std::vector<std::wstring> details{probe};
+    details.insert(details.end(), quiet.Messages().begin(), quiet.Messages().end());
+    return details;
+}
+
+/// What the library reads of a conversion that stands in `section`.
+std::vector<ReadLog::Read> ReadsOf(CQuorConversion& conversion, const std::shared_ptr<IniStore>& store,
+                                   const std::wstring& section) {
+    const auto log = std::make_shared<ReadLog>(store);
+    std::shared_ptr<INIFile> iniFile = log;
+    conversion.ReadFromFile(iniFile, L"", section);
+    return log->Reads();
+}
+
+} // namespace
+
+std::vector<std::wstring> ReadProblems::Lines() const {
+    std::vector<std::wstring> lines = keys;
+    lines.insert(lines.end(), messages.begin(), messages.end());
+    return lines;
+}
+
+void ProbeDocument::Entry::SetName(std::wstring newName) {
+    if (!isNew && nameInFile.empty())
+        nameInFile = name;
+    name = std::move(newName);
+    if (name == nameInFile)
+        nameInFile.clear();
+}
+
+ProbeDocument::ProbeDocument(std::shared_ptr<Platform> platform,
+                             std::shared_ptr<QuorRegistryII::Registry> registry)
+    : m_platform(std::make_shared<QuietPlatform>(std::move(platform))), m_registry(std::move(registry)) {}
+
+// The list and the file
+
+void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
+    const QuorIniFile::IniStamp stamp = QuorIniFile::StampOf(path);
+    const std::vector<Record> records = ProbeFile(path).Records();
+    auto store = std::make_shared<IniStore>();
+    store->SetFileName(path);
+
+    const QuietPlatform::Quiet quiet(*m_platform);
+    std::vector<Entry> entries;
+    entries.reserve(records.size());
+    std::unordered_set<std::wstring> probes;
+    std::unordered_map<std::int32_t, std::uint32_t> names; // of types
+    for (const Record& record : records) {
+        if (record.standAlone)
+            continue;
+        Entry entry;
+        entry.name = record.section;
+        store->SetSection(record.section);
+        std::int16_t type = 0;
+        if (!store->ReadInteger(L"ConversionType", type)) {
+            entry.content.name = NumberOf({});
+        } else {
+            entry.content.type = EQuorConversionType{type};
+            const auto [name, isNew] = names.try_emplace(type, 0);
+            if (isNew || IsNamedByItsValues(type)) {
+                const auto conversion = NewConversion();
+                conversion->SetConversionType(EQuorConversionType{type});
+                if (IsNamedByItsValues(type)) {
+                    std::shared_ptr<INIFile> iniFile = store;
+                    conversion->ReadFromFile(iniFile, L"", record.section);
+                }
+                name->second = NumberOf(NameOf(*conversion));
+            }
+            entry.content.name = name->second;
+        }
+        probes.insert(Folded(entry.name));
+        entries.push_back(std::move(entry));
+        constexpr std::size_t now = 1024;
+        if (progress && entries.size() % now == 0)
+            progress(static_cast<double>(entries.size()) / static_cast<double>(records.size()));
+    }
+
+    std::vector<std::wstring> foreign;
+    for (std::wstring& section : store->Sections()) {
+        bool ours = probes.contains(Folded(section));
+        ForEachOwner(section, [&](std::wstring_view owner) {
+            ours = ours || probes.contains(Folded(std::wstring(owner)));
+        });
+        if (!ours)
+            foreign.push_back(std::move(section));
+    }
+
+    Close();
+    m_path = path;
+    m_isReadOnly = IsReadOnlyFile(path);
+    m_store = std::move(store);
+    m_stamp = stamp;
+    m_entries = std::move(entries);
+    m_foreign = std::move(foreign);
+}
+
+void ProbeDocument::Close() {
+    m_path.clear();
+    m_isReadOnly = false;
+    m_store = nullptr;
+    m_stamp = {};
+    m_entries.clear();
+    m_foreign.clear();
+    m_done.clear();
+    m_undone.clear();
+}
+
+bool ProbeDocument::IsChanged(std::size_t probe) const {
+    const Entry& entry = m_entries[probe];
+    return entry.isNew || entry.IsRenamed() || entry.content.IsChanged();
+}
+
+std::optional<std::size_t> ProbeDocument::Find(std::wstring_view name) const {
+    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
+                                    [&](const Entry& entry) { return SameName(entry.name, name); });
+    if (found == m_entries.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(found - m_entries.begin());
+}
+
+NameProblem ProbeDocument::CheckName(std::wstring_view name, std::optional<std::size_t> except) const {
+    if (name.empty())
+        return NameProblem::Empty;
+    const auto spelled = QuorIniFile::NameToFind(name);
+    if (!spelled || !QuorIniFile::IsSectionName(*spelled))
+        return NameProblem::CannotBeWritten;
+    for (std::size_t i = 0; i < m_entries.size(); ++i) {
+        if (i == except)
+            continue;
+        const std::wstring& other = m_entries[i].name;
+        if (SameName(name, other))
+            return NameProblem::ProbeExists;
+        if (HoldsSettingsOf(name, other))
+            return NameProblem::IsSettingsOfProbe;
+        if (HoldsSettingsOf(other, name))
+            return NameProblem::SettingsSectionExists;
+    }
+    for (const std::wstring& section : m_foreign) {
+        if (SameName(name, section))
+            return NameProblem::SectionExists;
+        if (HoldsSettingsOf(section, name))
+            return NameProblem::SettingsSectionExists;
+    }
+    return NameProblem::None;
+}
+
+std::wstring ProbeDocument::FreeName(const std::wstring& wish) const {
+    std::wstring name = wish;
+    for (int number = 2; CheckName(name) != NameProblem::None; ++number)
+        name = wish + L" (" + std::to_wstring(number) + L")";
+    return name;
+}
+
+// Conversions
+
+std::shared_ptr<CQuorConversion> ProbeDocument::NewConversion() const {
+    auto conversion = std::make_shared<CQuorConversion>(m_platform);
+    std::shared_ptr<QuorRegistryII::Registry> registry = m_registry;
+    conversion->SetRegistry(registry);
+    conversion->SetFilePath(GetFolderPart(m_path));
+    conversion->SetAllowEdit(!m_isReadOnly);
+    return conversion;
+}
+
+std::shared_ptr<CQuorConversion> ProbeDocument::CopyOf(const CQuorConversion& conversion) const {
+    const QuietPlatform::Quiet quiet(*m_platform);
+    auto copy = NewConversion();
+    copy->SetConversionType(conversion.ConversionType());
+    if (const auto settings = conversion.Settings())
+        IniImage::Apply(IniImage::Of(*settings), *copy->Settings());
+    copy->SetChanged(false);
+    return copy;
+}
+
+std::wstring ProbeDocument::NameOf(const CQuorConversion& conversion) const {
+    return conversion.ConversionName(conversion.Settings() ? currentValue : conversion.ConversionType());
+}
+
+std::uint32_t ProbeDocument::NumberOf(const std::wstring& name) {
+    const auto found = std::find(m_names.begin(), m_names.end(), name);
+    if (found == m_names.end()) {
+        m_names.push_back(name);
+        return static_cast<std::uint32_t>(m_names.size() - 1);
+    }
+    return static_cast<std::uint32_t>(found - m_names.begin());
+}
+
+ProbeDocument::Content ProbeDocument::ContentOf(std::shared_ptr<CQuorConversion> conversion) {
+    Content content;
+    content.type = conversion->ConversionType();
+    content.name = NumberOf(NameOf(*conversion));
+    content.conversion = std::move(conversion);
+    return content;
+}
+
+const ReadProblems& ProbeDocument::Load(Entry& entry) {
+    Content& content = entry.content;
+    if (content.conversion)
+        return content.problems;
+    const QuietPlatform::Quiet quiet(*m_platform);
+    auto conversion = NewConversion();
+    if (!content.type) { // the library would take it for an ITS-90 calibration
+        content.conversion = std::move(conversion);
+        content.problems.keys = {L"[" + entry.Section() + L"] ConversionType"};
+        return content.problems;
+    }
+    content.problems = ProblemsOf(ReadsOf(*conversion, m_store, entry.Section()), quiet);
+    conversion->SetChanged(false);
+    content.conversion = std::move(conversion);
+    return content.problems;
+}
+
+void ProbeDocument::RequireWhole(Entry& entry) {
+    if (const ReadProblems& problems = Load(entry); !problems.IsEmpty())
+        throw DocumentError{Failure::UnreadableRecord, m_path, problems.Lines()};
+    const EQuorConversionType type = *entry.content.type;
+    if (!ConversionEnumerator(type)) // settings of a kind that the library does not know
+        throw DocumentError{Failure::UnknownType, m_path, {entry.name, std::to_wstring(type)}};
+}
+
+bool ProbeDocument::HasSettings(std::size_t probe) { return Conversion(probe).Settings() != nullptr; }
+
+const ReadProblems& ProbeDocument::CheckRecord(std::size_t probe) { return Load(m_entries[probe]); }
+
+const CQuorConversion& ProbeDocument::Conversion(std::size_t probe) {
+    Load(m_entries[probe]);
+    return *m_entries[probe].content.conversion;
+}
+
+bool ProbeDocument::Edit(std::size_t probe) {
+    const CQuorConversion& conversion = Conversion(probe);
+    const auto copy = CopyOf(conversion);
+    if (!copy->Edit() || m_isReadOnly || !copy->Settings())
+        return false;
+    // Not every value that a dialog can change sets Changed: a file that it opens may hold others as well.
+    if (IniImage::Same(*IniImage::Of(*conversion.Settings()), *IniImage::Of(*copy->Settings())))
+        return false;
+    copy->SetChanged(true);
+    Content content = ContentOf(copy);
+    content.replacesRecord = m_entries[probe].content.replacesRecord;
+    Do({StepKind::Edit, {probe}, {}, {}, std::move(content)});
+    return true;
+}
+
+std::optional<std::wstring> ProbeDocument::Export(std::size_t probe, std::int32_t hwnd) {
+    RequireWhole(m_entries[probe]);
+    const std::shared_ptr<SettingsObject> settings = Conversion(probe).Settings();
+    // A slash in a name would lead into another folder.
+    std::wstring fileName = Name(probe);
+    std::replace_if(
+        fileName.begin(), fileName.end(), [](wchar_t c) { return c == L'/' || c == L'\\'; }, L'-');
+    fileName = GetFolderPart(m_path) + fileName + L'.' + settings->FileExtension();
+    const QuietPlatform::Quiet quiet(*m_platform);
+    const bool chosen = settings->SaveFileAs(hwnd, fileName);
+    if (!quiet.Messages().empty())
+        throw DocumentError{Failure::CannotWrite, fileName, Details(Name(probe), quiet)};
+    return chosen ? std::optional(fileName) : std::nullopt;
+}
+
+// Changes of the list
+
+std::size_t ProbeDocument::Append(StepKind kind, std::wstring name, Content content) {
+    Step step{kind, {m_entries.size()}, {}, {}, {}};
+    step.entries.push_back({std::move(name), {}, true, std::move(content)});
+    Do(std::move(step));
+    return m_entries.size() - 1;
+}
+
+std::size_t ProbeDocument::Add(const std::wstring& name, EQuorConversionType type) {
+    auto conversion = NewConversion();
+    conversion->SetConversionType(type);
+    return Append(StepKind::Add, name, ContentOf(std::move(conversion)));
+}
+
+std::size_t ProbeDocument::Duplicate(std::size_t probe) {
+    RequireWhole(m_entries[probe]);
+    return Append(StepKind::Duplicate, FreeName(Name(probe)), ContentOf(CopyOf(Conversion(probe))));
+}
+
+std::size_t ProbeDocument::Import(const std::wstring& path) {
+    const std::wstring extension = Folded(GetExtensionPart(path));
+    const TypeInfo* first = nullptr;
+    for (const TypeInfo& type : Types()) {
+        if (extension.empty() || type.extension != extension)
+            continue;
+        // Several types share an extension: the first that reads the file without a complaint is meant.
+        first = first ? first : &type;
+        auto conversion = NewConversion();
+        conversion->SetConversionType(type.code);
+        const QuietPlatform::Quiet quiet(*m_platform);
+        std::wstring fileName = path;
+        if (conversion->Settings()->OpenFile(0, fileName) && quiet.Messages().empty()) {
+            const std::wstring name = GetFileNamePart(path);
+            return Append(StepKind::Import, FreeName(name.substr(0, name.size() - extension.size() - 1)),
+                          ContentOf(std::move(conversion)));
+        }
+    }
+    if (!first)
+        throw DocumentError{Failure::NoStandAloneFile, path, {}};
+
+    // Once more, to learn what is missing.
+    const QuietPlatform::Quiet quiet(*m_platform);
+    const auto store = std::make_shared<IniStore>();
+    store->SetFileName(path);
+    const auto log = std::make_shared<ReadLog>(store);
+    std::shared_ptr<INIFile> iniFile = log;
+    const auto conversion = NewConversion();
+    conversion->SetConversionType(first->code);
+    conversion->Settings()->ReadFromFile(iniFile, L"", first->section);
+    const ReadProblems problems = ProblemsOf(log->Reads(), quiet);
+    throw DocumentError{Failure::UnreadableRecord, path,
+                        problems.messages.empty() ? problems.keys : problems.messages};
+}
+
+void ProbeDocument::Rename(std::size_t probe, const std::wstring& name) {
+    if (m_entries[probe].name != name)
+        Do({StepKind::Rename, {probe}, {}, name, {}});
+}
+
+void ProbeDocument::SetType(std::size_t probe, EQuorConversionType type) {
+    const Entry& entry = m_entries[probe];
+    if (entry.content.type == type)
+        return;
+    auto conversion = NewConversion();
+    conversion->SetConversionType(type);
+    Content content = ContentOf(std::move(conversion));
+    content.replacesRecord = !entry.isNew;
+    Do({StepKind::ChangeType, {probe}, {}, {}, std::move(content)});
+}
+
+void ProbeDocument::Remove(const std::vector<std::size_t>& probes) {
+    if (!probes.empty())
+        Do({StepKind::Remove, probes, {}, {}, {}});
+}
+
+void ProbeDocument::Do(Step step) {
+    Toggle(step);
+    m_undone.clear();
+    m_done.push_back(std::move(step));
+}
+
+void ProbeDocument::Toggle(Step& step) {
+    switch (step.kind) {
+    case StepKind::Rename: {
+        Entry& entry = m_entries[step.places.front()];
+        std::wstring old = entry.name;
+        entry.SetName(std::move(step.name));
+        step.name = std::move(old);
+        return;
+    }
+    case StepKind::ChangeType:
+    case StepKind::Edit:
+        std::swap(m_entries[step.places.front()].content, step.content);
+        return;
+    case StepKind::Add:
+    case StepKind::Duplicate:
+    case StepKind::Import:
+    case StepKind::Remove:
+        break;
+    }
+    std::vector<Entry> entries;
+    auto place = step.places.begin();
+    if (step.entries.empty()) {
+        step.entries.reserve(step.places.size());
+        entries.reserve(m_entries.size() - step.places.size());
+        for (std::size_t i = 0; i < m_entries.size(); ++i) {
+            const bool goes = place != step.places.end() && *place == i;
+            (goes ? step.entries : entries).push_back(std::move(m_entries[i]));
+            place += goes ? 1 : 0;
+        }
+    } else {
+        entries.reserve(m_entries.size() + step.entries.size());
+        auto stays = m_entries.begin();
+        for (Entry& comes : step.entries) {
+            while (entries.size() < *place)
+                entries.push_back(std::move(*stays++));
+            entries.push_back(std::move(comes));
+            ++place;
+        }
+        std::move(stays, m_entries.end(), std::back_inserter(entries));
+        step.entries.clear();
+    }
+    m_entries = std::move(entries);
+}
+
+std::optional<StepKind> ProbeDocument::UndoKind() const {
+    return m_done.empty() ? std::nullopt : std::optional(m_done.back().kind);
+}
+
+std::optional<StepKind> ProbeDocument::RedoKind() const {
+    return m_undone.empty() ? std::nullopt : std::optional(m_undone.back().kind);
+}
+
+std::size_t ProbeDocument::Undo() {
+    Toggle(m_done.back());
+    m_undone.push_back(std::move(m_done.back()));
+    m_done.pop_back();
+    return m_undone.back().places.front();
+}
+
+std::size_t ProbeDocument::Redo() {
+    Toggle(m_undone.back());
+    m_done.push_back(std::move(m_undone.back()));
+    m_undone.pop_back();
+    return m_done.back().places.front();
+}
+
+// Saving
+
+std::vector<const ProbeDocument::Entry*> ProbeDocument::RemovedEntries() const {
+    // What was taken out of the list and stands in the file is in a step that was done. (Steps that were
+    // taken back hold new probes only.)
+    std::vector<const Entry*> removed;
+    for (const Step& step : m_done) {
+        for (const Entry& entry : step.entries) {
+            if (!entry.isNew)
+                removed.push_back(&entry);
+        }
+    }
+    return removed;
+}
+
+bool ProbeDocument::Changed() const {
+    for (std::size_t i = 0; i < m_entries.size(); ++i) {
+        if (IsChanged(i))
+            return true;
+    }
+    return !RemovedEntries().empty();
+}
+
+void ProbeDocument::Save(OthersChanges others) {
+    const QuorIniFile::IniStamp stamp = QuorIniFile::StampOf(m_path);
+    if (m_stamp.exists && !stamp.exists) // a new one would hold nothing but what has changed
+        throw QuorIniFile::FileError(QuorIniFile::ERR_FILE_NOT_FOUND, m_path);
+    const bool othersWrote = stamp != m_stamp;
+    // What was read stays in m_store, whatever becomes of this save.
+    const auto store = std::make_shared<IniStore>();
+    store->SetFileName(m_path);
+    if (othersWrote)
+        MeetOthers(store, others);
+    Apply(store, Extent::Changes);
+    Settle();
+    m_store = store;
+    m_stamp = QuorIniFile::StampOf(m_path);
+    if (!othersWrote)
+        return;
+    try {
+        Open(std::wstring(m_path));
+    } catch (const QuorError&) {
+        // Everything is saved. The list lacks what others have added until the file can be read again.
+    }
+}
+
+void ProbeDocument::MeetOthers(const std::shared_ptr<IniStore>& theirs, OthersChanges others) {
+    std::unordered_set<std::wstring> sections;
+    for (const std::wstring& section : theirs->Sections())
+        sections.insert(Folded(section));
+    RequireFreeNames(sections);
+
+    std::vector<std::wstring> changed;
+    std::vector<Entry*> gone;
+    for (Entry& entry : m_entries) {
+        if (entry.isNew || !(entry.IsRenamed() || entry.content.IsChanged()))
+            continue;
+        if (!sections.contains(Folded(entry.Section())))
+            gone.push_back(&entry);
+        else if (!entry.content.IsChanged() || IsSameRecord(theirs, entry.Section()))
+            continue; // what is renamed keeps the values that stand there
+        changed.push_back(entry.name);
+    }
+    for (const Entry* const entry : RemovedEntries()) {
+        if (sections.contains(Folded(entry->Section())) && !IsSameRecord(theirs, entry->Section()))
+            changed.push_back(entry->name);
+    }
+    if (changed.empty())
+        return;
+    if (others == OthersChanges::Refuse)
+        throw DocumentError{Failure::ChangedByOthers, m_path, std::move(changed)};
+    for (Entry* const entry : gone) {
+        RequireWhole(*entry);
+        entry->content.conversion->SetChanged(true); // it is written anew
+    }
+}
+
+bool ProbeDocument::IsSameRecord(const std::shared_ptr<IniStore>& theirs, const std::wstring& section) const {
+    const QuietPlatform::Quiet quiet(*m_platform);
+    const auto before = ReadsOf(*NewConversion(), m_store, section);
+    const auto now = ReadsOf(*NewConversion(), theirs, section);
+    return std::equal(before.begin(), before.end(), now.begin(), now.end(),
+                      [](const ReadLog::Read& a, const ReadLog::Read& b) {
+                          return a.section == b.section && a.key == b.key && a.found == b.found &&
+                                 (!a.found || SameValue(a.value, b.value));
+                      });
+}
+
+void ProbeDocument::RequireFreeNames(const std::unordered_set<std::wstring>& theirs) const {
+    std::unordered_set<std::wstring> ours; // sections in which our probes stood when the file was read
+    for (const Entry& entry : m_entries) {
+        if (!entry.isNew)
+            ours.insert(Folded(entry.Section()));
+    }
+    for (const Entry* const entry : RemovedEntries())
+        ours.insert(Folded(entry->Section()));
+    for (const Entry& entry : m_entries) {
+        if (!entry.isNew && !entry.IsRenamed())
+            continue;
+        const std::wstring name = Folded(entry.name);
+        if (!ours.contains(name) &&
+            (theirs.contains(name) || theirs.contains(name + Folded(std::wstring(settingsSuffix)))))
+            throw DocumentError{Failure::NameIsTaken, m_path, {entry.name}};
+    }
+}
+
+void ProbeDocument::Apply(const std::shared_ptr<IniStore>& store, Extent extent) {
+    const bool all = extent == Extent::AllProbes;
+    store->Hold();
+    try {
+        if (!all)
+            MoveSections(*store);
+        for (Entry& entry : m_entries) {
+            if (all)
+                RequireWhole(entry);
+            if (all || entry.isNew || entry.content.IsChanged())
+                Write(store, entry);
+        }
+        store->Release();
+    } catch (...) {
+        store->Discard();
+        store->Release();
+        throw;
+    }
+}
+
+void ProbeDocument::MoveSections(IniStore& store) const {
+    const Moves moves = MovesIn(store);
+    for (const std::wstring& section : moves.removed)
+        store.RemoveSection(section);
+    // Probes may change names among each other: a name that somebody waits for is given up first.
+    std::unordered_set<std::wstring> wanted;
+    for (const auto& [from, to] : moves.renamed) {
+        if (!SameName(from, to))
+            wanted.insert(Folded(to));
+    }
+    std::size_t number = 0;
+    std::vector<std::pair<std::wstring, std::wstring>> renamed = moves.renamed;
+    for (auto& [from, to] : renamed) {
+        if (!wanted.contains(Folded(from)))
+            continue;
+        const std::wstring between = L"probe-setup renames " + std::to_wstring(++number);
+        store.RenameSection(from, between);
+        from = between;
+    }
+    for (const auto& [from, to] : renamed)
+        store.RenameSection(from, to);
+    for (const std::wstring& section : moves.outdated)
+        store.RemoveSection(section);
+}
+
+ProbeDocument::Moves ProbeDocument::MovesIn(IniStore& store) const {
+    std::unordered_map<std::wstring, const Entry*> moved; // by the section in which they stand
+    std::unordered_set<const Entry*> removed;
+    for (const Entry& entry : m_entries) {
+        if (entry.IsRenamed() || entry.content.replacesRecord)
+            moved.emplace(Folded(entry.Section()), &entry);
+    }
+    for (const Entry* const entry : RemovedEntries()) {
+        moved.emplace(Folded(entry->Section()), entry);
+        removed.insert(entry);
+    }
+    Moves moves;
+    if (moved.empty())
+        return moves;
+    for (const std::wstring& section : store.Sections()) {
+        const auto move = [&](std::wstring_view owner) {
+            const auto found = moved.find(Folded(std::wstring(owner)));
+            if (found == moved.end())
+                return;
+            const Entry& entry = *found->second;
+            const std::wstring name = entry.name + section.substr(owner.size());
+            if (removed.contains(&entry))
+                moves.removed.push_back(section);
+            else if (entry.IsRenamed())
+                moves.renamed.emplace_back(section, name);
+            if (entry.content.replacesRecord && !removed.contains(&entry) && section.size() > owner.size())
+                moves.outdated.push_back(name);
+        };
+        move(section);
+        ForEachOwner(section, move);
+    }
+    return moves;
+}
+
+void ProbeDocument::Write(const std::shared_ptr<IniStore>& store, const Entry& entry) {
+    const QuietPlatform::Quiet quiet(*m_platform);
+    std::shared_ptr<INIFile> iniFile = store;
+    entry.content.conversion->WriteToFile(iniFile, L"", entry.name);
+    if (quiet.Messages().empty())
+        return;
+    throw DocumentError{Failure::CannotWrite, m_path, Details(entry.name, quiet)};
+}
+
+void ProbeDocument::Settle() {
+    for (Entry& entry : m_entries) {
+        entry.nameInFile.clear();
+        entry.isNew = false;
+        entry.content.replacesRecord = false;
+        if (entry.content.conversion)
+            entry.content.conversion->SetChanged(false);
+    }
+    m_done.clear();
+    m_undone.clear();
+}
+
+void ProbeDocument::SaveCopyAs(const std::wstring& path, OthersChanges others) {
+    std::error_code noSuchFile;
+    if (!m_path.empty() && fs::equivalent(ToUtf8(path), ToUtf8(m_path), noSuchFile)) {
+        Save(others);
+        return;
+    }
+    const WorkFile work;
+    const auto original = m_path.empty() ? std::nullopt : QuorIniFile::ReadBytes(m_path);
+    ReplaceBytes(work.Path(), original ? original->bytes : std::string());
+    const auto store = std::make_shared<IniStore>();
+    store->SetFileName(work.Path());
+    try {
+        if (original && QuorIniFile::StampOf(m_path) != m_stamp)
+            MeetOthers(store, others);
+        // Where somebody has removed the file, the probes are what can be saved of it.
+        Apply(store, original ? Extent::Changes : Extent::AllProbes);
+    } catch (const QuorError& error) {
+        std::wstring text = error.Description(); // the user knows nothing of a work file
+        if (const auto at = text.find(work.Path()); at != std::wstring::npos)
+            text.replace(at, work.Path().size(), path);
+        throw QuorError(error.Number(), error.Source(), text);
+    }
+    ReplaceBytes(path, QuorIniFile::ReadBytes(work.Path())->bytes);
+    if (!m_path.empty())
+        return;
+    Settle();
+    m_path = path;
+    m_store = std::make_shared<IniStore>();
+    m_store->SetFileName(path);
+    m_stamp = QuorIniFile::StampOf(path);
+    static_cast<void>(m_store->Sections()); // takes the text in
+}
+
+bool ProbeDocument::IsStandAlone(const std::wstring& path) {
+    if (!StandAloneSection(path))
+        return false;
+    const ProbeFile file(path);
+    return std::all_of(file.Records().begin(), file.Records().end(),
+                       [](const Record& record) { return record.standAlone; });
+}
+
+} // namespace ProbeSetup

@@ -1,0 +1,254 @@
+#pragma once
+
+#include "QuorConversions/core/CQuorConversion.h"
+#include "QuorIniFile/IniDisk.h"
+#include "QuorIniFile/IniStore.h"
+#include "QuorRegistryII/Registry.h"
+#include "apps/probe-setup/QuietPlatform.h"
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+#include <utility>
+#include <vector>
+
+namespace ProbeSetup {
+
+/// A conversion type; nothing where a record says none that could be read.
+using ProbeType = std::optional<QuorConversions::EQuorConversionType>;
+
+/// Why a probe cannot have a name.
+enum class NameProblem {
+    None,
+    Empty,
+    CannotBeWritten,       ///< no section of a file can have it
+    ProbeExists,           ///< names are the same in any case of ASCII letters
+    SectionExists,         ///< the host's file has a section of its own with that name
+    IsSettingsOfProbe,     ///< another probe keeps its settings in that section
+    SettingsSectionExists, ///< this probe would keep its settings in a section that is there already
+};
+
+/// What the user has done to the list; each can be taken back.
+enum class StepKind { Add, Duplicate, Import, Remove, Rename, ChangeType, Edit };
+
+/// What could not be read of a probe.
+struct ReadProblems {
+    std::vector<std::wstring> keys;     ///< "[section] key" of each that is missing or cannot be read
+    std::vector<std::wstring> messages; ///< what else the library said
+    [[nodiscard]] bool IsEmpty() const { return keys.empty() && messages.empty(); }
+    /// Keys and messages.
+    [[nodiscard]] std::vector<std::wstring> Lines() const;
+};
+
+/// What the document cannot do, for a reason that it knows better than the library.
+enum class Failure {
+    NoStandAloneFile, ///< the file's extension is that of no conversion type
+    UnreadableRecord, ///< details: "[section] key" of what is missing or unreadable, or the library's
+                      ///< messages
+    UnknownType,      ///< details: the probe, and the code of its type
+    ChangedByOthers,  ///< details: the probes that another program has changed or removed meanwhile, and that
+                      ///< a save would write or remove
+    NameIsTaken,      ///< details: a new name that another program has used in the file meanwhile
+    CannotWrite,      ///< details: the section, and the library's messages
+};
+struct DocumentError {
+    Failure failure;
+    std::wstring file;
+    std::vector<std::wstring> details;
+};
+
+/// What becomes of what another program has written about the very probes that are to be saved.
+enum class OthersChanges {
+    Refuse,  ///< nothing is saved
+    Replace, ///< it gives way; a probe that was removed comes back
+};
+
+/// The probes of a host's INI file, as they are to be: a list that is edited in memory and saved on request.
+/// It shows nothing but the dialogs of the conversions, through the platform; it knows no toolkit.
+///
+/// A probe is read when somebody looks into it, and it is written only when it was changed. A save changes
+/// nothing else in the file, and what other programs have written since the file was read stays. Probes are
+/// addressed by their place in the list, which has the order of the file, with new probes behind.
+class ProbeDocument {
+public:
+    /// Told how much of the file has been taken in, from 0 to 1.
+    using Progress = std::function<void(double)>;
+
+    /// The conversions speak to the user through `platform` and keep the places of their dialogs in
+    /// `registry`, which may be null. The document is empty and has no file.
+    explicit ProbeDocument(std::shared_ptr<QuorConversions::Platform> platform,
+                           std::shared_ptr<QuorRegistryII::Registry> registry = nullptr);
+
+    /// Takes the probes of a file in place of what was there. Raises QuorError, and leaves all as it was,
+    /// when the file cannot be read.
+    void Open(const std::wstring& path, const Progress& progress = {});
+    /// Makes the document empty, without a file.
+    void Close();
+
+    /// The path of the file; empty for a document that was never saved.
+    [[nodiscard]] const std::wstring& Path() const { return m_path; }
+    /// Whether the file may not be written. Nothing can be changed then.
+    [[nodiscard]] bool IsReadOnly() const { return m_isReadOnly; }
+
+    [[nodiscard]] std::size_t Count() const { return m_entries.size(); }
+    [[nodiscard]] const std::wstring& Name(std::size_t probe) const { return m_entries[probe].name; }
+    /// The type; nothing when the record says none that could be read.
+    [[nodiscard]] ProbeType Type(std::size_t probe) const { return m_entries[probe].content.type; }
+    /// The number of the conversion's name: equal names have equal numbers, from 0 on.
+    [[nodiscard]] std::size_t ConversionNumber(std::size_t probe) const {
+        return m_entries[probe].content.name;
+    }
+    /// The name of the conversion, from its settings where there are any; empty for a type that cannot be
+    /// read.
+    [[nodiscard]] const std::wstring& ConversionName(std::size_t number) const { return m_names[number]; }
+    /// Whether a save would write the probe.
+    [[nodiscard]] bool IsChanged(std::size_t probe) const;
+    /// The place of the probe with that name, in any case of ASCII letters.
+    [[nodiscard]] std::optional<std::size_t> Find(std::wstring_view name) const;
+
+    /// Whether a new probe can have `name`, or the one in the place `except`.
+    [[nodiscard]] NameProblem CheckName(std::wstring_view name, std::optional<std::size_t> except = {}) const;
+    /// A name that a new probe can have: `wish`, or `wish` with a number behind it.
+    [[nodiscard]] std::wstring FreeName(const std::wstring& wish) const;
+
+    // What changes the list. A name must have no problem; the document must not be read-only.
+
+    /// Adds a probe with the type's default values; its place.
+    std::size_t Add(const std::wstring& name, QuorConversions::EQuorConversionType type);
+    /// Adds a probe with the values of another one, under a free name; its place. Raises DocumentError when
+    /// the record of that one cannot be read wholly, or its type is unknown.
+    std::size_t Duplicate(std::size_t probe);
+    /// Adds the probe of a stand-alone settings file, under a free name made of the file's; its place. Raises
+    /// DocumentError when the file is none or cannot be read wholly.
+    std::size_t Import(const std::wstring& path);
+    /// Keeps the name when it is the same to the letter.
+    void Rename(std::size_t probe, const std::wstring& name);
+    /// Gives a probe another type, with default values. The type that it has changes nothing.
+    void SetType(std::size_t probe, QuorConversions::EQuorConversionType type);
+    /// Removes probes; their places in ascending order.
+    void Remove(const std::vector<std::size_t>& probes);
+
+    /// Opens the dialog of the probe's settings on a copy of them, which takes their place when the user
+    /// accepts and any value of the record is another one; True then. A read-only document shows it
+    /// read-only. What cannot be read of the record shows with the default values.
+    bool Edit(std::size_t probe);
+    /// Whether the probe has settings to edit.
+    [[nodiscard]] bool HasSettings(std::size_t probe);
+    /// What cannot be read of the probe's record. Nothing for a probe whose dialog was accepted with changes:
+    /// its values are those of the dialog.
+    [[nodiscard]] const ReadProblems& CheckRecord(std::size_t probe);
+    /// The conversion of a probe, for looking at it.
+    [[nodiscard]] const QuorConversions::CQuorConversion& Conversion(std::size_t probe);
+    /// Asks for a file, in a dialog owned by the window `hwnd`, and writes the probe as a stand-alone
+    /// settings file; its path, or nothing when the user cancelled. Raises DocumentError when the record
+    /// cannot be read wholly, or the file cannot be written. The probe must have settings.
+    std::optional<std::wstring> Export(std::size_t probe, std::int32_t hwnd);
+
+    /// The last thing that was done, and the last that was taken back; nothing where there is none. A save
+    /// ends the history.
+    [[nodiscard]] std::optional<StepKind> UndoKind() const;
+    [[nodiscard]] std::optional<StepKind> RedoKind() const;
+    /// Each returns the place of the probe that it concerns, or where probes have gone. There must be a step.
+    std::size_t Undo();
+    std::size_t Redo();
+
+    /// Whether a save would write anything.
+    [[nodiscard]] bool Changed() const;
+    /// Saves into the file, all or nothing. Raises QuorError or DocumentError, and the document stays as it
+    /// was, when the file cannot be written, when another program has used one of the new names in it, and
+    /// when it has changed a probe that is to be written or removed. Probes that another program has added
+    /// are in the list afterwards. The document must have a file.
+    void Save(OthersChanges others = OthersChanges::Refuse);
+    /// Saves the document, with all of the file around the probes, under another name, in place of what is
+    /// there; without its surroundings, when its own file is gone. The document stays with its own file, if
+    /// it has one, and takes the new one otherwise. Raises what Save raises, and DocumentError when the file
+    /// is gone and a probe, whose text is lost with it, was not read wholly or is of an unknown type.
+    void SaveCopyAs(const std::wstring& path, OthersChanges others = OthersChanges::Refuse);
+
+    /// Whether `path` is a stand-alone settings file: by its extension, and because no host keeps probes in
+    /// it. Raises QuorError when it cannot be read.
+    [[nodiscard]] static bool IsStandAlone(const std::wstring& path);
+
+private:
+    /// What is stored of a probe.
+    struct Content {
+        std::shared_ptr<QuorConversions::CQuorConversion> conversion; // null until somebody looks into it
+        ProbeType type;
+        ReadProblems problems;       // of the record that the conversion was read from
+        std::uint32_t name = 0;      // in m_names
+        bool replacesRecord = false; // the settings in the file are those of another conversion
+        [[nodiscard]] bool IsChanged() const {
+            return replacesRecord || (conversion && conversion->Changed());
+        }
+    };
+    struct Entry {
+        std::wstring name;
+        std::wstring nameInFile; // where it is another one
+        bool isNew = false;      // it has no record in the file
+        Content content;
+        [[nodiscard]] const std::wstring& Section() const { return nameInFile.empty() ? name : nameInFile; }
+        [[nodiscard]] bool IsRenamed() const { return !isNew && !nameInFile.empty(); }
+        void SetName(std::wstring newName);
+    };
+    /// Something that was done. It holds what is not in the list at the moment, so that doing it and taking
+    /// it back are the same: both change places.
+    struct Step {
+        StepKind kind;
+        std::vector<std::size_t> places;
+        std::vector<Entry> entries; // those that are not in the list, for steps that add or remove
+        std::wstring name;          // for a step that renames
+        Content content;            // for a step that changes the content
+    };
+
+    [[nodiscard]] std::shared_ptr<QuorConversions::CQuorConversion> NewConversion() const;
+    [[nodiscard]] std::shared_ptr<QuorConversions::CQuorConversion>
+    CopyOf(const QuorConversions::CQuorConversion& conversion) const;
+    [[nodiscard]] Content ContentOf(std::shared_ptr<QuorConversions::CQuorConversion> conversion);
+    [[nodiscard]] std::uint32_t NumberOf(const std::wstring& name);
+    [[nodiscard]] std::wstring NameOf(const QuorConversions::CQuorConversion& conversion) const;
+    const ReadProblems& Load(Entry& entry);
+    /// Raises DocumentError unless all of the probe is in its conversion, so that it can be written
+    /// elsewhere.
+    void RequireWhole(Entry& entry);
+
+    std::size_t Append(StepKind kind, std::wstring name, Content content);
+    void Do(Step step);
+    void Toggle(Step& step);
+
+    enum class Extent { Changes, AllProbes };
+    void Apply(const std::shared_ptr<QuorIniFile::IniStore>& store, Extent extent);
+    /// What is to become of the sections of a file, before anything is written into them.
+    struct Moves {
+        std::vector<std::wstring> removed;
+        std::vector<std::pair<std::wstring, std::wstring>> renamed; // from, to
+        std::vector<std::wstring> outdated; // under their new names: settings of another conversion
+    };
+    [[nodiscard]] Moves MovesIn(QuorIniFile::IniStore& store) const;
+    void MoveSections(QuorIniFile::IniStore& store) const;
+    void Write(const std::shared_ptr<QuorIniFile::IniStore>& store, const Entry& entry);
+    /// Raises DocumentError when what was done cannot be joined with what others have written into `theirs`.
+    void MeetOthers(const std::shared_ptr<QuorIniFile::IniStore>& theirs, OthersChanges others);
+    void RequireFreeNames(const std::unordered_set<std::wstring>& theirs) const;
+    [[nodiscard]] bool IsSameRecord(const std::shared_ptr<QuorIniFile::IniStore>& theirs,
+                                    const std::wstring& section) const;
+    [[nodiscard]] std::vector<const Entry*> RemovedEntries() const;
+    void Settle();
+
+    std::shared_ptr<QuietPlatform> m_platform;
+    std::shared_ptr<QuorRegistryII::Registry> m_registry;
+    std::wstring m_path;
+    bool m_isReadOnly = false;
+    std::shared_ptr<QuorIniFile::IniStore> m_store; // the text that was last read or saved; never written to
+    QuorIniFile::IniStamp m_stamp;                  // of the file when it was last read or saved
+    std::vector<Entry> m_entries;
+    std::vector<std::wstring> m_foreign; // the names of the file's other sections
+    std::vector<std::wstring> m_names;   // of conversions
+    std::vector<Step> m_done;
+    std::vector<Step> m_undone;
+};
+
+} // namespace ProbeSetup

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "apps/probe-setup/ProbeDocument.h"
+
+#include <QAbstractTableModel>
+#include <QCoreApplication>
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace ProbeSetup {
+
+/// The probes of a document as rows: name, conversion, changed mark. It can show those alone whose name or
+/// conversion contains a text.
+class ProbeTableModel final : public QAbstractTableModel {
+    Q_DECLARE_TR_FUNCTIONS(ProbeTableModel)
+
+public:
+    enum Column { NameColumn, ConversionColumn, ChangedColumn, ColumnCount };
+
+    /// The document outlives the model. `rename` is asked to give a probe the name that the user has typed.
+    ProbeTableModel(const ProbeDocument& document, std::function<void(std::size_t, const QString&)> rename);
+
+    /// Shows the document as it is now. To be called when probes have come or gone.
+    void Refresh();
+    /// Shows a probe as it is now.
+    void RefreshProbe(std::size_t probe);
+    /// Shows the probes that contain `text`, in any case of letters; an empty one shows all.
+    void SetFilter(const QString& text);
+
+    [[nodiscard]] std::size_t ProbeAt(int row) const { return m_rows[static_cast<std::size_t>(row)]; }
+    /// The row of a probe; nothing when the filter hides it.
+    [[nodiscard]] std::optional<int> RowOf(std::size_t probe) const;
+    [[nodiscard]] QString ConversionText(std::size_t probe) const;
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+private:
+    void Filter();
+
+    const ProbeDocument& m_document;
+    std::function<void(std::size_t, const QString&)> m_rename;
+    QString m_filter;
+    std::vector<std::uint32_t> m_rows; // the probes that are shown, in their order
+};
+
+} // namespace ProbeSetup

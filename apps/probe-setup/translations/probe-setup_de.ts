@@ -1,0 +1,570 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>The probes of a host&apos;s INI file: listed, edited in their dialogs, saved.</source>
+        <translation>Die Fühler der INI-Datei eines Programms: aufgelistet, in ihren Dialogen bearbeitet, gespeichert.</translation>
+    </message>
+    <message>
+        <source>The host&apos;s file, or a settings file whose probe is added.</source>
+        <translation>Die Datei des Programms oder eine Einstellungsdatei, deren Fühler hinzugefügt wird.</translation>
+    </message>
+    <message>
+        <source>Speak this language, en or de, instead of the system&apos;s.</source>
+        <translation>Diese Sprache sprechen, en oder de, statt der des Systems.</translation>
+    </message>
+    <message>
+        <source>Show what the program does: edit a value in each of the twelve dialogs, save FILE, print what has changed in it, and leave a picture of each window in FOLDER.</source>
+        <translation>Zeigen, was das Programm kann: in jedem der zwölf Dialoge einen Wert ändern, FILE speichern, ausgeben, was sich darin geändert hat, und ein Bild jedes Fensters in FOLDER ablegen.</translation>
+    </message>
+    <message>
+        <source>only one FILE can be opened</source>
+        <translation>nur eine Datei (FILE) kann geöffnet werden</translation>
+    </message>
+    <message>
+        <source>--tour needs a FILE</source>
+        <translation>--tour braucht eine Datei (FILE)</translation>
+    </message>
+    <message>
+        <source>--language %1: the languages are en and de</source>
+        <translation>--language %1: die Sprachen sind en und de</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Read-only</source>
+        <translation>Schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>Progress of loading</source>
+        <translation>Fortschritt des Ladens</translation>
+    </message>
+    <message>
+        <source>F&amp;ind:</source>
+        <translation>S&amp;uchen:</translation>
+    </message>
+    <message>
+        <source>Part of a name or of a conversion</source>
+        <translation>Teil eines Namens oder einer Konversion</translation>
+    </message>
+    <message>
+        <source>Find probes</source>
+        <translation>Fühler suchen</translation>
+    </message>
+    <message>
+        <source>Probes</source>
+        <translation>Fühler</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message>
+        <source>Start a new file</source>
+        <translation>Eine neue Datei beginnen</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>Open the file of a host, or add the probe of a settings file</source>
+        <translation>Die Datei eines Programms öffnen oder den Fühler einer Einstellungsdatei hinzufügen</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Write the changes into the file</source>
+        <translation>Die Änderungen in die Datei schreiben</translation>
+    </message>
+    <message>
+        <source>Save a &amp;copy as…</source>
+        <translation>&amp;Kopie speichern unter …</translation>
+    </message>
+    <message>
+        <source>Write the file with the changes under another name</source>
+        <translation>Die Datei mit den Änderungen unter einem anderen Namen schreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Import probe…</source>
+        <translation>Fühler &amp;importieren …</translation>
+    </message>
+    <message>
+        <source>Add the probe of a settings file</source>
+        <translation>Den Fühler einer Einstellungsdatei hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Export probe…</source>
+        <translation>Fühler &amp;exportieren …</translation>
+    </message>
+    <message>
+        <source>Write the probe into a settings file of its own</source>
+        <translation>Den Fühler in eine eigene Einstellungsdatei schreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Leave Probe Setup</source>
+        <translation>Das Programm verlassen</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Take the last change back</source>
+        <translation>Die letzte Änderung zurücknehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Make the change again</source>
+        <translation>Die Änderung wieder vornehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>Show the probes that contain a text</source>
+        <translation>Die Fühler zeigen, die einen Text enthalten</translation>
+    </message>
+    <message>
+        <source>&amp;Probe</source>
+        <translation>&amp;Fühler</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>&amp;Hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Add a probe with a name and a conversion type</source>
+        <translation>Einen Fühler mit Namen und Konversionstyp hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>&amp;Bearbeiten …</translation>
+    </message>
+    <message>
+        <source>Edit the settings of the conversion</source>
+        <translation>Die Einstellungen der Konversion bearbeiten</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>Give the probe another name</source>
+        <translation>Dem Fühler einen anderen Namen geben</translation>
+    </message>
+    <message>
+        <source>Change &amp;type…</source>
+        <translation>&amp;Typ ändern …</translation>
+    </message>
+    <message>
+        <source>Give the probe another conversion type</source>
+        <translation>Dem Fühler einen anderen Konversionstyp geben</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>&amp;Duplizieren</translation>
+    </message>
+    <message>
+        <source>Add a probe with the same settings</source>
+        <translation>Einen Fühler mit denselben Einstellungen hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the selected probes</source>
+        <translation>Die ausgewählten Fühler entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Show the help</source>
+        <translation>Die Hilfe zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;About Probe Setup</source>
+        <translation>&amp;Über Probe Setup</translation>
+    </message>
+    <message>
+        <source>Show the version</source>
+        <translation>Die Version zeigen</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>%1: this is no settings file of a conversion.</source>
+        <translation>%1: Das ist keine Einstellungsdatei einer Konversion.</translation>
+    </message>
+    <message>
+        <source>%1: these keys are missing or cannot be read:</source>
+        <translation>%1: Diese Schlüssel fehlen oder sind nicht lesbar:</translation>
+    </message>
+    <message>
+        <source>%1: another program has added a section called &quot;%2&quot; meanwhile. Give the probe another name and save again.</source>
+        <translation>%1: Ein anderes Programm hat inzwischen einen Abschnitt namens „%2“ hinzugefügt. Geben Sie dem Fühler einen anderen Namen und speichern Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>%1: the probe &quot;%2&quot; cannot be written:</source>
+        <translation>%1: Der Fühler „%2“ kann nicht geschrieben werden:</translation>
+    </message>
+    <message>
+        <source>Probe Setup</source>
+        <translation>Probe Setup</translation>
+    </message>
+    <message>
+        <source>New file</source>
+        <translation>Neue Datei</translation>
+    </message>
+    <message>
+        <source>%1 has changes that are not saved.</source>
+        <translation>%1 hat Änderungen, die nicht gespeichert sind.</translation>
+    </message>
+    <message>
+        <source>Do you want to save them?</source>
+        <translation>Möchten Sie sie speichern?</translation>
+    </message>
+    <message>
+        <source>Files of hosts (*.ini)</source>
+        <translation>Dateien von Programmen (*.ini)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>The file cannot be opened.</source>
+        <translation>Die Datei kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Loading %1…</source>
+        <translation>%1 wird geladen …</translation>
+    </message>
+    <message>
+        <source>Only one file can be open. %1 is opened.</source>
+        <translation>Nur eine Datei kann offen sein. %1 wird geöffnet.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be saved.</source>
+        <translation>%1 kann nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>%1 is saved.</source>
+        <translation>%1 ist gespeichert.</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>Save a copy as</source>
+        <translation>Kopie speichern unter</translation>
+    </message>
+    <message>
+        <source>Import probes</source>
+        <translation>Fühler importieren</translation>
+    </message>
+    <message>
+        <source>Settings files (%1)</source>
+        <translation>Einstellungsdateien (%1)</translation>
+    </message>
+    <message>
+        <source>%1 is read-only: no probe can be added.</source>
+        <translation>%1 ist schreibgeschützt: Es kann kein Fühler hinzugefügt werden.</translation>
+    </message>
+    <message>
+        <source>The probe cannot be imported.</source>
+        <translation>Der Fühler kann nicht importiert werden.</translation>
+    </message>
+    <message>
+        <source>New probe</source>
+        <translation>Neuer Fühler</translation>
+    </message>
+    <message>
+        <source>The record of &quot;%1&quot; in %2 cannot be read wholly.</source>
+        <translation>Der Datensatz von „%1“ in %2 ist nicht ganz lesbar.</translation>
+    </message>
+    <message>
+        <source>These keys are missing or cannot be read; default values stand in their place:</source>
+        <translation>Diese Schlüssel fehlen oder sind nicht lesbar; an ihrer Stelle stehen Vorgabewerte:</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no settings to edit: %2.</source>
+        <translation>„%1“ hat keine Einstellungen zum Bearbeiten: %2.</translation>
+    </message>
+    <message>
+        <source>About Probe Setup</source>
+        <translation>Über Probe Setup</translation>
+    </message>
+    <message>
+        <source>Probe Setup %1
+
+The probe conversions of precision thermometers: held, edited, kept in INI files.</source>
+        <translation>Probe Setup %1
+
+Die Konversionen der Fühler von Präzisionsthermometern: verwaltet, bearbeitet, in INI-Dateien aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>%1[*] – Probe Setup</source>
+        <translation>%1[*] – Probe Setup</translation>
+    </message>
+    <message>
+        <source>add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>change of type</source>
+        <translation>Änderung des Typs</translation>
+    </message>
+    <message>
+        <source>edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Probes: %1</source>
+        <translation>Fühler: %1</translation>
+    </message>
+    <message>
+        <source>Probes: %1 of %2</source>
+        <translation>Fühler: %1 von %2</translation>
+    </message>
+    <message>
+        <source>No probe contains &quot;%1&quot;. Press Esc in the find box to see all probes.</source>
+        <translation>Kein Fühler enthält „%1“. Esc im Suchfeld zeigt wieder alle Fühler.</translation>
+    </message>
+    <message>
+        <source>%1 has no probes, and it is read-only.</source>
+        <translation>%1 hat keine Fühler und ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>One probe is removed. Undo brings it back.</source>
+        <translation>Ein Fühler ist entfernt. Rückgängig bringt ihn zurück.</translation>
+    </message>
+    <message>
+        <source>%1 probes are removed. Undo brings them back.</source>
+        <translation>%1 Fühler sind entfernt. Rückgängig bringt sie zurück.</translation>
+    </message>
+    <message>
+        <source>Open the file of a host (%1) or drop it here, or add a first probe (%2).</source>
+        <translation>Öffnen Sie die Datei eines Programms (%1), legen Sie sie hier ab, oder fügen Sie einen ersten Fühler hinzu (%2).</translation>
+    </message>
+    <message>
+        <source>%1 has no probes yet. Add one (%2), or import a settings file (%3).</source>
+        <translation>%1 hat noch keine Fühler. Fügen Sie einen hinzu (%2), oder importieren Sie eine Einstellungsdatei (%3).</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; has the type %3, which this program does not know. It stays in the file as it is, but it cannot be copied.</source>
+        <translation>%1: „%2“ hat den Typ %3, den dieses Programm nicht kennt. Der Fühler bleibt in der Datei, wie er ist, kann aber nicht kopiert werden.</translation>
+    </message>
+    <message>
+        <source>%1: another program has changed or removed these probes meanwhile:</source>
+        <translation>%1: Ein anderes Programm hat inzwischen diese Fühler geändert oder entfernt:</translation>
+    </message>
+    <message>
+        <source>Do you want to replace what the other program has written?</source>
+        <translation>Soll ersetzt werden, was das andere Programm geschrieben hat?</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be exported.</source>
+        <translation>„%1“ kann nicht exportiert werden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is written into %2.</source>
+        <translation>„%1“ ist in %2 geschrieben.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be duplicated.</source>
+        <translation>„%1“ kann nicht dupliziert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>NameProblem</name>
+    <message>
+        <source>A probe needs a name.</source>
+        <translation>Ein Fühler braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>No section of a file can be called &quot;%1&quot;.</source>
+        <translation>Kein Abschnitt einer Datei kann „%1“ heißen.</translation>
+    </message>
+    <message>
+        <source>There is a probe called &quot;%1&quot; already.</source>
+        <translation>Es gibt schon einen Fühler namens „%1“.</translation>
+    </message>
+    <message>
+        <source>The file has a section of its own called &quot;%1&quot;.</source>
+        <translation>Die Datei hat einen eigenen Abschnitt namens „%1“.</translation>
+    </message>
+    <message>
+        <source>Another probe keeps its settings in the section &quot;%1&quot;.</source>
+        <translation>Ein anderer Fühler bewahrt seine Einstellungen im Abschnitt „%1“ auf.</translation>
+    </message>
+    <message>
+        <source>The file has a section in which the settings of &quot;%1&quot; would stand.</source>
+        <translation>Die Datei hat einen Abschnitt, in dem die Einstellungen von „%1“ stehen würden.</translation>
+    </message>
+</context>
+<context>
+    <name>ProbeDialog</name>
+    <message>
+        <source>Conversion type of %1</source>
+        <translation>Konversionstyp von %1</translation>
+    </message>
+    <message>
+        <source>Another type starts with values of its own; the present ones are not carried over.</source>
+        <translation>Ein anderer Typ beginnt mit eigenen Werten; die jetzigen werden nicht übernommen.</translation>
+    </message>
+    <message>
+        <source>Add a probe</source>
+        <translation>Fühler hinzufügen</translation>
+    </message>
+    <message>
+        <source>The probe gets the default values of its type.</source>
+        <translation>Der Fühler bekommt die Vorgabewerte seines Typs.</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>Conversion &amp;type:</source>
+        <translation>Konversions&amp;typ:</translation>
+    </message>
+</context>
+<context>
+    <name>ProbeTableModel</name>
+    <message>
+        <source>Changed and not saved yet</source>
+        <translation>Geändert und noch nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Conversion</source>
+        <translation>Konversion</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+</context>
+<context>
+    <name>TypeTexts</name>
+    <message>
+        <source>No conversion</source>
+        <translation>Keine Konversion</translation>
+    </message>
+    <message>
+        <source>%1, deviation points</source>
+        <translation>%1, Abweichungspunkte</translation>
+    </message>
+    <message>
+        <source>%1, deviation polynomial</source>
+        <translation>%1, Abweichungspolynom</translation>
+    </message>
+    <message>
+        <source>%1, standard curve</source>
+        <translation>%1, Normkennlinie</translation>
+    </message>
+    <message>
+        <source>%1, R0 of its own</source>
+        <translation>%1, eigener R0</translation>
+    </message>
+    <message>
+        <source>Thermistor, ohms</source>
+        <translation>Thermistor, Ohm</translation>
+    </message>
+    <message>
+        <source>The type cannot be read</source>
+        <translation>Der Typ ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Unknown type, code %1</source>
+        <translation>Unbekannter Typ, Nummer %1</translation>
+    </message>
+    <message>
+        <source>Keep the existing type</source>
+        <translation>Den jetzigen Typ behalten</translation>
+    </message>
+    <message>
+        <source>ITS-SR5, ITS-90 in range 5 alone</source>
+        <translation>ITS-SR5, ITS-90 nur im Bereich 5</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,664 @@
+#include "apps/probe-setup/ProbeDocument.h"
+
+#include "QuorConversions/rtd/CQuorCVD.h"
+#include "QuorIniFile/QuorError.h"
+#include "QuorIniFile/Utf8.h"
+#include "tests/apps/quorconv/Quorconv.h"
+#include "toolkits/scripted/ScriptedPlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <sys/stat.h>
+
+namespace fs = std::filesystem;
+using namespace ProbeSetup;
+using namespace QuorConversions;
+using QuorConversions::Scripted::Person;
+
+namespace {
+
+using Texts = std::vector<std::wstring>;
+
+const std::string host = "; The host's own file\n"
+                         "\n"
+                         "[Instrument]\n"
+                         "Port=COM3\n"
+                         "\n"
+                         "; the reference\n"
+                         "[Probe 1]\n"
+                         "Version=1.0\n"
+                         "ConversionType=2\n"
+                         "\n"
+                         "[Probe 1 - Settings]\n"
+                         "Version=1.0\n"
+                         "NumCoefficients=4\n"
+                         "UsePolynomial=False\n"
+                         "; as calibrated\n"
+                         "Coefficients0=100.0\n"
+                         "Coefficients1=3.9083E-3\n"
+                         "Coefficients2=1.5\n"
+                         "Coefficients3=0\n"
+                         "\n"
+                         "[Probe 2]\n"
+                         "Version=1.0\n"
+                         "ConversionType=10\n";
+
+/// A document on the file "host.ini" in a folder of the test's own, where quorconv runs too.
+class ProbeDocumentTest : public QuorconvTest {
+protected:
+    void SetUp() override { folder.Write("host.ini", host); }
+    void Open(const std::string& text) {
+        folder.Write("host.ini", text);
+        Open();
+    }
+    void Open() { document.Open(folder.Name("host.ini")); }
+    [[nodiscard]] std::string File() const { return folder.Read("host.ini"); }
+    [[nodiscard]] Texts Names() const {
+        Texts names;
+        for (std::size_t i = 0; i < document.Count(); ++i)
+            names.push_back(document.Name(i));
+        return names;
+    }
+    [[nodiscard]] std::wstring NameOfConversion(std::size_t probe) const {
+        return document.ConversionName(document.ConversionNumber(probe));
+    }
+    /// Edits a probe as a person would.
+    bool Edit(std::size_t probe, std::function<void(Person&)> person) {
+        screen->InDialog(std::move(person));
+        const bool changed = document.Edit(probe);
+        EXPECT_EQ(screen->Complaints(), Texts{});
+        return changed;
+    }
+    static void TypeR0(Person& person) {
+        person.Type(L"R0", L"100.0123");
+        person.Click(L"OK");
+    }
+    template <class Action>
+    DocumentError ErrorOf(const Action& action) const {
+        try {
+            action();
+        } catch (const DocumentError& error) {
+            return error;
+        } catch (const QuorError& error) {
+            ADD_FAILURE() << error.what();
+        }
+        ADD_FAILURE() << "nothing was raised";
+        return {};
+    }
+    template <class Action>
+    std::int32_t NumberRaisedBy(const Action& action) const {
+        try {
+            action();
+        } catch (const QuorError& error) {
+            EXPECT_NE(error.Description().find(L"host.ini"), std::wstring::npos) << error.what();
+            return error.Number();
+        }
+        return 0;
+    }
+
+    std::shared_ptr<Scripted::ScriptedPlatform> screen = std::make_shared<Scripted::ScriptedPlatform>();
+    ProbeDocument document{screen};
+};
+
+std::string Replaced(std::string text, const std::string& from, const std::string& to) {
+    const auto at = text.find(from);
+    EXPECT_NE(at, std::string::npos) << from;
+    return at == std::string::npos ? text : text.replace(at, from.size(), to);
+}
+
+} // namespace
+
+TEST_F(ProbeDocumentTest, ListsTheProbesInTheOrderOfTheFile) {
+    Open();
+    EXPECT_EQ(document.Path(), folder.Name("host.ini"));
+    EXPECT_FALSE(document.IsReadOnly());
+    EXPECT_EQ(Names(), (Texts{L"Probe 1", L"Probe 2"}));
+    EXPECT_EQ(document.Type(0), CONV_CVD);
+    EXPECT_EQ(document.Type(1), CONV_OHMS);
+    EXPECT_EQ(NameOfConversion(0), L"Callendar-Van Dusen");
+    EXPECT_EQ(NameOfConversion(1), L"Ohms");
+    EXPECT_FALSE(document.IsChanged(0));
+    EXPECT_FALSE(document.Changed());
+}
+
+TEST_F(ProbeDocumentTest, NamesEveryConversionOfTheSampleLaboratoryAsQuorconvDoes) {
+    fs::copy_file(QUOR_SAMPLES "/laboratory.ini", folder.Path("host.ini"),
+                  fs::copy_options::overwrite_existing);
+    Open();
+    const std::string listed = Quorconv({"list", "host.ini"}).out;
+    std::string ours;
+    for (std::size_t i = 0; i < document.Count(); ++i)
+        ours += QuorIniFile::ToUtf8(document.Name(i) + L"\t" + ConversionEnumerator(*document.Type(i)) +
+                                    L"\t" + NameOfConversion(i) + L"\n");
+    EXPECT_EQ(ours, listed);
+    EXPECT_EQ(document.Count(), 29U);
+}
+
+TEST_F(ProbeDocumentTest, AFileThatCannotBeReadLeavesTheDocumentAsItWas) {
+    Open();
+    EXPECT_THROW(document.Open(folder.Name("missing.ini")), QuorError);
+    folder.Write("wide.ini", std::string("\xFF\xFE[\0A\0", 6));
+    EXPECT_THROW(document.Open(folder.Name("wide.ini")), QuorError);
+    EXPECT_EQ(document.Count(), 2U);
+    EXPECT_EQ(document.Path(), folder.Name("host.ini"));
+}
+
+TEST_F(ProbeDocumentTest, AnEditedProbeIsWrittenAsQuorconvSetWritesIt) {
+    Open();
+    EXPECT_TRUE(Edit(0, TypeR0));
+    EXPECT_TRUE(document.IsChanged(0));
+    EXPECT_FALSE(document.IsChanged(1));
+    EXPECT_EQ(File(), host) << "nothing is written before the save";
+    document.Save();
+    EXPECT_FALSE(document.Changed());
+    const std::string ours = File();
+    EXPECT_EQ(ours, Replaced(host, "=100.0\n", "=100.0123\n"));
+
+    folder.Write("host.ini", host);
+    ExpectFine({"set", "host.ini", "Probe 1", "Coefficients0=100.0123"});
+    EXPECT_EQ(ours, File());
+}
+
+TEST_F(ProbeDocumentTest, ACancelledDialogAndOneThatChangedNothingAreNoChange) {
+    Open();
+    EXPECT_FALSE(Edit(0, [](Person& person) { person.Click(L"OK"); }));
+    EXPECT_FALSE(Edit(0, [](Person& person) {
+        person.Type(L"R0", L"7");
+        person.Escape();
+    }));
+    EXPECT_FALSE(Edit(0, [](Person& person) {
+        person.Type(L"R0", L"0"); // refused, but gathered
+        person.Click(L"OK");
+        person.Click(L"Cancel");
+    }));
+    EXPECT_FALSE(document.Changed());
+    const auto cvd = SettingsAs<CQuorCVD>(document.Conversion(0));
+    ASSERT_TRUE(cvd);
+    EXPECT_EQ(cvd->Coefficients(CVD_R0), 100.0) << "what was typed before a cancel is gone";
+}
+
+TEST_F(ProbeDocumentTest, ANewProbeIsWrittenAsQuorconvNewWritesIt) {
+    Open();
+    const std::size_t probe = document.Add(L"Probe 3", CONV_PT100R0);
+    EXPECT_EQ(probe, 2U);
+    EXPECT_EQ(NameOfConversion(probe), L"PT100");
+    EXPECT_TRUE(Edit(probe, [](Person& person) {
+        person.Type(L"R0", L"100.5");
+        person.Click(L"OK");
+    }));
+    document.Save();
+    const std::string ours = File();
+
+    folder.Write("host.ini", host);
+    ExpectFine({"new", "host.ini", "Probe 3", "CONV_PT100R0", "Coefficients0=100.5"});
+    EXPECT_EQ(ours, File());
+}
+
+TEST_F(ProbeDocumentTest, ADuplicateIsWrittenAsQuorconvCopyWritesIt) {
+    Open();
+    const std::size_t probe = document.Duplicate(0);
+    EXPECT_EQ(document.Name(probe), L"Probe 1 (2)");
+    document.Save();
+    const std::string ours = File();
+    folder.Write("host.ini", host);
+    ExpectFine({"copy", "host.ini", "Probe 1", "host.ini", "Probe 1 (2)"});
+    EXPECT_EQ(ours, File());
+}
+
+TEST_F(ProbeDocumentTest, ANewDocumentIsSavedAsAFileOfItsOwn) {
+    document.Add(L"Köln", CONV_CVD);
+    document.SaveCopyAs(folder.Name("new.ini"));
+    EXPECT_EQ(document.Path(), folder.Name("new.ini"));
+    EXPECT_FALSE(document.Changed());
+    ExpectFine({"new", "host2.ini", "Köln", "cvd"});
+    EXPECT_EQ(folder.Read("new.ini"), folder.Read("host2.ini"));
+    document.Rename(0, L"Bonn");
+    document.Save();
+    EXPECT_EQ(folder.Read("new.ini"),
+              Replaced(Replaced(folder.Read("host2.ini"), "Köln", "Bonn"), "Köln", "Bonn"));
+}
+
+TEST_F(ProbeDocumentTest, ARenamedProbeTakesItsSettingsAlongAndNothingElseChanges) {
+    const std::string ranges =
+        host + "\n; low\n[Probe 1 - Settings - Low Range] ; kept\nx=1\n[Probe 10]\nx=1\n";
+    Open(ranges);
+    document.Rename(0, L"Probe A");
+    EXPECT_TRUE(document.IsChanged(0));
+    document.Save();
+    std::string expected = Replaced(ranges, "[Probe 1]", "[Probe A]");
+    expected = Replaced(expected, "[Probe 1 - Settings]", "[Probe A - Settings]");
+    expected = Replaced(expected, "[Probe 1 - Settings - Low Range]", "[Probe A - Settings - Low Range]");
+    EXPECT_EQ(File(), expected);
+    EXPECT_TRUE(Edit(0, TypeR0)) << "the probe is found under its new name";
+    document.Save();
+    EXPECT_EQ(File(), Replaced(expected, "=100.0\n", "=100.0123\n"));
+}
+
+TEST_F(ProbeDocumentTest, ProbesMayChangeNamesAmongEachOther) {
+    Open();
+    document.Rename(0, L"between");
+    document.Rename(1, L"probe 1");
+    document.Rename(0, L"Probe 2");
+    document.Save();
+    std::string expected = Replaced(host, "[Probe 2]", "[probe 1]");
+    expected = Replaced(expected, "[Probe 1]", "[Probe 2]");
+    expected = Replaced(expected, "[Probe 1 - Settings]", "[Probe 2 - Settings]");
+    EXPECT_EQ(File(), expected);
+}
+
+TEST_F(ProbeDocumentTest, ARemovedProbeGoesWithItsSettings) {
+    Open();
+    document.Remove({0});
+    EXPECT_EQ(Names(), Texts{L"Probe 2"});
+    EXPECT_TRUE(document.Changed());
+    document.Save();
+    EXPECT_EQ(
+        File(),
+        "; The host's own file\n\n[Instrument]\nPort=COM3\n\n[Probe 2]\nVersion=1.0\nConversionType=10\n");
+}
+
+TEST_F(ProbeDocumentTest, ANameOfARemovedProbeIsFreeAtOnce) {
+    Open();
+    document.Remove({0});
+    document.Rename(0, L"Probe 1");
+    document.Save();
+    EXPECT_EQ(
+        File(),
+        "; The host's own file\n\n[Instrument]\nPort=COM3\n\n[Probe 1]\nVersion=1.0\nConversionType=10\n");
+}
+
+TEST_F(ProbeDocumentTest, AnotherTypeTakesThePlaceOfTheOldSettings) {
+    Open();
+    document.SetType(0, CONV_PT100R0);
+    EXPECT_EQ(document.Type(0), CONV_PT100R0);
+    EXPECT_TRUE(document.IsChanged(0));
+    document.SetType(0, CONV_PT100R0);
+    document.SetType(1, CONV_VOLTS);
+    document.Save();
+    const auto at = host.find("NumCoefficients");
+    const auto end = host.find("\n\n[Probe 2]");
+    std::string expected = host.substr(0, at) + "NumCoefficients=1\nCoefficients0=0" + host.substr(end);
+    expected = Replaced(expected, "ConversionType=2\n", "ConversionType=19\n");
+    expected = Replaced(expected, "ConversionType=10\n", "ConversionType=11\n");
+    EXPECT_EQ(File(), expected);
+    ExpectFine({"check", "host.ini"});
+
+    document.SetType(0, CONV_RATIO);
+    document.Rename(0, L"Probe R");
+    document.Save();
+    EXPECT_EQ(File().find("Settings"), std::string::npos) << "a type without settings leaves none behind";
+    ExpectFine({"check", "host.ini"});
+}
+
+TEST_F(ProbeDocumentTest, TellsWhyAProbeCannotHaveAName) {
+    Open(host + "\n[Lost - Settings - Low Range]\nx=1\n");
+    EXPECT_EQ(document.CheckName(L"Probe 3"), NameProblem::None);
+    EXPECT_EQ(document.CheckName(L""), NameProblem::Empty);
+    EXPECT_EQ(document.CheckName(L"a\nb"), NameProblem::CannotBeWritten);
+    EXPECT_EQ(document.CheckName(L"PROBE 1"), NameProblem::ProbeExists);
+    EXPECT_EQ(document.CheckName(L"PROBE 1", 0), NameProblem::None) << "its own name in other letters";
+    EXPECT_EQ(document.CheckName(L"instrument"), NameProblem::SectionExists);
+    EXPECT_EQ(document.CheckName(L"Probe 2 - Settings"), NameProblem::IsSettingsOfProbe);
+    EXPECT_EQ(document.CheckName(L"Probe 2 - settings - High Range"), NameProblem::IsSettingsOfProbe);
+    EXPECT_EQ(document.CheckName(L"Lost"), NameProblem::SettingsSectionExists);
+    EXPECT_EQ(document.FreeName(L"Probe 1"), L"Probe 1 (2)");
+    EXPECT_EQ(document.FreeName(L"Lost"), L"Lost (2)");
+}
+
+TEST_F(ProbeDocumentTest, EveryStepCanBeTakenBackAndDoneAgain) {
+    Open();
+    document.Add(L"Probe 3", CONV_VOLTS);
+    document.Rename(0, L"First");
+    EXPECT_TRUE(Edit(0, TypeR0));
+    document.SetType(0, CONV_OHMS);
+    document.Duplicate(1);
+    document.Remove({0, 2});
+    EXPECT_EQ(Names(), (Texts{L"Probe 2", L"Probe 2 (2)"}));
+
+    std::vector<StepKind> undone;
+    std::vector<Texts> lists{Names()};
+    while (const auto kind = document.UndoKind()) {
+        undone.push_back(*kind);
+        document.Undo();
+        lists.push_back(Names());
+    }
+    EXPECT_EQ(undone, (std::vector{StepKind::Remove, StepKind::Duplicate, StepKind::ChangeType,
+                                   StepKind::Edit, StepKind::Rename, StepKind::Add}));
+    EXPECT_EQ(lists[1], (Texts{L"First", L"Probe 2", L"Probe 3", L"Probe 2 (2)"}));
+    EXPECT_EQ(lists[5], (Texts{L"Probe 1", L"Probe 2", L"Probe 3"}));
+    EXPECT_EQ(lists[6], (Texts{L"Probe 1", L"Probe 2"}));
+    EXPECT_FALSE(document.Changed());
+    EXPECT_EQ(SettingsAs<CQuorCVD>(document.Conversion(0))->Coefficients(CVD_R0), 100.0);
+
+    while (document.RedoKind())
+        document.Redo();
+    EXPECT_EQ(Names(), lists[0]);
+    document.Undo();
+    document.Undo();
+    document.Undo();
+    EXPECT_EQ(SettingsAs<CQuorCVD>(document.Conversion(0))->Coefficients(CVD_R0), 100.0123);
+    document.Rename(1, L"Second");
+    EXPECT_EQ(document.RedoKind(), std::nullopt) << "a new step ends what could be done again";
+}
+
+TEST_F(ProbeDocumentTest, ASaveEndsTheHistory) {
+    Open();
+    document.Rename(0, L"First");
+    document.Save();
+    EXPECT_EQ(document.UndoKind(), std::nullopt);
+    EXPECT_FALSE(document.Changed());
+}
+
+TEST_F(ProbeDocumentTest, AFailedSaveKeepsEverything) {
+    Open();
+    EXPECT_TRUE(Edit(0, TypeR0));
+    document.Rename(0, L"First");
+    document.Add(L"Probe 3", CONV_VOLTS);
+    document.Remove({1});
+    ASSERT_EQ(::chmod(folder.Path("host.ini").c_str(), 0444), 0);
+    EXPECT_EQ(NumberRaisedBy([&] { document.Save(); }), QuorIniFile::ERR_PERMISSION_DENIED);
+    EXPECT_EQ(File(), host);
+    EXPECT_EQ(Names(), (Texts{L"First", L"Probe 3"}));
+    EXPECT_TRUE(document.Changed());
+    EXPECT_EQ(document.UndoKind(), StepKind::Remove);
+
+    ASSERT_EQ(::chmod(folder.Path("host.ini").c_str(), 0644), 0);
+    document.Save();
+    std::string expected = host.substr(0, host.find("[Probe 2]"));
+    expected = Replaced(expected, "[Probe 1]", "[First]");
+    expected = Replaced(expected, "[Probe 1 - Settings]", "[First - Settings]");
+    expected = Replaced(expected, "=100.0\n", "=100.0123\n");
+    EXPECT_EQ(File(), expected + "[Probe 3]\nVersion=1.0\nConversionType=11\n");
+}
+
+TEST_F(ProbeDocumentTest, WhatWasNotSavedIsNotWrittenWhenTheDocumentEnds) {
+    {
+        ProbeDocument other(screen);
+        other.Open(folder.Name("host.ini"));
+        other.Remove({0});
+        ASSERT_EQ(::chmod(folder.Path("host.ini").c_str(), 0444), 0);
+        EXPECT_THROW(other.Save(), QuorError);
+        ASSERT_EQ(::chmod(folder.Path("host.ini").c_str(), 0644), 0);
+    }
+    EXPECT_EQ(File(), host);
+}
+
+TEST_F(ProbeDocumentTest, WhatAnotherProgramHasWrittenMeanwhileSurvives) {
+    Open();
+    EXPECT_TRUE(Edit(0, TypeR0));
+    const std::string theirs = "[Probe 9]\nVersion=1.0\nConversionType=11\n\n" +
+                               Replaced(Replaced(host, "COM3", "COM4"), "as calibrated", "new certificate");
+    folder.Write("host.ini", theirs);
+    document.Save();
+    EXPECT_EQ(File(), Replaced(theirs, "=100.0\n", "=100.0123\n"));
+    EXPECT_EQ(Names(), (Texts{L"Probe 9", L"Probe 1", L"Probe 2"})) << "their probe is in the list now";
+    EXPECT_FALSE(document.Changed());
+}
+
+TEST_F(ProbeDocumentTest, ANameThatAnotherProgramHasUsedMeanwhileIsNotOverwritten) {
+    Open();
+    document.Add(L"Probe 3", CONV_OHMS);
+    const std::string theirs = host + "\n[Probe 3]\nVersion=1.0\nConversionType=11\n";
+    folder.Write("host.ini", theirs);
+    const DocumentError error = ErrorOf([&] { document.Save(); });
+    EXPECT_EQ(error.failure, Failure::NameIsTaken);
+    EXPECT_EQ(error.file, folder.Name("host.ini"));
+    EXPECT_EQ(error.details, Texts{L"Probe 3"});
+    EXPECT_EQ(File(), theirs);
+    document.Rename(2, L"Probe 4");
+    document.Save();
+    EXPECT_EQ(File(), theirs + "\n[Probe 4]\nVersion=1.0\nConversionType=10\n");
+    EXPECT_EQ(document.Count(), 4U);
+}
+
+TEST_F(ProbeDocumentTest, AFileThatIsGoneIsNotMadeAnewButAllProbesCanBeSavedElsewhere) {
+    Open();
+    EXPECT_TRUE(Edit(0, TypeR0));
+    fs::remove(folder.Path("host.ini"));
+    EXPECT_EQ(NumberRaisedBy([&] { document.Save(); }), QuorIniFile::ERR_FILE_NOT_FOUND);
+    document.SaveCopyAs(folder.Name("rescued.ini"));
+    const std::string rescued = folder.Read("rescued.ini");
+    EXPECT_NE(rescued.find("Coefficients0=100.0123\n"), std::string::npos);
+    EXPECT_NE(rescued.find("[Probe 2]\nVersion=1.0\nConversionType=10\n"), std::string::npos);
+}
+
+TEST_F(ProbeDocumentTest, ACopyHasTheChangesAndTheFileHasNot) {
+    Open();
+    document.Rename(1, L"Second");
+    folder.Write("copy.ini", "old\n");
+    document.SaveCopyAs(folder.Name("copy.ini"));
+    EXPECT_EQ(folder.Read("copy.ini"), Replaced(host, "[Probe 2]", "[Second]"));
+    EXPECT_EQ(File(), host);
+    EXPECT_TRUE(document.Changed());
+    EXPECT_EQ(document.Path(), folder.Name("host.ini"));
+    EXPECT_EQ(document.UndoKind(), StepKind::Rename);
+}
+
+TEST_F(ProbeDocumentTest, AStandAloneFileBecomesAProbeAndAProbeAStandAloneFile) {
+    Open();
+    screen->ChooseFile(folder.Name("out.cvd"));
+    EXPECT_EQ(document.Export(0, 7), folder.Name("out.cvd"));
+    EXPECT_EQ(screen->FileRequests().back().owner, 7);
+    EXPECT_EQ(screen->FileRequests().back().fileName, L"Probe 1.cvd");
+    ExpectFine({"check", "out.cvd"});
+    EXPECT_FALSE(document.Changed());
+    EXPECT_EQ(document.Export(0, 7), std::nullopt) << "nobody chose a file";
+    screen->ChooseFile(folder.Name("no folder/out.cvd"));
+    const DocumentError error = ErrorOf([&] { document.Export(0, 7); });
+    EXPECT_EQ(error.failure, Failure::CannotWrite);
+    EXPECT_EQ(error.file, folder.Name("no folder/out.cvd"));
+    EXPECT_TRUE(screen->Messages().empty()) << "told once, by the error";
+
+    ASSERT_TRUE(ProbeDocument::IsStandAlone(folder.Name("out.cvd")));
+    const std::size_t probe = document.Import(folder.Name("out.cvd"));
+    EXPECT_EQ(document.Name(probe), L"out");
+    EXPECT_EQ(document.Type(probe), CONV_CVD);
+    document.Save();
+    const std::string ours = File();
+    folder.Write("host.ini", host);
+    ExpectFine({"copy", "out.cvd", "Callendar-Van Dusen", "host.ini", "out"});
+    EXPECT_EQ(ours, File());
+}
+
+TEST_F(ProbeDocumentTest, EveryStandAloneSampleCanBeImported) {
+    std::size_t count = 0;
+    for (const auto& file : fs::directory_iterator(QUOR_SAMPLES)) {
+        if (file.path().extension() == ".ini" || !file.is_regular_file() ||
+            file.path().extension() == ".md" || !file.path().has_extension() ||
+            file.path().filename() == ".gitattributes")
+            continue;
+        EXPECT_TRUE(ProbeDocument::IsStandAlone(file.path().wstring())) << file.path();
+        document.Import(file.path().wstring());
+        ++count;
+    }
+    EXPECT_EQ(count, 12U);
+    EXPECT_EQ(document.Count(), 12U);
+}
+
+TEST_F(ProbeDocumentTest, AFileThatIsNoStandAloneOneIsRefusedWithTheReason) {
+    EXPECT_FALSE(ProbeDocument::IsStandAlone(folder.Name("host.ini")));
+    EXPECT_EQ(ErrorOf([&] { document.Import(folder.Name("host.ini")); }).failure, Failure::NoStandAloneFile);
+    folder.Write("short.cvd", "[Callendar-Van Dusen]\nVersion=1.0\nNumCoefficients=4\nUsePolynomial=False\n"
+                              "Coefficients0=1\nCoefficients1=1\nCoefficients3=1,5\n");
+    const DocumentError error = ErrorOf([&] { document.Import(folder.Name("short.cvd")); });
+    EXPECT_EQ(error.failure, Failure::UnreadableRecord);
+    EXPECT_EQ(error.details,
+              (Texts{L"[Callendar-Van Dusen] Coefficients2", L"[Callendar-Van Dusen] Coefficients3"}));
+    EXPECT_EQ(document.Count(), 0U);
+    folder.Write("host.cvd", host);
+    EXPECT_FALSE(ProbeDocument::IsStandAlone(folder.Name("host.cvd"))) << "a host keeps its probes there";
+}
+
+TEST_F(ProbeDocumentTest, WhatCannotBeReadOfARecordIsToldWithItsKeys) {
+    Open("[P]\nConversionType=2\n[P - Settings]\nNumCoefficients=4\nUsePolynomial=False\n"
+         "Coefficients0=100\nCoefficients1=x\nCoefficients2=1\n[Q]\nConversionType=CVD\n");
+    EXPECT_EQ(document.CheckRecord(0).keys,
+              (Texts{L"[P - Settings] Coefficients1", L"[P - Settings] Coefficients3"}));
+    EXPECT_EQ(document.CheckRecord(0).messages, Texts{});
+    EXPECT_EQ(document.CheckRecord(0).keys.size(), 2U) << "and as often as one asks";
+    EXPECT_EQ(document.Type(1), std::nullopt);
+    EXPECT_EQ(NameOfConversion(1), L"");
+    EXPECT_EQ(document.CheckRecord(1).keys, Texts{L"[Q] ConversionType"});
+    EXPECT_FALSE(document.HasSettings(1));
+    EXPECT_TRUE(screen->Messages().empty()) << "the library has nobody to tell but the document";
+    EXPECT_FALSE(document.Changed());
+}
+
+TEST_F(ProbeDocumentTest, WhatCannotBeReadIsNeverReplacedByDefaultsInACopy) {
+    const std::string text = Replaced(host, "=3.9083E-3", "=3,9083E-3");
+    Open(text);
+    const Texts keys{L"[Probe 1 - Settings] Coefficients1"};
+    const auto expectRefused = [&](const auto& action) {
+        const DocumentError error = ErrorOf(action);
+        EXPECT_EQ(error.failure, Failure::UnreadableRecord);
+        EXPECT_EQ(error.file, folder.Name("host.ini"));
+        EXPECT_EQ(error.details, keys);
+    };
+    expectRefused([&] { document.Duplicate(0); });
+    screen->ChooseFile(folder.Name("out.cvd"));
+    expectRefused([&] { document.Export(0, 0); });
+    EXPECT_FALSE(fs::exists(folder.Path("out.cvd")));
+    EXPECT_FALSE(Edit(0, [](Person& person) { person.Click(L"Cancel"); }));
+    EXPECT_EQ(document.CheckRecord(0).keys, keys) << "a look at the dialog does not mend the record";
+
+    document.SaveCopyAs(folder.Name("copy.ini"));
+    EXPECT_EQ(folder.Read("copy.ini"), text) << "with the text at hand nothing is lost";
+    fs::remove(folder.Path("host.ini"));
+    expectRefused([&] { document.SaveCopyAs(folder.Name("rescued.ini")); });
+    EXPECT_FALSE(fs::exists(folder.Path("rescued.ini")));
+    EXPECT_EQ(document.Count(), 2U);
+
+    EXPECT_TRUE(Edit(0, [](Person& person) {
+        person.Type(L"ALPHA", L"3.9083E-3");
+        person.Click(L"OK");
+    }));
+    EXPECT_TRUE(document.CheckRecord(0).IsEmpty()) << "the values are those of the dialog now";
+    document.Duplicate(0);
+    document.SaveCopyAs(folder.Name("rescued.ini"));
+    EXPECT_NE(folder.Read("rescued.ini").find("[Probe 1 (2) - Settings]"), std::string::npos);
+}
+
+TEST_F(ProbeDocumentTest, ARescueAfterAFailedSaveStillHasTheValuesThatWereRead) {
+    Open(host + "\n[Probe 3]\nVersion=1.0\nConversionType=19\n\n[Probe 3 - Settings]\nVersion=1.0\n"
+                "NumCoefficients=1\nCoefficients0=99.875\n");
+    document.Rename(1, L"Second");
+    ASSERT_EQ(::chmod(folder.Path("host.ini").c_str(), 0444), 0);
+    EXPECT_THROW(document.Save(), QuorError);
+    fs::remove(folder.Path("host.ini"));
+    document.SaveCopyAs(folder.Name("rescued.ini"));
+    const std::string rescued = folder.Read("rescued.ini");
+    EXPECT_NE(rescued.find("Coefficients1=0.0039083\n"), std::string::npos) << rescued;
+    EXPECT_NE(rescued.find("Coefficients0=99.875\n"), std::string::npos) << rescued;
+    EXPECT_NE(rescued.find("[Second]\n"), std::string::npos);
+}
+
+TEST_F(ProbeDocumentTest, AProbeOfAnUnknownTypeIsKeptButNotCopied) {
+    const std::string text =
+        host + "\n[New]\nVersion=1.0\nConversionType=25\n\n[New - Settings]\nLambda=1.25\n";
+    Open(text);
+    const DocumentError error = ErrorOf([&] { document.Duplicate(2); });
+    EXPECT_EQ(error.failure, Failure::UnknownType);
+    EXPECT_EQ(error.details, (Texts{L"New", L"25"}));
+    document.Rename(2, L"Newer");
+    document.Save();
+    EXPECT_EQ(File(), Replaced(Replaced(text, "[New]", "[Newer]"), "[New - ", "[Newer - "));
+    fs::remove(folder.Path("host.ini"));
+    EXPECT_EQ(ErrorOf([&] { document.SaveCopyAs(folder.Name("rescued.ini")); }).failure,
+              Failure::UnknownType);
+    EXPECT_FALSE(fs::exists(folder.Path("rescued.ini")));
+    document.Remove({2});
+    document.SaveCopyAs(folder.Name("rescued.ini"));
+    EXPECT_TRUE(fs::exists(folder.Path("rescued.ini"))) << "the others can be saved without it";
+}
+
+TEST_F(ProbeDocumentTest, AFormThatADialogHasReadFromAFileIsAChangeOfItsOwn) {
+    Open();
+    folder.Write("same.cvd", "[Callendar-Van Dusen]\nVersion=1.0\nNumCoefficients=4\nUsePolynomial=True\n"
+                             "Coefficients0=100\nCoefficients1=0.0039083\nCoefficients2=1.5\n"
+                             "Coefficients3=0\n");
+    screen->ChooseFile(folder.Name("same.cvd"));
+    EXPECT_TRUE(Edit(0, [](Person& person) {
+        person.Click(L"Open");
+        person.Click(L"OK");
+    }));
+    document.Save();
+    EXPECT_EQ(File(), Replaced(host, "UsePolynomial=False", "UsePolynomial=True"));
+}
+
+TEST_F(ProbeDocumentTest, NewerValuesOfAnotherProgramAreNotOverwrittenUnasked) {
+    Open();
+    EXPECT_TRUE(Edit(0, TypeR0));
+    const std::string theirs = Replaced(host, "=1.5\n", "=1.75\n");
+    folder.Write("host.ini", theirs);
+    const auto save = [&] { document.Save(); };
+    const DocumentError error = ErrorOf(save);
+    EXPECT_EQ(error.failure, Failure::ChangedByOthers);
+    EXPECT_EQ(error.details, Texts{L"Probe 1"});
+    EXPECT_EQ(File(), theirs);
+    EXPECT_EQ(ErrorOf(save).failure, Failure::ChangedByOthers) << "a second time too";
+    EXPECT_EQ(ErrorOf([&] { document.SaveCopyAs(folder.Name("copy.ini")); }).failure,
+              Failure::ChangedByOthers);
+    document.Save(OthersChanges::Replace);
+    EXPECT_EQ(File(), Replaced(host, "=100.0\n", "=100.0123\n")) << "a save writes the probe as it is shown";
+
+    document.Remove({0});
+    folder.Write("host.ini", theirs);
+    EXPECT_EQ(ErrorOf(save).failure, Failure::ChangedByOthers);
+    EXPECT_EQ(File(), theirs);
+    document.Undo();
+    document.Rename(0, L"Probe A");
+    document.Save();
+    EXPECT_NE(File().find("Coefficients2=1.75"), std::string::npos) << "a new name leaves their values alone";
+}
+
+TEST_F(ProbeDocumentTest, ARenamedProbeThatAnotherProgramHasRemovedDoesNotVanishUnasked) {
+    Open();
+    document.Rename(0, L"Probe A");
+    const std::string theirs = "[Probe 2]\nVersion=1.0\nConversionType=10\n";
+    folder.Write("host.ini", theirs);
+    EXPECT_EQ(ErrorOf([&] { document.Save(); }).details, Texts{L"Probe A"});
+    EXPECT_EQ(File(), theirs);
+    EXPECT_EQ(document.Name(0), L"Probe A");
+    document.Save(OthersChanges::Replace);
+    EXPECT_EQ(Names(), (Texts{L"Probe 2", L"Probe A"}));
+    EXPECT_NE(File().find("[Probe A - Settings]"), std::string::npos) << File();
+    EXPECT_NE(File().find("Coefficients1=0.0039083\n"), std::string::npos) << File();
+}
+
+TEST_F(ProbeDocumentTest, AReadOnlyFileOpensReadOnly) {
+    ASSERT_EQ(::chmod(folder.Path("host.ini").c_str(), 0444), 0);
+    Open();
+    EXPECT_TRUE(document.IsReadOnly());
+    screen->InDialog([](Person& person) {
+        EXPECT_THROW(person.Type(L"R0", L"1"), Scripted::CannotDo);
+        person.Click(L"Cancel");
+    });
+    EXPECT_FALSE(document.Edit(0));
+}
+
+TEST_F(ProbeDocumentTest, ManyProbesAreOpenedAndSavedWithoutReadingThem) {
+    std::string text;
+    for (int i = 0; i < 2000; ++i)
+        text +=
+            "[P" + std::to_string(i) + "]\nConversionType=2\n[P" + std::to_string(i) + " - Settings]\nx=1\n";
+    Open(text);
+    EXPECT_EQ(document.Count(), 2000U);
+    std::vector<std::size_t> odd;
+    for (std::size_t i = 1; i < 2000; i += 2)
+        odd.push_back(i);
+    document.Remove(odd);
+    EXPECT_EQ(document.Name(999), L"P1998");
+    document.Undo();
+    EXPECT_EQ(document.Name(1999), L"P1999");
+    document.Redo();
+    document.Save();
+    std::string expected;
+    for (int i = 0; i < 2000; i += 2)
+        expected +=
+            "[P" + std::to_string(i) + "]\nConversionType=2\n[P" + std::to_string(i) + " - Settings]\nx=1\n";
+    EXPECT_EQ(File(), expected);
+}
