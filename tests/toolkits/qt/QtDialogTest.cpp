@@ -66,6 +66,18 @@ public:
     int count = 0;
 };
 
+/// Counts how often something asks to be laid out.
+class LayoutRequests : public QObject {
+public:
+    LayoutRequests() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::LayoutRequest)
+            ++count;
+        return false;
+    }
+    int count = 0;
+};
+
 /// A dialog in its window, and keys and a mouse in front of it. What is pressed goes to the window, as from
 /// the system.
 class QtDialogTest : public testing::Test {
@@ -160,6 +172,15 @@ TEST_F(QtDialogTest, ShowsADialogThatItKnowsNothingOf) {
         EXPECT_EQ(FromQt(Shows<QComboBox>(dialog.kind).itemText(2)), L"\U0001F321 bath");
         EXPECT_EQ(FromQt(Box(dialog.name).text()), L"\U0001F321 probe");
         EXPECT_EQ(window->windowTitle(), QStringLiteral("Sample Settings"));
+    });
+}
+
+TEST_F(QtDialogTest, DoesNothingWhileNobodyDoesAnything) {
+    Run([&] {
+        LetLayOut();
+        const LayoutRequests requests;
+        QTest::qWait(200);
+        EXPECT_EQ(requests.count, 0) << "a window that lays itself out for ever keeps a processor busy";
     });
 }
 
