@@ -54,7 +54,6 @@ private:
     void ReportEdit(TextBox& box, const QLineEdit& widget);
     /// Gives labels the boxes that they name, and boxes the names that a screen reader says.
     void NameViews();
-    void ConnectViews();
     [[nodiscard]] Control* ControlOf(const QObject* widget) const;
 
     /// Reports something to the model. The first exception ends the dialog, and Run raises it: none may pass

@@ -3,6 +3,7 @@
 
 #include "apps/probe-setup/MainWindow.h"
 #include "apps/probe-setup/ProbeDialog.h"
+#include "tests/toolkits/qt/QtScreen.h"
 #include "toolkits/qt/Translations.h"
 
 #include <gtest/gtest.h>
@@ -82,7 +83,7 @@ protected:
     }
 
     static void TakePicture(QWidget& window, const char* name) {
-        QTest::qWait(20); // everything is laid out
+        Support::LetLayOut();
         EXPECT_TRUE(window.grab().save(QStringLiteral("pictures/%1-%2.png").arg(name, GetParam().name)));
     }
     static void ExpectNothingIsCut(const QWidget& window) {

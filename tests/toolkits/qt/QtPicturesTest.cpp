@@ -26,7 +26,6 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <QTabBar>
-#include <QTest>
 
 #include <algorithm>
 
@@ -35,6 +34,7 @@ using QtToolkit::FromQt;
 using QtToolkit::InstallTranslations;
 using Scripted::Person;
 using Support::FreshDecimalSeparator;
+using Support::LetLayOut;
 using Support::QtHands;
 using Support::settingsClasses;
 
@@ -186,12 +186,12 @@ TEST_P(QtPicturesTest, EveryDialogShowsAllItsTextsAndNoTwoControlsOverlap) {
                 if (control->Kind() == ControlKind::TextBox && control->IsUsable())
                     person.Type(control->Name(), number);
             QWidget& window = *QApplication::activeModalWidget();
-            QTest::qWait(20); // what was changed is laid out
+            LetLayOut();
             ExpectWellDrawn(window, person.Sees());
             EXPECT_TRUE(window.grab().save(folder + QLatin1Char('/') + window.objectName() + ".png"));
             if (settingsClass.code == CONV_ITS90) {
                 person.TurnTo(TableText(IDS_HIGH_RANGE));
-                QTest::qWait(20);
+                LetLayOut();
                 ExpectWellDrawn(window, person.Sees());
                 EXPECT_TRUE(
                     window.grab().save(folder + QLatin1Char('/') + window.objectName() + "-high.png"));

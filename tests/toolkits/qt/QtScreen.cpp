@@ -54,6 +54,18 @@ private:
     bool m_seen = false;
 };
 
+/// Counts how often something asks to be laid out.
+class LayoutRequests final : public QObject {
+public:
+    LayoutRequests() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::LayoutRequest)
+            ++count;
+        return false;
+    }
+    int count = 0;
+};
+
 /// The keys that have a code of their own.
 const struct {
     std::int16_t keyAscii;
@@ -105,6 +117,16 @@ void ExpectShows(const QWidget& widget, const Control& control) {
 
 void WhenShown(const std::function<bool(QWidget&)>& isIt, const std::function<void(QWidget&)>& action) {
     new Watcher(isIt, action); // it goes when it has seen the window
+}
+
+void LetLayOut(int moment) {
+    for (int tries = 0; tries < 50; ++tries) {
+        const LayoutRequests requests;
+        QTest::qWait(moment);
+        if (requests.count == 0)
+            return;
+    }
+    ADD_FAILURE() << "something lays itself out again and again";
 }
 
 void ExpectShowsTheModel(const QWidget& window, const Dialog& dialog) {

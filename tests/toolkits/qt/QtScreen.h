@@ -12,6 +12,10 @@ namespace Support {
 /// Calls `action` inside the event loop of the next window that is shown and that `isIt` knows.
 void WhenShown(const std::function<bool(QWidget&)>& isIt, const std::function<void(QWidget&)>& action);
 
+/// Returns when nothing has asked to be laid out for a moment, in milliseconds. The moment is longer than the
+/// timers of the widgets: a list takes its new width after 20 ms. Fails where there is no such moment.
+void LetLayOut(int moment = 60);
+
 /// Expects that each widget of the window shows what its control says.
 void ExpectShowsTheModel(const QWidget& window, const QuorConversions::Dialog& dialog);
 
