@@ -210,42 +210,42 @@ const IniKeys& IniDocument::KeysOf(Section section) const {
     return m_keys;
 }
 
-std::optional<IniLine> IniDocument::FindKey(Section section, std::string_view key) const {
+IniDocument::Key IniDocument::Look(Section section, std::string_view key) const {
     if (Written()) {
         if (const auto change = m_changes.Find(section, key))
-            return ClassifyLine(m_changes.Line(m_changes[*change]));
+            return {ClassifyLine(m_changes.Line(m_changes[*change])), change, IniChanges::newLine};
     }
     if (!HasKeysInText(section))
-        return std::nullopt;
+        return {};
     const auto found = KeysOf(section).Find(m_text, key);
-    return found ? std::optional(found->line) : std::nullopt;
+    return found ? Key{found->line, std::nullopt, found->start} : Key();
 }
 
-void IniDocument::Write(Section section, std::string_view key, std::string_view spelling,
+void IniDocument::Write(Section section, std::string_view key, const Key& present, std::string_view spelling,
                         const IniNewValue& value) {
     const bool newComment = !value.isText && !value.comment.empty();
-    if (const auto number = m_changes.Find(section, key)) {
-        const IniChanges::Change& change = m_changes[*number];
+    if (present.change) {
+        const IniChanges::Change& change = m_changes[*present.change];
         const std::string line = RewriteLine(m_changes.Line(change), value);
         const std::size_t others = m_differing - (Differs(change) ? 1 : 0);
-        m_changes.Rewrite(*number, line, value.isText, !value.isText && (change.hasComment || newComment));
-        m_differing = others + (Differs(m_changes[*number]) ? 1 : 0);
+        m_changes.Rewrite(*present.change, line, value.isText,
+                          !value.isText && (change.hasComment || newComment));
+        m_differing = others + (Differs(m_changes[*present.change]) ? 1 : 0);
         return;
     }
     IniChanges::Change change;
     change.section = section;
+    change.line = present.start;
     change.isText = value.isText;
     change.hasComment = newComment;
-    std::string line;
-    if (const auto found = HasKeysInText(section) ? KeysOf(section).Find(m_text, key) : std::nullopt) {
-        change.line = found->start;
-        line = RewriteLine(CutLine(m_text, found->start).line, value);
+    if (present.line) {
+        m_line = RewriteLine(CutLine(m_text, present.start).line, value);
     } else {
-        line.append(spelling).append(1, '=').append(value.bytes);
+        m_line.assign(spelling).append(1, '=').append(value.bytes);
         if (!value.comment.empty())
-            line.append(1, ' ').append(value.comment);
+            m_line.append(1, ' ').append(value.comment);
     }
-    m_changes.Add(change, key, line);
+    m_changes.Add(change, key, m_line);
     m_differing += Differs(m_changes[m_changes.Size() - 1]) ? 1 : 0;
 }
 

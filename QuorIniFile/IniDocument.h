@@ -54,11 +54,24 @@ public:
     /// nothing has changed, when a header line would not give that name back.
     [[nodiscard]] bool RenameSection(Section section, std::string_view name);
 
-    /// The key line as it stands now. The views live until the next change.
-    [[nodiscard]] std::optional<IniLine> FindKey(Section section, std::string_view key) const;
+    /// A key of a section as it stands now. The views live until the next change.
+    struct Key {
+        std::optional<IniLine> line;             // nothing: there is none
+        std::optional<std::uint32_t> change;     // the one that wrote it
+        std::size_t start = IniChanges::newLine; // of its line in the text, unless it was written
+    };
+    [[nodiscard]] Key Look(Section section, std::string_view key) const;
+    [[nodiscard]] std::optional<IniLine> FindKey(Section section, std::string_view key) const {
+        return Look(section, key).line;
+    }
     /// Puts `value` behind `key`. The first key line of that name is rewritten; without one, a line is added
     /// behind the last key of the section, with `spelling` as the bytes of the key.
-    void Write(Section section, std::string_view key, std::string_view spelling, const IniNewValue& value);
+    void Write(Section section, std::string_view key, std::string_view spelling, const IniNewValue& value) {
+        Write(section, key, Look(section, key), spelling, value);
+    }
+    /// The same for who has looked already.
+    void Write(Section section, std::string_view key, const Key& present, std::string_view spelling,
+               const IniNewValue& value);
 
     /// Whether the text with all changes is another one.
     [[nodiscard]] bool Changed() const { return m_differing != 0 || !m_edits.empty(); }
@@ -133,6 +146,7 @@ private:
     std::vector<Move> m_moves;
     IniIndex m_newNames; // of new sections, and those that sections were given
     IniChanges m_changes;
+    std::string m_line;          // that is being put together
     std::size_t m_differing = 0; // how many of them say something else than the text
 };
 

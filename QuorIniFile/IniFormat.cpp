@@ -52,6 +52,15 @@ std::wstring FromLatin1(std::string_view bytes) {
     return text;
 }
 
+/// Letters and digits, and blanks and hyphens between them: such a name reads back wherever it stands.
+bool IsPlain(std::string_view name) {
+    const auto isLetter = [](char c) {
+        return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+    };
+    return !name.empty() && isLetter(name.front()) && isLetter(name.back()) &&
+           std::all_of(name.begin(), name.end(), [&](char c) { return isLetter(c) || c == ' ' || c == '-'; });
+}
+
 /// Line breaks end a name wherever it stands, and a NUL can make a new file look like UTF-16.
 bool HasForbiddenByte(std::string_view name) {
     return name.find_first_of(std::string_view("\n\r\0", 3)) != npos;
@@ -133,10 +142,15 @@ std::wstring DecodeBytes(std::string_view bytes) {
 }
 
 std::optional<std::string> NameToFind(std::wstring_view name) {
-    std::string bytes = ToUtf8(name);
-    if (!IsAscii(bytes) && FromUtf8(bytes) != name)
-        return std::nullopt;
-    return bytes;
+    std::string bytes;
+    return NameToFind(name, bytes) ? std::optional(std::move(bytes)) : std::nullopt;
+}
+
+std::optional<std::string_view> NameToFind(std::wstring_view name, std::string& buffer) {
+    if (CopyAscii(name, buffer)) // as nearly all are
+        return buffer;
+    buffer = ToUtf8(name);
+    return FromUtf8(buffer) == name ? std::optional<std::string_view>(buffer) : std::nullopt;
 }
 
 std::optional<std::string> NameToWrite(std::wstring_view name, IniEncoding encoding) {
@@ -178,12 +192,16 @@ bool SameName(std::string_view name, std::string_view wanted) {
 }
 
 bool IsSectionName(std::string_view name) {
+    if (IsPlain(name))
+        return true;
     const std::string header = '[' + std::string(name) + ']';
     const IniLine line = ClassifyLine(header);
     return line.kind == IniLineKind::Section && line.name == name && !HasForbiddenByte(name);
 }
 
 bool IsKeyName(std::string_view name) {
+    if (IsPlain(name))
+        return true;
     const std::string text = std::string(name) + '=';
     const IniLine line = ClassifyLine(text);
     return line.kind == IniLineKind::Key && line.name == name && !HasForbiddenByte(name);

@@ -102,6 +102,9 @@ enum class IniEncoding : std::uint8_t { Utf8, Latin1 };
 
 /// `name` as look-ups take it (UTF-8), or nothing when no bytes of a file can spell it.
 [[nodiscard]] QUORINIFILE_EXPORT std::optional<std::string> NameToFind(std::wstring_view name);
+/// The same in a string of the caller's, which may be used again for the next name.
+[[nodiscard]] QUORINIFILE_EXPORT std::optional<std::string_view> NameToFind(std::wstring_view name,
+                                                                            std::string& buffer);
 
 /// The bytes that spell `name` in a file of that encoding, or nothing when none reads back as `name`.
 /// A character that Latin-1 lacks makes the name UTF-8, because a name knows no escapes.

@@ -58,8 +58,10 @@ public:
     void SetSection(std::wstring_view section) {
         if (section == m_section)
             return;
-        m_section = section;
-        m_sectionName = NameToFind(section);
+        const auto name = NameToFind(section, m_spare);
+        m_section = section; // nothing has changed should this fail
+        std::swap(m_sectionBytes, m_spare);
+        m_hasSectionName = name.has_value();
         m_number.reset();
     }
     [[nodiscard]] const std::wstring& Section() const { return m_section; }
@@ -67,30 +69,39 @@ public:
     /// The key line of the selected section, or nothing. Raises 53 when there is no file.
     std::optional<IniLine> Read(std::wstring_view key) {
         LoadExisting();
-        return Find(NameToFind(key));
+        return Find(NameToFind(key, m_keyBytes)).line;
     }
 
     /// Puts a number or flag behind `key`, unless `same(plain)` says that it stands there already.
     template <class Same>
-    void Write(std::wstring_view key, std::string bytes, std::wstring_view comment, const Same& same) {
+    void Write(std::wstring_view key, std::string_view bytes, std::wstring_view comment, const Same& same) {
         Load();
-        IniNewValue value{std::move(bytes), false, FormatComment(comment, EncodingFor(comment))};
-        const std::optional<std::string> name = NameToFind(key);
-        const std::optional<IniLine> line = Find(name);
-        const std::string_view present = line ? SplitComment(line->value).plain : std::string_view();
-        if (line && same(present))
-            value.bytes = present;
-        Put(key, name, line.has_value(), value);
+        m_value.bytes = bytes;
+        m_value.isText = false;
+        m_value.comment.clear();
+        if (!comment.empty())
+            m_value.comment = FormatComment(comment, EncodingFor(comment));
+        const auto name = NameToFind(key, m_keyBytes);
+        const IniDocument::Key present = Find(name);
+        if (present.line) {
+            const std::string_view plain = SplitComment(present.line->value).plain;
+            if (same(plain))
+                m_value.bytes = plain;
+        }
+        Put(key, name, present);
     }
 
     void WriteText(std::wstring_view key, std::wstring_view text) {
         Load();
-        const std::optional<std::string> name = NameToFind(key);
-        const std::optional<IniLine> line = Find(name);
-        const bool same = line && DecodeText(line->value) == text;
-        const IniNewValue value{
-            same ? std::string(line->value) : EncodeText(text, EncodingFor(text)), true, {}};
-        Put(key, name, line.has_value(), value);
+        const auto name = NameToFind(key, m_keyBytes);
+        const IniDocument::Key present = Find(name);
+        m_value.isText = true;
+        m_value.comment.clear();
+        if (present.line && DecodeText(present.line->value) == text)
+            m_value.bytes = present.line->value;
+        else
+            m_value.bytes = EncodeText(text, EncodingFor(text));
+        Put(key, name, present);
     }
 
     [[nodiscard]] std::vector<std::wstring> Sections() {
@@ -115,7 +126,10 @@ public:
         const auto section = FindSection(from);
         if (!section)
             throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, L"There is no section " + Quoted(from));
-        const std::string spelling = SpellNew(L"section", to, IsSectionName);
+        std::string bytes;
+        std::string buffer;
+        const std::string_view spelling =
+            SpellNew(L"section", to, NameToFind(to, bytes), buffer, IsSectionName);
         const auto holder = FindSection(to);
         if (holder && holder != section)
             throw NameIsTaken(to);
@@ -258,8 +272,8 @@ private:
 
     /// The number of the selected section. It is looked up once and remembered.
     std::optional<IniDocument::Section> Number() {
-        if (!m_number && m_sectionName)
-            m_number = m_document->FindSection(*m_sectionName);
+        if (!m_number && m_hasSectionName)
+            m_number = m_document->FindSection(m_sectionBytes);
         return m_number;
     }
 
@@ -275,21 +289,27 @@ private:
             Save();
     }
 
-    std::optional<IniLine> Find(const std::optional<std::string>& key) {
+    IniDocument::Key Find(const std::optional<std::string_view>& key) {
         const auto section = Number();
-        return section && key ? m_document->FindKey(*section, *key) : std::nullopt;
+        return section && key ? m_document->Look(*section, *key) : IniDocument::Key();
     }
 
-    void Put(std::wstring_view key, const std::optional<std::string>& name, bool found,
-             const IniNewValue& value) {
-        std::string spelling;
-        if (!found) {
+    /// Puts m_value behind a key.
+    void Put(std::wstring_view key, const std::optional<std::string_view>& name,
+             const IniDocument::Key& present) {
+        std::string_view spelling;
+        if (!present.line) {
             // Both names are checked before anything is changed.
-            spelling = SpellNew(L"key", key, IsKeyName);
-            if (!m_number)
-                m_number = m_document->AddSection(SpellNew(L"section", m_section, IsSectionName));
+            spelling = SpellNew(L"key", key, name, m_spare, IsKeyName);
+            if (!m_number) {
+                std::string buffer;
+                const std::optional<std::string_view> section =
+                    m_hasSectionName ? std::optional<std::string_view>(m_sectionBytes) : std::nullopt;
+                m_number =
+                    m_document->AddSection(SpellNew(L"section", m_section, section, buffer, IsSectionName));
+            }
         }
-        m_document->Write(*m_number, *name, spelling, value);
+        m_document->Write(*m_number, *name, present, spelling, m_value);
         m_hasFailed = false;
         if (m_holds == 0)
             Save();
@@ -300,12 +320,18 @@ private:
         return IsAscii(text) ? IniEncoding::Utf8 : m_document->Encoding();
     }
 
-    [[nodiscard]] std::string SpellNew(std::wstring_view what, std::wstring_view name,
-                                       bool (*readsBack)(std::string_view)) const {
-        std::optional<std::string> spelling = NameToWrite(name, EncodingFor(name));
-        if (!spelling || !readsBack(*spelling))
+    /// How a new name is to be written. `bytes` are the name as look-ups take it; `buffer` holds the answer
+    /// when that is another.
+    [[nodiscard]] std::string_view SpellNew(std::wstring_view what, std::wstring_view name,
+                                            std::optional<std::string_view> bytes, std::string& buffer,
+                                            bool (*readsBack)(std::string_view)) const {
+        if (bytes && !IsAscii(*bytes)) {
+            if (auto spelling = NameToWrite(name, m_document->Encoding()))
+                bytes = buffer = *std::move(spelling);
+        }
+        if (!bytes || !readsBack(*bytes))
             throw NoSuchName(what, name);
-        return *std::move(spelling);
+        return *bytes;
     }
 
     static std::wstring Quoted(std::wstring_view name) { return L'"' + std::wstring(name) + L'"'; }
@@ -321,13 +347,17 @@ private:
     IniFileSystem& m_files;
     std::wstring m_fileName;
     std::wstring m_section;
-    std::optional<std::string> m_sectionName = ""; // as look-ups take it; nothing when no file can hold it
-    std::optional<IniDocument> m_document;         // nothing until the file is loaded
-    IniStamp m_stamp;                              // of the file that the document was read from
-    bool m_isSettled = false;                      // the stamp was, when it was taken
-    std::optional<IniDocument::Section> m_number;  // of the selected section, once it was found
-    bool m_hasFailed = false;                      // a save of all that is written
+    std::string m_sectionBytes;                   // the section as look-ups take it,
+    bool m_hasSectionName = true;                 // unless no file can hold it
+    std::optional<IniDocument> m_document;        // nothing until the file is loaded
+    IniStamp m_stamp;                             // of the file that the document was read from
+    bool m_isSettled = false;                     // the stamp was, when it was taken
+    std::optional<IniDocument::Section> m_number; // of the selected section, once it was found
+    bool m_hasFailed = false;                     // a save of all that is written
     std::size_t m_holds = 0;
+    // Made anew with each call; kept, because making them needs memory.
+    std::string m_keyBytes, m_spare;
+    IniNewValue m_value;
 };
 
 IniStore::IniStore(IniFileSystem& files) : m_session(std::make_unique<Session>(files)) {}
@@ -370,7 +400,8 @@ void IniStore::WriteBoolean(std::wstring_view key, bool value) {
 }
 
 void IniStore::WriteDouble(std::wstring_view key, double value, std::wstring_view comment) {
-    m_session->Write(key, FormatDouble(value), comment, [value](std::string_view present) {
+    NumberText place;
+    m_session->Write(key, FormatDouble(value, place), comment, [value](std::string_view present) {
         const std::optional<double> old = ParseDouble(present);
         return old && SameDouble(*old, value);
     });

@@ -19,10 +19,9 @@ constexpr std::uint32_t lastCharacter = 0x10FFFF;
 // Writing --------------------------------------------------------------------------------------------------
 
 template <class Number>
-std::string ToText(Number value) {
-    std::array<char, 32> buffer{};
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
-    return {buffer.data(), result.ptr};
+std::string_view ToText(Number value, NumberText& place) {
+    const auto result = std::to_chars(place.data(), place.data() + place.size(), value);
+    return {place.data(), static_cast<std::size_t>(result.ptr - place.data())};
 }
 
 std::uint32_t CodeOf(wchar_t c) {
@@ -202,11 +201,16 @@ std::pair<Inside, std::wstring> Unescape(std::wstring_view inside) {
 } // namespace
 
 std::string FormatDouble(double value) {
+    NumberText place;
+    return std::string(FormatDouble(value, place));
+}
+
+std::string_view FormatDouble(double value, NumberText& place) {
     if (std::isnan(value))
         return "NaN";
     if (std::isinf(value))
         return value > 0 ? "Infinity" : "-Infinity";
-    return ToText(value);
+    return ToText(value, place);
 }
 
 std::optional<double> ParseDouble(std::string_view value) {
@@ -220,7 +224,10 @@ std::optional<double> ParseDouble(std::string_view value) {
     return ToNumber<double>(value);
 }
 
-std::string FormatInteger(std::int16_t value) { return ToText(value); }
+std::string FormatInteger(std::int16_t value) {
+    NumberText place;
+    return std::string(ToText(value, place));
+}
 
 std::optional<std::int16_t> ParseInteger(std::string_view value) { return ToNumber<std::int16_t>(value); }
 
@@ -247,6 +254,8 @@ std::string EncodeText(std::wstring_view text, IniEncoding encoding) {
 }
 
 std::wstring DecodeText(std::string_view value) {
+    if (!value.starts_with('"') && IsAscii(value))
+        return {value.begin(), value.end()};
     std::wstring text = DecodeBytes(value);
     if (text.size() < 2 || text.front() != L'"' || text.back() != L'"')
         return text;

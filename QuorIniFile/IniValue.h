@@ -3,6 +3,7 @@
 #include "QuorIniFile/Export.h"
 #include "QuorIniFile/IniFormat.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -16,6 +17,9 @@ namespace QuorIniFile {
 /// The shortest decimal text that reads back to the same bits, with a point; "NaN", "Infinity", "-Infinity".
 /// (A NaN has one spelling: its sign and payload are not kept.)
 [[nodiscard]] QUORINIFILE_EXPORT std::string FormatDouble(double value);
+/// The same in a place of the caller's.
+using NumberText = std::array<char, 32>;
+[[nodiscard]] QUORINIFILE_EXPORT std::string_view FormatDouble(double value, NumberText& place);
 /// Decimal, from the first byte to the last, a leading '+' allowed; the three names in any case. Nothing for
 /// a number that a double cannot hold, be it too large or too close to zero.
 [[nodiscard]] QUORINIFILE_EXPORT std::optional<double> ParseDouble(std::string_view value);

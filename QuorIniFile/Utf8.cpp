@@ -62,15 +62,10 @@ void AppendWide(std::wstring& text, std::uint32_t code) {
 
 std::string ToUtf8(std::wstring_view text) {
     std::string bytes;
-    std::size_t at = 0;
-    if (IsAscii(text)) { // nearly all names are
-        bytes.resize(text.size());
-        for (; at < text.size(); ++at)
-            bytes[at] = static_cast<char>(text[at]);
+    if (CopyAscii(text, bytes)) // nearly all names are
         return bytes;
-    }
-    bytes.reserve(text.size());
-    while (at < text.size()) {
+    bytes.clear();
+    for (std::size_t at = 0; at < text.size();) {
         const std::uint32_t code = NextCharacter(text, at);
         if (code < 0x80) {
             bytes += static_cast<char>(code);
@@ -89,6 +84,19 @@ bool IsAscii(std::wstring_view text) {
     std::uint32_t bits = 0; // of all characters at once: a look at each would take longer
     for (const wchar_t c : text)
         bits |= static_cast<std::uint32_t>(c); // NOLINT(bugprone-signed-char-misuse,cert-str34-c): as above
+    return bits < 0x80;
+}
+
+bool CopyAscii(std::wstring_view text, std::string& bytes) {
+    bytes.resize(text.size());
+    char* const copy = bytes.data();
+    std::uint32_t bits = 0; // of all characters at once, as above
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        // NOLINTNEXTLINE(bugprone-signed-char-misuse,cert-str34-c): a wide character, whatever its sign
+        const auto code = static_cast<std::uint32_t>(text[at]);
+        bits |= code;
+        copy[at] = static_cast<char>(code);
+    }
     return bits < 0x80;
 }
 

@@ -15,6 +15,10 @@ inline constexpr bool wideIsUtf16 = sizeof(wchar_t) == 2;
 [[nodiscard]] QUORINIFILE_EXPORT bool IsAscii(std::wstring_view text);
 [[nodiscard]] QUORINIFILE_EXPORT bool IsAscii(std::string_view bytes);
 
+/// Puts `text` into `bytes` when it is ASCII; false, and something in `bytes`, when it is not. A string that
+/// is used again and again needs no memory of its own each time.
+[[nodiscard]] QUORINIFILE_EXPORT bool CopyAscii(std::wstring_view text, std::string& bytes);
+
 [[nodiscard]] QUORINIFILE_EXPORT bool IsUtf8(std::string_view bytes);
 
 /// `text` as UTF-8. What is no Unicode character (a lone surrogate, a code past 0x10FFFF) becomes U+FFFD.
