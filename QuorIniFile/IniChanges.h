@@ -24,13 +24,13 @@ public:
         std::uint32_t section = 0;  // none: it was dropped with its section
         std::uint32_t next = none;  // the one that was written next into the section
         bool isText = false;
-        bool hasComment = false;                      // the comment on the line was written with the value
+        bool hasComment = false; // the comment on the line was written with the value
 
     private:
         friend class IniChanges;
         std::uint32_t tag = 0;
         std::uint32_t nameOffset = 0, nameLength = 0; // of the key, in the line
-        std::size_t start = 0, length = 0; // of the line, in m_lines
+        std::size_t start = 0, length = 0;            // of the line, in m_lines
     };
 
     [[nodiscard]] std::size_t Size() const { return m_changes.size(); }
@@ -44,7 +44,7 @@ public:
     [[nodiscard]] std::optional<std::uint32_t> Find(std::uint32_t section, std::string_view key) const;
     /// `line` is a key line, `key` its name as look-ups take it. It is not there yet.
     void Add(Change change, std::string_view key, std::string_view line);
-    /// Gives a change another line with the same key in the same place.
+    /// Gives a change another line with the same key.
     void Rewrite(std::uint32_t number, std::string_view line, bool isText, bool hasComment);
     /// Drops what was written into a section. The other changes keep their numbers.
     void Drop(std::uint32_t section) noexcept;

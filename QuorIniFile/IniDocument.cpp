@@ -130,7 +130,7 @@ std::vector<std::string_view> IniDocument::SectionNames() const {
     std::vector<std::string_view> names;
     const std::size_t inText = m_sections.Count(m_text);
     for (Section section = 0; section < inText + m_newSections.size(); ++section) {
-        if ((IsNew(section) || m_sections.CanBeFound(section)) && IsThere(section))
+        if ((IsNew(section) || m_sections.CanBeFound(m_text, section)) && IsThere(section))
             names.push_back(Name(section));
     }
     return names;

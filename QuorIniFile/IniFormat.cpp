@@ -79,8 +79,9 @@ IniLine ClassifyLine(std::string_view line) {
     const std::size_t equals = rest.find('=');
     if (equals == npos)
         return {IniLineKind::Malformed, {}, {}};
-    return {IniLineKind::Key, TrimRight(rest.substr(0, equals)),
-            TrimRight(TrimLeft(rest.substr(equals + 1)))};
+    const std::string_view name(rest.data(), equals);
+    const std::string_view value(rest.data() + equals + 1, rest.size() - equals - 1);
+    return {IniLineKind::Key, TrimRight(name), TrimRight(TrimLeft(value))};
 }
 
 IniCommentedValue SplitComment(std::string_view value) {
@@ -105,14 +106,6 @@ std::string RewriteLine(std::string_view line, const IniNewValue& value) {
     if (tail.starts_with(';'))
         result += ' '; // there was no value to keep the comment away from the '='
     return result.append(tail);
-}
-
-IniCut CutLine(std::string_view text, std::size_t at) {
-    const std::size_t end = text.find('\n', at);
-    if (end == npos)
-        return {text.substr(at), text.size()};
-    const bool carriageReturn = end > at && text[end - 1] == '\r';
-    return {text.substr(at, end - at - (carriageReturn ? 1 : 0)), end + 1};
 }
 
 std::size_t MarkLength(std::string_view text) { return text.starts_with("\xEF\xBB\xBF") ? 3 : 0; }
@@ -181,11 +174,11 @@ std::string_view CanonicalName(std::string_view name, std::string& buffer) {
     return buffer;
 }
 
-bool SameName(std::string_view name, std::string_view wanted) {
-    if (name == wanted || EqualFolded(name, wanted))
-        return true;
-    // Latin-1 takes fewer bytes than UTF-8, so names of one length were compared for good.
-    if (name.size() >= wanted.size() || IsAscii(name))
+bool AreOneName(std::string_view name, std::string_view wanted) {
+    // Latin-1 takes fewer bytes than UTF-8, so names of one length are compared for good.
+    if (name.size() == wanted.size())
+        return EqualFolded(name, wanted);
+    if (name.size() > wanted.size() || IsAscii(wanted))
         return false;
     std::string buffer;
     return EqualFolded(CanonicalName(name, buffer), wanted);

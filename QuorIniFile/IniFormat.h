@@ -60,7 +60,13 @@ struct IniCut {
     std::string_view line; // without LF or CRLF; a CR elsewhere is a character like any other
     std::size_t next = 0;
 };
-[[nodiscard]] QUORINIFILE_EXPORT IniCut CutLine(std::string_view text, std::size_t at);
+[[nodiscard]] inline IniCut CutLine(std::string_view text, std::size_t at) {
+    const std::size_t end = text.find('\n', at);
+    if (end == npos)
+        return {text.substr(at), text.size()};
+    const bool carriageReturn = end > at && text[end - 1] == '\r';
+    return {std::string_view(text.data() + at, end - at - (carriageReturn ? 1 : 0)), end + 1};
+}
 
 /// The length of the byte-order mark of UTF-8 at the start of `text`: 3 or 0.
 [[nodiscard]] QUORINIFILE_EXPORT std::size_t MarkLength(std::string_view text);
@@ -117,7 +123,10 @@ enum class IniEncoding : std::uint8_t { Utf8, Latin1 };
 
 /// Whether `name` as it stands in a file is the one that NameToFind gave. The case of ASCII letters does not
 /// matter.
-[[nodiscard]] QUORINIFILE_EXPORT bool SameName(std::string_view name, std::string_view wanted);
+[[nodiscard]] QUORINIFILE_EXPORT bool AreOneName(std::string_view name, std::string_view wanted);
+[[nodiscard]] inline bool SameName(std::string_view name, std::string_view wanted) {
+    return name == wanted || AreOneName(name, wanted); // as it stands, nearly always
+}
 
 /// Whether a new header or key line with that name would read back as that very name.
 [[nodiscard]] QUORINIFILE_EXPORT bool IsSectionName(std::string_view name);

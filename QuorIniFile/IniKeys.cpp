@@ -1,8 +1,11 @@
 #include "QuorIniFile/IniKeys.h"
 
+#include "QuorIniFile/Utf8.h"
+
 #include <algorithm>
 #include <new>
 #include <string>
+#include <utility>
 
 namespace QuorIniFile {
 
@@ -17,8 +20,8 @@ std::uint32_t TagOfName(std::string_view name) {
 
 void IniKeys::Read(std::string_view text, std::size_t begin, std::size_t end) {
     m_keys.clear();
-    m_names = {};
-    m_isIndexed = false;
+    if (std::exchange(m_isIndexed, false))
+        m_names = {};
     m_begin = begin;
     m_length = end - begin;
     m_behindLast = begin;
@@ -42,7 +45,7 @@ void IniKeys::Add(std::string_view text, const IniLine& line) {
     if (line.name.size() >= tooLong)
         return;
     std::string buffer;
-    const std::string_view name = CanonicalName(line.name, buffer);
+    const std::string_view name = IsAscii(line.name) ? line.name : CanonicalName(line.name, buffer);
     Key key{static_cast<std::size_t>(line.name.data() - text.data()),
             static_cast<std::uint32_t>(line.name.size()), TagOfName(name), tooLong, 0};
     const auto value = static_cast<std::size_t>(line.value.data() - line.name.data());

@@ -61,24 +61,44 @@ std::string_view IniSections::Name(std::string_view text, Section section) const
 }
 
 bool IniSections::IsNamed(std::string_view text, std::size_t section, std::string_view name) const {
-    return m_spans[section].isFirst && SameName(Name(text, static_cast<Section>(section)), name);
+    return m_spans[section].nameLength != nameless &&
+           SameName(Name(text, static_cast<Section>(section)), name);
 }
 
 std::optional<IniSections::Section> IniSections::Find(std::string_view text, std::string_view name) {
+    if (m_questions < fewQuestions) {
+        ++m_questions;
+        return m_asked = Search(text, 0, name);
+    }
     // Hosts walk through their files: the next section is the likeliest one.
     const std::size_t next = m_asked ? *m_asked + std::size_t{1} : 0;
-    if ((next < m_spans.size() || ReadOn(text)) && IsNamed(text, next, name))
-        return m_asked = static_cast<Section>(next);
-
-    const auto known =
+    if ((next < m_spans.size() || ReadOn(text)) && IsNamed(text, next, name)) {
+        Index(text);
+        if (m_spans[next].isFirst)
+            return m_asked = static_cast<Section>(next);
+    }
+    Index(text);
+    const std::size_t known = m_spans.size();
+    const auto found =
         m_names.Find(HashName(name), [&](Section section) { return SameName(Name(text, section), name); });
-    if (known)
-        return m_asked = *known;
-    while (ReadOn(text)) {
-        if (IsNamed(text, m_spans.size() - 1, name))
-            return m_asked = static_cast<Section>(m_spans.size() - 1);
+    const auto section = found ? found : Search(text, known, name);
+    if (section)
+        m_asked = section;
+    return section;
+}
+
+std::optional<IniSections::Section> IniSections::Search(std::string_view text, std::size_t from,
+                                                        std::string_view name) {
+    for (std::size_t section = from; section < m_spans.size() || ReadOn(text); ++section) {
+        if (IsNamed(text, section, name))
+            return static_cast<Section>(section);
     }
     return std::nullopt;
+}
+
+bool IniSections::CanBeFound(std::string_view text, Section section) {
+    Index(text);
+    return m_spans[section].isFirst;
 }
 
 std::size_t IniSections::Count(std::string_view text) {
@@ -104,33 +124,38 @@ bool IniSections::ReadOn(std::string_view text) {
             m_next = text.size();
             return false;
         }
-        if (m_spans.size() == m_spans.capacity()) // so that nothing fails once the name is in the index
-            m_spans.reserve(2 * m_spans.size() + 16);
+        if (m_spans.size() >= nameless)
+            throw std::bad_alloc();
         const auto [header, next] = CutHeader(text, at);
         Span span{at + 1, nameless, false};
-        if (header.kind == IniLineKind::Section && header.name.size() < nameless) {
+        if (header.kind == IniLineKind::Section && header.name.size() < nameless)
             span.nameLength = static_cast<std::uint32_t>(header.name.size());
-            span.isFirst = AddName(text, header.name);
-        }
-        m_next = next;
         // Of headers that nobody can ask for, the first one marks where the section before them ends.
-        if (span.isFirst || m_spans.empty() || m_spans.back().isFirst) {
+        if (span.nameLength != nameless || m_spans.empty() || m_spans.back().nameLength != nameless) {
             m_spans.push_back(span);
+            m_next = next;
             return true;
         }
+        m_next = next;
     }
 }
 
-bool IniSections::AddName(std::string_view text, std::string_view name) {
-    if (m_spans.size() >= nameless)
-        throw std::bad_alloc();
+void IniSections::Index(std::string_view text) {
+    if (m_indexed == m_spans.size())
+        return;
     std::string buffer;
-    const std::string_view canonical = CanonicalName(name, buffer);
-    const std::uint64_t hash = HashName(canonical);
-    if (m_names.Find(hash, [&](Section other) { return SameName(Name(text, other), canonical); }))
-        return false;
-    m_names.Add(hash, static_cast<Section>(m_spans.size()));
-    return true;
+    for (; m_indexed < m_spans.size(); ++m_indexed) {
+        Span& span = m_spans[m_indexed];
+        if (span.nameLength == nameless)
+            continue;
+        const auto number = static_cast<Section>(m_indexed);
+        const std::string_view name = CanonicalName(Name(text, number), buffer);
+        const std::uint64_t hash = HashName(name);
+        if (m_names.Find(hash, [&](Section other) { return SameName(Name(text, other), name); }))
+            continue;
+        m_names.Add(hash, number);
+        span.isFirst = true;
+    }
 }
 
 } // namespace QuorIniFile

@@ -30,32 +30,40 @@ public:
 
     /// The first section of that name.
     [[nodiscard]] std::optional<Section> Find(std::string_view text, std::string_view name);
-    /// How many numbers are taken. Broken headers and sections whose name stood before may share one.
+    /// How many numbers are taken. Broken headers may share one.
     [[nodiscard]] std::size_t Count(std::string_view text);
     [[nodiscard]] std::string_view Name(std::string_view text, Section section) const;
     /// Whether Find knows it: it has a name that did not stand before.
-    [[nodiscard]] bool CanBeFound(Section section) const { return m_spans[section].isFirst; }
+    [[nodiscard]] bool CanBeFound(std::string_view text, Section section);
     /// Where the line behind the header starts, and where the text of the section ends.
     [[nodiscard]] std::size_t Begin(std::string_view text, Section section) const;
     [[nodiscard]] std::size_t End(std::string_view text, Section section);
 
 private:
     static constexpr std::uint32_t nameless = 0xFFFFFFFF;
+    /// So many sections are found by looking at one name after the other: who wants one probe does not pay
+    /// for an index of all.
+    static constexpr int fewQuestions = 4;
 
     struct Span {
         std::size_t name = 0; // where its name starts; the '[' stands right before
         std::uint32_t nameLength = nameless;
-        bool isFirst = false; // of its name
+        bool isFirst = false; // of its name; known once it is indexed
     };
 
     /// Gives the next header that matters a number. False when there is none.
     bool ReadOn(std::string_view text);
-    /// Gives a name the next number. False when a section before has the name.
-    bool AddName(std::string_view text, std::string_view name);
+    /// Indexes the names of all sections that have a number.
+    void Index(std::string_view text);
     [[nodiscard]] bool IsNamed(std::string_view text, std::size_t section, std::string_view name) const;
+    /// Looks at one name after the other, from a section on.
+    [[nodiscard]] std::optional<Section> Search(std::string_view text, std::size_t from,
+                                                std::string_view name);
 
     std::vector<Span> m_spans;
     IniIndex m_names;
+    std::size_t m_indexed = 0;      // so many sections, from the first on
+    int m_questions = 0;            // up to fewQuestions
     std::size_t m_next = 0;         // up to where the text was looked through
     std::optional<Section> m_asked; // the section that was found last
 };

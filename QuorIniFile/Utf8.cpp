@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 namespace QuorIniFile {
 namespace {
@@ -88,34 +87,18 @@ bool IsAscii(std::wstring_view text) {
 }
 
 bool CopyAscii(std::wstring_view text, std::string& bytes) {
-    bytes.resize(text.size());
-    char* const copy = bytes.data();
+    if (bytes.size() != text.size())
+        bytes.resize(text.size());
+    const wchar_t* const from = text.data();
+    char* const to = bytes.data();
     std::uint32_t bits = 0; // of all characters at once, as above
     for (std::size_t at = 0; at < text.size(); ++at) {
         // NOLINTNEXTLINE(bugprone-signed-char-misuse,cert-str34-c): a wide character, whatever its sign
-        const auto code = static_cast<std::uint32_t>(text[at]);
+        const auto code = static_cast<std::uint32_t>(from[at]);
         bits |= code;
-        copy[at] = static_cast<char>(code);
+        to[at] = static_cast<char>(code);
     }
     return bits < 0x80;
-}
-
-bool IsAscii(std::string_view bytes) {
-    constexpr std::uint64_t highBits = 0x8080808080808080U;
-    constexpr std::size_t step = sizeof highBits;
-    const auto word = [bytes](std::size_t at) {
-        std::uint64_t read = 0;
-        std::memcpy(&read, bytes.data() + at, sizeof read);
-        return read;
-    };
-    if (bytes.size() < step)
-        return std::all_of(bytes.begin(), bytes.end(),
-                           [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-    for (std::size_t at = 0; at + step <= bytes.size(); at += step) {
-        if ((word(at) & highBits) != 0)
-            return false;
-    }
-    return (word(bytes.size() - step) & highBits) == 0; // the last bytes, some of them once more
 }
 
 bool IsUtf8(std::string_view bytes) {

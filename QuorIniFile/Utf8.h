@@ -2,6 +2,9 @@
 
 #include "QuorIniFile/Export.h"
 
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,7 +16,26 @@ inline constexpr bool wideIsUtf16 = sizeof(wchar_t) == 2;
 
 /// Whether all of it is ASCII, which is the same as bytes and as text.
 [[nodiscard]] QUORINIFILE_EXPORT bool IsAscii(std::wstring_view text);
-[[nodiscard]] QUORINIFILE_EXPORT bool IsAscii(std::string_view bytes);
+[[nodiscard]] inline bool IsAscii(std::string_view bytes) { // in line: it is asked of every key
+    constexpr std::uint64_t highBits = 0x8080808080808080U;
+    constexpr std::size_t step = sizeof highBits;
+    const auto word = [bytes](std::size_t at) {
+        std::uint64_t read = 0;
+        std::memcpy(&read, bytes.data() + at, sizeof read);
+        return read;
+    };
+    if (bytes.size() < step) {
+        unsigned bits = 0;
+        for (const char c : bytes)
+            bits |= static_cast<unsigned char>(c);
+        return bits < 0x80;
+    }
+    for (std::size_t at = 0; at + step <= bytes.size(); at += step) {
+        if ((word(at) & highBits) != 0)
+            return false;
+    }
+    return (word(bytes.size() - step) & highBits) == 0; // the last bytes, some of them once more
+}
 
 /// Puts `text` into `bytes` when it is ASCII; false, and something in `bytes`, when it is not. A string that
 /// is used again and again needs no memory of its own each time.

@@ -33,20 +33,35 @@ TEST(IniSections, TheBodyOfASectionEndsBeforeTheNextHeader) {
 
 TEST(IniSections, TheFirstOfANameIsFoundFromWhereverTheLastSearchEnded) {
     IniSections sections;
-    EXPECT_EQ(sections.Find(text, "B"), 1U);
-    EXPECT_EQ(sections.Find(text, "A"), 0U) << "the next section has the name too, but is not the first";
-    EXPECT_EQ(sections.Find(text, "C"), 3U);
-    EXPECT_EQ(sections.Find(text, "a"), 0U);
-    EXPECT_EQ(sections.Find(text, "b"), 1U);
-    EXPECT_EQ(sections.Find(text, "nowhere"), std::nullopt);
-    EXPECT_EQ(sections.Find(text, "c"), 3U);
+    for (int round = 0; round < 3; ++round) { // the first searches have no index
+        EXPECT_EQ(sections.Find(text, "B"), 1U);
+        EXPECT_EQ(sections.Find(text, "A"), 0U) << "the next section has the name too, but is not the first";
+        EXPECT_EQ(sections.Find(text, "C"), 4U);
+        EXPECT_EQ(sections.Find(text, "a"), 0U);
+        EXPECT_EQ(sections.Find(text, "b"), 1U);
+        EXPECT_EQ(sections.Find(text, "nowhere"), std::nullopt);
+        EXPECT_EQ(sections.Find(text, "c"), 4U);
+    }
 }
 
-TEST(IniSections, OfSectionsThatNobodyCanAskForOneMarksTheEndOfTheOneBefore) {
+TEST(IniSections, AreReadAsFarAsTheyAreAskedFor) {
+    const std::string many = "[A]\n[B]\n[C]\n[D]\n[E]\n[F]\n[b]\n[G]\n";
     IniSections sections;
-    EXPECT_EQ(sections.Count(text), 4U) << "A, B, the second A with the broken one, C";
-    EXPECT_EQ(sections.Name(text, 1), "B");
-    EXPECT_EQ(sections.Name(text, 3), "C");
+    IniSections::Section expected = 0;
+    for (const char* const name : {"A", "B", "C", "D", "E", "F"})
+        EXPECT_EQ(sections.Find(many, name), expected++);
+    EXPECT_EQ(sections.Find(many, "B"), 1U) << "not the next one";
+    EXPECT_EQ(sections.Find(many, "G"), 7U);
+    EXPECT_TRUE(sections.CanBeFound(many, 1));
+    EXPECT_FALSE(sections.CanBeFound(many, 6)) << "the second B";
+    EXPECT_TRUE(sections.CanBeFound(many, 7));
+}
+
+TEST(IniSections, OfBrokenHeadersInARowOneMarksTheEndOfTheSectionBefore) {
+    IniSections sections;
+    EXPECT_EQ(sections.Count("[A]\n[broken\n[again\n[C]\n"), 3U);
+    EXPECT_EQ(sections.Name("[A]\n[broken\n[again\n[C]\n", 2), "C");
+    EXPECT_FALSE(sections.CanBeFound("[A]\n[broken\n[again\n[C]\n", 1));
     IniSections none;
     EXPECT_EQ(none.Count("x=[A]\n;[B]\n"), 0U);
 }
