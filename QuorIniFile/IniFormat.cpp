@@ -3,6 +3,7 @@
 #include "QuorIniFile/Utf8.h"
 
 #include <algorithm>
+#include <array>
 
 namespace QuorIniFile {
 namespace {
@@ -52,13 +53,17 @@ std::wstring FromLatin1(std::string_view bytes) {
     return text;
 }
 
-/// Letters and digits, and blanks and hyphens between them: such a name reads back wherever it stands.
+/// Letters, digits and hyphens, and blanks between them: such a name reads back wherever it stands.
 bool IsPlain(std::string_view name) {
-    const auto isLetter = [](char c) {
-        return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-    };
-    return !name.empty() && isLetter(name.front()) && isLetter(name.back()) &&
-           std::all_of(name.begin(), name.end(), [&](char c) { return isLetter(c) || c == ' ' || c == '-'; });
+    static constexpr auto plain = [] {
+        std::array<bool, 256> table{};
+        for (const char c :
+             std::string_view("0123456789 -ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"))
+            table[static_cast<unsigned char>(c)] = true;
+        return table;
+    }();
+    return !name.empty() && !IsBlank(name.front()) && !IsBlank(name.back()) &&
+           std::all_of(name.begin(), name.end(), [](char c) { return plain[static_cast<unsigned char>(c)]; });
 }
 
 /// Line breaks end a name wherever it stands, and a NUL can make a new file look like UTF-16.
