@@ -140,7 +140,6 @@ QWidget* QtDialog::MakeFrame(const Frame& frame) {
         ShowOrHide(widget, frame);
     };
     m_views.emplace(&frame, View{&widget, follow});
-    m_frames.push_back(&widget);
     return &widget;
 }
 
@@ -385,13 +384,6 @@ bool QtDialog::focusNextPrevChild(bool next) {
 
 void QtDialog::Fit() {
     ensurePolished();
-    if (!isVisible()) { // while they are hidden, layouts do not tell each other of a change
-        for (QWidget* const frame : m_frames) {
-            frame->layout()->invalidate();
-            frame->updateGeometry();
-        }
-        m_content->layout()->invalidate();
-    }
     m_area->updateGeometry();
     const QSize room = Room().size() - FrameSize();
     const QSize needed = layout()->sizeHint();

@@ -7,7 +7,6 @@
 #include <exception>
 #include <functional>
 #include <unordered_map>
-#include <vector>
 
 class QGridLayout;
 class QLineEdit;
@@ -79,7 +78,6 @@ private:
     DialogInput& m_input;
     QScrollArea* m_area = nullptr; // scrolls the content where the screen is too small for it
     QWidget* m_content = nullptr;
-    std::vector<QWidget*> m_frames; // an inner one before the one around it
     std::unordered_map<const Control*, View> m_views;
     std::unordered_map<const QObject*, Control*> m_controls;
     const Control* m_reporting = nullptr; // whose widget is ahead of its control for a moment
