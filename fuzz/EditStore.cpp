@@ -1,19 +1,25 @@
-// Any file, any edits, through the store and the disk, while another program writes into the same file.
+// Any file, any edits, through the store and the disk, saved, discarded or loaded anew, while another program
+// writes into the same file.
 
 #include "QuorIniFile/IniFormat.h"
 #include "QuorIniFile/IniStore.h"
 #include "QuorIniFile/QuorError.h"
 #include "fuzz/Claim.h"
 #include "fuzz/Edits.h"
+#include "fuzz/PlainEdits.h"
 #include "tests/support/TempFolder.h"
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <utility>
 
 namespace {
 
 using namespace QuorIniFile;
 using Fuzz::Claim;
 using Fuzz::Edit;
+using Fuzz::PlainEdits;
 
 constexpr const char* name = "fuzz.ini";
 
@@ -50,66 +56,170 @@ struct StoreReader {
     }
 };
 
-/// False when the store refuses the edit.
-bool Write(IniStore& store, const Edit& edit) {
+/// Whether a call of the store goes well. What it refuses is error 75.
+template <class Call>
+bool IsDone(const Call& call) {
     try {
-        store.SetSection(edit.section);
-        std::visit(StoreWriter{store, edit}, edit.value);
+        call();
         return true;
     } catch (const QuorError& error) {
-        Claim(error.Number() == ERR_PATH_FILE_ACCESS, "a name that no file can hold is error 75");
+        Claim(error.Number() == ERR_PATH_FILE_ACCESS, "what cannot be done is error 75");
         return false;
     }
 }
+
+/// A store on a file, and what it has to hold.
+class Trial {
+public:
+    Trial(const TempFolder& folder, std::string_view text) : m_folder(folder) {
+        m_folder.Write(name, text);
+        m_store.SetFileName(m_folder.Name(name));
+        m_store.Hold();
+    }
+
+    void Do(const Edit& edit) {
+        static constexpr std::pair<char, void (Trial::*)(const Edit&)> kinds[] = {
+            {'R', &Trial::Remove},  {'N', &Trial::Rename}, {'S', &Trial::Save},
+            {'D', &Trial::Discard}, {'L', &Trial::Reload}, {'X', &Trial::Append},
+        };
+        const auto* const kind = std::find_if(std::begin(kinds), std::end(kinds),
+                                              [&](const auto& row) { return row.first == edit.kind; });
+        (this->*(kind == std::end(kinds) ? &Trial::Write : kind->second))(edit);
+        Claim(m_store.FileChanged() == (m_plain && m_plain->Text() != File()),
+              "a store knows whether its file has changed");
+    }
+
+    void Save(const Edit& /*edit*/ = {}) {
+        const std::string before = File();
+        std::optional<PlainEdits> there = m_plain;
+        if (m_plain && m_plain->Text() != before)
+            there = m_plain->In(before);
+        const bool isSaved = IsDone([&] { m_store.Release(); });
+        m_store.Hold();
+        if (!isSaved) {
+            Claim(m_isAsked && (!there || IsUtf16(before) || before.find('\0') != std::string::npos),
+                  "only UTF-16, what would become it, and a name that is taken cannot be saved into");
+            Claim(File() == before, "a save that fails leaves the file as it is");
+            Discard();
+            return;
+        }
+        const std::string saved = File();
+        if (!m_isAsked) {
+            Claim(saved == before, "where nothing was asked for nothing is saved");
+            return;
+        }
+        Claim(there.has_value(), "a name that is taken is not given to another section");
+        there->ClaimMade(saved);
+        ClaimRead(*there);
+        Load(saved);
+        Claim(m_store.Sections() == m_plain->Names(),
+              "a store lists the sections of its file in their order");
+    }
+
+private:
+    [[nodiscard]] std::string File() const { return m_folder.Read(name); }
+
+    void Load(const std::string& text) {
+        m_plain.emplace(text);
+        m_isAsked = false;
+    }
+
+    /// The store loads its file when it is first asked for something. False when nobody can.
+    bool IsLoaded() {
+        if (const std::string text = File(); !m_plain && !IsUtf16(text))
+            Load(text);
+        return m_plain.has_value();
+    }
+
+    void Write(const Edit& edit) {
+        const bool isLoaded = IsLoaded();
+        m_store.SetSection(edit.section);
+        if (!IsDone([&] { std::visit(StoreWriter{m_store, edit}, edit.value); }))
+            return; // a name that no file can hold
+        Claim(isLoaded, "nothing is written into UTF-16");
+        Claim(std::visit(StoreReader{m_store, edit.key}, edit.value), "a store reads what it was given");
+        m_plain->Write(edit);
+        m_isAsked = true;
+    }
+
+    void Remove(const Edit& edit) {
+        const bool isLoaded = IsLoaded();
+        Claim(IsDone([&] { m_store.RemoveSection(edit.section); }) == isLoaded, "any section can be removed");
+        if (!isLoaded)
+            return;
+        m_isAsked = m_isAsked || m_plain->Has(edit.section);
+        m_plain->Remove(edit.section);
+        ClaimNames();
+    }
+
+    void Rename(const Edit& edit) {
+        const bool isLoaded = IsLoaded();
+        const bool isDone = IsDone([&] { m_store.RenameSection(edit.section, edit.key); });
+        Claim(isDone == (isLoaded && m_plain->Rename(edit.section, edit.key)),
+              "a section gets any name that is free and can be read back");
+        m_isAsked = m_isAsked || isDone;
+        if (isLoaded)
+            ClaimNames();
+    }
+
+    void Discard(const Edit& /*edit*/ = {}) {
+        m_store.Discard();
+        m_plain.reset();
+        m_isAsked = false;
+    }
+
+    void Reload(const Edit& /*edit*/) {
+        const std::string text = File();
+        const bool isDone = IsDone([&] { m_store.Reload(); });
+        if (!m_plain)
+            return;
+        auto there = m_plain->In(text);
+        Claim(isDone == (there && !IsUtf16(text)), "only UTF-16 and a name that is taken cannot be loaded");
+        if (!isDone)
+            return;
+        m_plain = std::move(there);
+        m_isAsked = m_plain->AreMade();
+        ClaimNames();
+    }
+
+    /// What another program does.
+    void Append(const Edit& edit) { m_folder.Write(name, File() + edit.bytes + '\n'); }
+
+    void ClaimNames() {
+        Claim(Sorted(m_store.Sections()) == Sorted(m_plain->Names()),
+              "a store lists the sections that are there");
+    }
+
+    static std::vector<std::wstring> Sorted(std::vector<std::wstring> names) {
+        std::transform(names.begin(), names.end(), names.begin(), Fuzz::Folded);
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    void ClaimRead(const PlainEdits& plain) const {
+        IniStore fresh;
+        fresh.SetFileName(m_folder.Name(name));
+        for (const auto& [place, edit] : plain.Written()) {
+            fresh.SetSection(edit.section);
+            Claim(std::visit(StoreReader{fresh, edit.key}, edit.value),
+                  "a second store reads what was saved");
+        }
+    }
+
+    const TempFolder& m_folder;
+    IniStore m_store;
+    std::optional<PlainEdits> m_plain; // nothing until the store has loaded its file
+    bool m_isAsked = false;            // for anything since then
+};
 
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const TempFolder folder;
     const Fuzz::EditedFile file = Fuzz::ParseInput(Fuzz::Bytes(data, size));
-    folder.Write(name, file.text);
-    IniStore store;
-    store.SetFileName(folder.Name(name));
-    store.Hold();
-    std::map<Fuzz::PlainIni::Place, Edit> written;
-
-    const auto save = [&] {
-        const std::string before = folder.Read(name);
-        try {
-            store.Release();
-        } catch (const QuorError& error) {
-            Claim(error.Number() == ERR_PATH_FILE_ACCESS &&
-                      (IsUtf16(before) || before == std::string(1, '\0')),
-                  "only UTF-16, and what would become it, cannot be saved into");
-            Claim(folder.Read(name) == before, "a save that fails leaves the file as it is");
-            store.Hold();
-            return false;
-        }
-        store.Hold();
-        Fuzz::ClaimOnlyThese(before, written, folder.Read(name));
-        IniStore fresh;
-        fresh.SetFileName(folder.Name(name));
-        for (const auto& [place, edit] : written) {
-            fresh.SetSection(edit.section);
-            Claim(std::visit(StoreReader{fresh, edit.key}, edit.value),
-                  "a second store reads what was saved");
-        }
-        written.clear();
-        return true;
-    };
-
-    for (const Edit& edit : file.edits) {
-        if (edit.kind == 'S') {
-            if (!save())
-                return 0;
-        } else if (edit.kind == 'X') {
-            folder.Write(name, folder.Read(name) + edit.bytes + '\n');
-        } else if (Write(store, edit)) {
-            store.SetSection(edit.section);
-            Claim(std::visit(StoreReader{store, edit.key}, edit.value), "a store reads what it was given");
-            written[edit.Place()] = edit;
-        }
-    }
-    save();
+    Trial trial(folder, file.text);
+    for (const Edit& edit : file.edits)
+        trial.Do(edit);
+    trial.Save();
     return 0;
 }

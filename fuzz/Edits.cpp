@@ -1,13 +1,11 @@
 #include "fuzz/Edits.h"
 
 #include "QuorIniFile/IniValue.h"
-#include "fuzz/Claim.h"
 
 #include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstring>
-#include <set>
 
 namespace Fuzz {
 namespace {
@@ -79,31 +77,6 @@ struct Speller {
     bool operator()(bool flag) const { return ParseBoolean(SplitComment(value).plain) == flag; }
 };
 
-/// Every line of `before` that no edit touches stands in `after`, in its order; between them stand the added
-/// ones and no others.
-void ClaimLines(const PlainIni& before, const std::set<std::size_t>& touched, std::size_t mostAdded,
-                const PlainIni& after) {
-    std::size_t added = 0;
-    auto next = after.Lines().begin();
-    for (std::size_t number = 0; number < before.Lines().size(); ++number) {
-        const PlainIni::Line& line = before.Lines()[number];
-        const bool isTouched = touched.contains(number);
-        const auto isThisLine = [&](const PlainIni::Line& other) {
-            // A last line without an end gets one when something follows.
-            if (!line.end.empty() && other.end != line.end)
-                return false;
-            return isTouched ? other.parsed.kind == IniLineKind::Key && other.parsed.name == line.parsed.name
-                             : other.content == line.content;
-        };
-        for (; next != after.Lines().end() && !isThisLine(*next); ++next)
-            ++added;
-        Claim(next != after.Lines().end(), "a line that nobody wrote stands where it stood");
-        ++next;
-    }
-    added += static_cast<std::size_t>(after.Lines().end() - next);
-    Claim(added <= mostAdded, "nothing is added but what was written");
-}
-
 } // namespace
 
 EditedFile ParseInput(std::string_view input) {
@@ -122,32 +95,5 @@ EditedFile ParseInput(std::string_view input) {
 }
 
 bool Spells(std::string_view value, const Edit& edit) { return std::visit(Speller{value}, edit.value); }
-
-void ClaimOnlyThese(std::string_view before, const std::map<PlainIni::Place, Edit>& edits,
-                    std::string_view after) {
-    const std::string_view mark = before.substr(0, MarkLength(before));
-    Claim(after.starts_with(mark), "the byte-order mark stays");
-    const PlainIni old(before);
-    const PlainIni now(after);
-    std::set<std::size_t> touched;
-    std::size_t mostAdded = 0;
-    std::set<std::wstring> newSections;
-    for (const auto& [place, edit] : edits) {
-        const auto value = now.Value(place);
-        Claim(value && Spells(*value, edit), "what was written is there");
-        const auto line = old.Keys().find(place);
-        if (line != old.Keys().end())
-            touched.insert(line->second);
-        else
-            mostAdded += 1;
-        if (!old.HasSection(place.first) && newSections.insert(place.first).second)
-            mostAdded += 2; // its header, and a blank line before it
-    }
-    ClaimLines(old, touched, mostAdded, now);
-    for (const auto& [place, number] : old.Keys()) {
-        if (!edits.contains(place))
-            Claim(now.Value(place) == old.Lines()[number].parsed.value, "no other value has changed");
-    }
-}
 
 } // namespace Fuzz

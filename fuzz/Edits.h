@@ -16,7 +16,11 @@ namespace Fuzz {
 ///     Section|Key|d|100.02;a remark     (or eight bytes, which are the double)
 ///     Section|Key|i|-12;a remark
 ///     Section|Key|b|1
-///     ||S|                              saves what was written so far
+///     Section||R|                       removes the section
+///     Section|New name|N|               gives the section another name
+///     ||S|                              saves what was done so far
+///     ||D|                              forgets what was done since
+///     ||L|                              loads the file anew
 ///     ||X|[Other]                       another program appends a line to the file
 struct Edit {
     std::wstring section, key;
@@ -38,10 +42,5 @@ struct EditedFile {
 
 /// Whether the bytes behind a key spell the value of an edit.
 [[nodiscard]] bool Spells(std::string_view value, const Edit& edit);
-
-/// Claims that `after` is `before` with these edits and nothing else: every other line byte for byte and in
-/// its order, every value there. The last edit of a place counts.
-void ClaimOnlyThese(std::string_view before, const std::map<PlainIni::Place, Edit>& edits,
-                    std::string_view after);
 
 } // namespace Fuzz

@@ -31,7 +31,9 @@ PlainIni::PlainIni(std::string_view text) {
             section.reset();
         } else if (parsed.kind == IniLineKind::Section) {
             section = Folded(DecodeBytes(parsed.name));
-            if (!m_sections.emplace(*section, number).second)
+            if (m_sections.insert(*section).second)
+                m_names.push_back(parsed.name);
+            else
                 section.reset();
         } else if (parsed.kind == IniLineKind::Key && section) {
             m_keys.emplace(Place(*section, Folded(DecodeBytes(parsed.name))), number);

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -32,13 +33,16 @@ public:
     /// The number of the line that counts for each key: the first of its name in the first section of its
     /// name.
     [[nodiscard]] const std::map<Place, std::size_t>& Keys() const { return m_keys; }
-    [[nodiscard]] bool HasSection(const std::wstring& folded) const { return m_sections.contains(folded); }
+    /// The names of the sections as they stand in the text, in its order; of a name that stands several times
+    /// the first.
+    [[nodiscard]] const std::vector<std::string_view>& Names() const { return m_names; }
     /// The value behind a key, as it stands in the text.
     [[nodiscard]] std::optional<std::string_view> Value(const Place& place) const;
 
 private:
     std::vector<Line> m_lines;
-    std::map<std::wstring, std::size_t> m_sections; // by folded name: the number of its first header line
+    std::set<std::wstring> m_sections; // their folded names
+    std::vector<std::string_view> m_names;
     std::map<Place, std::size_t> m_keys;
 };
 
