@@ -365,15 +365,25 @@ std::optional<std::string> IniDocument::ApplyChangesTo(IniDocument& other) const
     const auto textFor = [&other](std::string_view text) {
         return IsAscii(text) ? std::string(text) : EncodeText(DecodeText(text), other.Encoding());
     };
-    for (const auto& [from, to] : m_moves) {
-        const std::optional<Section> section = other.FindSection(from);
-        if (!section)
+    // Names that sections have here which are gone there. What has such a name there is somebody else's.
+    std::vector<std::string_view> gone;
+    for (const Move& move : m_moves) {
+        const auto isIt = [&move](std::string_view name) { return SameName(name, move.from); };
+        const auto known = std::find_if(gone.begin(), gone.end(), isIt);
+        const std::optional<Section> section =
+            known == gone.end() ? other.FindSection(move.from) : std::nullopt;
+        if (known != gone.end())
+            gone.erase(known);
+        if (!section) {
+            if (move.to)
+                gone.push_back(*move.to);
             continue;
-        if (!to) {
+        }
+        if (!move.to) {
             other.RemoveSection(*section);
             continue;
         }
-        const std::string name = nameFor(*to);
+        const std::string name = nameFor(*move.to);
         std::string buffer;
         const std::optional<Section> holder = other.FindSection(CanonicalName(name, buffer));
         if ((holder && holder != section) || !other.RenameSection(*section, name))

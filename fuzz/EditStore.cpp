@@ -79,8 +79,8 @@ public:
 
     void Do(const Edit& edit) {
         static constexpr std::pair<char, void (Trial::*)(const Edit&)> kinds[] = {
-            {'R', &Trial::Remove},  {'N', &Trial::Rename}, {'S', &Trial::Save},
-            {'D', &Trial::Discard}, {'L', &Trial::Reload}, {'X', &Trial::Append},
+            {'R', &Trial::Remove}, {'N', &Trial::Rename}, {'S', &Trial::Save},  {'D', &Trial::Discard},
+            {'L', &Trial::Reload}, {'X', &Trial::Append}, {'H', &Trial::Halve},
         };
         const auto* const kind = std::find_if(std::begin(kinds), std::end(kinds),
                                               [&](const auto& row) { return row.first == edit.kind; });
@@ -182,8 +182,13 @@ private:
         ClaimNames();
     }
 
-    /// What another program does.
+    // What another program does.
     void Append(const Edit& edit) { m_folder.Write(name, File() + edit.bytes + '\n'); }
+
+    void Halve(const Edit& /*edit*/) {
+        const std::string text = File();
+        m_folder.Write(name, text.substr(text.size() / 2));
+    }
 
     void ClaimNames() {
         Claim(Sorted(m_store.Sections()) == Sorted(m_plain->Names()),

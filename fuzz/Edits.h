@@ -22,6 +22,7 @@ namespace Fuzz {
 ///     ||D|                              forgets what was done since
 ///     ||L|                              loads the file anew
 ///     ||X|[Other]                       another program appends a line to the file
+///     ||H|                              another program leaves half of the file, the second one
 struct Edit {
     std::wstring section, key;
     char kind = 's';

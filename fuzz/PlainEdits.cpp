@@ -75,22 +75,18 @@ void ClaimLines(const PlainIni& before, const Lines& expected, const PlainIni& a
 PlainEdits::PlainEdits(std::string_view text) : m_text(text) {
     const PlainIni plain(m_text);
     for (const std::string_view name : plain.Names()) {
-        const std::wstring inText = Folded(DecodeBytes(name));
-        m_inText[inText] = m_sections.size();
-        m_sections.push_back({std::string(name), inText, {}});
+        const std::wstring folded = Folded(DecodeBytes(name));
+        m_inText[folded] = m_sections.size();
+        m_sections.push_back({std::string(name), folded, folded});
     }
-}
-
-bool PlainEdits::IsCalled(const Section& section, const std::wstring& name) const {
-    return Folded(DecodeBytes(section.name)) == Folded(name);
 }
 
 std::size_t PlainEdits::Find(const std::wstring& name) const {
-    for (std::size_t number = 0; number < m_sections.size(); ++number) {
-        if (!m_sections[number].isRemoved && IsCalled(m_sections[number], name))
-            return number;
-    }
-    return none;
+    const auto section =
+        std::find_if(m_sections.begin(), m_sections.end(), [folded = Folded(name)](const Section& candidate) {
+            return !candidate.isRemoved && candidate.called == folded;
+        });
+    return section == m_sections.end() ? none : static_cast<std::size_t>(section - m_sections.begin());
 }
 
 std::vector<std::wstring> PlainEdits::Names() const {
@@ -106,11 +102,12 @@ void PlainEdits::Write(const Edit& edit) {
     if (!Has(edit.section)) {
         std::vector<Section*> old;
         for (Section& section : m_sections) {
-            if (IsCalled(section, edit.section))
+            if (section.called == Folded(edit.section))
                 old.push_back(&section);
         }
         if (old.empty()) {
-            m_sections.push_back({Spelling(edit.section, m_text).value(), {}, {}, true});
+            m_sections.push_back({Spelling(edit.section, m_text).value(), Folded(edit.section), {}});
+            m_sections.back().isNew = true;
         } else {
             m_isVague = m_isVague || old.size() > 1;
             old.front()->isRemoved = false;
@@ -150,7 +147,8 @@ bool PlainEdits::Rename(const std::wstring& from, const std::wstring& to) {
     if (!section.isNew)
         m_moves.push_back({from, to});
     section.name = *spelling;
-    section.renamed = spelling;
+    section.called = Folded(to);
+    section.isRenamed = true;
     for (auto written = m_written.lower_bound({Folded(from), {}});
          written != m_written.end() && written->first.first == Folded(from);) {
         auto node = m_written.extract(written++);
@@ -233,8 +231,8 @@ PlainEdits::Lines PlainEdits::ExpectedLines(const PlainIni& old) const {
     expected.gone = LinesThatGo(old);
     for (std::size_t number = 0; number < old.Lines().size(); ++number) {
         const Section* const section = OfHeader(old.Lines()[number]);
-        if (section && section->renamed)
-            expected.headers[number] = WithName(old.Lines()[number], *section->renamed);
+        if (section && section->isRenamed)
+            expected.headers[number] = WithName(old.Lines()[number], section->name);
     }
     std::set<std::wstring> added;
     for (const auto& [place, edit] : m_written) {
@@ -260,10 +258,9 @@ void PlainEdits::ClaimKeys(const PlainIni& old, const PlainIni& now) const {
     for (const Section& section : m_sections) {
         if (section.isNew || section.isRemoved || section.isEmptied)
             continue;
-        const std::wstring name = Folded(DecodeBytes(section.name));
         for (auto key = old.Keys().lower_bound({section.inText, {}});
              key != old.Keys().end() && key->first.first == section.inText; ++key) {
-            const PlainIni::Place place(name, key->first.second);
+            const PlainIni::Place place(section.called, key->first.second);
             ++kept;
             if (m_written.contains(place))
                 --added;

@@ -48,9 +48,10 @@ private:
     static constexpr std::size_t none = static_cast<std::size_t>(-1);
 
     struct Section {
-        std::string name;                   // as it is spelled now
-        std::wstring inText;                // folded, as the text calls it
-        std::optional<std::string> renamed; // the name that it was given
+        std::string name;    // as it is spelled now
+        std::wstring called; // the same, folded
+        std::wstring inText; // folded, as the text calls it
+        bool isRenamed = false;
         bool isNew = false;
         bool isRemoved = false;
         bool isEmptied = false; // it was removed and has come back
@@ -68,7 +69,6 @@ private:
     };
 
     [[nodiscard]] std::size_t Find(const std::wstring& name) const;
-    [[nodiscard]] bool IsCalled(const Section& section, const std::wstring& name) const;
     /// The section of the text that a header line belongs to; null for a broken header.
     [[nodiscard]] const Section* OfHeader(const PlainIni::Line& line) const;
     [[nodiscard]] std::set<std::size_t> LinesThatGo(const PlainIni& old) const;

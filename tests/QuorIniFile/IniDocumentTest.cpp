@@ -332,6 +332,21 @@ TEST(IniDocument, WhatIsGoneAlreadyNeedsNoRemovalAndNoNewName) {
     EXPECT_EQ(theirs.Text(), "[D]\n\n[C]\ny=3\n");
 }
 
+TEST(IniDocument, TheSectionThatSomebodyElseHasPutInThePlaceOfAGoneOneIsLeftAlone) {
+    IniDocument removed("[A]\nx=1\n");
+    ASSERT_TRUE(removed.RenameSection(removed.FindSection("A").value(), "B"));
+    removed.RemoveSection(removed.FindSection("B").value());
+    IniDocument renamed("[A]\nx=1\n");
+    ASSERT_TRUE(renamed.RenameSection(renamed.FindSection("A").value(), "b"));
+    ASSERT_TRUE(renamed.RenameSection(renamed.FindSection("B").value(), "C"));
+    const std::string text = "[B]\ntheirs=1\n";
+    for (const IniDocument* ours : {&removed, &renamed}) {
+        IniDocument theirs(text);
+        EXPECT_EQ(ours->ApplyChangesTo(theirs), std::nullopt);
+        EXPECT_EQ(theirs.Text(), text);
+    }
+}
+
 TEST(IniDocument, ANameThatSomebodyElseHasGivenMeanwhileIsToldAndNotTaken) {
     IniDocument ours("[A]\nx=1\n");
     ASSERT_TRUE(ours.RenameSection(ours.FindSection("A").value(), "B"));
