@@ -36,6 +36,11 @@ function(quor_library name)
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
     target_compile_features(${name} PUBLIC cxx_std_20)
     target_link_libraries(${name} PUBLIC ${arg_DEPENDS} PRIVATE $<BUILD_INTERFACE:quor_options>)
+    if(QUOR_FUZZ)
+        # Every test run builds the fuzzers, and most of that is reading these.
+        target_precompile_headers(${name} PRIVATE <algorithm> <cmath> <functional> <map> <memory> <optional> <set>
+            <string> <string_view> <variant> <vector>)
+    endif()
     set_target_properties(${name} PROPERTIES
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}

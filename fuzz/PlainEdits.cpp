@@ -35,6 +35,30 @@ std::size_t WithCommentsAbove(const std::vector<PlainIni::Line>& lines, std::siz
     return first == 0 ? line : first;
 }
 
+/// What goes with a header line: the lines down to the last one that is neither blank nor a comment, with the
+/// comments that touch that one, and the blank lines behind these.
+struct Body {
+    std::size_t end = 0, endOfBlanks = 0;
+};
+Body BodyBelow(const std::vector<PlainIni::Line>& lines, std::size_t header) {
+    std::size_t limit = header + 1;
+    while (limit < lines.size() && !IsHeader(lines[limit]))
+        ++limit;
+    if (limit < lines.size())
+        limit = WithCommentsAbove(lines, limit);
+    const auto is = [&lines](std::size_t line, IniLineKind kind) { return lines[line].parsed.kind == kind; };
+    Body body{limit, 0};
+    while (body.end > header + 1 &&
+           (is(body.end - 1, IniLineKind::Blank) || is(body.end - 1, IniLineKind::Comment)))
+        --body.end;
+    while (body.end < limit && is(body.end, IniLineKind::Comment))
+        ++body.end;
+    body.endOfBlanks = body.end;
+    while (body.endOfBlanks < limit && is(body.endOfBlanks, IniLineKind::Blank))
+        ++body.endOfBlanks;
+    return body;
+}
+
 /// Every line of the text stands in `after`, in its order, but for those that go; between them stand the
 /// added ones and no others.
 template <class Lines>
@@ -197,22 +221,9 @@ std::set<std::size_t> PlainEdits::LinesThatGo(const PlainIni& old) const {
         const bool staysEmpty = section->isEmptied && !section->isRemoved && isFirst;
         if (!section->isRemoved && !section->isEmptied)
             continue;
-        std::size_t end = number + 1;
-        while (end < lines.size() && !IsHeader(lines[end]))
-            ++end;
-        if (end < lines.size())
-            end = WithCommentsAbove(lines, end);
-        std::size_t behind = end; // the last line that is neither blank nor a comment
-        const auto kind = [&](std::size_t line) { return lines[line].parsed.kind; };
-        while (behind > number + 1 &&
-               (kind(behind - 1) == IniLineKind::Blank || kind(behind - 1) == IniLineKind::Comment))
-            --behind;
-        while (behind < end && kind(behind) == IniLineKind::Comment)
-            ++behind;
-        while (!staysEmpty && behind < end && kind(behind) == IniLineKind::Blank)
-            ++behind;
-        for (std::size_t line = staysEmpty ? number + 1 : WithCommentsAbove(lines, number); line < behind;
-             ++line)
+        const Body body = BodyBelow(lines, number);
+        const std::size_t first = staysEmpty ? number + 1 : WithCommentsAbove(lines, number);
+        for (std::size_t line = first; line < (staysEmpty ? body.end : body.endOfBlanks); ++line)
             gone.insert(line);
     }
     // At the end of the text the blank lines go that parted the last section from the one before.

@@ -32,7 +32,7 @@ public:
 
     /// The edit has names that a file can hold.
     void Write(const Edit& edit);
-    void Remove(const std::wstring& section);
+    void Remove(const std::wstring& name);
     /// False, and nothing has changed, when the section is not there, another one has the name, or a header
     /// line could not give it back.
     [[nodiscard]] bool Rename(const std::wstring& from, const std::wstring& to);
