@@ -310,8 +310,9 @@ public:
 
     void Begin() {
         constexpr std::chrono::seconds patience(10);
-        constexpr std::chrono::milliseconds step(1); // short, so that each of many has its turn
-        for (std::chrono::milliseconds waited(0); !TryBegin(waited >= patience); waited += step)
+        constexpr std::chrono::milliseconds step(1);             // short, so that each of many has its turn
+        const std::chrono::milliseconds start = m_files.Clock(); // calls take their time, too
+        while (!TryBegin(m_files.Clock() - start >= patience))
             m_files.Pause(step);
     }
 
@@ -328,13 +329,16 @@ public:
         Require([&] { return m_files.SyncFolder(m_folder); });
     }
 
-    std::optional<IniStamp> Commit(std::string_view bytes) {
+    std::optional<IniStamp> Commit(std::string_view bytes, std::optional<std::string_view> read) {
         if (bytes.size() > largestFile)
             throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, L"It would be larger than 4 GiB");
         if (m_old)
             TakeOverAttributes();
         Write(bytes);
         Require([&] { return m_files.Sync(m_temporary.Get()); });
+        // A change in the tick of the one before leaves no trace in the stamp.
+        if (m_old && read && !m_isSettled && !HasOnly(m_old->file, *read, Here()))
+            return std::nullopt;
         const auto now = FindRegular(m_path.string(), Here());
         if ((now ? StampFrom(*now) : IniStamp{}) != m_stamp)
             return std::nullopt;
@@ -381,6 +385,7 @@ private:
 
         m_old = OpenRegular(m_path.string(), Here());
         m_stamp = m_old ? StampFrom(m_old->status) : IniStamp{};
+        m_isSettled = IsSettled(m_stamp);
         if (m_old.has_value() == exists)
             return true;
         // It has come or gone meanwhile; the temporary file was made for the wrong readers.
@@ -471,7 +476,8 @@ private:
     bool m_isOurs = false;            // the temporary file: it was made, locked, and has still its name
     std::optional<RegularFile> m_old; // nothing when there is no file yet
     IniStamp m_stamp;
-    IniStamp m_firstSeen; // of a temporary file that cannot be locked
+    bool m_isSettled = false; // the stamp was, when it was taken
+    IniStamp m_firstSeen;     // of a temporary file that cannot be locked
 };
 
 IniReplacement::IniReplacement(std::wstring_view fileName, IniFileSystem& files)
@@ -485,6 +491,8 @@ const IniStamp& IniReplacement::Stamp() const { return m_work->Stamp(); }
 bool IniReplacement::Has(std::string_view bytes) const { return m_work->Has(bytes); }
 std::string IniReplacement::Bytes() const { return m_work->Bytes(); }
 void IniReplacement::Flush() const { m_work->Flush(); }
-std::optional<IniStamp> IniReplacement::Commit(std::string_view bytes) { return m_work->Commit(bytes); }
+std::optional<IniStamp> IniReplacement::Commit(std::string_view bytes, std::optional<std::string_view> read) {
+    return m_work->Commit(bytes, read);
+}
 
 } // namespace QuorIniFile

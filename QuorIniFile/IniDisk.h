@@ -86,11 +86,13 @@ public:
 
     /// Replaces the file by `bytes`, or creates it; to be called once. Returns the new stamp when the bytes
     /// have reached the disk; nothing when a program that takes no lock has changed the file meanwhile, which
-    /// is then left as that made it. On a failure the file is as it was; the one exception is a folder that
-    /// cannot be flushed after the file was replaced: the file is whole and new then, but may not outlive a
-    /// power cut. Mode, owner, access lists and extended attributes are kept as far as the system allows; of
+    /// is then left as that made it. That is seen by its stamp, and where the stamp may not tell, by its not
+    /// having the bytes that were `read` any more, as far as these are given. On a failure the file is as it
+    /// was, or, when the failure comes after the replacement, whole and new; it may not outlive a power cut
+    /// then. Mode, owner, access lists and extended attributes are kept as far as the system allows; of
     /// several hard links the others keep the old file. A file that we are not to write is error 70.
-    [[nodiscard]] std::optional<IniStamp> Commit(std::string_view bytes);
+    [[nodiscard]] std::optional<IniStamp> Commit(std::string_view bytes,
+                                                 std::optional<std::string_view> read = std::nullopt);
 
 private:
     class Work;

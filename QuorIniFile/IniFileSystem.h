@@ -92,6 +92,8 @@ public:
 
     /// Lets that much time pass.
     virtual void Pause(std::chrono::milliseconds time) = 0;
+    /// The time since some moment, on a clock that nobody sets.
+    [[nodiscard]] virtual std::chrono::milliseconds Clock() = 0;
 };
 
 } // namespace QuorIniFile

@@ -275,6 +275,11 @@ public:
 
     void Pause(std::chrono::milliseconds time) override { std::this_thread::sleep_for(time); }
 
+    std::chrono::milliseconds Clock() override {
+        return std::chrono::duration_cast<std::chrono::milliseconds>(
+            std::chrono::steady_clock::now().time_since_epoch());
+    }
+
 private:
     static int OpenFile(const std::string& path, int flags, mode_t mode) {
         // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the system's interface

@@ -264,7 +264,7 @@ private:
         // A file of one NUL is no UTF-16, and becomes it with what follows: nobody could load that.
         if (IsUtf16(saved.BaseText()))
             throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, L"With these changes it would be UTF-16 text");
-        const std::optional<IniStamp> stamp = replacement.Commit(saved.BaseText());
+        const std::optional<IniStamp> stamp = replacement.Commit(saved.BaseText(), changed.BaseText());
         if (stamp)
             Adopt(std::move(saved), *stamp);
         return stamp.has_value();

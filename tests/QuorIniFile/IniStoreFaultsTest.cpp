@@ -254,3 +254,30 @@ TEST(IniStoreFaults, AProgramThatTakesNoLockMayRewriteTheFileAtAnyCallAndItsKeys
         EXPECT_EQ(run.folder.Files(), Names{"a.ini"});
     }
 }
+
+TEST(IniStoreFaults, AFileThatIsRewrittenInTheTickOfItsLastChangeIsSeenToBeAnother) {
+    const std::string theirs = "[A]\nx=1\ny=5\n"; // as long as ours, in the same file: only the bytes tell
+    for (std::size_t at = 0;; ++at) {
+        SimulatedDisk disk(SimulatedDisk::Files{{"/a.ini", "[A]\nx=1\ny=1\n"}});
+        disk.clockStands = true;
+        InterceptedFiles files(disk);
+        std::size_t calls = 0;
+        bool isFlushed = false;
+        bool isRewritten = false;
+        files.onCall = [&](std::string_view call) {
+            if (calls++ == at && !isFlushed) {
+                disk.Rewrite("/a.ini", theirs);
+                isRewritten = true;
+            }
+            isFlushed = isFlushed || call == "Sync";
+            return 0;
+        };
+        IniStore store(files);
+        store.SetFileName(L"/a.ini");
+        store.SetSection(L"A");
+        store.WriteInteger(L"x", 2, L"");
+        if (!isRewritten)
+            break;
+        EXPECT_EQ(disk.Now(), (SimulatedDisk::Files{{"/a.ini", "[A]\nx=2\ny=5\n"}})) << "call " << at;
+    }
+}

@@ -266,6 +266,17 @@ TEST(IniStoreProcesses, AFileThatIsInUseForTenSecondsIsAnErrorThatSaysByWhom) {
     EXPECT_EQ(disk.Now(), (SimulatedDisk::Files{{"/a.ini", "[A]\nx=2\n"}}));
 }
 
+TEST(IniStoreProcesses, TheTenSecondsAreThoseOfTheClockAlsoWhereEachCallTakesLong) {
+    SimulatedDisk disk;
+    ForeignSave foreign(disk);
+    foreign.Begin();
+    disk.latency = 50ms; // a server far away
+    disk.waited = 0ms;
+    EXPECT_EQ(RaisedBy([&] { Save(disk, L"/a.ini"); }).Number(), 70);
+    EXPECT_GE(disk.waited, 10s);
+    EXPECT_LT(disk.waited, 11s);
+}
+
 TEST(IniStoreProcesses, ATemporaryFileThatOnlyItsOwnerMayReadIsWaitedForAsWell) {
     SimulatedDisk disk;
     ForeignSave foreign(disk);

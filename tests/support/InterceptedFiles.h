@@ -76,6 +76,7 @@ public:
         paused += time;
         m_files.Pause(time);
     }
+    std::chrono::milliseconds Clock() override { return m_files.Clock(); }
 
 private:
     template <class Call>

@@ -72,19 +72,26 @@ void SimulatedDisk::Make(Change change) {
     ++m_changes;
 }
 
+void SimulatedDisk::Rewrite(const std::string& path, const std::string& bytes) {
+    m_now.files.at(m_now.names.at(path)) = {bytes, ++m_changes};
+}
+
+IniFileStatus SimulatedDisk::StatusOfInode(Inode inode) const {
+    const File& file = m_now.files.at(inode);
+    constexpr std::int64_t farAhead = 4'102'444'800; // the year 2100: no change was long ago
+    const std::int64_t changed = clockStands ? farAhead : file.changed;
+    return {IniFileStatus::Kind::Regular, 1, inode, file.bytes.size(), changed, 0};
+}
+
 IniResult<IniFileStatus> SimulatedDisk::StatusAt(const std::string& path) {
+    waited += latency;
     const auto name = m_now.names.find(path);
     if (name == m_now.names.end())
         return {ENOENT, {}};
-    const File& file = m_now.files.at(name->second);
-    return {0, {IniFileStatus::Kind::Regular, 1, name->second, file.bytes.size(), file.changed, 0}};
+    return {0, StatusOfInode(name->second)};
 }
 
-IniResult<IniFileStatus> SimulatedDisk::StatusOf(Handle file) {
-    const Inode inode = m_open.at(file);
-    const File& opened = m_now.files.at(inode);
-    return {0, {IniFileStatus::Kind::Regular, 1, inode, opened.bytes.size(), opened.changed, 0}};
-}
+IniResult<IniFileStatus> SimulatedDisk::StatusOf(Handle file) { return {0, StatusOfInode(m_open.at(file))}; }
 
 IniResult<std::string> SimulatedDisk::LinkAt(const std::string& path) {
     return {m_now.names.count(path) != 0 ? EINVAL : ENOENT, {}};
@@ -183,5 +190,7 @@ int SimulatedDisk::Remove(const std::string& path) {
 int SimulatedDisk::MakeFolder(const std::string& /*path*/) { return 0; }
 
 void SimulatedDisk::Pause(std::chrono::milliseconds time) { waited += time; }
+
+std::chrono::milliseconds SimulatedDisk::Clock() { return waited; }
 
 } // namespace Support

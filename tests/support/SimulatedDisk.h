@@ -26,12 +26,18 @@ public:
     std::size_t capacity = std::numeric_limits<std::size_t>::max();
     /// Whether files can be locked on it.
     bool hasLocks = true;
+    /// Whether its clock stands still, so that every change is made in the tick of the one before.
+    bool clockStands = false;
+    /// How long a look at a path takes.
+    std::chrono::milliseconds latency{0};
     /// What LockHolder tells.
     std::string lockHolder;
-    /// How long the store has waited.
+    /// How long the store has waited, for others and for calls that take their time.
     std::chrono::milliseconds waited{0};
 
     [[nodiscard]] Files Now() const;
+    /// What a program does that takes no lock: other bytes in the same file.
+    void Rewrite(const std::string& path, const std::string& bytes);
     /// Every content that the disk can have when the power fails now: each write and each change of a name
     /// that no Sync has made durable is lost, done, or half done, whatever became of those before it.
     [[nodiscard]] std::vector<Files> AfterPowerCut() const;
@@ -54,6 +60,7 @@ public:
     int Remove(const std::string& path) override;
     int MakeFolder(const std::string& path) override;
     void Pause(std::chrono::milliseconds time) override;
+    std::chrono::milliseconds Clock() override;
 
 private:
     using Inode = std::uint64_t;
@@ -81,6 +88,7 @@ private:
     using Change = std::variant<Written, Named, Removed>;
     enum class Extent : std::uint8_t { Nothing, Half, Whole };
 
+    [[nodiscard]] QuorIniFile::IniFileStatus StatusOfInode(Inode inode) const;
     static void Apply(const Change& change, Extent extent, State& state);
     [[nodiscard]] static Files FilesOf(const State& state);
     void Make(Change change);
