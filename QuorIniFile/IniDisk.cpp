@@ -47,17 +47,30 @@ constexpr SystemError systemErrors[] = {
     {ENAMETOOLONG, ERR_BAD_FILE_NAME, false},
 };
 
+SystemError Known(int code) {
+    const auto* const known = std::find_if(std::begin(systemErrors), std::end(systemErrors),
+                                           [code](const SystemError& error) { return error.code == code; });
+    return known != std::end(systemErrors) ? *known : SystemError{code, ERR_PATH_FILE_ACCESS, false};
+}
+
+std::wstring WordsFor(int code) { return DecodeBytes(std::generic_category().message(code)); }
+
 [[noreturn]] void Raise(int code, std::wstring_view fileName, Deed deed) {
     if (code == ENOMEM)
         throw std::bad_alloc();
     if (code == ENOENT)
         throw FileError(deed == Deed::Read ? ERR_FILE_NOT_FOUND : ERR_PATH_NOT_FOUND, fileName);
-    const auto* const known = std::find_if(std::begin(systemErrors), std::end(systemErrors),
-                                           [code](const SystemError& error) { return error.code == code; });
-    if (known != std::end(systemErrors) && known->causeAddsNothing)
-        throw FileError(known->number, fileName);
-    throw FileError(known != std::end(systemErrors) ? known->number : ERR_PATH_FILE_ACCESS, fileName,
-                    DecodeBytes(std::generic_category().message(code)));
+    const SystemError error = Known(code);
+    if (error.causeAddsNothing)
+        throw FileError(error.number, fileName);
+    throw FileError(error.number, fileName, WordsFor(code));
+}
+
+/// The same where it is the temporary file that cannot be taken.
+[[noreturn]] void RaiseFor(const std::string& temporaryPath, int code, std::wstring_view fileName) {
+    if (code == ENOMEM)
+        throw std::bad_alloc();
+    throw FileError(Known(code).number, fileName, DecodeBytes(temporaryPath) + L": " + WordsFor(code));
 }
 
 int ErrorOf(int error) { return error; }
@@ -407,18 +420,18 @@ private:
             return;
         }
         if (opened.error != 0)
-            Raise(opened.error, m_fileName, Deed::Write);
+            RaiseFor(m_temporaryPath, opened.error, m_fileName);
 
         const OpenFile temporary(m_files, opened.value);
         const int lock = Uninterrupted([&] { return m_files.TryLock(temporary.Get()); });
         if (lock != 0 && lock != EWOULDBLOCK && lock != ENOTSUP)
-            Raise(lock, m_fileName, Deed::Write);
+            RaiseFor(m_temporaryPath, lock, m_fileName);
         if (lock == 0 || (lock == ENOTSUP && IsUntouched(temporary, isLast))) {
             if (!IsTemporary(temporary))
                 return;
             const int error = Uninterrupted([&] { return m_files.Remove(m_temporaryPath); });
             if (error != 0 && error != ENOENT)
-                Raise(error, m_fileName, Deed::Write);
+                RaiseFor(m_temporaryPath, error, m_fileName);
             return;
         }
         if (isLast) {

@@ -235,3 +235,24 @@ TEST(IniDiskRights, AFileOfAnotherUserThatWeMayNotWriteIsRefused) {
     EXPECT_EQ(folder.Read("a.ini"), "old");
     EXPECT_EQ(folder.Files(), Names{"a.ini"});
 }
+
+TEST(IniDiskRights, ATemporaryFileThatOnlyAnotherUserMayRemoveIsNamed) {
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only the superuser may give files away";
+    const TempFolder folder;
+    folder.Write("a.ini", "old");
+    ASSERT_EQ(::chown(folder.Path("a.ini").c_str(), ordinary, ordinary), 0);
+    ASSERT_EQ(::chmod(folder.Path().c_str(), 01777), 0); // anybody's files, each for its owner to remove
+    const std::string temporary = [&folder] {
+        const IniReplacement one(folder.Name("a.ini"));
+        return folder.Files().front();
+    }();
+    folder.Write(temporary, "left by a process of another user");
+    ASSERT_EQ(::seteuid(ordinary), 0);
+    const QuorError error = RaisedBy([&] { const IniReplacement replacement(folder.Name("a.ini")); });
+    ASSERT_EQ(::seteuid(0), 0);
+    EXPECT_EQ(error.Number(), 70);
+    EXPECT_EQ(error.Description(), L"Permission denied: " + folder.Name("a.ini") + L": " +
+                                       folder.Name(temporary) + L": Operation not permitted");
+    EXPECT_EQ(folder.Read("a.ini"), "old");
+}

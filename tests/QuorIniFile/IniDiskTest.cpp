@@ -248,6 +248,30 @@ TEST(IniDisk, OnlyRegularFilesAreTouchedAndNothingHangs) {
     EXPECT_EQ(folder.Files(), before);
 }
 
+TEST(IniDisk, WhatStandsInTheWayOfTheTemporaryFileIsNamedAndStays) {
+    const TempFolder folder;
+    folder.Write("a.ini", "old");
+    const std::string temporary = [&folder] {
+        const IniReplacement one(folder.Name("a.ini"));
+        return folder.Files().front();
+    }();
+    const auto expectNamed = [&] {
+        const QuorError error = RaisedBy([&] { ReplaceBytes(folder.Name("a.ini"), "new"); });
+        EXPECT_EQ(error.Number(), 75);
+        EXPECT_EQ(error.Description().find(L"Path/File access error: " + folder.Name("a.ini") + L": " +
+                                           folder.Name(temporary) + L": "),
+                  0U)
+            << testing::PrintToString(error.Description());
+        EXPECT_EQ(folder.Read("a.ini"), "old");
+        EXPECT_EQ(folder.Files(), (Names{temporary, "a.ini"}));
+    };
+    fs::create_directory(folder.Path(temporary));
+    expectNamed();
+    fs::remove(folder.Path(temporary));
+    fs::create_symlink("a.ini", folder.Path(temporary));
+    expectNamed();
+}
+
 TEST(IniDisk, AFolderThatDoesNotExistIsPathNotFound) {
     const TempFolder folder;
     folder.Write("file", "");
