@@ -5,5 +5,6 @@ namespace QuorIniFile {
 INIFile::~INIFile() = default;
 void INIFile::Hold() {}
 void INIFile::Release() {}
+void INIFile::Abandon() { Release(); }
 
 } // namespace QuorIniFile

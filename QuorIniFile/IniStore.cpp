@@ -49,7 +49,8 @@ public:
         if (fileName == m_fileName)
             return;
         std::wstring name(fileName);
-        Save();
+        if (!m_isAbandoned)
+            Save();
         m_document.reset();
         m_fileName = std::move(name);
     }
@@ -141,13 +142,28 @@ public:
     void Discard() {
         m_document.reset();
         m_hasFailed = false;
+        m_isAbandoned = false;
         m_number.reset();
     }
 
     void Hold() { ++m_holds; }
     void Release() {
-        if (m_holds > 0 && --m_holds == 0)
+        if (m_holds == 0 || --m_holds > 0)
+            return;
+        if (!m_isAbandoned) {
             Save();
+            return;
+        }
+        Discard();
+        throw FileError(ERR_PATH_FILE_ACCESS, m_fileName,
+                        L"A record could not be written whole, so nothing was saved");
+    }
+    void Abandon() {
+        if (m_holds == 0)
+            return;
+        m_isAbandoned = true;
+        if (--m_holds == 0)
+            Discard();
     }
 
     /// Nothing of the object changes unless all has gone well.
@@ -169,7 +185,7 @@ public:
 
     /// What a save has failed for was reported; it is not saved behind the user's back.
     void SaveAtEnd() {
-        if (!m_hasFailed)
+        if (!m_hasFailed && !m_isAbandoned)
             Save();
     }
 
@@ -355,6 +371,7 @@ private:
     std::optional<IniDocument::Section> m_number; // of the selected section, once it was found
     bool m_hasFailed = false;                     // a save of all that is written
     std::size_t m_holds = 0;
+    bool m_isAbandoned = false; // what is held is part of a record, and must not be saved
     // Made anew with each call; kept, because making them needs memory.
     std::string m_keyBytes, m_spare;
     IniNewValue m_value;
@@ -425,6 +442,7 @@ void IniStore::Discard() { m_session->Discard(); }
 
 void IniStore::Hold() { m_session->Hold(); }
 void IniStore::Release() { m_session->Release(); }
+void IniStore::Abandon() { m_session->Abandon(); }
 
 bool IniStore::FileChanged() { return m_session->FileChanged(); }
 void IniStore::Reload() { m_session->Reload(); }

@@ -77,8 +77,11 @@ public:
     void Discard();
 
     void Hold() override;
-    /// Without a Hold it does nothing.
+    /// Without a Hold it does nothing. Raises 75, and does as Discard does, when a bracket inside this one
+    /// was abandoned.
     void Release() override;
+    /// Without a Hold it does nothing. That of the outermost bracket does as Discard does.
+    void Abandon() override;
 
     /// Whether the file holds another text now than the one that was loaded or last saved; that it has come
     /// or gone counts too. Costs a look at the folder, or reading the file when it was touched. False as long

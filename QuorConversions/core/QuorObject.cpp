@@ -10,8 +10,8 @@
 namespace QuorConversions {
 namespace {
 
-/// Brackets the writes of one record, so that the store makes them durable once. The bracket is closed on
-/// every path; a failure to close it counts only when nothing failed before.
+/// Brackets the writes of one record, so that the store makes them durable once, and all or none. The bracket
+/// is closed on every path; a failure to close it counts only when nothing failed before.
 class RecordHold {
 public:
     explicit RecordHold(INIFile& iniFile) : m_iniFile(&iniFile) { iniFile.Hold(); }
@@ -19,7 +19,8 @@ public:
     RecordHold& operator=(const RecordHold&) = delete;
     ~RecordHold() {
         try {
-            Release();
+            if (m_iniFile)
+                m_iniFile->Abandon();
         } catch (...) { // an earlier error is on its way to the report
         }
     }

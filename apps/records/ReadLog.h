@@ -56,6 +56,7 @@ public:
     }
     void Hold() override { m_store->Hold(); }
     void Release() override { m_store->Release(); }
+    void Abandon() override { m_store->Abandon(); }
 
 private:
     template <class T>
