@@ -107,13 +107,21 @@ void QuorObject::InFrame(std::shared_ptr<INIFile>& iniFile, const std::wstring& 
 
 void QuorObject::WriteToFile(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname,
                              const std::wstring& secname) const {
+    bool isHeld = false;
     InFrame(iniFile, fname, secname, IDS_WRITING_SETTINGS, [&](const std::shared_ptr<INIFile>& store) {
+        isHeld = true;
         RecordHold hold(*store);
         store->WriteString(L"Version", QUOR_LIBRARY_VERSION);
         RecordWriter record(store, secname, m_className);
         WriteRecord(record);
         hold.Release();
     });
+    if (isHeld || !iniFile)
+        return;
+    try { // whoever holds this record together with others has to know that it is missing
+        const RecordHold missing(*iniFile);
+    } catch (...) { // the error that kept it from being held was reported
+    }
 }
 
 bool QuorObject::ReadFromFile(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname,

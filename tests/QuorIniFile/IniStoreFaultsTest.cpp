@@ -119,6 +119,7 @@ TEST(IniStoreFaults, EveryCallThatFailsIsAnErrorAndLeavesTheOldFileOrTheNewOne) 
                     }
                     EXPECT_EQ(raised->Number(), number) << where;
                     EXPECT_NE(raised->Description().find(run.folder.Name("a.ini")), std::wstring::npos);
+                    EXPECT_EQ(run.files.openFiles, 0) << where;
                     EXPECT_TRUE(run.IsOld() || run.IsNew()) << where;
                     EXPECT_TRUE(run.IsOld() || fault.name == "SyncFolder" || fault.name == "StatusOf")
                         << where;

@@ -26,6 +26,8 @@ public:
     bool flushes = true;
     /// How long one has waited for others.
     std::chrono::milliseconds paused{0};
+    /// How many files are open.
+    int openFiles = 0;
 
     QuorIniFile::IniResult<QuorIniFile::IniFileStatus> StatusAt(const std::string& path) override {
         return Ask("StatusAt", [&] { return m_files.StatusAt(path); });
@@ -40,9 +42,14 @@ public:
         return Do("MayWrite", [&] { return m_files.MayWrite(path); });
     }
     QuorIniFile::IniResult<Handle> Open(const std::string& path, Opening how) override {
-        return Ask("Open", [&] { return m_files.Open(path, how); });
+        const auto file = Ask("Open", [&] { return m_files.Open(path, how); });
+        openFiles += file.error == 0 ? 1 : 0;
+        return file;
     }
-    void Close(Handle file) override { m_files.Close(file); }
+    void Close(Handle file) override {
+        m_files.Close(file);
+        --openFiles;
+    }
     QuorIniFile::IniResult<std::size_t> Read(Handle file, std::uint64_t offset, char* bytes,
                                              std::size_t size) override {
         return Ask("Read", [&] { return m_files.Read(file, offset, bytes, std::min(size, mostBytes)); });

@@ -1,63 +1,25 @@
-// A lack of memory at each allocation in turn. A program of its own, because it replaces the operators new of
-// all that is in it. That nothing leaks is seen by the sanitizer at its end.
+// A lack of memory at each allocation in turn. That nothing leaks is seen by the sanitizer at its end.
 
 #include "QuorIniFile/IniStore.h"
 
 #include "QuorIniFile/QuorError.h"
+#include "tests/support/FailingMemory.h"
 #include "tests/support/InterceptedFiles.h"
 #include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstddef>
-#include <cstdlib>
 #include <functional>
-#include <limits>
 #include <memory>
 #include <new>
 #include <string>
 #include <vector>
 
-namespace {
-
-constexpr std::size_t never = std::numeric_limits<std::size_t>::max();
-
-std::size_t allocationsLeft = never; // until one fails
-bool allFollowingFail = false;
-bool hasFailed = false;
-bool hasThrown = false; // some ask without an exception, and can do without the memory
-
-void* Allocate(std::size_t size) {
-    if (allocationsLeft != never && allocationsLeft-- == 0) {
-        hasFailed = true;
-        allocationsLeft = allFollowingFail ? 0 : never;
-        return nullptr;
-    }
-    return std::malloc(size == 0 ? 1 : size);
-}
-
-void* AllocateOrThrow(std::size_t size) {
-    if (void* const memory = Allocate(size))
-        return memory;
-    hasThrown = true;
-    throw std::bad_alloc();
-}
-
-} // namespace
-
-void* operator new(std::size_t size) { return AllocateOrThrow(size); }
-void* operator new[](std::size_t size) { return AllocateOrThrow(size); }
-void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept { return Allocate(size); }
-void* operator new[](std::size_t size, const std::nothrow_t& /*tag*/) noexcept { return Allocate(size); }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete[](void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t /*size*/) noexcept { std::free(memory); }
-void operator delete[](void* memory, std::size_t /*size*/) noexcept { std::free(memory); }
-void operator delete(void* memory, const std::nothrow_t& /*tag*/) noexcept { std::free(memory); }
-void operator delete[](void* memory, const std::nothrow_t& /*tag*/) noexcept { std::free(memory); }
-
 using namespace QuorIniFile;
 using Names = std::vector<std::string>;
+using Support::FailingMemory;
 
 namespace {
 
@@ -93,18 +55,17 @@ void FailEach(const std::function<void(Scene&)>& prepare, const std::function<vo
         for (bool failed = true; failed;) {
             Scene scene(text);
             prepare(scene);
-            hasFailed = hasThrown = false;
-            allFollowingFail = lasting;
-            allocationsLeft = failures;
+            FailingMemory memory(failures, lasting);
             bool raised = false;
             try {
                 action(scene);
             } catch (const std::bad_alloc&) {
                 raised = true;
             }
-            allocationsLeft = never;
-            failed = hasFailed;
-            ASSERT_EQ(raised, hasThrown) << "allocation " << failures;
+            memory.Restore();
+            failed = memory.HasFailed();
+            ASSERT_EQ(raised, memory.HasThrown()) << "allocation " << failures;
+            EXPECT_EQ(scene.files.openFiles, 0) << "allocation " << failures;
             failures += failed ? 1 : 0;
             if (raised) {
                 before(scene);
@@ -244,15 +205,58 @@ TEST(IniStoreMemory, LoadingAnewFailsClearlyAndKeepsWhatIsNotSaved) {
         5);
 }
 
+TEST(IniStoreMemory, SectionsAreRemovedAndRenamedOrNot) {
+    const std::string after =
+        "; mine, \xE4\r\n[A name that is longer than a short one]\r\nx=1\r\nname=\xB0\r\n";
+    const auto has = [](Scene& scene, const wchar_t* name) {
+        const auto names = scene.store->Sections();
+        return std::find(names.begin(), names.end(), name) != names.end();
+    };
+    FailEach([](Scene& scene) { scene.store->Hold(); },
+             [&](Scene& scene) {
+                 // What has been done before the lack of memory is held, and not done again.
+                 if (has(scene, L"B"))
+                     scene.store->RemoveSection(L"B");
+                 if (has(scene, L"A"))
+                     scene.store->RenameSection(L"A", L"A name that is longer than a short one");
+             },
+             FileIsAsBefore,
+             [&](Scene& scene) {
+                 scene.store->Release();
+                 EXPECT_EQ(scene.File(), after);
+             },
+             10);
+}
+
+TEST(IniStoreMemory, ASaveOfRemovedAndRenamedSectionsFailsClearly) {
+    const std::string after = "; mine, \xE4\r\n[C]\r\nx=1\r\nname=\xB0\r\n";
+    FailEach(
+        [](Scene& scene) {
+            scene.store->Hold();
+            scene.store->RemoveSection(L"B");
+            scene.store->RenameSection(L"A", L"C");
+            scene.store->Hold();
+        },
+        [](Scene& scene) {
+            scene.store->Release();
+            scene.store->Release();
+        },
+        [](Scene& scene) {
+            FileIsAsBefore(scene);
+            scene.store->Hold();
+            scene.store->Hold();
+        },
+        [&](Scene& scene) { EXPECT_EQ(scene.File(), after); }, 15);
+}
+
 TEST(IniStoreMemory, AStoreThatEndsWithoutMemoryEndsQuietly) {
     for (std::size_t left = 0; left < 60; ++left) {
         Scene scene(text);
         scene.store->Hold();
         scene.store->WriteInteger(L"x", 2, L"");
-        allFollowingFail = true;
-        allocationsLeft = left;
+        FailingMemory memory(left, true);
         scene.store.reset();
-        allocationsLeft = never;
+        memory.Restore();
         EXPECT_TRUE(scene.File() == text || scene.File() == With("x=1", "x=2"));
         EXPECT_EQ(scene.folder.Files(), Names{"a.ini"});
     }

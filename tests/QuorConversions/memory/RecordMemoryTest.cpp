@@ -1,0 +1,106 @@
+// A lack of memory at each allocation of a save and a load of a record: the file is the old one or the
+// complete new one, the object is what it was, and the next save goes well.
+
+#include "QuorConversions/core/CQuorConversion.h"
+#include "QuorConversions/platform/HeadlessPlatform.h"
+#include "QuorConversions/rtd/CQuorITS90.h"
+#include "tests/support/FailingMemory.h"
+#include "tests/support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+using namespace QuorConversions;
+using Support::FailingMemory;
+
+namespace {
+
+/// An ITS-90 conversion with a record of four sections in "host.ini".
+class Laboratory {
+public:
+    Laboratory() {
+        folder.Write("host.ini", "; mine\n");
+        conversion.SetConversionType(CONV_ITS90);
+        its90 = SettingsAs<CQuorITS90>(conversion);
+        its90->LowRange()->SetRange(ITS90_RANGE_4);
+        its90->SetRTPW(25.5);
+        Save();
+        before = File();
+        its90->SetRTPW(99.25);
+        its90->LowRange()->SetCoefficients(0, -2.5e-4);
+        conversion.SetChanged(true);
+    }
+    void Save() const {
+        std::shared_ptr<INIFile> none;
+        conversion.WriteToFile(none, name, section);
+    }
+    [[nodiscard]] bool Load() {
+        std::shared_ptr<INIFile> none;
+        return conversion.ReadFromFile(none, name, section);
+    }
+    [[nodiscard]] std::string File() const { return folder.Read("host.ini"); }
+
+    TempFolder folder;
+    std::wstring name = folder.Name("host.ini");
+    std::wstring section = L"Probe, whose name is not a short one";
+    CQuorConversion conversion{std::make_shared<HeadlessPlatform>()};
+    std::shared_ptr<CQuorITS90> its90;
+    std::string before;
+};
+
+std::string CompleteFile() {
+    const Laboratory laboratory;
+    laboratory.Save();
+    return laboratory.File();
+}
+
+} // namespace
+
+TEST(RecordMemory, ASaveWithoutMemoryLeavesTheOldFileOrTheCompleteNewOne) {
+    const std::string complete = CompleteFile();
+    for (const bool lasting : {false, true}) {
+        std::size_t at = 0;
+        std::size_t oldFiles = 0;
+        for (bool failed = true; failed; ++at) {
+            const Laboratory laboratory;
+            ASSERT_NE(laboratory.before, complete);
+            FailingMemory memory(at, lasting);
+            laboratory.Save();
+            memory.Restore();
+            failed = memory.HasFailed();
+            const std::string file = laboratory.File();
+            ASSERT_TRUE(file == complete || (failed && file == laboratory.before)) << at << ": " << file;
+            oldFiles += file == laboratory.before ? 1 : 0;
+            EXPECT_EQ(laboratory.its90->RTPW(), 99.25);
+            EXPECT_TRUE(laboratory.conversion.Changed());
+            laboratory.Save();
+            ASSERT_EQ(laboratory.File(), complete) << at;
+            EXPECT_EQ(laboratory.folder.Files(), std::vector<std::string>{"host.ini"});
+        }
+        EXPECT_GT(oldFiles, 50U);
+    }
+}
+
+TEST(RecordMemory, ALoadWithoutMemoryIsNoSuccessUnlessAllWasRead) {
+    for (const bool lasting : {false, true}) {
+        std::size_t failures = 0;
+        for (bool failed = true; failed;) {
+            Laboratory laboratory;
+            FailingMemory memory(failures, lasting);
+            const bool loaded = laboratory.Load();
+            memory.Restore();
+            failed = memory.HasFailed();
+            failures += failed ? 1 : 0;
+            EXPECT_TRUE(loaded || failed);
+            if (loaded) {
+                EXPECT_EQ(laboratory.its90->RTPW(), 25.5) << failures;
+                EXPECT_EQ(laboratory.its90->LowRange()->Coefficients(0), 0.0) << failures;
+            }
+            EXPECT_EQ(laboratory.File(), laboratory.before);
+            EXPECT_TRUE(laboratory.Load()) << failures;
+            EXPECT_EQ(SettingsAs<CQuorITS90>(laboratory.conversion)->RTPW(), 25.5);
+        }
+        EXPECT_GT(failures, 10U);
+    }
+}
