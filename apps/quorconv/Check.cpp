@@ -33,6 +33,7 @@ public:
             Report(1, *section, L"", L"the section is missing");
         for (const std::size_t line : m_file.LostRecords())
             Report(line, L"", L"", L"the header has no \"]\"; nobody can read the record below it");
+        CheckRepetitions();
         const auto store = StoreOf(m_file.Path());
         for (const Record& record : m_file.Records())
             CheckRecord(Probe(store, m_file.Path(), record), record);
@@ -45,6 +46,25 @@ private:
     void Report(std::size_t line, const std::wstring& section, const std::wstring& key,
                 const std::wstring& what) {
         m_problems.emplace(line, L"[" + section + L"] " + (key.empty() ? L"" : key + L": ") + what);
+    }
+
+    /// Keys and sections that stand twice, the host's own too: who reads them sees the first.
+    void CheckRepetitions() {
+        const std::wstring isRead = L"the one in line ";
+        for (const auto& section : m_file.Sections()) {
+            if (m_file.FindSection(section.name) != &section)
+                continue;
+            for (const std::size_t line : section.repetitions)
+                Report(line, section.name, L"",
+                       L"the section stands twice; " + isRead + std::to_wstring(section.line) + L" is read");
+            for (const auto& key : section.keys) {
+                const std::wstring name = QuorIniFile::DecodeBytes(key.name);
+                const auto* const read = FindKey(section, name);
+                if (read != &key)
+                    Report(key.line, section.name, name,
+                           L"the key stands twice; " + isRead + std::to_wstring(read->line) + L" is read");
+            }
+        }
     }
 
     void CheckRecord(Probe probe, const Record& record) {
@@ -115,7 +135,7 @@ private:
         }
     }
 
-    /// Keys that no record of this type has, keys and sections that stand twice, lines that are no keys.
+    /// Keys that no record of this type has, and lines that are no keys.
     void CheckSections(const Probe& probe, const Record& record, bool aborted) {
         std::map<std::wstring, std::set<std::wstring>> known;
         known[Folded(record.section)];
@@ -129,19 +149,12 @@ private:
     }
 
     void CheckSection(const ProbeFile::Section& section, const std::set<std::wstring>& known, bool aborted) {
-        const std::wstring isRead = L"the one in line ";
-        for (const std::size_t line : section.repetitions)
-            Report(line, section.name, L"",
-                   L"the section stands twice; " + isRead + std::to_wstring(section.line) + L" is read");
         for (const std::size_t line : section.malformedLines)
             Report(line, section.name, L"", L"the line is no key=value");
         for (const auto& key : section.keys) {
             const std::wstring name = QuorIniFile::DecodeBytes(key.name);
-            const auto* const read = FindKey(section, name);
-            if (read != &key)
-                Report(key.line, section.name, name,
-                       L"the key stands twice; " + isRead + std::to_wstring(read->line) + L" is read");
-            else if (!aborted && Folded(name) != L"version" && !known.contains(Folded(name)))
+            if (!aborted && Folded(name) != L"version" && !known.contains(Folded(name)) &&
+                FindKey(section, name) == &key)
                 Report(key.line, section.name, name,
                        L"unknown key: a record of this type and size does not hold it");
         }

@@ -44,6 +44,8 @@ public:
     ~ProbeFile() = default;
 
     [[nodiscard]] const std::wstring& Path() const { return m_path; }
+    /// All sections in the order of the file, those included that nobody can read.
+    [[nodiscard]] const std::vector<Section>& Sections() const { return m_sections; }
     [[nodiscard]] const std::vector<Record>& Records() const { return m_records; }
     /// The lines of headers without a ']' above what would be a record: nobody can read it.
     [[nodiscard]] const std::vector<std::size_t>& LostRecords() const { return m_lostRecords; }
