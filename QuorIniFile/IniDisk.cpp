@@ -36,15 +36,13 @@ struct SystemError {
 };
 
 constexpr SystemError systemErrors[] = {
-    {EACCES, ERR_PERMISSION_DENIED, true},
-    {EPERM, ERR_PERMISSION_DENIED, false},
-    {EROFS, ERR_PERMISSION_DENIED, false},
-    {ENOSPC, ERR_DISK_FULL, true},
+    {EACCES, ERR_PERMISSION_DENIED, true}, {EPERM, ERR_PERMISSION_DENIED, false},
+    {EROFS, ERR_PERMISSION_DENIED, false}, {ENOSPC, ERR_DISK_FULL, true},
+#ifdef EDQUOT // not every system has quotas
     {EDQUOT, ERR_DISK_FULL, false},
-    {EFBIG, ERR_DISK_FULL, false},
-    {EIO, ERR_DEVICE_IO, true},
-    {ENOTDIR, ERR_PATH_NOT_FOUND, false},
-    {ENAMETOOLONG, ERR_BAD_FILE_NAME, false},
+#endif
+    {EFBIG, ERR_DISK_FULL, false},         {EIO, ERR_DEVICE_IO, true},
+    {ENOTDIR, ERR_PATH_NOT_FOUND, false},  {ENAMETOOLONG, ERR_BAD_FILE_NAME, false},
 };
 
 SystemError Known(int code) {

@@ -38,6 +38,7 @@ TEST(IniStoreLayout, OnlyTheValueOfAWrittenLineChanges) {
                                "\t[a]   ; the probe\r\n"
                                "  r0\t =  100.02   ; ohms\r\n"
                                "nonsense\r\n"
+                               "lone=one\rtwo=2\r\r\n"
                                "Name = \"old\"\t\r\n"
                                "R0=again\r\n"
                                "\r\n"

@@ -1,12 +1,14 @@
 // The format that we share with the other readers and writers of INI files: ordinary values go both ways.
 
 #include "tests/interop/Peer.h"
+#include "tests/support/CommaLocale.h"
 #include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <charconv>
+#include <filesystem>
 
 using namespace Interop;
 
@@ -102,6 +104,21 @@ TEST_P(Interoperation, WhatTheyWriteWeRead) {
         GTEST_SKIP() << GetParam().name << " cannot write";
     const Sections& sections = GetParam().keepsBlanks ? usual : withoutBlanks;
     Write(GetParam(), sections);
+    ExpectAll(Peers().front(), sections);
+}
+
+TEST_P(Interoperation, WhatWeWriteUnderACommaLocaleTheyReadAndTheOtherWayRound) {
+    {
+        const CommaLocale comma;
+        Write(Peers().front(), usual);
+    }
+    ExpectAll(GetParam(), usual);
+    if (!GetParam().writes)
+        return; // it can only read
+    std::filesystem::remove(File());
+    const Sections& sections = GetParam().keepsBlanks ? usual : withoutBlanks;
+    Write(GetParam(), sections);
+    const CommaLocale comma;
     ExpectAll(Peers().front(), sections);
 }
 

@@ -85,9 +85,15 @@ std::string Comments(const std::string& before, const std::string& after) {
         all += before.find(comment) != std::string::npos ? 1 : 0;
         kept += after.find(comment) != std::string::npos ? 1 : 0;
     }
-    const bool respaced = Fate(after, "Name = Rig 4 ; the old one") == "changed";
-    return std::to_string(kept) + " of " + std::to_string(all) +
-           (respaced && kept == all ? ", respaced" : "");
+    return std::to_string(kept) + " of " + std::to_string(all);
+}
+
+/// Lines that nobody has edited, one with blanks around its '=' and one without; what is damaged besides is
+/// told by lines of its own.
+std::string Spaces(const std::string& after) {
+    const bool both = after.find("Name = Rig 4") != std::string::npos &&
+                      after.find("Alpha=0.00385055") != std::string::npos;
+    return both ? "kept" : "changed";
 }
 
 void Show(const PeerRow& row) {
@@ -129,6 +135,7 @@ void Show(const PeerRow& row) {
         const std::string after = folder.Read(name);
         line("error of the edit", error);
         line("comments kept", Comments(before, after));
+        line("blanks around \"=\"", Spaces(after));
         line("Folder=C:\\Data\\Runs", Fate(after, "C:\\Data\\Runs"));
         line("Columns=Channel;Probe;Temperature", Fate(after, "Channel;Probe;Temperature"));
         line("CRLF", after.find("\r\n") != std::string::npos ? "kept" : "turned into LF");
