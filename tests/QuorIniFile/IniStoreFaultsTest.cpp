@@ -282,3 +282,36 @@ TEST(IniStoreFaults, AFileThatIsRewrittenInTheTickOfItsLastChangeIsSeenToBeAnoth
         EXPECT_EQ(disk.Now(), (SimulatedDisk::Files{{"/a.ini", "[A]\nx=2\ny=5\n"}})) << "call " << at;
     }
 }
+
+TEST(IniStoreFaults, AFileThatIsNeverAtRestIsReadAsItIsAndNotSavedInTheEnd) {
+    SimulatedDisk disk(SimulatedDisk::Files{{"/a.ini", "[A]\nx=1\n"}});
+    InterceptedFiles files(disk);
+    std::string theirs = "[A]\nx=1\n";
+    int saves = 0;
+    files.onCall = [&](std::string_view call) {
+        if (call == "StatusOf" || call == "Sync")
+            disk.Rewrite("/a.ini", theirs += "; more\n");
+        saves += call == "Sync" ? 1 : 0;
+        return 0;
+    };
+    IniStore store(files);
+    store.SetFileName(L"/a.ini");
+    store.SetSection(L"A");
+    std::int16_t value = 0;
+    EXPECT_TRUE(store.ReadInteger(L"x", value));
+    EXPECT_EQ(value, 1);
+    EXPECT_LT(disk.waited, std::chrono::milliseconds(20));
+    try {
+        store.WriteInteger(L"x", 2, L"");
+        ADD_FAILURE() << "it was saved";
+    } catch (const QuorError& error) {
+        EXPECT_EQ(error.Number(), 70);
+        EXPECT_EQ(error.Description(), L"Permission denied: /a.ini: Another program keeps writing it");
+    }
+    EXPECT_EQ(saves, 21) << "once, and twenty times again";
+    EXPECT_EQ(disk.Now(), (SimulatedDisk::Files{{"/a.ini", theirs}}));
+
+    files.onCall = [](std::string_view) { return 0; };
+    store.WriteInteger(L"x", 2, L"");
+    EXPECT_EQ(disk.Now().at("/a.ini"), "[A]\nx=2\n" + theirs.substr(8));
+}
