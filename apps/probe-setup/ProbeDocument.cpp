@@ -7,6 +7,7 @@
 #include "QuorIniFile/IniFormat.h"
 #include "QuorIniFile/Utf8.h"
 #include "apps/records/IniImage.h"
+#include "apps/records/Names.h"
 #include "apps/records/ProbeFile.h"
 #include "apps/records/ReadLog.h"
 #include "apps/records/Types.h"
@@ -32,16 +33,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::wstring_view settingsSuffix = L" - Settings";
-constexpr std::wstring_view nestedMark = L" - ";
-
-wchar_t Fold(wchar_t c) { return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c; }
-
-bool SameName(std::wstring_view a, std::wstring_view b) {
-    return a.size() == b.size() &&
-           std::equal(a.begin(), a.end(), b.begin(), [](wchar_t x, wchar_t y) { return Fold(x) == Fold(y); });
-}
-
 /// Gives a file these bytes, whatever stands in it.
 void ReplaceBytes(const std::wstring& path, std::string_view bytes) {
     constexpr int mostTries = 20;
@@ -50,15 +41,6 @@ void ReplaceBytes(const std::wstring& path, std::string_view bytes) {
             throw QuorIniFile::FileError(QuorIniFile::ERR_PERMISSION_DENIED, path,
                                          L"Another program keeps writing it");
     }
-}
-
-/// Whether the settings of a probe stand in `section`, or below it: "P - Settings", "P - Settings - Low
-/// Range".
-bool HoldsSettingsOf(std::wstring_view section, std::wstring_view probe) {
-    const std::size_t length = probe.size() + settingsSuffix.size();
-    return section.size() >= length && SameName(section.substr(0, probe.size()), probe) &&
-           SameName(section.substr(probe.size(), settingsSuffix.size()), settingsSuffix) &&
-           (section.size() == length || section.substr(length).starts_with(nestedMark));
 }
 
 /// Calls `visit` with each part of `section` that is the name of a probe, if `section` holds its settings.
@@ -626,8 +608,7 @@ void ProbeDocument::RequireFreeNames(const std::unordered_set<std::wstring>& the
         if (!entry.isNew && !entry.IsRenamed())
             continue;
         const std::wstring name = Folded(entry.name);
-        if (!ours.contains(name) &&
-            (theirs.contains(name) || theirs.contains(name + Folded(std::wstring(settingsSuffix)))))
+        if (!ours.contains(name) && (theirs.contains(name) || theirs.contains(Folded(SettingsSection(name)))))
             throw DocumentError{Failure::NameIsTaken, m_path, {entry.name}};
     }
 }

@@ -6,6 +6,7 @@
 #include "QuorIniFile/Utf8.h"
 #include "apps/quorconv/Probe.h"
 #include "apps/records/IniImage.h"
+#include "apps/records/Names.h"
 #include "apps/records/ProbeFile.h"
 
 #include <algorithm>

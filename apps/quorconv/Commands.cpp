@@ -7,6 +7,7 @@
 #include "QuorIniFile/Utf8.h"
 #include "apps/quorconv/Probe.h"
 #include "apps/records/IniImage.h"
+#include "apps/records/Names.h"
 #include "apps/records/ProbeFile.h"
 #include "apps/records/Types.h"
 #include "toolkits/scripted/Script.h"
@@ -58,9 +59,8 @@ bool IsCompletedBy(const Probe& probe, const std::vector<Assignment>& assignment
            std::all_of(messages.begin(), messages.end(), IsVersionMessage) &&
            std::all_of(reads.begin(), reads.end(), [&](const ReadLog::Read& read) {
                return read.found ||
-                      std::any_of(assignments.begin(), assignments.end(), [&](const Assignment& a) {
-                          return Folded(a.key) == Folded(probe.PathOf(read));
-                      });
+                      std::any_of(assignments.begin(), assignments.end(),
+                                  [&](const Assignment& a) { return SameName(a.key, probe.PathOf(read)); });
            });
 }
 
@@ -94,7 +94,7 @@ Target FindTarget(const std::wstring& path, const std::wstring& section, const T
     }
     // Types share sections, not extensions: a PT100 would fit into a "cvd" file, and then be no valid one.
     const auto standAlone = StandAloneSection(path);
-    const bool isStandAlone = standAlone && Folded(*standAlone) == Folded(section);
+    const bool isStandAlone = standAlone && SameName(*standAlone, section);
     if (isStandAlone && Folded(GetExtensionPart(path)) != type.extension)
         throw Problem{Place(path, section) + L": in a file of this kind the section is not for " +
                       type.enumerator};

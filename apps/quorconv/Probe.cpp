@@ -3,6 +3,7 @@
 #include "QuorConversions/core/modPaths.h"
 #include "QuorConversions/core/modStrings.h"
 #include "QuorIniFile/IniStore.h"
+#include "apps/records/Names.h"
 
 #include <algorithm>
 
@@ -78,14 +79,14 @@ std::wstring Probe::Name() const {
 }
 
 std::wstring Probe::SettingsSection() const {
-    return m_record.standAlone ? m_record.section : m_record.section + L" - Settings";
+    return m_record.standAlone ? m_record.section : ProbeRecords::SettingsSection(m_record.section);
 }
 
 std::wstring Probe::PathOf(const ReadLog::Read& read) const {
     const std::wstring root = SettingsSection();
     if (read.section == root)
         return read.key;
-    const std::wstring nested = root + L" - ";
+    const std::wstring nested = root + std::wstring(nestedMark);
     return read.section.starts_with(nested) ? read.section.substr(nested.size()) + L"/" + read.key
                                             : std::wstring{};
 }

@@ -2,7 +2,7 @@
 
 #include "QuorIniFile/IniValue.h"
 #include "QuorIniFile/Utf8.h"
-#include "apps/records/Types.h"
+#include "apps/records/Names.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,8 +12,6 @@ namespace ProbeRecords {
 using namespace QuorIniFile;
 
 namespace {
-
-constexpr std::wstring_view nestedSection = L" - ";
 
 std::wstring Wide(const std::string& ascii) { return {ascii.begin(), ascii.end()}; }
 
@@ -90,7 +88,7 @@ void IniImage::SetFileName(std::wstring_view /*fileName*/) {}
 
 void IniImage::SetSection(std::wstring_view section) {
     // The record itself stands in the section "", a nested one in " - High Range" or the like.
-    m_prefix = section.empty() ? L"" : std::wstring(section.substr(nestedSection.size())) + L"/";
+    m_prefix = section.empty() ? L"" : std::wstring(section.substr(nestedMark.size())) + L"/";
 }
 
 void IniImage::Write(std::wstring_view key, Value value) {

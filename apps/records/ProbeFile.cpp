@@ -4,6 +4,7 @@
 #include "QuorIniFile/IniDisk.h"
 #include "QuorIniFile/IniError.h"
 #include "QuorIniFile/Utf8.h"
+#include "apps/records/Names.h"
 #include "apps/records/Types.h"
 
 #include <algorithm>
@@ -13,10 +14,6 @@ namespace ProbeRecords {
 using namespace QuorIniFile;
 
 namespace {
-
-bool SameText(std::wstring_view a, std::wstring_view b) {
-    return Folded(std::wstring(a)) == Folded(std::wstring(b));
-}
 
 std::string BytesOf(const std::wstring& path) {
     auto file = ReadBytes(path);
@@ -82,7 +79,7 @@ void ProbeFile::FindRecords() {
             continue; // nobody reads a second section of that name
         if (hasType)
             m_records.push_back({section.name, section.line, false});
-        else if (standAlone && SameText(section.name, *standAlone))
+        else if (standAlone && SameName(section.name, *standAlone))
             m_records.push_back({section.name, section.line, true});
     }
 }
@@ -94,14 +91,14 @@ const ProbeFile::Section* ProbeFile::FindSection(std::wstring_view name) const {
 
 std::optional<Record> ProbeFile::FindRecord(std::wstring_view section) const {
     const auto record = std::find_if(m_records.begin(), m_records.end(),
-                                     [&](const Record& r) { return SameText(r.section, section); });
+                                     [&](const Record& r) { return SameName(r.section, section); });
     return record == m_records.end() ? std::nullopt : std::optional(*record);
 }
 
 const ProbeFile::Key* ProbeFile::FindKey(const Section& section, std::wstring_view name) {
     const std::string wanted = ToUtf8(name);
     const auto key = std::find_if(section.keys.begin(), section.keys.end(),
-                                  [&](const Key& k) { return SameName(k.name, wanted); });
+                                  [&](const Key& k) { return QuorIniFile::SameName(k.name, wanted); });
     return key == section.keys.end() ? nullptr : &*key;
 }
 

@@ -2,6 +2,7 @@
 
 #include "QuorIniFile/IniValue.h"
 #include "QuorIniFile/Utf8.h"
+#include "apps/records/Names.h"
 
 #include <algorithm>
 
@@ -45,13 +46,6 @@ const TypeInfo* ParseType(const std::wstring& text) {
         return Folded(t.enumerator) == wanted || (!t.extension.empty() && t.extension == wanted);
     });
     return type == Types().end() ? nullptr : &*type;
-}
-
-std::wstring Folded(std::wstring text) {
-    for (wchar_t& character : text)
-        if (character >= L'A' && character <= L'Z')
-            character = static_cast<wchar_t>(character - L'A' + L'a');
-    return text;
 }
 
 } // namespace ProbeRecords

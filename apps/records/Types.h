@@ -25,7 +25,4 @@ struct TypeInfo {
 /// for none. An extension that several types share means the first of them.
 [[nodiscard]] const TypeInfo* ParseType(const std::wstring& text);
 
-/// `text` with ASCII capitals made small.
-[[nodiscard]] std::wstring Folded(std::wstring text);
-
 } // namespace ProbeRecords
