@@ -53,18 +53,32 @@ void ForEachOwner(std::wstring_view section, const Visit& visit) {
     }
 }
 
+bool CanBeWritten(std::wstring_view name) {
+    const auto spelled = QuorIniFile::NameToFind(name);
+    return spelled && QuorIniFile::IsSectionName(*spelled);
+}
+
+/// A name for a probe that is called as no section can be: a file may have any name.
+std::wstring WithoutWhatCannotBeWritten(std::wstring name) {
+    constexpr std::wstring_view blanks = L" \t";
+    std::replace_if(
+        name.begin(), name.end(), [](wchar_t c) { return c < L' ' || c == L'[' || c == L']'; }, L' ');
+    name.erase(0, name.find_first_not_of(blanks));
+    name.erase(name.find_last_not_of(blanks) + 1);
+    return !name.empty() && CanBeWritten(name) ? name : L"Probe";
+}
+
 /// Types of one code whose names depend on their values.
 bool IsNamedByItsValues(std::int32_t type) { return type == CONV_TCTYPEX || type == CONV_TCTYPEPOLY; }
 
 bool IsReadOnlyFile(const std::wstring& path) {
-    const fs::path file(ToUtf8(path));
     std::error_code error;
+    const fs::path file = fs::canonical(ToUtf8(path), error); // a save leaves a symbolic link where it is
     const fs::perms mode = fs::status(file, error).permissions();
     constexpr fs::perms anyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
     // A save puts a new file into the folder.
-    const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
     return error || (mode & anyWrite) == fs::perms::none || ::access(file.c_str(), W_OK) != 0 ||
-           ::access(folder.c_str(), W_OK) != 0;
+           ::access(file.parent_path().c_str(), W_OK) != 0;
 }
 
 /// A file in a folder of its own, which vanishes with it.
@@ -138,7 +152,6 @@ ProbeDocument::ProbeDocument(std::shared_ptr<Platform> platform,
 // The list and the file
 
 void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
-    const QuorIniFile::IniStamp stamp = QuorIniFile::StampOf(path);
     const std::vector<Record> records = ProbeFile(path).Records();
     auto store = std::make_shared<IniStore>();
     store->SetFileName(path);
@@ -192,7 +205,6 @@ void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
     m_path = path;
     m_isReadOnly = IsReadOnlyFile(path);
     m_store = std::move(store);
-    m_stamp = stamp;
     m_entries = std::move(entries);
     m_foreign = std::move(foreign);
 }
@@ -201,7 +213,6 @@ void ProbeDocument::Close() {
     m_path.clear();
     m_isReadOnly = false;
     m_store = nullptr;
-    m_stamp = {};
     m_entries.clear();
     m_foreign.clear();
     m_done.clear();
@@ -224,8 +235,7 @@ std::optional<std::size_t> ProbeDocument::Find(std::wstring_view name) const {
 NameProblem ProbeDocument::CheckName(std::wstring_view name, std::optional<std::size_t> except) const {
     if (name.empty())
         return NameProblem::Empty;
-    const auto spelled = QuorIniFile::NameToFind(name);
-    if (!spelled || !QuorIniFile::IsSectionName(*spelled))
+    if (!CanBeWritten(name))
         return NameProblem::CannotBeWritten;
     for (std::size_t i = 0; i < m_entries.size(); ++i) {
         if (i == except)
@@ -248,9 +258,15 @@ NameProblem ProbeDocument::CheckName(std::wstring_view name, std::optional<std::
 }
 
 std::wstring ProbeDocument::FreeName(const std::wstring& wish) const {
-    std::wstring name = wish;
-    for (int number = 2; CheckName(name) != NameProblem::None; ++number)
-        name = wish + L" (" + std::to_wstring(number) + L")";
+    std::wstring stem = !wish.empty() && CanBeWritten(wish) ? wish : WithoutWhatCannotBeWritten(wish);
+    std::wstring name = stem;
+    NameProblem problem = CheckName(name);
+    for (int number = 2; problem != NameProblem::None; problem = CheckName(name), ++number) {
+        // No number behind the name of a section of settings makes it another one's.
+        if (problem == NameProblem::IsSettingsOfProbe)
+            stem.resize(Folded(stem).rfind(Folded(std::wstring(settingsMark))));
+        name = stem + L" (" + std::to_wstring(number) + L")";
+    }
     return name;
 }
 
@@ -532,19 +548,17 @@ bool ProbeDocument::Changed() const {
 }
 
 void ProbeDocument::Save(OthersChanges others) {
-    const QuorIniFile::IniStamp stamp = QuorIniFile::StampOf(m_path);
-    if (m_stamp.exists && !stamp.exists) // a new one would hold nothing but what has changed
-        throw QuorIniFile::FileError(QuorIniFile::ERR_FILE_NOT_FOUND, m_path);
-    const bool othersWrote = stamp != m_stamp;
     // What was read stays in m_store, whatever becomes of this save.
     const auto store = std::make_shared<IniStore>();
     store->SetFileName(m_path);
+    // Takes the text in. A file that is gone is not made anew: it would hold nothing but what has changed.
+    static_cast<void>(store->Sections());
+    const bool othersWrote = m_store->FileChanged();
     if (othersWrote)
         MeetOthers(store, others);
     Apply(store, Extent::Changes);
     Settle();
     m_store = store;
-    m_stamp = QuorIniFile::StampOf(m_path);
     if (!othersWrote)
         return;
     try {
@@ -659,37 +673,52 @@ void ProbeDocument::MoveSections(IniStore& store) const {
 }
 
 ProbeDocument::Moves ProbeDocument::MovesIn(IniStore& store) const {
-    std::unordered_map<std::wstring, const Entry*> moved; // by the section in which they stand
-    std::unordered_set<const Entry*> removed;
+    const auto moves = [](const Entry& entry) { return entry.IsRenamed() || entry.content.replacesRecord; };
+    const std::vector<const Entry*> removed = RemovedEntries();
+    if (removed.empty() && std::none_of(m_entries.begin(), m_entries.end(), moves))
+        return {};
+    struct Owner {
+        const Entry* entry;
+        bool isRemoved;
+    };
+    std::unordered_map<std::wstring, Owner> standing; // by the section
     for (const Entry& entry : m_entries) {
-        if (entry.IsRenamed() || entry.content.replacesRecord)
-            moved.emplace(Folded(entry.Section()), &entry);
+        if (!entry.isNew)
+            standing.emplace(Folded(entry.Section()), Owner{&entry, false});
     }
-    for (const Entry* const entry : RemovedEntries()) {
-        moved.emplace(Folded(entry->Section()), entry);
-        removed.insert(entry);
-    }
-    Moves moves;
-    if (moved.empty())
-        return moves;
+    for (const Entry* const entry : removed)
+        standing.emplace(Folded(entry->Section()), Owner{entry, true});
+
+    Moves result;
     for (const std::wstring& section : store.Sections()) {
+        const Entry* moving = nullptr;
+        std::vector<const Entry*> staying; // those whose section it is afterwards too
         const auto move = [&](std::wstring_view owner) {
-            const auto found = moved.find(Folded(std::wstring(owner)));
-            if (found == moved.end())
+            const auto found = standing.find(Folded(std::wstring(owner)));
+            if (found == standing.end())
                 return;
-            const Entry& entry = *found->second;
-            const std::wstring name = entry.name + section.substr(owner.size());
-            if (removed.contains(&entry))
-                moves.removed.push_back(section);
-            else if (entry.IsRenamed())
-                moves.renamed.emplace_back(section, name);
-            if (entry.content.replacesRecord && !removed.contains(&entry) && section.size() > owner.size())
-                moves.outdated.push_back(name);
+            const auto [entry, isRemoved] = found->second;
+            const std::wstring name = entry->name + section.substr(owner.size());
+            const bool isOutdated = entry->content.replacesRecord && section.size() > owner.size();
+            if (isRemoved)
+                result.removed.push_back(section);
+            else if (entry->IsRenamed())
+                result.renamed.emplace_back(section, name);
+            if (isOutdated && !isRemoved)
+                result.outdated.push_back(name);
+            if (isRemoved || entry->IsRenamed() || isOutdated)
+                moving = entry;
+            if (!isRemoved)
+                staying.push_back(entry);
         };
         move(section);
         ForEachOwner(section, move);
+        for (const Entry* const other : staying) {
+            if (moving && other != moving)
+                throw DocumentError{Failure::SharedSection, m_path, {section, moving->name, other->name}};
+        }
     }
-    return moves;
+    return result;
 }
 
 void ProbeDocument::Write(const std::shared_ptr<IniStore>& store, const Entry& entry) {
@@ -725,7 +754,7 @@ void ProbeDocument::SaveCopyAs(const std::wstring& path, OthersChanges others) {
     const auto store = std::make_shared<IniStore>();
     store->SetFileName(work.Path());
     try {
-        if (original && QuorIniFile::StampOf(m_path) != m_stamp)
+        if (original && m_store->FileChanged())
             MeetOthers(store, others);
         // Where somebody has removed the file, the probes are what can be saved of it.
         Apply(store, original ? Extent::Changes : Extent::AllProbes);
@@ -742,7 +771,6 @@ void ProbeDocument::SaveCopyAs(const std::wstring& path, OthersChanges others) {
     m_path = path;
     m_store = std::make_shared<IniStore>();
     m_store->SetFileName(path);
-    m_stamp = QuorIniFile::StampOf(path);
     static_cast<void>(m_store->Sections()); // takes the text in
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "QuorConversions/core/CQuorConversion.h"
-#include "QuorIniFile/IniDisk.h"
 #include "QuorIniFile/IniStore.h"
 #include "QuorRegistryII/Registry.h"
 #include "apps/probe-setup/QuietPlatform.h"
@@ -54,6 +53,8 @@ enum class Failure {
                       ///< a save would write or remove
     NameIsTaken,      ///< details: a new name that another program has used in the file meanwhile
     CannotWrite,      ///< details: the section, and the library's messages
+    SharedSection,    ///< details: a section that would go or move, the probe that it would follow, and
+                      ///< another one, which has or keeps its settings in it too
 };
 struct DocumentError {
     Failure failure;
@@ -112,7 +113,8 @@ public:
 
     /// Whether a new probe can have `name`, or the one in the place `except`.
     [[nodiscard]] NameProblem CheckName(std::wstring_view name, std::optional<std::size_t> except = {}) const;
-    /// A name that a new probe can have: `wish`, or `wish` with a number behind it.
+    /// A name that a new probe can have: `wish`, or `wish` with a number behind it, without what no section
+    /// of a probe's own can have in its name.
     [[nodiscard]] std::wstring FreeName(const std::wstring& wish) const;
 
     // What changes the list. A name must have no problem; the document must not be read-only.
@@ -159,9 +161,10 @@ public:
     /// Whether a save would write anything.
     [[nodiscard]] bool Changed() const;
     /// Saves into the file, all or nothing. Raises QuorError or DocumentError, and the document stays as it
-    /// was, when the file cannot be written, when another program has used one of the new names in it, and
-    /// when it has changed a probe that is to be written or removed. Probes that another program has added
-    /// are in the list afterwards. The document must have a file.
+    /// was, when the file cannot be written, when a section would go that belongs to another probe too, when
+    /// another program has used one of the new names in it, and when it has changed a probe that is to be
+    /// written or removed. Probes that another program has added are in the list afterwards. The document
+    /// must have a file.
     void Save(OthersChanges others = OthersChanges::Refuse);
     /// Saves the document, with all of the file around the probes, under another name, in place of what is
     /// there; without its surroundings, when its own file is gone. The document stays with its own file, if
@@ -243,7 +246,6 @@ private:
     std::wstring m_path;
     bool m_isReadOnly = false;
     std::shared_ptr<QuorIniFile::IniStore> m_store; // the text that was last read or saved; never written to
-    QuorIniFile::IniStamp m_stamp;                  // of the file when it was last read or saved
     std::vector<Entry> m_entries;
     std::vector<std::wstring> m_foreign; // the names of the file's other sections
     std::vector<std::wstring> m_names;   // of conversions

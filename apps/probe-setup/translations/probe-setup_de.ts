@@ -239,6 +239,10 @@
         <translation>%1: Der Fühler „%2“ kann nicht geschrieben werden:</translation>
     </message>
     <message>
+        <source>%1: the section [%2] belongs to &quot;%3&quot; and to &quot;%4&quot; at once, so it can neither go nor get another name with one of them alone. Take that change back.</source>
+        <translation>%1: Der Abschnitt [%2] gehört zu „%3“ und zu „%4“ zugleich; er kann also nicht mit einem von beiden allein verschwinden oder einen anderen Namen bekommen. Nehmen Sie diese Änderung zurück.</translation>
+    </message>
+    <message>
         <source>Probe Setup</source>
         <translation>Probe Setup</translation>
     </message>

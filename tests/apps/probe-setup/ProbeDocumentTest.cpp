@@ -629,6 +629,84 @@ TEST_F(ProbeDocumentTest, ARenamedProbeThatAnotherProgramHasRemovedDoesNotVanish
     EXPECT_NE(File().find("Coefficients1=0.0039083\n"), std::string::npos) << File();
 }
 
+TEST_F(ProbeDocumentTest, AFreeNameIsFoundAlsoForAWishThatNoNumberMakesFree) {
+    Open();
+    for (const wchar_t* const wish : {L"", L"  ", L"a\nb", L"[x];y", L"Probe 2 - Settings",
+                                      L"Probe 2 - Settings - X", L"probe 1 - SETTINGS - a - b"}) {
+        const std::wstring name = document.FreeName(wish);
+        EXPECT_EQ(document.CheckName(name), NameProblem::None) << testing::PrintToString(name);
+    }
+    EXPECT_EQ(document.FreeName(L"Probe 2 - Settings - X"), L"Probe 2 (2)");
+    EXPECT_EQ(document.FreeName(L"a\nb"), L"a b");
+}
+
+TEST_F(ProbeDocumentTest, ASectionOfTwoProbesIsNotTakenFromOneOfThem) {
+    const std::string text =
+        Replaced(host, "[Probe 1 - Settings]\n", "[Probe 1 - Settings]\nConversionType=12\n");
+    const auto expectRefused = [&](const auto& change, const Texts& details) {
+        Open(text);
+        ASSERT_EQ(Names(), (Texts{L"Probe 1", L"Probe 1 - Settings", L"Probe 2"}));
+        change();
+        const DocumentError error = ErrorOf([&] { document.Save(); });
+        EXPECT_EQ(error.failure, Failure::SharedSection);
+        EXPECT_EQ(error.file, folder.Name("host.ini"));
+        EXPECT_EQ(error.details, details);
+        EXPECT_EQ(File(), text);
+    };
+    const Texts ofTheFirst{L"Probe 1 - Settings", L"Probe 1", L"Probe 1 - Settings"};
+    const Texts ofTheSecond{L"Probe 1 - Settings", L"Probe 1 - Settings", L"Probe 1"};
+    expectRefused([&] { document.Remove({0}); }, ofTheFirst);
+    expectRefused([&] { document.Remove({1}); }, ofTheSecond);
+    expectRefused([&] { document.Rename(0, L"Other"); },
+                  {L"Probe 1 - Settings", L"Other", L"Probe 1 - Settings"});
+    expectRefused([&] { document.SetType(0, CONV_OHMS); }, ofTheFirst);
+
+    Open(text);
+    EXPECT_TRUE(Edit(0, TypeR0)) << "values can be changed all the same";
+    document.SetType(1, CONV_RATIO);
+    document.Save();
+    EXPECT_EQ(File(),
+              Replaced(Replaced(text, "=100.0\n", "=100.0123\n"), "ConversionType=12", "ConversionType=15"));
+    document.Remove({0, 1});
+    document.Save();
+    EXPECT_EQ(Names(), Texts{L"Probe 2"});
+    EXPECT_EQ(File().find("[Probe 1"), std::string::npos) << File();
+}
+
+TEST_F(ProbeDocumentTest, AChangeThatLeavesNoTraceInTheTimeOfTheFileIsSeenAllTheSame) {
+    for (int tries = 0; tries < 20; ++tries) { // some of them fall into one tick of the file system's clock
+        Open(host);
+        document.SetType(1, CONV_VOLTS);
+        const std::string theirs = Replaced(host, "ConversionType=10", "ConversionType=12");
+        folder.Write("host.ini", theirs);
+        EXPECT_EQ(ErrorOf([&] { document.Save(); }).failure, Failure::ChangedByOthers);
+        ASSERT_EQ(File(), theirs);
+    }
+}
+
+TEST_F(ProbeDocumentTest, ANameInOtherLettersOfTheSameCaseIsARename) {
+    Open();
+    document.Rename(0, L"PROBE 1");
+    EXPECT_TRUE(document.IsChanged(0));
+    document.Save();
+    EXPECT_EQ(File(), Replaced(Replaced(host, "[Probe 1]", "[PROBE 1]"), "[Probe 1 -", "[PROBE 1 -"));
+    document.Rename(0, L"probe 1");
+    document.Undo();
+    EXPECT_FALSE(document.IsChanged(0));
+    EXPECT_EQ(document.Name(0), L"PROBE 1");
+}
+
+TEST_F(ProbeDocumentTest, AProbeWhoseSettingsAreMissingIsToldAndLeftAlone) {
+    const std::string text = host.substr(0, host.find("[Probe 1 - Settings]"));
+    Open(text);
+    EXPECT_EQ(document.CheckRecord(0).keys.size(), 6U);
+    EXPECT_EQ(document.CheckRecord(0).keys.front(), L"[Probe 1 - Settings] NumCoefficients");
+    EXPECT_EQ(ErrorOf([&] { document.Duplicate(0); }).failure, Failure::UnreadableRecord);
+    document.Rename(0, L"Probe A");
+    document.Save();
+    EXPECT_EQ(File(), Replaced(text, "[Probe 1]", "[Probe A]"));
+}
+
 TEST_F(ProbeDocumentTest, AReadOnlyFileOpensReadOnly) {
     ASSERT_EQ(::chmod(folder.Path("host.ini").c_str(), 0444), 0);
     Open();
