@@ -58,6 +58,22 @@ constexpr qsizetype mostRecent = 8;
 /// An inline editor gives its probe a name after it has gone.
 constexpr int afterTheEditor = 0;
 
+/// A message in plain text, because names of probes and files may look like mark-up. Its buttons are in the
+/// words of the conversions' dialogs; Qt's own are in English where its translations are not installed.
+class Message final : public QMessageBox {
+public:
+    Message(QWidget* parent, Icon icon, const QString& text, const QString& more = {},
+            StandardButtons buttons = Ok)
+        : QMessageBox(icon, MainWindow::tr("Probe Setup"), text, buttons, parent) {
+        setTextFormat(Qt::PlainText);
+        setInformativeText(more);
+        if (button(Ok))
+            button(Ok)->setText(ToQt(TableText(IDS_OK_BUTTON)));
+        if (button(Cancel))
+            button(Cancel)->setText(ToQt(TableText(IDS_CANCEL_BUTTON)));
+    }
+};
+
 QString Lines(const std::vector<std::wstring>& lines) {
     constexpr std::size_t most = 12;
     QStringList shown;
@@ -308,10 +324,7 @@ bool MainWindow::Try(const QString& what, const std::function<void()>& action) {
     } catch (const std::exception& error) {
         reason = QString::fromUtf8(error.what());
     }
-    QMessageBox box(QMessageBox::Critical, tr("Probe Setup"), what, QMessageBox::Ok, this);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(reason);
-    box.exec();
+    Message(this, QMessageBox::Critical, what, reason).exec();
     return false;
 }
 
@@ -322,15 +335,11 @@ QString MainWindow::FileName() const {
 bool MainWindow::MayLoseChanges() {
     if (!m_document->Changed())
         return true;
-    QMessageBox box(QMessageBox::Warning, tr("Probe Setup"),
-                    tr("%1 has changes that are not saved.").arg(FileName()),
-                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(tr("Do you want to save them?"));
-    // Qt's own texts are in English where its translations are not installed.
+    Message box(this, QMessageBox::Warning, tr("%1 has changes that are not saved.").arg(FileName()),
+                tr("Do you want to save them?"),
+                QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
     box.button(QMessageBox::Save)->setText(tr("&Save"));
     box.button(QMessageBox::Discard)->setText(tr("&Discard"));
-    box.button(QMessageBox::Cancel)->setText(ToQt(TableText(IDS_CANCEL_BUTTON)));
     box.setDefaultButton(QMessageBox::Save);
     switch (box.exec()) {
     case QMessageBox::Save:
@@ -346,6 +355,7 @@ void MainWindow::New() {
     if (!MayLoseChanges())
         return;
     m_document->Close();
+    m_find->clear();
     ShowList({});
 }
 
@@ -373,7 +383,7 @@ bool MainWindow::OpenPath(const QString& path) {
         ForgetRecent(path);
         return false;
     }
-    return standAlone ? ImportFile(path) : OpenHostFile(path);
+    return standAlone ? ImportFiles({path}) : OpenHostFile(path);
 }
 
 bool MainWindow::OpenHostFile(const QString& path) {
@@ -399,6 +409,7 @@ bool MainWindow::OpenHostFile(const QString& path) {
         const auto rest = qScopeGuard([this] { // before a failure is told
             statusBar()->clearMessage();
             setEnabled(true);
+            m_table->setFocus(); // a window that cannot be used has lost it
             QApplication::restoreOverrideCursor();
             m_progress->hide();
         });
@@ -411,7 +422,6 @@ bool MainWindow::OpenHostFile(const QString& path) {
     RememberRecent(full);
     m_find->clear();
     ShowList(0);
-    m_table->setFocus();
     return true;
 }
 
@@ -425,13 +435,13 @@ void MainWindow::OpenFiles(const QStringList& paths) {
             (standAlone ? settings : hosts) += path;
     }
     if (hosts.size() > 1) {
-        QMessageBox::information(this, tr("Probe Setup"),
-                                 tr("Only one file can be open. %1 is opened.").arg(hosts.front()));
+        Message(this, QMessageBox::Information,
+                tr("Only one file can be open. %1 is opened.").arg(hosts.front()))
+            .exec();
     }
     if (!hosts.isEmpty() && !OpenHostFile(hosts.front()))
         return;
-    for (const QString& path : settings)
-        ImportFile(path);
+    ImportFiles(settings);
 }
 
 bool MainWindow::Save() {
@@ -456,12 +466,10 @@ bool MainWindow::SaveBy(const QString& what, const std::function<void(OthersChan
         } catch (const DocumentError& error) {
             if (error.failure != Failure::ChangedByOthers)
                 throw;
-            QMessageBox box(QMessageBox::Warning, tr("Probe Setup"), Words(error),
-                            QMessageBox::Save | QMessageBox::Cancel, this);
-            box.setTextFormat(Qt::PlainText);
-            box.setInformativeText(tr("Do you want to replace what the other program has written?"));
+            Message box(this, QMessageBox::Warning, Words(error),
+                        tr("Do you want to replace what the other program has written?"),
+                        QMessageBox::Save | QMessageBox::Cancel);
             box.button(QMessageBox::Save)->setText(tr("&Replace"));
-            box.button(QMessageBox::Cancel)->setText(ToQt(TableText(IDS_CANCEL_BUTTON)));
             box.setDefaultButton(QMessageBox::Cancel);
             mayReplace = box.exec() == QMessageBox::Save;
         }
@@ -497,21 +505,24 @@ void MainWindow::Import() {
         QFileDialog::getOpenFileNames(this, tr("Import probes"), QFileInfo(ToQt(m_document->Path())).path(),
                                       tr("Settings files (%1)").arg(patterns.join(QLatin1Char(' '))) +
                                           QStringLiteral(";;") + tr("All files (*)"));
-    for (const QString& path : paths)
-        ImportFile(path);
+    ImportFiles(paths);
 }
 
-bool MainWindow::ImportFile(const QString& path) {
-    if (m_document->IsReadOnly()) {
-        QMessageBox::information(this, tr("Probe Setup"),
-                                 tr("%1 is read-only: no probe can be added.").arg(FileName()));
+bool MainWindow::ImportFiles(const QStringList& paths) {
+    if (m_document->IsReadOnly() && !paths.isEmpty()) {
+        Message(this, QMessageBox::Information, tr("%1 is read-only: no probe can be added.").arg(FileName()))
+            .exec();
         return false;
     }
-    std::size_t probe = 0;
-    if (!Try(tr("The probe cannot be imported."), [&] { probe = m_document->Import(FromQt(path)); }))
-        return false;
-    Reveal(probe);
-    return true;
+    bool all = true;
+    for (const QString& path : paths) {
+        std::size_t probe = 0;
+        if (Try(tr("The probe cannot be imported."), [&] { probe = m_document->Import(FromQt(path)); }))
+            Reveal(probe);
+        else
+            all = false;
+    }
+    return all;
 }
 
 void MainWindow::Export() {
@@ -552,15 +563,16 @@ void MainWindow::Edit() {
         return;
     const ReadProblems& problems = m_document->CheckRecord(*probe);
     if (!problems.IsEmpty()) {
-        QMessageBox box(QMessageBox::Warning, tr("Probe Setup"),
-                        tr("The record of \"%1\" in %2 cannot be read wholly.")
-                            .arg(ToQt(m_document->Name(*probe)), ToQt(m_document->Path())),
-                        QMessageBox::Ok, this);
-        box.setTextFormat(Qt::PlainText);
-        box.setInformativeText(
-            tr("These keys are missing or cannot be read; default values stand in their place:") +
-            QLatin1Char('\n') + Lines(problems.Lines()));
-        box.exec();
+        // Where there is no dialog, no values stand in it.
+        const QString what =
+            m_document->Type(*probe)
+                ? tr("These keys are missing or cannot be read; default values stand in their place:")
+                : tr("This key is missing or cannot be read:");
+        Message(this, QMessageBox::Warning,
+                tr("The record of \"%1\" in %2 cannot be read wholly.")
+                    .arg(ToQt(m_document->Name(*probe)), ToQt(m_document->Path())),
+                what + QLatin1Char('\n') + Lines(problems.Lines()))
+            .exec();
     }
     if (!HasSettings(*probe))
         return;
@@ -574,7 +586,7 @@ bool MainWindow::Rename(std::size_t probe, const QString& typed) {
         return true;
     if (const NameProblem problem = m_document->CheckName(FromQt(name), probe);
         problem != NameProblem::None) {
-        QMessageBox::warning(this, tr("Probe Setup"), TextOf(problem, name));
+        Message(this, QMessageBox::Warning, TextOf(problem, name)).exec();
         return false;
     }
     m_document->Rename(probe, FromQt(name));
@@ -794,7 +806,8 @@ void MainWindow::ShowState() {
 // Events
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!FinishTyping() || !MayLoseChanges()) {
+    // What is typed in a dialog is no change yet that one could be asked about.
+    if (QApplication::activeModalWidget() || !FinishTyping() || !MayLoseChanges()) {
         event->ignore();
         return;
     }

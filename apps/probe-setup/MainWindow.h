@@ -70,7 +70,8 @@ private:
     bool SaveBy(const QString& what, const std::function<void(OthersChanges)>& save);
     [[nodiscard]] QString AskForHostFile(const QString& title, bool toSave);
     void Import();
-    bool ImportFile(const QString& path);
+    /// Adds the probes of stand-alone files. False when not all could be added.
+    bool ImportFiles(const QStringList& paths);
     void Export();
     /// Asks what is to become of changes; false when the user stays.
     [[nodiscard]] bool MayLoseChanges();

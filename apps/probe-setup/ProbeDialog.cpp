@@ -68,6 +68,7 @@ ProbeDialog::ProbeDialog(QWidget* parent, const ProbeDocument& document, const Q
     setWindowTitle(tr("Add a probe"));
     m_name->setObjectName(QStringLiteral("probeName"));
     m_problem->setObjectName(QStringLiteral("nameProblem"));
+    m_problem->setTextFormat(Qt::PlainText); // a name may look like mark-up
     m_problem->setWordWrap(true);
     AddTypes(false, CONV_ITS90);
     Build(tr("The probe gets the default values of its type."), std::move(help));

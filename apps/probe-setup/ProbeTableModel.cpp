@@ -4,6 +4,7 @@
 #include "toolkits/qt/QtText.h"
 
 #include <QStringMatcher>
+#include <QTextDocument>
 
 #include <algorithm>
 #include <unordered_map>
@@ -81,8 +82,10 @@ QVariant ProbeTableModel::data(const QModelIndex& index, int role) const {
     const std::size_t probe = ProbeAt(index.row());
     switch (index.column()) {
     case NameColumn:
-        if (role == Qt::DisplayRole || role == Qt::EditRole || role == Qt::ToolTipRole)
+        if (role == Qt::DisplayRole || role == Qt::EditRole)
             return ToQt(m_document.Name(probe));
+        if (role == Qt::ToolTipRole) // a name may look like mark-up
+            return Qt::convertFromPlainText(ToQt(m_document.Name(probe)));
         break;
     case ConversionColumn:
         if (role == Qt::DisplayRole || role == Qt::ToolTipRole)

@@ -327,6 +327,10 @@
         <translation>Diese Schlüssel fehlen oder sind nicht lesbar; an ihrer Stelle stehen Vorgabewerte:</translation>
     </message>
     <message>
+        <source>This key is missing or cannot be read:</source>
+        <translation>Dieser Schlüssel fehlt oder ist nicht lesbar:</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; has no settings to edit: %2.</source>
         <translation>„%1“ hat keine Einstellungen zum Bearbeiten: %2.</translation>
     </message>

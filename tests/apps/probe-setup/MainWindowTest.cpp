@@ -26,6 +26,7 @@
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <QTranslator>
 #include <QTreeView>
 #include <QUrl>
@@ -585,6 +586,145 @@ TEST_F(MainWindowTest, SaveAsGivesANameWithoutExtensionTheOneOfHostFiles) {
     Action("save").trigger();
     EXPECT_EQ(window->Document().Path(), folder.Name("laboratory.ini"));
     EXPECT_TRUE(std::filesystem::exists(folder.Path("laboratory.ini")));
+}
+
+TEST_F(MainWindowTest, NamesThatLookLikeMarkUpAreShownAsTheyAre) {
+    const QString name = "<b>Probe</b> 3";
+    window->Document().Rename(0, L"<b>Probe</b> 3");
+    const QModelIndex row = Table().model()->index(0, ProbeTableModel::NameColumn);
+    EXPECT_EQ(row.data().toString(), name);
+    EXPECT_EQ(QTextDocumentFragment::fromHtml(row.data(Qt::ToolTipRole).toString()).toPlainText(), name);
+    WhenShown<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+    });
+    GoTo(1);
+    Press(Qt::Key_F2);
+    auto* const editor = Table().viewport()->findChild<QLineEdit*>();
+    ASSERT_TRUE(editor);
+    editor->selectAll();
+    QTest::keyClicks(editor, name);
+    Action("duplicate").trigger(); // the name is refused
+    WhenShown<QDialog>([&](QDialog& dialog) {
+        auto* const problem = dialog.findChild<QLabel*>("nameProblem");
+        EXPECT_EQ(problem->textFormat(), Qt::PlainText);
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    Press(Qt::Key_Insert);
+    EXPECT_EQ(Names(), (QStringList{name, "Probe 2"}));
+}
+
+TEST_F(MainWindowTest, KeysGoOnAfterAFileThatCannotBeOpened) {
+    GoTo(1);
+    folder.Write("wide.ini", std::string("\xFF\xFE[\0A\0", 6));
+    WillAnswer(QMessageBox::Ok);
+    EXPECT_FALSE(window->OpenPath(Path("wide.ini")));
+    ComeToFront(*window);
+    EXPECT_TRUE(Table().hasFocus());
+    EXPECT_EQ(Table().currentIndex().row(), 1);
+}
+
+TEST_F(MainWindowTest, ItDoesNotCloseUnderADialog) {
+    bool closed = true;
+    WhenShown<QDialog>([&](QDialog& dialog) {
+        closed = window->close();
+        auto* const box = dialog.findChild<QLineEdit*>("txtCoefficients(0)");
+        box->selectAll();
+        QTest::keyClicks(box, "100.5");
+        QTest::mouseClick(dialog.findChild<QPushButton*>("cmdOKCancelHelp(0)"), Qt::LeftButton);
+    });
+    GoTo(0);
+    Press(Qt::Key_Return);
+    EXPECT_FALSE(closed);
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_TRUE(window->isWindowModified()) << "what was typed meanwhile is there";
+}
+
+TEST_F(MainWindowTest, ANewFileStartsWithAnEmptyFindBox) {
+    QTest::keyClicks(&FindBox(), "nowhere");
+    Action("new").trigger();
+    EXPECT_EQ(FindBox().text(), "");
+    WhenShown<QDialog>([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+    Press(Qt::Key_Insert);
+    EXPECT_EQ(Names(), QStringList{"New probe"});
+}
+
+TEST_F(MainWindowTest, SeveralFilesThatAReadOnlyOneCannotTakeAreOneMessage) {
+    ASSERT_EQ(::chmod(folder.Path("host.ini").c_str(), 0444), 0);
+    ASSERT_TRUE(window->OpenPath(Path("host.ini")));
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromLatin1(QUOR_SAMPLES "/prt-1188.cvd")),
+                  QUrl::fromLocalFile(QString::fromLatin1(QUOR_SAMPLES "/prt-1188.cvd"))});
+    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(window.get(), &enter);
+    QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QString text;
+    WillAnswer(QMessageBox::Ok, &text);
+    QApplication::sendEvent(window.get(), &drop);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !text.isEmpty(); }));
+    EXPECT_EQ(text, "host.ini is read-only: no probe can be added.|");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(Names().size(), 2);
+}
+
+TEST_F(MainWindowTest, ATypeThatCannotBeReadIsToldWithItsKeyAndWithoutADialog) {
+    folder.Write("odd.ini", "[P]\nConversionType=CVD\n");
+    ASSERT_TRUE(window->OpenPath(Path("odd.ini")));
+    EXPECT_EQ(Text(0, ProbeTableModel::ConversionColumn), "The type cannot be read");
+    GoTo(0);
+    QString text;
+    WillAnswer(QMessageBox::Ok, &text);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(text, "The record of \"P\" in " + Path("odd.ini") +
+                        " cannot be read wholly.|This key is missing or cannot be read:\n[P] ConversionType");
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(MainWindowTest, ARecentFileThatIsGoneIsToldAndForgotten) {
+    folder.Write("gone.ini", host);
+    ASSERT_TRUE(window->OpenPath(Path("gone.ini")));
+    ASSERT_TRUE(window->OpenPath(Path("host.ini")));
+    std::filesystem::remove(folder.Path("gone.ini"));
+    const auto recent = [this] {
+        QStringList texts;
+        for (const QMenu* menu : window->findChildren<QMenu*>()) {
+            if (menu->title() == "Open &recent")
+                for (const QAction* action : menu->actions())
+                    texts += action->text();
+        }
+        return texts;
+    };
+    ASSERT_EQ(recent(), (QStringList{"&1 " + Path("host.ini"), "&2 " + Path("gone.ini")}));
+    QString text;
+    WillAnswer(QMessageBox::Ok, &text);
+    for (QAction* action : window->findChildren<QAction*>()) {
+        if (action->text() == "&2 " + Path("gone.ini")) {
+            action->trigger();
+            break;
+        }
+    }
+    EXPECT_TRUE(text.contains(Path("gone.ini"))) << text.toStdString();
+    EXPECT_EQ(recent(), QStringList{"&1 " + Path("host.ini")});
+    EXPECT_EQ(Names().size(), 2);
+}
+
+TEST_F(MainWindowTest, ASectionOfTwoProbesIsNamedWhenItStopsASave) {
+    folder.Write("shared.ini",
+                 "[P]\nConversionType=19\n[P - Settings]\nConversionType=10\nNumCoefficients=1\n"
+                 "Coefficients0=100\n");
+    ASSERT_TRUE(window->OpenPath(Path("shared.ini")));
+    GoTo(1);
+    Press(Qt::Key_Delete);
+    QString text;
+    WillAnswer(QMessageBox::Ok, &text);
+    Press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(text,
+              "shared.ini cannot be saved.|" + Path("shared.ini") +
+                  ": the section [P - Settings] belongs to \"P - Settings\" and to \"P\" at once, so it "
+                  "can neither go nor get another name with one of them alone. Take that change back.");
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_FALSE(window->isWindowModified());
 }
 
 TEST_F(MainWindowTest, F1OpensTheHelpAndAMissingCollectionIsNamed) {
