@@ -57,7 +57,7 @@ const QLatin1String kindWithMistake("i90");
 
 /// Lets the program go on until something is so; not for ever.
 void WaitUntil(const std::function<bool()>& isSo) {
-    constexpr qint64 longest = 5000; // milliseconds
+    constexpr qint64 longest = 60'000; // milliseconds
     QElapsedTimer timer;
     timer.start();
     while (!isSo() && timer.elapsed() < longest)

@@ -9,6 +9,7 @@
 #include <array>
 #include <chrono>
 #include <csignal>
+#include <cstdint>
 #include <random>
 #include <set>
 #include <string>
@@ -31,19 +32,33 @@ std::string Laboratory(const std::string& name, const std::string& type) {
     return text + "[last]\nVersion=1.0\nConversionType=" + type + "\n";
 }
 
+/// Saves the one of two texts that the file does not hold.
+void SaveTheOther(ProbeDocument& document) {
+    const bool first = document.Name(0) == L"first";
+    document.Rename(0, first ? L"another" : L"first");
+    document.SetType(document.Count() - 1, first ? CONV_VOLTS : CONV_OHMS);
+    document.Save();
+}
+
 /// Saves for ever, back and forth between two texts. `started` is told when the first save begins.
 [[noreturn]] void SaveForEver(const std::wstring& path, int started) {
     ProbeDocument document(std::make_shared<HeadlessPlatform>());
     document.Open(path);
-    const std::size_t last = document.Count() - 1;
     if (::write(started, "!", 1) != 1)
         ::_exit(1);
-    for (;;) {
-        const bool first = document.Name(0) == L"first";
-        document.Rename(0, first ? L"another" : L"first");
-        document.SetType(last, first ? CONV_VOLTS : CONV_OHMS);
-        document.Save();
-    }
+    for (;;)
+        SaveTheOther(document);
+}
+
+/// How long a save takes, in microseconds. It leaves the other text in the file.
+std::int64_t SaveTime(const std::wstring& path) {
+    ProbeDocument document(std::make_shared<HeadlessPlatform>());
+    document.Open(path);
+    SaveTheOther(document);
+    const auto start = std::chrono::steady_clock::now();
+    SaveTheOther(document);
+    return std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - start)
+        .count();
 }
 
 } // namespace
@@ -54,7 +69,9 @@ TEST(KilledWhileSaving, TwoHundredTimesTheFileIsTheOldOneOrTheNewOne) {
     const std::string after = Laboratory("another", "11");
     folder.Write("host.ini", before);
     std::mt19937 random(20261121);
-    std::uniform_int_distribution<int> microseconds(0, 20'000);
+    // Long enough for several saves, on this machine at this moment.
+    std::uniform_int_distribution<std::int64_t> microseconds(0, 3 * SaveTime(folder.Name("host.ini")));
+    folder.Write("host.ini", before);
     std::set<std::string> seen;
     for (int kill = 0; kill < 200; ++kill) {
         std::array<int, 2> ends{};

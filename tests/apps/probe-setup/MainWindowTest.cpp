@@ -14,7 +14,6 @@
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QDropEvent>
-#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -31,6 +30,7 @@
 #include <QTreeView>
 #include <QUrl>
 
+#include <ctime>
 #include <filesystem>
 #include <map>
 #include <set>
@@ -113,6 +113,7 @@ void WillAnswer(QMessageBox::StandardButton button, QString* text = nullptr) {
 class MainWindowTest : public QuorconvTest {
 protected:
     void SetUp() override {
+        QApplication::setKeyboardInputInterval(60'000); // letters make a word in a list, however slowly
         folder.Write("host.ini", host);
         Show();
         ASSERT_TRUE(window->OpenPath(Path("host.ini")));
@@ -478,7 +479,7 @@ TEST_F(MainWindowTest, NothingCanBeDroppedWhileADialogIsOpen) {
         entered = enter.isAccepted();
         QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(window.get(), &drop);
-        QTest::qWait(20);
+        QCoreApplication::processEvents();
         QTest::mouseClick(dialog.findChild<QPushButton*>("cmdOKCancelHelp(1)"), Qt::LeftButton);
     });
     GoTo(0);
@@ -867,20 +868,20 @@ TEST_F(MainWindowTest, AHundredThousandProbesAreFoundWithoutAPause) {
     folder.Write("many.ini", text);
     ASSERT_TRUE(window->OpenPath(Path("many.ini")));
     ASSERT_EQ(Table().model()->rowCount(), 100'000);
-    qint64 slowest = 0;
-    for (const char* key : {"9", "9", "9"}) {
-        QElapsedTimer timer;
-        timer.start();
-        QTest::keyClicks(&FindBox(), key);
-        slowest = std::max(slowest, timer.elapsed());
-    }
+    double slowest = 0; // milliseconds of work, whatever else the machine does
+    const auto measure = [&slowest](const auto& action) {
+        const std::clock_t start = std::clock();
+        action();
+        slowest = std::max(slowest, 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
+    };
+    for (const char* key : {"9", "9", "9"})
+        measure([&] { QTest::keyClicks(&FindBox(), key); });
     EXPECT_EQ(Table().model()->rowCount(), 280);
-    QElapsedTimer timer;
-    timer.start();
-    Table().scrollToBottom();
-    QCoreApplication::processEvents();
-    slowest = std::max(slowest, timer.elapsed());
+    measure([this] {
+        Table().scrollToBottom();
+        QCoreApplication::processEvents();
+    });
     RecordProperty("slowest_ms", static_cast<int>(slowest));
-    // The promise is 100 ms; a debug build with sanitizers on a busy machine gets ten times that.
+    // The promise is 100 ms; a debug build with sanitizers gets ten times that.
     EXPECT_LT(slowest, 1000);
 }

@@ -3,83 +3,32 @@
 
 #include "apps/probe-setup/MainWindow.h"
 #include "apps/probe-setup/ProbeDialog.h"
+#include "tests/toolkits/qt/Looks.h"
 #include "tests/toolkits/qt/QtScreen.h"
-#include "toolkits/qt/Translations.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QLocale>
-#include <QPalette>
-#include <QPushButton>
-#include <QStyle>
-#include <QTest>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTranslator>
 #include <QTreeView>
 
-#include <ostream>
-
 using namespace ProbeSetup;
 
 namespace {
 
-struct Look {
-    const char* name;
-    bool dark;
-    bool german;
-    int pointSize; ///< 0 for the usual one
-    Qt::LayoutDirection direction;
-};
-
-const Look looks[] = {
-    {"light", false, false, 0, Qt::LeftToRight},       {"dark", true, false, 0, Qt::LeftToRight},
-    {"german", false, true, 0, Qt::LeftToRight},       {"large", false, false, 18, Qt::LeftToRight},
-    {"large-german", true, true, 18, Qt::LeftToRight}, {"mirrored", false, false, 0, Qt::RightToLeft},
-};
-
-void PrintTo(const Look& look, std::ostream* out) { *out << look.name; }
-
-QPalette Dark() {
-    QPalette palette(QColor(45, 45, 45));
-    palette.setColor(QPalette::Base, QColor(30, 30, 30));
-    palette.setColor(QPalette::AlternateBase, QColor(38, 38, 38));
-    palette.setColor(QPalette::PlaceholderText, QColor(150, 150, 150));
-    return palette;
-}
-
-class WindowPictures : public testing::TestWithParam<Look> {
+class WindowPictures : public testing::TestWithParam<Support::Look> {
 protected:
     void SetUp() override {
-        const Look& look = GetParam();
-        if (look.dark)
-            QApplication::setPalette(Dark());
-        QFont font = m_font;
-        if (look.pointSize > 0)
-            font.setPointSize(look.pointSize);
-        QApplication::setFont(font);
-        QLocale::setDefault(look.german ? QLocale(QLocale::German) : QLocale::c());
-        QuorConversions::QtToolkit::InstallTranslations(QLocale());
-        if (look.german) {
+        if (GetParam().language == QLocale::German) {
             ASSERT_TRUE(m_texts.load(":/probe-setup/translations/probe-setup_de.qm"));
             QCoreApplication::installTranslator(&m_texts);
         }
-        QApplication::setLayoutDirection(look.direction);
         ASSERT_TRUE(QDir().mkpath("pictures"));
-    }
-    void TearDown() override {
-        QCoreApplication::removeTranslator(&m_texts);
-        QApplication::setLayoutDirection(Qt::LeftToRight);
-        QLocale::setDefault(QLocale::c());
-        QuorConversions::QtToolkit::InstallTranslations(QLocale());
-        QApplication::setFont(m_font);
-        QApplication::setPalette(m_palette);
     }
 
     static void TakePicture(QWidget& window, const char* name) {
@@ -104,9 +53,8 @@ protected:
         }
     }
 
-    QPalette m_palette = QApplication::palette();
-    QFont m_font = QApplication::font();
-    QTranslator m_texts;
+    Support::Dressed m_dressed{GetParam()};
+    QTranslator m_texts; // it leaves the application when it goes
 };
 
 } // namespace
@@ -138,6 +86,5 @@ TEST_P(WindowPictures, TheDialogThatAddsAProbeShowsAllItsTexts) {
     EXPECT_LE(types.sizeHintForColumn(0), types.viewport()->width()) << "the longest type is cut";
 }
 
-INSTANTIATE_TEST_SUITE_P(Looks, WindowPictures, testing::ValuesIn(looks), [](const auto& look) {
-    return QString(look.param.name).replace('-', '_').toStdString();
-});
+INSTANTIATE_TEST_SUITE_P(Looks, WindowPictures, testing::ValuesIn(Support::looks),
+                         [](const auto& tested) { return Support::TestName(tested.param); });

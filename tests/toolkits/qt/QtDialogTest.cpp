@@ -126,7 +126,13 @@ protected:
         qApp->notify(&widget, &turned);
     }
     /// A button that is pressed by its access key stays down for a moment.
-    void LetSpringBack() const { QTest::qWait(200); }
+    void LetSpringBack() const {
+        EXPECT_TRUE(QTest::qWaitFor([this] {
+            const auto buttons = window->findChildren<QAbstractButton*>();
+            return std::none_of(buttons.begin(), buttons.end(),
+                                [](const QAbstractButton* button) { return button->isDown(); });
+        }));
+    }
     /// What is clicked now is a click of its own.
     void LetDoubleClickPass() const { QTest::qWait(QApplication::doubleClickInterval() * 5 / 4); }
     /// As a window manager does, also when the window in front has gone.

@@ -5,13 +5,12 @@
 #include "QuorConversions/resources/StringIds.h"
 #include "QuorConversions/resources/StringTable.h"
 #include "QuorConversions/rtd/CQuorITS90.h"
-#include "tests/support/DecimalSeparator.h"
 #include "tests/support/Objects.h"
 #include "tests/support/SettingsClasses.h"
 #include "tests/support/TestedScreen.h"
+#include "tests/toolkits/qt/Looks.h"
 #include "tests/toolkits/qt/QtScreen.h"
 #include "toolkits/qt/QtText.h"
-#include "toolkits/qt/Translations.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -20,7 +19,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
-#include <QPalette>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -31,9 +29,8 @@
 
 using namespace QuorConversions;
 using QtToolkit::FromQt;
-using QtToolkit::InstallTranslations;
 using Scripted::Person;
-using Support::FreshDecimalSeparator;
+using Support::Dressed;
 using Support::LetLayOut;
 using Support::QtHands;
 using Support::settingsClasses;
@@ -42,62 +39,6 @@ namespace {
 
 /// The longest number: 17 digits, two signs, three digits of exponent.
 const wchar_t* const longestNumber = L"-2.2250738585072014e-308";
-
-QPalette Dark() {
-    QPalette palette(QColor(45, 45, 45));
-    palette.setColor(QPalette::Base, QColor(30, 30, 30));
-    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(140, 140, 140));
-    return palette;
-}
-
-struct Look {
-    const char* name;
-    bool dark;
-    QLocale::Language language;
-    int pointSize; ///< 0 for the usual one
-    Qt::LayoutDirection direction;
-};
-
-const Look looks[] = {
-    {"light", false, QLocale::English, 0, Qt::LeftToRight},
-    {"dark", true, QLocale::English, 0, Qt::LeftToRight},
-    {"light-german", false, QLocale::German, 0, Qt::LeftToRight},
-    {"dark-german", true, QLocale::German, 0, Qt::LeftToRight},
-    {"large", false, QLocale::English, 18, Qt::LeftToRight},
-    {"mirrored", false, QLocale::English, 0, Qt::RightToLeft},
-};
-
-void PrintTo(const Look& look, std::ostream* out) { *out << look.name; }
-
-/// The application as it looks in one case, and as it was afterwards.
-class Dressed {
-public:
-    explicit Dressed(const Look& look) : m_palette(QApplication::palette()), m_font(QApplication::font()) {
-        if (look.dark)
-            QApplication::setPalette(Dark());
-        QFont font = m_font;
-        if (look.pointSize > 0)
-            font.setPointSize(look.pointSize);
-        QApplication::setFont(font);
-        QLocale::setDefault(QLocale(look.language));
-        InstallTranslations(QLocale());
-        QApplication::setLayoutDirection(look.direction);
-    }
-    Dressed(const Dressed&) = delete;
-    Dressed& operator=(const Dressed&) = delete;
-    ~Dressed() {
-        QApplication::setLayoutDirection(Qt::LeftToRight);
-        QLocale::setDefault(QLocale::c());
-        InstallTranslations(QLocale());
-        QApplication::setFont(m_font);
-        QApplication::setPalette(m_palette);
-    }
-
-private:
-    FreshDecimalSeparator m_separator;
-    QPalette m_palette;
-    QFont m_font;
-};
 
 QRect PlaceIn(const QWidget& widget, const QWidget& window) {
     return {widget.mapTo(&window, QPoint()), widget.size()};
@@ -160,7 +101,7 @@ void ExpectWellDrawn(const QWidget& window, const Dialog& dialog) {
     EXPECT_GT(controls.size(), 5U);
 }
 
-class QtPicturesTest : public testing::TestWithParam<Look> {};
+class QtPicturesTest : public testing::TestWithParam<Support::Look> {};
 
 } // namespace
 
@@ -203,8 +144,5 @@ TEST_P(QtPicturesTest, EveryDialogShowsAllItsTextsAndNoTwoControlsOverlap) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Looks, QtPicturesTest, testing::ValuesIn(looks), [](const auto& tested) {
-    std::string name = tested.param.name;
-    std::erase(name, '-');
-    return name;
-});
+INSTANTIATE_TEST_SUITE_P(Looks, QtPicturesTest, testing::ValuesIn(Support::looks),
+                         [](const auto& tested) { return Support::TestName(tested.param); });

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QEventLoop>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -122,7 +123,10 @@ void WhenShown(const std::function<bool(QWidget&)>& isIt, const std::function<vo
 void LetLayOut(int moment) {
     for (int tries = 0; tries < 50; ++tries) {
         const LayoutRequests requests;
-        QTest::qWait(moment);
+        QEventLoop loop; // its timers ring in their order, however late
+        QTimer::singleShot(moment, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+        loop.exec();
+        QCoreApplication::processEvents(); // what the last of them has asked for
         if (requests.count == 0)
             return;
     }
@@ -161,7 +165,7 @@ void QtHands::Activate() const {
     if (m_window.isHidden() || QTest::qWaitFor(isInFront, 20))
         return;
     m_window.activateWindow(); // as a window manager does when the window in front has gone
-    EXPECT_TRUE(QTest::qWaitFor(isInFront, 1000));
+    EXPECT_TRUE(QTest::qWaitFor(isInFront));
 }
 
 void QtHands::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) const {
