@@ -422,6 +422,16 @@ bool MainWindow::OpenHostFile(const QString& path) {
     RememberRecent(full);
     m_find->clear();
     ShowList(0);
+    if (!m_document->LostRecords().empty()) {
+        std::vector<std::wstring> lines;
+        for (const std::size_t line : m_document->LostRecords())
+            lines.push_back(FromQt(tr("Line %1").arg(line)));
+        Message(this, QMessageBox::Warning,
+                tr("%1: these section headers have no \"]\", so nobody can read the probes below them:")
+                    .arg(full),
+                Lines(lines))
+            .exec();
+    }
     return true;
 }
 
@@ -734,6 +744,42 @@ void MainWindow::ShowList(std::optional<std::size_t> current) {
     ShowState();
 }
 
+QString MainWindow::StepText(StepKind kind) {
+    switch (kind) {
+    case StepKind::Add:
+        return tr("add");
+    case StepKind::Duplicate:
+        return tr("duplicate");
+    case StepKind::Import:
+        return tr("import");
+    case StepKind::Remove:
+        return tr("remove");
+    case StepKind::Rename:
+        return tr("rename");
+    case StepKind::ChangeType:
+        return tr("change of type");
+    case StepKind::Edit:
+        return tr("edit");
+    }
+    return {};
+}
+
+QString MainWindow::EmptyText() const {
+    const auto keys = [this](const char* name) {
+        return findChild<QAction*>(QString::fromLatin1(name))->shortcut().toString(QKeySequence::NativeText);
+    };
+    if (m_document->Count() > 0)
+        return tr("No probe contains \"%1\". Press Esc in the find box to see all probes.")
+            .arg(m_find->text());
+    if (m_document->Path().empty())
+        return tr("Open the file of a host (%1) or drop it here, or add a first probe (%2).")
+            .arg(keys("open"), keys("add"));
+    if (m_document->IsReadOnly())
+        return tr("%1 has no probes, and it is read-only.").arg(FileName());
+    return tr("%1 has no probes yet. Add one (%2), or import a settings file (%3).")
+        .arg(FileName(), keys("add"), keys("import"));
+}
+
 void MainWindow::ShowState() {
     const std::wstring& path = m_document->Path();
     setWindowTitle(tr("%1[*] \u2013 Probe Setup").arg(FileName()));
@@ -749,31 +795,12 @@ void MainWindow::ShowState() {
     m_saveAction->setEnabled(writable && (m_document->Changed() || path.empty()));
     m_exportAction->setEnabled(any);
 
-    const auto phrase = [](StepKind kind) {
-        switch (kind) {
-        case StepKind::Add:
-            return tr("add");
-        case StepKind::Duplicate:
-            return tr("duplicate");
-        case StepKind::Import:
-            return tr("import");
-        case StepKind::Remove:
-            return tr("remove");
-        case StepKind::Rename:
-            return tr("rename");
-        case StepKind::ChangeType:
-            return tr("change of type");
-        case StepKind::Edit:
-            return tr("edit");
-        }
-        return QString();
-    };
     const auto undo = m_document->UndoKind();
     const auto redo = m_document->RedoKind();
     m_undoAction->setEnabled(undo.has_value());
     m_redoAction->setEnabled(redo.has_value());
-    m_undoAction->setText(undo ? tr("&Undo: %1").arg(phrase(*undo)) : tr("&Undo"));
-    m_redoAction->setText(redo ? tr("&Redo: %1").arg(phrase(*redo)) : tr("&Redo"));
+    m_undoAction->setText(undo ? tr("&Undo: %1").arg(StepText(*undo)) : tr("&Undo"));
+    m_redoAction->setText(redo ? tr("&Redo: %1").arg(StepText(*redo)) : tr("&Redo"));
     m_undoAction->setIconText(tr("Undo"));
     m_redoAction->setIconText(tr("Redo"));
 
@@ -784,20 +811,7 @@ void MainWindow::ShowState() {
     m_count->setText(m_find->text().isEmpty() ? tr("Probes: %1").arg(all)
                                               : tr("Probes: %1 of %2").arg(locale.toString(shown), all));
 
-    const auto keys = [this](const char* name) {
-        return findChild<QAction*>(QString::fromLatin1(name))->shortcut().toString(QKeySequence::NativeText);
-    };
-    QString empty;
-    if (shown == 0 && m_document->Count() > 0)
-        empty =
-            tr("No probe contains \"%1\". Press Esc in the find box to see all probes.").arg(m_find->text());
-    else if (shown == 0 && path.empty())
-        empty = tr("Open the file of a host (%1) or drop it here, or add a first probe (%2).")
-                    .arg(keys("open"), keys("add"));
-    else if (shown == 0)
-        empty = writable ? tr("%1 has no probes yet. Add one (%2), or import a settings file (%3).")
-                               .arg(FileName(), keys("add"), keys("import"))
-                         : tr("%1 has no probes, and it is read-only.").arg(FileName());
+    const QString empty = shown == 0 ? EmptyText() : QString();
     m_emptyState->setText(empty);
     m_emptyState->setVisible(!empty.isEmpty());
     m_table->setAccessibleDescription(empty);

@@ -152,7 +152,8 @@ ProbeDocument::ProbeDocument(std::shared_ptr<Platform> platform,
 // The list and the file
 
 void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
-    const std::vector<Record> records = ProbeFile(path).Records();
+    const ProbeFile file(path);
+    const std::vector<Record>& records = file.Records();
     auto store = std::make_shared<IniStore>();
     store->SetFileName(path);
 
@@ -206,6 +207,7 @@ void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
     m_isReadOnly = IsReadOnlyFile(path);
     m_store = std::move(store);
     m_entries = std::move(entries);
+    m_lostRecords = file.LostRecords();
     m_foreign = std::move(foreign);
 }
 
@@ -214,6 +216,7 @@ void ProbeDocument::Close() {
     m_isReadOnly = false;
     m_store = nullptr;
     m_entries.clear();
+    m_lostRecords.clear();
     m_foreign.clear();
     m_done.clear();
     m_undone.clear();

@@ -95,6 +95,10 @@ public:
     /// Whether the file may not be written. Nothing can be changed then.
     [[nodiscard]] bool IsReadOnly() const { return m_isReadOnly; }
 
+    /// The lines of headers without a ']' above what would be a probe when the file was opened: nobody can
+    /// read it. It stays in the file.
+    [[nodiscard]] const std::vector<std::size_t>& LostRecords() const { return m_lostRecords; }
+
     [[nodiscard]] std::size_t Count() const { return m_entries.size(); }
     [[nodiscard]] const std::wstring& Name(std::size_t probe) const { return m_entries[probe].name; }
     /// The type; nothing when the record says none that could be read.
@@ -247,6 +251,7 @@ private:
     bool m_isReadOnly = false;
     std::shared_ptr<QuorIniFile::IniStore> m_store; // the text that was last read or saved; never written to
     std::vector<Entry> m_entries;
+    std::vector<std::size_t> m_lostRecords;
     std::vector<std::wstring> m_foreign; // the names of the file's other sections
     std::vector<std::wstring> m_names;   // of conversions
     std::vector<Step> m_done;

@@ -331,6 +331,14 @@
         <translation>Dieser Schlüssel fehlt oder ist nicht lesbar:</translation>
     </message>
     <message>
+        <source>%1: these section headers have no &quot;]&quot;, so nobody can read the probes below them:</source>
+        <translation>%1: Diesen Abschnittsköpfen fehlt die „]“, sodass niemand die Fühler darunter lesen kann:</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; has no settings to edit: %2.</source>
         <translation>„%1“ hat keine Einstellungen zum Bearbeiten: %2.</translation>
     </message>

@@ -3,7 +3,7 @@
 #include "apps/probe-setup/ProbeTableModel.h"
 #include "apps/probe-setup/TypeTexts.h"
 #include "apps/records/Types.h"
-#include "tests/apps/quorconv/Quorconv.h"
+#include "tests/apps/probe-setup/HostFile.h"
 #include "tests/toolkits/qt/QtScreen.h"
 #include "toolkits/qt/QtText.h"
 #include "toolkits/qt/Translations.h"
@@ -47,26 +47,6 @@ void PrintTo(const QString& text, std::ostream* out) { *out << text.toStdString(
 
 namespace {
 
-const std::string host = "[Instrument]\n"
-                         "Port=COM3\n"
-                         "\n"
-                         "[Probe 1]\n"
-                         "Version=1.0\n"
-                         "ConversionType=2\n"
-                         "\n"
-                         "[Probe 1 - Settings]\n"
-                         "Version=1.0\n"
-                         "NumCoefficients=4\n"
-                         "UsePolynomial=False\n"
-                         "Coefficients0=100.0\n"
-                         "Coefficients1=3.9083E-3\n"
-                         "Coefficients2=1.5\n"
-                         "Coefficients3=0\n"
-                         "\n"
-                         "[Probe 2]\n"
-                         "Version=1.0\n"
-                         "ConversionType=10\n";
-
 /// Remembers as long as the test runs.
 class Memory final : public QuorRegistryII::Registry {
 public:
@@ -109,12 +89,12 @@ void WillAnswer(QMessageBox::StandardButton button, QString* text = nullptr) {
     });
 }
 
-/// The window on the file "host.ini" in a folder of the test's own.
-class MainWindowTest : public QuorconvTest {
+/// The window on the file "host.ini".
+class MainWindowTest : public HostFileTest {
 protected:
     void SetUp() override {
         QApplication::setKeyboardInputInterval(60'000); // letters make a word in a list, however slowly
-        folder.Write("host.ini", host);
+        HostFileTest::SetUp();
         Show();
         ASSERT_TRUE(window->OpenPath(Path("host.ini")));
     }
@@ -200,10 +180,10 @@ TEST_F(MainWindowTest, EnterEditsAndControlSSavesWhatQuorconvSetWouldWrite) {
     Press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_FALSE(window->isWindowModified());
     EXPECT_EQ(Text(0, ProbeTableModel::ChangedColumn), "");
-    const std::string ours = folder.Read("host.ini");
+    const std::string ours = File();
     folder.Write("host.ini", host);
     ExpectFine({"set", "host.ini", "Probe 1", "Coefficients0=100.0123"});
-    EXPECT_EQ(ours, folder.Read("host.ini"));
+    EXPECT_EQ(ours, File());
 }
 
 TEST_F(MainWindowTest, ADoubleClickEditsToo) {
@@ -274,7 +254,7 @@ TEST_F(MainWindowTest, AnActionTakesTheNameThatIsBeingTyped) {
     EXPECT_TRUE(Action("save").isEnabled());
     Action("save").trigger();
     EXPECT_EQ(Names().front(), "Reference");
-    EXPECT_NE(folder.Read("host.ini").find("[Reference]"), std::string::npos);
+    EXPECT_NE(File().find("[Reference]"), std::string::npos);
 
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     type("Standard");
@@ -285,7 +265,7 @@ TEST_F(MainWindowTest, AnActionTakesTheNameThatIsBeingTyped) {
     type("Last");
     WillAnswer(QMessageBox::Save);
     EXPECT_TRUE(window->close());
-    EXPECT_NE(folder.Read("host.ini").find("[Last]"), std::string::npos);
+    EXPECT_NE(File().find("[Last]"), std::string::npos);
 }
 
 TEST_F(MainWindowTest, ATypedNameThatIsRefusedStopsTheAction) {
@@ -338,10 +318,10 @@ TEST_F(MainWindowTest, InsertAddsAProbeWithANameThatIsFree) {
     EXPECT_EQ(Names(), (QStringList{"Probe 1", "Probe 2", "Probe 3"}));
     EXPECT_EQ(Table().currentIndex().row(), 2);
     Press(Qt::Key_S, Qt::ControlModifier);
-    const std::string ours = folder.Read("host.ini");
+    const std::string ours = File();
     folder.Write("host.ini", host);
     ExpectFine({"new", "host.ini", "Probe 3", "CONV_CVD"});
-    EXPECT_EQ(ours, folder.Read("host.ini"));
+    EXPECT_EQ(ours, File());
 }
 
 TEST_F(MainWindowTest, ControlTGivesAnotherType) {
@@ -401,14 +381,14 @@ TEST_F(MainWindowTest, ClosingWithChangesAsksAndStaysOnCancel) {
     WillAnswer(QMessageBox::Discard);
     EXPECT_TRUE(window->close());
     window.reset();
-    EXPECT_EQ(folder.Read("host.ini"), host);
+    EXPECT_EQ(File(), host);
 }
 
 TEST_F(MainWindowTest, ClosingWithChangesSavesThemOnSave) {
     EditR0();
     WillAnswer(QMessageBox::Save);
     EXPECT_TRUE(window->close());
-    EXPECT_NE(folder.Read("host.ini").find("=100.0123\n"), std::string::npos);
+    EXPECT_NE(File().find("=100.0123\n"), std::string::npos);
 }
 
 TEST_F(MainWindowTest, ASaveThatFailsNamesTheFileAndKeepsTheWindowOpen) {
@@ -422,7 +402,7 @@ TEST_F(MainWindowTest, ASaveThatFailsNamesTheFileAndKeepsTheWindowOpen) {
     EXPECT_FALSE(window->close());
     EXPECT_TRUE(text.contains(Path("host.ini"))) << text.toStdString();
     EXPECT_TRUE(window->isWindowModified());
-    EXPECT_EQ(folder.Read("host.ini"), host);
+    EXPECT_EQ(File(), host);
 }
 
 TEST_F(MainWindowTest, AReadOnlyFileOpensReadOnly) {
@@ -525,18 +505,17 @@ TEST_F(MainWindowTest, ACancelledDialogLeavesTheListAndItsSelectionAlone) {
 
 TEST_F(MainWindowTest, NewerValuesOfAnotherProgramAreAskedFor) {
     EditR0();
-    std::string theirs = host;
-    theirs.replace(theirs.find("=1.5\n"), 5, "=1.7\n");
+    const std::string theirs = Replaced(host, "=1.5\n", "=1.7\n");
     folder.Write("host.ini", theirs);
     QString text;
     WillAnswer(QMessageBox::Cancel, &text);
     Press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(text.contains(Path("host.ini")) && text.contains("\nProbe 1|")) << text.toStdString();
-    EXPECT_EQ(folder.Read("host.ini"), theirs);
+    EXPECT_EQ(File(), theirs);
     EXPECT_TRUE(window->isWindowModified());
     WillAnswer(QMessageBox::Save);
     Press(Qt::Key_S, Qt::ControlModifier);
-    EXPECT_NE(folder.Read("host.ini").find("=100.0123\n"), std::string::npos);
+    EXPECT_NE(File().find("=100.0123\n"), std::string::npos);
     EXPECT_FALSE(window->isWindowModified());
 }
 
@@ -725,6 +704,18 @@ TEST_F(MainWindowTest, ASectionOfTwoProbesIsNamedWhenItStopsASave) {
                   ": the section [P - Settings] belongs to \"P - Settings\" and to \"P\" at once, so it "
                   "can neither go nor get another name with one of them alone. Take that change back.");
     Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_FALSE(window->isWindowModified());
+}
+
+TEST_F(MainWindowTest, AProbeBelowABrokenHeaderIsToldWhenItsFileIsOpened) {
+    folder.Write("broken.ini", host + "\n[Probe 3\nConversionType=10\n");
+    QString text;
+    WillAnswer(QMessageBox::Ok, &text);
+    ASSERT_TRUE(window->OpenPath(Path("broken.ini")));
+    EXPECT_EQ(text, Path("broken.ini") +
+                        ": these section headers have no \"]\", so nobody can read the probes "
+                        "below them:|Line 25");
+    EXPECT_EQ(Names(), (QStringList{"Probe 1", "Probe 2"}));
     EXPECT_FALSE(window->isWindowModified());
 }
 

@@ -3,7 +3,7 @@
 #include "QuorConversions/rtd/CQuorCVD.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
-#include "tests/apps/quorconv/Quorconv.h"
+#include "tests/apps/probe-setup/HostFile.h"
 #include "toolkits/scripted/ScriptedPlatform.h"
 
 #include <gtest/gtest.h>
@@ -23,40 +23,14 @@ namespace {
 
 using Texts = std::vector<std::wstring>;
 
-const std::string host = "; The host's own file\n"
-                         "\n"
-                         "[Instrument]\n"
-                         "Port=COM3\n"
-                         "\n"
-                         "; the reference\n"
-                         "[Probe 1]\n"
-                         "Version=1.0\n"
-                         "ConversionType=2\n"
-                         "\n"
-                         "[Probe 1 - Settings]\n"
-                         "Version=1.0\n"
-                         "NumCoefficients=4\n"
-                         "UsePolynomial=False\n"
-                         "; as calibrated\n"
-                         "Coefficients0=100.0\n"
-                         "Coefficients1=3.9083E-3\n"
-                         "Coefficients2=1.5\n"
-                         "Coefficients3=0\n"
-                         "\n"
-                         "[Probe 2]\n"
-                         "Version=1.0\n"
-                         "ConversionType=10\n";
-
-/// A document on the file "host.ini" in a folder of the test's own, where quorconv runs too.
-class ProbeDocumentTest : public QuorconvTest {
+/// A document on the file "host.ini".
+class ProbeDocumentTest : public HostFileTest {
 protected:
-    void SetUp() override { folder.Write("host.ini", host); }
     void Open(const std::string& text) {
         folder.Write("host.ini", text);
         Open();
     }
     void Open() { document.Open(folder.Name("host.ini")); }
-    [[nodiscard]] std::string File() const { return folder.Read("host.ini"); }
     [[nodiscard]] Texts Names() const {
         Texts names;
         for (std::size_t i = 0; i < document.Count(); ++i)
@@ -103,12 +77,6 @@ protected:
     std::shared_ptr<Scripted::ScriptedPlatform> screen = std::make_shared<Scripted::ScriptedPlatform>();
     ProbeDocument document{screen};
 };
-
-std::string Replaced(std::string text, const std::string& from, const std::string& to) {
-    const auto at = text.find(from);
-    EXPECT_NE(at, std::string::npos) << from;
-    return at == std::string::npos ? text : text.replace(at, from.size(), to);
-}
 
 } // namespace
 
