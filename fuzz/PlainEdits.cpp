@@ -64,6 +64,10 @@ Body BodyBelow(const std::vector<PlainIni::Line>& lines, std::size_t header) {
 template <class Lines>
 void ClaimLines(const PlainIni& before, const Lines& expected, const PlainIni& after) {
     std::size_t added = 0;
+    std::size_t blanks = 0;
+    const auto countAdded = [&](const PlainIni::Line& line) {
+        ++(line.parsed.kind == IniLineKind::Blank ? blanks : added);
+    };
     const bool hasLastEnd = before.Lines().empty() || !before.Lines().back().end.empty();
     auto next = after.Lines().begin();
     for (std::size_t number = 0; number < before.Lines().size(); ++number) {
@@ -84,12 +88,13 @@ void ClaimLines(const PlainIni& before, const Lines& expected, const PlainIni& a
                        : other.content == content;
         };
         for (; next != after.Lines().end() && !isThisLine(*next); ++next)
-            ++added;
+            countAdded(*next);
         Claim(next != after.Lines().end(), "a line that nobody wrote or removed stands where it stood");
         ++next;
     }
-    added += static_cast<std::size_t>(after.Lines().end() - next);
-    Claim(added <= expected.mostAdded, "nothing is added but what was written, nothing removed is left");
+    std::for_each(next, after.Lines().end(), countAdded);
+    Claim(added == expected.added && blanks <= expected.mostBlanks,
+          "nothing is added but what was written, nothing removed is left");
     if (!before.Lines().empty() && !after.Lines().empty())
         Claim(after.Lines().back().end.empty() != hasLastEnd, "a text whose last line has no end stays one");
 }
@@ -252,10 +257,12 @@ PlainEdits::Lines PlainEdits::ExpectedLines(const PlainIni& old) const {
         if (!section.isNew && !section.isEmptied && line != old.Keys().end())
             expected.rewritten.insert(line->second);
         else
-            expected.mostAdded += 1;
-        if (section.isNew && added.insert(place.first).second)
-            expected.mostAdded += 2; // its header, and a blank line before it
+            expected.added += 1;
+        if (section.isNew)
+            added.insert(place.first);
     }
+    expected.added += added.size(); // their headers
+    expected.mostBlanks = added.size();
     return expected;
 }
 

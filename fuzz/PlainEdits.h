@@ -65,7 +65,8 @@ private:
     struct Lines {
         std::set<std::size_t> gone, rewritten;
         std::map<std::size_t, std::string> headers; // that have another name
-        std::size_t mostAdded = 0;
+        std::size_t added = 0;                      // that are not blank
+        std::size_t mostBlanks = 0;                 // that are added
     };
 
     [[nodiscard]] std::size_t Find(const std::wstring& name) const;
