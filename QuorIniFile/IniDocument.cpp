@@ -357,23 +357,42 @@ std::string IniDocument::Text() const {
 }
 
 std::optional<std::string> IniDocument::ApplyChangesTo(IniDocument& other) const {
-    // What was spelled for this text is spelled anew for one of another encoding.
-    const auto nameFor = [&other](std::string_view name) {
-        return IsAscii(name) ? std::string(name)
-                             : NameToWrite(DecodeBytes(name), other.Encoding()).value_or(std::string(name));
-    };
+    if (auto taken = ApplyMovesTo(other))
+        return taken;
     const auto textFor = [&other](std::string_view text) {
         return IsAscii(text) ? std::string(text) : EncodeText(DecodeText(text), other.Encoding());
     };
+    for (std::size_t number = 0; number < m_changes.Size(); ++number) {
+        const IniChanges::Change& change = m_changes[number];
+        if (change.section == IniChanges::none)
+            continue;
+        std::string buffer;
+        const std::string_view name = CanonicalName(Name(change.section), buffer);
+        std::optional<Section> section = other.FindSection(name);
+        if (!section)
+            section = other.AddSection(other.Spelling(Name(change.section)));
+
+        const IniLine line = ClassifyLine(m_changes.Line(change));
+        const IniCommentedValue parts = SplitComment(line.value);
+        IniNewValue value{change.isText ? textFor(line.value) : std::string(parts.plain), change.isText, {}};
+        if (change.hasComment)
+            value.comment = parts.comment;
+        std::string keyBuffer;
+        other.Write(*section, CanonicalName(line.name, keyBuffer), other.Spelling(line.name), value);
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> IniDocument::ApplyMovesTo(IniDocument& other) const {
     // Names that sections have here which are gone there. What has such a name there is somebody else's.
     std::vector<std::string_view> gone;
     for (const Move& move : m_moves) {
-        const auto isIt = [&move](std::string_view name) { return SameName(name, move.from); };
-        const auto known = std::find_if(gone.begin(), gone.end(), isIt);
-        const std::optional<Section> section =
-            known == gone.end() ? other.FindSection(move.from) : std::nullopt;
-        if (known != gone.end())
+        const auto known = std::find_if(gone.begin(), gone.end(),
+                                        [&move](std::string_view name) { return SameName(name, move.from); });
+        const bool isGone = known != gone.end();
+        if (isGone)
             gone.erase(known);
+        const std::optional<Section> section = isGone ? std::nullopt : other.FindSection(move.from);
         if (!section) {
             if (move.to)
                 gone.push_back(*move.to);
@@ -383,31 +402,18 @@ std::optional<std::string> IniDocument::ApplyChangesTo(IniDocument& other) const
             other.RemoveSection(*section);
             continue;
         }
-        const std::string name = nameFor(*move.to);
+        std::string name = other.Spelling(*move.to);
         std::string buffer;
         const std::optional<Section> holder = other.FindSection(CanonicalName(name, buffer));
         if ((holder && holder != section) || !other.RenameSection(*section, name))
             return name;
     }
-    for (std::size_t number = 0; number < m_changes.Size(); ++number) {
-        const IniChanges::Change& change = m_changes[number];
-        if (change.section == IniChanges::none)
-            continue;
-        std::string buffer;
-        const std::string_view name = CanonicalName(Name(change.section), buffer);
-        std::optional<Section> section = other.FindSection(name);
-        if (!section)
-            section = other.AddSection(nameFor(Name(change.section)));
-
-        const IniLine line = ClassifyLine(m_changes.Line(change));
-        const IniCommentedValue parts = SplitComment(line.value);
-        IniNewValue value{change.isText ? textFor(line.value) : std::string(parts.plain), change.isText, {}};
-        if (change.hasComment)
-            value.comment = parts.comment;
-        std::string keyBuffer;
-        other.Write(*section, CanonicalName(line.name, keyBuffer), nameFor(line.name), value);
-    }
     return std::nullopt;
+}
+
+std::string IniDocument::Spelling(std::string_view name) const {
+    return IsAscii(name) ? std::string(name)
+                         : NameToWrite(DecodeBytes(name), Encoding()).value_or(std::string(name));
 }
 
 } // namespace QuorIniFile

@@ -130,6 +130,10 @@ private:
     [[nodiscard]] bool Differs(const IniChanges::Change& change) const;
     /// The changes of sections that the text has, in the order of the text.
     [[nodiscard]] std::vector<Placed> PlacedChanges() const;
+    /// The removals and renamings alone.
+    [[nodiscard]] std::optional<std::string> ApplyMovesTo(IniDocument& other) const;
+    /// A name that was spelled for another text, in the encoding of this one.
+    [[nodiscard]] std::string Spelling(std::string_view name) const;
     /// What removals and new names make of the text, in its order.
     [[nodiscard]] std::vector<Patch> Patches() const;
 

@@ -304,9 +304,8 @@ QString MainWindow::Words(const DocumentError& error) {
     case Failure::CannotWrite:
         return tr("%1: the probe \"%2\" cannot be written:").arg(file, detail(0)) + lines(1);
     case Failure::SharedSection:
-        return tr("%1: the section [%2] belongs to \"%3\" and to \"%4\" at once, so it can neither go nor "
-                  "get "
-                  "another name with one of them alone. Take that change back.")
+        return tr("%1: the section [%2] belongs to \"%3\" and to \"%4\" at once, so it can neither "
+                  "go nor get another name with one of them alone. Take that change back.")
             .arg(file, detail(0), detail(1), detail(2));
     }
     return {};

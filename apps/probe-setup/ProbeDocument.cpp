@@ -644,8 +644,7 @@ void ProbeDocument::Apply(const std::shared_ptr<IniStore>& store, Extent extent)
         }
         store->Release();
     } catch (...) {
-        store->Discard();
-        store->Release();
+        store->Abandon();
         throw;
     }
 }
@@ -676,52 +675,60 @@ void ProbeDocument::MoveSections(IniStore& store) const {
 }
 
 ProbeDocument::Moves ProbeDocument::MovesIn(IniStore& store) const {
-    const auto moves = [](const Entry& entry) { return entry.IsRenamed() || entry.content.replacesRecord; };
-    const std::vector<const Entry*> removed = RemovedEntries();
-    if (removed.empty() && std::none_of(m_entries.begin(), m_entries.end(), moves))
+    const std::unordered_map<std::wstring, Owner> owners = Owners();
+    if (std::none_of(owners.begin(), owners.end(),
+                     [](const auto& owner) { return owner.second.Moves(true); }))
         return {};
-    struct Owner {
-        const Entry* entry;
-        bool isRemoved;
-    };
-    std::unordered_map<std::wstring, Owner> standing; // by the section
+    Moves moves;
+    for (const std::wstring& section : store.Sections()) {
+        std::vector<Owner> found;
+        const auto find = [&](std::wstring_view name) {
+            const auto owner = owners.find(Folded(std::wstring(name)));
+            if (owner == owners.end())
+                return;
+            found.push_back(owner->second);
+            moves.Add(owner->second, section, name.size());
+        };
+        find(section);
+        ForEachOwner(section, find);
+        RequireAgreement(section, found);
+    }
+    return moves;
+}
+
+std::unordered_map<std::wstring, ProbeDocument::Owner> ProbeDocument::Owners() const {
+    std::unordered_map<std::wstring, Owner> owners;
     for (const Entry& entry : m_entries) {
         if (!entry.isNew)
-            standing.emplace(Folded(entry.Section()), Owner{&entry, false});
+            owners.emplace(Folded(entry.Section()), Owner{&entry, false});
     }
-    for (const Entry* const entry : removed)
-        standing.emplace(Folded(entry->Section()), Owner{entry, true});
+    for (const Entry* const entry : RemovedEntries())
+        owners.emplace(Folded(entry->Section()), Owner{entry, true});
+    return owners;
+}
 
-    Moves result;
-    for (const std::wstring& section : store.Sections()) {
-        const Entry* moving = nullptr;
-        std::vector<const Entry*> staying; // those whose section it is afterwards too
-        const auto move = [&](std::wstring_view owner) {
-            const auto found = standing.find(Folded(std::wstring(owner)));
-            if (found == standing.end())
-                return;
-            const auto [entry, isRemoved] = found->second;
-            const std::wstring name = entry->name + section.substr(owner.size());
-            const bool isOutdated = entry->content.replacesRecord && section.size() > owner.size();
-            if (isRemoved)
-                result.removed.push_back(section);
-            else if (entry->IsRenamed())
-                result.renamed.emplace_back(section, name);
-            if (isOutdated && !isRemoved)
-                result.outdated.push_back(name);
-            if (isRemoved || entry->IsRenamed() || isOutdated)
-                moving = entry;
-            if (!isRemoved)
-                staying.push_back(entry);
-        };
-        move(section);
-        ForEachOwner(section, move);
-        for (const Entry* const other : staying) {
-            if (moving && other != moving)
-                throw DocumentError{Failure::SharedSection, m_path, {section, moving->name, other->name}};
+void ProbeDocument::Moves::Add(const Owner& owner, const std::wstring& section, std::size_t nameLength) {
+    const std::wstring name = owner.entry->name + section.substr(nameLength);
+    if (owner.isRemoved) {
+        removed.push_back(section);
+        return;
+    }
+    if (owner.entry->IsRenamed())
+        renamed.emplace_back(section, name);
+    if (owner.entry->content.replacesRecord && section.size() > nameLength)
+        outdated.push_back(name);
+}
+
+void ProbeDocument::RequireAgreement(const std::wstring& section, const std::vector<Owner>& owners) const {
+    for (const Owner& moving : owners) {
+        if (!moving.Moves(!SameName(section, moving.entry->Section())))
+            continue;
+        for (const Owner& other : owners) {
+            if (other.entry != moving.entry && !other.isRemoved)
+                throw DocumentError{
+                    Failure::SharedSection, m_path, {section, moving.entry->name, other.entry->name}};
         }
     }
-    return result;
 }
 
 void ProbeDocument::Write(const std::shared_ptr<IniStore>& store, const Entry& entry) {

@@ -11,6 +11,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 #include <vector>
@@ -228,8 +229,22 @@ private:
 
     enum class Extent { Changes, AllProbes };
     void Apply(const std::shared_ptr<QuorIniFile::IniStore>& store, Extent extent);
+    /// A probe that stood in the file when it was read.
+    struct Owner {
+        const Entry* entry;
+        bool isRemoved;
+        /// Whether a section of it goes or gets another name.
+        [[nodiscard]] bool Moves(bool ofSettings) const {
+            return isRemoved || entry->IsRenamed() || (ofSettings && entry->content.replacesRecord);
+        }
+    };
+    /// By the folded names of their sections.
+    [[nodiscard]] std::unordered_map<std::wstring, Owner> Owners() const;
+    /// Raises DocumentError when a section would go or move with one of its owners, and is needed by another.
+    void RequireAgreement(const std::wstring& section, const std::vector<Owner>& owners) const;
     /// What is to become of the sections of a file, before anything is written into them.
     struct Moves {
+        void Add(const Owner& owner, const std::wstring& section, std::size_t nameLength);
         std::vector<std::wstring> removed;
         std::vector<std::pair<std::wstring, std::wstring>> renamed; // from, to
         std::vector<std::wstring> outdated; // under their new names: settings of another conversion

@@ -628,6 +628,12 @@ TEST_F(ProbeDocumentTest, ASectionOfTwoProbesIsNotTakenFromOneOfThem) {
     expectRefused([&] { document.Rename(0, L"Other"); },
                   {L"Probe 1 - Settings", L"Other", L"Probe 1 - Settings"});
     expectRefused([&] { document.SetType(0, CONV_OHMS); }, ofTheFirst);
+    expectRefused(
+        [&] {
+            document.Remove({0});
+            document.Rename(0, L"Other");
+        },
+        {L"Probe 1 - Settings", L"Probe 1", L"Other"});
 
     Open(text);
     EXPECT_TRUE(Edit(0, TypeR0)) << "values can be changed all the same";
