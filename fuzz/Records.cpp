@@ -1,5 +1,6 @@
 // Any file, read as the record of a conversion of every type: no crash, no exception, and a record that was
-// read is written and read again as the same one.
+// read is written and read again as the same one. What has been read in part may be impossible to write: that
+// is told, and nothing is written.
 
 #include "QuorConversions/core/CQuorConversion.h"
 #include "QuorConversions/platform/HeadlessPlatform.h"
@@ -16,17 +17,23 @@ constexpr const wchar_t* section = L"Probe";
 /// Nobody reads the reports.
 class Silent final : public HeadlessPlatform {
 public:
-    void ShowMessage(const MessageRequest& /*request*/) override {}
+    void ShowMessage(const MessageRequest& /*request*/) override { ++m_reports; }
+    [[nodiscard]] std::size_t Reports() const { return m_reports; }
+
+private:
+    std::size_t m_reports = 0;
 };
 
-/// What `object` puts into an empty file.
+/// What `object` puts into an empty file; nothing when it cannot be written.
 template <class Object>
-std::string Record(const Object& object, const TempFolder& folder) {
+std::string Record(const Object& object, const TempFolder& folder, const Silent& platform) {
     std::filesystem::remove(folder.Path("record.ini"));
     std::shared_ptr<QuorIniFile::INIFile> builtIn;
+    const std::size_t before = platform.Reports();
     object.WriteToFile(builtIn, folder.Name("record.ini"), section);
-    Claim(std::filesystem::exists(folder.Path("record.ini")), "whatever was read can be written");
-    return folder.Read("record.ini");
+    const bool isWritten = std::filesystem::exists(folder.Path("record.ini"));
+    Claim(isWritten == (platform.Reports() == before), "a record is written, or it is told why it is not");
+    return isWritten ? folder.Read("record.ini") : "";
 }
 
 template <class Object>
@@ -38,32 +45,32 @@ bool ReadFrom(Object& object, const std::wstring& fileName) {
 /// Reads the file into `object`, and what the object writes then into `other`, which was made in the same
 /// way.
 template <class Object>
-void ReadWriteRead(Object& object, Object& other, const TempFolder& folder) {
+void ReadWriteRead(Object& object, Object& other, const TempFolder& folder, const Silent& platform) {
     const bool complete = ReadFrom(object, folder.Name("fuzz.ini"));
-    const std::string record = Record(object, folder);
+    const std::string record = Record(object, folder, platform);
     const bool again = ReadFrom(other, folder.Name("record.ini"));
     Claim(again || !complete, "a complete record is written as a complete record");
     if (again)
-        Claim(Record(other, folder) == record, "a record comes back as it was written");
+        Claim(Record(other, folder, platform) == record, "a record comes back as it was written");
 }
 
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const TempFolder folder;
-    static const std::shared_ptr<Platform> platform = std::make_shared<Silent>();
+    static const std::shared_ptr<Silent> platform = std::make_shared<Silent>();
     folder.Write("fuzz.ini", Fuzz::Bytes(data, size));
 
     CQuorConversion conversion(platform);
     CQuorConversion other(platform);
-    ReadWriteRead(conversion, other, folder);
+    ReadWriteRead(conversion, other, folder, *platform);
     // And the file's section as that of the settings of each type, whatever type it names.
     for (std::int32_t type = CONV_NONE; type <= CONV_TCTYPEPOLY; ++type) {
         conversion.SetConversionType(static_cast<EQuorConversionType>(type));
         other.SetConversionType(CONV_NONE);
         other.SetConversionType(static_cast<EQuorConversionType>(type));
         if (conversion.Settings())
-            ReadWriteRead(*conversion.Settings(), *other.Settings(), folder);
+            ReadWriteRead(*conversion.Settings(), *other.Settings(), folder, *platform);
     }
     return 0;
 }
