@@ -183,7 +183,8 @@ bool AreOneName(std::string_view name, std::string_view wanted) {
     // Latin-1 takes fewer bytes than UTF-8, so names of one length are compared for good.
     if (name.size() == wanted.size())
         return EqualFolded(name, wanted);
-    if (name.size() > wanted.size() || IsAscii(wanted))
+    // Many short names are compared with one that may be very long: the look is at the short one.
+    if (name.size() > wanted.size() || IsAscii(name))
         return false;
     std::string buffer;
     return EqualFolded(CanonicalName(name, buffer), wanted);

@@ -31,7 +31,7 @@ std::string Many(int count, std::string_view part) {
 
 /// The processor time of opening a file, reading a key, changing one and saving, in seconds: the shortest of
 /// a few rounds, so that the work of other programs does not count.
-double TimeOf(const std::string& text) {
+double TimeOf(const std::string& text, const std::wstring& section = L"A") {
     Support::InterceptedFiles files;
     files.flushes = false;
     double best = std::numeric_limits<double>::infinity();
@@ -41,7 +41,7 @@ double TimeOf(const std::string& text) {
         const std::clock_t start = std::clock();
         IniStore store(files);
         store.SetFileName(folder.Name("a.ini"));
-        store.SetSection(L"A");
+        store.SetSection(section);
         std::int16_t value = 0;
         static_cast<void>(store.ReadInteger(L"x", value));
         store.WriteInteger(L"y", 12345, L"");
@@ -225,6 +225,14 @@ TEST_F(IniStoreHostile, ManyOfAnythingTakeTimeInProportion) {
         SCOPED_TRACE(name);
         ExpectLinear(text, 10'000);
     }
+}
+
+TEST_F(IniStoreHostile, ALongNameBehindManyShortOnesIsFoundInProportion) {
+    const auto time = [](int count) {
+        const std::string name = Many(50 * count, "x");
+        return TimeOf(Many(count, "[y]\n") + '[' + name + "]\n", std::wstring(name.begin(), name.end()));
+    };
+    EXPECT_LT(time(16'000), 10 * time(4000));
 }
 
 TEST_F(IniStoreHostile, AHundredThousandKeysOfOneNameHideAllButTheFirst) {
