@@ -73,10 +73,7 @@ std::string_view IniDocument::Name(Section section) const {
 }
 
 bool IniDocument::IsThere(Section section) const {
-    if (IsNew(section))
-        return m_changes.FirstOf(section) != IniChanges::none;
-    const Edit* const edit = EditOf(section);
-    return !edit || !edit->isRemoved;
+    return HasKeysInText(section) || m_changes.FirstOf(section) != IniChanges::none;
 }
 
 bool IniDocument::IsCalled(Section section, std::string_view name) const {
@@ -87,7 +84,7 @@ bool IniDocument::HasKeysInText(Section section) const {
     if (IsNew(section))
         return false;
     const Edit* const edit = EditOf(section);
-    return !edit || !edit->isEmptied;
+    return !edit || !edit->isRemoved;
 }
 
 std::optional<IniDocument::Section> IniDocument::FindSection(std::string_view name) const {
@@ -109,13 +106,8 @@ IniDocument::Section IniDocument::AddSection(std::string_view name) {
     auto old = m_edits.empty() ? std::nullopt : m_sections.Find(m_text, canonical);
     if (!old || !hadTheName(*old))
         old = m_newNames.Find(hash, hadTheName);
-    if (old) {
-        if (const auto edit = m_edits.find(*old); edit != m_edits.end()) {
-            edit->second.isRemoved = false;
-            edit->second.isEmptied = true;
-        }
+    if (old)
         return *old;
-    }
     const std::size_t first = m_sections.Count(m_text);
     const std::size_t number = first + m_newSections.size();
     if (number >= IniChanges::none)
@@ -153,7 +145,7 @@ IniDocument::Edit& IniDocument::Note(Section section, std::optional<std::string>
     std::string buffer;
     m_moves.push_back({std::string(CanonicalName(Name(section), buffer)), std::move(to)});
     try {
-        return m_edits.try_emplace(section, Edit{false, false, std::string(Name(section))}).first->second;
+        return m_edits.try_emplace(section, Edit{false, std::string(Name(section))}).first->second;
     } catch (...) {
         m_moves.pop_back();
         throw;
@@ -161,11 +153,8 @@ IniDocument::Edit& IniDocument::Note(Section section, std::optional<std::string>
 }
 
 void IniDocument::RemoveSection(Section section) {
-    if (!IsNew(section)) {
-        Edit& edit = Note(section, std::nullopt);
-        edit.isRemoved = true;
-        edit.isEmptied = false;
-    }
+    if (!IsNew(section))
+        Note(section, std::nullopt).isRemoved = true;
     for (std::uint32_t number = m_changes.FirstOf(section); number != IniChanges::none;
          number = m_changes[number].next)
         m_differing -= Differs(m_changes[number]) ? 1 : 0;
@@ -188,7 +177,7 @@ bool IniDocument::RenameSection(Section section, std::string_view name) {
     m_newNames.Add(hash, section);
     Edit& edit = Note(section, spelling);
     edit.name = std::move(spelling);
-    if (!edit.isEmptied && std::all_of(headers.begin(), headers.end(),
+    if (!edit.isRemoved && std::all_of(headers.begin(), headers.end(),
                                        [&](const IniHeader& header) { return header.name == name; }))
         m_edits.erase(section);
     return true;
@@ -291,11 +280,11 @@ std::vector<IniDocument::Patch> IniDocument::Patches() const {
         if (!edit)
             continue;
         const bool isFirst = m_sections.Name(m_text, *section).data() == name->data();
-        if (edit->isRemoved || (edit->isEmptied && !isFirst)) {
+        if (edit->isRemoved && !(isFirst && IsThere(*section))) {
             removed.push_back(SectionExtent(m_text, headers, number));
             continue;
         }
-        if (edit->isEmptied)
+        if (edit->isRemoved)
             removed.push_back(BodyExtent(m_text, headers, number));
         if (name != edit->name) {
             const std::size_t start = headers[number].start + 1;

@@ -97,8 +97,7 @@ private:
     };
     /// What has become of a section of the text. Later ones of its name share its lot.
     struct Edit {
-        bool isRemoved = false;
-        bool isEmptied = false; // it was removed and has come back, without the later ones of its name
+        bool isRemoved = false; // with all its keys; a key that is written brings it back, and it alone
         std::string name;       // as it stands now
     };
     /// A removal (without `to`) or a renaming, in the order in which they were asked for.

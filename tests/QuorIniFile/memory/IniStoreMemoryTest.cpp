@@ -228,6 +228,28 @@ TEST(IniStoreMemory, SectionsAreRemovedAndRenamedOrNot) {
              10);
 }
 
+TEST(IniStoreMemory, ARemovedSectionComesBackWithItsFirstKeyOrNotAtAll) {
+    const std::string removed = "; mine, \xE4\r\n[A]\r\nx=1\r\nname=\xB0\r\n";
+    FailEach(
+        [](Scene& scene) {
+            scene.store->Hold();
+            scene.store->RemoveSection(L"B");
+        },
+        [](Scene& scene) {
+            scene.store->SetSection(L"B");
+            scene.store->WriteInteger(L"a key that is longer than a short one", 2, L"");
+        },
+        [](Scene& scene) {
+            FileIsAsBefore(scene);
+            EXPECT_EQ(scene.store->Sections(), std::vector<std::wstring>{L"A"});
+        },
+        [&](Scene& scene) {
+            scene.store->Release();
+            EXPECT_EQ(scene.File(), removed + "\r\n[B]\r\na key that is longer than a short one=2\r\n");
+        },
+        5);
+}
+
 TEST(IniStoreMemory, ASaveOfRemovedAndRenamedSectionsFailsClearly) {
     const std::string after = "; mine, \xE4\r\n[C]\r\nx=1\r\nname=\xB0\r\n";
     FailEach(
