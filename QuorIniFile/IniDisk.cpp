@@ -89,8 +89,13 @@ auto Uninterrupted(const Call& call) {
 
 // Files ----------------------------------------------------------------------------------------------------
 
+/// The stamp of a file whose status was asked just now.
 IniStamp StampFrom(const IniFileStatus& status) {
-    return {true, status.device, status.inode, status.size, status.seconds, status.nanoseconds};
+    constexpr std::int64_t coarsestTick = 2;
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    const bool isSettled =
+        std::chrono::duration_cast<std::chrono::seconds>(now).count() > status.seconds + coarsestTick;
+    return {true, status.device, status.inode, status.size, status.seconds, status.nanoseconds, isSettled};
 }
 
 /// A file system and the file whose errors are to be told.
@@ -264,8 +269,9 @@ std::optional<IniFileBytes> ReadBytes(std::wstring_view fileName, IniFileSystem&
         const auto regular = OpenRegular(path, target);
         if (!regular)
             return std::nullopt;
-        IniFileBytes result{ReadAll(*regular, target), StampFrom(regular->status)};
-        if (reading == mostReadings || result.stamp == StampFrom(StatusOf(regular->file, target, Deed::Read)))
+        const IniStamp stamp = StampFrom(regular->status); // before reading, which takes time
+        IniFileBytes result{ReadAll(*regular, target), stamp};
+        if (reading == mostReadings || stamp == StampFrom(StatusOf(regular->file, target, Deed::Read)))
             return result;
         files.Pause(std::chrono::milliseconds(1));
     }
@@ -274,13 +280,6 @@ std::optional<IniFileBytes> ReadBytes(std::wstring_view fileName, IniFileSystem&
 IniStamp StampOf(std::wstring_view fileName, IniFileSystem& files) {
     const auto status = FindRegular(ToUtf8(fileName), {files, fileName});
     return status ? StampFrom(*status) : IniStamp{};
-}
-
-bool IsSettled(const IniStamp& stamp) {
-    constexpr std::int64_t coarsestTick = 2;
-    const auto now = std::chrono::system_clock::now().time_since_epoch();
-    return !stamp.exists ||
-           std::chrono::duration_cast<std::chrono::seconds>(now).count() > stamp.seconds + coarsestTick;
 }
 
 bool HasBytes(std::wstring_view fileName, std::string_view bytes, IniFileSystem& files) {
@@ -348,15 +347,17 @@ public:
         Write(bytes);
         Require([&] { return m_files.Sync(m_temporary.Get()); });
         // A change in the tick of the one before leaves no trace in the stamp.
-        if (m_old && read && !m_isSettled && !HasOnly(m_old->file, *read, Here()))
+        if (m_old && read && !m_stamp.isSettled && !HasOnly(m_old->file, *read, Here()))
             return std::nullopt;
         const auto now = FindRegular(m_path.string(), Here());
         if ((now ? StampFrom(*now) : IniStamp{}) != m_stamp)
             return std::nullopt;
         Require([&] { return m_files.Rename(m_temporaryPath, m_path.string()); });
         m_isOurs = false;
+        // Before the flush, which takes time: what another program makes of the file meanwhile is not ours.
+        const IniStamp stamp = StampFrom(StatusOf(m_temporary, Here(), Deed::Write));
         Require([&] { return m_files.SyncFolder(m_folder); });
-        return StampFrom(StatusOf(m_temporary, Here(), Deed::Write));
+        return stamp;
     }
 
 private:
@@ -396,7 +397,6 @@ private:
 
         m_old = OpenRegular(m_path.string(), Here());
         m_stamp = m_old ? StampFrom(m_old->status) : IniStamp{};
-        m_isSettled = IsSettled(m_stamp);
         if (m_old.has_value() == exists)
             return true;
         // It has come or gone meanwhile; the temporary file was made for the wrong readers.
@@ -487,8 +487,7 @@ private:
     bool m_isOurs = false;            // the temporary file: it was made, locked, and has still its name
     std::optional<RegularFile> m_old; // nothing when there is no file yet
     IniStamp m_stamp;
-    bool m_isSettled = false; // the stamp was, when it was taken
-    IniStamp m_firstSeen;     // of a temporary file that cannot be locked
+    IniStamp m_firstSeen; // of a temporary file that cannot be locked
 };
 
 IniReplacement::IniReplacement(std::wstring_view fileName, IniFileSystem& files)

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <tuple>
 
 // Files as the store needs them: read whole, replaced whole, by one process at a time. It knows nothing of
 // what the bytes mean. File names go to the system as UTF-8.
@@ -18,7 +19,7 @@
 namespace QuorIniFile {
 
 /// By what one tells that a file is still the one that was read. Other stamps: it may have changed. Equal
-/// ones: it has not, unless it was written at the very moment (see IsSettled).
+/// ones: it has not, if the older one is settled.
 struct IniStamp {
     bool exists = false;
     std::uint64_t device = 0;
@@ -26,8 +27,18 @@ struct IniStamp {
     std::uint64_t size = 0;
     std::int64_t seconds = 0; // of the last change of its bytes, name or rights
     std::int64_t nanoseconds = 0;
+    /// Whether every change of the file since this stamp was taken gives another one. Clocks of file systems
+    /// tick every few milliseconds, the coarsest every two seconds; a change in the same tick leaves no
+    /// trace.
+    bool isSettled = true;
 
-    friend bool operator==(const IniStamp&, const IniStamp&) = default;
+    friend bool operator==(const IniStamp& a, const IniStamp& b) {
+        const auto tell = [](const IniStamp& stamp) {
+            return std::tie(stamp.exists, stamp.device, stamp.inode, stamp.size, stamp.seconds,
+                            stamp.nanoseconds);
+        };
+        return tell(a) == tell(b);
+    }
 };
 
 struct IniFileBytes {
@@ -43,10 +54,6 @@ ReadBytes(std::wstring_view fileName, IniFileSystem& files = IniFileSystem::Syst
 /// The stamp of a file as it is now; that of a missing file says so.
 [[nodiscard]] QUORINIFILE_EXPORT IniStamp StampOf(std::wstring_view fileName,
                                                   IniFileSystem& files = IniFileSystem::System());
-
-/// Whether every change of the file from now on gives another stamp. Clocks of file systems tick every few
-/// milliseconds, the coarsest every two seconds; a change in the same tick leaves no trace.
-[[nodiscard]] QUORINIFILE_EXPORT bool IsSettled(const IniStamp& stamp);
 
 /// Whether the file has these very bytes; a missing file has none.
 [[nodiscard]] QUORINIFILE_EXPORT bool HasBytes(std::wstring_view fileName, std::string_view bytes,

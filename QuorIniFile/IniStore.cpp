@@ -195,11 +195,11 @@ public:
         const IniStamp now = StampOf(m_fileName, m_files);
         if (now.exists != m_stamp.exists)
             return true;
-        if (now == m_stamp && m_isSettled)
+        if (now == m_stamp && m_stamp.isSettled)
             return false;
         if (!HasBytes(m_fileName, m_document->BaseText(), m_files))
             return true;
-        Remember(now);
+        m_stamp = now;
         return false;
     }
 
@@ -246,12 +246,7 @@ private:
         static_assert(std::is_nothrow_move_assignable_v<IniDocument>);
         m_document = std::move(document);
         m_number.reset();
-        Remember(stamp);
-    }
-
-    void Remember(const IniStamp& stamp) noexcept {
         m_stamp = stamp;
-        m_isSettled = IsSettled(stamp);
     }
 
     /// Raises when a section cannot get its new name there.
@@ -367,7 +362,6 @@ private:
     bool m_hasSectionName = true;                 // unless no file can hold it
     std::optional<IniDocument> m_document;        // nothing until the file is loaded
     IniStamp m_stamp;                             // of the file that the document was read from
-    bool m_isSettled = false;                     // the stamp was, when it was taken
     std::optional<IniDocument::Section> m_number; // of the selected section, once it was found
     bool m_hasFailed = false;                     // a save of all that is written
     std::size_t m_holds = 0;

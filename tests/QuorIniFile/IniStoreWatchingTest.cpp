@@ -3,12 +3,15 @@
 #include "QuorIniFile/IniStore.h"
 
 #include "QuorIniFile/QuorError.h"
+#include "tests/support/InterceptedFiles.h"
+#include "tests/support/SimulatedDisk.h"
 #include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 #include <sys/stat.h>
 
@@ -69,6 +72,24 @@ TEST_F(IniStoreWatching, EveryOtherTextIsAChangeEvenOfTheSameLengthInTheSameMome
         File("[A]\nx=2\n");
         ASSERT_TRUE(store.FileChanged());
     }
+}
+
+TEST(IniStoreWatchingASave, SeesWhatAnotherProgramMakesOfTheFileWhileTheFolderIsFlushed) {
+    Support::SimulatedDisk disk(Support::SimulatedDisk::Files{{"/a.ini", "[A]\nx=1\n"}});
+    Support::InterceptedFiles files(disk);
+    IniStore store(files);
+    store.SetFileName(L"/a.ini");
+    store.SetSection(L"A");
+    files.onCall = [&disk](std::string_view call) {
+        if (call == "SyncFolder")
+            disk.Rewrite("/a.ini", "[A]\nx=3\n");
+        return 0;
+    };
+    store.WriteInteger(L"x", 2, L"");
+    files.onCall = [](std::string_view) { return 0; };
+    EXPECT_TRUE(store.FileChanged());
+    store.WriteInteger(L"x", 2, L"");
+    EXPECT_EQ(disk.Now().at("/a.ini"), "[A]\nx=2\n") << "what stood there for us is not what stands there";
 }
 
 TEST_F(IniStoreWatching, TheSameTextIsNoChangeHoweverItCame) {
