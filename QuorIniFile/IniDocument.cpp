@@ -48,6 +48,23 @@ bool CanHaveName(std::string_view text, const IniHeader& header, std::string_vie
     return ClassifyLine(line).name == name;
 }
 
+// What was spelled for another text is spelled anew for that of a document, which may have another encoding.
+
+std::string NameFor(const IniDocument& document, std::string_view name) {
+    if (IsAscii(name))
+        return std::string(name);
+    return NameToWrite(DecodeBytes(name), document.Encoding()).value_or(std::string(name));
+}
+
+std::string TextFor(const IniDocument& document, std::string_view text) {
+    return IsAscii(text) ? std::string(text) : EncodeText(DecodeText(text), document.Encoding());
+}
+
+std::string CommentFor(const IniDocument& document, std::string_view comment) {
+    return IsAscii(comment) ? std::string(comment)
+                            : FormatComment(DecodeBytes(comment.substr(1)), document.Encoding());
+}
+
 } // namespace
 
 IniDocument::IniDocument(std::string text) : m_text(std::move(text)) {}
@@ -348,9 +365,6 @@ std::string IniDocument::Text() const {
 std::optional<std::string> IniDocument::ApplyChangesTo(IniDocument& other) const {
     if (auto taken = ApplyMovesTo(other))
         return taken;
-    const auto textFor = [&other](std::string_view text) {
-        return IsAscii(text) ? std::string(text) : EncodeText(DecodeText(text), other.Encoding());
-    };
     for (std::size_t number = 0; number < m_changes.Size(); ++number) {
         const IniChanges::Change& change = m_changes[number];
         if (change.section == IniChanges::none)
@@ -359,15 +373,16 @@ std::optional<std::string> IniDocument::ApplyChangesTo(IniDocument& other) const
         const std::string_view name = CanonicalName(Name(change.section), buffer);
         std::optional<Section> section = other.FindSection(name);
         if (!section)
-            section = other.AddSection(other.Spelling(Name(change.section)));
+            section = other.AddSection(NameFor(other, Name(change.section)));
 
         const IniLine line = ClassifyLine(m_changes.Line(change));
         const IniCommentedValue parts = SplitComment(line.value);
-        IniNewValue value{change.isText ? textFor(line.value) : std::string(parts.plain), change.isText, {}};
+        IniNewValue value{
+            change.isText ? TextFor(other, line.value) : std::string(parts.plain), change.isText, {}};
         if (change.hasComment)
-            value.comment = parts.comment;
+            value.comment = CommentFor(other, parts.comment);
         std::string keyBuffer;
-        other.Write(*section, CanonicalName(line.name, keyBuffer), other.Spelling(line.name), value);
+        other.Write(*section, CanonicalName(line.name, keyBuffer), NameFor(other, line.name), value);
     }
     return std::nullopt;
 }
@@ -391,18 +406,13 @@ std::optional<std::string> IniDocument::ApplyMovesTo(IniDocument& other) const {
             other.RemoveSection(*section);
             continue;
         }
-        std::string name = other.Spelling(*move.to);
+        std::string name = NameFor(other, *move.to);
         std::string buffer;
         const std::optional<Section> holder = other.FindSection(CanonicalName(name, buffer));
         if ((holder && holder != section) || !other.RenameSection(*section, name))
             return name;
     }
     return std::nullopt;
-}
-
-std::string IniDocument::Spelling(std::string_view name) const {
-    return IsAscii(name) ? std::string(name)
-                         : NameToWrite(DecodeBytes(name), Encoding()).value_or(std::string(name));
 }
 
 } // namespace QuorIniFile

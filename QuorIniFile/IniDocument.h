@@ -131,8 +131,6 @@ private:
     [[nodiscard]] std::vector<Placed> PlacedChanges() const;
     /// The removals and renamings alone.
     [[nodiscard]] std::optional<std::string> ApplyMovesTo(IniDocument& other) const;
-    /// A name that was spelled for another text, in the encoding of this one.
-    [[nodiscard]] std::string Spelling(std::string_view name) const;
     /// What removals and new names make of the text, in its order.
     [[nodiscard]] std::vector<Patch> Patches() const;
 

@@ -237,6 +237,7 @@ TEST_F(IniStoreSaving, WhatIsHeldIsSpelledInTheEncodingThatTheFileHasWhenItIsSav
         store->Hold();
         store->WriteString(L"x", L"20 \u00B0C");
         store->WriteString(L"\u00D6l", L"\u2126");
+        store->WriteInteger(L"n", 1, L"at 20 \u00B0");
         store->SetSection(L"K\u00FChlung");
         store->WriteString(L"y", L"1");
         store->SetSection(L"A");
@@ -246,7 +247,7 @@ TEST_F(IniStoreSaving, WhatIsHeldIsSpelledInTheEncodingThatTheFileHasWhenItIsSav
     File(latin1);
     store->Release();
     EXPECT_EQ(File(), "; K\xF6ln\n[A]\nx=20 \xB0"
-                      "C\n\xD6l=\"\\u{2126}\"\n\n[K\xFChlung]\ny=1\n");
+                      "C\n\xD6l=\"\\u{2126}\"\nn=1 ; at 20 \xB0\n\n[K\xFChlung]\ny=1\n");
 
     File(latin1);
     store->Reload();
@@ -254,7 +255,7 @@ TEST_F(IniStoreSaving, WhatIsHeldIsSpelledInTheEncodingThatTheFileHasWhenItIsSav
     File(utf8);
     store->Release();
     EXPECT_EQ(File(), "; K\xC3\xB6ln\n[A]\nx=20 \xC2\xB0"
-                      "C\n\xC3\x96l=\"\\u{2126}\"\n\n[K\xC3\xBChlung]\ny=1\n");
+                      "C\n\xC3\x96l=\"\\u{2126}\"\nn=1 ; at 20 \xC2\xB0\n\n[K\xC3\xBChlung]\ny=1\n");
 }
 
 TEST_F(IniStoreSaving, AfterAnotherProgramHasWrittenTheSameNothingIsSaved) {
