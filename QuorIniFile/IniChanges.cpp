@@ -82,16 +82,16 @@ void IniChanges::Add(Change change, std::string_view key, std::string_view line)
     auto chain = ChainOf(change.section);
     // Whatever may fail comes first.
     if (!chain) {
-        m_chainOfSection.Reserve(m_chains.size() + 1);
-        m_chains.push_back({change.section, none, none, 0});
+        m_chainOfSection.Reserve(1);
+        m_chains.push_back({change.section});
         chain = m_asked = static_cast<std::uint32_t>(m_chains.size() - 1);
         m_chainOfSection.Add(HashOf(change.section), *chain);
     }
     Chain& written = m_chains[*chain];
-    if (written.count == few)
+    if (written.count == few && !written.isIndexed)
         IndexChain(written);
-    if (written.count >= few)
-        m_keys.Reserve(m_changes.size() + 1);
+    if (written.isIndexed)
+        m_keys.Reserve(1);
     m_changes.push_back(change);
     Change& added = m_changes.back();
     added.start = m_lines.size();
@@ -111,13 +111,14 @@ void IniChanges::Add(Change change, std::string_view key, std::string_view line)
         m_keys.Add(HashOf(change.section, key), number);
 }
 
-void IniChanges::IndexChain(const Chain& chain) {
-    m_keys.Reserve(m_changes.size() + 1);
+void IniChanges::IndexChain(Chain& chain) {
+    m_keys.Reserve(few + 1);
     for (std::uint32_t number = chain.first; number != none; number = m_changes[number].next) {
         std::string buffer;
         const Change& change = m_changes[number];
         m_keys.Add(HashOf(chain.section, CanonicalName(Name(change), buffer)), number);
     }
+    chain.isIndexed = true;
 }
 
 void IniChanges::Rewrite(std::uint32_t number, std::string_view line, bool isText, bool hasComment) {
@@ -143,7 +144,7 @@ void IniChanges::Drop(std::uint32_t section) noexcept {
         change = {};
         change.section = none;
     }
-    chain = {section, none, none, 0};
+    chain = {section};
 }
 
 void IniChanges::ThrowOutWaste() {

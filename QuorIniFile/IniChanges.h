@@ -55,6 +55,7 @@ private:
     /// What was written into one section, in order.
     struct Chain {
         std::uint32_t section = 0, first = none, last = none, count = 0;
+        bool isIndexed = false;
     };
 
     [[nodiscard]] std::optional<std::uint32_t> ChainOf(std::uint32_t section) const;
@@ -64,7 +65,7 @@ private:
     [[nodiscard]] bool IsNamed(const Change& change, std::string_view key) const;
     void Put(Change& change, std::string_view line);
     void ThrowOutWaste();
-    void IndexChain(const Chain& chain);
+    void IndexChain(Chain& chain);
 
     std::vector<Change> m_changes;
     std::vector<Chain> m_chains;

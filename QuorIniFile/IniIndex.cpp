@@ -89,15 +89,15 @@ std::uint64_t HashName(std::string_view name) {
 }
 
 void IniIndex::Add(std::uint64_t hash, std::uint32_t number) {
-    Reserve(m_count + 1);
+    Reserve(1);
     Put({static_cast<std::uint32_t>(hash), number});
     ++m_count;
 }
 
-void IniIndex::Reserve(std::size_t count) {
+void IniIndex::Reserve(std::size_t more) {
     constexpr std::size_t fewest = 16;
     std::size_t size = m_slots.empty() ? fewest : m_slots.size();
-    while (count * 3 > size * 2)
+    while ((m_count + more) * 3 > size * 2)
         size *= 2;
     if (size == m_slots.size())
         return;

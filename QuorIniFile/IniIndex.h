@@ -34,8 +34,8 @@ public:
     /// Adds a number below 2^32 - 1. The caller has made sure that its name is not there yet.
     void Add(std::uint64_t hash, std::uint32_t number);
 
-    /// Makes room for `count` numbers in one step.
-    void Reserve(std::size_t count);
+    /// Makes room for so many more numbers in one step: adding them needs no memory then.
+    void Reserve(std::size_t more);
 
 private:
     static constexpr std::uint32_t unused = 0xFFFFFFFF;

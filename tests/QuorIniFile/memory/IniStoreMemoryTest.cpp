@@ -158,6 +158,32 @@ TEST(IniStoreMemory, ARecordOfManyKeysIsKeptWholeUntilThereIsMemoryToSaveIt) {
         15);
 }
 
+TEST(IniStoreMemory, EachKeyStandsOnceHoweverOftenMemoryWasMissingForIt) {
+    Scene scene(text);
+    scene.store->Hold();
+    std::string keys = "x=1\r\nname=\xB0\r\n";
+    std::size_t failures = 0;
+    for (std::int16_t i = 0; i < 200; ++i) {
+        const std::wstring key = L"Coefficients" + std::to_wstring(i);
+        for (bool failed = true; failed;) {
+            // Each allocation of the write fails before it goes well.
+            static std::size_t left = 0;
+            FailingMemory memory(left, false);
+            try {
+                scene.store->WriteInteger(key, i, L"");
+            } catch (const std::bad_alloc&) {
+                ++failures;
+            }
+            failed = memory.HasFailed();
+            left = failed ? left + 1 : 0;
+        }
+        keys += "Coefficients" + std::to_string(i) + "=" + std::to_string(i) + "\r\n";
+    }
+    EXPECT_GT(failures, 10U);
+    scene.store->Release();
+    EXPECT_EQ(scene.File(), With("x=1\r\nname=\xB0\r\n", keys));
+}
+
 TEST(IniStoreMemory, TheKeysOfAnotherProgramAreSafeToo) {
     const std::string theirs = With("x=1", "z=9\r\nx=1");
     FailEach(
