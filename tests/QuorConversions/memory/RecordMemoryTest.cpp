@@ -16,6 +16,13 @@ using Support::FailingMemory;
 
 namespace {
 
+/// Counts the messages.
+class CountingPlatform : public HeadlessPlatform {
+public:
+    void ShowMessage(const MessageRequest& /*request*/) override { ++messages; }
+    int messages = 0;
+};
+
 /// An ITS-90 conversion with a record of four sections in "host.ini".
 class Laboratory {
 public:
@@ -44,7 +51,8 @@ public:
     TempFolder folder;
     std::wstring name = folder.Name("host.ini");
     std::wstring section = L"Probe, whose name is not a short one";
-    CQuorConversion conversion{std::make_shared<HeadlessPlatform>()};
+    std::shared_ptr<CountingPlatform> platform = std::make_shared<CountingPlatform>();
+    CQuorConversion conversion{platform};
     std::shared_ptr<CQuorITS90> its90;
     std::string before;
 };
@@ -72,6 +80,8 @@ TEST(RecordMemory, ASaveWithoutMemoryLeavesTheOldFileOrTheCompleteNewOne) {
             const std::string file = laboratory.File();
             ASSERT_TRUE(file == complete || (failed && file == laboratory.before)) << at << ": " << file;
             oldFiles += file == laboratory.before ? 1 : 0;
+            // Where there is no memory at all there is none for the message either.
+            EXPECT_TRUE(lasting || file == complete || laboratory.platform->messages > 0) << at;
             EXPECT_EQ(laboratory.its90->RTPW(), 99.25);
             EXPECT_TRUE(laboratory.conversion.Changed());
             laboratory.Save();
