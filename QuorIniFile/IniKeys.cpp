@@ -69,12 +69,12 @@ bool IniKeys::AddToIndex(std::string_view text, std::string_view name) {
     };
     if (m_keys.size() >= tooLong)
         throw std::bad_alloc();
-    if (m_keys.size() == few && !m_isIndexed) {
+    if (!m_isIndexed) {
+        m_isIndexed = true; // so that Read forgets it also when memory ends on the way
         for (std::size_t number = 0; number < few; ++number) {
             std::string buffer;
             static_cast<void>(addIfFirst(CanonicalName(Name(text, m_keys[number]), buffer), number));
         }
-        m_isIndexed = true;
     }
     return addIfFirst(name, m_keys.size());
 }

@@ -43,7 +43,8 @@ public:
     ~IniStore() override;
 
     /// Remembers the name; the file is not touched. An empty name, or one that no file can have, is error 52.
-    /// Pending changes of another file are saved first, even when held. The same name changes nothing.
+    /// Pending changes of another file are saved first, even when held, unless a record among them was
+    /// abandoned. The same name changes nothing.
     void SetFileName(std::wstring_view fileName) override;
     [[nodiscard]] std::wstring_view FileName() const;
     /// Without a call the section without a name is selected.

@@ -101,6 +101,31 @@ TEST(IniStoreMemory, LoadingFailsClearlyAndLoadsTheNextTime) {
         FileIsAsBefore, FileIsAsBefore, 4);
 }
 
+TEST(IniStoreMemory, AnIndexOfKeysThatCouldNotBeFinishedIsForgotten) {
+    std::string file = "[A]\n";
+    for (int i = 0; i < 40; ++i)
+        file += "K" + std::to_string(i) + "=0\n";
+    file += "[C]\n";
+    for (int i = 0; i < 40; ++i) // K5 stands twice, the second time where it stands in A
+        file += (i == 1 || i == 5 ? "K5" : "X" + std::to_string(i)) + "=" + std::to_string(i) + "\n";
+    std::size_t failures = 0;
+    for (bool failed = true; failed;) {
+        const Scene scene(file);
+        FailingMemory memory(failures, false);
+        std::int16_t value = 0;
+        try {
+            static_cast<void>(scene.store->ReadInteger(L"K39", value));
+        } catch (const std::bad_alloc&) {
+        }
+        memory.Restore();
+        failed = memory.HasFailed();
+        failures += failed ? 1 : 0;
+        scene.store->SetSection(L"C");
+        EXPECT_EQ(scene.Read(L"K5"), 1) << failures;
+    }
+    EXPECT_GT(failures, 4U);
+}
+
 TEST(IniStoreMemory, SavingFailsClearlyAndSavesTheNextTime) {
     FailEach([](Scene& scene) { EXPECT_EQ(scene.Read(L"x"), 1); },
              [](Scene& scene) { scene.store->WriteInteger(L"x", 2, L"a comment"); },
