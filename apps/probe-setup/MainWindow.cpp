@@ -65,8 +65,9 @@ public:
     Message(QWidget* parent, Icon icon, const QString& text, const QString& more = {},
             StandardButtons buttons = Ok)
         : QMessageBox(icon, MainWindow::tr("Probe Setup"), text, buttons, parent) {
-        setTextFormat(Qt::PlainText);
         setInformativeText(more);
+        for (QLabel* const label : findChildren<QLabel*>()) // its own format is that of the first text alone
+            label->setTextFormat(Qt::PlainText);
         if (button(Ok))
             button(Ok)->setText(ToQt(TableText(IDS_OK_BUTTON)));
         if (button(Cancel))

@@ -592,6 +592,17 @@ TEST_F(MainWindowTest, NamesThatLookLikeMarkUpAreShownAsTheyAre) {
     });
     Press(Qt::Key_Insert);
     EXPECT_EQ(Names(), (QStringList{name, "Probe 2"}));
+
+    folder.Write("host.ini", host + "\n[<b>Probe</b> 3]\nConversionType=11\n");
+    WhenShown<QMessageBox>([&](QMessageBox& box) { // the name has been taken
+        EXPECT_TRUE(box.informativeText().contains(name)) << box.informativeText().toStdString();
+        for (const QLabel* const label : box.findChildren<QLabel*>())
+            EXPECT_TRUE(label->text().isEmpty() || label->textFormat() == Qt::PlainText)
+                << label->text().toStdString();
+        QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+    });
+    Press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(window->Document().Changed());
 }
 
 TEST_F(MainWindowTest, KeysGoOnAfterAFileThatCannotBeOpened) {
