@@ -81,6 +81,17 @@ bool IsReadOnlyFile(const std::wstring& path) {
            ::access(file.parent_path().c_str(), W_OK) != 0;
 }
 
+/// Whether two paths lead to one file, also when it is gone.
+bool IsSameFile(const std::wstring& a, const std::wstring& b) {
+    const auto place = [](const std::wstring& path) {
+        std::error_code error;
+        const fs::path full = fs::absolute(ToUtf8(path), error);
+        const fs::path found = fs::weakly_canonical(full, error);
+        return error ? full : found;
+    };
+    return place(a) == place(b);
+}
+
 /// A file in a folder of its own, which vanishes with it.
 class WorkFile {
 public:
@@ -753,13 +764,13 @@ void ProbeDocument::Settle() {
 }
 
 void ProbeDocument::SaveCopyAs(const std::wstring& path, OthersChanges others) {
-    std::error_code noSuchFile;
-    if (!m_path.empty() && fs::equivalent(ToUtf8(path), ToUtf8(m_path), noSuchFile)) {
+    const auto original = m_path.empty() ? std::nullopt : QuorIniFile::ReadBytes(m_path);
+    const bool isOwn = !m_path.empty() && IsSameFile(path, m_path);
+    if (isOwn && original) {
         Save(others);
         return;
     }
     const WorkFile work;
-    const auto original = m_path.empty() ? std::nullopt : QuorIniFile::ReadBytes(m_path);
     ReplaceBytes(work.Path(), original ? original->bytes : std::string());
     const auto store = std::make_shared<IniStore>();
     store->SetFileName(work.Path());
@@ -775,10 +786,13 @@ void ProbeDocument::SaveCopyAs(const std::wstring& path, OthersChanges others) {
         throw QuorError(error.Number(), error.Source(), text);
     }
     ReplaceBytes(path, QuorIniFile::ReadBytes(work.Path())->bytes);
-    if (!m_path.empty())
+    if (!m_path.empty() && !isOwn)
         return;
     Settle();
     m_path = path;
+    m_isReadOnly = false;
+    m_lostRecords.clear(); // nothing but probes stands in it
+    m_foreign.clear();
     m_store = std::make_shared<IniStore>();
     m_store->SetFileName(path);
     static_cast<void>(m_store->Sections()); // takes the text in

@@ -173,8 +173,9 @@ public:
     void Save(OthersChanges others = OthersChanges::Refuse);
     /// Saves the document, with all of the file around the probes, under another name, in place of what is
     /// there; without its surroundings, when its own file is gone. The document stays with its own file, if
-    /// it has one, and takes the new one otherwise. Raises what Save raises, and DocumentError when the file
-    /// is gone and a probe, whose text is lost with it, was not read wholly or is of an unknown type.
+    /// it has one, and takes the new one otherwise; a file of its own that was gone is its own again. Raises
+    /// what Save raises, and DocumentError when the file is gone and a probe, whose text is lost with it, was
+    /// not read wholly or is of an unknown type.
     void SaveCopyAs(const std::wstring& path, OthersChanges others = OthersChanges::Refuse);
 
     /// Whether `path` is a stand-alone settings file: by its extension, and because no host keeps probes in

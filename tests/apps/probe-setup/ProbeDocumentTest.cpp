@@ -394,6 +394,22 @@ TEST_F(ProbeDocumentTest, AFileThatIsGoneIsNotMadeAnewButAllProbesCanBeSavedElse
     EXPECT_NE(rescued.find("[Probe 2]\nVersion=1.0\nConversionType=10\n"), std::string::npos);
 }
 
+TEST_F(ProbeDocumentTest, AllProbesCanBeSavedInThePlaceOfTheFileThatIsGone) {
+    Open();
+    document.Add(L"Probe 3", CONV_VOLTS);
+    fs::remove(folder.Path("host.ini"));
+    document.SaveCopyAs(folder.Name("./host.ini"));
+    EXPECT_FALSE(document.Changed());
+    EXPECT_EQ(document.CheckName(L"Instrument"), NameProblem::None) << "the host's own section is gone";
+    const std::string rescued = File();
+    EXPECT_EQ(Quorconv({"list", "host.ini"}).out, "Probe 1\tCONV_CVD\tCallendar-Van Dusen\n"
+                                                  "Probe 2\tCONV_OHMS\tOhms\n"
+                                                  "Probe 3\tCONV_VOLTS\tVolts\n");
+    document.SetType(1, CONV_VOLTS);
+    document.Save();
+    EXPECT_EQ(File(), Replaced(rescued, "ConversionType=10", "ConversionType=11"));
+}
+
 TEST_F(ProbeDocumentTest, ACopyHasTheChangesAndTheFileHasNot) {
     Open();
     document.Rename(1, L"Second");
