@@ -149,11 +149,11 @@ std::vector<std::wstring> ReadProblems::Lines() const {
 }
 
 void ProbeDocument::Entry::SetName(std::wstring newName) {
-    if (!isNew && nameInFile.empty())
+    if (!isNew && !nameInFile)
         nameInFile = name;
     name = std::move(newName);
     if (name == nameInFile)
-        nameInFile.clear();
+        nameInFile.reset();
 }
 
 ProbeDocument::ProbeDocument(std::shared_ptr<Platform> platform,
@@ -753,7 +753,7 @@ void ProbeDocument::Write(const std::shared_ptr<IniStore>& store, const Entry& e
 
 void ProbeDocument::Settle() {
     for (Entry& entry : m_entries) {
-        entry.nameInFile.clear();
+        entry.nameInFile.reset();
         entry.isNew = false;
         entry.content.replacesRecord = false;
         if (entry.content.conversion)

@@ -196,11 +196,11 @@ private:
     };
     struct Entry {
         std::wstring name;
-        std::wstring nameInFile; // where it is another one
-        bool isNew = false;      // it has no record in the file
+        std::optional<std::wstring> nameInFile; // where it is another one
+        bool isNew = false;                     // it has no record in the file
         Content content;
-        [[nodiscard]] const std::wstring& Section() const { return nameInFile.empty() ? name : nameInFile; }
-        [[nodiscard]] bool IsRenamed() const { return !isNew && !nameInFile.empty(); }
+        [[nodiscard]] const std::wstring& Section() const { return nameInFile ? *nameInFile : name; }
+        [[nodiscard]] bool IsRenamed() const { return !isNew && nameInFile; }
         void SetName(std::wstring newName);
     };
     /// Something that was done. It holds what is not in the list at the moment, so that doing it and taking

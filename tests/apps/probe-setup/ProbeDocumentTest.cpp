@@ -686,6 +686,16 @@ TEST_F(ProbeDocumentTest, ANameInOtherLettersOfTheSameCaseIsARename) {
     EXPECT_EQ(document.Name(0), L"PROBE 1");
 }
 
+TEST_F(ProbeDocumentTest, AProbeWithoutANameCanGetOne) {
+    const std::string text = host + "\n[]\nConversionType=10\n";
+    Open(text);
+    ASSERT_EQ(Names(), (Texts{L"Probe 1", L"Probe 2", L""}));
+    document.Rename(2, L"Probe 3");
+    EXPECT_TRUE(document.IsChanged(2));
+    document.Save();
+    EXPECT_EQ(File(), Replaced(text, "[]", "[Probe 3]"));
+}
+
 TEST_F(ProbeDocumentTest, AProbeWhoseSettingsAreMissingIsToldAndLeftAlone) {
     const std::string text = host.substr(0, host.find("[Probe 1 - Settings]"));
     Open(text);
