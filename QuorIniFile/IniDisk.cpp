@@ -249,8 +249,7 @@ std::string TemporaryPathFor(const fs::path& path) {
     std::uint64_t number = 0xCBF29CE484222325U;
     for (const char c : path.filename().string()) {
         // Where the case of letters makes no difference, it must not make two locks.
-        const char small = c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-        number = (number ^ static_cast<unsigned char>(small)) * 0x100000001B3U;
+        number = (number ^ static_cast<unsigned char>(Small(c))) * 0x100000001B3U;
     }
     std::array<char, 16> digits{};
     char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number, 16).ptr;

@@ -39,11 +39,9 @@ IniLine ClassifyHeader(std::string_view header) {
     return {IniLineKind::Section, header.substr(1, close - 1), {}};
 }
 
-char Fold(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
-
 bool EqualFolded(std::string_view a, std::string_view b) {
     return a.size() == b.size() &&
-           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Fold(x) == Fold(y); });
+           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Small(x) == Small(y); });
 }
 
 std::wstring FromLatin1(std::string_view bytes) {

@@ -116,9 +116,8 @@ private:
 // Reading --------------------------------------------------------------------------------------------------
 
 bool EqualIgnoringCase(std::string_view a, std::string_view lower) {
-    return a.size() == lower.size() && std::equal(a.begin(), a.end(), lower.begin(), [](char x, char y) {
-               return (x >= 'A' && x <= 'Z' ? static_cast<char>(x + ('a' - 'A')) : x) == y;
-           });
+    return a.size() == lower.size() &&
+           std::equal(a.begin(), a.end(), lower.begin(), [](char x, char y) { return Small(x) == y; });
 }
 
 /// The number that all of `value` spells. from_chars knows no '+', and takes names that are none of ours.
@@ -137,15 +136,6 @@ std::optional<Number> ToNumber(std::string_view value) {
 }
 
 bool IsWide(std::uint32_t code) { return !wideIsUtf16 || code <= lastCharacter; }
-
-void AppendCode(std::wstring& text, std::uint32_t code) {
-    if (wideIsUtf16 && code > 0xFFFF) {
-        code -= 0x10000;
-        text += static_cast<wchar_t>(0xD800 + (code >> 10));
-        code = 0xDC00 + (code & 0x3FF);
-    }
-    text += static_cast<wchar_t>(code);
-}
 
 /// The code of the escape "u{HEX}" at the start of `escape`, and how long it is; nothing when it is none.
 std::optional<std::pair<std::uint32_t, std::size_t>> ReadHexEscape(std::wstring_view escape) {
@@ -189,7 +179,7 @@ std::pair<Inside, std::wstring> Unescape(std::wstring_view inside) {
             text += known->second;
             ++at;
         } else if (const auto hex = ReadHexEscape(escape)) {
-            AppendCode(text, hex->first);
+            AppendCharacter(text, hex->first);
             at += hex->second;
         } else {
             result = Inside::ForeignBackslash;

@@ -48,7 +48,9 @@ std::uint32_t NextFromUtf8(std::string_view bytes, std::size_t& at) {
     return code < smallest[continuations] || IsSurrogate(code) || code > 0x10FFFF ? noCharacter : code;
 }
 
-void AppendWide(std::wstring& text, std::uint32_t code) {
+} // namespace
+
+void AppendCharacter(std::wstring& text, std::uint32_t code) {
     if (wideIsUtf16 && code > 0xFFFF) {
         code -= 0x10000;
         text += static_cast<wchar_t>(0xD800 + (code >> 10));
@@ -56,8 +58,6 @@ void AppendWide(std::wstring& text, std::uint32_t code) {
     }
     text += static_cast<wchar_t>(code);
 }
-
-} // namespace
 
 std::string ToUtf8(std::wstring_view text) {
     std::string bytes;
@@ -120,7 +120,7 @@ std::optional<std::wstring> FromUtf8(std::string_view bytes) {
         const std::uint32_t code = NextFromUtf8(bytes, at);
         if (code == noCharacter)
             return std::nullopt;
-        AppendWide(text, code);
+        AppendCharacter(text, code);
     }
     return text;
 }

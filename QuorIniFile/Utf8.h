@@ -41,6 +41,11 @@ inline constexpr bool wideIsUtf16 = sizeof(wchar_t) == 2;
 /// is used again and again needs no memory of its own each time.
 [[nodiscard]] QUORINIFILE_EXPORT bool CopyAscii(std::wstring_view text, std::string& bytes);
 
+/// A capital ASCII letter made small; any other byte as it is.
+[[nodiscard]] constexpr char Small(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+}
+
 [[nodiscard]] QUORINIFILE_EXPORT bool IsUtf8(std::string_view bytes);
 
 /// `text` as UTF-8. What is no Unicode character (a lone surrogate, a code past 0x10FFFF) becomes U+FFFD.
@@ -48,5 +53,8 @@ inline constexpr bool wideIsUtf16 = sizeof(wchar_t) == 2;
 
 /// `bytes` as text, or nothing when they are not valid UTF-8.
 [[nodiscard]] QUORINIFILE_EXPORT std::optional<std::wstring> FromUtf8(std::string_view bytes);
+
+/// Adds the character with that code, in two parts where a wchar_t cannot hold it.
+QUORINIFILE_EXPORT void AppendCharacter(std::wstring& text, std::uint32_t code);
 
 } // namespace QuorIniFile

@@ -584,9 +584,13 @@ void ProbeDocument::Save(OthersChanges others) {
 
 void ProbeDocument::MeetOthers(const std::shared_ptr<IniStore>& theirs, OthersChanges others) {
     std::unordered_set<std::wstring> sections;
-    for (const std::wstring& section : theirs->Sections())
+    std::unordered_set<std::wstring> taken; // and by whose settings
+    for (const std::wstring& section : theirs->Sections()) {
         sections.insert(Folded(section));
-    RequireFreeNames(sections);
+        ForEachOwner(section, [&taken](std::wstring_view name) { taken.insert(Folded(std::wstring(name))); });
+    }
+    taken.insert(sections.begin(), sections.end());
+    RequireFreeNames(taken);
 
     std::vector<std::wstring> changed;
     std::vector<Entry*> gone;
@@ -624,7 +628,7 @@ bool ProbeDocument::IsSameRecord(const std::shared_ptr<IniStore>& theirs, const 
                       });
 }
 
-void ProbeDocument::RequireFreeNames(const std::unordered_set<std::wstring>& theirs) const {
+void ProbeDocument::RequireFreeNames(const std::unordered_set<std::wstring>& taken) const {
     std::unordered_set<std::wstring> ours; // sections in which our probes stood when the file was read
     for (const Entry& entry : m_entries) {
         if (!entry.isNew)
@@ -636,7 +640,7 @@ void ProbeDocument::RequireFreeNames(const std::unordered_set<std::wstring>& the
         if (!entry.isNew && !entry.IsRenamed())
             continue;
         const std::wstring name = Folded(entry.name);
-        if (!ours.contains(name) && (theirs.contains(name) || theirs.contains(Folded(SettingsSection(name)))))
+        if (!ours.contains(name) && taken.contains(name))
             throw DocumentError{Failure::NameIsTaken, m_path, {entry.name}};
     }
 }
@@ -748,7 +752,7 @@ void ProbeDocument::Write(const std::shared_ptr<IniStore>& store, const Entry& e
     entry.content.conversion->WriteToFile(iniFile, L"", entry.name);
     if (quiet.Messages().empty())
         return;
-    throw DocumentError{Failure::CannotWrite, m_path, Details(entry.name, quiet)};
+    throw DocumentError{Failure::CannotWrite, std::wstring(store->FileName()), Details(entry.name, quiet)};
 }
 
 void ProbeDocument::Settle() {
@@ -779,8 +783,12 @@ void ProbeDocument::SaveCopyAs(const std::wstring& path, OthersChanges others) {
             MeetOthers(store, others);
         // Where somebody has removed the file, the probes are what can be saved of it.
         Apply(store, original ? Extent::Changes : Extent::AllProbes);
+    } catch (DocumentError& error) { // the user knows nothing of a work file
+        if (error.file == work.Path())
+            error.file = path;
+        throw;
     } catch (const QuorError& error) {
-        std::wstring text = error.Description(); // the user knows nothing of a work file
+        std::wstring text = error.Description();
         if (const auto at = text.find(work.Path()); at != std::wstring::npos)
             text.replace(at, work.Path().size(), path);
         throw QuorError(error.Number(), error.Source(), text);

@@ -255,7 +255,8 @@ private:
     void Write(const std::shared_ptr<QuorIniFile::IniStore>& store, const Entry& entry);
     /// Raises DocumentError when what was done cannot be joined with what others have written into `theirs`.
     void MeetOthers(const std::shared_ptr<QuorIniFile::IniStore>& theirs, OthersChanges others);
-    void RequireFreeNames(const std::unordered_set<std::wstring>& theirs) const;
+    /// Raises DocumentError when a probe would get a name that is `taken` in the file, and was not by ours.
+    void RequireFreeNames(const std::unordered_set<std::wstring>& taken) const;
     [[nodiscard]] bool IsSameRecord(const std::shared_ptr<QuorIniFile::IniStore>& theirs,
                                     const std::wstring& section) const;
     [[nodiscard]] std::vector<const Entry*> RemovedEntries() const;

@@ -27,7 +27,7 @@ namespace {
 /// A file in which a save has much to write, with what differs far apart.
 std::string Laboratory(const std::string& name, const std::string& type) {
     std::string text = "[" + name + "]\nVersion=1.0\nConversionType=10\n\n";
-    for (int i = 0; i < 2000; ++i)
+    for (int i = 0; i < 300; ++i)
         text += "; certificate " + std::to_string(i) + "\n[P" + std::to_string(i) +
                 "]\nVersion=1.0\nConversionType=10\n\n";
     return text + "[last]\nVersion=1.0\nConversionType=" + type + "\n";

@@ -377,7 +377,12 @@ TEST_F(ProbeDocumentTest, ANameThatAnotherProgramHasUsedMeanwhileIsNotOverwritte
     EXPECT_EQ(error.file, folder.Name("host.ini"));
     EXPECT_EQ(error.details, Texts{L"Probe 3"});
     EXPECT_EQ(File(), theirs);
+    const std::string leftover = theirs + "[Probe 4 - Settings - Low Range]\nRange=1\n";
+    folder.Write("host.ini", leftover);
     document.Rename(2, L"Probe 4");
+    EXPECT_EQ(ErrorOf([&] { document.Save(); }).details, Texts{L"Probe 4"}) << "it would get their settings";
+    EXPECT_EQ(File(), leftover);
+    folder.Write("host.ini", theirs);
     document.Save();
     EXPECT_EQ(File(), theirs + "\n[Probe 4]\nVersion=1.0\nConversionType=10\n");
     EXPECT_EQ(document.Count(), 4U);
@@ -420,6 +425,29 @@ TEST_F(ProbeDocumentTest, ACopyHasTheChangesAndTheFileHasNot) {
     EXPECT_TRUE(document.Changed());
     EXPECT_EQ(document.Path(), folder.Name("host.ini"));
     EXPECT_EQ(document.UndoKind(), StepKind::Rename);
+}
+
+TEST_F(ProbeDocumentTest, AProbeThatCannotBeWrittenIsToldWithTheFileThatWasToGetIt) {
+    // A record may claim a coefficient that its conversion does not have; it is never written again.
+    const std::string text = "[Hot]\nVersion=1.0\nConversionType=3\n\n[Hot - Settings]\nVersion=1.0\n"
+                             "NumCoefficients=4\nCoefficients0=25.5\nCoefficients1=1\nCoefficients2=2\n";
+    Open(text);
+    EXPECT_TRUE(Edit(0, [](Person& person) {
+        person.Type(L"A", L"1.5");
+        person.Click(L"OK");
+    }));
+    const auto expectRefused = [&](const DocumentError& error, const char* file) {
+        EXPECT_EQ(error.failure, Failure::CannotWrite);
+        EXPECT_EQ(error.file, folder.Name(file));
+        ASSERT_GE(error.details.size(), 2U);
+        EXPECT_EQ(error.details[0], L"Hot");
+        EXPECT_NE(error.details[1].find(L"Index out of range"), std::wstring::npos)
+            << QuorIniFile::ToUtf8(error.details[1]);
+        EXPECT_EQ(File(), text);
+    };
+    expectRefused(ErrorOf([&] { document.Save(); }), "host.ini");
+    expectRefused(ErrorOf([&] { document.SaveCopyAs(folder.Name("copy.ini")); }), "copy.ini");
+    EXPECT_FALSE(fs::exists(folder.Path("copy.ini")));
 }
 
 TEST_F(ProbeDocumentTest, AStandAloneFileBecomesAProbeAndAProbeAStandAloneFile) {
