@@ -56,10 +56,6 @@ std::optional<std::uint32_t> IniChanges::Find(std::uint32_t section, std::string
 }
 
 void IniChanges::Put(Change& change, std::string_view line) {
-    const std::string_view name = ClassifyLine(line).name;
-    const auto nameOffset = static_cast<std::size_t>(name.data() - line.data());
-    if (nameOffset >= none || name.size() >= none)
-        throw std::bad_alloc();
     const bool isLast = change.start + change.length == m_lines.size();
     if (line.size() <= change.length || isLast) {
         m_lines.replace(change.start, isLast ? change.length : line.size(), line);
@@ -71,12 +67,11 @@ void IniChanges::Put(Change& change, std::string_view line) {
         change.start = start;
     }
     change.length = line.size();
-    change.nameOffset = static_cast<std::uint32_t>(nameOffset);
-    change.nameLength = static_cast<std::uint32_t>(name.size());
 }
 
-void IniChanges::Add(Change change, std::string_view key, std::string_view line) {
-    if (m_changes.size() >= none)
+void IniChanges::Add(Change change, std::string_view key, std::string_view line, std::string_view name) {
+    const auto nameOffset = static_cast<std::size_t>(name.data() - line.data());
+    if (m_changes.size() >= none || nameOffset >= none || name.size() >= none)
         throw std::bad_alloc();
     const auto number = static_cast<std::uint32_t>(m_changes.size());
     auto chain = ChainOf(change.section);
@@ -96,6 +91,8 @@ void IniChanges::Add(Change change, std::string_view key, std::string_view line)
     Change& added = m_changes.back();
     added.start = m_lines.size();
     added.tag = TagOfName(key);
+    added.nameOffset = static_cast<std::uint32_t>(nameOffset);
+    added.nameLength = static_cast<std::uint32_t>(name.size());
     try {
         Put(added, line);
     } catch (...) {

@@ -42,9 +42,10 @@ public:
     }
 
     [[nodiscard]] std::optional<std::uint32_t> Find(std::uint32_t section, std::string_view key) const;
-    /// `line` is a key line, `key` its name as look-ups take it. It is not there yet.
-    void Add(Change change, std::string_view key, std::string_view line);
-    /// Gives a change another line with the same key.
+    /// `line` is a key line, `name` the part of it that is its name, `key` the same as look-ups take it. It
+    /// is not there yet.
+    void Add(Change change, std::string_view key, std::string_view line, std::string_view name);
+    /// Gives a change another line, with its name in the same place.
     void Rewrite(std::uint32_t number, std::string_view line, bool isText, bool hasComment);
     /// Drops what was written into a section. The other changes keep their numbers.
     void Drop(std::uint32_t section) noexcept;

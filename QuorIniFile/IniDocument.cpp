@@ -244,14 +244,19 @@ void IniDocument::Write(Section section, std::string_view key, const Key& presen
     change.line = present.start;
     change.isText = value.isText;
     change.hasComment = newComment;
+    std::size_t nameOffset = 0;
+    std::size_t nameLength = spelling.size();
     if (present.line) {
-        m_line = RewriteLine(CutLine(m_text, present.start).line, value);
+        const std::string_view old = CutLine(m_text, present.start).line;
+        nameOffset = static_cast<std::size_t>(present.line->name.data() - old.data());
+        nameLength = present.line->name.size();
+        m_line = RewriteLine(old, value);
     } else {
         m_line.assign(spelling).append(1, '=').append(value.bytes);
         if (!value.comment.empty())
             m_line.append(1, ' ').append(value.comment);
     }
-    m_changes.Add(change, key, m_line);
+    m_changes.Add(change, key, m_line, std::string_view(m_line).substr(nameOffset, nameLength));
     m_differing += Differs(m_changes[m_changes.Size() - 1]) ? 1 : 0;
 }
 

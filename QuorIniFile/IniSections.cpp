@@ -79,6 +79,8 @@ std::optional<IniSections::Section> IniSections::Find(std::string_view text, std
     }
     Index(text);
     const std::size_t known = m_spans.size();
+    if (known == 0)
+        return m_asked = Search(text, 0, name);
     const auto found =
         m_names.Find(HashName(name), [&](Section section) { return SameName(Name(text, section), name); });
     const auto section = found ? found : Search(text, known, name);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 
 using namespace QuorIniFile;
 
@@ -11,7 +12,8 @@ namespace {
 void Add(IniChanges& changes, std::uint32_t section, const std::string& key, const std::string& value) {
     IniChanges::Change change;
     change.section = section;
-    changes.Add(change, key, " " + key + " = " + value);
+    const std::string line = " " + key + " = " + value;
+    changes.Add(change, key, line, std::string_view(line).substr(1, key.size()));
 }
 
 std::string LineOf(const IniChanges& changes, std::uint32_t section, const std::string& key) {
@@ -68,10 +70,10 @@ TEST(IniChanges, ALineThatIsWrittenAgainIsTheLastOneWhateverItsLength) {
     for (const std::string& value : {std::string("longer than before"), std::string("short"),
                                      std::string(200'000, 'x'), std::string(100'000, 'y'), std::string()}) {
         for (const std::string& key : {std::string("x"), std::string("y")}) {
-            changes.Rewrite(*changes.Find(1, key), key + '=' + value, true, false);
-            ASSERT_EQ(LineOf(changes, 1, key), key + '=' + value);
+            changes.Rewrite(*changes.Find(1, key), ' ' + key + '=' + value, true, false);
+            ASSERT_EQ(LineOf(changes, 1, key), ' ' + key + '=' + value);
         }
-        ASSERT_EQ(LineOf(changes, 1, "x"), "x=" + value) << "not touched by the other";
+        ASSERT_EQ(LineOf(changes, 1, "x"), " x=" + value) << "not touched by the other";
     }
     EXPECT_EQ(changes.Size(), 2U);
 }
