@@ -53,7 +53,7 @@ void IniKeys::Add(std::string_view text, const IniLine& line) {
         key.value = static_cast<std::uint32_t>(value);
         key.valueLength = static_cast<std::uint32_t>(line.value.size());
     }
-    if (m_keys.size() >= few && !AddToIndex(text, name))
+    if (m_keys.size() >= few && (Name(text, m_keys.back()) == line.name || !AddToIndex(text, name)))
         return;
     m_keys.push_back(key);
 }

@@ -56,8 +56,7 @@ std::vector<IniHeader> AllHeaders(std::string_view text) {
 }
 
 std::string_view IniSections::Name(std::string_view text, Section section) const {
-    const Span& span = m_spans[section];
-    return text.substr(span.name, span.nameLength);
+    return Name(text, m_spans[section]);
 }
 
 bool IniSections::IsNamed(std::string_view text, std::size_t section, std::string_view name) const {
@@ -126,20 +125,30 @@ bool IniSections::ReadOn(std::string_view text) {
             m_next = text.size();
             return false;
         }
-        if (m_spans.size() >= nameless)
+        if (at >= nameless) // no file is that large
             throw std::bad_alloc();
         const auto [header, next] = CutHeader(text, at);
-        Span span{at + 1, nameless, false};
+        Span span{static_cast<std::uint32_t>(at + 1), nameless, false};
         if (header.kind == IniLineKind::Section && header.name.size() < nameless)
             span.nameLength = static_cast<std::uint32_t>(header.name.size());
-        // Of headers that nobody can ask for, the first one marks where the section before them ends.
-        if (span.nameLength != nameless || m_spans.empty() || m_spans.back().nameLength != nameless) {
+        const bool counts = !IsOneOfMany(text, span);
+        if (counts)
             m_spans.push_back(span);
-            m_next = next;
-            return true;
-        }
         m_next = next;
+        if (counts)
+            return true;
     }
+}
+
+bool IniSections::IsOneOfMany(std::string_view text, const Span& span) const {
+    const auto isAlike = [&](const Span& other) {
+        return other.nameLength == span.nameLength &&
+               (span.nameLength == nameless || Name(text, other) == Name(text, span));
+    };
+    const std::size_t count = m_spans.size();
+    if (span.nameLength == nameless)
+        return count > 0 && isAlike(m_spans[count - 1]);
+    return count > 1 && isAlike(m_spans[count - 1]) && isAlike(m_spans[count - 2]);
 }
 
 void IniSections::Index(std::string_view text) {

@@ -30,7 +30,7 @@ public:
 
     /// The first section of that name.
     [[nodiscard]] std::optional<Section> Find(std::string_view text, std::string_view name);
-    /// How many numbers are taken. Broken headers may share one.
+    /// How many numbers are taken. Headers that nobody can find may share one.
     [[nodiscard]] std::size_t Count(std::string_view text);
     [[nodiscard]] std::string_view Name(std::string_view text, Section section) const;
     /// Whether Find knows it: it has a name that did not stand before.
@@ -45,14 +45,20 @@ private:
     /// for an index of all.
     static constexpr int fewQuestions = 4;
 
-    struct Span {
-        std::size_t name = 0; // where its name starts; the '[' stands right before
+    struct Span {               // small, because a file of nothing else has a third as many as bytes
+        std::uint32_t name = 0; // where its name starts; the '[' stands right before
         std::uint32_t nameLength = nameless;
         bool isFirst = false; // of its name; known once it is indexed
     };
 
     /// Gives the next header that matters a number. False when there is none.
     bool ReadOn(std::string_view text);
+    /// Whether nobody can find the section of that header, nor the one before it, whose end it marks: both
+    /// have no name, or that of the one before them.
+    [[nodiscard]] bool IsOneOfMany(std::string_view text, const Span& span) const;
+    [[nodiscard]] static std::string_view Name(std::string_view text, const Span& span) {
+        return text.substr(span.name, span.nameLength);
+    }
     /// Indexes the names of all sections that have a number.
     void Index(std::string_view text);
     [[nodiscard]] bool IsNamed(std::string_view text, std::size_t section, std::string_view name) const;

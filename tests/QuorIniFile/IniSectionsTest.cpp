@@ -66,6 +66,25 @@ TEST(IniSections, OfBrokenHeadersInARowOneMarksTheEndOfTheSectionBefore) {
     EXPECT_EQ(none.Count("x=[A]\n;[B]\n"), 0U);
 }
 
+TEST(IniSections, OfOneNameInARowTheFirstIsFoundAndTheSecondMarksItsEnd) {
+    const std::string many = "[A]\nx=1\n[A]\nx=2\n[A]\nx=3\n[A]\nx=4\n[B]\nx=5\n[]\n[]\n[]\nx=6\n[a]\nx=7\n";
+    IniSections sections;
+    for (int round = 0; round < 4; ++round) {
+        EXPECT_EQ(sections.Find(many, "A"), 0U);
+        EXPECT_EQ(sections.Find(many, "B"), 2U);
+        EXPECT_EQ(sections.Find(many, ""), 3U);
+        EXPECT_EQ(many.substr(sections.Begin(many, 0), sections.End(many, 0) - sections.Begin(many, 0)),
+                  "x=1\n");
+        EXPECT_EQ(many.substr(sections.Begin(many, 2), sections.End(many, 2) - sections.Begin(many, 2)),
+                  "x=5\n");
+        EXPECT_EQ(sections.Begin(many, 3), sections.End(many, 3));
+    }
+    EXPECT_EQ(sections.Count(many), 6U);
+    EXPECT_FALSE(sections.CanBeFound(many, 1));
+    EXPECT_FALSE(sections.CanBeFound(many, 4));
+    EXPECT_FALSE(sections.CanBeFound(many, 5)) << "in small letters it is the first one too";
+}
+
 TEST(IniSections, AllHeadersAreThoseOfOneNameAndBrokenOnesToo) {
     std::vector<std::string> found;
     for (const IniHeader& header : AllHeaders(text)) {
