@@ -90,7 +90,8 @@ void QtDialog::Run() {
 }
 
 void QtDialog::Build() {
-    m_content = new QWidget(this);
+    m_area = new FittingScrollArea(this);
+    m_content = new QWidget(m_area->viewport()); // where it stays: moving all that stands in it takes time
     auto* const columns = new QHBoxLayout(m_content);
     for (const Frame* const frame : m_dialog.Columns())
         columns->addWidget(MakeFrame(*frame), frame == m_dialog.Columns().front() ? 1 : 0);
@@ -99,7 +100,6 @@ void QtDialog::Build() {
         if (const auto view = m_views.find(control.get()); view != m_views.end())
             view->second.follow();
 
-    m_area = new FittingScrollArea(this);
     m_area->setWidget(m_content);
     m_area->setWidgetResizable(true);
     m_area->setFrameShape(QFrame::NoFrame);
@@ -256,11 +256,12 @@ void QtDialog::ReportEdit(TextBox& box, const QLineEdit& widget) {
 
 QtDialog::View QtDialog::MakeList(DropDownList& list) {
     auto* const widget = new QComboBox(m_content);
-    widget->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(widget, &QComboBox::activated, this,
             [this, &list](int index) { Report([&] { m_input.Choose(list, index); }); });
-    return {widget, [widget, &list] {
+    return {widget, [this, widget, &list] {
                 const QSignalBlocker silence(widget);
+                if (isVisible()) // it is as wide as its items anyway when it is shown, and sooner there
+                    widget->setSizeAdjustPolicy(QComboBox::AdjustToContents);
                 for (int index = 0; index < list.ListCount(); ++index)
                     if (const QString text = ToQt(list.List(index)); index >= widget->count())
                         widget->addItem(text);

@@ -1,8 +1,10 @@
 #include "toolkits/qt/TextBoxWidget.h"
 
+#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <QtMath>
 
 #include <utility>
 
@@ -67,12 +69,15 @@ TextBoxWidget::TextBoxWidget(KeyFilter filter, QWidget* parent)
 
 void TextBoxWidget::Measure() {
     ensurePolished();
-    // Seventeen digits, two signs, a separator, an exponent; and the cursor.
-    const int text = fontMetrics().horizontalAdvance(QStringLiteral("-8.8888888888888888E-888")) +
-                     fontMetrics().averageCharWidth();
+    // Seventeen digits, two signs, a separator, an exponent of three digits, and the cursor; added up,
+    // because laying out a text takes long.
+    const QFontMetricsF metrics(font());
+    const qreal width = 20 * metrics.horizontalAdvance(u'8') + 2 * metrics.horizontalAdvance(u'-') +
+                        metrics.horizontalAdvance(u'.') + metrics.horizontalAdvance(u'E') +
+                        metrics.averageCharWidth();
     QStyleOptionFrame option;
     initStyleOption(&option);
-    const QSize contents(text + 4, fontMetrics().height()); // 2 on each side of the text
+    const QSize contents(qCeil(width) + 4, fontMetrics().height()); // 2 on each side of the text
     setMinimumWidth(style()->sizeFromContents(QStyle::CT_LineEdit, &option, contents, this).width());
 }
 

@@ -175,6 +175,22 @@ TEST_F(QtDialogTest, DoesNothingWhileNobodyDoesAnything) {
     });
 }
 
+TEST_F(QtDialogTest, AListIsAsWideAsItsLongestItemAlsoWhenThatComesLater) {
+    dialog.kind.AddItem(L"zinc, and a little of something else in it");
+    Run([&] {
+        const auto& list = Shows<QComboBox>(dialog.kind);
+        const auto widthOf = [&](int item) {
+            return list.fontMetrics().horizontalAdvance(list.itemText(item));
+        };
+        EXPECT_GT(list.width(), widthOf(3));
+        dialog.kind.AddItem(
+            L"zinc, and a little of something else in it, and more of that than one would think");
+        LetLayOut();
+        EXPECT_GT(list.width(), widthOf(4));
+        EXPECT_FALSE(list.isHidden());
+    });
+}
+
 TEST_F(QtDialogTest, FollowsEveryChangeOfTheModel) {
     Run([&] {
         dialog.SetTitle(L"Other Settings");
