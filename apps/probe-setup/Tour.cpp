@@ -18,7 +18,9 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTimer>
+#include <QToolButton>
 #include <QTreeView>
+#include <QVariant>
 
 #include <algorithm>
 #include <functional>
@@ -70,6 +72,13 @@ void ComeToFront(QWidget& window) {
     WaitUntil([&] { return QApplication::activeWindow() == &window; });
 }
 
+/// Whether a button is the cross in a box that comes or goes with the text.
+bool IsFading(const QToolButton* button) {
+    const auto* const box = qobject_cast<const QLineEdit*>(button->parentWidget());
+    const QVariant opacity = button->property("opacity");
+    return box && opacity.isValid() && opacity.toReal() != (box->text().isEmpty() ? 0 : 1);
+}
+
 void Press(QWidget& widget, int key, const QString& text = {}) {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         QKeyEvent event(type, key, Qt::NoModifier, text);
@@ -88,6 +97,10 @@ public:
     Guide(MainWindow& window, const QString& folder) : m_window(window), m_folder(folder) { LookAgain(); }
 
     void TakePicture(QWidget& widget, const QString& name) {
+        WaitUntil([&widget] {
+            const auto buttons = widget.findChildren<QToolButton*>();
+            return std::none_of(buttons.begin(), buttons.end(), IsFading);
+        });
         QCoreApplication::processEvents();
         const QString file = m_folder.filePath(
             QStringLiteral("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(name));
