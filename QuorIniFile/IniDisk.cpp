@@ -89,12 +89,16 @@ auto Uninterrupted(const Call& call) {
 
 // Files ----------------------------------------------------------------------------------------------------
 
-/// The stamp of a file whose status was asked just now.
-IniStamp StampFrom(const IniFileStatus& status) {
+using Moment = std::chrono::system_clock::time_point;
+
+Moment Now() { return std::chrono::system_clock::now(); }
+
+/// The stamp of a file whose status was asked after a moment.
+IniStamp StampFrom(const IniFileStatus& status, Moment before) {
     constexpr std::int64_t coarsestTick = 2;
-    const auto now = std::chrono::system_clock::now().time_since_epoch();
     const bool isSettled =
-        std::chrono::duration_cast<std::chrono::seconds>(now).count() > status.seconds + coarsestTick;
+        std::chrono::duration_cast<std::chrono::seconds>(before.time_since_epoch()).count() >
+        status.seconds + coarsestTick;
     return {true, status.device, status.inode, status.size, status.seconds, status.nanoseconds, isSettled};
 }
 
@@ -122,6 +126,13 @@ std::optional<IniFileStatus> FindRegular(const std::string& path, const Target& 
         Raise(status.error, target.fileName, Deed::Read);
     RequireRegular(status.value, target.fileName);
     return status.value;
+}
+
+/// The stamp of the regular file behind `path`.
+IniStamp StampAt(const std::string& path, const Target& target) {
+    const Moment before = Now();
+    const auto status = FindRegular(path, target);
+    return status ? StampFrom(*status, before) : IniStamp{};
 }
 
 /// An open file, closed at the end.
@@ -156,9 +167,15 @@ IniFileStatus StatusOf(const OpenFile& file, const Target& target, Deed deed) {
     return status.value;
 }
 
+IniStamp StampOfOpen(const OpenFile& file, const Target& target, Deed deed) {
+    const Moment before = Now();
+    return StampFrom(StatusOf(file, target, deed), before);
+}
+
 struct RegularFile {
     OpenFile file;
     IniFileStatus status;
+    IniStamp stamp;
 };
 
 /// The regular file behind `path`, open for reading, or nothing when there is none.
@@ -173,9 +190,10 @@ std::optional<RegularFile> OpenRegular(const std::string& path, const Target& ta
     if (opened.error != 0)
         Raise(opened.error, target.fileName, Deed::Read);
     OpenFile file(target.files, opened.value);
+    const Moment before = Now();
     const IniFileStatus status = StatusOf(file, target, Deed::Read);
     RequireRegular(status, target.fileName);
-    return RegularFile{std::move(file), status};
+    return RegularFile{std::move(file), status, StampFrom(status, before)};
 }
 
 std::size_t ReadAt(const OpenFile& file, std::uint64_t offset, char* bytes, std::size_t size,
@@ -268,17 +286,15 @@ std::optional<IniFileBytes> ReadBytes(std::wstring_view fileName, IniFileSystem&
         const auto regular = OpenRegular(path, target);
         if (!regular)
             return std::nullopt;
-        const IniStamp stamp = StampFrom(regular->status); // before reading, which takes time
-        IniFileBytes result{ReadAll(*regular, target), stamp};
-        if (reading == mostReadings || stamp == StampFrom(StatusOf(regular->file, target, Deed::Read)))
+        IniFileBytes result{ReadAll(*regular, target), regular->stamp};
+        if (reading == mostReadings || result.stamp == StampOfOpen(regular->file, target, Deed::Read))
             return result;
         files.Pause(std::chrono::milliseconds(1));
     }
 }
 
 IniStamp StampOf(std::wstring_view fileName, IniFileSystem& files) {
-    const auto status = FindRegular(ToUtf8(fileName), {files, fileName});
-    return status ? StampFrom(*status) : IniStamp{};
+    return StampAt(ToUtf8(fileName), {files, fileName});
 }
 
 bool HasBytes(std::wstring_view fileName, std::string_view bytes, IniFileSystem& files) {
@@ -348,13 +364,12 @@ public:
         // A change in the tick of the one before leaves no trace in the stamp.
         if (m_old && read && !m_stamp.isSettled && !HasOnly(m_old->file, *read, Here()))
             return std::nullopt;
-        const auto now = FindRegular(m_path.string(), Here());
-        if ((now ? StampFrom(*now) : IniStamp{}) != m_stamp)
+        if (StampAt(m_path.string(), Here()) != m_stamp)
             return std::nullopt;
         Require([&] { return m_files.Rename(m_temporaryPath, m_path.string()); });
         m_isOurs = false;
         // Before the flush, which takes time: what another program makes of the file meanwhile is not ours.
-        const IniStamp stamp = StampFrom(StatusOf(m_temporary, Here(), Deed::Write));
+        const IniStamp stamp = StampOfOpen(m_temporary, Here(), Deed::Write);
         Require([&] { return m_files.SyncFolder(m_folder); });
         return stamp;
     }
@@ -395,7 +410,7 @@ private:
         m_isOurs = true;
 
         m_old = OpenRegular(m_path.string(), Here());
-        m_stamp = m_old ? StampFrom(m_old->status) : IniStamp{};
+        m_stamp = m_old ? m_old->stamp : IniStamp{};
         if (m_old.has_value() == exists)
             return true;
         // It has come or gone meanwhile; the temporary file was made for the wrong readers.
@@ -440,7 +455,7 @@ private:
 
     /// Whether the temporary file is as it was when we first saw it, asked at the end of the waiting.
     bool IsUntouched(const OpenFile& temporary, bool isLast) {
-        const IniStamp stamp = StampFrom(StatusOf(temporary, Here(), Deed::Write));
+        const IniStamp stamp = StampOfOpen(temporary, Here(), Deed::Write);
         if (!m_firstSeen.exists)
             m_firstSeen = stamp;
         return isLast && stamp == m_firstSeen;

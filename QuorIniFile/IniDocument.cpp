@@ -60,9 +60,10 @@ std::string TextFor(const IniDocument& document, std::string_view text) {
     return IsAscii(text) ? std::string(text) : EncodeText(DecodeText(text), document.Encoding());
 }
 
-std::string CommentFor(const IniDocument& document, std::string_view comment) {
-    return IsAscii(comment) ? std::string(comment)
-                            : FormatComment(DecodeBytes(comment.substr(1)), document.Encoding());
+std::string CommentFor(const IniDocument& document, std::string_view comment, IniEncoding encoding) {
+    return IsAscii(comment) || encoding == document.Encoding()
+               ? std::string(comment)
+               : FormatComment(DecodeBytes(comment.substr(1)), document.Encoding());
 }
 
 } // namespace
@@ -385,7 +386,7 @@ std::optional<std::string> IniDocument::ApplyChangesTo(IniDocument& other) const
         IniNewValue value{
             change.isText ? TextFor(other, line.value) : std::string(parts.plain), change.isText, {}};
         if (change.hasComment)
-            value.comment = CommentFor(other, parts.comment);
+            value.comment = CommentFor(other, parts.comment, Encoding());
         std::string keyBuffer;
         other.Write(*section, CanonicalName(line.name, keyBuffer), NameFor(other, line.name), value);
     }

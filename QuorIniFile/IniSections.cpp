@@ -125,7 +125,7 @@ bool IniSections::ReadOn(std::string_view text) {
             m_next = text.size();
             return false;
         }
-        if (at >= nameless) // no file is that large
+        if (at >= nameless) // a file that is loaded is not that large
             throw std::bad_alloc();
         const auto [header, next] = CutHeader(text, at);
         Span span{static_cast<std::uint32_t>(at + 1), nameless, false};

@@ -45,7 +45,7 @@ private:
     /// for an index of all.
     static constexpr int fewQuestions = 4;
 
-    struct Span {               // small, because a file of nothing else has a third as many as bytes
+    struct Span {               // small, because a file may have millions
         std::uint32_t name = 0; // where its name starts; the '[' stands right before
         std::uint32_t nameLength = nameless;
         bool isFirst = false; // of its name; known once it is indexed

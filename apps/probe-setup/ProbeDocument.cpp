@@ -81,15 +81,24 @@ bool IsReadOnlyFile(const std::wstring& path) {
            ::access(file.parent_path().c_str(), W_OK) != 0;
 }
 
-/// Whether two paths lead to one file, also when it is gone.
+/// The place of a file at the end of all symbolic links, also when it is gone.
+fs::path PlaceOf(const std::wstring& path) {
+    constexpr int mostLinks = 40;
+    std::error_code error;
+    fs::path place = fs::absolute(ToUtf8(path), error);
+    for (int links = 0; links < mostLinks && fs::is_symlink(place, error); ++links)
+        place = place.parent_path() / fs::read_symlink(place, error);
+    const fs::path found = fs::weakly_canonical(place, error);
+    return error ? place : found;
+}
+
+/// Whether a save to the one path is a save to the other. Another hard link is another file then, because
+/// a save parts the two; another spelling, where the case of letters makes no difference, is not.
 bool IsSameFile(const std::wstring& a, const std::wstring& b) {
-    const auto place = [](const std::wstring& path) {
-        std::error_code error;
-        const fs::path full = fs::absolute(ToUtf8(path), error);
-        const fs::path found = fs::weakly_canonical(full, error);
-        return error ? full : found;
-    };
-    return place(a) == place(b);
+    if (PlaceOf(a) == PlaceOf(b))
+        return true;
+    std::error_code error;
+    return fs::equivalent(ToUtf8(a), ToUtf8(b), error) && fs::hard_link_count(ToUtf8(a), error) == 1;
 }
 
 /// A file in a folder of its own, which vanishes with it.
@@ -796,14 +805,15 @@ void ProbeDocument::SaveCopyAs(const std::wstring& path, OthersChanges others) {
     ReplaceBytes(path, QuorIniFile::ReadBytes(work.Path())->bytes);
     if (!m_path.empty() && !isOwn)
         return;
-    Settle();
+    auto saved = std::make_shared<IniStore>();
+    saved->SetFileName(path);
+    static_cast<void>(saved->Sections()); // takes the text in
     m_path = path;
+    m_store = std::move(saved);
     m_isReadOnly = false;
     m_lostRecords.clear(); // nothing but probes stands in it
     m_foreign.clear();
-    m_store = std::make_shared<IniStore>();
-    m_store->SetFileName(path);
-    static_cast<void>(m_store->Sections()); // takes the text in
+    Settle();
 }
 
 bool ProbeDocument::IsStandAlone(const std::wstring& path) {

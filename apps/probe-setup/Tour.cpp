@@ -57,13 +57,14 @@ bool PrintDifference(const QList<QByteArray>& before, const QList<QByteArray>& a
 /// In its dialog the tour looks something up, and makes a mistake.
 const QLatin1String kindWithMistake("i90");
 
-/// Lets the program go on until something is so; not for ever.
-void WaitUntil(const std::function<bool()>& isSo) {
+/// Lets the program go on until something is so; not for ever. False when it is not so even then.
+bool WaitUntil(const std::function<bool()>& isSo) {
     constexpr qint64 longest = 60'000; // milliseconds
     QElapsedTimer timer;
     timer.start();
     while (!isSo() && timer.elapsed() < longest)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    return isSo();
 }
 
 /// A screen in memory brings no window to the front when the one before it closes.
@@ -97,10 +98,12 @@ public:
     Guide(MainWindow& window, const QString& folder) : m_window(window), m_folder(folder) { LookAgain(); }
 
     void TakePicture(QWidget& widget, const QString& name) {
-        WaitUntil([&widget] {
+        const bool isStill = WaitUntil([&widget] {
             const auto buttons = widget.findChildren<QToolButton*>();
             return std::none_of(buttons.begin(), buttons.end(), IsFading);
         });
+        if (!isStill)
+            Complain(QStringLiteral("an icon of %1 does not come to rest").arg(name));
         QCoreApplication::processEvents();
         const QString file = m_folder.filePath(
             QStringLiteral("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(name));

@@ -415,6 +415,29 @@ TEST_F(ProbeDocumentTest, AllProbesCanBeSavedInThePlaceOfTheFileThatIsGone) {
     EXPECT_EQ(File(), Replaced(rescued, "ConversionType=10", "ConversionType=11"));
 }
 
+TEST_F(ProbeDocumentTest, TheFileBehindALinkIsTheSameFileAlsoWhenItIsGone) {
+    folder.Write("target.ini", host);
+    fs::create_symlink("target.ini", folder.Path("link.ini"));
+    document.Open(folder.Name("link.ini"));
+    document.Add(L"Probe 3", CONV_VOLTS);
+    document.SaveCopyAs(folder.Name("target.ini"));
+    EXPECT_FALSE(document.Changed());
+    document.Add(L"Probe 4", CONV_VOLTS);
+    fs::remove(folder.Path("target.ini"));
+    document.SaveCopyAs(folder.Name("target.ini"));
+    EXPECT_FALSE(document.Changed());
+}
+
+TEST_F(ProbeDocumentTest, AnotherHardLinkIsAnotherFileAsFarAsASaveGoes) {
+    Open();
+    fs::create_hard_link(folder.Path("host.ini"), folder.Path("other.ini"));
+    document.Rename(1, L"Second");
+    document.SaveCopyAs(folder.Name("other.ini"));
+    EXPECT_EQ(folder.Read("other.ini"), Replaced(host, "[Probe 2]", "[Second]"));
+    EXPECT_EQ(File(), host);
+    EXPECT_TRUE(document.Changed());
+}
+
 TEST_F(ProbeDocumentTest, ACopyHasTheChangesAndTheFileHasNot) {
     Open();
     document.Rename(1, L"Second");

@@ -187,7 +187,6 @@ TEST_F(QtDialogTest, AListIsAsWideAsItsLongestItemAlsoWhenThatComesLater) {
             L"zinc, and a little of something else in it, and more of that than one would think");
         LetLayOut();
         EXPECT_GT(list.width(), widthOf(4));
-        EXPECT_FALSE(list.isHidden());
     });
 }
 
