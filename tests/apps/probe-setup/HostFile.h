@@ -29,12 +29,6 @@ inline const std::string host = "; The host's own file\n"
                                 "Version=1.0\n"
                                 "ConversionType=10\n";
 
-inline std::string Replaced(std::string text, const std::string& from, const std::string& to) {
-    const auto at = text.find(from);
-    EXPECT_NE(at, std::string::npos) << from;
-    return at == std::string::npos ? text : text.replace(at, from.size(), to);
-}
-
 /// That text as the file "host.ini" in a folder of the test's own, where quorconv runs too.
 class HostFileTest : public QuorconvTest {
 protected:

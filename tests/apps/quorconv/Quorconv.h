@@ -10,6 +10,13 @@
 
 #include <sys/wait.h>
 
+/// A text with the first `from` in it replaced; there must be one.
+inline std::string Replaced(std::string text, const std::string& from, const std::string& to) {
+    const auto at = text.find(from);
+    EXPECT_NE(at, std::string::npos) << from;
+    return at == std::string::npos ? text : text.replace(at, from.size(), to);
+}
+
 /// What a run of the program printed, and how it ended.
 struct Outcome {
     int code;

@@ -36,10 +36,6 @@ protected:
     }
 };
 
-std::string Replaced(std::string text, const std::string& from, const std::string& to) {
-    return text.replace(text.find(from), from.size(), to);
-}
-
 const std::string shown = "Callendar-Van Dusen Settings\n"
                           "Callendar-Van Dusen:\n"
                           "  R0: [100]\n"

@@ -23,10 +23,6 @@ const std::string hostFile = "; The host's own file\n"
                              "Coefficients2=-5.775E-7\n"
                              "Coefficients3=-4.183E-12\n";
 
-std::string Replaced(std::string text, const std::string& from, const std::string& to) {
-    return text.replace(text.find(from), from.size(), to);
-}
-
 } // namespace
 
 TEST_F(QuorconvTest, ListsTheConversionTypes) {
