@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <iterator>
+#include <memory>
 #include <new>
 #include <system_error>
 #include <utility>
@@ -108,6 +109,11 @@ struct Target {
     std::wstring_view fileName;
 };
 
+template <class One, class Other>
+bool IsSameFile(const One& a, const Other& b) {
+    return a.device == b.device && a.inode == b.inode;
+}
+
 void RequireRegular(const IniFileStatus& status, std::wstring_view fileName) {
     if (status.kind == IniFileStatus::Kind::Folder)
         Raise(EISDIR, fileName, Deed::Read);
@@ -178,15 +184,31 @@ struct RegularFile {
     IniStamp stamp;
 };
 
+/// Opens a file for reading. A program that has a lease on it (a file server for its clients) is given the
+/// time that the system gives it, 45 seconds as a rule, to write what it still holds.
+IniResult<IniFileSystem::Handle> OpenWhenFree(const std::string& path, const Target& target) {
+    constexpr std::chrono::seconds patience(60);
+    constexpr std::chrono::milliseconds step(5);
+    const std::chrono::milliseconds start = target.files.Clock();
+    for (;;) {
+        const auto opened = Uninterrupted([&] { return target.files.Open(path, Opening::ToRead); });
+        if (opened.error != EWOULDBLOCK || target.files.Clock() - start >= patience)
+            return opened;
+        target.files.Pause(step);
+    }
+}
+
 /// The regular file behind `path`, open for reading, or nothing when there is none.
 std::optional<RegularFile> OpenRegular(const std::string& path, const Target& target) {
     // Devices do things when they are opened, so one looks first; and what is there may be another thing by
     // the time it is open, so one looks again.
     if (!FindRegular(path, target))
         return std::nullopt;
-    const auto opened = Uninterrupted([&] { return target.files.Open(path, Opening::ToRead); });
+    const auto opened = OpenWhenFree(path, target);
     if (opened.error == ENOENT)
         return std::nullopt;
+    if (opened.error == EWOULDBLOCK)
+        throw FileError(ERR_PERMISSION_DENIED, target.fileName, L"In use by another program");
     if (opened.error != 0)
         Raise(opened.error, target.fileName, Deed::Read);
     OpenFile file(target.files, opened.value);
@@ -204,37 +226,34 @@ std::size_t ReadAt(const OpenFile& file, std::uint64_t offset, char* bytes, std:
     return count.value;
 }
 
-constexpr std::size_t bufferSize = 65536;
+constexpr std::size_t bufferSize = 65536; // bytes; in the heap, because stacks of threads may be small
 
 std::string ReadAll(const RegularFile& regular, const Target& target) {
-    std::string bytes(static_cast<std::size_t>(regular.status.size), '\0');
+    // The size is what the system said; there may be more.
+    std::string bytes(static_cast<std::size_t>(regular.status.size) + 1, '\0');
     for (std::size_t used = 0;;) {
-        // The size is what the system said; there may be more.
-        std::array<char, bufferSize> beyond; // NOLINT(cppcoreguidelines-pro-type-member-init): it is filled
-        const bool full = used == bytes.size();
         const std::size_t count =
-            full ? ReadAt(regular.file, used, beyond.data(), beyond.size(), target)
-                 : ReadAt(regular.file, used, bytes.data() + used, bytes.size() - used, target);
+            ReadAt(regular.file, used, bytes.data() + used, bytes.size() - used, target);
+        used += count;
         if (count == 0) {
             bytes.resize(used);
             return bytes;
         }
-        used += count;
         if (used > largestFile)
             throw FileError(ERR_PATH_FILE_ACCESS, target.fileName, L"It is larger than 4 GiB");
-        if (full)
-            bytes.append(beyond.data(), count);
+        if (used == bytes.size())
+            bytes.resize(used + bufferSize);
     }
 }
 
 /// Whether a file has these very bytes. It is not kept in memory.
 bool HasOnly(const OpenFile& file, std::string_view bytes, const Target& target) {
-    std::array<char, bufferSize> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): it is filled
+    const auto buffer = std::make_unique_for_overwrite<char[]>(bufferSize); // NOLINT(*-avoid-c-arrays)
     for (std::size_t used = 0;;) {
-        const std::size_t count = ReadAt(file, used, buffer.data(), buffer.size(), target);
+        const std::size_t count = ReadAt(file, used, buffer.get(), bufferSize, target);
         if (count == 0)
             return used == bytes.size();
-        if (bytes.substr(used, count) != std::string_view(buffer.data(), count))
+        if (bytes.substr(used, count) != std::string_view(buffer.get(), count))
             return false;
         used += count;
     }
@@ -261,29 +280,79 @@ std::string FolderOf(const fs::path& path) {
     return folder.empty() ? "." : folder.string();
 }
 
-/// The temporary file for a path, the same in every process. Its name says nothing but which file is meant:
-/// two files of one folder whose numbers are the same would wait for each other and come to no harm.
-std::string TemporaryPathFor(const fs::path& path) {
-    std::uint64_t number = 0xCBF29CE484222325U;
-    for (const char c : path.filename().string()) {
-        // Where the case of letters makes no difference, it must not make two locks.
-        number = (number ^ static_cast<unsigned char>(Small(c))) * 0x100000001B3U;
-    }
+std::string Hexadecimal(std::uint64_t number) {
     std::array<char, 16> digits{};
     char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number, 16).ptr;
-    return (path.parent_path() / (".quor-" + std::string(digits.data(), end) + ".tmp")).string();
+    return {digits.data(), end};
 }
+
+/// The files that a save needs beside its target. Their names begin with a number that says nothing but which
+/// target is meant and is the same in every process: two files of one folder whose numbers are the same would
+/// wait for each other and come to no harm.
+struct Neighbours {
+    std::string folder;
+    std::string lock;           // a path
+    std::string temporaryStart; // of names of temporary files
+    static constexpr std::string_view temporaryEnd = ".tmp";
+
+    explicit Neighbours(const fs::path& target) : folder(FolderOf(target)) {
+        std::uint64_t number = 0xCBF29CE484222325U;
+        for (const char c : target.filename().string()) {
+            // Where the case of letters makes no difference, it must not make two locks.
+            number = (number ^ static_cast<unsigned char>(Small(c))) * 0x100000001B3U;
+        }
+        const std::string start = ".quor-" + Hexadecimal(number);
+        lock = Path(start + ".lock");
+        temporaryStart = start + '-';
+    }
+    [[nodiscard]] std::string Path(const std::string& name) const {
+        return (fs::path(folder) / name).string();
+    }
+    [[nodiscard]] std::string Temporary(std::uint64_t random) const {
+        return Path(temporaryStart + Hexadecimal(random) + std::string(temporaryEnd));
+    }
+    /// The temporary files that are there.
+    [[nodiscard]] IniResult<std::vector<std::string>> Temporaries(IniFileSystem& files) const {
+        auto names = Uninterrupted([&] { return files.NamesIn(folder); });
+        names.value.erase(std::remove_if(names.value.begin(), names.value.end(),
+                                         [this](const std::string& name) {
+                                             return !name.starts_with(temporaryStart) ||
+                                                    !name.ends_with(temporaryEnd);
+                                         }),
+                          names.value.end());
+        for (std::string& name : names.value)
+            name = Path(name);
+        return names;
+    }
+};
 
 } // namespace
 
+// Names ----------------------------------------------------------------------------------------------------
+
+IniFileName::IniFileName(std::wstring text) : m_text(std::move(text)), m_path(ToUtf8(m_text)) {}
+
+IniFileName IniFileName::Absolute(std::wstring_view text, IniFileSystem& files) {
+    // No file has an empty name, or one with a NUL, or one that is no valid text.
+    if (text.empty() || text.find(L'\0') != std::wstring_view::npos || !NameToFind(text))
+        throw FileError(ERR_BAD_FILE_NAME, text);
+    IniFileName name{std::wstring(text)};
+    if (fs::path(name.m_path).is_absolute())
+        return name;
+    const auto folder = Uninterrupted([&] { return files.CurrentFolder(); });
+    if (folder.error != 0)
+        Raise(folder.error, text, Deed::Write);
+    name.m_path = (fs::path(folder.value) / name.m_path).string();
+    return name;
+}
+
 // Reading --------------------------------------------------------------------------------------------------
 
-std::optional<IniFileBytes> ReadBytes(std::wstring_view fileName, IniFileSystem& files) {
-    const Target target{files, fileName};
-    const std::string path = ToUtf8(fileName);
+std::optional<IniFileBytes> ReadBytes(const IniFileName& fileName, IniFileSystem& files) {
+    const Target target{files, fileName.Text()};
     constexpr int mostReadings = 10; // a file that is always being written is taken as it is
     for (int reading = 1;; ++reading) {
-        const auto regular = OpenRegular(path, target);
+        const auto regular = OpenRegular(fileName.Path(), target);
         if (!regular)
             return std::nullopt;
         IniFileBytes result{ReadAll(*regular, target), regular->stamp};
@@ -293,13 +362,13 @@ std::optional<IniFileBytes> ReadBytes(std::wstring_view fileName, IniFileSystem&
     }
 }
 
-IniStamp StampOf(std::wstring_view fileName, IniFileSystem& files) {
-    return StampAt(ToUtf8(fileName), {files, fileName});
+IniStamp StampOf(const IniFileName& fileName, IniFileSystem& files) {
+    return StampAt(fileName.Path(), {files, fileName.Text()});
 }
 
-bool HasBytes(std::wstring_view fileName, std::string_view bytes, IniFileSystem& files) {
-    const Target target{files, fileName};
-    const auto regular = OpenRegular(ToUtf8(fileName), target);
+bool HasBytes(const IniFileName& fileName, std::string_view bytes, IniFileSystem& files) {
+    const Target target{files, fileName.Text()};
+    const auto regular = OpenRegular(fileName.Path(), target);
     return regular ? HasOnly(regular->file, bytes, target) : bytes.empty();
 }
 
@@ -314,31 +383,68 @@ void MakeFolders(std::wstring_view folder, IniFileSystem& files) {
     }
 }
 
+std::vector<std::string> AbandonedFilesOf(const IniFileName& fileName, IniFileSystem& files) {
+    const Neighbours neighbours(FollowLinks(fs::path(fileName.Path()), {files, fileName.Text()}));
+    std::vector<std::string> paths = neighbours.Temporaries(files).value;
+    paths.push_back(neighbours.lock);
+    // A save that has just created its lock file has it locked a moment later.
+    for (int look = 0; look < 2; ++look) {
+        if (look != 0)
+            files.Pause(std::chrono::milliseconds(20));
+        const auto lock = Uninterrupted([&] { return files.Open(neighbours.lock, Opening::ToLock); });
+        if (lock.error == 0) {
+            const OpenFile file(files, lock.value);
+            if (Uninterrupted([&] { return files.TryLock(file.Get()); }) != 0)
+                return {};
+        } else if (lock.error != ENOENT) {
+            return {};
+        }
+        paths.erase(std::remove_if(paths.begin(), paths.end(),
+                                   [&](const std::string& path) {
+                                       return Uninterrupted([&] { return files.StatusAt(path); }).error != 0;
+                                   }),
+                    paths.end()); // a save that has ended meanwhile has taken its files along
+    }
+    std::sort(paths.begin(), paths.end());
+    return paths;
+}
+
 // Replacing ------------------------------------------------------------------------------------------------
 
 class IniReplacement::Work {
 public:
-    Work(std::wstring_view fileName, IniFileSystem& files)
-        : m_fileName(fileName),
+    Work(const IniFileName& fileName, IniFileSystem& files)
+        : m_fileName(fileName.Text()),
           m_files(files),
-          m_path(FollowLinks(fs::path(ToUtf8(fileName)), {files, fileName})),
-          m_folder(FolderOf(m_path)),
-          m_temporaryPath(TemporaryPathFor(m_path)) {}
+          m_path(FollowLinks(fs::path(fileName.Path()), {files, m_fileName}).string()),
+          m_neighbours(fs::path(m_path)) {}
     Work(const Work&) = delete;
     Work& operator=(const Work&) = delete;
     ~Work() {
-        // While the lock is held, so that nobody else's file goes. Where it cannot be removed, the next
-        // replacement does it.
-        if (m_isOurs)
-            static_cast<void>(Uninterrupted([&] { return m_files.Remove(m_temporaryPath); }));
+        // Where the temporary file cannot be removed, the lock file stays, too: so the next replacement knows
+        // that there is something to remove.
+        try {
+            if (RemoveTemporary() && HasLock())
+                static_cast<void>(Remove(m_neighbours.lock));
+        } catch (...) { // NOLINT(bugprone-empty-catch): a destructor has nobody to tell
+        }
     }
 
     void Begin() {
         constexpr std::chrono::seconds patience(10);
         constexpr std::chrono::milliseconds step(1);             // short, so that each of many has its turn
         const std::chrono::milliseconds start = m_files.Clock(); // calls take their time, too
-        while (!TryBegin(m_files.Clock() - start >= patience))
+        for (;;) {
+            const std::chrono::milliseconds waited = m_files.Clock() - start;
+            if (TryBegin(waited >= patience))
+                break;
+            if (waited >= 2 * patience)
+                throw ErrorOf(SetbackKind::LockLost);
             m_files.Pause(step);
+        }
+        m_old = OpenRegular(m_path, Here());
+        if (m_old)
+            m_stamp = m_old->stamp;
     }
 
     [[nodiscard]] const IniStamp& Stamp() const { return m_stamp; }
@@ -351,31 +457,53 @@ public:
         if (!m_old)
             return;
         Require([&] { return m_files.Sync(m_old->file.Get()); });
-        Require([&] { return m_files.SyncFolder(m_folder); });
+        Require([&] { return m_files.SyncFolder(m_neighbours.folder); });
     }
 
     std::optional<IniStamp> Commit(std::string_view bytes, std::optional<std::string_view> read) {
         if (bytes.size() > largestFile)
             throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, L"It would be larger than 4 GiB");
-        if (m_old)
-            TakeOverAttributes();
-        Write(bytes);
-        Require([&] { return m_files.Sync(m_temporary.Get()); });
-        // A change in the tick of the one before leaves no trace in the stamp.
-        if (m_old && read && !m_stamp.isSettled && !HasOnly(m_old->file, *read, Here()))
-            return std::nullopt;
-        if (StampAt(m_path.string(), Here()) != m_stamp)
-            return std::nullopt;
-        Require([&] { return m_files.Rename(m_temporaryPath, m_path.string()); });
-        m_isOurs = false;
+        RequireWritable();
+        constexpr int mostThefts = 20;
+        for (int thefts = 0;; ++thefts) {
+            const auto setback = TryCommit(bytes, read);
+            if (!setback)
+                break;
+            if (*setback != SetbackKind::Stolen)
+                return SetBack(*setback);
+            if (thefts == mostThefts)
+                throw ErrorOf(SetbackKind::TemporaryLost);
+            // What stands there now is nobody's text, and the old one is gone: ours is all that there is.
+            m_stamp = StampAt(m_path, Here());
+            read.reset();
+        }
         // Before the flush, which takes time: what another program makes of the file meanwhile is not ours.
-        const IniStamp stamp = StampOfOpen(m_temporary, Here(), Deed::Write);
-        Require([&] { return m_files.SyncFolder(m_folder); });
+        const IniStamp stamp = StampOfOpen(m_text->file, Here(), Deed::Write);
+        Require([&] { return m_files.SyncFolder(m_neighbours.folder); });
         return stamp;
     }
+    [[nodiscard]] const QuorError& Setback() const { return m_setback.value(); }
 
 private:
+    enum class SetbackKind : std::uint8_t {
+        FileChanged,
+        LockLost,
+        TemporaryLost,
+        Stolen, // somebody has put a file in the place of ours, which became the file, and took the old one
+    };
+
+    /// An open file, with what tells it from others.
+    struct KnownFile {
+        OpenFile file;
+        IniFileStatus status;
+    };
+
     [[nodiscard]] Target Here() const { return {m_files, m_fileName}; }
+
+    [[nodiscard]] KnownFile Known(OpenFile file) const {
+        const IniFileStatus status = StatusOf(file, Here(), Deed::Write);
+        return {std::move(file), status};
+    }
 
     template <class Call>
     void Require(const Call& call) const {
@@ -383,12 +511,57 @@ private:
             Raise(error, m_fileName, Deed::Write);
     }
 
+    [[nodiscard]] int Remove(const std::string& path) const {
+        return Uninterrupted([&] { return m_files.Remove(path); });
+    }
+
+    enum class Standing : std::uint8_t { Nothing, This, Other };
+
+    /// What a path leads to: a file that we know, or something else.
+    template <class StatusOrStamp>
+    [[nodiscard]] Standing WhatIsAt(const std::string& path, const StatusOrStamp& file) const {
+        const auto named = Uninterrupted([&] { return m_files.StatusAt(path); });
+        if (named.error == ENOENT)
+            return Standing::Nothing;
+        if (named.error != 0)
+            Raise(named.error, m_fileName, Deed::Write);
+        return IsSameFile(file, named.value) ? Standing::This : Standing::Other;
+    }
+    template <class StatusOrStamp>
+    [[nodiscard]] bool IsAt(const std::string& path, const StatusOrStamp& file) const {
+        return WhatIsAt(path, file) == Standing::This;
+    }
+    [[nodiscard]] bool HasLock() const { return m_lock && IsAt(m_neighbours.lock, m_lock->status); }
+
+    std::nullopt_t SetBack(SetbackKind kind) {
+        m_setback = ErrorOf(kind);
+        return std::nullopt;
+    }
+
+    /// What is to be told when something comes in between again and again.
+    [[nodiscard]] QuorError ErrorOf(SetbackKind kind) const {
+        switch (kind) {
+        case SetbackKind::LockLost:
+            return FileError(ERR_PERMISSION_DENIED, m_fileName,
+                             L"Another program keeps removing " + DecodeBytes(m_neighbours.lock));
+        case SetbackKind::TemporaryLost:
+        case SetbackKind::Stolen:
+            return FileError(ERR_PATH_FILE_ACCESS, m_fileName,
+                             L"Another program keeps removing " + DecodeBytes(m_temporary));
+        case SetbackKind::FileChanged:
+            break;
+        }
+        return FileError(ERR_PERMISSION_DENIED, m_fileName, L"Another program keeps writing it");
+    }
+
+    // The lock.
+
     /// Whether it is our turn now. Raises when it is not and `isLast` says that we have waited long enough.
     bool TryBegin(bool isLast) {
-        const bool exists = FindRegular(m_path.string(), Here()).has_value();
-        const auto created = Uninterrupted([&] {
-            return m_files.Open(m_temporaryPath, exists ? Opening::CreatePrivate : Opening::CreateShared);
-        });
+        // What is no file to be replaced is told before anything is created.
+        static_cast<void>(FindRegular(m_path, Here()));
+        const auto created =
+            Uninterrupted([&] { return m_files.Open(m_neighbours.lock, Opening::CreateLock); });
         if (created.error == EEXIST) {
             RemoveAbandoned(isLast);
             return false;
@@ -398,92 +571,127 @@ private:
         if (created.error != 0)
             Raise(created.error, m_fileName, Deed::Write);
 
-        OpenFile temporary(m_files, created.value);
-        const int lock = Uninterrupted([&] { return m_files.TryLock(temporary.Get()); });
-        if (lock == EWOULDBLOCK) // it was taken for abandoned before we could lock it
-            return false;
-        if (lock != 0 && lock != ENOTSUP)
-            Raise(lock, m_fileName, Deed::Write);
-        if (!IsTemporary(temporary))
-            return false;
-        m_temporary = std::move(temporary);
-        m_isOurs = true;
-
-        m_old = OpenRegular(m_path.string(), Here());
-        m_stamp = m_old ? m_old->stamp : IniStamp{};
-        if (m_old.has_value() == exists)
+        m_lock = Known(OpenFile(m_files, created.value));
+        const int error = Uninterrupted([&] { return m_files.TryLock(m_lock->file.Get()); });
+        if (error != 0 && error != ENOTSUP && error != EWOULDBLOCK)
+            Raise(error, m_fileName, Deed::Write);
+        // It may have been taken for abandoned before we could lock it.
+        if (error != EWOULDBLOCK && HasLock())
             return true;
-        // It has come or gone meanwhile; the temporary file was made for the wrong readers.
-        Require([&] { return m_files.Remove(m_temporaryPath); });
-        m_isOurs = false;
+        m_lock.reset();
         return false;
     }
 
-    /// Removes a temporary file whose process has ended. Raises when there is one that is in use and
-    /// `isLast`.
+    /// Removes a lock file whose process has ended, and what that has left. Raises when there is one that is
+    /// in use and `isLast`.
     void RemoveAbandoned(bool isLast) {
-        const auto opened = Uninterrupted([&] { return m_files.Open(m_temporaryPath, Opening::ToLock); });
+        const auto opened = Uninterrupted([&] { return m_files.Open(m_neighbours.lock, Opening::ToLock); });
         if (opened.error == ENOENT)
             return;
-        if (opened.error == EACCES) { // another user's, as long as nobody but that one may read it
-            if (isLast)
-                throw FileError(ERR_PERMISSION_DENIED, m_fileName,
-                                L"In use by the owner of " + DecodeBytes(m_temporaryPath));
+        if (opened.error == EACCES) { // another user's, who alone may lock it
+            RemoveUntouched(nullptr, isLast);
             return;
         }
         if (opened.error != 0)
-            RaiseFor(m_temporaryPath, opened.error, m_fileName);
+            RaiseFor(m_neighbours.lock, opened.error, m_fileName);
 
-        const OpenFile temporary(m_files, opened.value);
-        const int lock = Uninterrupted([&] { return m_files.TryLock(temporary.Get()); });
-        if (lock != 0 && lock != EWOULDBLOCK && lock != ENOTSUP)
-            RaiseFor(m_temporaryPath, lock, m_fileName);
-        if (lock == 0 || (lock == ENOTSUP && IsUntouched(temporary, isLast))) {
-            if (!IsTemporary(temporary))
-                return;
-            const int error = Uninterrupted([&] { return m_files.Remove(m_temporaryPath); });
-            if (error != 0 && error != ENOENT)
-                RaiseFor(m_temporaryPath, error, m_fileName);
-            return;
-        }
-        if (isLast) {
-            const std::string holder = m_files.LockHolder(temporary.Get());
-            throw FileError(ERR_PERMISSION_DENIED, m_fileName,
-                            L"In use by " + (holder.empty() ? L"another program" : DecodeBytes(holder)));
-        }
+        const OpenFile lock(m_files, opened.value);
+        const int error = Uninterrupted([&] { return m_files.TryLock(lock.Get()); });
+        if (error == ENOTSUP)
+            RemoveUntouched(&lock, isLast);
+        else if (error == 0 && IsAt(m_neighbours.lock, StatusOf(lock, Here(), Deed::Write)))
+            RemoveLeftovers();
+        else if (error == EWOULDBLOCK && isLast)
+            throw InUseBy(m_files.LockHolder(lock.Get()));
+        else if (error != 0 && error != EWOULDBLOCK)
+            RaiseFor(m_neighbours.lock, error, m_fileName);
     }
 
-    /// Whether the temporary file is as it was when we first saw it, asked at the end of the waiting.
-    bool IsUntouched(const OpenFile& temporary, bool isLast) {
-        const IniStamp stamp = StampOfOpen(temporary, Here(), Deed::Write);
+    /// Where nobody can tell whether a lock file is locked: removes it when it is the one that we saw first,
+    /// untouched, at the end of the waiting. A save that takes longer than that sees that its lock is gone.
+    void RemoveUntouched(const OpenFile* lock, bool isLast) {
+        const IniStamp stamp =
+            lock ? StampOfOpen(*lock, Here(), Deed::Write) : StampAt(m_neighbours.lock, Here());
         if (!m_firstSeen.exists)
             m_firstSeen = stamp;
-        return isLast && stamp == m_firstSeen;
+        if (!isLast || !stamp.exists)
+            return;
+        if (stamp != m_firstSeen)
+            throw InUseBy("");
+        RemoveLeftovers();
     }
 
-    /// Whether an open file is the one that has the name of the temporary file.
-    [[nodiscard]] bool IsTemporary(const OpenFile& file) const {
-        const auto named = Uninterrupted([&] { return m_files.StatusAt(m_temporaryPath); });
-        if (named.error == ENOENT)
-            return false;
-        if (named.error != 0)
-            Raise(named.error, m_fileName, Deed::Write);
-        const IniFileStatus own = StatusOf(file, Here(), Deed::Write);
-        return own.device == named.value.device && own.inode == named.value.inode;
+    /// The lock file goes last: as long as it is there, somebody knows that there is something to remove.
+    void RemoveLeftovers() {
+        std::vector<std::string> paths = m_neighbours.Temporaries(m_files).value;
+        paths.push_back(m_neighbours.lock);
+        for (const std::string& path : paths) {
+            const int error = Remove(path);
+            if (error != 0 && error != ENOENT)
+                RaiseFor(path, error, m_fileName);
+        }
     }
 
-    void TakeOverAttributes() {
-        const int error = Uninterrupted([&] { return m_files.MayWrite(m_path.string()); });
+    [[nodiscard]] QuorError InUseBy(const std::string& holder) const {
+        return FileError(ERR_PERMISSION_DENIED, m_fileName,
+                         L"In use by " + (holder.empty() ? L"another program" : DecodeBytes(holder)));
+    }
+
+    // The new text.
+
+    void RequireWritable() const {
+        if (!m_old)
+            return;
+        const int error = Uninterrupted([&] { return m_files.MayWrite(m_path); });
         if (error == EACCES)
             throw FileError(ERR_PERMISSION_DENIED, m_fileName, L"The file is read-only");
         if (error != 0)
             Raise(error, m_fileName, Deed::Write);
-        Require([&] { return m_files.CopyAttributes(m_old->file.Get(), m_temporary.Get()); });
+    }
+
+    /// Creates the file for the new text, without a name where that can be. False when its name is taken.
+    bool CreateText() {
+        const Opening how = m_old ? Opening::CreatePrivate : Opening::CreateShared;
+        static_cast<void>(RemoveTemporary()); // what an attempt before this one has left
+        m_hasTemporary = false;
+        m_temporary = m_neighbours.Temporary(m_files.RandomNumber());
+        auto created = Uninterrupted([&] { return m_files.OpenUnnamed(m_neighbours.folder, how); });
+        if (created.error == ENOTSUP) {
+            created = Uninterrupted([&] { return m_files.Open(m_temporary, how); });
+            if (created.error == EEXIST)
+                return false;
+            m_hasTemporary = created.error == 0;
+        }
+        if (created.error != 0)
+            Raise(created.error, m_fileName, Deed::Write);
+        m_text = Known(OpenFile(m_files, created.value));
+        return true;
+    }
+
+    /// Writes and flushes the new text. It is for us alone until it is whole; then it gets the rights of the
+    /// old file, or those of a new one.
+    void WriteText(std::string_view bytes) {
+        if (!m_hasTemporary) { // nobody can open it
+            if (m_old)
+                Require([&] { return m_files.CopyAttributes(m_old->file.Get(), m_text->file.Get()); });
+            Write(bytes);
+            Require([&] { return m_files.Sync(m_text->file.Get()); });
+            return;
+        }
+        if (!m_old)
+            Require([&] { return m_files.SetRights(m_text->file.Get(), IniFileSystem::ownerOnly); });
+        Write(bytes);
+        Require([&] { return m_files.Sync(m_text->file.Get()); });
+        Require([&] {
+            return m_old ? m_files.CopyAttributes(m_old->file.Get(), m_text->file.Get())
+                         : m_files.SetRights(m_text->file.Get(), m_text->status.rights);
+        });
+        Require([&] { return m_files.Sync(m_text->file.Get()); });
     }
 
     void Write(std::string_view bytes) const {
         while (!bytes.empty()) {
-            const auto count = Uninterrupted([&] { return m_files.Write(m_temporary.Get(), bytes); });
+            const auto count = Uninterrupted([&] { return m_files.Write(m_text->file.Get(), bytes); });
             if (count.error != 0)
                 Raise(count.error, m_fileName, Deed::Write);
             if (count.value == 0) // a system that neither writes nor says why would be asked for ever
@@ -492,19 +700,138 @@ private:
         }
     }
 
+    // The replacement.
+
+    /// Whether the file is still the one that we have read.
+    [[nodiscard]] bool IsAsItWas(std::optional<std::string_view> read) const {
+        // A change in the tick of the one before leaves no trace in the stamp.
+        if (m_old && read && !m_stamp.isSettled && !HasOnly(m_old->file, *read, Here()))
+            return false;
+        return StampAt(m_path, Here()) == m_stamp;
+    }
+
+    /// Writes the new text, and puts it in the place of the file. What has come in between, if anything.
+    std::optional<SetbackKind> TryCommit(std::string_view bytes, std::optional<std::string_view> read) {
+        if (!CreateText())
+            return SetbackKind::TemporaryLost;
+        WriteText(bytes);
+        return Replace(read);
+    }
+
+    std::optional<SetbackKind> Replace(std::optional<std::string_view> read) {
+        if (m_stamp.exists && !m_hasTemporary) {
+            const int error = Uninterrupted([&] { return m_files.Name(m_text->file.Get(), m_temporary); });
+            if (error == EEXIST)
+                return SetbackKind::TemporaryLost;
+            if (error != 0)
+                Raise(error, m_fileName, Deed::Write);
+            m_hasTemporary = true;
+        }
+        if (m_hasTemporary && !IsAt(m_temporary, m_text->status))
+            return SetbackKind::TemporaryLost;
+        if (!HasLock())
+            return SetbackKind::LockLost;
+        if (!IsAsItWas(read)) // the last look: what comes now must not be waited for
+            return SetbackKind::FileChanged;
+        if (!m_hasTemporary)
+            return Create();
+        return m_stamp.exists ? Exchange() : Overwrite();
+    }
+
+    /// For a file that is not there yet.
+    std::optional<SetbackKind> Create() {
+        const int error = Uninterrupted([&] { return m_files.Name(m_text->file.Get(), m_path); });
+        if (error != 0 && error != EEXIST)
+            Raise(error, m_fileName, Deed::Write);
+        return error == 0 && IsAt(m_path, m_text->status) ? std::nullopt
+                                                          : std::optional(SetbackKind::FileChanged);
+    }
+
+    std::optional<SetbackKind> Exchange() {
+        const int error = Uninterrupted([&] { return m_files.Exchange(m_temporary, m_path); });
+        if (error == ENOTSUP)
+            return Overwrite();
+        if (error != 0)
+            return WhyNot(error);
+        const bool isNewThere = IsAt(m_path, m_text->status);
+        const Standing taken = WhatIsAt(m_temporary, m_stamp);
+        m_hasTemporary = taken == Standing::This; // what is somebody else's is not removed
+        if (isNewThere && taken != Standing::Other)
+            return std::nullopt;
+        if (!HasLock()) { // somebody has saved meanwhile: what we have taken out, or what is there now
+            if (isNewThere && !PutBack())
+                throw KeptAside();
+            return SetbackKind::FileChanged;
+        }
+        if (isNewThere)
+            throw KeptAside();
+        // Not ours, nor any save's: it was put in the place of our text.
+        return m_hasTemporary && PutBack() && IsAt(m_path, m_stamp) ? SetbackKind::TemporaryLost
+                                                                    : SetbackKind::Stolen;
+    }
+
+    /// Takes an exchange back. Where that fails, the file that was there keeps its temporary name.
+    bool PutBack() {
+        m_hasTemporary = false;
+        const int error = Uninterrupted([&] { return m_files.Exchange(m_temporary, m_path); });
+        if (error != 0 && error != ENOENT)
+            RaiseFor(m_temporary, error, m_fileName);
+        m_hasTemporary = error == 0;
+        return m_hasTemporary;
+    }
+
+    [[nodiscard]] QuorError KeptAside() const {
+        return FileError(ERR_PATH_FILE_ACCESS, m_fileName,
+                         L"Another program has replaced it at the same moment; its file is kept as " +
+                             DecodeBytes(m_temporary));
+    }
+
+    /// Where files cannot change names, or there is no old one.
+    std::optional<SetbackKind> Overwrite() {
+        if (const int error = Uninterrupted([&] { return m_files.Rename(m_temporary, m_path); }))
+            return WhyNot(error);
+        m_hasTemporary = false;
+        if (IsAt(m_path, m_text->status))
+            return std::nullopt;
+        if (!HasLock()) // somebody has saved after us
+            return SetbackKind::FileChanged;
+        throw FileError(ERR_PATH_FILE_ACCESS, m_fileName,
+                        L"Another program has replaced it at the same moment");
+    }
+
+    /// What has come in between when a name could not be given. Raises what is an error.
+    [[nodiscard]] SetbackKind WhyNot(int error) const {
+        if (error == EBUSY)
+            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName,
+                            L"It is a mount point, which cannot be replaced");
+        if (error != ENOENT)
+            Raise(error, m_fileName, Deed::Write);
+        return IsAt(m_temporary, m_text->status) ? SetbackKind::FileChanged : SetbackKind::TemporaryLost;
+    }
+
+    /// False when the temporary file, or the old file under its name, is still there.
+    bool RemoveTemporary() {
+        if (!m_hasTemporary)
+            return true;
+        const int error = Remove(m_temporary);
+        return error == 0 || error == ENOENT;
+    }
+
     std::wstring m_fileName;
     IniFileSystem& m_files;
-    fs::path m_path; // at the end of all links
-    std::string m_folder;
-    std::string m_temporaryPath;
-    OpenFile m_temporary;
-    bool m_isOurs = false;            // the temporary file: it was made, locked, and has still its name
+    std::string m_path; // at the end of all links
+    Neighbours m_neighbours;
+    std::optional<KnownFile> m_lock;  // once it is our turn
+    IniStamp m_firstSeen;             // of a lock file of which nobody can tell whether it is locked
     std::optional<RegularFile> m_old; // nothing when there is no file yet
     IniStamp m_stamp;
-    IniStamp m_firstSeen; // of a temporary file that cannot be locked
+    std::optional<KnownFile> m_text;
+    std::string m_temporary;     // the path that the new text has, or gets, before that of the file
+    bool m_hasTemporary = false; // there is something of ours under that path
+    std::optional<QuorError> m_setback;
 };
 
-IniReplacement::IniReplacement(std::wstring_view fileName, IniFileSystem& files)
+IniReplacement::IniReplacement(const IniFileName& fileName, IniFileSystem& files)
     : m_work(std::make_unique<Work>(fileName, files)) {
     m_work->Begin();
 }
@@ -518,5 +845,6 @@ void IniReplacement::Flush() const { m_work->Flush(); }
 std::optional<IniStamp> IniReplacement::Commit(std::string_view bytes, std::optional<std::string_view> read) {
     return m_work->Commit(bytes, read);
 }
+const QuorError& IniReplacement::Setback() const { return m_work->Setback(); }
 
 } // namespace QuorIniFile

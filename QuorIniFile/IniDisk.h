@@ -2,6 +2,7 @@
 
 #include "QuorIniFile/Export.h"
 #include "QuorIniFile/IniFileSystem.h"
+#include "QuorIniFile/QuorError.h"
 
 #include <cstdint>
 #include <memory>
@@ -9,6 +10,8 @@
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <type_traits>
+#include <vector>
 
 // Files as the store needs them: read whole, replaced whole, by one process at a time. It knows nothing of
 // what the bytes mean. File names go to the system as UTF-8.
@@ -17,6 +20,31 @@
 // error 75 at once. Symbolic links are followed and stay. Failures are raised as QuorError with the file's
 // name and, where it adds something, the cause in the system's words; a lack of memory is std::bad_alloc.
 namespace QuorIniFile {
+
+/// The name of a file: as messages say it, and as the system takes it.
+class QUORINIFILE_EXPORT IniFileName {
+public:
+    IniFileName() = default;
+    /// A relative name is looked up in the current folder whenever it is used.
+    template <class Text>
+    requires std::is_convertible_v<const Text&, std::wstring_view>
+    IniFileName(const Text& text) // NOLINT(google-explicit-constructor): a name is a name
+        : IniFileName(std::wstring(std::wstring_view(text))) {}
+    IniFileName(std::wstring text); // NOLINT(google-explicit-constructor)
+
+    /// A relative name that goes on meaning the file in what is the current folder now. Raises 52 for a name
+    /// that no file can have, 76 when there is no current folder.
+    [[nodiscard]] static IniFileName Absolute(std::wstring_view text, IniFileSystem& files);
+
+    [[nodiscard]] const std::wstring& Text() const { return m_text; }
+    [[nodiscard]] const std::string& Path() const { return m_path; }
+
+    friend bool operator==(const IniFileName&, const IniFileName&) = default;
+
+private:
+    std::wstring m_text;
+    std::string m_path; // UTF-8, but for the current folder, whose bytes are the system's
+};
 
 /// By what one tells that a file is still the one that was read. Other stamps: it may have changed. Equal
 /// ones: it has not, if the older one is settled.
@@ -49,33 +77,42 @@ struct IniFileBytes {
 /// All bytes of a file, or nothing when there is no such file. A file that is being written meanwhile is read
 /// again.
 [[nodiscard]] QUORINIFILE_EXPORT std::optional<IniFileBytes>
-ReadBytes(std::wstring_view fileName, IniFileSystem& files = IniFileSystem::System());
+ReadBytes(const IniFileName& fileName, IniFileSystem& files = IniFileSystem::System());
 
 /// The stamp of a file as it is now; that of a missing file says so.
-[[nodiscard]] QUORINIFILE_EXPORT IniStamp StampOf(std::wstring_view fileName,
+[[nodiscard]] QUORINIFILE_EXPORT IniStamp StampOf(const IniFileName& fileName,
                                                   IniFileSystem& files = IniFileSystem::System());
 
 /// Whether the file has these very bytes; a missing file has none.
-[[nodiscard]] QUORINIFILE_EXPORT bool HasBytes(std::wstring_view fileName, std::string_view bytes,
+[[nodiscard]] QUORINIFILE_EXPORT bool HasBytes(const IniFileName& fileName, std::string_view bytes,
                                                IniFileSystem& files = IniFileSystem::System());
 
 /// Creates a folder, and those above it, where they are missing. What is created is for the user alone.
 QUORINIFILE_EXPORT void MakeFolders(std::wstring_view folder, IniFileSystem& files = IniFileSystem::System());
 
+/// What interrupted saves of a file have left beside it, by their paths: the next save removes them, or,
+/// where their lock file is gone, nobody does. Nothing as long as a save is under way.
+[[nodiscard]] QUORINIFILE_EXPORT std::vector<std::string>
+AbandonedFilesOf(const IniFileName& fileName, IniFileSystem& files = IniFileSystem::System());
+
 /// The replacement of one file: locked, then read, then written, so that no other process that goes this way
 /// comes in between.
 ///
-/// A file beside the target, ".quor-<number of its name>.tmp", is the lock and the new text in one: whoever
-/// creates it and holds the kernel's lock on it may replace the target, and does so by giving it the target's
-/// name. It needs no other file, nothing to clean up after a save, and no lock on the target itself. The
-/// kernel's lock dies with its process; the file that such a process leaves is removed by the next
-/// replacement. Where a file system knows no locks, the file alone is the lock, and one that nobody has
-/// touched for as long as one waits is taken for abandoned.
+/// The lock is an empty file beside the target, ".quor-<number of its name>.lock": whoever created it and
+/// holds the kernel's lock on it may replace the target, for as long as it has its name. The kernel's lock
+/// dies with its process; a lock file that nobody has locked is removed by the next replacement, with what
+/// else that process has left. Where nobody can tell whether a lock file is locked (a file system without
+/// locks, another user's file), one that nobody has touched for as long as one waits is taken for abandoned.
+///
+/// The new text is another file, of a name that nobody can foresee, ".quor-<number>-<random>.tmp", and has
+/// none until it is whole, where the system can do that. It changes names with the target, and the old file
+/// goes when it is certain which file stands where: neither a lock that was lost nor a file that somebody has
+/// put in the place of ours can destroy anything.
 class QUORINIFILE_EXPORT IniReplacement {
 public:
     /// Waits up to ten seconds for its turn, then raises 70 with the process that has the file in use. A
     /// folder that does not exist is 76, one that cannot be written 70.
-    explicit IniReplacement(std::wstring_view fileName, IniFileSystem& files = IniFileSystem::System());
+    explicit IniReplacement(const IniFileName& fileName, IniFileSystem& files = IniFileSystem::System());
     IniReplacement(const IniReplacement&) = delete;
     IniReplacement& operator=(const IniReplacement&) = delete;
     /// Without Commit the file is as it was, and nothing is left beside it.
@@ -92,14 +129,20 @@ public:
     void Flush() const;
 
     /// Replaces the file by `bytes`, or creates it; to be called once. Returns the new stamp when the bytes
-    /// have reached the disk; nothing when a program that takes no lock has changed the file meanwhile, which
-    /// is then left as that made it. That is seen by its stamp, and where the stamp may not tell, by its not
-    /// having the bytes that were `read` any more, as far as these are given. On a failure the file is as it
-    /// was, or, when the failure comes after the replacement, whole and new; it may not outlive a power cut
-    /// then. Mode, owner, access lists and extended attributes are kept as far as the system allows; of
-    /// several hard links the others keep the old file. A file that we are not to write is error 70.
+    /// have reached the disk and are what stands under the name of the file; nothing when something has come
+    /// in between, which Setback() tells: the file is as somebody else has made it, and a new replacement may
+    /// be tried. A change by a program that takes no lock is seen by the stamp of the file, and where the
+    /// stamp may not tell, by its not having the bytes that were `read` any more, as far as these are given.
+    ///
+    /// On a failure the file is as it was, or, when the failure comes after the replacement, whole and new;
+    /// it may not outlive a power cut then. Mode, owner, access lists and extended attributes are kept as far
+    /// as the system allows; of several hard links the others keep the old file. A file that we are not to
+    /// write is error 70, a mount point 75.
     [[nodiscard]] std::optional<IniStamp> Commit(std::string_view bytes,
                                                  std::optional<std::string_view> read = std::nullopt);
+    /// What has come in between, as the error to raise when one does not try again: 70 when another program
+    /// has changed the file or taken the lock, 75 when the temporary file was removed.
+    [[nodiscard]] const QuorError& Setback() const;
 
 private:
     class Work;

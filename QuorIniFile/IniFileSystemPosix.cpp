@@ -4,17 +4,24 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <initializer_list>
 #include <iomanip>
 #include <locale>
+#include <mutex>
+#include <new>
 #include <optional>
+#include <random>
 #include <sstream>
 #include <system_error>
 #include <thread>
 #include <vector>
 
 #include <fcntl.h>
+#include <pthread.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -48,7 +55,8 @@ IniFileStatus StatusFrom(const struct stat& status) {
             static_cast<std::uint64_t>(status.st_ino),
             static_cast<std::uint64_t>(status.st_size),
             static_cast<std::int64_t>(status.st_ctim.tv_sec),
-            static_cast<std::int64_t>(status.st_ctim.tv_nsec)};
+            static_cast<std::int64_t>(status.st_ctim.tv_nsec),
+            static_cast<std::uint32_t>(status.st_mode & 07777U)};
 }
 
 #ifdef __linux__
@@ -115,6 +123,13 @@ int CopyExtendedAttributes(int from, int to, bool sameGroup) {
     return 0;
 }
 
+/// Whether a folder has an access list, or one for what is created in it: its mode bits do not say then who
+/// may write it.
+bool HasAccessList(const std::string& folder) {
+    const auto has = [&folder](const char* list) { return ::getxattr(folder.c_str(), list, nullptr, 0) > 0; };
+    return has("system.posix_acl_access") || has("system.posix_acl_default");
+}
+
 /// The process that holds the lock on a file, from the kernel's list of locks, a line each:
 /// "1: FLOCK  ADVISORY  WRITE 1234 fe:00:10985491 0 EOF".
 std::optional<std::string> LockingProcess(const struct stat& status) {
@@ -141,12 +156,93 @@ std::optional<std::string> LockingProcess(const struct stat& status) {
 #else
 
 int CopyExtendedAttributes(int /*from*/, int /*to*/, bool /*sameGroup*/) { return 0; }
+bool HasAccessList(const std::string& /*folder*/) { return true; } // nobody knows
 std::optional<std::string> LockingProcess(const struct stat& /*status*/) { return std::nullopt; }
 
 #endif
 
+/// The name of a process, and what keeps it from going on: " (host), which is stopped".
+std::string ConditionOf(const std::string& process) {
+    const char* const ended = ", which has ended; a process that it has started has its lock";
+    std::ifstream file("/proc/" + process + "/stat"); // 1234 (host) S ...; the name may hold anything
+    std::string line;
+    if (!std::getline(file, line))
+        return ended;
+    const std::size_t open = line.find('(');
+    const std::size_t close = line.rfind(") ");
+    if (open == std::string::npos || close == std::string::npos || close + 2 >= line.size())
+        return {};
+    const std::string name = ' ' + line.substr(open, close + 1 - open);
+    switch (line[close + 2]) {
+    case 'T':
+    case 't':
+        return name + ", which is stopped";
+    case 'Z':
+        return name + ended;
+    default:
+        return name;
+    }
+}
+
+/// The locked files of this process. The kernel gives a lock back when all handles to it are closed, those
+/// included that a child of fork has got without knowing: it closes them before it does anything else, so
+/// that no lock outlives the process that took it. (A program that is started closes them by O_CLOEXEC.)
+class LockedFiles {
+public:
+    static LockedFiles& OfThisProcess() {
+        static LockedFiles& files =
+            *new LockedFiles; // stores that are destroyed at the very end need it, too
+        return files;
+    }
+    /// An error number; 0 when the file is remembered.
+    int Add(int file) {
+        const std::lock_guard lock(m_mutex);
+        try {
+            m_files.push_back(file);
+        } catch (const std::bad_alloc&) {
+            return ENOMEM;
+        }
+        return 0;
+    }
+    void Remove(int file) {
+        const std::lock_guard lock(m_mutex);
+        m_files.erase(std::remove(m_files.begin(), m_files.end(), file), m_files.end());
+    }
+
+private:
+    LockedFiles() {
+        ::pthread_atfork([] { OfThisProcess().m_mutex.lock(); }, [] { OfThisProcess().m_mutex.unlock(); },
+                         [] {
+                             LockedFiles& files = OfThisProcess();
+                             for (const int file : files.m_files)
+                                 ::close(file);
+                             files.m_files.clear();
+                             files.m_mutex.unlock();
+                         });
+    }
+
+    std::mutex m_mutex;
+    std::vector<int> m_files;
+};
+
 class PosixFileSystem final : public IniFileSystem {
 public:
+    IniResult<std::string> CurrentFolder() override {
+        std::error_code error;
+        std::string folder = std::filesystem::current_path(error).string();
+        return {error.value(), std::move(folder)};
+    }
+
+    IniResult<std::vector<std::string>> NamesIn(const std::string& folder) override {
+        std::vector<std::string> names;
+        std::error_code error;
+        const std::filesystem::directory_iterator end;
+        for (std::filesystem::directory_iterator entry(folder, error); !error && entry != end;
+             entry.increment(error))
+            names.push_back(entry->path().filename().string());
+        return {error.value(), std::move(names)};
+    }
+
     IniResult<IniFileStatus> StatusAt(const std::string& path) override {
         struct stat status {};
         return ::stat(path.c_str(), &status) == 0 ? IniResult<IniFileStatus>{0, StatusFrom(status)}
@@ -193,6 +289,14 @@ public:
             if (file < 0 && errno == EACCES)
                 file = OpenFile(path, O_RDONLY | O_NONBLOCK | O_NOFOLLOW, 0);
             break;
+        case Opening::CreateLock: {
+            const std::size_t slash = path.rfind('/');
+            const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
+            file = OpenFile(path, O_RDWR | O_CREAT | O_EXCL, 0600);
+            if (file >= 0)
+                ShareLock(file, folder);
+            break;
+        }
         case Opening::CreatePrivate:
             file = OpenFile(path, O_RDWR | O_CREAT | O_EXCL, 0600);
             break;
@@ -203,8 +307,28 @@ public:
         return {ErrorUnless(file >= 0), file};
     }
 
+    IniResult<Handle> OpenUnnamed(const std::string& folder, Opening how) override {
+#ifdef O_TMPFILE
+        const int file = OpenFile(folder, O_TMPFILE | O_RDWR, how == Opening::CreateShared ? 0666 : 0600);
+        if (file < 0) // an old system takes it for an attempt to write the folder
+            return {IsOneOf(errno, {EISDIR, EINVAL, EOPNOTSUPP, ENOSYS}) ? ENOTSUP : errno, -1};
+        if (::access(PathOfOpen(file).c_str(), F_OK) == 0)
+            return {0, file};
+        ::close(file); // without /proc it could never get a name
+#endif
+        return {ENOTSUP, -1};
+    }
+
+    int Name(Handle file, const std::string& path) override {
+        return ErrorUnless(
+            ::linkat(AT_FDCWD, PathOfOpen(Fd(file)).c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0);
+    }
+
     // After a Sync that went well, closing has nothing to tell.
-    void Close(Handle file) override { ::close(Fd(file)); }
+    void Close(Handle file) override {
+        LockedFiles::OfThisProcess().Remove(Fd(file));
+        ::close(Fd(file));
+    }
 
     IniResult<std::size_t> Read(Handle file, std::uint64_t offset, char* bytes, std::size_t size) override {
         const ssize_t count = ::pread(Fd(file), bytes, size, static_cast<off_t>(offset));
@@ -230,6 +354,9 @@ public:
     }
 
     int TryLock(Handle file) override {
+        // Before it is locked: a child must not come in between.
+        if (const int error = LockedFiles::OfThisProcess().Add(Fd(file)))
+            return error;
         const int error = ErrorUnless(::flock(Fd(file), LOCK_EX | LOCK_NB) == 0);
         return IsOneOf(error, {ENOLCK, ENOSYS, EINVAL, EOPNOTSUPP}) ? ENOTSUP : error;
     }
@@ -237,11 +364,7 @@ public:
     std::string LockHolder(Handle file) override {
         struct stat status {};
         const auto process = ::fstat(Fd(file), &status) == 0 ? LockingProcess(status) : std::nullopt;
-        if (!process)
-            return {};
-        std::string name;
-        std::ifstream command("/proc/" + *process + "/comm");
-        return "process " + *process + (std::getline(command, name) ? " (" + name + ')' : "");
+        return process ? "process " + *process + ConditionOf(*process) : "";
     }
 
     int CopyAttributes(Handle from, Handle to) override {
@@ -269,9 +392,30 @@ public:
         return ErrorUnless(::rename(from.c_str(), to.c_str()) == 0);
     }
 
+    int Exchange(const std::string& one, const std::string& other) override {
+#ifdef RENAME_EXCHANGE
+        const int error =
+            ErrorUnless(::renameat2(AT_FDCWD, one.c_str(), AT_FDCWD, other.c_str(), RENAME_EXCHANGE) == 0);
+        return IsOneOf(error, {EINVAL, ENOSYS, EOPNOTSUPP}) ? ENOTSUP : error;
+#else
+        static_cast<void>(one);
+        static_cast<void>(other);
+        return ENOTSUP;
+#endif
+    }
+
+    int SetRights(Handle file, std::uint32_t rights) override {
+        return ErrorUnless(::fchmod(Fd(file), static_cast<mode_t>(rights)) == 0);
+    }
+
     int Remove(const std::string& path) override { return ErrorUnless(::unlink(path.c_str()) == 0); }
 
     int MakeFolder(const std::string& path) override { return ErrorUnless(::mkdir(path.c_str(), 0700) == 0); }
+
+    std::uint64_t RandomNumber() override {
+        std::random_device device;
+        return (std::uint64_t{device()} << 32U) | device();
+    }
 
     void Pause(std::chrono::milliseconds time) override { std::this_thread::sleep_for(time); }
 
@@ -281,6 +425,23 @@ public:
     }
 
 private:
+    static std::string PathOfOpen(int file) { return "/proc/self/fd/" + std::to_string(file); }
+
+    /// Opens a new lock file to the users who may write its folder, and to no others: whoever can open it can
+    /// lock it. Where that cannot be said, it stays its owner's.
+    static void ShareLock(int file, const std::string& folder) {
+        struct stat status {};
+        if (::stat(folder.c_str(), &status) != 0 || (status.st_mode & 022U) == 0 || HasAccessList(folder))
+            return;
+        mode_t mode = 0600;
+        const auto mayCreate = [&status](unsigned shift) { return ((status.st_mode >> shift) & 03U) == 03U; };
+        if (mayCreate(3) && ::fchown(file, static_cast<uid_t>(-1), status.st_gid) == 0)
+            mode |= 0060U;
+        if (mayCreate(0))
+            mode |= 0006U;
+        static_cast<void>(::fchmod(file, mode));
+    }
+
     static int OpenFile(const std::string& path, int flags, mode_t mode) {
         // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the system's interface
         return ::open(path.c_str(), flags | O_CLOEXEC, mode);

@@ -31,11 +31,6 @@ bool Assign(Value& value, std::optional<Value> read) {
     return true;
 }
 
-/// No file has an empty name, or one with a NUL, or one that is no valid text.
-bool IsFileName(std::wstring_view name) {
-    return !name.empty() && name.find(L'\0') == std::wstring_view::npos && NameToFind(name);
-}
-
 } // namespace
 
 /// One file and the section that is selected in it.
@@ -44,17 +39,15 @@ public:
     explicit Session(IniFileSystem& files) : m_files(files) {}
 
     void SetFileName(std::wstring_view fileName) {
-        if (!IsFileName(fileName))
-            throw FileError(ERR_BAD_FILE_NAME, fileName);
-        if (fileName == m_fileName)
+        IniFileName file = IniFileName::Absolute(fileName, m_files);
+        if (file == m_file)
             return;
-        std::wstring name(fileName);
         if (!m_isAbandoned)
             Save();
         m_document.reset();
-        m_fileName = std::move(name);
+        m_file = std::move(file);
     }
-    [[nodiscard]] const std::wstring& FileName() const { return m_fileName; }
+    [[nodiscard]] const std::wstring& FileName() const { return m_file.Text(); }
 
     void SetSection(std::wstring_view section) {
         if (section == m_section)
@@ -126,7 +119,7 @@ public:
         Load();
         const auto section = FindSection(from);
         if (!section)
-            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, L"There is no section " + Quoted(from));
+            throw FileError(ERR_PATH_FILE_ACCESS, FileName(), L"There is no section " + Quoted(from));
         std::string bytes;
         std::string buffer;
         const std::string_view spelling =
@@ -155,7 +148,7 @@ public:
             return;
         }
         Discard();
-        throw FileError(ERR_PATH_FILE_ACCESS, m_fileName,
+        throw FileError(ERR_PATH_FILE_ACCESS, FileName(),
                         L"A record could not be written whole, so nothing was saved");
     }
     void Abandon() {
@@ -176,9 +169,9 @@ public:
         }
         m_hasFailed = true;
         constexpr int mostTries = 20;
-        for (int tries = 0; !TrySave(); ++tries) {
+        for (int tries = 0; const auto setback = TrySave(); ++tries) {
             if (tries == mostTries)
-                throw FileError(ERR_PERMISSION_DENIED, m_fileName, L"Another program keeps writing it");
+                throw QuorError(*setback);
         }
         m_hasFailed = false;
     }
@@ -192,12 +185,12 @@ public:
     bool FileChanged() {
         if (!m_document)
             return false;
-        const IniStamp now = StampOf(m_fileName, m_files);
+        const IniStamp now = StampOf(m_file, m_files);
         if (now.exists != m_stamp.exists)
             return true;
         if (now == m_stamp && m_stamp.isSettled)
             return false;
-        if (!HasBytes(m_fileName, m_document->BaseText(), m_files))
+        if (!HasBytes(m_file, m_document->BaseText(), m_files))
             return true;
         m_stamp = now;
         return false;
@@ -216,8 +209,8 @@ private:
         // A file that was not there may have come since, as long as we have nothing to say about it.
         if (m_document && (m_stamp.exists || m_document->Changed()))
             return;
-        if (m_fileName.empty())
-            throw FileError(ERR_BAD_FILE_NAME, m_fileName);
+        if (FileName().empty())
+            throw FileError(ERR_BAD_FILE_NAME, FileName());
         auto [document, stamp] = LoadFile();
         Adopt(std::move(document), stamp);
     }
@@ -225,12 +218,12 @@ private:
     void LoadExisting() {
         Load();
         if (!m_stamp.exists && !m_document->Changed())
-            throw FileError(ERR_FILE_NOT_FOUND, m_fileName);
+            throw FileError(ERR_FILE_NOT_FOUND, FileName());
     }
 
     /// The file as it is now; an empty document when there is none.
     [[nodiscard]] std::pair<IniDocument, IniStamp> LoadFile() const {
-        std::optional<IniFileBytes> file = ReadBytes(m_fileName, m_files);
+        std::optional<IniFileBytes> file = ReadBytes(m_file, m_files);
         if (!file)
             return {IniDocument(), IniStamp()};
         return {Document(std::move(file->bytes)), file->stamp};
@@ -238,7 +231,7 @@ private:
 
     [[nodiscard]] IniDocument Document(std::string bytes) const {
         if (IsUtf16(bytes))
-            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, L"The file is UTF-16 text");
+            throw FileError(ERR_PATH_FILE_ACCESS, FileName(), L"The file is UTF-16 text");
         return IniDocument(std::move(bytes));
     }
 
@@ -255,9 +248,9 @@ private:
             throw NameIsTaken(DecodeBytes(*taken));
     }
 
-    /// Writes the changes into the file as it is now. False when it was changed while that was done.
-    bool TrySave() {
-        IniReplacement replacement(m_fileName, m_files);
+    /// Writes the changes into the file as it is now. What has come in between, if anything.
+    std::optional<QuorError> TrySave() {
+        IniReplacement replacement(m_file, m_files);
         std::optional<IniDocument> theirs; // what somebody else has made of the file, and our changes to it
         if (!replacement.Has(m_document->BaseText())) {
             theirs = Document(replacement.Bytes());
@@ -270,15 +263,16 @@ private:
             // Whoever wrote it, what we say is saved has to outlive a power cut.
             replacement.Flush();
             Adopt(std::move(saved), replacement.Stamp());
-            return true;
+            return std::nullopt;
         }
         // A file of one NUL is no UTF-16, and becomes it with what follows: nobody could load that.
         if (IsUtf16(saved.BaseText()))
-            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, L"With these changes it would be UTF-16 text");
+            throw FileError(ERR_PATH_FILE_ACCESS, FileName(), L"With these changes it would be UTF-16 text");
         const std::optional<IniStamp> stamp = replacement.Commit(saved.BaseText(), changed.BaseText());
-        if (stamp)
-            Adopt(std::move(saved), *stamp);
-        return stamp.has_value();
+        if (!stamp)
+            return replacement.Setback();
+        Adopt(std::move(saved), *stamp);
+        return std::nullopt;
     }
 
     /// The number of the selected section. It is looked up once and remembered.
@@ -347,16 +341,16 @@ private:
 
     static std::wstring Quoted(std::wstring_view name) { return L'"' + std::wstring(name) + L'"'; }
     [[nodiscard]] QuorError NoSuchName(std::wstring_view what, std::wstring_view name) const {
-        return FileError(ERR_PATH_FILE_ACCESS, m_fileName,
+        return FileError(ERR_PATH_FILE_ACCESS, FileName(),
                          L"No " + std::wstring(what) + L" can have the name " + Quoted(name));
     }
     [[nodiscard]] QuorError NameIsTaken(std::wstring_view name) const {
-        return FileError(ERR_PATH_FILE_ACCESS, m_fileName,
+        return FileError(ERR_PATH_FILE_ACCESS, FileName(),
                          L"There is a section " + Quoted(name) + L" already");
     }
 
     IniFileSystem& m_files;
-    std::wstring m_fileName;
+    IniFileName m_file;
     std::wstring m_section;
     std::string m_sectionBytes;                   // the section as look-ups take it,
     bool m_hasSectionName = true;                 // unless no file can hold it

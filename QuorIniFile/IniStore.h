@@ -24,8 +24,9 @@ namespace QuorIniFile {
 /// A write is durable when it returns. Between Hold and Release the writes are kept in memory; the outermost
 /// Release makes them durable together. A value that stands in the file already writes nothing. A save
 /// replaces the file as a whole, atomically, and one process at a time: it takes the lock, reads the file,
-/// and writes what we have written into the text that it finds. A save that fails raises and keeps the
-/// changes; the next write or Release tries again.
+/// and writes what we have written into the text that it finds. Success is told when the file is what was
+/// written, whatever others have done to the lock and to temporary files meanwhile. A save that fails raises
+/// and keeps the changes; the next write or Release tries again.
 ///
 /// Errors are QuorError with the source "QuorIniFile" and the file's name in the description: bad file name
 /// 52, device error 57, disk full 61, permission denied 70, path not found 76, anything else that cannot be
@@ -42,7 +43,8 @@ public:
     /// save has raised for is not tried again.
     ~IniStore() override;
 
-    /// Remembers the name; the file is not touched. An empty name, or one that no file can have, is error 52.
+    /// Remembers the name; the file is not touched. A relative name means the file in what is the current
+    /// folder now, whatever becomes of that. An empty name, or one that no file can have, is error 52.
     /// Pending changes of another file are saved first, even when held, unless a record among them was
     /// abandoned. The same name changes nothing.
     void SetFileName(std::wstring_view fileName) override;

@@ -1,10 +1,13 @@
 #include "QuorIniFile/IniDisk.h"
 
+#include "QuorIniFile/IniStore.h"
 #include "QuorIniFile/QuorError.h"
+#include "tests/support/InterceptedFiles.h"
 #include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <cstdint>
@@ -14,6 +17,7 @@
 #include <string>
 #include <vector>
 
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -248,7 +252,7 @@ TEST(IniDisk, OnlyRegularFilesAreTouchedAndNothingHangs) {
     EXPECT_EQ(folder.Files(), before);
 }
 
-TEST(IniDisk, WhatStandsInTheWayOfTheTemporaryFileIsNamedAndStays) {
+TEST(IniDisk, WhatStandsInTheWayOfTheLockFileIsNamedAndStays) {
     const TempFolder folder;
     folder.Write("a.ini", "old");
     const std::string temporary = [&folder] {
@@ -330,6 +334,57 @@ TEST(IniDisk, AFullDiskLeavesTheOldFileAndNothingElse) {
     EXPECT_EQ(RaisedBy([&] { ReplaceBytes(folder.Name("b.ini"), std::string(5000, 'x')); }).Number(), 61);
     EXPECT_EQ(folder.Read("a.ini"), "old");
     EXPECT_EQ(folder.Files(), Names{"a.ini"});
+}
+
+TEST(IniDisk, AFileThatIsAMountPointIsRefusedInWords) {
+    const TempFolder folder;
+    folder.Write("real.ini", "old");
+    folder.Write("a.ini", "");
+    if (::mount(folder.Path("real.ini").c_str(), folder.Path("a.ini").c_str(), nullptr, MS_BIND, nullptr) !=
+        0)
+        GTEST_SKIP() << "only the superuser may mount a file on another one";
+    const QuorError error = RaisedBy([&] { ReplaceBytes(folder.Name("a.ini"), "new"); });
+    EXPECT_EQ(error.Number(), 75);
+    EXPECT_EQ(error.Description(), L"Path/File access error: " + folder.Name("a.ini") +
+                                       L": It is a mount point, which cannot be replaced");
+    EXPECT_EQ(folder.Read("a.ini"), "old");
+    EXPECT_EQ(folder.Files(), (Names{"a.ini", "real.ini"}));
+    EXPECT_EQ(::umount(folder.Path("a.ini").c_str()), 0);
+}
+
+TEST(IniDisk, ARelativeNameGoesOnMeaningTheFileThatItWasBoundTo) {
+    const TempFolder folder;
+    fs::create_directory(folder.Path("other"));
+    folder.Write("f.ini", "[A]\nx=1\n");
+    const fs::path before = fs::current_path();
+    fs::current_path(folder.Path());
+    IniStore store;
+    store.SetFileName(L"f.ini");
+    store.SetSection(L"A");
+    fs::current_path(folder.Path("other"));
+    std::int16_t value = 0;
+    EXPECT_TRUE(store.ReadInteger(L"x", value));
+    EXPECT_FALSE(store.FileChanged());
+    store.WriteInteger(L"x", 2, L"");
+    EXPECT_EQ(store.FileName(), L"f.ini");
+    EXPECT_EQ(folder.Read("f.ini"), "[A]\nx=2\n");
+    EXPECT_FALSE(fs::exists(folder.Path("other/f.ini")));
+
+    store.SetFileName(L"f.ini"); // now this is another file
+    store.WriteInteger(L"x", 3, L"");
+    fs::current_path(before);
+    EXPECT_EQ(folder.Read("other/f.ini"), "[A]\nx=3\n");
+    EXPECT_EQ(folder.Read("f.ini"), "[A]\nx=2\n");
+}
+
+TEST(IniDisk, ARelativeNameNeedsACurrentFolder) {
+    Support::InterceptedFiles files;
+    files.onCall = [](std::string_view call) { return call == "CurrentFolder" ? ENOENT : 0; };
+    IniStore store(files);
+    const QuorError error = RaisedBy([&] { store.SetFileName(L"f.ini"); });
+    EXPECT_EQ(error.Number(), 76);
+    EXPECT_EQ(error.Description(), L"Path not found: f.ini");
+    EXPECT_EQ(store.FileName(), L"");
 }
 
 TEST(IniDisk, FoldersAreMadeForTheUserAlone) {

@@ -18,6 +18,7 @@
 #include <iterator>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -48,11 +49,11 @@ void Save(IniFileSystem& files, const std::wstring& file, const wchar_t* key, st
     store.WriteInteger(key, value, L"");
 }
 
-enum class End { NotAllowed, Killed, Finished };
+enum class End { NotAllowed, Stopped, Finished };
 
-/// Runs `action` in a process of its own, which is killed at its stop number `at`: before and after each
-/// system call there is one.
-End KillAt(int at, const std::function<void()>& action) {
+/// Runs `action` in a process of its own. At its stop number `at`, of which there is one before and one after
+/// each system call, it waits while `meanwhile` is done to it, and goes on if it still can.
+End StopAt(int at, const std::function<void()>& action, const std::function<void(pid_t)>& meanwhile) {
     const pid_t child = ::fork();
     if (child == 0) {
         if (::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0)
@@ -77,15 +78,19 @@ End KillAt(int at, const std::function<void()>& action) {
             return End::Finished;
         }
     }
-    ::kill(child, SIGKILL);
+    meanwhile(child);
+    ::ptrace(PTRACE_DETACH, child, nullptr, nullptr);
     ::waitpid(child, &status, 0);
-    return End::Killed;
+    EXPECT_TRUE(WIFSIGNALED(status) || status == 0) << "the save goes well whenever it can go on";
+    return End::Stopped;
 }
 
-bool HasTemporaryFile(const TempFolder& folder) {
+void Kill(pid_t process) { ::kill(process, SIGKILL); }
+
+bool HasLeftovers(const TempFolder& folder) {
     const Names names = folder.Files();
     return std::any_of(names.begin(), names.end(),
-                       [](const std::string& name) { return name.ends_with(".tmp"); });
+                       [](const std::string& name) { return name.starts_with(".quor-"); });
 }
 
 /// Kills a save of "a.ini" at each system call. `target` is the file behind that name, `before` its text.
@@ -93,27 +98,54 @@ void KillEverywhere(const std::function<void(const TempFolder&)>& prepare, const
                     const std::optional<std::string>& before, const std::string& after) {
     int stops = 0;
     int leftovers = 0;
-    for (End end = End::Killed; end == End::Killed; ++stops) {
+    for (End end = End::Stopped; end == End::Stopped; ++stops) {
         const TempFolder folder;
         prepare(folder);
-        end = KillAt(stops, [&] { Save(IniFileSystem::System(), folder.Name("a.ini"), L"x", 2); });
+        end = StopAt(
+            stops, [&] { Save(IniFileSystem::System(), folder.Name("a.ini"), L"x", 2); }, Kill);
         if (end == End::NotAllowed)
             GTEST_SKIP() << "this system does not let one process trace another";
 
         std::optional<std::string> text;
         if (fs::exists(folder.Path(target)))
             text = folder.Read(target);
-        ASSERT_TRUE(text == after || (text == before && end == End::Killed)) << "stop " << stops;
-        leftovers += HasTemporaryFile(folder) ? 1 : 0;
+        ASSERT_TRUE(text == after || (text == before && end == End::Stopped)) << "stop " << stops;
+        leftovers += HasLeftovers(folder) ? 1 : 0;
 
         InterceptedFiles next;
         Save(next, folder.Name("a.ini"), L"y", 3);
         EXPECT_LT(next.paused, 1s) << "stop " << stops;
         EXPECT_EQ(folder.Read(target), text.value_or("[A]\n") + "y=3\n") << "stop " << stops;
-        EXPECT_FALSE(HasTemporaryFile(folder)) << "stop " << stops;
+        EXPECT_FALSE(HasLeftovers(folder)) << "stop " << stops;
     }
     EXPECT_GT(stops, 30);
     EXPECT_GT(leftovers, 5) << "of kills in the middle something is left";
+}
+
+/// Removes what a save has beside its file.
+void RemoveFilesOfSaves(const TempFolder& folder) {
+    for (const std::string& name : folder.Files()) {
+        if (name.starts_with(".quor-"))
+            fs::remove(folder.Path(name));
+    }
+}
+
+/// Stops a save of x in "a.ini" at each system call, and does something to its files meanwhile.
+void DisturbEverywhere(const std::function<void(const TempFolder&)>& disturb, const std::string& after) {
+    int stops = 0;
+    for (End end = End::Stopped; end == End::Stopped; ++stops) {
+        const TempFolder folder;
+        folder.Write("a.ini", oldText);
+        end = StopAt(
+            stops, [&] { Save(IniFileSystem::System(), folder.Name("a.ini"), L"x", 2); },
+            [&](pid_t) { disturb(folder); });
+        if (end == End::NotAllowed)
+            GTEST_SKIP() << "this system does not let one process trace another";
+        if (end == End::Stopped) {
+            ASSERT_EQ(folder.Read("a.ini"), after) << "stop " << stops;
+        }
+    }
+    EXPECT_GT(stops, 60);
 }
 
 // System calls that fail, by means of strace --------------------------------------------------------------
@@ -160,6 +192,7 @@ std::vector<SystemCall> CallsOf(const TempFolder& folder, const TempFolder& logs
 
 constexpr const char* beforeTraced = "; mine\n[A]\nK0=1\n";
 constexpr const char* afterTraced = "; mine\n[A]\nK0=0\n";
+constexpr const char* nextTraced = "; mine\n[A]\nK0=2\n";
 
 void PrepareTraced(const TempFolder& folder) {
     folder.Write("a.ini", beforeTraced);
@@ -187,6 +220,19 @@ TEST(IniStoreKilled, AtEverySystemCallOfTheFirstSaveThereIsNoFileOrACompleteOne)
     KillEverywhere([](const TempFolder&) {}, "a.ini", std::nullopt, firstText);
 }
 
+TEST(IniStoreKilled, AtEverySystemCallACleanerMayRemoveItsFilesAndTheSaveGoesWell) {
+    DisturbEverywhere(RemoveFilesOfSaves, newText);
+}
+
+TEST(IniStoreKilled, AtEverySystemCallAnotherProcessMayTakeItsLockAndSaveAndNothingIsLost) {
+    DisturbEverywhere(
+        [](const TempFolder& folder) {
+            RemoveFilesOfSaves(folder);
+            Save(IniFileSystem::System(), folder.Name("a.ini"), L"y", 3);
+        },
+        std::string(newText) + "y=3\n");
+}
+
 TEST(IniStoreKilled, EverySystemCallThatFailsIsAnErrorWithTheOldFileOrAnInterruptionWithTheNewOne) {
     const TempFolder logs;
     Names trace{"-e", "trace=%file,%desc"};
@@ -203,6 +249,8 @@ TEST(IniStoreKilled, EverySystemCallThatFailsIsAnErrorWithTheOldFileOrAnInterrup
     ASSERT_GT(calls.size(), 20U);
 
     bool isRenamed = false;
+    std::set<std::string> doneWithout;
+    int flushes = 0; // of the new text, and of the folder with its name
     for (const auto& [name, number] : calls) {
         for (const std::string error : {"EIO", "ENOSPC", "EDQUOT", "EINTR"}) {
             const std::string injection = name + ":error=" + error + ":when=" + std::to_string(number);
@@ -212,22 +260,29 @@ TEST(IniStoreKilled, EverySystemCallThatFailsIsAnErrorWithTheOldFileOrAnInterrup
             options.insert(options.end(), {"-e", "inject=" + injection});
             const TracedSave save = SaveTraced(folder, logs, options);
             const std::string text = folder.Read("a.ini");
-            // Closing has nothing to tell after a flush.
-            if (error == "EINTR" || name == "close") {
+            // Closing has nothing to tell after a flush, nor has what is tidied up when all is flushed.
+            if (error == "EINTR" || name == "close" || flushes == 2) {
                 EXPECT_EQ(save.exitCode, 0) << injection << ": " << save.output;
                 EXPECT_EQ(text, afterTraced) << injection;
-                continue;
+            } else if (save.exitCode == 0) {
+                EXPECT_EQ(text, afterTraced) << injection;
+                doneWithout.insert(name);
+            } else {
+                EXPECT_EQ(save.exitCode, 1) << injection;
+                EXPECT_NE(save.output.find(folder.Path("a.ini").string()), std::string::npos) << save.output;
+                EXPECT_EQ(text, isRenamed ? afterTraced : beforeTraced) << injection;
             }
-            EXPECT_EQ(save.exitCode, 1) << injection;
-            EXPECT_NE(save.output.find(folder.Path("a.ini").string()), std::string::npos) << save.output;
-            EXPECT_EQ(text, isRenamed ? afterTraced : beforeTraced) << injection;
-            Save(IniFileSystem::System(), folder.Name("a.ini"), L"K0", 0);
-            EXPECT_EQ(folder.Read("a.ini"), afterTraced) << injection;
+            Save(IniFileSystem::System(), folder.Name("a.ini"), L"K0", 2);
+            EXPECT_EQ(folder.Read("a.ini"), nextTraced) << injection;
             EXPECT_EQ(folder.Files(), Names{"a.ini"}) << injection;
         }
         isRenamed = isRenamed || name.starts_with("rename");
+        flushes += name == "fsync" ? 1 : 0;
     }
     EXPECT_TRUE(isRenamed);
+    EXPECT_EQ(flushes, 2);
+    // Who else may use the lock file, and whether a file can be without a name.
+    EXPECT_EQ(doneWithout.size(), 2U) << testing::PrintToString(doneWithout);
 }
 
 // A disk that is really full ------------------------------------------------------------------------------

@@ -13,12 +13,16 @@
 
 #include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <string>
 #include <thread>
 #include <vector>
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -73,7 +77,7 @@ void ExpectKeys(const TempFolder& folder, const std::string& host, const Names& 
     EXPECT_EQ(folder.Files(), Names{"a.ini"});
 }
 
-/// A disk on which a process that is not ours has the temporary file of "/a.ini".
+/// A disk on which a process that is not ours has the lock file of "/a.ini".
 class ForeignSave {
 public:
     explicit ForeignSave(SimulatedDisk& disk) : m_disk(disk) {
@@ -81,10 +85,10 @@ public:
         m_path = disk.Now().begin()->first;
     }
     void Begin() {
-        m_file = m_disk.Open(m_path, Opening::CreatePrivate).value;
+        m_file = m_disk.Open(m_path, Opening::CreateLock).value;
         static_cast<void>(m_disk.TryLock(m_file));
     }
-    void Write() const { static_cast<void>(m_disk.Write(m_file, "half")); }
+    void Touch() const { static_cast<void>(m_disk.Write(m_file, "x")); }
     void Die() const { m_disk.Close(m_file); }
 
 private:
@@ -198,6 +202,82 @@ TEST(IniStoreProcesses, AProcessThatIsKilledWhileItHasTheLockKeepsNobodyWaiting)
     }
 }
 
+TEST(IniStoreProcesses, AChildOfAProcessThatIsKilledWhileItHasTheLockDoesNotHaveIt) {
+    const TempFolder folder;
+    folder.Write("a.ini", "[A]\nx=1\n");
+    Process holder({saver, "fork", folder.Path("a.ini").string()});
+    const pid_t child = std::stoi(holder.ReadLine());
+    holder.Kill();
+    EXPECT_EQ(holder.Wait(), -SIGKILL);
+    EXPECT_EQ(::kill(child, 0), 0) << "the child lives on";
+
+    InterceptedFiles files;
+    Save(files, folder.Name("a.ini"));
+    EXPECT_LT(files.paused, 1s);
+    EXPECT_EQ(folder.Read("a.ini"), "[A]\nx=2\n");
+    EXPECT_EQ(folder.Files(), Names{"a.ini"});
+    ::kill(child, SIGKILL);
+}
+
+TEST(IniStoreProcesses, AChildThatEndsDoesNotGiveTheLockOfItsParentBack) {
+    const TempFolder folder;
+    Process holder({saver, "fork", folder.Path("a.ini").string()});
+    const pid_t child = std::stoi(holder.ReadLine());
+    ::kill(child, SIGKILL);
+    IniFileSystem& files = IniFileSystem::System();
+    const auto file = files.Open(folder.Path(folder.Files().front()).string(), Opening::ToLock);
+    ASSERT_EQ(file.error, 0);
+    EXPECT_EQ(files.TryLock(file.value), EWOULDBLOCK);
+    files.Close(file.value);
+}
+
+TEST(IniStoreProcesses, AFileUnderALeaseIsReadAsSoonAsItIsGivenBack) {
+    const TempFolder folder;
+    folder.Write("a.ini", "[A]\nx=1\n");
+    Process server({saver, "lease", folder.Path("a.ini").string()});
+    if (server.ReadLine() != "leased")
+        GTEST_SKIP() << "this file system has no leases";
+    InterceptedFiles files;
+    IniStore store(files);
+    store.SetFileName(folder.Name("a.ini"));
+    store.SetSection(L"A");
+    std::int16_t value = 0;
+    EXPECT_TRUE(store.ReadInteger(L"x", value));
+    EXPECT_EQ(value, 1);
+    EXPECT_GE(files.paused, 100ms);
+    EXPECT_EQ(server.ReadLine(), "given back");
+    server.EndInput();
+    EXPECT_EQ(server.Wait(), 0);
+}
+
+TEST(IniStoreProcesses, AFileUnderALeaseIsSavedAsSoonAsItIsGivenBack) {
+    const TempFolder folder;
+    folder.Write("a.ini", "[A]\nx=1\n");
+    IniStore store;
+    store.SetFileName(folder.Name("a.ini"));
+    store.SetSection(L"A");
+    store.Hold();
+    store.WriteInteger(L"x", 2, L"");
+    Process server({saver, "lease", folder.Path("a.ini").string()});
+    if (server.ReadLine() != "leased")
+        GTEST_SKIP() << "this file system has no leases";
+    store.Release();
+    EXPECT_EQ(folder.Read("a.ini"), "[A]\nx=2\n");
+    EXPECT_EQ(server.ReadLine(), "given back");
+    server.EndInput();
+    EXPECT_EQ(server.Wait(), 0);
+}
+
+TEST(IniStoreProcesses, ALeaseThatIsNotGivenBackForAMinuteIsAnError) {
+    SimulatedDisk disk(SimulatedDisk::Files{{"/a.ini", "[A]\nx=1\n"}});
+    InterceptedFiles files(disk);
+    files.onCall = [](std::string_view call) { return call == "Open" ? EWOULDBLOCK : 0; };
+    const QuorError error = RaisedBy([&] { static_cast<void>(ReadBytes(L"/a.ini", files)); });
+    EXPECT_EQ(error.Number(), 70);
+    EXPECT_EQ(error.Description(), L"Permission denied: /a.ini: In use by another program");
+    EXPECT_GE(disk.waited, 60s);
+}
+
 TEST(IniStoreProcesses, AProcessThatHasTheLockIsWaitedFor) {
     const TempFolder folder;
     folder.Write("a.ini", "[A]\nx=1\n");
@@ -241,8 +321,33 @@ TEST(IniStoreProcesses, TheProcessThatHasTheLockIsNamed) {
     const auto file = files.Open(folder.Path(folder.Files().front()).string(), Opening::ToLock);
     ASSERT_EQ(file.error, 0);
     EXPECT_EQ(files.TryLock(file.value), EWOULDBLOCK);
-    EXPECT_EQ(files.LockHolder(file.value), "process " + std::to_string(holder.Number()) + " (IniSaver)");
+    const std::string name = "process " + std::to_string(holder.Number()) + " (IniSaver)";
+    EXPECT_EQ(files.LockHolder(file.value), name);
+    ::kill(holder.Number(), SIGSTOP);
+    siginfo_t info{};
+    EXPECT_EQ(::waitid(P_PID, static_cast<id_t>(holder.Number()), &info, WSTOPPED | WNOWAIT), 0);
+    EXPECT_EQ(files.LockHolder(file.value), name + ", which is stopped");
     files.Close(file.value);
+}
+
+TEST(IniStoreProcesses, ALockThatAProcessHasLeftToAnotherOneIsToldOf) {
+    if (!std::ifstream("/proc/locks"))
+        GTEST_SKIP() << "this system has no list of locks";
+    // Taken by other means than ours, so that the child keeps it.
+    const TempFolder folder;
+    folder.Write("lock", "");
+    const int file = ::open(folder.Path("lock").c_str(), O_RDWR | O_CLOEXEC);
+    const pid_t parent = ::fork();
+    if (parent == 0) {
+        static_cast<void>(::flock(file, LOCK_EX));
+        ::_exit(0); // our own handle is a copy of its own, and keeps the lock
+    }
+    int status = 0;
+    ::waitpid(parent, &status, 0);
+    EXPECT_EQ(IniFileSystem::System().LockHolder(file),
+              "process " + std::to_string(parent) +
+                  ", which has ended; a process that it has started has its lock");
+    ::close(file);
 }
 
 TEST(IniStoreProcesses, AFileThatIsInUseForTenSecondsIsAnErrorThatSaysByWhom) {
@@ -277,23 +382,31 @@ TEST(IniStoreProcesses, TheTenSecondsAreThoseOfTheClockAlsoWhereEachCallTakesLon
     EXPECT_LT(disk.waited, 11s);
 }
 
-TEST(IniStoreProcesses, ATemporaryFileThatOnlyItsOwnerMayReadIsWaitedForAsWell) {
+TEST(IniStoreProcesses, ALockFileThatOnlyItsOwnerMayOpenIsWaitedForUntilNobodyHasTouchedItForTenSeconds) {
     SimulatedDisk disk;
     ForeignSave foreign(disk);
     foreign.Begin();
     InterceptedFiles files(disk);
     bool isCreated = false;
+    bool isTouched = true;
     files.onCall = [&](std::string_view call) {
-        isCreated = call == "Open" && !isCreated; // the second attempt to open it is the one for the lock
-        return call == "Open" && !isCreated ? EACCES : 0;
+        if (isTouched && disk.waited == 5s)
+            foreign.Touch();
+        isCreated = call == "Open" && !isCreated && disk.Now().size() == 1; // the second one is to lock it
+        return call == "Open" && !isCreated && disk.Now().size() == 1 ? EACCES : 0;
     };
     const QuorError error = RaisedBy([&] { Save(files, L"/a.ini"); });
     EXPECT_EQ(error.Number(), 70);
-    EXPECT_EQ(error.Description().rfind(L"Permission denied: /a.ini: In use by the owner of /.quor-", 0), 0U);
+    EXPECT_EQ(error.Description(), L"Permission denied: /a.ini: In use by another program");
     EXPECT_GE(disk.waited, 10s);
+
+    isTouched = false;
+    Save(files, L"/a.ini");
+    EXPECT_GE(disk.waited, 20s);
+    EXPECT_EQ(disk.Now(), (SimulatedDisk::Files{{"/a.ini", "[A]\nx=2\n"}}));
 }
 
-TEST(IniStoreProcesses, WhereThereAreNoLocksTheTemporaryFileIsTheLock) {
+TEST(IniStoreProcesses, WhereThereAreNoLocksTheLockFileIsTheLock) {
     SimulatedDisk disk;
     disk.hasLocks = false;
     Save(disk, L"/a.ini");
@@ -301,7 +414,7 @@ TEST(IniStoreProcesses, WhereThereAreNoLocksTheTemporaryFileIsTheLock) {
     EXPECT_EQ(disk.waited, 0s);
 }
 
-TEST(IniStoreProcesses, WhereThereAreNoLocksATemporaryFileThatNobodyTouchesForTenSecondsIsAbandoned) {
+TEST(IniStoreProcesses, WhereThereAreNoLocksALockFileThatNobodyTouchesForTenSecondsIsAbandoned) {
     SimulatedDisk disk;
     disk.hasLocks = false;
     ForeignSave foreign(disk);
@@ -312,7 +425,7 @@ TEST(IniStoreProcesses, WhereThereAreNoLocksATemporaryFileThatNobodyTouchesForTe
     EXPECT_EQ(disk.Now(), (SimulatedDisk::Files{{"/a.ini", "[A]\nx=2\n"}}));
 }
 
-TEST(IniStoreProcesses, WhereThereAreNoLocksATemporaryFileThatIsWrittenIsInUse) {
+TEST(IniStoreProcesses, WhereThereAreNoLocksALockFileThatIsTouchedIsInUse) {
     SimulatedDisk disk;
     disk.hasLocks = false;
     ForeignSave foreign(disk);
@@ -320,7 +433,7 @@ TEST(IniStoreProcesses, WhereThereAreNoLocksATemporaryFileThatIsWrittenIsInUse) 
     InterceptedFiles files(disk);
     files.onCall = [&](std::string_view) {
         if (disk.waited == 5s)
-            foreign.Write();
+            foreign.Touch();
         return 0;
     };
     EXPECT_EQ(RaisedBy([&] { Save(files, L"/a.ini"); }).Number(), 70);

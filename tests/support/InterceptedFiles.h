@@ -5,11 +5,13 @@
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <limits>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace Support {
 
@@ -29,6 +31,12 @@ public:
     /// How many files are open.
     int openFiles = 0;
 
+    QuorIniFile::IniResult<std::string> CurrentFolder() override {
+        return Ask("CurrentFolder", [&] { return m_files.CurrentFolder(); });
+    }
+    QuorIniFile::IniResult<std::vector<std::string>> NamesIn(const std::string& folder) override {
+        return Ask("NamesIn", [&] { return m_files.NamesIn(folder); });
+    }
     QuorIniFile::IniResult<QuorIniFile::IniFileStatus> StatusAt(const std::string& path) override {
         return Ask("StatusAt", [&] { return m_files.StatusAt(path); });
     }
@@ -45,6 +53,14 @@ public:
         const auto file = Ask("Open", [&] { return m_files.Open(path, how); });
         openFiles += file.error == 0 ? 1 : 0;
         return file;
+    }
+    QuorIniFile::IniResult<Handle> OpenUnnamed(const std::string& folder, Opening how) override {
+        const auto file = Ask("OpenUnnamed", [&] { return m_files.OpenUnnamed(folder, how); });
+        openFiles += file.error == 0 ? 1 : 0;
+        return file;
+    }
+    int Name(Handle file, const std::string& path) override {
+        return Do("Name", [&] { return m_files.Name(file, path); });
     }
     void Close(Handle file) override {
         m_files.Close(file);
@@ -73,6 +89,12 @@ public:
     int Rename(const std::string& from, const std::string& to) override {
         return Do("Rename", [&] { return m_files.Rename(from, to); });
     }
+    int SetRights(Handle file, std::uint32_t rights) override {
+        return Do("SetRights", [&] { return m_files.SetRights(file, rights); });
+    }
+    int Exchange(const std::string& one, const std::string& other) override {
+        return Do("Exchange", [&] { return m_files.Exchange(one, other); });
+    }
     int Remove(const std::string& path) override {
         return Do("Remove", [&] { return m_files.Remove(path); });
     }
@@ -83,6 +105,7 @@ public:
         paused += time;
         m_files.Pause(time);
     }
+    std::uint64_t RandomNumber() override { return m_files.RandomNumber(); }
     std::chrono::milliseconds Clock() override { return m_files.Clock(); }
 
 private:

@@ -1,18 +1,34 @@
 // A program that saves as a host does, for the tests that need several processes:
 //     IniSaver keys FILE SECTION COUNT    saves COUNT keys K0, K1, ... one by one
-//     IniSaver records FILE COUNT FROM    saves COUNT records, each of eight keys with one number, FROM and
-//     up IniSaver lock FILE                  takes the lock, says "locked", and keeps it until its input ends
+//     IniSaver records FILE COUNT FROM    saves COUNT records, each of eight keys with one number, from FROM
+//     on IniSaver lock FILE                  takes the lock, says "locked", and keeps it until its input ends
+//     IniSaver fork FILE                  takes the lock, starts a child that does nothing, says its number,
+//     and
+//                                         keeps the lock until its input ends
+//     IniSaver lease FILE                 takes a lease on the file, says "leased", and gives it back a fifth
+//     of
+//                                         a second after it is asked to; ends with its input
+//     IniSaver storm FILE SECTION LOG SECONDS  saves keys K0, K1, ... for so long, each again until it is
+//     saved, and
+//                                         adds a line to LOG for each that is
 // An error goes to the standard output and ends it with 1.
 
 #include "QuorIniFile/IniDisk.h"
 #include "QuorIniFile/IniStore.h"
 #include "QuorIniFile/Utf8.h"
 
+#include <chrono>
+#include <csignal>
 #include <cstdint>
 #include <exception>
+#include <fstream>
 #include <iostream>
 #include <string>
+#include <thread>
 #include <vector>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 using namespace QuorIniFile;
 
@@ -47,17 +63,76 @@ void KeepLock(const std::wstring& file) {
     }
 }
 
+void ForkWithLock(const std::wstring& file) {
+    const IniReplacement replacement(file);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        for (;;)
+            ::pause();
+    }
+    std::cout << child << std::endl;
+    for (char c = 0; std::cin.get(c);) {
+    }
+}
+
+void Lease(const std::string& file) {
+    sigset_t asked;
+    ::sigemptyset(&asked);
+    ::sigaddset(&asked, SIGIO);
+    ::sigprocmask(SIG_BLOCK, &asked, nullptr);
+    const int handle = ::open(file.c_str(), O_RDWR | O_CLOEXEC); // NOLINT(cppcoreguidelines-pro-type-vararg)
+    if (::fcntl(handle, F_SETLEASE, F_WRLCK) != 0) {             // NOLINT(cppcoreguidelines-pro-type-vararg)
+        std::cout << "no leases here" << std::endl;
+        return;
+    }
+    std::cout << "leased" << std::endl;
+    int signal = 0;
+    ::sigwait(&asked, &signal);
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    static_cast<void>(::fcntl(handle, F_SETLEASE, F_UNLCK)); // NOLINT(cppcoreguidelines-pro-type-vararg)
+    std::cout << "given back" << std::endl;
+    for (char c = 0; std::cin.get(c);) {
+    }
+}
+
+/// Goes on behind what the log says, because a storm kills savers and starts them again.
+void SaveInAStorm(const std::wstring& file, const std::wstring& section, const std::string& log,
+                  int seconds) {
+    int key = 0;
+    std::ifstream before(log);
+    for (std::string line; std::getline(before, line);)
+        ++key;
+    std::ofstream saved(log, std::ios::app);
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
+    while (std::chrono::steady_clock::now() < end) {
+        try {
+            IniStore store;
+            store.SetFileName(file);
+            store.SetSection(section);
+            store.WriteInteger(L"K" + std::to_wstring(key), static_cast<std::int16_t>(key), L"");
+            saved << key++ << std::endl;
+        } catch (const QuorError&) { // NOLINT(bugprone-empty-catch): a storm; it is tried again
+        }
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     const std::vector<std::string> arguments(argv, argv + argc);
     try {
-        const std::string& deed = arguments.at(1);
+        const std::string& task = arguments.at(1);
         const std::wstring file = Wide(arguments.at(2));
-        if (deed == "keys")
+        if (task == "keys")
             SaveKeys(file, Wide(arguments.at(3)), std::stoi(arguments.at(4)));
-        else if (deed == "records")
+        else if (task == "records")
             SaveRecords(file, std::stoi(arguments.at(3)), std::stoi(arguments.at(4)));
+        else if (task == "fork")
+            ForkWithLock(file);
+        else if (task == "lease")
+            Lease(arguments.at(2));
+        else if (task == "storm")
+            SaveInAStorm(file, Wide(arguments.at(3)), arguments.at(4), std::stoi(arguments.at(5)));
         else
             KeepLock(file);
     } catch (const std::exception& error) {
