@@ -3,7 +3,6 @@
 #include "QuorIniFile/Utf8.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
@@ -13,8 +12,6 @@
 
 namespace QuorIniFile {
 namespace {
-
-constexpr std::uint32_t lastCharacter = 0x10FFFF;
 
 // Writing --------------------------------------------------------------------------------------------------
 
@@ -49,11 +46,7 @@ void AppendEscape(std::string& out, std::uint32_t code) {
             return;
         }
     }
-    std::array<char, 8> digits{};
-    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), code, 16);
-    std::transform(digits.data(), result.ptr, digits.data(),
-                   [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
-    out.append("\\u{").append(digits.data(), result.ptr).append(1, '}');
+    out += HexEscape(code);
 }
 
 bool IsControl(std::uint32_t code, IniEncoding encoding) {

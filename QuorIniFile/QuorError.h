@@ -42,7 +42,9 @@ public:
     [[nodiscard]] const std::wstring& HelpFile() const noexcept { return m_helpFile; }
     [[nodiscard]] std::int32_t HelpContext() const noexcept { return m_helpContext; }
 
-    /// The description as UTF-8, for hosts that catch std::exception.
+    /// The description as UTF-8, for hosts that catch std::exception. It is what a window shows as plain
+    /// text: names of files, sections and keys stand in it as they are, control characters included. Whoever
+    /// prints it on a terminal or in a log prints ToPrintable(Description()) instead (Utf8.h).
     [[nodiscard]] const char* what() const noexcept override { return m_what.c_str(); }
 
 private:

@@ -1,8 +1,12 @@
 #include "QuorIniFile/Utf8.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
+#include <utility>
 
 namespace QuorIniFile {
 namespace {
@@ -12,8 +16,8 @@ constexpr std::uint32_t noCharacter = 0xFFFFFFFF;
 
 bool IsSurrogate(std::uint32_t code) { return code >= 0xD800 && code <= 0xDFFF; }
 
-/// The character that starts at `text[at]`; moves `at` behind it.
-std::uint32_t NextCharacter(std::wstring_view text, std::size_t& at) {
+/// The code that starts at `text[at]`, that of a lone surrogate too; moves `at` behind it.
+std::uint32_t NextCode(std::wstring_view text, std::size_t& at) {
     // NOLINTNEXTLINE(bugprone-signed-char-misuse,cert-str34-c): a wide character, whatever its sign
     auto code = static_cast<std::uint32_t>(text[at++]);
     if constexpr (wideIsUtf16) {
@@ -26,7 +30,33 @@ std::uint32_t NextCharacter(std::wstring_view text, std::size_t& at) {
             }
         }
     }
-    return IsSurrogate(code) || code > 0x10FFFF ? replacement : code;
+    return code;
+}
+
+/// The character that starts at `text[at]`; moves `at` behind it.
+std::uint32_t NextCharacter(std::wstring_view text, std::size_t& at) {
+    const std::uint32_t code = NextCode(text, at);
+    return IsSurrogate(code) || code > lastCharacter ? replacement : code;
+}
+
+/// The first and the last code of each range that a terminal or a log must not get. They are in order.
+constexpr std::pair<std::uint32_t, std::uint32_t> unprintable[] = {
+    {0x0, 0x1F},      // control characters
+    {0x7F, 0x9F},     // delete, and the control characters that are one code for ESC and a letter
+    {0x61C, 0x61C},   // Arabic letter mark
+    {0x200E, 0x200F}, // left-to-right and right-to-left mark
+    {0x2028, 0x202E}, // line and paragraph separator, embeddings and overrides of the direction
+    {0x2066, 0x2069}, // isolates of the direction
+    {0xD800, 0xDFFF}, // lone surrogates
+    {0xFEFF, 0xFEFF}, // byte-order mark
+    {lastCharacter + 1, noCharacter}, // no Unicode
+};
+
+bool IsUnprintable(std::uint32_t code) {
+    const auto* const range =
+        std::find_if(std::begin(unprintable), std::end(unprintable),
+                     [code](const auto& candidate) { return code <= candidate.second; });
+    return range->first <= code; // the last range ends with the greatest code there is
 }
 
 /// The character that starts at `bytes[at]`, or noCharacter; moves `at` behind it.
@@ -45,7 +75,7 @@ std::uint32_t NextFromUtf8(std::string_view bytes, std::size_t& at) {
         code = (code << 6) | (next & 0x3FU);
     }
     constexpr std::uint32_t smallest[] = {0, 0x80, 0x800, 0x10000};
-    return code < smallest[continuations] || IsSurrogate(code) || code > 0x10FFFF ? noCharacter : code;
+    return code < smallest[continuations] || IsSurrogate(code) || code > lastCharacter ? noCharacter : code;
 }
 
 } // namespace
@@ -78,6 +108,40 @@ std::string ToUtf8(std::wstring_view text) {
     }
     return bytes;
 }
+
+std::string HexEscape(std::uint32_t code) {
+    std::array<char, 8> digits{};
+    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), code, 16);
+    std::transform(digits.data(), result.ptr, digits.data(),
+                   [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
+    return std::string("\\u{").append(digits.data(), result.ptr).append(1, '}');
+}
+
+std::wstring EscapeControls(std::wstring_view text) {
+    constexpr std::pair<std::uint32_t, const wchar_t*> named[] = {
+        {'\n', L"\\n"}, {'\r', L"\\r"}, {'\t', L"\\t"}};
+    std::wstring escaped;
+    escaped.reserve(text.size());
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t start = at;
+        const std::uint32_t code = NextCode(text, at);
+        if (!IsUnprintable(code)) {
+            escaped += text.substr(start, at - start);
+            continue;
+        }
+        const auto* const known = std::find_if(std::begin(named), std::end(named),
+                                               [code](const auto& entry) { return entry.first == code; });
+        if (known != std::end(named)) {
+            escaped += known->second;
+        } else {
+            const std::string hex = HexEscape(code);
+            escaped.append(hex.begin(), hex.end());
+        }
+    }
+    return escaped;
+}
+
+std::string ToPrintable(std::wstring_view text) { return ToUtf8(EscapeControls(text)); }
 
 bool IsAscii(std::wstring_view text) {
     std::uint32_t bits = 0; // of all characters at once: a look at each would take longer

@@ -14,6 +14,9 @@ namespace QuorIniFile {
 /// Whether characters outside the basic plane are two units of a wide string.
 inline constexpr bool wideIsUtf16 = sizeof(wchar_t) == 2;
 
+/// The greatest code of a Unicode character.
+inline constexpr std::uint32_t lastCharacter = 0x10FFFF;
+
 /// Whether all of it is ASCII, which is the same as bytes and as text.
 [[nodiscard]] QUORINIFILE_EXPORT bool IsAscii(std::wstring_view text);
 [[nodiscard]] inline bool IsAscii(std::string_view bytes) { // in line: it is asked of every key
@@ -50,6 +53,18 @@ inline constexpr bool wideIsUtf16 = sizeof(wchar_t) == 2;
 
 /// `text` as UTF-8. What is no Unicode character (a lone surrogate, a code past 0x10FFFF) becomes U+FFFD.
 [[nodiscard]] QUORINIFILE_EXPORT std::string ToUtf8(std::wstring_view text);
+
+/// `text` with escapes for what a terminal would obey or a log would take for a new line: control characters,
+/// line separators, marks of direction, the byte-order mark, and what is no Unicode character. They look like
+/// those in the values of files: "\n", "\r", "\t", else "\u{1B}". Everything else stays, backslashes too, so
+/// the result is not to be parsed. A text of several lines is escaped line by line.
+[[nodiscard]] QUORINIFILE_EXPORT std::wstring EscapeControls(std::wstring_view text);
+
+/// The same as UTF-8, ready to be printed.
+[[nodiscard]] QUORINIFILE_EXPORT std::string ToPrintable(std::wstring_view text);
+
+/// The escape for the character with that code, "\u{HEX}", in values of files and in what is printed.
+[[nodiscard]] QUORINIFILE_EXPORT std::string HexEscape(std::uint32_t code);
 
 /// `bytes` as text, or nothing when they are not valid UTF-8.
 [[nodiscard]] QUORINIFILE_EXPORT std::optional<std::wstring> FromUtf8(std::string_view bytes);

@@ -5,8 +5,9 @@
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
 
-#include <algorithm>
 #include <iostream>
+#include <string>
+#include <string_view>
 
 namespace QuorConversions {
 
@@ -16,9 +17,15 @@ void HeadlessPlatform::RunDialog(Dialog& /*dialog*/, DialogInput& /*input*/) {
 }
 
 void HeadlessPlatform::ShowMessage(const MessageRequest& request) {
-    std::wstring line = request.title + L": " + request.text + L"\n";
-    std::replace(line.begin(), line.end(), L'\r', L'\n');
-    std::cerr << QuorIniFile::ToUtf8(line) << std::flush;
+    std::string lines = QuorIniFile::ToPrintable(request.title) + ": ";
+    std::wstring_view rest = request.text;
+    for (std::size_t end = rest.find(L'\r'); end != std::wstring_view::npos; end = rest.find(L'\r')) {
+        lines.append(QuorIniFile::ToPrintable(rest.substr(0, end))).append("\n");
+        rest.remove_prefix(end + 1);
+        if (!rest.starts_with(L'\r')) // an empty line stays empty
+            lines += "  ";
+    }
+    std::cerr << lines + QuorIniFile::ToPrintable(rest) + "\n" << std::flush;
 }
 
 std::optional<std::wstring> HeadlessPlatform::AskForFile(const FileRequest& /*request*/) {

@@ -5,8 +5,9 @@
 namespace QuorConversions {
 
 /// The platform of a host that has no screen: a logger, a service, a script. Messages go to the diagnostic
-/// stream as UTF-8, file dialogs are cancelled, settings dialogs fail, there is no help, and nothing ever
-/// blocks.
+/// stream as UTF-8, "TITLE: TEXT"; their further lines are indented, and control characters are escaped
+/// (ToPrintable), so that no name in a message can pass for another message. File dialogs are cancelled,
+/// settings dialogs fail, there is no help, and nothing ever blocks.
 class QUORCONVERSIONS_EXPORT HeadlessPlatform : public Platform {
 public:
     /// Raises: without a screen nobody can edit.

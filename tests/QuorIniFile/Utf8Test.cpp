@@ -2,11 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
+#include <string_view>
 
+using QuorIniFile::EscapeControls;
 using QuorIniFile::FromUtf8;
 using QuorIniFile::IsAscii;
 using QuorIniFile::IsUtf8;
+using QuorIniFile::ToPrintable;
 using QuorIniFile::ToUtf8;
 
 TEST(Utf8, TextOfEveryLengthOfCharacterComesBack) {
@@ -50,5 +54,47 @@ TEST(Utf8, ACharacterThatIsNotAsciiIsSeenAtEveryPlace) {
             text[at] = L'\u0080';
             EXPECT_FALSE(IsAscii(text)) << at << " of " << length;
         }
+    }
+}
+
+TEST(Utf8, WhatATerminalOrALogWouldObeyIsEscapedAndNothingElse) {
+    const struct {
+        std::wstring_view text;
+        const char* printed;
+    } cases[] = {
+        {L"", ""},
+        {L"Probe 1", "Probe 1"},
+        {L"\n\r\t", "\\n\\r\\t"},
+        {std::wstring_view(L"\0\1", 2), "\\u{0}\\u{1}"},
+        {L"\x1B]0;title\a", "\\u{1B}]0;title\\u{7}"},
+        {L"\x1F\x20\x7E\x7F", "\\u{1F} ~\\u{7F}"},
+        {L"\x80\x9B\x9F\xA0", "\\u{80}\\u{9B}\\u{9F}\xC2\xA0"},
+        {L"\u061B\u061C\u061D", "\xD8\x9B\\u{61C}\xD8\x9D"},
+        {L"\u200D\u200E\u200F\u2010", "\xE2\x80\x8D\\u{200E}\\u{200F}\xE2\x80\x90"},
+        {L"\u2027\u2028\u2029", "\xE2\x80\xA7\\u{2028}\\u{2029}"},
+        {L"\u202A\u202B\u202C\u202D\u202E\u202F",
+         "\\u{202A}\\u{202B}\\u{202C}\\u{202D}\\u{202E}\xE2\x80\xAF"},
+        {L"\u2065\u2066\u2067\u2068\u2069\u206A",
+         "\xE2\x81\xA5\\u{2066}\\u{2067}\\u{2068}\\u{2069}\xE2\x81\xAA"},
+        {L"\uFEFE\uFEFF\uFF00", "\xEF\xBB\xBE\\u{FEFF}\xEF\xBC\x80"},
+        {L"20 \u00B0C \u2126 \U0001F321", "20 \xC2\xB0"
+                                          "C \xE2\x84\xA6 \xF0\x9F\x8C\xA1"},
+        {L"C:\\new\\u{1B} \"quoted\"", "C:\\new\\u{1B} \"quoted\""},
+    };
+    for (const auto& [text, printed] : cases) {
+        EXPECT_EQ(ToPrintable(text), printed);
+        EXPECT_EQ(ToUtf8(EscapeControls(text)), printed);
+    }
+}
+
+TEST(Utf8, WhatIsNoCharacterIsPrintedByItsCode) {
+    EXPECT_EQ(ToPrintable(std::wstring(1, static_cast<wchar_t>(0xD800)) + L"A"), "\\u{D800}A");
+    EXPECT_EQ(ToPrintable(std::wstring(1, static_cast<wchar_t>(0xDFFF))), "\\u{DFFF}");
+    EXPECT_EQ(ToPrintable(L"\uD7FF\uE000"), "\xED\x9F\xBF\xEE\x80\x80");
+    if constexpr (!QuorIniFile::wideIsUtf16) {
+        const auto of = [](std::uint32_t code) { return std::wstring(1, static_cast<wchar_t>(code)); };
+        EXPECT_EQ(ToPrintable(of(0x10FFFF)), "\xF4\x8F\xBF\xBF");
+        EXPECT_EQ(ToPrintable(of(0x110000)), "\\u{110000}");
+        EXPECT_EQ(ToPrintable(of(0xFFFFFFFF)), "\\u{FFFFFFFF}");
     }
 }

@@ -6,6 +6,9 @@
 #include <utility>
 
 namespace QuorConversions::Scripted {
+
+using QuorIniFile::EscapeControls;
+
 namespace {
 
 std::wstring TextOf(const Control& control) {
@@ -51,7 +54,7 @@ std::wstring Drawn(const Control& control) {
 
 void DrawFrame(const Frame& frame, const std::wstring& indent, std::wstring& screen) {
     if (!frame.Caption().empty())
-        screen += indent + frame.Caption() + L"\n";
+        screen += indent + EscapeControls(frame.Caption()) + L"\n";
     for (const Frame::Row& row : frame.Rows()) {
         std::wstring line;
         for (const Control* const control : row) {
@@ -63,7 +66,7 @@ void DrawFrame(const Frame& frame, const std::wstring& indent, std::wstring& scr
                 line += L" " + Drawn(*control);
         }
         if (!line.empty())
-            screen.append(indent).append(L" ").append(line).append(L"\n");
+            screen.append(indent).append(L" ").append(EscapeControls(line)).append(L"\n");
     }
 }
 
@@ -151,7 +154,7 @@ std::wstring Person::Focused() const {
 }
 
 std::wstring Person::Screen() const {
-    std::wstring screen = m_dialog.Title() + L"\n";
+    std::wstring screen = EscapeControls(m_dialog.Title()) + L"\n";
     for (const Frame* const column : m_dialog.Columns())
         DrawFrame(*column, L"", screen);
     std::wstring hidden;

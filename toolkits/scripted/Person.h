@@ -52,7 +52,8 @@ public:
     /// The name in the code of the control that has the focus; empty for none.
     [[nodiscard]] std::wstring Focused() const;
     /// The whole dialog as text: its title, and a line a row with what stands in it. Disabled controls stand
-    /// in parentheses; what is hidden is listed behind, by name.
+    /// in parentheses; what is hidden is listed behind, by name. Control characters of what stands there,
+    /// from a file perhaps, are escaped: a row stays a line, and the text can be printed on a terminal.
     [[nodiscard]] std::wstring Screen() const;
 
     /// The controls that a person can name here, by those names.

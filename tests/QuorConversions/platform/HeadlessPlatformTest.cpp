@@ -2,6 +2,7 @@
 
 #include "QuorConversions/core/CQuorConversion.h"
 #include "QuorConversions/rtd/CQuorPT100.h"
+#include "QuorIniFile/IniStore.h"
 #include "tests/support/MemoryIniFile.h"
 
 #include <gtest/gtest.h>
@@ -43,12 +44,30 @@ TEST_F(HeadlessPlatformTest, PutsTheMessagesOfAnObjectWithoutAPlatformIntoTheDia
     EXPECT_EQ(results.str(), "");
 }
 
-TEST_F(HeadlessPlatformTest, PutsAnErrorReportIntoLines) {
+TEST_F(HeadlessPlatformTest, IndentsTheFurtherLinesOfAnErrorReport) {
     memory->failAt = 0;
     CQuorPT100().WriteToFile(ini, L"", L"Probe");
     EXPECT_EQ(diagnostics.str(), "Quor Scientific: An error occurred while attempting to write settings.\n\n"
-                                 "Error: 57 - Device I/O error: memory\n(QuorIniFile)\n");
+                                 "  Error: 57 - Device I/O error: memory\n  (QuorIniFile)\n");
     EXPECT_EQ(results.str(), "");
+}
+
+TEST_F(HeadlessPlatformTest, EscapesWhatATerminalOrALogWouldObey) {
+    HeadlessPlatform().ShowMessage({L"\x1B]0;Owned\a \x9B"
+                                    L"31m\u202E\t\nQuor Scientific: fine",
+                                    L"Quor\n\rScientific", ICON_INFORMATION, L"", 0});
+    EXPECT_EQ(diagnostics.str(), "Quor\\n\\rScientific: \\u{1B}]0;Owned\\u{7} "
+                                 "\\u{9B}31m\\u{202E}\\t\\nQuor Scientific: fine\n");
+}
+
+TEST_F(HeadlessPlatformTest, LetsNoFileNamePassForAnotherMessage) {
+    std::shared_ptr<INIFile> store = std::make_shared<QuorIniFile::IniStore>();
+    store->SetFileName(L"none\rQuor Scientific: fine\n\x1B[2J/a.ini");
+    CQuorPT100().WriteToFile(store, L"", L"Probe");
+    EXPECT_EQ(diagnostics.str(), "Quor Scientific: An error occurred while attempting to write settings.\n\n"
+                                 "  Error: 76 - Path not found: none\n"
+                                 "  Quor Scientific: fine\\n\\u{1B}[2J/a.ini\n"
+                                 "  (QuorIniFile)\n");
 }
 
 TEST_F(HeadlessPlatformTest, SpeaksUtf8) {

@@ -168,6 +168,19 @@ TEST_F(PersonTest, SeesTheWholeDialogAsText) {
     EXPECT_FALSE(cvd->Edit());
 }
 
+TEST_F(PersonTest, SeesARowAsALineWhateverTheTextsOfAFileHold) {
+    const auto table = Support::NewSettings<CQuorTCTable>(CONV_TCTABLE, platform);
+    table->SetTempScale(L"\x1B[31m\r\n\u202E\u00B0C\\n");
+    platform->InDialog([](Person& person) {
+        EXPECT_NE(person.Screen().find(L"\\u{1B}[31m\\r\\n\\u{202E}\u00B0C\\n"), std::wstring::npos)
+            << testing::PrintToString(person.Screen());
+        EXPECT_EQ(person.Screen().find(L'\x1B'), std::wstring::npos);
+        EXPECT_EQ(person.Screen().find(L'\r'), std::wstring::npos);
+        person.Escape();
+    });
+    EXPECT_FALSE(table->Edit());
+}
+
 TEST_F(PersonTest, SeesWhatIsDisabledInParentheses) {
     cvd->SetNumCoefficients(4);
     cvd->SetAllowEdit(false);
