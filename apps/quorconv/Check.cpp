@@ -20,7 +20,7 @@ namespace quorconv {
 
 using namespace QuorConversions;
 using namespace ProbeRecords;
-using QuorIniFile::ToUtf8;
+using QuorIniFile::ToPrintable;
 
 namespace {
 
@@ -39,7 +39,7 @@ public:
         for (const Record& record : m_file.Records())
             CheckRecord(Probe(store, m_file.Path(), record), record);
         for (const auto& [line, text] : m_problems)
-            std::cout << ToUtf8(m_file.Path()) << ':' << line << ": " << ToUtf8(text) << '\n';
+            std::cout << ToPrintable(m_file.Path()) << ':' << line << ": " << ToPrintable(text) << '\n';
         return m_problems.empty();
     }
 
@@ -213,7 +213,7 @@ bool CheckFiles(const std::vector<std::wstring>& files) {
         try {
             fine = FileCheck(file).Run() && fine;
         } catch (const QuorIniFile::QuorError& error) {
-            std::cout << ToUtf8(file) << ": " << ToUtf8(error.Description()) << '\n';
+            std::cout << ToPrintable(file) << ": " << ToPrintable(error.Description()) << '\n';
             fine = false;
         }
     }

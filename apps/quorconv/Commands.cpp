@@ -23,6 +23,7 @@ namespace quorconv {
 
 using namespace QuorConversions;
 using namespace ProbeRecords;
+using QuorIniFile::ToPrintable;
 using QuorIniFile::ToUtf8;
 using Json = nlohmann::ordered_json;
 
@@ -32,15 +33,15 @@ std::wstring Place(const std::wstring& file, const std::wstring& section) {
     return file + L": [" + section + L"]";
 }
 
-/// The messages of the library as the reason of a problem.
-std::wstring Reasons(const Probe& probe) {
-    std::wstring text;
+/// The messages of the library as the reasons of a problem.
+std::vector<std::wstring> Reasons(const Probe& probe) {
+    std::vector<std::wstring> reasons;
     for (const auto& message : probe.Messages())
-        text += L"\n  " + message.text;
+        reasons.push_back(message.text);
     for (const auto& read : probe.Reads())
         if (!read.found)
-            text += L"\n  [" + read.section + L"] " + read.key + L": missing or unreadable";
-    return text;
+            reasons.push_back(L"[" + read.section + L"] " + read.key + L": missing or unreadable");
+    return reasons;
 }
 
 Record FindRecord(const ProbeFile& file, const std::wstring& section) {
@@ -71,7 +72,7 @@ Probe ReadProbe(const std::shared_ptr<QuorIniFile::INIFile>& store, const std::w
     Probe probe(store, file, std::move(record));
     probe.Read();
     if (!IsCompletedBy(probe, completion))
-        throw Problem{Place(file, probe.Where().section) + L": the record cannot be read" + Reasons(probe)};
+        throw Problem{Place(file, probe.Where().section) + L": the record cannot be read", Reasons(probe)};
     return probe;
 }
 
@@ -103,8 +104,7 @@ Target FindTarget(const std::wstring& path, const std::wstring& section, const T
 
 void WriteProbe(Probe& probe, const std::wstring& file) {
     if (!probe.Write())
-        throw Problem{Place(file, probe.Where().section) + L": the record cannot be written" +
-                      Reasons(probe)};
+        throw Problem{Place(file, probe.Where().section) + L": the record cannot be written", Reasons(probe)};
 }
 
 /// Gives the settings the values of the assignments, through the object itself, so that its own rules decide.
@@ -139,7 +139,7 @@ void Assign(Probe& probe, const std::wstring& file, const std::vector<Assignment
         pending.erase(pending.begin(), unplaced);
         IniImage::Apply(image, *settings);
         if (!probe.Messages().empty())
-            throw Problem{place + L"the values are refused" + Reasons(probe)};
+            throw Problem{place + L"the values are refused", Reasons(probe)};
     }
     const auto result = IniImage::Of(*settings);
     for (auto entry = assigned.begin(); entry != assigned.end(); ++entry) {
@@ -186,13 +186,13 @@ Json ToJson(const Probe& probe) {
 }
 
 void PrintProbe(const Probe& probe) {
-    std::cout << ToUtf8(L"[" + probe.Where().section + L"] " + probe.TypeName() + L" " + probe.Name())
+    std::cout << ToPrintable(L"[" + probe.Where().section + L"] " + probe.TypeName() + L" " + probe.Name())
               << '\n';
     if (!probe.Settings())
         return;
     const auto image = IniImage::Of(*probe.Settings());
     for (const auto& entry : image->Entries())
-        std::cout << ToUtf8(entry.path + L"=" + ToText(entry.value)) << '\n';
+        std::cout << ToPrintable(entry.path + L"=" + ToText(entry.value)) << '\n';
 }
 
 } // namespace
@@ -209,8 +209,9 @@ void ListProbes(const std::wstring& path) {
     for (const Record& record : file.Records()) {
         Probe probe(store, path, record);
         probe.Read();
-        const std::wstring type = probe.HasType() ? probe.TypeName() + L"\t" + probe.Name() : L"?\t?";
-        std::cout << ToUtf8(record.section + L"\t" + type) << '\n';
+        std::cout << ToPrintable(record.section) << '\t'
+                  << ToPrintable(probe.HasType() ? probe.TypeName() : L"?") << '\t'
+                  << ToPrintable(probe.HasType() ? probe.Name() : L"?") << '\n';
     }
 }
 
@@ -290,11 +291,8 @@ void EditProbe(const std::wstring& path, const std::wstring& section, const std:
         throw Problem{*scriptPath + L": " + error.text};
     }
     const bool accepted = probe.Settings()->Edit();
-    std::wstring complaints;
-    for (const std::wstring& complaint : probe.Screen().Complaints())
-        complaints += L"\n  " + complaint;
-    if (!complaints.empty())
-        throw Problem{Place(path, section) + L": the dialog did not go as the script says" + complaints};
+    if (const auto& complaints = probe.Screen().Complaints(); !complaints.empty())
+        throw Problem{Place(path, section) + L": the dialog did not go as the script says", complaints};
     if (accepted)
         WriteProbe(probe, path);
 }

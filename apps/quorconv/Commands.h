@@ -9,9 +9,10 @@
 namespace quorconv {
 
 /// A wish that cannot be fulfilled; its text says why, with file, section and key where there is one. The
-/// program prints it and ends with 1.
+/// program prints it, each reason on a line of its own below it, and ends with 1.
 struct Problem {
     std::wstring text;
+    std::vector<std::wstring> reasons = {};
 };
 
 /// A KEY=VALUE of the command line.

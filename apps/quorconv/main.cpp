@@ -1,5 +1,6 @@
 // quorconv: probe records in INI files, from the command line.
 
+#include "QuorIniFile/IniFormat.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
 #include "apps/quorconv/Commands.h"
@@ -16,23 +17,28 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
 
 using quorconv::Assignment;
-using QuorIniFile::ToUtf8;
+using QuorIniFile::ToPrintable;
 
 enum ExitCode : int { fine = 0, problemFound = 1, wrongUsage = 2 };
 
+/// A mistake in the command line. The text is printable: what it repeats of the arguments is escaped.
 struct UsageError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+/// The text of an argument or of an exception, in whatever encoding, for the terminal.
+std::string PrintableBytes(std::string_view bytes) { return ToPrintable(QuorIniFile::DecodeBytes(bytes)); }
+
 std::wstring Wide(const std::string& argument) {
     if (auto text = QuorIniFile::FromUtf8(argument))
         return *std::move(text);
-    throw UsageError("an argument is not UTF-8 text: " + argument);
+    throw UsageError("an argument is not UTF-8 text: " + PrintableBytes(argument));
 }
 
 std::vector<std::wstring> Wide(const std::vector<std::string>& arguments) {
@@ -48,7 +54,7 @@ std::vector<Assignment> Assignments(const std::vector<std::string>& arguments) {
     for (const std::wstring& text : Wide(arguments)) {
         const auto equals = text.find(L'=');
         if (equals == std::wstring::npos || equals == 0)
-            throw UsageError("KEY=VALUE expected: " + ToUtf8(text));
+            throw UsageError("KEY=VALUE expected: " + ToPrintable(text));
         assignments.push_back({text.substr(0, equals), text.substr(equals + 1)});
     }
     return assignments;
@@ -60,7 +66,10 @@ public:
     CommandLine() {
         m_app.require_subcommand(1);
         m_app.set_version_flag("--version", "quorconv " QUORCONV_VERSION);
-        m_app.failure_message(CLI::FailureMessage::simple);
+        m_app.failure_message([](const CLI::App* app, const CLI::Error& error) { // it repeats arguments
+            const CLI::Error printable(error.get_name(), PrintableBytes(error.what()), error.get_exit_code());
+            return CLI::FailureMessage::simple(app, printable);
+        });
         m_app.footer("Exit codes: 0 fine, 1 a problem was found, 2 wrong usage.\n"
                      "\"quorconv COMMAND --help\" shows an example of each command.");
 
@@ -201,6 +210,7 @@ private:
     CLI::Option* m_hasSection = nullptr;
 };
 
+/// `text` is printable.
 int Failed(const std::string& text, ExitCode code) {
     std::cerr << "quorconv: " << text << '\n';
     return code;
@@ -217,8 +227,11 @@ int main(int argc, char** argv) {
     } catch (const UsageError& error) {
         return Failed(error.what(), wrongUsage);
     } catch (const quorconv::Problem& problem) {
-        return Failed(ToUtf8(problem.text), problemFound);
+        std::string text = ToPrintable(problem.text);
+        for (const std::wstring& reason : problem.reasons)
+            text += "\n  " + ToPrintable(reason);
+        return Failed(text, problemFound);
     } catch (const std::exception& error) {
-        return Failed(error.what(), problemFound);
+        return Failed(PrintableBytes(error.what()), problemFound);
     }
 }

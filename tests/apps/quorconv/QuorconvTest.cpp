@@ -307,7 +307,7 @@ TEST_F(QuorconvTest, TellsWrongUsageFromAProblem) {
     EXPECT_EQ(Quorconv({"set", "a.ini", "P"}).code, 2);
     EXPECT_EQ(Quorconv({"types", "surplus"}).code, 2);
     ExpectRefused({"set", "a.ini", "P", "Coefficients0"}, "quorconv: KEY=VALUE expected: Coefficients0\n", 2);
-    ExpectRefused({"list", "\xFF.ini"}, "quorconv: an argument is not UTF-8 text: \xFF.ini\n", 2);
+    ExpectRefused({"list", "\xFF.ini"}, "quorconv: an argument is not UTF-8 text: \xC3\xBF.ini\n", 2);
     ExpectRefused({"list", "missing.ini"}, "quorconv: File not found: missing.ini\n");
     ExpectRefused({"list", "."}, "quorconv: Path/File access error: .: Is a directory\n");
 }
