@@ -1,5 +1,7 @@
 #include "apps/probe-setup/Tour.h"
 
+#include "QuorIniFile/IniFormat.h"
+#include "QuorIniFile/Utf8.h"
 #include "apps/probe-setup/MainWindow.h"
 #include "apps/records/Types.h"
 #include "toolkits/qt/QtSession.h"
@@ -26,11 +28,15 @@
 #include <functional>
 #include <iostream>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <utility>
 
 namespace ProbeSetup {
 
+using QuorConversions::QtToolkit::FromQt;
 using QuorConversions::QtToolkit::ToQt;
+using QuorIniFile::ToPrintable;
 
 namespace {
 
@@ -39,8 +45,15 @@ QList<QByteArray> LinesOf(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll().split('\n') : QList<QByteArray>();
 }
 
-void Print(const QString& text) { std::cout << text.toStdString() << '\n'; }
-void PrintError(const QString& text) { std::cerr << "probe-setup: " << text.toStdString() << '\n'; }
+void Print(const QString& text) { std::cout << ToPrintable(FromQt(text)) << '\n'; }
+void PrintError(const QString& text) { std::cerr << "probe-setup: " << ToPrintable(FromQt(text)) << '\n'; }
+
+/// A line of a file for the terminal, without the CR of a CRLF.
+std::string Printable(const QByteArray& line) {
+    const std::string_view bytes(line.constData(), static_cast<std::size_t>(line.size()));
+    return ToPrintable(
+        QuorIniFile::DecodeBytes(bytes.substr(0, bytes.size() - (bytes.ends_with('\r') ? 1 : 0))));
+}
 
 /// Prints the lines in which two texts differ. What a tour changes are values, so that lines stay lines.
 bool PrintDifference(const QList<QByteArray>& before, const QList<QByteArray>& after) {
@@ -48,7 +61,7 @@ bool PrintDifference(const QList<QByteArray>& before, const QList<QByteArray>& a
         return false;
     for (qsizetype i = 0; i < before.size(); ++i) {
         if (before[i] != after[i])
-            std::cout << "line " << i + 1 << "\n- " << before[i].constData() << "\n+ " << after[i].constData()
+            std::cout << "line " << i + 1 << "\n- " << Printable(before[i]) << "\n+ " << Printable(after[i])
                       << '\n';
     }
     return before != after;
@@ -164,7 +177,9 @@ private:
             if (std::exchange(m_expectsMessage, false))
                 TakePicture(*message, QStringLiteral("message"));
             else
-                Complain(message->text() + QLatin1Char(' ') + message->informativeText());
+                Complain(QStringLiteral("%1 %2")
+                             .arg(message->text(), message->informativeText())
+                             .replace('\n', ' '));
             message->reject();
         } else {
             EditFirstNumber(*modal);
@@ -272,7 +287,8 @@ int RunTour(MainWindow& window, const QString& file, const QString& folder) {
     const QList<QByteArray> before = LinesOf(file);
     ComeToFront(window);
     if (!window.OpenPath(file)) {
-        PrintError(guide.Complaints().join(QLatin1Char('\n')));
+        for (const QString& complaint : guide.Complaints())
+            PrintError(complaint);
         return 1;
     }
     guide.TakePicture(window, QStringLiteral("window"));
@@ -289,7 +305,8 @@ int RunTour(MainWindow& window, const QString& file, const QString& folder) {
     }
     guide.TakePicture(window, QStringLiteral("window-changed"));
     guide.Choose("save");
-    Print(QStringLiteral("\nWhat has changed in %1:").arg(file));
+    std::cout << '\n';
+    Print(QStringLiteral("What has changed in %1:").arg(file));
     if (!PrintDifference(before, LinesOf(file)))
         guide.Complain(QStringLiteral("%1 is not as expected").arg(file));
     for (const QString& complaint : guide.Complaints())

@@ -1,6 +1,7 @@
 // Probe Setup: the probes of a host's file in a window.
 
 #include "QuorIniFile/QuorError.h"
+#include "QuorIniFile/Utf8.h"
 #include "QuorRegistryII/FileRegistry.h"
 #include "apps/probe-setup/MainWindow.h"
 #include "apps/probe-setup/Tour.h"
@@ -23,7 +24,9 @@
 
 namespace {
 
+using QuorConversions::QtToolkit::FromQt;
 using QuorConversions::QtToolkit::ToQt;
+using QuorIniFile::ToPrintable;
 
 /// Where there is no display the tour runs on a screen in memory.
 void ChooseScreen(int argc, char** argv) {
@@ -38,7 +41,7 @@ std::shared_ptr<QuorRegistryII::Registry> UserRegistry() {
     try {
         return std::make_shared<QuorRegistryII::FileRegistry>(L"probe-setup");
     } catch (const QuorIniFile::QuorError& error) {
-        std::cerr << "probe-setup: " << error.what() << '\n';
+        std::cerr << "probe-setup: " << ToPrintable(error.Description()) << '\n';
         return nullptr; // a user without a home: nothing is remembered
     }
 }
@@ -111,7 +114,7 @@ void Speak(const QLocale& locale, QTranslator& texts) {
 }
 
 int Refuse(const QString& problem) {
-    std::cerr << "probe-setup: " << problem.toStdString() << '\n';
+    std::cerr << "probe-setup: " << ToPrintable(FromQt(problem)) << '\n';
     return 2;
 }
 
@@ -137,7 +140,10 @@ int main(int argc, char** argv) {
     }
 
     CommandLine line;
-    line.parser.process(application);
+    // "process" would print the arguments that it does not know as they are.
+    if (!line.parser.parse(QCoreApplication::arguments()))
+        return Refuse(line.parser.errorText());
+    line.parser.process(application); // shows help and version
     if (const auto problem = line.Problem())
         return Refuse(*problem);
     const QStringList files = line.parser.positionalArguments();
