@@ -106,6 +106,11 @@ public:
         return names;
     }
 
+    [[nodiscard]] std::vector<IniWarning> Warnings() {
+        LoadExisting();
+        return WarningsOf(m_document->BaseText());
+    }
+
     void RemoveSection(std::wstring_view name) {
         Load();
         const auto section = FindSection(name);
@@ -422,6 +427,7 @@ void IniStore::WriteString(std::wstring_view key, std::wstring_view value) {
 }
 
 std::vector<std::wstring> IniStore::Sections() { return m_session->Sections(); }
+std::vector<IniWarning> IniStore::Warnings() { return m_session->Warnings(); }
 void IniStore::RemoveSection(std::wstring_view name) { m_session->RemoveSection(name); }
 void IniStore::RenameSection(std::wstring_view from, std::wstring_view to) {
     m_session->RenameSection(from, to);

@@ -3,6 +3,7 @@
 #include "QuorIniFile/Export.h"
 #include "QuorIniFile/INIFile.h"
 #include "QuorIniFile/IniFileSystem.h"
+#include "QuorIniFile/IniWarning.h"
 
 #include <cstdint>
 #include <memory>
@@ -66,6 +67,10 @@ public:
     /// The names of all sections, in the order of the file with what was written; of a name that stands
     /// several times the first. Raises 53 when there is no file.
     [[nodiscard]] std::vector<std::wstring> Sections();
+    /// Lines in which something may be wrong, such as a key that stands twice in its section, in their order.
+    /// They are lines of the text that was loaded or last saved: what is held does not count. Raises 53 when
+    /// there is no file.
+    [[nodiscard]] std::vector<IniWarning> Warnings();
     /// Removes a section with its header, the comments that touch the header from above, and its body down to
     /// the last key and the comments that touch that one. Comments that stand apart stay, and so do those
     /// that open the file. Later sections of that name, which nobody has read, go too. A section that is not

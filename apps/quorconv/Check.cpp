@@ -2,6 +2,7 @@
 
 #include "QuorIniFile/IniFormat.h"
 #include "QuorIniFile/IniValue.h"
+#include "QuorIniFile/IniWarning.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
 #include "apps/quorconv/Probe.h"
@@ -51,20 +52,13 @@ private:
 
     /// Keys and sections that stand twice, the host's own too: who reads them sees the first.
     void CheckRepetitions() {
-        const std::wstring isRead = L"the one in line ";
-        for (const auto& section : m_file.Sections()) {
-            if (m_file.FindSection(section.name) != &section)
+        using Kind = QuorIniFile::IniWarningKind;
+        for (const auto& warning : QuorIniFile::WarningsOf(m_file.Bytes())) {
+            if (warning.kind != Kind::DuplicateKey && warning.kind != Kind::DuplicateSection)
                 continue;
-            for (const std::size_t line : section.repetitions)
-                Report(line, section.name, L"",
-                       L"the section stands twice; " + isRead + std::to_wstring(section.line) + L" is read");
-            for (const auto& key : section.keys) {
-                const std::wstring name = QuorIniFile::DecodeBytes(key.name);
-                const auto* const read = FindKey(section, name);
-                if (read != &key)
-                    Report(key.line, section.name, name,
-                           L"the key stands twice; " + isRead + std::to_wstring(read->line) + L" is read");
-            }
+            const std::wstring what = warning.kind == Kind::DuplicateKey ? L"the key" : L"the section";
+            Report(warning.line, warning.section, warning.key,
+                   what + L" stands twice; the one in line " + std::to_wstring(warning.first) + L" is read");
         }
     }
 

@@ -45,14 +45,11 @@ void ProbeFile::ReadSections() {
         const IniLine& line = walker.Line();
         switch (line.kind) {
         case IniLineKind::Section:
-            m_sections.push_back({DecodeBytes(line.name), walker.Number(), {}, {}, {}, false});
-            if (const auto [first, isFirst] =
-                    m_firstByName.emplace(Folded(m_sections.back().name), m_sections.size() - 1);
-                !isFirst)
-                m_sections[first->second].repetitions.push_back(walker.Number());
+            m_sections.push_back({DecodeBytes(line.name), walker.Number(), {}, {}, false});
+            m_firstByName.emplace(Folded(m_sections.back().name), m_sections.size() - 1);
             break;
         case IniLineKind::BrokenSection:
-            m_sections.push_back({{}, walker.Number(), {}, {}, {}, true});
+            m_sections.push_back({{}, walker.Number(), {}, {}, true});
             break;
         case IniLineKind::Key:
             if (!m_sections.empty())

@@ -32,8 +32,6 @@ public:
         std::size_t line;
         std::vector<Key> keys;
         std::vector<std::size_t> malformedLines;
-        std::vector<std::size_t>
-            repetitions;       ///< lines of later headers with the same name, which nobody reads
         bool isBroken = false; ///< its header has no ']', so it has no name
     };
 
@@ -44,6 +42,7 @@ public:
     ~ProbeFile() = default;
 
     [[nodiscard]] const std::wstring& Path() const { return m_path; }
+    [[nodiscard]] const std::string& Bytes() const { return m_bytes; }
     /// All sections in the order of the file, those included that nobody can read.
     [[nodiscard]] const std::vector<Section>& Sections() const { return m_sections; }
     [[nodiscard]] const std::vector<Record>& Records() const { return m_records; }

@@ -1,0 +1,94 @@
+#include "QuorIniFile/IniWarning.h"
+
+#include "QuorIniFile/IniFormat.h"
+#include "QuorIniFile/IniNames.h"
+
+#include <utility>
+
+namespace QuorIniFile {
+namespace {
+
+class WarningReader {
+public:
+    explicit WarningReader(std::string_view text) : m_walker(text) {}
+
+    [[nodiscard]] std::vector<IniWarning> Read() {
+        while (m_walker.Next()) {
+            const IniLine& line = m_walker.Line();
+            switch (line.kind) {
+            case IniLineKind::Section:
+                ReadHeader(line.name);
+                break;
+            case IniLineKind::BrokenSection:
+                BeginSection({}, false);
+                Warn(IniWarningKind::UnclosedHeader, {}, 0);
+                break;
+            case IniLineKind::Key:
+                ReadKey(line.name);
+                break;
+            case IniLineKind::Malformed:
+                Warn(IniWarningKind::MalformedLine, {}, 0);
+                break;
+            case IniLineKind::Blank:
+            case IniLineKind::Comment:
+                break;
+            }
+        }
+        return std::move(m_warnings);
+    }
+
+private:
+    struct Header {
+        std::string_view name; // as it stands in the text
+        std::size_t line = 0;
+    };
+
+    void ReadHeader(std::string_view name) {
+        std::string buffer;
+        const auto [first, isFirst] =
+            m_sections.try_emplace(std::string(CanonicalName(name, buffer)), Header{name, m_walker.Number()});
+        BeginSection(DecodeBytes(name), isFirst);
+        if (isFirst)
+            return;
+        Warn(IniWarningKind::DuplicateSection, {}, first->second.line);
+        m_warnings.back().section = DecodeBytes(first->second.name);
+    }
+
+    void ReadKey(std::string_view name) {
+        if (!m_hasHeader)
+            Warn(IniWarningKind::KeyAboveSections, name, 0);
+        if (!m_isRead)
+            return;
+        std::string buffer;
+        const auto [first, isFirst] =
+            m_keys.try_emplace(std::string(CanonicalName(name, buffer)), m_walker.Number());
+        if (!isFirst)
+            Warn(IniWarningKind::DuplicateKey, name, first->second);
+    }
+
+    void BeginSection(std::wstring name, bool isRead) {
+        m_section = std::move(name);
+        m_hasHeader = true;
+        m_isRead = isRead;
+        if (!m_keys.empty()) // a new table: the old one, once large, would take long to clear each time
+            m_keys = IniNameMap<std::size_t>();
+    }
+
+    void Warn(IniWarningKind kind, std::string_view key, std::size_t first) {
+        m_warnings.push_back({kind, m_walker.Number(), first, m_section, DecodeBytes(key)});
+    }
+
+    IniWalker m_walker;
+    std::vector<IniWarning> m_warnings;
+    IniNameMap<Header> m_sections;  // the first header of each name
+    IniNameMap<std::size_t> m_keys; // of the section: the line of the first key of each name
+    std::wstring m_section;         // the name in the last header
+    bool m_hasHeader = false;       // above the line
+    bool m_isRead = false;          // the section: its header is the first of its name
+};
+
+} // namespace
+
+std::vector<IniWarning> WarningsOf(std::string_view text) { return WarningReader(text).Read(); }
+
+} // namespace QuorIniFile
