@@ -42,12 +42,6 @@ void AppendHeader(std::string& text, std::size_t start, std::string_view name) {
     AppendLine(text, start, header);
 }
 
-bool CanHaveName(std::string_view text, const IniHeader& header, std::string_view name) {
-    std::string line(CutLine(text, header.start).line);
-    line.replace(1, header.name->size(), name);
-    return ClassifyLine(line).name == name;
-}
-
 // What was spelled for another text is spelled anew for that of a document, which may have another encoding.
 
 std::string NameFor(const IniDocument& document, std::string_view name) {
@@ -94,10 +88,6 @@ bool IniDocument::IsThere(Section section) const {
     return HasKeysInText(section) || m_changes.FirstOf(section) != IniChanges::none;
 }
 
-bool IniDocument::IsCalled(Section section, std::string_view name) const {
-    return SameName(Name(section), name) && IsThere(section);
-}
-
 bool IniDocument::HasKeysInText(Section section) const {
     if (IsNew(section))
         return false;
@@ -108,32 +98,44 @@ bool IniDocument::HasKeysInText(Section section) const {
 std::optional<IniDocument::Section> IniDocument::FindSection(std::string_view name) const {
     if (m_newSections.empty() && m_edits.empty())
         return m_sections.Find(m_text, name);
-    // What is new follows the whole text, which has been looked through then.
-    const auto isCalledSo = [&](Section section) { return IsCalled(section, name); };
-    if (const auto found = m_newNames.Find(HashName(name), isCalledSo))
-        return found;
+    if (const auto given = LastGiven(name); given && IsThere(*given))
+        return given;
     const auto found = m_sections.Find(m_text, name);
-    return found && EditOf(*found) && !isCalledSo(*found) ? std::nullopt : found;
+    const bool isThere = found && SameName(Name(*found), name) && IsThere(*found);
+    return isThere ? found : std::nullopt;
 }
 
 IniDocument::Section IniDocument::AddSection(std::string_view name) {
     std::string buffer;
     const std::string_view canonical = CanonicalName(name, buffer);
-    const std::uint64_t hash = HashName(canonical);
-    const auto hadTheName = [&](Section section) { return SameName(Name(section), canonical); };
-    auto old = m_edits.empty() ? std::nullopt : m_sections.Find(m_text, canonical);
-    if (!old || !hadTheName(*old))
-        old = m_newNames.Find(hash, hadTheName);
-    if (old)
+    const auto old = m_edits.empty() ? std::nullopt : m_sections.Find(m_text, canonical);
+    if (old && SameName(Name(*old), canonical))
         return *old;
+    if (const auto given = LastGiven(canonical))
+        return *given;
     const std::size_t first = m_sections.Count(m_text);
     const std::size_t number = first + m_newSections.size();
     if (number >= IniChanges::none)
         throw std::bad_alloc();
     m_newSections.emplace_back(name); // should the next step fail, it never gets a key
     m_firstNew = static_cast<Section>(first);
-    m_newNames.Add(hash, static_cast<Section>(number));
+    m_given[std::string(canonical)].push_back(static_cast<Section>(number));
     return static_cast<Section>(number);
+}
+
+std::optional<IniDocument::Section> IniDocument::LastGiven(std::string_view name) const {
+    const auto found = m_given.find(name);
+    return found == m_given.end() || found->second.empty() ? std::nullopt
+                                                           : std::optional(found->second.back());
+}
+
+void IniDocument::TakeBack(std::string_view name, Section section) noexcept {
+    const auto found = m_given.find(name);
+    if (found == m_given.end() || found->second.empty() || found->second.back() != section)
+        return;
+    found->second.pop_back();
+    if (found->second.empty())
+        m_given.erase(found);
 }
 
 std::vector<std::string_view> IniDocument::SectionNames() const {
@@ -144,19 +146,6 @@ std::vector<std::string_view> IniDocument::SectionNames() const {
             names.push_back(Name(section));
     }
     return names;
-}
-
-std::vector<IniHeader> IniDocument::HeadersOf(Section section) const {
-    std::string buffer;
-    const std::string_view name = CanonicalName(m_sections.Name(m_text, section), buffer);
-    std::vector<IniHeader> headers = AllHeaders(m_text);
-    headers.erase(std::remove_if(
-                      headers.begin(), headers.end(),
-                      [&](const IniHeader& header) { return !header.name || !SameName(*header.name, name); }),
-                  headers.end());
-    if (!HasKeysInText(section)) // the later ones have not come back
-        headers.resize(1);
-    return headers;
 }
 
 IniDocument::Edit& IniDocument::Note(Section section, std::optional<std::string> to) {
@@ -180,25 +169,35 @@ void IniDocument::RemoveSection(Section section) {
 }
 
 bool IniDocument::RenameSection(Section section, std::string_view name) {
+    // What stands behind the name in a header does not matter: a name reads back in each header or in none.
+    if (!IsSectionName(name))
+        return false;
     std::string spelling(name);
     std::string buffer;
-    const std::uint64_t hash = HashName(CanonicalName(name, buffer));
+    const std::string from(CanonicalName(Name(section), buffer));
+    const std::string to(CanonicalName(name, buffer));
+    const bool isOld = IsSpelledInText(section, name);
+    m_given[to].push_back(section);
     if (IsNew(section)) {
-        m_newNames.Add(hash, section);
         m_newSections[section - m_firstNew] = std::move(spelling);
-        return true;
+    } else {
+        try {
+            Edit& edit = Note(section, spelling);
+            edit.name = std::move(spelling);
+        } catch (...) {
+            TakeBack(to, section);
+            throw;
+        }
+        if (isOld)
+            m_edits.erase(section);
     }
-    const std::vector<IniHeader> headers = HeadersOf(section);
-    if (!std::all_of(headers.begin(), headers.end(),
-                     [&](const IniHeader& header) { return CanHaveName(m_text, header, name); }))
-        return false;
-    m_newNames.Add(hash, section);
-    Edit& edit = Note(section, spelling);
-    edit.name = std::move(spelling);
-    if (!edit.isRemoved && std::all_of(headers.begin(), headers.end(),
-                                       [&](const IniHeader& header) { return header.name == name; }))
-        m_edits.erase(section);
+    TakeBack(from, section);
     return true;
+}
+
+bool IniDocument::IsSpelledInText(Section section, std::string_view name) const {
+    return HasKeysInText(section) && name == m_sections.Name(m_text, section) &&
+           !m_sections.HasOtherSpellings(m_text, section);
 }
 
 const IniKeys& IniDocument::KeysOf(Section section) const {
@@ -395,17 +394,17 @@ std::optional<std::string> IniDocument::ApplyChangesTo(IniDocument& other) const
 
 std::optional<std::string> IniDocument::ApplyMovesTo(IniDocument& other) const {
     // Names that sections have here which are gone there. What has such a name there is somebody else's.
-    std::vector<std::string_view> gone;
+    IniNameSet gone;
     for (const Move& move : m_moves) {
-        const auto known = std::find_if(gone.begin(), gone.end(),
-                                        [&move](std::string_view name) { return SameName(name, move.from); });
+        const auto known = gone.find(move.from);
         const bool isGone = known != gone.end();
         if (isGone)
             gone.erase(known);
         const std::optional<Section> section = isGone ? std::nullopt : other.FindSection(move.from);
+        std::string buffer;
         if (!section) {
             if (move.to)
-                gone.push_back(*move.to);
+                gone.emplace(CanonicalName(*move.to, buffer));
             continue;
         }
         if (!move.to) {
@@ -413,7 +412,6 @@ std::optional<std::string> IniDocument::ApplyMovesTo(IniDocument& other) const {
             continue;
         }
         std::string name = NameFor(other, *move.to);
-        std::string buffer;
         const std::optional<Section> holder = other.FindSection(CanonicalName(name, buffer));
         if ((holder && holder != section) || !other.RenameSection(*section, name))
             return name;

@@ -4,8 +4,8 @@
 #include "QuorIniFile/IniChanges.h"
 #include "QuorIniFile/IniExtents.h"
 #include "QuorIniFile/IniFormat.h"
-#include "QuorIniFile/IniIndex.h"
 #include "QuorIniFile/IniKeys.h"
+#include "QuorIniFile/IniNames.h"
 #include "QuorIniFile/IniSections.h"
 
 #include <cstddef>
@@ -51,7 +51,7 @@ public:
     void RemoveSection(Section section);
     /// Rewrites the name in the header of a section, and of later ones of its name, and nothing else. `name`
     /// is spelled as it will stand in the text, and no other section of that name is there. False, and
-    /// nothing has changed, when a header line would not give that name back.
+    /// nothing has changed, when no header line could give that name back.
     [[nodiscard]] bool RenameSection(Section section, std::string_view name);
 
     /// A key of a section as it stands now. The views live until the next change.
@@ -116,15 +116,18 @@ private:
     [[nodiscard]] bool IsNew(Section section) const { return section >= m_firstNew; }
     /// Whether the text has keys that count for the section.
     [[nodiscard]] bool HasKeysInText(Section section) const;
-    /// Whether the text with all changes has the section, and under that name.
+    /// Whether the text with all changes has the section.
     [[nodiscard]] bool IsThere(Section section) const;
-    [[nodiscard]] bool IsCalled(Section section, std::string_view name) const;
     /// The edit of a section; null for none.
     [[nodiscard]] const Edit* EditOf(Section section) const;
     /// Notes a removal or renaming of a section of the text, and gives its edit to be changed.
     Edit& Note(Section section, std::optional<std::string> to);
-    /// The headers of a section of the text and of the later ones of its name, as far as they are there.
-    [[nodiscard]] std::vector<IniHeader> HeadersOf(Section section) const;
+    /// The section that was given that name last and has it still, whether it is there or was removed.
+    [[nodiscard]] std::optional<Section> LastGiven(std::string_view name) const;
+    /// Takes a name back from the section that was given it last; nothing for other sections.
+    void TakeBack(std::string_view name, Section section) noexcept;
+    /// Whether all headers of a section spell that name in the text, so that none has to be rewritten.
+    [[nodiscard]] bool IsSpelledInText(Section section, std::string_view name) const;
     [[nodiscard]] const IniKeys& KeysOf(Section section) const;
     [[nodiscard]] bool Differs(const IniChanges::Change& change) const;
     /// The changes of sections that the text has, in the order of the text.
@@ -145,7 +148,9 @@ private:
     Section m_firstNew = 0xFFFFFFFF;        // the number of the first new section, once there is one
     std::unordered_map<Section, Edit> m_edits;
     std::vector<Move> m_moves;
-    IniIndex m_newNames; // of new sections, and those that sections were given
+    // New sections and those that were renamed, by the names that they have now. Of several that have one
+    // name all but the last were removed.
+    IniNameMap<std::vector<Section>> m_given;
     IniChanges m_changes;
     std::string m_line;          // that is being put together
     std::size_t m_differing = 0; // how many of them say something else than the text

@@ -102,6 +102,12 @@ bool IniSections::CanBeFound(std::string_view text, Section section) {
     return m_spans[section].isFirst;
 }
 
+bool IniSections::HasOtherSpellings(std::string_view text, Section section) {
+    static_cast<void>(Count(text));
+    Index(text);
+    return m_spans[section].hasOtherSpellings;
+}
+
 std::size_t IniSections::Count(std::string_view text) {
     while (ReadOn(text))
         ;
@@ -128,7 +134,7 @@ bool IniSections::ReadOn(std::string_view text) {
         if (at >= nameless) // a file that is loaded is not that large
             throw std::bad_alloc();
         const auto [header, next] = CutHeader(text, at);
-        Span span{static_cast<std::uint32_t>(at + 1), nameless, false};
+        Span span{static_cast<std::uint32_t>(at + 1), nameless, false, false};
         if (header.kind == IniLineKind::Section && header.name.size() < nameless)
             span.nameLength = static_cast<std::uint32_t>(header.name.size());
         const bool counts = !IsOneOfMany(text, span);
@@ -162,8 +168,13 @@ void IniSections::Index(std::string_view text) {
         const auto number = static_cast<Section>(m_indexed);
         const std::string_view name = CanonicalName(Name(text, number), buffer);
         const std::uint64_t hash = HashName(name);
-        if (m_names.Find(hash, [&](Section other) { return SameName(Name(text, other), name); }))
+        const auto first =
+            m_names.Find(hash, [&](Section other) { return SameName(Name(text, other), name); });
+        if (first) {
+            if (Name(text, *first) != Name(text, number))
+                m_spans[*first].hasOtherSpellings = true;
             continue;
+        }
         m_names.Add(hash, number);
         span.isFirst = true;
     }

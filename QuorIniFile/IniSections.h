@@ -35,6 +35,8 @@ public:
     [[nodiscard]] std::string_view Name(std::string_view text, Section section) const;
     /// Whether Find knows it: it has a name that did not stand before.
     [[nodiscard]] bool CanBeFound(std::string_view text, Section section);
+    /// Whether a later section of its name is spelled in another way. For a section that Find knows.
+    [[nodiscard]] bool HasOtherSpellings(std::string_view text, Section section);
     /// Where the line behind the header starts, and where the text of the section ends.
     [[nodiscard]] std::size_t Begin(std::string_view text, Section section) const;
     [[nodiscard]] std::size_t End(std::string_view text, Section section);
@@ -48,7 +50,9 @@ private:
     struct Span {               // small, because a file may have millions
         std::uint32_t name = 0; // where its name starts; the '[' stands right before
         std::uint32_t nameLength = nameless;
-        bool isFirst = false; // of its name; known once it is indexed
+        // Known once the section is indexed.
+        bool isFirst = false;           // of its name
+        bool hasOtherSpellings = false; // among the sections that were indexed so far
     };
 
     /// Gives the next header that matters a number. False when there is none.

@@ -354,3 +354,28 @@ TEST(IniDocument, ANameThatSomebodyElseHasGivenMeanwhileIsToldAndNotTaken) {
     EXPECT_EQ(ours.ApplyChangesTo(theirs), "B");
     EXPECT_EQ(theirs.Text(), "[A]\nx=1\n[b]\ny=2\n");
 }
+
+TEST(IniDocument, RenamingThereAndBackLeavesNoChangeWhereAllHeadersAreSpelledAlike) {
+    IniDocument alike("[A]\n[B]\n[A]\n[A]\n[A]\n");
+    ASSERT_TRUE(alike.RenameSection(alike.FindSection("A").value(), "C"));
+    ASSERT_TRUE(alike.RenameSection(alike.FindSection("C").value(), "A"));
+    EXPECT_FALSE(alike.Changed());
+
+    IniDocument various("[A]\n[B]\n[a]\n");
+    ASSERT_TRUE(various.RenameSection(various.FindSection("A").value(), "C"));
+    ASSERT_TRUE(various.RenameSection(various.FindSection("C").value(), "A"));
+    EXPECT_TRUE(various.Changed());
+    EXPECT_EQ(various.Text(), "[A]\n[B]\n[A]\n");
+}
+
+TEST(IniDocument, ASectionThatWasRemovedUnderANewNameComesBackWhenTheNameIsFreeAgain) {
+    IniDocument document("[A]\nx=1\n[B]\ny=2\n[C]\nz=3\n");
+    ASSERT_TRUE(document.RenameSection(document.FindSection("A").value(), "N"));
+    document.RemoveSection(document.FindSection("N").value());
+    ASSERT_TRUE(document.RenameSection(document.FindSection("B").value(), "N"));
+    EXPECT_EQ(ValueOf(document, "N", "y"), "2");
+    ASSERT_TRUE(document.RenameSection(document.FindSection("N").value(), "M"));
+    EXPECT_EQ(ValueOf(document, "N", "y"), "no section");
+    Write(document, "N", "w", {"4", false, {}});
+    EXPECT_EQ(document.Text(), "[N]\nw=4\n[M]\ny=2\n[C]\nz=3\n");
+}

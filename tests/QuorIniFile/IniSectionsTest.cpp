@@ -95,3 +95,11 @@ TEST(IniSections, AllHeadersAreThoseOfOneNameAndBrokenOnesToo) {
     EXPECT_EQ(found, (std::vector<std::string>{"A", "B", "a", "(broken)", "C"}));
     EXPECT_TRUE(AllHeaders("x=[A]\n;[B]\n").empty());
 }
+
+TEST(IniSections, KnowWhetherLaterSectionsOfTheirNameAreSpelledInAnotherWay) {
+    const std::string many = "[A]\n[A]\n[A]\n[B]\n[C]\n[C]\n[c]\n[B]\n[b]\n";
+    IniSections sections;
+    EXPECT_FALSE(sections.HasOtherSpellings(many, 0));
+    EXPECT_TRUE(sections.HasOtherSpellings(many, sections.Find(many, "B").value()));
+    EXPECT_TRUE(sections.HasOtherSpellings(many, sections.Find(many, "C").value()));
+}

@@ -2,6 +2,7 @@
 
 #include "QuorIniFile/IniStore.h"
 
+#include "QuorIniFile/IniDocument.h"
 #include "QuorIniFile/QuorError.h"
 #include "tests/support/InterceptedFiles.h"
 #include "tests/support/TempFolder.h"
@@ -45,6 +46,33 @@ double TimeOf(const std::string& text, const std::wstring& section = L"A") {
         std::int16_t value = 0;
         static_cast<void>(store.ReadInteger(L"x", value));
         store.WriteInteger(L"y", 12345, L"");
+        best = std::min(best, static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
+    }
+    return best;
+}
+
+/// The processor time of renaming sections one after the other, all held, and of saving them, in seconds: the
+/// shortest of a few rounds. The file has five times as many sections, half of them twice. `theirs` stands in
+/// it by the time of the save.
+double TimeOfRenames(int count, const std::function<void(IniStore&, int)>& rename,
+                     const std::string& theirs = "") {
+    std::string text;
+    for (int i = 0; i < 5 * count; ++i)
+        text += "[S" + std::to_string(i) + "]\nx=1\n" + (i % 2 == 0 ? "" : "[s" + std::to_string(i) + "]\n");
+    Support::InterceptedFiles files;
+    files.flushes = false;
+    double best = std::numeric_limits<double>::infinity();
+    for (int round = 0; round < 3; ++round) {
+        const TempFolder folder;
+        folder.Write("a.ini", text);
+        const std::clock_t start = std::clock();
+        IniStore store(files);
+        store.SetFileName(folder.Name("a.ini"));
+        store.Hold();
+        for (int i = 0; i < count; ++i)
+            rename(store, i);
+        folder.Write("a.ini", theirs + text);
+        store.Release();
         best = std::min(best, static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
     }
     return best;
@@ -232,6 +260,56 @@ TEST_F(IniStoreHostile, ManyOfAnythingTakeTimeInProportion) {
         SCOPED_TRACE(name);
         ExpectLinear(text, 10'000);
     }
+}
+
+TEST_F(IniStoreHostile, ManyHeldRenamesTakeTimeInProportion) {
+    const auto name = [](const wchar_t* letter, int number) { return letter + std::to_wstring(number); };
+    const std::pair<const char*, std::function<void(IniStore&, int)>> cases[] = {
+        {"other names", [&](IniStore& held, int i) { held.RenameSection(name(L"S", i), name(L"New", i)); }},
+        {"there and back",
+         [&](IniStore& held, int i) {
+             held.RenameSection(name(L"S", i), L"T");
+             held.RenameSection(L"T", name(L"S", i));
+         }},
+        {"names that are exchanged",
+         [&](IniStore& held, int i) {
+             held.RenameSection(name(L"S", i), L"T");
+             held.RenameSection(name(L"S", i + 1), name(L"S", i));
+             held.RenameSection(L"T", name(L"S", i + 1));
+         }},
+        {"one name that is removed each time",
+         [&](IniStore& held, int i) {
+             held.RenameSection(name(L"S", i), L"T");
+             held.RemoveSection(L"T");
+         }},
+    };
+    for (const auto& [what, rename] : cases) {
+        SCOPED_TRACE(what);
+        EXPECT_LT(TimeOfRenames(2000, rename), 10 * TimeOfRenames(500, rename));
+        EXPECT_LT(TimeOfRenames(2000, rename, "; theirs\n"), 10 * TimeOfRenames(500, rename, "; theirs\n"))
+            << "into a text that another program has changed";
+    }
+}
+
+TEST_F(IniStoreHostile, ManyHeldRenamesOfSectionsThatAreGoneTakeTimeInProportion) {
+    const auto time = [](int count) {
+        std::string text;
+        for (int i = 0; i < count; ++i)
+            text += "[S" + std::to_string(i) + "]\n";
+        IniDocument ours(text);
+        for (int i = 0; i < count; ++i)
+            EXPECT_TRUE(ours.RenameSection(ours.FindSection("S" + std::to_string(i)).value(),
+                                           "A new name " + std::to_string(i)));
+        double best = std::numeric_limits<double>::infinity();
+        for (int round = 0; round < 3; ++round) {
+            IniDocument theirs("[A]\nx=1\n");
+            const std::clock_t start = std::clock();
+            EXPECT_FALSE(ours.ApplyChangesTo(theirs));
+            best = std::min(best, static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
+        }
+        return best;
+    };
+    EXPECT_LT(time(8000), 10 * time(2000));
 }
 
 TEST_F(IniStoreHostile, ALongNameBehindManyShortOnesIsFoundInProportion) {

@@ -322,6 +322,42 @@ TEST(IniStoreMemory, ASaveOfRemovedAndRenamedSectionsFailsClearly) {
         [&](Scene& scene) { EXPECT_EQ(scene.File(), after); }, 15);
 }
 
+TEST(IniStoreMemory, ASectionThatIsRenamedThereAndBackIsAsBeforeOrHasOneOfItsNames) {
+    const std::wstring other = L"A name that is longer than a short one";
+    FailEach([](Scene& scene) { scene.store->Hold(); },
+             [&](Scene& scene) {
+                 if (scene.store->Sections().front() == L"A") // not so when the second renaming has failed
+                     scene.store->RenameSection(L"A", other);
+                 scene.store->RenameSection(other, L"A");
+             },
+             [&](Scene& scene) {
+                 const std::vector<std::wstring> names = scene.store->Sections();
+                 EXPECT_TRUE(names == (std::vector<std::wstring>{L"A", L"B"}) ||
+                             names == (std::vector<std::wstring>{other, L"B"}));
+                 scene.store->SetSection(names.front());
+                 EXPECT_EQ(scene.Read(L"x"), 1);
+             },
+             [](Scene& scene) {
+                 scene.store->Release();
+                 FileIsAsBefore(scene);
+                 scene.store->SetSection(L"A");
+                 EXPECT_EQ(scene.Read(L"x"), 1);
+             },
+             10);
+}
+
+TEST(IniStoreMemory, WarningsFailClearlyAndAreToldTheNextTime) {
+    std::vector<IniWarning> warnings;
+    FailEach(
+        [](Scene& scene) { scene.folder.Write("a.ini", "[A]\nx=1\n[A section of its own]\n[a]\nx 1\n"); },
+        [&](Scene& scene) { warnings = scene.store->Warnings(); }, Nothing,
+        [&](Scene& /*scene*/) {
+            EXPECT_EQ(warnings, (std::vector<IniWarning>{{IniWarningKind::DuplicateSection, 4, 1, L"A", L""},
+                                                         {IniWarningKind::MalformedLine, 5, 0, L"a", L""}}));
+        },
+        8);
+}
+
 TEST(IniStoreMemory, AStoreThatEndsWithoutMemoryEndsQuietly) {
     for (std::size_t left = 0; left < 60; ++left) {
         Scene scene(text);
