@@ -367,9 +367,21 @@ std::string IniDocument::Text() const {
     return text;
 }
 
-std::optional<std::string> IniDocument::ApplyChangesTo(IniDocument& other) const {
-    if (auto taken = ApplyMovesTo(other))
-        return taken;
+bool IniDocument::IsWrittenWhole(Section section) const {
+    if (!HasKeysInText(section))
+        return true;
+    const std::vector<std::string_view> names = KeysOf(section).Names(m_text);
+    return std::all_of(names.begin(), names.end(), [&](std::string_view name) {
+        std::string buffer;
+        return m_changes.Find(section, CanonicalName(name, buffer)).has_value();
+    });
+}
+
+std::optional<IniConflict> IniDocument::ApplyChangesTo(IniDocument& other) const {
+    const bool isEmpty =
+        other.m_text.find_first_not_of(" \t\r\n", MarkLength(other.m_text)) == std::string::npos;
+    if (auto conflict = ApplyMovesTo(other))
+        return conflict;
     for (std::size_t number = 0; number < m_changes.Size(); ++number) {
         const IniChanges::Change& change = m_changes[number];
         if (change.section == IniChanges::none)
@@ -377,8 +389,13 @@ std::optional<std::string> IniDocument::ApplyChangesTo(IniDocument& other) const
         std::string buffer;
         const std::string_view name = CanonicalName(Name(change.section), buffer);
         std::optional<Section> section = other.FindSection(name);
-        if (!section)
+        if (!section) {
+            // Some of its keys without the others would be half a section.
+            if (!isEmpty && !IsWrittenWhole(change.section))
+                return IniConflict{IniConflict::Kind::SectionIsGone,
+                                   std::string(m_sections.Name(m_text, change.section))};
             section = other.AddSection(NameFor(other, Name(change.section)));
+        }
 
         const IniLine line = ClassifyLine(m_changes.Line(change));
         const IniCommentedValue parts = SplitComment(line.value);
@@ -392,7 +409,7 @@ std::optional<std::string> IniDocument::ApplyChangesTo(IniDocument& other) const
     return std::nullopt;
 }
 
-std::optional<std::string> IniDocument::ApplyMovesTo(IniDocument& other) const {
+std::optional<IniConflict> IniDocument::ApplyMovesTo(IniDocument& other) const {
     // Names that sections have here which are gone there. What has such a name there is somebody else's.
     IniNameSet gone;
     for (const Move& move : m_moves) {
@@ -414,7 +431,7 @@ std::optional<std::string> IniDocument::ApplyMovesTo(IniDocument& other) const {
         std::string name = NameFor(other, *move.to);
         const std::optional<Section> holder = other.FindSection(CanonicalName(name, buffer));
         if ((holder && holder != section) || !other.RenameSection(*section, name))
-            return name;
+            return IniConflict{IniConflict::Kind::NameIsTaken, std::move(name)};
     }
     return std::nullopt;
 }

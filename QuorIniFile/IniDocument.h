@@ -18,6 +18,16 @@
 
 namespace QuorIniFile {
 
+/// Why the changes of one document cannot be made in another one, whose text somebody else has changed since.
+struct IniConflict {
+    enum class Kind : std::uint8_t {
+        NameIsTaken,   // a section was to get a name that another one has there
+        SectionIsGone, // a section of which only some keys were written was removed or renamed there
+    };
+    Kind kind = Kind::NameIsTaken;
+    std::string section; // the name that is taken; or the section that is gone, as the text called it
+};
+
 /// The text of an INI file as it was read, an index over its sections, and the changes made since.
 /// It knows no file and no kinds of values: a value is the bytes behind a key.
 ///
@@ -86,9 +96,10 @@ public:
     [[nodiscard]] std::string Text() const;
     /// Writes into another document, in the same order, what was written into this one: for a text that
     /// somebody else has changed since it was read. A section that was to be removed or renamed and is gone
-    /// there needs neither. Where a section was to get a name that another one has there, nothing more is
-    /// applied and that name is returned; otherwise nothing.
-    [[nodiscard]] std::optional<std::string> ApplyChangesTo(IniDocument& other) const;
+    /// there needs neither. A section of this text in which something was written and which is gone there is
+    /// added again if all its keys were written, or if the other text is empty. Returns what stands in the
+    /// way of a change; `other` is of no use then. Nothing: all changes are made.
+    [[nodiscard]] std::optional<IniConflict> ApplyChangesTo(IniDocument& other) const;
 
 private:
     struct Placed {
@@ -128,12 +139,14 @@ private:
     void TakeBack(std::string_view name, Section section) noexcept;
     /// Whether all headers of a section spell that name in the text, so that none has to be rewritten.
     [[nodiscard]] bool IsSpelledInText(Section section, std::string_view name) const;
+    /// Whether each key that the section has in the text was written, so that its changes are all of it.
+    [[nodiscard]] bool IsWrittenWhole(Section section) const;
     [[nodiscard]] const IniKeys& KeysOf(Section section) const;
     [[nodiscard]] bool Differs(const IniChanges::Change& change) const;
     /// The changes of sections that the text has, in the order of the text.
     [[nodiscard]] std::vector<Placed> PlacedChanges() const;
     /// The removals and renamings alone.
-    [[nodiscard]] std::optional<std::string> ApplyMovesTo(IniDocument& other) const;
+    [[nodiscard]] std::optional<IniConflict> ApplyMovesTo(IniDocument& other) const;
     /// What removals and new names make of the text, in its order.
     [[nodiscard]] std::vector<Patch> Patches() const;
 

@@ -107,4 +107,12 @@ std::optional<IniKeys::Found> IniKeys::Find(std::string_view text, std::string_v
         {IniLineKind::Key, Name(text, *found), text.substr(found->name + found->value, found->valueLength)}};
 }
 
+std::vector<std::string_view> IniKeys::Names(std::string_view text) const {
+    std::vector<std::string_view> names;
+    names.reserve(m_keys.size());
+    for (const Key& key : m_keys)
+        names.push_back(Name(text, key));
+    return names;
+}
+
 } // namespace QuorIniFile

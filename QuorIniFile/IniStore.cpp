@@ -247,10 +247,14 @@ private:
         m_stamp = stamp;
     }
 
-    /// Raises when a section cannot get its new name there.
+    /// Raises what stands in the way of a change there.
     void ApplyChangesTo(IniDocument& other) const {
-        if (const auto taken = m_document->ApplyChangesTo(other))
-            throw NameIsTaken(DecodeBytes(*taken));
+        const std::optional<IniConflict> conflict = m_document->ApplyChangesTo(other);
+        if (!conflict)
+            return;
+        const std::wstring section = DecodeBytes(conflict->section);
+        throw conflict->kind == IniConflict::Kind::NameIsTaken ? NameIsTaken(section)
+                                                               : SectionIsGone(section);
     }
 
     /// Writes the changes into the file as it is now. What has come in between, if anything.
@@ -352,6 +356,11 @@ private:
     [[nodiscard]] QuorError NameIsTaken(std::wstring_view name) const {
         return FileError(ERR_PATH_FILE_ACCESS, FileName(),
                          L"There is a section " + Quoted(name) + L" already");
+    }
+    [[nodiscard]] QuorError SectionIsGone(std::wstring_view name) const {
+        return FileError(ERR_PATH_FILE_ACCESS, m_fileName,
+                         L"Another program has removed or renamed the section " + Quoted(name) +
+                             L", of which only a part was written");
     }
 
     IniFileSystem& m_files;

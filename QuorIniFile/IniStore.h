@@ -29,6 +29,10 @@ namespace QuorIniFile {
 /// written, whatever others have done to the lock and to temporary files meanwhile. A save that fails raises
 /// and keeps the changes; the next write or Release tries again.
 ///
+/// A section that another program has removed or renamed in the file is added again by a save when each key
+/// that it had in the text that was loaded was written; when only a part of it was written the save, and
+/// Reload, raise 75. A file that was deleted or emptied gets whatever was written.
+///
 /// Errors are QuorError with the source "QuorIniFile" and the file's name in the description: bad file name
 /// 52, device error 57, disk full 61, permission denied 70, path not found 76, anything else that cannot be
 /// read or written 75, UTF-16 text and names that the file could not give back among it. A file that another

@@ -117,10 +117,11 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     for (const std::string& base : {file.text, others}) {
         IniDocument other(base);
         const auto there = plain.In(base);
-        Claim(document.ApplyChangesTo(other).has_value() == !there,
-              "only a name that is taken stands in the way");
-        if (there)
-            there->ClaimMade(other.Text());
+        const auto conflict = document.ApplyChangesTo(other);
+        Claim(conflict.has_value() == there.inWay.has_value() && (!conflict || conflict->kind == there.inWay),
+              "only a name that is taken, or a section that is gone and written in part, stands in the way");
+        if (there.edits)
+            there.edits->ClaimMade(other.Text());
     }
     return 0;
 }

@@ -93,12 +93,13 @@ public:
         const std::string before = File();
         std::optional<PlainEdits> there = m_plain;
         if (m_plain && m_plain->Text() != before)
-            there = m_plain->In(before);
+            there = m_plain->In(before).edits;
         const bool isSaved = IsDone([&] { m_store.Release(); });
         m_store.Hold();
         if (!isSaved) {
             Claim(m_isAsked && (!there || IsUtf16(before) || before.find('\0') != std::string::npos),
-                  "only UTF-16, what would become it, and a name that is taken cannot be saved into");
+                  "only UTF-16, what would become it, a name that is taken and a section that is gone cannot "
+                  "be saved into");
             Claim(File() == before, "a save that fails leaves the file as it is");
             Discard();
             return;
@@ -108,7 +109,9 @@ public:
             Claim(saved == before, "where nothing was asked for nothing is saved");
             return;
         }
-        Claim(there.has_value(), "a name that is taken is not given to another section");
+        Claim(there.has_value(),
+              "a name that is taken is not given to another section, and a section that is "
+              "gone does not come back in part");
         there->ClaimMade(saved);
         ClaimRead(*there);
         Load(saved);
@@ -173,8 +176,9 @@ private:
         const bool isDone = IsDone([&] { m_store.Reload(); });
         if (!m_plain)
             return;
-        auto there = m_plain->In(text);
-        Claim(isDone == (there && !IsUtf16(text)), "only UTF-16 and a name that is taken cannot be loaded");
+        auto there = m_plain->In(text).edits;
+        Claim(isDone == (there && !IsUtf16(text)),
+              "only UTF-16, a name that is taken and a section that is gone cannot be loaded");
         if (!isDone)
             return;
         m_plain = std::move(there);

@@ -188,8 +188,22 @@ bool PlainEdits::Rename(const std::wstring& from, const std::wstring& to) {
     return true;
 }
 
-std::optional<PlainEdits> PlainEdits::In(std::string_view others) const {
+bool PlainEdits::AreAllOf(const Section& section) const {
+    if (section.isNew || section.isEmptied)
+        return true;
+    const PlainIni old(m_text);
+    return std::all_of(old.Keys().begin(), old.Keys().end(), [&](const auto& key) {
+        const auto& [name, line] = key;
+        return name.first != section.inText || m_written.contains({section.called, name.second});
+    });
+}
+
+PlainEdits::Merged PlainEdits::In(std::string_view others) const {
     PlainEdits there(others);
+    const std::vector<PlainIni::Line> lines = PlainIni(others).Lines();
+    const bool isEmptied = std::all_of(lines.begin(), lines.end(), [](const PlainIni::Line& line) {
+        return line.content.find_first_not_of(" \t\r") == std::string_view::npos;
+    });
     // The names, here, of sections that are gone there: what bears such a name there is somebody else's.
     std::set<std::wstring> gone;
     for (const auto& [from, to] : m_moves) {
@@ -199,13 +213,16 @@ std::optional<PlainEdits> PlainEdits::In(std::string_view others) const {
         } else if (!to) {
             there.Remove(from);
         } else if (!there.Rename(from, *to)) {
-            return std::nullopt;
+            return {std::nullopt, IniConflict::Kind::NameIsTaken};
         }
     }
-    for (const auto& [place, edit] : m_written)
+    for (const auto& [place, edit] : m_written) {
+        if (!isEmptied && !there.Has(edit.section) && !AreAllOf(m_sections[Find(edit.section)]))
+            return {std::nullopt, IniConflict::Kind::SectionIsGone};
         there.Write(edit);
+    }
     there.m_isVague = there.m_isVague || m_isVague;
-    return there;
+    return {std::move(there), std::nullopt};
 }
 
 const PlainEdits::Section* PlainEdits::OfHeader(const PlainIni::Line& line) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QuorIniFile/IniDocument.h"
 #include "fuzz/Edits.h"
 #include "fuzz/PlainIni.h"
 
@@ -37,9 +38,9 @@ public:
     /// line could not give it back.
     [[nodiscard]] bool Rename(const std::wstring& from, const std::wstring& to);
 
-    /// The same edits in what somebody else has made of the text; nothing when a section cannot get its new
-    /// name there.
-    [[nodiscard]] std::optional<PlainEdits> In(std::string_view others) const;
+    struct Merged;
+    /// The same edits in what somebody else has made of the text.
+    [[nodiscard]] Merged In(std::string_view others) const;
     /// Claims that `after` is the text with these edits and nothing else: every other line byte for byte and
     /// in its order, every section and value there.
     void ClaimMade(std::string_view after) const;
@@ -70,6 +71,8 @@ private:
     };
 
     [[nodiscard]] std::size_t Find(const std::wstring& name) const;
+    /// Whether the edits write each key that a section has in the text.
+    [[nodiscard]] bool AreAllOf(const Section& section) const;
     /// The section of the text that a header line belongs to; null for a broken header.
     [[nodiscard]] const Section* OfHeader(const PlainIni::Line& line) const;
     [[nodiscard]] std::set<std::size_t> LinesThatGo(const PlainIni& old) const;
@@ -82,6 +85,12 @@ private:
     std::vector<Move> m_moves;
     std::map<PlainIni::Place, Edit> m_written;
     bool m_isVague = false; // several removed sections had the name of one that came back: any may have
+};
+
+/// What becomes of edits in another text.
+struct PlainEdits::Merged {
+    std::optional<PlainEdits> edits;                     // nothing: they cannot be made
+    std::optional<QuorIniFile::IniConflict::Kind> inWay; // why
 };
 
 } // namespace Fuzz

@@ -168,7 +168,7 @@ TEST(IniDocument, ChangesCanBeMadeInATextThatSomebodyElseHasChanged) {
     Write(ours, "B", "new", {"40", false, {}});
 
     IniDocument theirs("; theirs\r\n[C]\r\nv=1\r\n[a]\r\nname = old\r\ny=2 ; theirs\r\nX =5 ; Ohm\r\n");
-    EXPECT_EQ(ours.ApplyChangesTo(theirs), std::nullopt);
+    EXPECT_FALSE(ours.ApplyChangesTo(theirs));
     EXPECT_EQ(theirs.Text(), "; theirs\r\n[C]\r\nv=1\r\n[a]\r\nname = \"a ; b \"\r\ny=20 ; ours\r\n"
                              "X =10 ; Ohm\r\nz=30\r\n\r\n[B]\r\nnew=40\r\n");
 }
@@ -184,7 +184,7 @@ TEST(IniDocument, NamesInLatin1AreFoundByTheirText) {
     document.Write(*section, "N\xC3\xB6tig", "N\xF6tig", {"1", false, {}});
     EXPECT_EQ(ValueOf(document, "K\xC3\xB6ln", "n\xC3\xB6tig"), "1") << "among the changes";
     IniDocument other("[K\xC3\xB6ln]\n");
-    EXPECT_EQ(document.ApplyChangesTo(other), std::nullopt);
+    EXPECT_FALSE(document.ApplyChangesTo(other));
     EXPECT_EQ(ValueOf(other, "K\xC3\xB6ln", "N\xC3\xB6tig"), "1");
 }
 
@@ -318,7 +318,7 @@ TEST(IniDocument, RemovalsAndNewNamesAreAppliedToATextThatHasChangedSince) {
     Write(ours, "A", "y", {"5", false, {}});
 
     IniDocument theirs("; theirs\n\n[C]\nz=3\nmore=1\n\n[A]\nx=7\n\n[B]\ny=2\nmine=1\n");
-    EXPECT_EQ(ours.ApplyChangesTo(theirs), std::nullopt);
+    EXPECT_FALSE(ours.ApplyChangesTo(theirs));
     EXPECT_EQ(theirs.Text(), "; theirs\n\n[C]\nw=4\n\n[A]\ny=5\nmine=1\n");
 }
 
@@ -328,7 +328,7 @@ TEST(IniDocument, WhatIsGoneAlreadyNeedsNoRemovalAndNoNewName) {
     ASSERT_TRUE(ours.RenameSection(ours.FindSection("B").value(), "C"));
     Write(ours, "C", "y", {"3", false, {}});
     IniDocument theirs("[D]\n");
-    EXPECT_EQ(ours.ApplyChangesTo(theirs), std::nullopt);
+    EXPECT_FALSE(ours.ApplyChangesTo(theirs));
     EXPECT_EQ(theirs.Text(), "[D]\n\n[C]\ny=3\n");
 }
 
@@ -342,7 +342,7 @@ TEST(IniDocument, TheSectionThatSomebodyElseHasPutInThePlaceOfAGoneOneIsLeftAlon
     const std::string text = "[B]\ntheirs=1\n";
     for (const IniDocument* ours : {&removed, &renamed}) {
         IniDocument theirs(text);
-        EXPECT_EQ(ours->ApplyChangesTo(theirs), std::nullopt);
+        EXPECT_FALSE(ours->ApplyChangesTo(theirs));
         EXPECT_EQ(theirs.Text(), text);
     }
 }
@@ -351,8 +351,40 @@ TEST(IniDocument, ANameThatSomebodyElseHasGivenMeanwhileIsToldAndNotTaken) {
     IniDocument ours("[A]\nx=1\n");
     ASSERT_TRUE(ours.RenameSection(ours.FindSection("A").value(), "B"));
     IniDocument theirs("[A]\nx=1\n[b]\ny=2\n");
-    EXPECT_EQ(ours.ApplyChangesTo(theirs), "B");
+    const auto conflict = ours.ApplyChangesTo(theirs);
+    ASSERT_TRUE(conflict);
+    EXPECT_EQ(conflict->kind, IniConflict::Kind::NameIsTaken);
+    EXPECT_EQ(conflict->section, "B");
     EXPECT_EQ(theirs.Text(), "[A]\nx=1\n[b]\ny=2\n");
+}
+
+TEST(IniDocument, ASectionThatSomebodyElseHasRemovedIsAddedAgainWithAllItsKeysOrNotAtAll) {
+    IniDocument ours("[A]\nx=1\ny=2\n");
+    Write(ours, "A", "x", {"3", false, {}});
+    IniDocument part("[B]\n");
+    const auto conflict = ours.ApplyChangesTo(part);
+    ASSERT_TRUE(conflict);
+    EXPECT_EQ(conflict->kind, IniConflict::Kind::SectionIsGone);
+    EXPECT_EQ(conflict->section, "A");
+
+    Write(ours, "A", "Y", {"2", false, {}});
+    IniDocument whole("[B]\n");
+    EXPECT_FALSE(ours.ApplyChangesTo(whole));
+    EXPECT_EQ(whole.Text(), "[B]\n\n[A]\nx=3\ny=2\n");
+}
+
+TEST(IniDocument, ALongSectionThatSomebodyElseHasRemovedIsAddedAgainWithAllItsKeysOrNotAtAll) {
+    IniDocument ours(ManyKeys(1000) + "k7=again\n");
+    for (int i = 0; i < 999; ++i)
+        Write(ours, "A", "k" + std::to_string(i), {"1", false, {}});
+    IniDocument part("[B]\n");
+    const auto conflict = ours.ApplyChangesTo(part);
+    ASSERT_TRUE(conflict);
+    EXPECT_EQ(conflict->kind, IniConflict::Kind::SectionIsGone);
+    Write(ours, "A", "k999", {"1", false, {}});
+    IniDocument whole("[B]\n");
+    EXPECT_FALSE(ours.ApplyChangesTo(whole));
+    EXPECT_EQ(ValueOf(whole, "A", "K999"), "1");
 }
 
 TEST(IniDocument, RenamingThereAndBackLeavesNoChangeWhereAllHeadersAreSpelledAlike) {

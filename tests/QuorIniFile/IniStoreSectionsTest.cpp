@@ -143,6 +143,88 @@ TEST_F(IniStoreSections, TakeNoNameThatAnotherProgramHasGivenMeanwhile) {
     EXPECT_EQ(File(), theirs);
 }
 
+TEST_F(IniStoreSections, OfWhichOnlyAPartWasWrittenAreNotSavedWhereAnotherProgramHasRemovedThem) {
+    const std::wstring refusal =
+        L"75 Path/File access error: a.ini: Another program has removed or renamed the "
+        L"section \"Probe 1\", of which only a part was written";
+    for (const std::string theirs : {"[B]\nz=3\n", "[B]\nz=3\n\n[Probe 2]\nx=1\ny=2\n", "; nothing else\n"}) {
+        SCOPED_TRACE(theirs);
+        File("[Probe 1]\nx=1\ny=2\n\n[B]\nz=3\n");
+        store->Hold();
+        Put(L"probe 1", L"x", 5);
+        Put(L"B", L"z", 6);
+        File(theirs);
+        EXPECT_EQ(Refusal([&] { store->Reload(); }), refusal);
+        EXPECT_EQ(Refusal([&] { store->Release(); }), refusal);
+        EXPECT_EQ(File(), theirs);
+
+        store->SetSection(L"Probe 1");
+        std::int16_t value = 0;
+        EXPECT_TRUE(store->ReadInteger(L"x", value));
+        EXPECT_EQ(value, 5) << "what was written is kept";
+        EXPECT_EQ(Refusal([&] { Put(L"B", L"z", 7); }), refusal);
+        store->Discard();
+        store->Release();
+        EXPECT_EQ(File(), theirs);
+        EXPECT_EQ(Refusal([&] { Put(L"New", L"z", 8); }), L"no refusal");
+        store->Discard();
+    }
+}
+
+TEST_F(IniStoreSections, OfWhichOnlyAPartWasWrittenAreNotSavedByTheEndOfTheStore) {
+    File("[A]\nx=1\ny=2\n");
+    store->Hold();
+    Put(L"A", L"x", 5);
+    File("[B]\n");
+    store.reset();
+    EXPECT_EQ(File(), "[B]\n");
+}
+
+TEST_F(IniStoreSections, OfWhichNoKeyWasLeftOutComeBackWhereAnotherProgramHasRemovedThem) {
+    File("[A]\nx=1\nY=2\nx=3\n\n[B]\nz=3\n");
+    store->Hold();
+    Put(L"A", L"y", 2);
+    Put(L"A", L"x", 5);
+    Put(L"A", L"new", 6);
+    File("[B]\nz=4\n");
+    store->Release();
+    EXPECT_EQ(File(), "[B]\nz=4\n\n[A]\nY=2\nx=5\nnew=6\n");
+}
+
+TEST_F(IniStoreSections, ThatWereRemovedAndWrittenAnewComeBackWhereAnotherProgramHasRemovedThem) {
+    File("[A]\nx=1\ny=2\n\n[B]\nz=3\n");
+    store->Hold();
+    store->RemoveSection(L"A");
+    Put(L"A", L"x", 5);
+    File("[B]\nz=3\n");
+    store->Release();
+    EXPECT_EQ(File(), "[B]\nz=3\n\n[A]\nx=5\n");
+}
+
+TEST_F(IniStoreSections, OfWhichOnlyAPartWasWrittenAreToldByTheirOldNameWhenTheyWereRenamed) {
+    File("[A]\nx=1\ny=2\n");
+    store->Hold();
+    store->RenameSection(L"A", L"C");
+    Put(L"C", L"x", 5);
+    File("[B]\nx=1\ny=2\n");
+    EXPECT_EQ(
+        Refusal([&] { store->Release(); }),
+        L"75 Path/File access error: a.ini: Another program has removed or renamed the section \"A\", of "
+        L"which only a part was written");
+    EXPECT_EQ(File(), "[B]\nx=1\ny=2\n");
+}
+
+TEST_F(IniStoreSections, OfAFileThatWasEmptiedBeginAnewWithWhatWasWritten) {
+    for (const std::string theirs : {"", "\xEF\xBB\xBF", "\xEF\xBB\xBF\r\n \t\r\n"}) {
+        File("[A]\nx=1\ny=2\n");
+        store->Hold();
+        Put(L"A", L"x", 5);
+        File(theirs);
+        store->Release();
+        EXPECT_EQ(File(), theirs + (theirs.ends_with('\n') ? "[A]\r\nx=5\r\n" : "[A]\nx=5\n"));
+    }
+}
+
 TEST_F(IniStoreSections, ThatWereDiscardedAreNeverSaved) {
     const std::string text = "[A]\nx=1\n";
     File(text);
