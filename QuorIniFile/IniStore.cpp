@@ -10,6 +10,7 @@
 #include <bit>
 #include <cmath>
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <type_traits>
 #include <utility>
@@ -42,6 +43,8 @@ public:
         IniFileName file = IniFileName::Absolute(fileName, m_files);
         if (file == m_file)
             return;
+        if (m_isEditing)
+            throw FileError(ERR_PATH_FILE_ACCESS, FileName(), L"An edit of it has not ended");
         if (!m_isAbandoned)
             Save();
         m_document.reset();
@@ -146,22 +149,38 @@ public:
 
     void Hold() { ++m_holds; }
     void Release() {
-        if (m_holds == 0 || --m_holds > 0)
+        if (m_holds == 0)
+            return;
+        --m_holds;
+        if (IsHeld())
             return;
         if (!m_isAbandoned) {
             Save();
             return;
         }
         Discard();
-        throw FileError(ERR_PATH_FILE_ACCESS, FileName(),
-                        L"A record could not be written whole, so nothing was saved");
+        throw NotWritten();
     }
     void Abandon() {
-        if (m_holds == 0)
+        if (!IsHeld())
             return;
         m_isAbandoned = true;
-        if (--m_holds == 0)
+        m_holds -= m_holds > 0 ? 1 : 0;
+        if (!IsHeld())
             Discard();
+    }
+
+    void Edit(const std::function<void()>& edit) {
+        if (m_isEditing) {
+            EditWithin(edit);
+            return;
+        }
+        if (IsHeld())
+            throw FileError(ERR_PATH_FILE_ACCESS, FileName(), L"No edit can begin between Hold and Release");
+        if (FileName().empty())
+            throw FileError(ERR_BAD_FILE_NAME, FileName());
+        Save();
+        UntilSaved([&] { return TryEdit(edit); });
     }
 
     /// Nothing of the object changes unless all has gone well.
@@ -173,11 +192,7 @@ public:
             return;
         }
         m_hasFailed = true;
-        constexpr int mostTries = 20;
-        for (int tries = 0; const auto setback = TrySave(); ++tries) {
-            if (tries == mostTries)
-                throw QuorError(*setback);
-        }
+        UntilSaved([this] { return TrySave(); });
         m_hasFailed = false;
     }
 
@@ -210,6 +225,86 @@ public:
     }
 
 private:
+    /// One attempt at an edit. Ends the brackets that were opened in it, selects the section that was
+    /// selected before, and forgets what was written unless all of it has been saved.
+    class Attempt {
+    public:
+        explicit Attempt(Session& session)
+            : m_session(session),
+              m_section(session.m_section),
+              m_sectionBytes(session.m_sectionBytes),
+              m_hasSectionName(session.m_hasSectionName) {
+            m_session.m_isEditing = true;
+        }
+        Attempt(const Attempt&) = delete;
+        Attempt& operator=(const Attempt&) = delete;
+        ~Attempt() {
+            if (!m_isSaved)
+                m_session.Discard();
+            m_session.m_holds = 0;
+            m_session.m_isEditing = false;
+            m_session.m_section.swap(m_section);
+            m_session.m_sectionBytes.swap(m_sectionBytes);
+            m_session.m_hasSectionName = m_hasSectionName;
+            m_session.m_number.reset();
+        }
+        void Saved() { m_isSaved = true; }
+
+    private:
+        Session& m_session;
+        std::wstring m_section;
+        std::string m_sectionBytes;
+        bool m_hasSectionName;
+        bool m_isSaved = false;
+    };
+
+    [[nodiscard]] bool IsHeld() const { return m_holds > 0 || m_isEditing; }
+    [[nodiscard]] QuorError NotWritten() const {
+        return FileError(ERR_PATH_FILE_ACCESS, FileName(),
+                         L"A record could not be written whole, so nothing was saved");
+    }
+
+    /// Repeats an attempt that tells what has come in between, if anything.
+    template <class Try>
+    static void UntilSaved(const Try& attempt) {
+        constexpr int mostRepetitions = 20;
+        for (int repetitions = 0; const std::optional<QuorError> setback = attempt(); ++repetitions) {
+            if (repetitions == mostRepetitions)
+                throw QuorError(*setback);
+        }
+    }
+
+    /// An edit inside another one. What a failed one has written in part must not be saved with the rest.
+    void EditWithin(const std::function<void()>& edit) {
+        try {
+            edit();
+        } catch (...) {
+            m_isAbandoned = true;
+            throw;
+        }
+    }
+
+    /// Loads the file, runs the function and saves, all under the lock. What has come in between, if
+    /// anything.
+    std::optional<QuorError> TryEdit(const std::function<void()>& edit) {
+        IniReplacement replacement(m_file, m_files);
+        auto [document, stamp] = LoadFile();
+        Attempt attempt(*this);
+        Adopt(std::move(document), stamp);
+        edit();
+        if (m_isAbandoned)
+            throw NotWritten();
+        if (m_document && m_document->Written()) {
+            // The file may have been replaced after it was locked, and read, or read again, only then.
+            if (!replacement.Has(m_document->BaseText()))
+                return FileError(ERR_PERMISSION_DENIED, FileName(), L"Another program keeps writing it");
+            if (auto setback = SaveInto(replacement, *m_document))
+                return setback;
+        }
+        attempt.Saved();
+        return std::nullopt;
+    }
+
     void Load() {
         // A file that was not there may have come since, as long as we have nothing to say about it.
         if (m_document && (m_stamp.exists || m_document->Changed()))
@@ -265,7 +360,12 @@ private:
             theirs = Document(replacement.Bytes());
             ApplyChangesTo(*theirs);
         }
-        const IniDocument& changed = theirs ? *theirs : *m_document;
+        return SaveInto(replacement, theirs ? *theirs : *m_document);
+    }
+
+    /// Puts the text of `changed`, which was made from what stands in the file, in its place. What has come
+    /// in between, if anything.
+    std::optional<QuorError> SaveInto(IniReplacement& replacement, const IniDocument& changed) {
         // The document of the new text is made before the file, so that nothing can fail after that.
         IniDocument saved(changed.Changed() ? changed.Text() : std::string(changed.BaseText()));
         if (!changed.Changed()) {
@@ -299,7 +399,7 @@ private:
     void SectionsChanged() {
         m_number.reset();
         m_hasFailed = false;
-        if (m_holds == 0)
+        if (!IsHeld())
             Save();
     }
 
@@ -325,7 +425,7 @@ private:
         }
         m_document->Write(*m_number, *name, present, spelling, m_value);
         m_hasFailed = false;
-        if (m_holds == 0)
+        if (!IsHeld())
             Save();
     }
 
@@ -358,7 +458,7 @@ private:
                          L"There is a section " + Quoted(name) + L" already");
     }
     [[nodiscard]] QuorError SectionIsGone(std::wstring_view name) const {
-        return FileError(ERR_PATH_FILE_ACCESS, m_fileName,
+        return FileError(ERR_PATH_FILE_ACCESS, FileName(),
                          L"Another program has removed or renamed the section " + Quoted(name) +
                              L", of which only a part was written");
     }
@@ -374,6 +474,7 @@ private:
     bool m_hasFailed = false;                     // a save of all that is written
     std::size_t m_holds = 0;
     bool m_isAbandoned = false; // what is held is part of a record, and must not be saved
+    bool m_isEditing = false;   // an edit holds all that is written, until it ends
     // Made anew with each call; kept, because making them needs memory.
     std::string m_keyBytes, m_spare;
     IniNewValue m_value;
@@ -443,6 +544,7 @@ void IniStore::RenameSection(std::wstring_view from, std::wstring_view to) {
 }
 void IniStore::Discard() { m_session->Discard(); }
 
+void IniStore::Edit(const std::function<void()>& edit) { m_session->Edit(edit); }
 void IniStore::Hold() { m_session->Hold(); }
 void IniStore::Release() { m_session->Release(); }
 void IniStore::Abandon() { m_session->Abandon(); }

@@ -6,6 +6,7 @@
 #include "QuorIniFile/IniWarning.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -32,6 +33,10 @@ namespace QuorIniFile {
 /// A section that another program has removed or renamed in the file is added again by a save when each key
 /// that it had in the text that was loaded was written; when only a part of it was written the save, and
 /// Reload, raise 75. A file that was deleted or emptied gets whatever was written.
+///
+/// A value that another program has changed since it was read is overwritten by a write. A program that
+/// changes what it has read (a counter, one coefficient of a record) reads and writes inside Edit: no other
+/// process comes in between.
 ///
 /// Errors are QuorError with the source "QuorIniFile" and the file's name in the description: bad file name
 /// 52, device error 57, disk full 61, permission denied 70, path not found 76, anything else that cannot be
@@ -87,6 +92,32 @@ public:
     /// Forgets what was written, removed and renamed and is not in the file yet: what was held, or what could
     /// not be saved. The file is loaded anew when it is next needed.
     void Discard();
+
+    /// Calls `edit` under the lock between processes: it reads the file as it is then, through this store,
+    /// and what it writes is saved together before Edit returns. No update of another process that saves
+    /// through a store, or edits, is lost. Where there is no file yet, reads raise 53 until something is
+    /// written.
+    ///
+    /// The function is called again, upon the file as it is then, when a program that takes no lock has
+    /// changed the file meanwhile: it must be repeatable, with no effects but those on this store. Others
+    /// wait for the lock ten seconds at most, another store on the same file in this process too: it must be
+    /// short, and must not wait for a person.
+    ///
+    /// When the function raises, its exception passes through; when the file cannot be saved, Edit raises
+    /// what a save raises. Either way nothing is saved, what the function wrote is forgotten, as by Discard,
+    /// and Edit can be called again. (As after every save, an error of the disk may come when the file is
+    /// complete and new but may not outlive a power cut.) A function that writes nothing, or what stands
+    /// there already, leaves the file alone. Changes that an earlier save has failed for are saved first.
+    ///
+    /// Between Hold and Release Edit raises 75 and does nothing. Inside an edit:
+    /// - Edit calls the function as a part of the outer edit, which saves. One that raises leaves nothing to
+    ///   be saved by the outer one.
+    /// - Hold and Release nest and save nothing; what is still held is saved with the rest. Abandon, also
+    ///   without a Hold, makes the edit save nothing and raise 75 at its end, as Release does.
+    /// - The function begins with the section that was selected before, which is selected again afterwards.
+    /// - Discard forgets what the edit has written so far; Reload keeps it.
+    /// - SetFileName with another name raises 75.
+    void Edit(const std::function<void()>& edit);
 
     void Hold() override;
     /// Without a Hold it does nothing. Raises 75, and does as Discard does, when a bracket inside this one

@@ -320,3 +320,120 @@ TEST(IniStoreFaults, AFileThatIsNeverAtRestIsReadAsItIsAndNotSavedInTheEnd) {
     store.WriteInteger(L"x", 2, L"");
     EXPECT_EQ(disk.Now().at("/a.ini"), "[A]\nx=2\n" + theirs.substr(8));
 }
+
+// Edits ----------------------------------------------------------------------------------------------------
+
+namespace {
+
+/// Adds 1 to x, upon the file as it is; to nothing where there is no file.
+void EditX(FaultyRun& run, bool exists) {
+    run.store.Edit([&run, exists] {
+        std::int16_t value = 1;
+        if (exists) {
+            EXPECT_TRUE(run.store.ReadInteger(L"x", value));
+        }
+        run.store.WriteInteger(L"x", static_cast<std::int16_t>(value + 1), L"");
+    });
+}
+
+} // namespace
+
+TEST(IniStoreFaults, EveryCallOfAnEditThatFailsIsAnErrorAndWhatTheEditWroteIsForgotten) {
+    for (const bool exists : {true, false}) {
+        for (const bool lasting : {false, true}) {
+            std::size_t at = 0;
+            for (;; ++at) {
+                FaultyRun run(exists);
+                Fault fault{at, EIO, lasting};
+                run.files.onCall = std::ref(fault);
+                std::int32_t number = 0;
+                try {
+                    EditX(run, exists);
+                } catch (const QuorError& error) {
+                    number = error.Number();
+                    EXPECT_NE(error.Description().find(run.folder.Name("a.ini")), std::wstring::npos);
+                }
+                const std::string where = fault.name + ", call " + std::to_string(at);
+                ASSERT_EQ(number, fault.WasReached() ? 57 : 0) << where;
+                EXPECT_EQ(run.files.openFiles, 0) << where;
+                if (!fault.WasReached()) {
+                    EXPECT_TRUE(run.IsNew());
+                    break;
+                }
+                const bool isNew = run.IsNew();
+                EXPECT_TRUE(run.IsOld() ||
+                            (isNew && (fault.name == "SyncFolder" || fault.name == "StatusOf")))
+                    << where;
+
+                run.files.onCall = [](std::string_view) { return 0; };
+                run.store.WriteInteger(L"z", 3, L""); // nothing of the edit is saved with it
+                std::string expected = isNew ? (exists ? newText : firstText) : (exists ? oldText : "[A]\n");
+                const std::string lineEnd = exists ? "\r\n" : "\n";
+                const auto end = expected.find("[B]");
+                expected.insert(end == std::string::npos ? expected.size() : end, "z=3" + lineEnd);
+                EXPECT_EQ(run.folder.Read("a.ini"), expected) << where;
+                EXPECT_EQ(run.folder.Files(), Names{"a.ini"}) << where;
+            }
+            EXPECT_GT(at, exists ? 20U : 10U) << "the calls of an edit";
+        }
+    }
+}
+
+TEST(IniStoreFaults, AProgramThatTakesNoLockMayRewriteTheFileAtAnyCallOfAnEditWhichIsMadeAnewThen) {
+    const std::string theirs = "; theirs, and longer than ours\n[B]\ny=5\n[A]\nx=41\n";
+    const std::string both = "; theirs, and longer than ours\n[B]\ny=5\n[A]\nx=42\n";
+    for (const bool replaces : {false, true}) { // the same file, or another one under its name
+        bool reached = true;
+        for (std::size_t at = 0; reached; ++at) {
+            FaultyRun run(true);
+            std::size_t calls = 0;
+            bool isRenamed = false;
+            std::string expected = newText;
+            run.files.onCall = [&](std::string_view call) {
+                // Between the last look at the file and its replacement nobody can be seen.
+                if (calls++ == at && call != "Rename") {
+                    run.folder.Write(replaces ? "b.ini" : "a.ini", theirs);
+                    if (replaces)
+                        fs::rename(run.folder.Path("b.ini"), run.folder.Path("a.ini"));
+                    expected = isRenamed ? theirs : both;
+                }
+                isRenamed = isRenamed || call == "Rename";
+                return 0;
+            };
+            EditX(run, true);
+            reached = calls > at;
+            EXPECT_EQ(run.folder.Read("a.ini"), expected) << "call " << at;
+            EXPECT_EQ(run.folder.Files(), Names{"a.ini"});
+        }
+    }
+}
+
+TEST(IniStoreFaults, AnEditOfAFileThatIsNeverAtRestIsGivenUpAfterTwentyRepetitions) {
+    SimulatedDisk disk(SimulatedDisk::Files{{"/a.ini", "[A]\nx=1\n"}});
+    InterceptedFiles files(disk);
+    std::string theirs = "[A]\nx=1\n";
+    files.onCall = [&](std::string_view call) {
+        if (call == "Sync")
+            disk.Rewrite("/a.ini", theirs += "; more\n");
+        return 0;
+    };
+    IniStore store(files);
+    store.SetFileName(L"/a.ini");
+    store.SetSection(L"A");
+    int calls = 0;
+    try {
+        store.Edit([&] {
+            ++calls;
+            store.WriteInteger(L"x", 2, L"");
+        });
+        ADD_FAILURE() << "it was saved";
+    } catch (const QuorError& error) {
+        EXPECT_EQ(error.Number(), 70);
+        EXPECT_EQ(error.Description(), L"Permission denied: /a.ini: Another program keeps writing it");
+    }
+    EXPECT_EQ(calls, 21) << "once, and twenty times again";
+    EXPECT_EQ(disk.Now(), (SimulatedDisk::Files{{"/a.ini", theirs}}));
+    std::int16_t value = 0;
+    EXPECT_TRUE(store.ReadInteger(L"x", value));
+    EXPECT_EQ(value, 1);
+}

@@ -93,16 +93,31 @@ bool HasLeftovers(const TempFolder& folder) {
                        [](const std::string& name) { return name.starts_with(".quor-"); });
 }
 
+void SaveX(const std::wstring& file) { Save(IniFileSystem::System(), file, L"x", 2); }
+
+/// Adds 1 to x.
+void EditX(const std::wstring& file) {
+    IniStore store;
+    store.SetFileName(file);
+    store.SetSection(L"A");
+    store.Edit([&store] {
+        std::int16_t value = 0;
+        static_cast<void>(store.ReadInteger(L"x", value));
+        store.WriteInteger(L"x", static_cast<std::int16_t>(value + 1), L"");
+    });
+}
+
 /// Kills a save of "a.ini" at each system call. `target` is the file behind that name, `before` its text.
 void KillEverywhere(const std::function<void(const TempFolder&)>& prepare, const std::string& target,
-                    const std::optional<std::string>& before, const std::string& after) {
+                    const std::optional<std::string>& before, const std::string& after,
+                    const std::function<void(const std::wstring& file)>& save = SaveX) {
     int stops = 0;
     int leftovers = 0;
     for (End end = End::Stopped; end == End::Stopped; ++stops) {
         const TempFolder folder;
         prepare(folder);
         end = StopAt(
-            stops, [&] { Save(IniFileSystem::System(), folder.Name("a.ini"), L"x", 2); }, Kill);
+            stops, [&] { save(folder.Name("a.ini")); }, Kill);
         if (end == End::NotAllowed)
             GTEST_SKIP() << "this system does not let one process trace another";
 
@@ -231,6 +246,11 @@ TEST(IniStoreKilled, AtEverySystemCallAnotherProcessMayTakeItsLockAndSaveAndNoth
             Save(IniFileSystem::System(), folder.Name("a.ini"), L"y", 3);
         },
         std::string(newText) + "y=3\n");
+}
+
+TEST(IniStoreKilled, AtEverySystemCallOfAnEditTheOldFileOrTheNewOneIsThere) {
+    KillEverywhere([](const TempFolder& folder) { folder.Write("a.ini", oldText); }, "a.ini", oldText,
+                   newText, EditX);
 }
 
 TEST(IniStoreKilled, EverySystemCallThatFailsIsAnErrorWithTheOldFileOrAnInterruptionWithTheNewOne) {

@@ -182,6 +182,21 @@ TEST(IniStoreProcesses, ARecordThatTwoProcessesSaveIsAlwaysOneOfTheirs) {
     EXPECT_GT(records, 0);
 }
 
+TEST(IniStoreProcesses, EightProcessesThatEditOneKeyAHundredTimesEachLoseNoUpdate) {
+    const TempFolder folder;
+    const std::string host = "; the host's own\r\n[Display]\r\ncolour = blue\r\n[Counter]\r\n";
+    folder.Write("a.ini", host + "N = 0 ; edits\r\n");
+    std::vector<Process> processes;
+    for (int i = 0; i < 8; ++i)
+        processes.emplace_back(std::vector<std::string>{saver, "add", folder.Path("a.ini").string(), "100"});
+    for (Process& process : processes) {
+        EXPECT_EQ(process.ReadLine(), "");
+        EXPECT_EQ(process.Wait(), 0);
+    }
+    EXPECT_EQ(folder.Read("a.ini"), host + "N = 800 ; edits\r\n");
+    EXPECT_EQ(folder.Files(), Names{"a.ini"});
+}
+
 TEST(IniStoreProcesses, AProcessThatIsKilledWhileItHasTheLockKeepsNobodyWaiting) {
     const TempFolder folder;
     folder.Write("a.ini", "[A]\nx=1\n");

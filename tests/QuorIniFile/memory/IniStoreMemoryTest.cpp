@@ -358,6 +358,29 @@ TEST(IniStoreMemory, WarningsFailClearlyAndAreToldTheNextTime) {
         8);
 }
 
+TEST(IniStoreMemory, AnEditSavesAllThatItWroteOrForgetsIt) {
+    FailEach(
+        Nothing,
+        [](Scene& scene) {
+            scene.store->Edit([&scene] {
+                scene.store->WriteInteger(L"x", static_cast<std::int16_t>(scene.Read(L"x") + 1), L"");
+                scene.store->SetSection(L"A section of its own, which is not a short one");
+                scene.store->WriteInteger(L"y", 1, L"a comment");
+            });
+        },
+        [](Scene& scene) {
+            FileIsAsBefore(scene);
+            EXPECT_EQ(scene.store->Section(), L"A");
+            EXPECT_EQ(scene.Read(L"x"), 1);
+        },
+        [](Scene& scene) {
+            EXPECT_EQ(scene.File(), With("x=1", "x=2") + "\r\n[A section of its own, which is not a short "
+                                                         "one]\r\ny=1 ; a comment\r\n");
+            EXPECT_EQ(scene.store->Section(), L"A");
+        },
+        30);
+}
+
 TEST(IniStoreMemory, AStoreThatEndsWithoutMemoryEndsQuietly) {
     for (std::size_t left = 0; left < 60; ++left) {
         Scene scene(text);

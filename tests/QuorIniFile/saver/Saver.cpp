@@ -1,16 +1,14 @@
 // A program that saves as a host does, for the tests that need several processes:
 //     IniSaver keys FILE SECTION COUNT    saves COUNT keys K0, K1, ... one by one
 //     IniSaver records FILE COUNT FROM    saves COUNT records, each of eight keys with one number, from FROM
-//     on IniSaver lock FILE                  takes the lock, says "locked", and keeps it until its input ends
-//     IniSaver fork FILE                  takes the lock, starts a child that does nothing, says its number,
-//     and
-//                                         keeps the lock until its input ends
-//     IniSaver lease FILE                 takes a lease on the file, says "leased", and gives it back a fifth
-//     of
-//                                         a second after it is asked to; ends with its input
-//     IniSaver storm FILE SECTION LOG SECONDS  saves keys K0, K1, ... for so long, each again until it is
-//     saved, and
-//                                         adds a line to LOG for each that is
+//     IniSaver add FILE COUNT             adds 1 COUNT times to N in the section Counter, each in an edit
+//     IniSaver lock FILE                  takes the lock, says "locked", and keeps it until its input ends
+//     IniSaver fork FILE                  the same, says the number of a child that does nothing
+//     IniSaver lease FILE                 takes a lease on the file, says "leased", and gives it back a while
+//                                         after it is asked to; ends with its input
+//     IniSaver storm FILE SECTION LOG SECONDS
+//                                         saves keys K0, K1, ... for so long, each again until it is saved,
+//                                         and adds a line to LOG for each
 // An error goes to the standard output and ends it with 1.
 
 #include "QuorIniFile/IniDisk.h"
@@ -53,6 +51,19 @@ void SaveRecords(const std::wstring& file, int count, int from) {
         for (int key = 0; key < 8; ++key)
             store.WriteInteger(L"K" + std::to_wstring(key), static_cast<std::int16_t>(from + i), L"");
         store.Release();
+    }
+}
+
+void Add(const std::wstring& file, int count) {
+    IniStore store;
+    store.SetFileName(file);
+    store.SetSection(L"Counter");
+    for (int i = 0; i < count; ++i) {
+        store.Edit([&store] {
+            std::int16_t number = 0;
+            static_cast<void>(store.ReadInteger(L"N", number));
+            store.WriteInteger(L"N", static_cast<std::int16_t>(number + 1), L"");
+        });
     }
 }
 
@@ -133,6 +144,8 @@ int main(int argc, char** argv) {
             Lease(arguments.at(2));
         else if (task == "storm")
             SaveInAStorm(file, Wide(arguments.at(3)), arguments.at(4), std::stoi(arguments.at(5)));
+        else if (task == "add")
+            Add(file, std::stoi(arguments.at(3)));
         else
             KeepLock(file);
     } catch (const std::exception& error) {
