@@ -9,6 +9,7 @@
 #include "apps/records/IniImage.h"
 #include "apps/records/Names.h"
 #include "apps/records/ProbeFile.h"
+#include "apps/records/RecordMerge.h"
 #include "apps/records/Types.h"
 #include "toolkits/scripted/Script.h"
 
@@ -17,6 +18,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iostream>
+#include <iterator>
 #include <utility>
 
 namespace quorconv {
@@ -102,9 +104,37 @@ Target FindTarget(const std::wstring& path, const std::wstring& section, const T
     return {{section, 0, isStandAlone}, false};
 }
 
-void WriteProbe(Probe& probe, const std::wstring& file) {
-    if (!probe.Write())
+/// Writes all of a probe into `iniFile`.
+void WriteProbe(Probe& probe, const std::wstring& file,
+                const std::shared_ptr<QuorIniFile::INIFile>& iniFile) {
+    if (!probe.Write(iniFile))
         throw Problem{Place(file, probe.Where().section) + L": the record cannot be written", Reasons(probe)};
+}
+
+std::wstring TellConflict(const std::wstring& file, const RecordConflict& conflict) {
+    std::wstring text = Place(file, conflict.section) + L" " + conflict.key + L": another program has ";
+    if (!conflict.read)
+        text += L"added it meanwhile as " + ToText(*conflict.theirs);
+    else if (!conflict.theirs)
+        text += L"removed it meanwhile, which was " + ToText(*conflict.read);
+    else
+        text += L"changed it meanwhile from " + ToText(*conflict.read) + L" to " + ToText(*conflict.theirs);
+    return text + L"; yours is " + ToText(conflict.ours) + L", and nothing was written";
+}
+
+/// Writes what has become another value since the probe was read, into the file as it is within an edit of
+/// `store`, and nothing else. Raises Problem when another program has changed the same.
+void WriteChanges(Probe& probe, const std::wstring& file,
+                  const std::shared_ptr<QuorIniFile::INIFile>& store) {
+    const std::wstring& section = probe.Where().section;
+    const auto merge = std::make_shared<RecordMerge>(probe.Store(), section, store, section);
+    WriteProbe(probe, file, merge);
+    std::vector<std::wstring> told;
+    for (const RecordConflict& conflict : merge->Conflicts())
+        told.push_back(TellConflict(file, conflict));
+    if (!told.empty())
+        throw Problem{told.front(), {std::next(told.begin()), told.end()}};
+    merge->WriteChanges();
 }
 
 /// Gives the settings the values of the assignments, through the object itself, so that its own rules decide.
@@ -241,21 +271,27 @@ void NewProbe(const std::wstring& path, const std::wstring& section, const std::
     const TypeInfo* const type = ParseType(typeText);
     if (!type || type->code == CONV_NONE)
         throw Problem{L"\"" + typeText + L"\" is no conversion type; the command \"types\" lists them"};
-    Target target = FindTarget(path, section, *type);
-    if (target.exists)
-        throw Problem{Place(path, section) + L": there is a probe in this section already"};
-    Probe probe(StoreOf(path), path, std::move(target.record));
-    probe.SetType(*type);
-    Assign(probe, path, assignments);
-    WriteProbe(probe, path);
+    const auto store = StoreOf(path);
+    store->Edit([&] {
+        Target target = FindTarget(path, section, *type);
+        if (target.exists)
+            throw Problem{Place(path, section) + L": there is a probe in this section already"};
+        Probe probe(store, path, std::move(target.record));
+        probe.SetType(*type);
+        Assign(probe, path, assignments);
+        WriteProbe(probe, path, store);
+    });
 }
 
 void SetValues(const std::wstring& path, const std::wstring& section,
                const std::vector<Assignment>& assignments) {
-    const ProbeFile file(path);
-    Probe probe = ReadProbe(StoreOf(path), path, FindRecord(file, section), assignments);
-    Assign(probe, path, assignments);
-    WriteProbe(probe, path);
+    const auto store = StoreOf(path);
+    store->Edit([&] {
+        const ProbeFile file(path);
+        Probe probe = ReadProbe(store, path, FindRecord(file, section), assignments);
+        Assign(probe, path, assignments);
+        WriteChanges(probe, path, store);
+    });
 }
 
 namespace {
@@ -266,6 +302,12 @@ Probe ReadEditableProbe(const std::wstring& path, const std::wstring& section) {
     if (!probe.Settings())
         throw Problem{Place(path, section) + L": " + probe.TypeName() + L" has no settings"};
     return probe;
+}
+
+/// Writes what a person has changed of a probe, who may have taken his time.
+void WriteEdited(Probe& probe, const std::wstring& path) {
+    const auto store = StoreOf(path);
+    store->Edit([&] { WriteChanges(probe, path, store); });
 }
 
 } // namespace
@@ -294,7 +336,7 @@ void EditProbe(const std::wstring& path, const std::wstring& section, const std:
     if (const auto& complaints = probe.Screen().Complaints(); !complaints.empty())
         throw Problem{Place(path, section) + L": the dialog did not go as the script says", complaints};
     if (accepted)
-        WriteProbe(probe, path);
+        WriteEdited(probe, path);
 }
 
 void EditProbeOn(const std::shared_ptr<Platform>& platform, const std::wstring& path,
@@ -307,7 +349,7 @@ void EditProbeOn(const std::shared_ptr<Platform>& platform, const std::wstring& 
     if (!shown.Edit())
         return;
     IniImage::Apply(IniImage::Of(*shown.Settings()), *probe.Settings());
-    WriteProbe(probe, path);
+    WriteEdited(probe, path);
 }
 
 void CopyProbe(const std::wstring& fromPath, const std::wstring& fromSection, const std::wstring& toPath,
@@ -317,21 +359,23 @@ void CopyProbe(const std::wstring& fromPath, const std::wstring& fromSection, co
     const TypeInfo* const type = FindType(source.Conversion().ConversionType());
     if (!type)
         throw Problem{Place(fromPath, fromSection) + L": " + source.TypeName() + L" is no conversion type"};
-    Target target = FindTarget(toPath, toSection, *type);
     const auto store = StoreOf(toPath);
-    if (target.exists) {
-        // Nothing ever deletes keys, so a record of another type would leave its own among the new ones.
-        Probe old(store, toPath, target.record);
-        old.Read();
-        if (old.TypeName() != source.TypeName())
-            throw Problem{Place(toPath, toSection) + L": there is a probe of another type (" +
-                          old.TypeName() + L") in this section"};
-    }
-    Probe copy(store, toPath, std::move(target.record));
-    copy.SetType(*type);
-    if (source.Settings())
-        IniImage::Apply(IniImage::Of(*source.Settings()), *copy.Settings());
-    WriteProbe(copy, toPath);
+    store->Edit([&] {
+        Target target = FindTarget(toPath, toSection, *type);
+        if (target.exists) {
+            // Nothing ever deletes keys, so a record of another type would leave its own among the new ones.
+            Probe old(store, toPath, target.record);
+            old.Read();
+            if (old.TypeName() != source.TypeName())
+                throw Problem{Place(toPath, toSection) + L": there is a probe of another type (" +
+                              old.TypeName() + L") in this section"};
+        }
+        Probe copy(store, toPath, std::move(target.record));
+        copy.SetType(*type);
+        if (source.Settings())
+            IniImage::Apply(IniImage::Of(*source.Settings()), *copy.Settings());
+        WriteProbe(copy, toPath, store);
+    });
 }
 
 } // namespace quorconv

@@ -2,7 +2,6 @@
 
 #include "QuorConversions/core/modPaths.h"
 #include "QuorConversions/core/modStrings.h"
-#include "QuorIniFile/IniStore.h"
 #include "apps/records/Names.h"
 
 #include <algorithm>
@@ -21,7 +20,7 @@ bool IsVersionMessage(const MessageLog::Message& message) {
     return message.text == TableText(IDS_WRONG_FILE_VERSION);
 }
 
-std::shared_ptr<QuorIniFile::INIFile> StoreOf(const std::wstring& path) {
+std::shared_ptr<QuorIniFile::IniStore> StoreOf(const std::wstring& path) {
     auto store = std::make_shared<QuorIniFile::IniStore>();
     store->SetFileName(path);
     return store;
@@ -64,8 +63,7 @@ void Probe::Read() {
 
 void Probe::SetType(const TypeInfo& type) { m_conversion->SetConversionType(type.code); }
 
-bool Probe::Write() {
-    std::shared_ptr<QuorIniFile::INIFile> iniFile = m_reads;
+bool Probe::Write(std::shared_ptr<QuorIniFile::INIFile> iniFile) {
     m_messages->Forget();
     if (m_record.standAlone)
         Settings()->WriteToFile(iniFile, L"", m_record.section);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "QuorConversions/core/CQuorConversion.h"
+#include "QuorIniFile/IniStore.h"
 #include "apps/records/ProbeFile.h"
 #include "apps/records/ReadLog.h"
 #include "apps/records/Types.h"
@@ -31,7 +32,7 @@ private:
 };
 
 /// A store bound to the file `path`.
-[[nodiscard]] std::shared_ptr<QuorIniFile::INIFile> StoreOf(const std::wstring& path);
+[[nodiscard]] std::shared_ptr<QuorIniFile::IniStore> StoreOf(const std::wstring& path);
 
 /// The message that tells of missing keys.
 [[nodiscard]] bool IsVersionMessage(const MessageLog::Message& message);
@@ -46,9 +47,10 @@ public:
     void Read();
     /// Makes the probe one of `type`, with default values.
     void SetType(const ProbeRecords::TypeInfo& type);
-    /// Writes the record; false when that failed, which Messages() tells then.
-    [[nodiscard]] bool Write();
+    /// Writes the record into `iniFile`; false when that failed, which Messages() tells then.
+    [[nodiscard]] bool Write(std::shared_ptr<QuorIniFile::INIFile> iniFile);
 
+    [[nodiscard]] const std::shared_ptr<QuorIniFile::INIFile>& Store() const { return m_store; }
     [[nodiscard]] const ProbeRecords::Record& Where() const { return m_record; }
     [[nodiscard]] QuorConversions::CQuorConversion& Conversion() { return *m_conversion; }
     [[nodiscard]] const QuorConversions::CQuorConversion& Conversion() const { return *m_conversion; }

@@ -1,0 +1,95 @@
+#pragma once
+
+#include "QuorIniFile/INIFile.h"
+#include "apps/records/IniImage.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ProbeRecords {
+
+/// A key that another program has changed in the file since the record was read, and that we are to change to
+/// another value. A value that is missing was not there, or is gone; text stands for one that cannot be read
+/// as a value of its kind.
+struct RecordConflict {
+    std::wstring section;
+    std::wstring key;
+    std::optional<Value> read;
+    std::optional<Value> theirs;
+    Value ours;
+};
+
+/// The changes of a record since it was read, to be merged into the file as it is now, which other programs
+/// may have changed as well.
+///
+/// A settings object or facade is written to it as to a file. That takes the changes down: the keys whose
+/// value is another one than that which was read. Nothing is written before the host has looked at the
+/// conflicts and says so; all of it is done inside one edit of the store, so that the file stays as it is
+/// meanwhile. Reads read what the file holds now.
+///
+/// "Version" is no value of the record: it never makes a conflict, and is written where it was missing or
+/// another one and nobody has changed it.
+class RecordMerge final : public QuorIniFile::INIFile {
+public:
+    /// The record was read from `before`, which still gives what it gave then, and stood there in the section
+    /// `sectionBefore`; now it stands in `section` of `file`. Both may be the same object.
+    RecordMerge(std::shared_ptr<QuorIniFile::INIFile> before, std::wstring sectionBefore,
+                std::shared_ptr<QuorIniFile::INIFile> file, std::wstring section);
+
+    /// The changes that cannot be merged. Another conversion type than was read makes every change one.
+    [[nodiscard]] std::vector<RecordConflict> Conflicts() const;
+    /// Whether the record has lost its conversion type, or has another one than was read. Its keys are not
+    /// those that we know, then.
+    [[nodiscard]] bool HasAnotherType() const { return m_typeConflict.has_value(); }
+
+    /// Writes the changes.
+    void WriteChanges();
+    /// Writes the changes, and again what others have removed of the record.
+    void WriteChangesAndRemoved();
+
+    void SetFileName(std::wstring_view /*fileName*/) override {}
+    void SetSection(std::wstring_view section) override;
+    bool ReadBoolean(std::wstring_view key, bool& value) override { return m_file->ReadBoolean(key, value); }
+    bool ReadDouble(std::wstring_view key, double& value) override { return m_file->ReadDouble(key, value); }
+    bool ReadInteger(std::wstring_view key, std::int16_t& value) override {
+        return m_file->ReadInteger(key, value);
+    }
+    bool ReadString(std::wstring_view key, std::wstring& value) override {
+        return m_file->ReadString(key, value);
+    }
+    void WriteBoolean(std::wstring_view key, bool value) override { Take(key, value); }
+    void WriteDouble(std::wstring_view key, double value, std::wstring_view /*comment*/) override {
+        Take(key, value);
+    }
+    void WriteInteger(std::wstring_view key, std::int16_t value, std::wstring_view /*comment*/) override {
+        Take(key, value);
+    }
+    void WriteString(std::wstring_view key, std::wstring_view value) override {
+        Take(key, std::wstring(value));
+    }
+
+private:
+    struct Change {
+        std::wstring section;
+        std::wstring key;
+        Value value;
+    };
+    void Take(std::wstring_view key, Value ours);
+    void Write(const std::vector<Change>& changes);
+
+    std::shared_ptr<QuorIniFile::INIFile> m_before;
+    std::wstring m_sectionBefore;
+    std::shared_ptr<QuorIniFile::INIFile> m_file;
+    std::wstring m_recordSection;
+    std::wstring m_section;
+    std::vector<Change> m_versions;
+    std::vector<Change> m_changes;
+    std::vector<Change> m_removed; // by others, and not changed by us
+    std::vector<RecordConflict> m_conflicts;
+    std::optional<RecordConflict> m_typeConflict;
+};
+
+} // namespace ProbeRecords
