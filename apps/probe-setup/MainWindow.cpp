@@ -280,6 +280,14 @@ void MainWindow::MakeActions() {
 
 // Files
 
+QString MainWindow::Words(const ProbeRecords::RecordConflict& conflict) {
+    const QString key = ToQt(L"[" + conflict.section + L"] " + conflict.key);
+    const QString ours = ToQt(ProbeRecords::ToText(conflict.ours));
+    return conflict.theirs ? tr("%1: %2 in the file, %3 here")
+                                 .arg(key, ToQt(ProbeRecords::ToText(*conflict.theirs)), ours)
+                           : tr("%1: removed from the file, %2 here").arg(key, ours);
+}
+
 QString MainWindow::Words(const DocumentError& error) {
     const QString file = ToQt(error.file);
     const auto detail = [&](std::size_t number) { return ToQt(error.details.at(number)); };
@@ -296,8 +304,20 @@ QString MainWindow::Words(const DocumentError& error) {
         return tr("%1: \"%2\" has the type %3, which this program does not know. It stays in the file as it "
                   "is, but it cannot be copied.")
             .arg(file, detail(0), detail(1));
-    case Failure::ChangedByOthers:
-        return tr("%1: another program has changed or removed these probes meanwhile:").arg(file) + lines(0);
+    case Failure::ChangedByOthers: {
+        QStringList parts;
+        if (!error.details.empty())
+            parts +=
+                tr("%1: another program has changed or removed these probes meanwhile:").arg(file) + lines(0);
+        if (!error.conflicts.empty()) {
+            std::vector<std::wstring> keys;
+            for (const ProbeRecords::RecordConflict& conflict : error.conflicts)
+                keys.push_back(FromQt(Words(conflict)));
+            parts += tr("%1: another program has changed these values meanwhile:").arg(file) +
+                     QLatin1Char('\n') + Lines(keys);
+        }
+        return parts.join(QLatin1Char('\n'));
+    }
     case Failure::NameIsTaken:
         return tr("%1: another program has added a section called \"%2\" meanwhile. Give the probe another "
                   "name and save again.")

@@ -166,16 +166,24 @@ void ProbeDocument::Entry::SetName(std::wstring newName) {
 }
 
 ProbeDocument::ProbeDocument(std::shared_ptr<Platform> platform,
-                             std::shared_ptr<QuorRegistryII::Registry> registry)
-    : m_platform(std::make_shared<QuietPlatform>(std::move(platform))), m_registry(std::move(registry)) {}
+                             std::shared_ptr<QuorRegistryII::Registry> registry,
+                             QuorIniFile::IniFileSystem& files)
+    : m_platform(std::make_shared<QuietPlatform>(std::move(platform))),
+      m_registry(std::move(registry)),
+      m_files(files) {}
+
+std::shared_ptr<IniStore> ProbeDocument::StoreOf(const std::wstring& path) const {
+    auto store = std::make_shared<IniStore>(m_files);
+    store->SetFileName(path);
+    return store;
+}
 
 // The list and the file
 
 void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
     const ProbeFile file(path);
     const std::vector<Record>& records = file.Records();
-    auto store = std::make_shared<IniStore>();
-    store->SetFileName(path);
+    auto store = StoreOf(path);
 
     const QuietPlatform::Quiet quiet(*m_platform);
     std::vector<Entry> entries;
@@ -442,8 +450,7 @@ std::size_t ProbeDocument::Import(const std::wstring& path) {
 
     // Once more, to learn what is missing.
     const QuietPlatform::Quiet quiet(*m_platform);
-    const auto store = std::make_shared<IniStore>();
-    store->SetFileName(path);
+    const auto store = StoreOf(path);
     const auto log = std::make_shared<ReadLog>(store);
     std::shared_ptr<INIFile> iniFile = log;
     const auto conversion = NewConversion();
@@ -572,18 +579,20 @@ bool ProbeDocument::Changed() const {
 
 void ProbeDocument::Save(OthersChanges others) {
     // What was read stays in m_store, whatever becomes of this save.
-    const auto store = std::make_shared<IniStore>();
-    store->SetFileName(m_path);
-    // Takes the text in. A file that is gone is not made anew: it would hold nothing but what has changed.
-    static_cast<void>(store->Sections());
-    const bool othersWrote = m_store->FileChanged();
-    if (othersWrote)
-        MeetOthers(store, others);
-    Apply(store, Extent::Changes);
+    const auto store = StoreOf(m_path);
+    bool othersWrote = false;
+    store->Edit([&] {
+        // A file that is gone is not made anew: it would hold nothing but what has changed.
+        static_cast<void>(store->Sections());
+        othersWrote = WriteChanges(store, others);
+    });
     Settle();
     m_store = store;
     if (!othersWrote)
         return;
+    // Values of others that were kept would look like changes of ours, beside the file.
+    for (Entry& entry : m_entries)
+        entry.content.conversion = nullptr;
     try {
         Open(std::wstring(m_path));
     } catch (const QuorError&) {
@@ -591,7 +600,8 @@ void ProbeDocument::Save(OthersChanges others) {
     }
 }
 
-void ProbeDocument::MeetOthers(const std::shared_ptr<IniStore>& theirs, OthersChanges others) {
+std::unordered_set<const ProbeDocument::Entry*>
+ProbeDocument::MeetOthers(const std::shared_ptr<IniStore>& theirs, OthersChanges others) {
     std::unordered_set<std::wstring> sections;
     std::unordered_set<std::wstring> taken; // and by whose settings
     for (const std::wstring& section : theirs->Sections()) {
@@ -601,29 +611,30 @@ void ProbeDocument::MeetOthers(const std::shared_ptr<IniStore>& theirs, OthersCh
     taken.insert(sections.begin(), sections.end());
     RequireFreeNames(taken);
 
-    std::vector<std::wstring> changed;
+    DocumentError refusal{Failure::ChangedByOthers, m_path, {}};
     std::vector<Entry*> gone;
     for (Entry& entry : m_entries) {
         if (entry.isNew || !(entry.IsRenamed() || entry.content.IsChanged()))
             continue;
-        if (!sections.contains(Folded(entry.Section())))
+        if (!sections.contains(Folded(entry.Section()))) {
             gone.push_back(&entry);
-        else if (!entry.content.IsChanged() || IsSameRecord(theirs, entry.Section()))
-            continue; // what is renamed keeps the values that stand there
-        changed.push_back(entry.name);
+            refusal.details.push_back(entry.name);
+        } else if (IsMerged(entry)) {
+            const auto conflicts = MergeOf(entry, theirs, entry.Section())->Conflicts();
+            refusal.conflicts.insert(refusal.conflicts.end(), conflicts.begin(), conflicts.end());
+        } else if (entry.content.IsChanged() && !IsSameRecord(theirs, entry.Section())) {
+            refusal.details.push_back(entry.name);
+        } // what is only renamed keeps the values that stand there
     }
     for (const Entry* const entry : RemovedEntries()) {
         if (sections.contains(Folded(entry->Section())) && !IsSameRecord(theirs, entry->Section()))
-            changed.push_back(entry->name);
+            refusal.details.push_back(entry->name);
     }
-    if (changed.empty())
-        return;
-    if (others == OthersChanges::Refuse)
-        throw DocumentError{Failure::ChangedByOthers, m_path, std::move(changed)};
-    for (Entry* const entry : gone) {
+    if (others == OthersChanges::Refuse && !(refusal.details.empty() && refusal.conflicts.empty()))
+        throw refusal;
+    for (Entry* const entry : gone)
         RequireWhole(*entry);
-        entry->content.conversion->SetChanged(true); // it is written anew
-    }
+    return {gone.begin(), gone.end()};
 }
 
 bool ProbeDocument::IsSameRecord(const std::shared_ptr<IniStore>& theirs, const std::wstring& section) const {
@@ -654,23 +665,43 @@ void ProbeDocument::RequireFreeNames(const std::unordered_set<std::wstring>& tak
     }
 }
 
-void ProbeDocument::Apply(const std::shared_ptr<IniStore>& store, Extent extent) {
-    const bool all = extent == Extent::AllProbes;
-    store->Hold();
-    try {
-        if (!all)
-            MoveSections(*store);
-        for (Entry& entry : m_entries) {
-            if (all)
-                RequireWhole(entry);
-            if (all || entry.isNew || entry.content.IsChanged())
-                Write(store, entry);
-        }
-        store->Release();
-    } catch (...) {
-        store->Abandon();
-        throw;
+void ProbeDocument::WriteAll(const std::shared_ptr<IniStore>& store) {
+    for (Entry& entry : m_entries) {
+        RequireWhole(entry);
+        Write(store, entry, entry.name);
     }
+}
+
+bool ProbeDocument::WriteChanges(const std::shared_ptr<IniStore>& store, OthersChanges others) {
+    const bool othersWrote = m_store->FileChanged();
+    std::unordered_set<const Entry*> gone;
+    if (othersWrote)
+        gone = MeetOthers(store, others);
+    MoveSections(*store);
+    for (const Entry& entry : m_entries) {
+        if (gone.contains(&entry)) {
+            Write(store, entry, entry.name);
+        } else if (IsMerged(entry)) {
+            const auto merge = MergeOf(entry, store, entry.name);
+            if (merge->Conflicts().empty())
+                merge->WriteChanges();
+            else if (merge->HasAnotherType()) // the keys that stand there are not those of this conversion
+                Write(store, entry, entry.name);
+            else
+                merge->WriteChangesAndRemoved();
+        } else if (entry.isNew || entry.content.IsChanged()) {
+            Write(store, entry, entry.name);
+        }
+    }
+    return othersWrote;
+}
+
+std::shared_ptr<RecordMerge> ProbeDocument::MergeOf(const Entry& entry,
+                                                    const std::shared_ptr<IniStore>& store,
+                                                    const std::wstring& section) const {
+    const auto merge = std::make_shared<RecordMerge>(m_store, entry.Section(), store, section);
+    Write(merge, entry, section);
+    return merge;
 }
 
 void ProbeDocument::MoveSections(IniStore& store) const {
@@ -755,13 +786,13 @@ void ProbeDocument::RequireAgreement(const std::wstring& section, const std::vec
     }
 }
 
-void ProbeDocument::Write(const std::shared_ptr<IniStore>& store, const Entry& entry) {
+void ProbeDocument::Write(const std::shared_ptr<INIFile>& iniFile, const Entry& entry,
+                          const std::wstring& section) const {
     const QuietPlatform::Quiet quiet(*m_platform);
-    std::shared_ptr<INIFile> iniFile = store;
-    entry.content.conversion->WriteToFile(iniFile, L"", entry.name);
-    if (quiet.Messages().empty())
-        return;
-    throw DocumentError{Failure::CannotWrite, std::wstring(store->FileName()), Details(entry.name, quiet)};
+    std::shared_ptr<INIFile> target = iniFile;
+    entry.content.conversion->WriteToFile(target, L"", section);
+    if (!quiet.Messages().empty())
+        throw DocumentError{Failure::CannotWrite, m_path, Details(entry.name, quiet)};
 }
 
 void ProbeDocument::Settle() {
@@ -785,18 +816,20 @@ void ProbeDocument::SaveCopyAs(const std::wstring& path, OthersChanges others) {
     }
     const WorkFile work;
     ReplaceBytes(work.Path(), original ? original->bytes : std::string());
-    const auto store = std::make_shared<IniStore>();
-    store->SetFileName(work.Path());
+    const auto store = StoreOf(work.Path());
     try {
-        if (original && m_store->FileChanged())
-            MeetOthers(store, others);
         // Where somebody has removed the file, the probes are what can be saved of it.
-        Apply(store, original ? Extent::Changes : Extent::AllProbes);
-    } catch (DocumentError& error) { // the user knows nothing of a work file
-        if (error.file == work.Path())
+        store->Edit([&] {
+            if (original)
+                static_cast<void>(WriteChanges(store, others));
+            else
+                WriteAll(store);
+        });
+    } catch (DocumentError& error) {
+        if (error.failure == Failure::CannotWrite)
             error.file = path;
         throw;
-    } catch (const QuorError& error) {
+    } catch (const QuorError& error) { // the user knows nothing of a work file
         std::wstring text = error.Description();
         if (const auto at = text.find(work.Path()); at != std::wstring::npos)
             text.replace(at, work.Path().size(), path);
@@ -805,8 +838,7 @@ void ProbeDocument::SaveCopyAs(const std::wstring& path, OthersChanges others) {
     ReplaceBytes(path, QuorIniFile::ReadBytes(work.Path())->bytes);
     if (!m_path.empty() && !isOwn)
         return;
-    auto saved = std::make_shared<IniStore>();
-    saved->SetFileName(path);
+    auto saved = StoreOf(path);
     static_cast<void>(saved->Sections()); // takes the text in
     m_path = path;
     m_store = std::move(saved);

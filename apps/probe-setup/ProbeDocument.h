@@ -4,6 +4,7 @@
 #include "QuorIniFile/IniStore.h"
 #include "QuorRegistryII/Registry.h"
 #include "apps/probe-setup/QuietPlatform.h"
+#include "apps/records/RecordMerge.h"
 
 #include <cstddef>
 #include <functional>
@@ -51,7 +52,8 @@ enum class Failure {
                       ///< messages
     UnknownType,      ///< details: the probe, and the code of its type
     ChangedByOthers,  ///< details: the probes that another program has changed or removed meanwhile, and that
-                      ///< a save would write or remove
+                      ///< a save would write whole or remove; conflicts: the keys that it has changed, and
+                      ///< that a save would give other values
     NameIsTaken,      ///< details: a new name that another program has used in the file meanwhile
     CannotWrite,      ///< details: the section, and the library's messages
     SharedSection,    ///< details: a section that would go or move, the probe that it would follow, and
@@ -61,19 +63,22 @@ struct DocumentError {
     Failure failure;
     std::wstring file;
     std::vector<std::wstring> details;
+    std::vector<ProbeRecords::RecordConflict> conflicts = {};
 };
 
-/// What becomes of what another program has written about the very probes that are to be saved.
+/// What becomes of what another program has written about the very probes or keys that are to be saved.
 enum class OthersChanges {
     Refuse,  ///< nothing is saved
-    Replace, ///< it gives way; a probe that was removed comes back
+    Replace, ///< it gives way; what was removed of a changed probe comes back
 };
 
 /// The probes of a host's INI file, as they are to be: a list that is edited in memory and saved on request.
 /// It shows nothing but the dialogs of the conversions, through the platform; it knows no toolkit.
 ///
-/// A probe is read when somebody looks into it, and it is written only when it was changed. A save changes
-/// nothing else in the file, and what other programs have written since the file was read stays. Probes are
+/// A probe is read when somebody looks into it, and it is written only when it was changed: a new one, and
+/// one of another type than in the file, as a whole, of any other one the keys that have got other values. A
+/// save changes nothing else in the file, and what other programs have written since the file was read stays,
+/// also about other keys of the same probe. No other program that takes the lock comes in between. Probes are
 /// addressed by their place in the list, which has the order of the file, with new probes behind.
 class ProbeDocument {
 public:
@@ -81,9 +86,11 @@ public:
     using Progress = std::function<void(double)>;
 
     /// The conversions speak to the user through `platform` and keep the places of their dialogs in
-    /// `registry`, which may be null. The document is empty and has no file.
+    /// `registry`, which may be null. Its stores work on `files`, which must outlive the document. The
+    /// document is empty and has no file.
     explicit ProbeDocument(std::shared_ptr<QuorConversions::Platform> platform,
-                           std::shared_ptr<QuorRegistryII::Registry> registry = nullptr);
+                           std::shared_ptr<QuorRegistryII::Registry> registry = nullptr,
+                           QuorIniFile::IniFileSystem& files = QuorIniFile::IniFileSystem::System());
 
     /// Takes the probes of a file in place of what was there. Raises QuorError, and leaves all as it was,
     /// when the file cannot be read.
@@ -168,8 +175,8 @@ public:
     /// Saves into the file, all or nothing. Raises QuorError or DocumentError, and the document stays as it
     /// was, when the file cannot be written, when a section would go that belongs to another probe too, when
     /// another program has used one of the new names in it, and when it has changed a probe that is to be
-    /// written or removed. Probes that another program has added are in the list afterwards. The document
-    /// must have a file.
+    /// written whole or removed, or a key that is to be written. What another program has added or changed is
+    /// in the list afterwards. The document must have a file.
     void Save(OthersChanges others = OthersChanges::Refuse);
     /// Saves the document, with all of the file around the probes, under another name, in place of what is
     /// there; without its surroundings, when its own file is gone. The document stays with its own file, if
@@ -213,6 +220,7 @@ private:
         Content content;            // for a step that changes the content
     };
 
+    [[nodiscard]] std::shared_ptr<QuorIniFile::IniStore> StoreOf(const std::wstring& path) const;
     [[nodiscard]] std::shared_ptr<QuorConversions::CQuorConversion> NewConversion() const;
     [[nodiscard]] std::shared_ptr<QuorConversions::CQuorConversion>
     CopyOf(const QuorConversions::CQuorConversion& conversion) const;
@@ -228,8 +236,12 @@ private:
     void Do(Step step);
     void Toggle(Step& step);
 
-    enum class Extent { Changes, AllProbes };
-    void Apply(const std::shared_ptr<QuorIniFile::IniStore>& store, Extent extent);
+    /// Writes all probes into an empty file.
+    void WriteAll(const std::shared_ptr<QuorIniFile::IniStore>& store);
+    /// Joins what was done with what others have written, and writes it, within an edit of the store; nothing
+    /// of the document changes, for the edit may begin anew. Returns whether others have written.
+    [[nodiscard]] bool WriteChanges(const std::shared_ptr<QuorIniFile::IniStore>& store,
+                                    OthersChanges others);
     /// A probe that stood in the file when it was read.
     struct Owner {
         const Entry* entry;
@@ -252,9 +264,21 @@ private:
     };
     [[nodiscard]] Moves MovesIn(QuorIniFile::IniStore& store) const;
     void MoveSections(QuorIniFile::IniStore& store) const;
-    void Write(const std::shared_ptr<QuorIniFile::IniStore>& store, const Entry& entry);
+    /// Whether a save writes of the probe only the keys that have other values than in m_store.
+    [[nodiscard]] static bool IsMerged(const Entry& entry) {
+        return !entry.isNew && !entry.content.replacesRecord && entry.content.IsChanged();
+    }
+    /// The changes of a probe that is merged, now that it stands in `section` of `store`. Raises
+    /// DocumentError when the library refuses the record.
+    [[nodiscard]] std::shared_ptr<ProbeRecords::RecordMerge>
+    MergeOf(const Entry& entry, const std::shared_ptr<QuorIniFile::IniStore>& store,
+            const std::wstring& section) const;
+    void Write(const std::shared_ptr<QuorIniFile::INIFile>& iniFile, const Entry& entry,
+               const std::wstring& section) const;
     /// Raises DocumentError when what was done cannot be joined with what others have written into `theirs`.
-    void MeetOthers(const std::shared_ptr<QuorIniFile::IniStore>& theirs, OthersChanges others);
+    /// Returns the changed probes that are gone there.
+    [[nodiscard]] std::unordered_set<const Entry*>
+    MeetOthers(const std::shared_ptr<QuorIniFile::IniStore>& theirs, OthersChanges others);
     /// Raises DocumentError when a probe would get a name that is `taken` in the file, and was not by ours.
     void RequireFreeNames(const std::unordered_set<std::wstring>& taken) const;
     [[nodiscard]] bool IsSameRecord(const std::shared_ptr<QuorIniFile::IniStore>& theirs,
@@ -264,6 +288,7 @@ private:
 
     std::shared_ptr<QuietPlatform> m_platform;
     std::shared_ptr<QuorRegistryII::Registry> m_registry;
+    QuorIniFile::IniFileSystem& m_files;
     std::wstring m_path;
     bool m_isReadOnly = false;
     std::shared_ptr<QuorIniFile::IniStore> m_store; // the text that was last read or saved; never written to

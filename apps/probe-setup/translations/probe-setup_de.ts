@@ -447,6 +447,18 @@ Die Konversionen der Fühler von Präzisionsthermometern: verwaltet, bearbeitet,
         <translation>%1: Ein anderes Programm hat inzwischen diese Fühler geändert oder entfernt:</translation>
     </message>
     <message>
+        <source>%1: another program has changed these values meanwhile:</source>
+        <translation>%1: Ein anderes Programm hat inzwischen diese Werte geändert:</translation>
+    </message>
+    <message>
+        <source>%1: %2 in the file, %3 here</source>
+        <translation>%1: %2 in der Datei, %3 hier</translation>
+    </message>
+    <message>
+        <source>%1: removed from the file, %2 here</source>
+        <translation>%1: aus der Datei entfernt, %2 hier</translation>
+    </message>
+    <message>
         <source>Do you want to replace what the other program has written?</source>
         <translation>Soll ersetzt werden, was das andere Programm geschrieben hat?</translation>
     </message>

@@ -505,18 +505,41 @@ TEST_F(MainWindowTest, ACancelledDialogLeavesTheListAndItsSelectionAlone) {
 
 TEST_F(MainWindowTest, NewerValuesOfAnotherProgramAreAskedFor) {
     EditR0();
-    const std::string theirs = Replaced(host, "=1.5\n", "=1.7\n");
+    const std::string theirs = Replaced(host, "=100.0\n", "=99.5\n");
     folder.Write("host.ini", theirs);
     QString text;
     WillAnswer(QMessageBox::Cancel, &text);
     Press(Qt::Key_S, Qt::ControlModifier);
-    EXPECT_TRUE(text.contains(Path("host.ini")) && text.contains("\nProbe 1|")) << text.toStdString();
+    EXPECT_EQ(text, Path("host.ini") + ": another program has changed these values meanwhile:\n"
+                                       "[Probe 1 - Settings] Coefficients0: 99.5 in the file, 100.0123 here|"
+                                       "Do you want to replace what the other program has written?");
     EXPECT_EQ(File(), theirs);
     EXPECT_TRUE(window->isWindowModified());
     WillAnswer(QMessageBox::Save);
     Press(Qt::Key_S, Qt::ControlModifier);
-    EXPECT_NE(File().find("=100.0123\n"), std::string::npos);
+    EXPECT_EQ(File(), Replaced(host, "=100.0\n", "=100.0123\n"));
     EXPECT_FALSE(window->isWindowModified());
+}
+
+TEST_F(MainWindowTest, ProbesAndValuesThatAnotherProgramHasTakenAwayAreToldApart) {
+    EditR0();
+    GoTo(1);
+    Press(Qt::Key_Delete);
+    const std::string theirs =
+        Replaced(Replaced(host, "Coefficients0=100.0\n", ""), "ConversionType=10", "ConversionType=11");
+    folder.Write("host.ini", theirs);
+    QString text;
+    WillAnswer(QMessageBox::Cancel, &text);
+    Press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(text, Path("host.ini") +
+                        ": another program has changed or removed these probes meanwhile:\n"
+                        "Probe 2\n" +
+                        Path("host.ini") +
+                        ": another program has changed these values meanwhile:\n"
+                        "[Probe 1 - Settings] Coefficients0: removed from the file, "
+                        "100.0123 here|"
+                        "Do you want to replace what the other program has written?");
+    EXPECT_EQ(File(), theirs);
 }
 
 TEST_F(MainWindowTest, AProbeThatCannotBeReadWhollyIsNotDuplicatedAndTheKeysAreTold) {

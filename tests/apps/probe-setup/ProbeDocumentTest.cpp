@@ -4,12 +4,17 @@
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
 #include "tests/apps/probe-setup/HostFile.h"
+#include "tests/support/InterceptedFiles.h"
+#include "tests/support/Process.h"
 #include "toolkits/scripted/ScriptedPlatform.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <sys/stat.h>
@@ -74,8 +79,22 @@ protected:
         return 0;
     }
 
+    [[nodiscard]] double Alpha(std::size_t probe) {
+        return dynamic_cast<const CQuorCVD&>(*document.Conversion(probe).Settings()).Coefficients(CVD_ALPHA);
+    }
+    /// A line each: the key, what was read, what the file holds, what the user wants.
+    static Texts Lines(const std::vector<ProbeRecords::RecordConflict>& conflicts) {
+        const auto text = [](const auto& value) { return value ? ProbeRecords::ToText(*value) : L"none"; };
+        Texts lines;
+        for (const auto& conflict : conflicts)
+            lines.push_back(L"[" + conflict.section + L"] " + conflict.key + L": " + text(conflict.read) +
+                            L", " + text(conflict.theirs) + L", " + ProbeRecords::ToText(conflict.ours));
+        return lines;
+    }
+
     std::shared_ptr<Scripted::ScriptedPlatform> screen = std::make_shared<Scripted::ScriptedPlatform>();
-    ProbeDocument document{screen};
+    Support::InterceptedFiles files;
+    ProbeDocument document{screen, nullptr, files};
 };
 
 } // namespace
@@ -624,25 +643,191 @@ TEST_F(ProbeDocumentTest, AFormThatADialogHasReadFromAFileIsAChangeOfItsOwn) {
     EXPECT_EQ(File(), Replaced(host, "UsePolynomial=False", "UsePolynomial=True"));
 }
 
-TEST_F(ProbeDocumentTest, NewerValuesOfAnotherProgramAreNotOverwrittenUnasked) {
+TEST_F(ProbeDocumentTest, NewerValuesOfAnotherProgramForTheSameKeysAreNotOverwrittenUnasked) {
     Open();
-    EXPECT_TRUE(Edit(0, TypeR0));
-    const std::string theirs = Replaced(host, "=1.5\n", "=1.75\n");
+    EXPECT_TRUE(Edit(0, [](Person& person) {
+        person.Type(L"R0", L"100.0123");
+        person.Type(L"DELTA", L"1.6");
+        person.Click(L"OK");
+    }));
+    const std::string theirs = Replaced(Replaced(Replaced(host, "=100.0\n", "=99.5\n"), "3.9083E-3", "0.004"),
+                                        "Coefficients2=1.5\n", "");
     folder.Write("host.ini", theirs);
     const auto save = [&] { document.Save(); };
     const DocumentError error = ErrorOf(save);
     EXPECT_EQ(error.failure, Failure::ChangedByOthers);
-    EXPECT_EQ(error.details, Texts{L"Probe 1"});
+    EXPECT_EQ(error.details, Texts{});
+    EXPECT_EQ(Lines(error.conflicts), (Texts{L"[Probe 1 - Settings] Coefficients0: 100, 99.5, 100.0123",
+                                             L"[Probe 1 - Settings] Coefficients2: 1.5, none, 1.6"}));
     EXPECT_EQ(File(), theirs);
-    EXPECT_EQ(ErrorOf(save).failure, Failure::ChangedByOthers) << "a second time too";
+    EXPECT_EQ(Lines(ErrorOf(save).conflicts), Lines(error.conflicts)) << "a second time too";
+    EXPECT_TRUE(document.IsChanged(0));
     EXPECT_EQ(ErrorOf([&] { document.SaveCopyAs(folder.Name("copy.ini")); }).failure,
               Failure::ChangedByOthers);
+    EXPECT_FALSE(fs::exists(folder.Path("copy.ini")));
     document.Save(OthersChanges::Replace);
-    EXPECT_EQ(File(), Replaced(host, "=100.0\n", "=100.0123\n")) << "a save writes the probe as it is shown";
+    EXPECT_EQ(File(), Replaced(Replaced(theirs, "=99.5\n", "=100.0123\n"), "Coefficients3=0\n",
+                               "Coefficients3=0\nCoefficients2=1.6\n"))
+        << "what they have written for other keys stays";
+    EXPECT_EQ(Alpha(0), 0.004);
+    EXPECT_FALSE(document.Changed());
+}
 
+TEST_F(ProbeDocumentTest, ASaveKeepsWhatAnotherProgramHasWrittenForOtherKeysOfTheProbe) {
+    Open();
+    EXPECT_TRUE(Edit(0, TypeR0));
+    ExpectFine({"set", "host.ini", "Probe 1", "Coefficients1=0.004"});
+    document.Save();
+    const std::string both = Replaced(Replaced(host, "=100.0\n", "=100.0123\n"), "3.9083E-3", "0.004");
+    EXPECT_EQ(File(), both);
+    EXPECT_EQ(Alpha(0), 0.004) << "the document shows what the file holds";
+    EXPECT_FALSE(document.Changed());
+    EXPECT_TRUE(Edit(0, [](Person& person) {
+        person.Type(L"DELTA", L"1.6");
+        person.Click(L"OK");
+    }));
+    document.Save();
+    EXPECT_EQ(File(), Replaced(both, "=1.5\n", "=1.6\n"));
+}
+
+TEST_F(ProbeDocumentTest, TwoDocumentsThatEditKeysOfOneProbeKeepBoth) {
+    ProbeDocument other{screen};
+    Open();
+    other.Open(folder.Name("host.ini"));
+    EXPECT_TRUE(Edit(0, TypeR0));
+    screen->InDialog([](Person& person) {
+        person.Type(L"DELTA", L"1.6");
+        person.Click(L"OK");
+    });
+    EXPECT_TRUE(other.Edit(0));
+    other.Save();
+    document.Save();
+    EXPECT_EQ(File(), Replaced(Replaced(host, "=100.0\n", "=100.0123\n"), "=1.5\n", "=1.6\n"));
+}
+
+TEST_F(ProbeDocumentTest, AValueThatAnotherProgramHasGivenTheSameKeyTooIsNoConflict) {
+    Open();
+    EXPECT_TRUE(Edit(0, TypeR0));
+    const std::string theirs = Replaced(host, "=100.0\n", "=100.01230\n");
+    folder.Write("host.ini", theirs);
+    document.Save();
+    EXPECT_EQ(File(), theirs);
+    EXPECT_FALSE(document.Changed());
+}
+
+TEST_F(ProbeDocumentTest, AProbeThatAnotherProgramHasGivenAnotherTypeIsWrittenWholeOnRequest) {
+    Open();
+    EXPECT_TRUE(Edit(0, TypeR0));
+    folder.Write("host.ini",
+                 Replaced(Replaced(host, "ConversionType=2", "ConversionType=19"), "=1.5\n", "=7\n"));
+    EXPECT_EQ(Lines(ErrorOf([&] { document.Save(); }).conflicts),
+              Texts{L"[Probe 1] ConversionType: 2, 19, 2"});
+    document.Save(OthersChanges::Replace);
+    EXPECT_EQ(File(), Replaced(host, "=100.0\n", "=100.0123\n"));
+}
+
+TEST_F(ProbeDocumentTest, ARenamedProbeWithNewValuesIsMergedUnderItsNewName) {
+    Open();
+    document.Rename(0, L"Probe A");
+    EXPECT_TRUE(Edit(0, TypeR0));
+    folder.Write("host.ini", Replaced(host, "=1.5\n", "=1.75\n"));
+    document.Save();
+    EXPECT_EQ(File(),
+              Replaced(Replaced(Replaced(Replaced(host, "=1.5\n", "=1.75\n"), "=100.0\n", "=100.0123\n"),
+                                "[Probe 1]", "[Probe A]"),
+                       "[Probe 1 -", "[Probe A -"));
+}
+
+TEST_F(ProbeDocumentTest, AProgramThatTakesNoLockMayWriteOtherKeysAtAnyCallOfASaveAndBothAreKept) {
+    files.flushes = false;
+    const std::string theirs = Replaced(host, "=1.5\n", "=1.75\n");
+    const std::string ours = Replaced(Replaced(host, "=100.0\n", "=100.0123\n"), "[Probe 2]", "[Probe B]");
+    bool reached = true;
+    for (std::size_t at = 0; reached; ++at) {
+        Open(host);
+        EXPECT_TRUE(Edit(0, TypeR0));
+        document.Rename(1, L"Probe B");
+        std::string expected = ours;
+        std::size_t calls = 0;
+        bool isRenamed = false;
+        files.onCall = [&](std::string_view call) {
+            // Between the last look at the file and its replacement nobody can be seen.
+            if (calls++ == at && call != "Rename") {
+                folder.Write("host.ini", theirs);
+                expected = isRenamed ? theirs : Replaced(ours, "=1.5\n", "=1.75\n");
+            }
+            isRenamed = isRenamed || call == "Rename";
+            return 0;
+        };
+        document.Save();
+        files.onCall = [](std::string_view) { return 0; };
+        reached = calls > at;
+        EXPECT_EQ(File(), expected) << "call " << at;
+    }
+}
+
+TEST_F(ProbeDocumentTest, AProgramThatTakesNoLockMayWriteTheSameKeyAtAnyCallOfASaveAndItIsTold) {
+    files.flushes = false;
+    const std::string theirs = Replaced(host, "=100.0\n", "=99\n");
+    for (std::size_t at = 0;; ++at) {
+        Open(host);
+        EXPECT_TRUE(Edit(0, TypeR0));
+        document.Rename(1, L"Probe B");
+        std::size_t calls = 0;
+        files.onCall = [&](std::string_view call) {
+            if (calls++ == at && call != "Rename")
+                folder.Write("host.ini", theirs);
+            return 0;
+        };
+        bool isTold = false;
+        try {
+            document.Save();
+        } catch (const DocumentError& error) {
+            isTold = true;
+            EXPECT_EQ(Lines(error.conflicts),
+                      Texts{L"[Probe 1 - Settings] Coefficients0: 100, 99, 100.0123"});
+            EXPECT_EQ(Names(), (Texts{L"Probe 1", L"Probe B"}));
+            EXPECT_TRUE(document.IsChanged(0) && document.IsChanged(1));
+            document.Undo();
+            document.Undo();
+            EXPECT_FALSE(document.Changed());
+        }
+        files.onCall = [](std::string_view) { return 0; };
+        if (!isTold) { // it has come after the replacement, or not at all
+            EXPECT_GT(at, 10U);
+            break;
+        }
+        EXPECT_EQ(File(), theirs) << "call " << at;
+    }
+}
+
+TEST_F(ProbeDocumentTest, AProgramThatTakesTheLockWaitsForTheEndOfASave) {
+    Open();
+    EXPECT_TRUE(Edit(0, TypeR0));
+    std::optional<Process> other;
+    files.onCall = [&](std::string_view call) {
+        if (call == "Read" && !other) { // the lock is taken
+            other.emplace(std::vector<std::string>{QUORCONV, "set", folder.Path("host.ini").string(),
+                                                   "Probe 1", "Coefficients2=1.75"});
+        }
+        return 0;
+    };
+    document.Save();
+    ASSERT_TRUE(other);
+    EXPECT_EQ(other->ReadLine(), "");
+    EXPECT_EQ(other->Wait(), 0);
+    EXPECT_EQ(File(), Replaced(Replaced(host, "=100.0\n", "=100.0123\n"), "=1.5\n", "=1.75\n"));
+}
+
+TEST_F(ProbeDocumentTest, NewerValuesOfAProbeThatGoesAreNotRemovedUnasked) {
+    Open();
+    const auto save = [&] { document.Save(); };
+    const std::string theirs = Replaced(host, "=1.5\n", "=1.75\n");
     document.Remove({0});
     folder.Write("host.ini", theirs);
-    EXPECT_EQ(ErrorOf(save).failure, Failure::ChangedByOthers);
+    const DocumentError error = ErrorOf(save);
+    EXPECT_EQ(error.failure, Failure::ChangedByOthers);
+    EXPECT_EQ(error.details, Texts{L"Probe 1"});
     EXPECT_EQ(File(), theirs);
     document.Undo();
     document.Rename(0, L"Probe A");
