@@ -611,27 +611,28 @@ ProbeDocument::MeetOthers(const std::shared_ptr<IniStore>& theirs, OthersChanges
     taken.insert(sections.begin(), sections.end());
     RequireFreeNames(taken);
 
-    DocumentError refusal{Failure::ChangedByOthers, m_path, {}};
+    std::vector<std::wstring> changed;
+    std::vector<RecordConflict> conflicts;
     std::vector<Entry*> gone;
     for (Entry& entry : m_entries) {
         if (entry.isNew || !(entry.IsRenamed() || entry.content.IsChanged()))
             continue;
         if (!sections.contains(Folded(entry.Section()))) {
             gone.push_back(&entry);
-            refusal.details.push_back(entry.name);
+            changed.push_back(entry.name);
         } else if (IsMerged(entry)) {
-            const auto conflicts = MergeOf(entry, theirs, entry.Section())->Conflicts();
-            refusal.conflicts.insert(refusal.conflicts.end(), conflicts.begin(), conflicts.end());
+            const auto found = MergeOf(entry, theirs, entry.Section())->Conflicts();
+            conflicts.insert(conflicts.end(), found.begin(), found.end());
         } else if (entry.content.IsChanged() && !IsSameRecord(theirs, entry.Section())) {
-            refusal.details.push_back(entry.name);
+            changed.push_back(entry.name);
         } // what is only renamed keeps the values that stand there
     }
     for (const Entry* const entry : RemovedEntries()) {
         if (sections.contains(Folded(entry->Section())) && !IsSameRecord(theirs, entry->Section()))
-            refusal.details.push_back(entry->name);
+            changed.push_back(entry->name);
     }
-    if (others == OthersChanges::Refuse && !(refusal.details.empty() && refusal.conflicts.empty()))
-        throw refusal;
+    if (others == OthersChanges::Refuse && !(changed.empty() && conflicts.empty()))
+        throw DocumentError{Failure::ChangedByOthers, m_path, std::move(changed), std::move(conflicts)};
     for (Entry* const entry : gone)
         RequireWhole(*entry);
     return {gone.begin(), gone.end()};
@@ -679,27 +680,28 @@ bool ProbeDocument::WriteChanges(const std::shared_ptr<IniStore>& store, OthersC
         gone = MeetOthers(store, others);
     MoveSections(*store);
     for (const Entry& entry : m_entries) {
-        if (gone.contains(&entry)) {
+        if (IsMerged(entry) && !gone.contains(&entry))
+            WriteMerged(store, entry);
+        else if (entry.isNew || entry.content.IsChanged() || gone.contains(&entry))
             Write(store, entry, entry.name);
-        } else if (IsMerged(entry)) {
-            const auto merge = MergeOf(entry, store, entry.name);
-            if (merge->Conflicts().empty())
-                merge->WriteChanges();
-            else if (merge->HasAnotherType()) // the keys that stand there are not those of this conversion
-                Write(store, entry, entry.name);
-            else
-                merge->WriteChangesAndRemoved();
-        } else if (entry.isNew || entry.content.IsChanged()) {
-            Write(store, entry, entry.name);
-        }
     }
     return othersWrote;
+}
+
+void ProbeDocument::WriteMerged(const std::shared_ptr<IniStore>& store, const Entry& entry) const {
+    const auto merge = MergeOf(entry, store, entry.name);
+    if (merge->Conflicts().empty())
+        merge->WriteChanges();
+    else if (merge->HasAnotherType()) // the keys that stand there are not those of this conversion
+        Write(store, entry, entry.name);
+    else
+        merge->WriteChangesAndRemoved();
 }
 
 std::shared_ptr<RecordMerge> ProbeDocument::MergeOf(const Entry& entry,
                                                     const std::shared_ptr<IniStore>& store,
                                                     const std::wstring& section) const {
-    const auto merge = std::make_shared<RecordMerge>(m_store, entry.Section(), store, section);
+    auto merge = std::make_shared<RecordMerge>(m_store, entry.Section(), store, section);
     Write(merge, entry, section);
     return merge;
 }

@@ -273,6 +273,8 @@ private:
     [[nodiscard]] std::shared_ptr<ProbeRecords::RecordMerge>
     MergeOf(const Entry& entry, const std::shared_ptr<QuorIniFile::IniStore>& store,
             const std::wstring& section) const;
+    /// Conflicts give way: the user has agreed to that, or there were none.
+    void WriteMerged(const std::shared_ptr<QuorIniFile::IniStore>& store, const Entry& entry) const;
     void Write(const std::shared_ptr<QuorIniFile::INIFile>& iniFile, const Entry& entry,
                const std::wstring& section) const;
     /// Raises DocumentError when what was done cannot be joined with what others have written into `theirs`.
