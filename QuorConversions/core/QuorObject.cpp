@@ -5,13 +5,15 @@
 #include "QuorConversions/core/modMessages.h"
 #include "QuorConversions/platform/HeadlessPlatform.h"
 
+#include <exception>
+#include <new>
 #include <utility>
 
 namespace QuorConversions {
 namespace {
 
-/// Brackets the writes of one record, so that the store makes them durable once, and all or none. The bracket
-/// is closed on every path; a failure to close it counts only when nothing failed before.
+/// Brackets the writes of one record, so that the store makes them durable once. Without a Release they are
+/// abandoned; a failure to close the bracket counts only when nothing failed before.
 class RecordHold {
 public:
     explicit RecordHold(INIFile& iniFile) : m_iniFile(&iniFile) { iniFile.Hold(); }
@@ -105,6 +107,21 @@ void QuorObject::InFrame(std::shared_ptr<INIFile>& iniFile, const std::wstring& 
     }
 }
 
+std::exception_ptr QuorObject::WriteWhatCanBeWritten(const std::shared_ptr<INIFile>& store,
+                                                     const std::wstring& secname) const {
+    RecordWriter record(store, secname, m_className);
+    try {
+        WriteRecord(record);
+        return nullptr;
+    } catch (const std::bad_alloc&) {
+        throw;
+    } catch (...) {
+        if (record.StoreFailed())
+            throw;
+        return std::current_exception();
+    }
+}
+
 void QuorObject::WriteToFile(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname,
                              const std::wstring& secname) const {
     bool isHeld = false;
@@ -112,9 +129,10 @@ void QuorObject::WriteToFile(std::shared_ptr<INIFile>& iniFile, const std::wstri
         isHeld = true;
         RecordHold hold(*store);
         store->WriteString(L"Version", QUOR_LIBRARY_VERSION);
-        RecordWriter record(store, secname, m_className);
-        WriteRecord(record);
-        hold.Release();
+        const std::exception_ptr refusal = WriteWhatCanBeWritten(store, secname);
+        hold.Release(); // the report waits for the user: what was written must be safe by then
+        if (refusal)
+            std::rethrow_exception(refusal);
     });
     if (isHeld || !iniFile)
         return;

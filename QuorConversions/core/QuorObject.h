@@ -9,6 +9,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <exception>
 #include <memory>
 #include <string>
 
@@ -38,7 +39,9 @@ public:
 
     /// Writes the record into the section `secname`. With a null `iniFile` an INI-file object is made for the
     /// call on the file `fname` and released before it returns; otherwise `fname` is not used and may be
-    /// empty. Every failure is reported to the user; what was written before it stays in the file.
+    /// empty. Every failure is reported to the user. After an error of the object itself (an index that it
+    /// refuses, a code of more than 16 bits) the file keeps what was written before it. After a failure of
+    /// the INI-file object, or of memory, nothing of the record is saved: its bracket is abandoned.
     void WriteToFile(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname,
                      const std::wstring& secname) const;
 
@@ -90,6 +93,11 @@ private:
     virtual void WriteRecord(RecordWriter& record) const = 0;
     /// Reads the class's own keys and applies each as it comes.
     virtual void ReadRecord(RecordReader& record) = 0;
+
+    /// Writes the class's own keys up to an error that the object raises itself, which is returned; null when
+    /// there was none. A failure of the store and a lack of memory are raised.
+    [[nodiscard]] std::exception_ptr WriteWhatCanBeWritten(const std::shared_ptr<INIFile>& store,
+                                                           const std::wstring& secname) const;
 
     template <class Body>
     void InFrame(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname, const std::wstring& secname,

@@ -14,18 +14,31 @@ std::wstring NestedSection(const std::wstring& parent, const wchar_t* child) {
 RecordWriter::RecordWriter(std::shared_ptr<INIFile> iniFile, std::wstring section, const wchar_t* source)
     : m_iniFile(std::move(iniFile)), m_section(std::move(section)), m_source(source) {}
 
-void RecordWriter::Text(const wchar_t* key, const std::wstring& value) { m_iniFile->WriteString(key, value); }
+template <class Operation>
+void RecordWriter::Store(Operation operation) {
+    m_storeFailed = true; // unless the operation returns
+    operation(*m_iniFile);
+    m_storeFailed = false;
+}
+
+void RecordWriter::Text(const wchar_t* key, const std::wstring& value) {
+    Store([&](INIFile& iniFile) { iniFile.WriteString(key, value); });
+}
 
 void RecordWriter::Integer(const wchar_t* key, std::int32_t value) {
     using Limits = std::numeric_limits<std::int16_t>;
     if (value < Limits::min() || value > Limits::max())
         throw QuorError(QuorIniFile::ERR_OVERFLOW, m_source, TableText(IDS_OVERFLOWED));
-    m_iniFile->WriteInteger(key, static_cast<std::int16_t>(value), L"");
+    Store([&](INIFile& iniFile) { iniFile.WriteInteger(key, static_cast<std::int16_t>(value), L""); });
 }
 
-void RecordWriter::Double(const std::wstring& key, double value) { m_iniFile->WriteDouble(key, value, L""); }
+void RecordWriter::Double(const std::wstring& key, double value) {
+    Store([&](INIFile& iniFile) { iniFile.WriteDouble(key, value, L""); });
+}
 
-void RecordWriter::Boolean(const wchar_t* key, bool value) { m_iniFile->WriteBoolean(key, value); }
+void RecordWriter::Boolean(const wchar_t* key, bool value) {
+    Store([&](INIFile& iniFile) { iniFile.WriteBoolean(key, value); });
+}
 
 void RecordWriter::Nested(const wchar_t* name, const QuorObject& child) {
     child.WriteToFile(m_iniFile, L"", NestedSection(m_section, name));

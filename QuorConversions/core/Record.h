@@ -15,7 +15,8 @@ namespace QuorConversions {
 /// The section of a nested record: parent section, " - ", child name.
 [[nodiscard]] std::wstring NestedSection(const std::wstring& parent, const wchar_t* child);
 
-/// Writes what one record holds, key by key, into the selected section of an INI-file object.
+/// Writes what one record holds, key by key, into the selected section of an INI-file object. It knows errors
+/// of that object from errors of the object that is being written.
 class RecordWriter {
 public:
     RecordWriter(std::shared_ptr<INIFile> iniFile, std::wstring section, const wchar_t* source);
@@ -29,10 +30,17 @@ public:
     /// records come last.
     void Nested(const wchar_t* name, const QuorObject& child);
 
+    /// Whether the INI-file object has raised an error.
+    [[nodiscard]] bool StoreFailed() const { return m_storeFailed; }
+
 private:
+    template <class Operation>
+    void Store(Operation operation);
+
     std::shared_ptr<INIFile> m_iniFile;
     std::wstring m_section; // a copy: host code that runs inside a message box may change the caller's
     const wchar_t* m_source;
+    bool m_storeFailed = false;
 };
 
 /// Reads what one record holds, key by key. Each read is given the object's current value and returns what

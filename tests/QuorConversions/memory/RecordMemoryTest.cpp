@@ -4,6 +4,7 @@
 #include "QuorConversions/core/CQuorConversion.h"
 #include "QuorConversions/platform/HeadlessPlatform.h"
 #include "QuorConversions/rtd/CQuorITS90.h"
+#include "QuorIniFile/IniStore.h"
 #include "tests/support/FailingMemory.h"
 #include "tests/support/TempFolder.h"
 
@@ -38,10 +39,8 @@ public:
         its90->LowRange()->SetCoefficients(0, -2.5e-4);
         conversion.SetChanged(true);
     }
-    void Save() const {
-        std::shared_ptr<INIFile> none;
-        conversion.WriteToFile(none, name, section);
-    }
+    void Save() const { SaveInto(nullptr); }
+    void SaveInto(std::shared_ptr<INIFile> iniFile) const { conversion.WriteToFile(iniFile, name, section); }
     [[nodiscard]] bool Load() {
         std::shared_ptr<INIFile> none;
         return conversion.ReadFromFile(none, name, section);
@@ -90,6 +89,33 @@ TEST(RecordMemory, ASaveWithoutMemoryLeavesTheOldFileOrTheCompleteNewOne) {
         }
         EXPECT_GT(oldFiles, 50U);
     }
+}
+
+TEST(RecordMemory, ABracketThatHoldsARecordWithoutMemoryIsSavedWholeOrNotAtAll) {
+    const std::string complete = CompleteFile() + "\n[Display]\nColour=blue\n";
+    std::size_t refused = 0;
+    std::size_t at = 0;
+    for (bool failed = true; failed; ++at) {
+        const Laboratory laboratory;
+        const auto store = std::make_shared<QuorIniFile::IniStore>();
+        store->SetFileName(laboratory.name);
+        store->Hold();
+        store->SetSection(L"Display");
+        store->WriteString(L"Colour", L"blue");
+        FailingMemory memory(at, false);
+        laboratory.SaveInto(store);
+        memory.Restore();
+        failed = memory.HasFailed();
+        try {
+            store->Release();
+            ASSERT_EQ(laboratory.File(), complete) << at;
+        } catch (const QuorError& error) {
+            EXPECT_EQ(error.Number(), 75);
+            ASSERT_EQ(laboratory.File(), laboratory.before) << at;
+            ++refused;
+        }
+    }
+    EXPECT_GT(refused, 20U);
 }
 
 TEST(RecordMemory, ALoadWithoutMemoryIsNoSuccessUnlessAllWasRead) {
