@@ -44,8 +44,10 @@ void CoefficientSettings::WriteCoefficients(RecordWriter& record) const {
 void CoefficientSettings::ReadCoefficients(RecordReader& record) {
     if (NumCoefficients() < 0)
         record.Fail(); // where it is refused with an error, that happens only when the count changes
-    for (std::int32_t i = 0; i < NumCoefficients(); ++i)
-        SetCoefficients(i, record.Double(IndexedKey(coefficientsKey, i), Coefficients(i)));
+    for (std::int32_t i = 0; i < NumCoefficients(); ++i) {
+        const double current = m_slots.IsValid(i) ? Coefficients(i) : 0.0; // refused only when it is stored
+        SetCoefficients(i, record.Double(IndexedKey(coefficientsKey, i), current));
+    }
 }
 
 } // namespace QuorConversions
