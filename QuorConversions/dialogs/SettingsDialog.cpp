@@ -5,7 +5,6 @@
 #include "QuorConversions/core/modEditing.h"
 #include "QuorConversions/core/modHelp.h"
 #include "QuorConversions/core/modMessages.h"
-#include "QuorConversions/thermocouple/TCTypeCatalogue.h"
 
 #include <algorithm>
 #include <charconv>
@@ -130,15 +129,6 @@ bool SettingsDialog::StoreChoice(const Choice& choice) {
         return false;
     choice.set(choice.list.ItemData(choice.list.ListIndex()));
     return true;
-}
-
-bool SettingsDialog::StoreTCType(const Choice& choice) {
-    return StoreChoice(choice) || Refuse(IDS_SELECT_TC_TYPE, &choice.list);
-}
-
-bool SettingsDialog::RequireTCType(const Choice& choice) {
-    const std::int32_t type = choice.get();
-    return (type >= TCTYPE_B && type <= TCTYPE_AUPT) || Refuse(IDS_SELECT_TC_TYPE, &choice.list);
 }
 
 void SettingsDialog::SetVisible(const Field& field, bool visible) {

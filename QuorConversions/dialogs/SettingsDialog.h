@@ -75,10 +75,6 @@ protected:
     void ShowChoice(const Choice& choice) const;
     /// Stores what is selected. False when nothing is.
     [[nodiscard]] static bool StoreChoice(const Choice& choice);
-    /// The same for thermocouple types, of which one must be selected; the user is told when none is.
-    [[nodiscard]] bool StoreTCType(const Choice& choice);
-    /// Refuses an object without a thermocouple type of the catalogue.
-    [[nodiscard]] bool RequireTCType(const Choice& choice);
     /// Shows or hides the controls of a field.
     static void SetVisible(const Field& field, bool visible);
     /// Enables controls when the object may be edited.

@@ -18,9 +18,12 @@ void frmTCTypePolySettings::SetCaptions() {
 }
 
 bool frmTCTypePolySettings::GatherSettings() {
-    return StoreTCType(TheChoice()) && CoefficientDialog::GatherSettings();
+    (void)StoreChoice(TheChoice()); // without a selection the type stays, and the validation refuses it
+    return CoefficientDialog::GatherSettings();
 }
 
-bool frmTCTypePolySettings::ValidateSettings() { return RequireTCType(TheChoice()); }
+bool frmTCTypePolySettings::ValidateSettings() {
+    return TheChoice().list.HasSelection() || Refuse(IDS_SELECT_TC_TYPE, &TheChoice().list);
+}
 
 } // namespace QuorConversions

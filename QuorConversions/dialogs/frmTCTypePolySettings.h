@@ -5,7 +5,8 @@
 
 namespace QuorConversions {
 
-/// Edits a thermocouple type with a deviation polynomial. A type must be selected.
+/// Edits a thermocouple type with a deviation polynomial. A type must be selected, of those that the
+/// class names.
 class frmTCTypePolySettings final : public CoefficientDialog<CQuorTCTypePoly> {
 public:
     frmTCTypePolySettings(CQuorTCTypePoly& settings, std::shared_ptr<Platform> platform);

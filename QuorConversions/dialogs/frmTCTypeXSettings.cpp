@@ -47,12 +47,15 @@ void frmTCTypeXSettings::LoadControls() {
 }
 
 bool frmTCTypeXSettings::GatherSettings() {
-    if (!StoreTCType(m_type))
-        return false;
+    (void)StoreChoice(m_type); // without a selection the type stays, and the validation refuses it
     for (const Field* const dc : m_dc)
         StoreValue(*dc); // also while they are hidden
     StorePoints();
     return true;
+}
+
+bool frmTCTypeXSettings::ValidateSettings() {
+    return m_type.list.HasSelection() || Refuse(IDS_SELECT_TC_TYPE, &m_type.list);
 }
 
 void frmTCTypeXSettings::OnChoice(Control& /*control*/) { UpdateDCRows(); }

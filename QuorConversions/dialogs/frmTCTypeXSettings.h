@@ -8,7 +8,7 @@
 namespace QuorConversions {
 
 /// Edits a thermocouple type with deviation points and, for the types that use them, DC coefficients. A type
-/// must be selected.
+/// must be selected, of those that the class names.
 class frmTCTypeXSettings final : public PointDialog<CQuorTCTypeX> {
 public:
     frmTCTypeXSettings(CQuorTCTypeX& settings, std::shared_ptr<Platform> platform);
@@ -17,7 +17,7 @@ private:
     void SetCaptions() override;
     void LoadControls() override;
     bool GatherSettings() override;
-    bool ValidateSettings() override { return RequireTCType(m_type); }
+    bool ValidateSettings() override;
     void OnChoice(Control& control) override;
     /// Shows the DC coefficients where the selected type uses them and the object shows them.
     void UpdateDCRows();

@@ -67,6 +67,19 @@ TEST_F(frmTCTypePolySettingsTest, RefusesAnObjectWhoseTypeIsNotOfferedAndKeepsIt
     }
 }
 
+TEST_F(frmTCTypePolySettingsTest, StoresWhatWasTypedAlsoWhereNoTypeIsSelected) {
+    settings->SetTCType(TCTYPE_AUPT);
+    ExpectRefusal(typeMessage, L"cboTCType", [](Person& person) {
+        person.Type(L"C0", L"-1.5");
+        person.Type(L"C3", L"2e-9");
+    });
+    EXPECT_EQ(settings->TCType(), TCTYPE_AUPT);
+    EXPECT_EQ(settings->Coefficients(TC_POLY_C0), -1.5);
+    EXPECT_EQ(settings->Coefficients(TC_POLY_C1), 0.25);
+    EXPECT_EQ(settings->Coefficients(TC_POLY_C3), 2e-9);
+    EXPECT_TRUE(settings->Changed());
+}
+
 TEST_F(frmTCTypePolySettingsTest, SelectsTheTypeOfTheFileThatIsOpened) {
     NextFileHolds([](CQuorTCTypePoly& file) { file.SetTCType(TCTYPE_L); });
     EditAndTake([](Person& person) {

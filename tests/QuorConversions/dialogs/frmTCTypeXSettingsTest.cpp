@@ -160,6 +160,37 @@ TEST_F(frmTCTypeXSettingsTest, RefusesAnObjectWhoseTypeIsNotOfferedAndKeepsIt) {
     }
 }
 
+TEST_F(frmTCTypeXSettingsTest, StoresWhatWasTypedAlsoWhereNoTypeIsSelected) {
+    settings->SetTCType(TCTYPE_NONE);
+    ExpectRefusal(typeMessage, L"cboTCType", [](Person& person) {
+        person.Type(L"Temperature 1", L"0.01");
+        person.Type(L"Offset 3", L"-0.5");
+    });
+    EXPECT_EQ(settings->TCType(), TCTYPE_NONE);
+    EXPECT_EQ(Stored(), (Points{{0.01, 0.125}, {200, 0.25}, {300, -0.5}}));
+    EXPECT_TRUE(settings->Changed());
+}
+
+TEST_F(frmTCTypeXSettingsTest, StoresTheDCCoefficientsInTheirFormatAlsoWhereNoTypeIsSelected) {
+    settings->SetTCType(TCTYPE_L);
+    settings->SetValueFormat(L"0.0");
+    ExpectRefusal(typeMessage, L"cboTCType");
+    EXPECT_EQ(settings->TCType(), TCTYPE_L);
+    EXPECT_EQ(settings->Coefficients(TCTYPEX_DC1), 0.5);
+    EXPECT_EQ(settings->Coefficients(TCTYPEX_DC2), 0.3) << "what the hidden box shows is stored";
+}
+
+TEST_F(frmTCTypeXSettingsTest, TellsOfAValueThatCannotBeStoredBeforeItLooksAtTheType) {
+    settings->SetTCType(TCTYPE_NONE);
+    platform->ExpectMessage(Scripted::OnOneLine(
+        ErrorReport(L"attempting to gather settings", 6, L"Overflow", L"QuorConversions")));
+    EXPECT_FALSE(Edit([](Person& person) {
+        person.Type(L"Offset 1", L"1e999");
+        person.Click(L"OK");
+        person.Click(L"Cancel");
+    }));
+}
+
 TEST_F(frmTCTypeXSettingsTest, TakesATypeThatIsChosenAfterTheRefusal) {
     settings->SetTCType(TCTYPE_L);
     platform->ExpectMessage(typeMessage);
