@@ -100,10 +100,12 @@ std::wstring_view ReadSection(std::wstring_view format, Take take) {
 /// What a section asks of the number as a whole.
 struct Section {
     int integerPlaces = 0;
-    int minIntegers = 0; ///< shown as zeros when the number has no such digits
+    int minIntegers = 0;   ///< shown as zeros when the number has no such digits
+    int optionalUnits = 0; ///< how many of these stand behind the last zero: a number below 1 omits them
     int decimals = 0;
     int minDecimals = 0;
-    int shift = 0; ///< power of ten that percent and the scaling commas come to
+    int optionalTenths = 0; ///< how many of these stand before the first zero: an integer omits them
+    int shift = 0;          ///< power of ten that percent and the scaling commas come to
     bool grouping = false;
     bool exponent = false;
 
@@ -138,6 +140,8 @@ struct Section {
             }
         });
         shift += percent - 3 * commas;
+        if (minIntegers > 0 && minDecimals > 0)
+            optionalUnits = optionalTenths = 0; // they stand between two zeros
     }
 
     [[nodiscard]] bool HasPlaces() const { return integerPlaces + decimals > 0; }
@@ -157,11 +161,14 @@ private:
         const int count = static_cast<int>(places.size());
         const bool zeros = places.front() == L'0';
         if (afterPoint) {
+            if (zeros && minDecimals == 0)
+                optionalTenths = decimals;
             decimals += count;
             minDecimals = zeros ? decimals : minDecimals;
         } else {
             integerPlaces += count;
             minIntegers += zeros || minIntegers > 0 ? count : 0;
+            optionalUnits = zeros || minIntegers == 0 ? 0 : optionalUnits + count;
         }
     }
 };
@@ -200,15 +207,18 @@ std::wstring Show(ShortestDecimal number, std::wstring_view text, bool minus,
     const int exponent = Fit(number, section);
     int integers = section.HasPlaces() ? std::max(number.point, section.minIntegers) : 0; // still to show
     int integerPlaces = section.integerPlaces;                                            // still to fill
-    const int decimals = std::max(static_cast<int>(number.count) - number.point, section.minDecimals);
+    const int lastInteger = number.point > 0 ? 0 : section.optionalUnits; // counted from the point
+    const int digitsBehindPoint = static_cast<int>(number.count) - number.point;
+    const int decimals = std::max(digitsBehindPoint, section.minDecimals);
+    const int firstDecimal = digitsBehindPoint > 0 ? 0 : section.optionalTenths;
     int decimalPlaces = 0; // filled so far
 
     std::wstring result;
     result.reserve(text.size() + static_cast<std::size_t>(integers) * (section.grouping ? 2 : 1) + 8);
     const auto showIntegers = [&](int left) {
-        for (; integers > left; --integers) {
+        for (; integers > std::max(left, lastInteger); --integers) {
             result += number.At(number.point - integers);
-            if (section.grouping && integers % 3 == 1 && integers > 1)
+            if (section.grouping && integers % 3 == 1 && integers > lastInteger + 1)
                 result += separators.grouping;
         }
     };
@@ -222,7 +232,8 @@ std::wstring Show(ShortestDecimal number, std::wstring_view text, bool minus,
                 integerPlaces -= length;
                 showIntegers(integerPlaces);
             } else {
-                for (int i = decimalPlaces; i < std::min(decimalPlaces + length, decimals); ++i)
+                for (int i = std::max(decimalPlaces, firstDecimal);
+                     i < std::min(decimalPlaces + length, decimals); ++i)
                     result += number.At(number.point + i);
                 decimalPlaces += length;
             }

@@ -22,7 +22,7 @@ struct NumberSeparators {
 /// is the positive one, and any further one is ignored. The value itself chooses, before it is rounded. Only
 /// the positive section puts a minus sign in front of its text, and not when it shows zero.
 ///     0 #      a digit; "0" shows at least a zero, "#" shows nothing where the number has no digit;
-///              between two zeros "#" is a zero
+///              between two zeros, and on one side of the point between a zero and a digit, "#" is a zero
 ///     .        the decimal separator, shown also when no digit follows it
 ///     ,        behind a place: groups of three digits, when a place before the point follows;
 ///              otherwise, also behind the point, each divides by a thousand
