@@ -34,9 +34,10 @@ protected:
     void SetCoefficients(std::int32_t index, double value) { Assign(m_slots.At(index).value, value); }
 
     /// How the dialog shows the coefficient (see ValueFormatter.h); never stored in a file and never a
-    /// change. Under an empty format nothing is lost. Under any other the dialog stores what it shows: digits
-    /// that the format leaves out are gone after OK. Formats that group digits, scale, or add percent
-    /// signs or brackets are not for boxes that people edit, because the number is read as it stands.
+    /// change. Under an empty format, or "General Number", nothing is lost. Under any other the dialog stores
+    /// what it shows: digits that the format leaves out are gone after OK. Formats that group digits, scale,
+    /// or add percent signs or brackets are not for boxes that people edit, because the number is read as it
+    /// stands.
     [[nodiscard]] const std::wstring& ValueFormat(std::int32_t index) const {
         return m_slots.At(index).format;
     }

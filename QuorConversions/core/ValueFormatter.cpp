@@ -293,6 +293,8 @@ bool IsEmptySection(std::wstring_view text) { return text.empty() || text.front(
 
 } // namespace
 
+bool IsGeneralFormat(std::wstring_view format) { return FormatOf(format).empty(); }
+
 std::wstring FormatValue(double value, std::wstring_view format, const NumberSeparators& separators) {
     if (std::isnan(value))
         return L"NaN";

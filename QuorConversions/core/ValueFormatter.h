@@ -42,4 +42,7 @@ struct NumberSeparators {
 [[nodiscard]] QUORCONVERSIONS_EXPORT std::wstring FormatValue(double value, std::wstring_view format,
                                                               const NumberSeparators& separators = {});
 
+/// Whether `format` shows every value so that it reads back to the same bits: the empty format, or its name.
+[[nodiscard]] QUORCONVERSIONS_EXPORT bool IsGeneralFormat(std::wstring_view format);
+
 } // namespace QuorConversions

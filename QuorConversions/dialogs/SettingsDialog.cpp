@@ -103,7 +103,7 @@ void SettingsDialog::StoreValue(const Field& field) const {
     const std::wstring& text = field.box.Text();
     // Without a format the text says exactly what is stored, also where it is no number that can be typed:
     // NaN.
-    if (field.format().empty() && text == FormatValue(field.get(), {}, UserSeparators(*m_platform)))
+    if (IsGeneralFormat(field.format()) && text == FormatValue(field.get(), {}, UserSeparators(*m_platform)))
         return;
     field.set(ParseLeadingNumber(PointText(text)));
 }
@@ -234,7 +234,7 @@ void SettingsDialog::OnLostFocus(Control& control) {
     try {
         const std::wstring format = field->format();
         const auto number = ParseWholeNumber(PointText(field->box.Text()));
-        if (number && !format.empty())
+        if (number && !IsGeneralFormat(format))
             field->box.SetText(FormatValue(*number, format, UserSeparators(*m_platform)));
     } catch (...) { // a row that the object refuses by now keeps the text that was typed
     }

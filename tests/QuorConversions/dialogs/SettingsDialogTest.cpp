@@ -735,6 +735,28 @@ TEST_P(SettingsDialogTest, LeavesEveryTextAsItIsWithoutAFormat) {
     }));
 }
 
+TEST_P(SettingsDialogTest, TakesGeneralNumberForNoFormat) {
+    const double infinity = std::numeric_limits<double>::infinity();
+    for (const wchar_t* const format : {L"General Number", L"GENERAL NUMBER"}) {
+        SetFormat(format);
+        for (const double value :
+             {std::numeric_limits<double>::quiet_NaN(), infinity, -infinity, 0.1 + 0.2}) {
+            Take(*settings, HeldBy(*ObjectWith(value)));
+            settings->SetChanged(false);
+            EXPECT_TRUE(EditWith([](Person& person) { person.Click(L"OK"); }));
+            EXPECT_TRUE(Value() == value || (std::isnan(Value()) && std::isnan(value))) << Value();
+            EXPECT_FALSE(settings->Changed());
+        }
+        EXPECT_TRUE(EditWith([](Person& person) {
+            person.Type(GetParam().box, L"01.50");
+            person.GoTo(L"cmdOKCancelHelp(2)");
+            EXPECT_EQ(person.Reads(GetParam().box), L"01.50") << "the text stays as typed";
+            person.Click(L"OK");
+        }));
+        EXPECT_EQ(Value(), 1.5);
+    }
+}
+
 TEST_P(SettingsDialogTest, SpeaksTheUsersDecimalCommaFromTypingToTheStoredDouble) {
     platform->SetDecimalSeparator(L",");
     SetFormat(L"0.0000");
