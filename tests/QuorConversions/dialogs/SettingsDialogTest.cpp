@@ -757,6 +757,17 @@ TEST_P(SettingsDialogTest, TakesGeneralNumberForNoFormat) {
     }
 }
 
+TEST_P(SettingsDialogTest, ShowsAValueThatMayNotBeEditedInItsFormatOnceAlsoWhenItsBoxHadTheFocus) {
+    SetFormat(L"0,"); // of what it shows it would make less each time
+    Take(*settings, HeldBy(*ObjectWith(1234567.0)));
+    settings->SetAllowEdit(false);
+    EXPECT_FALSE(EditWith([](Person& person) {
+        EXPECT_EQ(person.Reads(GetParam().box), L"1235");
+        EXPECT_NE(person.Focused(), GetParam().box);
+        person.Click(L"Cancel");
+    }));
+}
+
 TEST_P(SettingsDialogTest, SpeaksTheUsersDecimalCommaFromTypingToTheStoredDouble) {
     platform->SetDecimalSeparator(L",");
     SetFormat(L"0.0000");
