@@ -53,7 +53,7 @@ FileRequest SettingsObject::RequestFor(FileDialogKind kind, std::int32_t hwnd,
 }
 
 std::wstring SettingsObject::AskForFile(const FileRequest& request) const {
-    if (auto path = HostPlatform()->AskForFile(request))
+    if (auto path = HostPlatform()->AskForFile(request); path && !path->empty())
         return *std::move(path);
     throw Error(QuorIniFile::ERR_DIALOG_CANCELLED, IDS_CANCEL_SELECTED);
 }

@@ -60,7 +60,8 @@ public:
     /// Shows the message and waits until it is closed.
     virtual void ShowMessage(const MessageRequest& request) = 0;
 
-    /// Shows the file dialog and waits. The chosen path, or nothing when the user cancelled.
+    /// Shows the file dialog and waits. The chosen path, or nothing when the user cancelled; an empty path
+    /// counts as nothing.
     [[nodiscard]] virtual std::optional<std::wstring> AskForFile(const FileRequest& request) = 0;
 
     /// Calls the help engine: command 1 shows the topic of the context number `data` in `helpFile`.

@@ -199,6 +199,22 @@ TEST_P(SettingsObjectTest, DoesNothingWhenTheUserCancels) {
     EXPECT_EQ(StartOfDialog(), L"D:\\Archive\\probe.ini");
 }
 
+TEST_P(SettingsObjectTest, TakesAnEmptyPathForACancel) {
+    for (const wchar_t* const given : {L"", L"E:\\other.ini"}) {
+        platform->ChooseFile(L"");
+        filename = given;
+        EXPECT_FALSE(settings->SaveFileAs(0, filename));
+        EXPECT_EQ(filename, given);
+    }
+    platform->ChooseFile(L"");
+    std::wstring none;
+    EXPECT_FALSE(settings->OpenFile(0, none));
+    EXPECT_EQ(none, L"");
+    EXPECT_TRUE(file->operations.empty());
+    EXPECT_TRUE(platform->Messages().empty());
+    EXPECT_EQ(StartOfDialog(), Pattern());
+}
+
 TEST_P(SettingsObjectTest, IsQuietWhenTheFileDialogFails) {
     UsePlatform(std::make_shared<NoFileDialog>());
     EXPECT_FALSE(settings->OpenFile(0, filename));
