@@ -48,6 +48,7 @@ public:
     /// been reported then. True without showing anything when the type has no settings.
     bool Edit();
 
+    /// Host code that runs inside a message box of these calls may destroy this object.
     using QuorObject::WriteToFile, QuorObject::ReadFromFile;
 
 private:

@@ -55,6 +55,14 @@ private:
     bool m_made;
 };
 
+/// Reports the error that is being handled, on behalf of the class `source`.
+void Report(Platform& platform, const wchar_t* source, EStringId context) noexcept {
+    try {
+        ReportError(platform, CurrentError(source), TableText(context), TableText(IDS_MESSAGE_TITLE));
+    } catch (...) { // no memory left even for the words
+    }
+}
+
 } // namespace
 
 QuorObject::QuorObject(std::shared_ptr<Platform> platform, const wchar_t* className)
@@ -77,33 +85,33 @@ void QuorObject::ShowMessage(const std::wstring& text) const {
 }
 
 void QuorObject::ReportCurrentError(EStringId context) const noexcept {
-    try {
-        ReportError(*m_platform, CurrentError(m_className), TableText(context), TableText(IDS_MESSAGE_TITLE));
-    } catch (...) { // no memory left even for the words
-    }
+    Report(*m_platform, m_className, context);
 }
 
 template <class Body>
 void QuorObject::InFrame(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname,
                          const std::wstring& secname, EStringId context, Body body) const {
-    const BusyPointer busy(*m_platform);
+    // References of its own: host code that runs inside a message box of a nested record may destroy this
+    // object and drop the caller's reference to the file.
+    const std::shared_ptr<Platform> platform = m_platform;
+    const wchar_t* const className = m_className;
+    const BusyPointer busy(*platform);
     const TemporaryIniFile temporary(iniFile);
     try {
         if (temporary.IsNeeded()) {
             if (fname.empty())
                 throw Error(QuorIniFile::ERR_BAD_FILE_NAME, IDS_BAD_FILE_NAME);
-            iniFile = m_platform->CreateIniFile();
+            iniFile = platform->CreateIniFile();
             if (!iniFile)
-                throw QuorError(QuorIniFile::ERR_CANNOT_CREATE, m_className,
+                throw QuorError(QuorIniFile::ERR_CANNOT_CREATE, className,
                                 TableText(IDS_NO_INI_COMPONENT) + L": " + fname);
             iniFile->SetFileName(fname);
         }
-        // A reference of its own: host code that runs inside a message box may drop the caller's.
         const std::shared_ptr<INIFile> store = iniFile;
         store->SetSection(secname);
-        body(store);
+        body(*platform, store);
     } catch (...) {
-        ReportCurrentError(context);
+        Report(*platform, className, context);
     }
 }
 
@@ -125,15 +133,16 @@ std::exception_ptr QuorObject::WriteWhatCanBeWritten(const std::shared_ptr<INIFi
 void QuorObject::WriteToFile(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname,
                              const std::wstring& secname) const {
     bool isHeld = false;
-    InFrame(iniFile, fname, secname, IDS_WRITING_SETTINGS, [&](const std::shared_ptr<INIFile>& store) {
-        isHeld = true;
-        RecordHold hold(*store);
-        store->WriteString(L"Version", QUOR_LIBRARY_VERSION);
-        const std::exception_ptr refusal = WriteWhatCanBeWritten(store, secname);
-        hold.Release(); // the report waits for the user: what was written must be safe by then
-        if (refusal)
-            std::rethrow_exception(refusal);
-    });
+    InFrame(iniFile, fname, secname, IDS_WRITING_SETTINGS,
+            [&](Platform&, const std::shared_ptr<INIFile>& store) {
+                isHeld = true;
+                RecordHold hold(*store);
+                store->WriteString(L"Version", QUOR_LIBRARY_VERSION);
+                const std::exception_ptr refusal = WriteWhatCanBeWritten(store, secname);
+                hold.Release(); // the report waits for the user: what was written must be safe by then
+                if (refusal)
+                    std::rethrow_exception(refusal);
+            });
     if (isHeld || !iniFile)
         return;
     try { // whoever holds this record together with others has to know that it is missing
@@ -145,13 +154,15 @@ void QuorObject::WriteToFile(std::shared_ptr<INIFile>& iniFile, const std::wstri
 bool QuorObject::ReadFromFile(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname,
                               const std::wstring& secname) {
     bool complete = false;
-    InFrame(iniFile, fname, secname, IDS_READING_SETTINGS, [&](const std::shared_ptr<INIFile>& store) {
-        RecordReader record(store, secname);
-        ReadRecord(record);
-        complete = !record.Failed();
-        if (!complete)
-            ShowMessage(TableText(IDS_WRONG_FILE_VERSION));
-    });
+    InFrame(iniFile, fname, secname, IDS_READING_SETTINGS,
+            [&](Platform& platform, const std::shared_ptr<INIFile>& store) {
+                RecordReader record(store, secname);
+                ReadRecord(record);
+                complete = !record.Failed();
+                if (!complete)
+                    QuorConversions::ShowMessage(platform, TableText(IDS_WRONG_FILE_VERSION),
+                                                 TableText(IDS_MESSAGE_TITLE));
+            });
     return complete;
 }
 

@@ -99,6 +99,8 @@ private:
     [[nodiscard]] std::exception_ptr WriteWhatCanBeWritten(const std::shared_ptr<INIFile>& store,
                                                            const std::wstring& secname) const;
 
+    /// Runs `body` on the selected section and reports what it raises. Once a nested record was read or
+    /// written, host code may have destroyed this object: neither the frame nor the body uses it then.
     template <class Body>
     void InFrame(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname, const std::wstring& secname,
                  EStringId context, Body body) const;

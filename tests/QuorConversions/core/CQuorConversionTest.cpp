@@ -1,6 +1,7 @@
 #include "QuorConversions/core/CQuorConversion.h"
 
 #include "QuorConversions/core/modHelp.h"
+#include "QuorConversions/platform/HeadlessPlatform.h"
 #include "QuorConversions/polynomial/CQuorPolynomial.h"
 #include "QuorConversions/rtd/CQuorCVD.h"
 #include "QuorConversions/rtd/CQuorHTPRT.h"
@@ -475,6 +476,60 @@ TEST_F(CQuorConversionTest, LetsNoSettingsDieUnderACallOfTheHost) {
         EXPECT_TRUE(settings.expired());
     }
     EXPECT_EQ(platform->Messages().size(), 3U);
+}
+
+namespace {
+
+/// A platform that keeps what the user is told with the test, so that it may end with its conversion.
+class EndingPlatform : public HeadlessPlatform {
+public:
+    Texts* told = nullptr;
+    std::function<void()> whileShown;
+    void ShowMessage(const MessageRequest& request) override {
+        told->push_back(request.text);
+        whileShown();
+    }
+};
+
+} // namespace
+
+TEST(CQuorConversionEndTest, AConversionMayEndInsideAMessageBoxOfItsOwnRead) {
+    const auto memory = std::make_shared<Support::MemoryIniFile>();
+    memory->Set(L"Probe", L"ConversionType", std::int16_t{CONV_CVD});
+    auto platform = std::make_shared<EndingPlatform>();
+    const std::weak_ptr<EndingPlatform> watched = platform;
+    Texts texts;
+    platform->told = &texts;
+    auto conversion = std::make_unique<CQuorConversion>(platform);
+    platform->whileShown = [&] {
+        conversion.reset();
+        EXPECT_FALSE(watched.expired()) << "the platform of a message that is shown";
+    };
+    platform.reset();
+    std::shared_ptr<QuorIniFile::INIFile> ini = memory;
+    EXPECT_FALSE(conversion->ReadFromFile(ini, L"", L"Probe"));
+    EXPECT_EQ(texts, (Texts{versionMessage, versionMessage})) << "one of the settings, one of the conversion";
+    EXPECT_EQ(conversion, nullptr);
+    EXPECT_TRUE(watched.expired()) << "nothing is left of it";
+}
+
+TEST(CQuorConversionEndTest, AConversionMayEndInsideAMessageBoxOfItsOwnWrite) {
+    const auto memory = std::make_shared<Support::MemoryIniFile>();
+    auto platform = std::make_shared<EndingPlatform>();
+    const std::weak_ptr<EndingPlatform> watched = platform;
+    Texts texts;
+    platform->told = &texts;
+    auto conversion = std::make_unique<CQuorConversion>(platform);
+    conversion->SetConversionType(CONV_CVD);
+    platform->whileShown = [&] { conversion.reset(); };
+    platform.reset();
+    memory->failAt = 6; // Version of the settings
+    std::shared_ptr<QuorIniFile::INIFile> ini = memory;
+    conversion->WriteToFile(ini, L"", L"Probe");
+    EXPECT_EQ(texts, (Texts{ErrorReport(Support::writingSettings, 57, L"Device I/O error: memory",
+                                        L"QuorIniFile")}));
+    EXPECT_EQ(conversion, nullptr);
+    EXPECT_TRUE(watched.expired());
 }
 
 TEST_F(CQuorConversionTest, LetsNoRangeDieUnderACallOfTheHost) {
