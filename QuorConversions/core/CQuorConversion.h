@@ -48,6 +48,11 @@ public:
     /// been reported then. True without showing anything when the type has no settings.
     bool Edit();
 
+    /// Beware of a section that is not there, or that holds no type: reading it makes the conversion an
+    /// ITS-90 one, and a conversion of another type loses its settings object with all coefficients.
+    /// ReadFromFile is False and the user is told, but nothing brings them back. A host that must keep them
+    /// reads into another conversion, or looks first whether the section is there (IniStore::Sections).
+    ///
     /// Host code that runs inside a message box of these calls may destroy this object.
     using QuorObject::WriteToFile, QuorObject::ReadFromFile;
 
