@@ -601,7 +601,7 @@ void ProbeDocument::Save(OthersChanges others) {
 }
 
 std::unordered_set<const ProbeDocument::Entry*>
-ProbeDocument::MeetOthers(const std::shared_ptr<IniStore>& theirs, OthersChanges others) {
+ProbeDocument::CheckForConflicts(const std::shared_ptr<IniStore>& theirs, OthersChanges others) {
     std::unordered_set<std::wstring> sections;
     std::unordered_set<std::wstring> taken; // and by whose settings
     for (const std::wstring& section : theirs->Sections()) {
@@ -677,7 +677,7 @@ bool ProbeDocument::WriteChanges(const std::shared_ptr<IniStore>& store, OthersC
     const bool othersWrote = m_store->FileChanged();
     std::unordered_set<const Entry*> gone;
     if (othersWrote)
-        gone = MeetOthers(store, others);
+        gone = CheckForConflicts(store, others);
     MoveSections(*store);
     for (const Entry& entry : m_entries) {
         if (IsMerged(entry) && !gone.contains(&entry))

@@ -280,7 +280,7 @@ private:
     /// Raises DocumentError when what was done cannot be joined with what others have written into `theirs`.
     /// Returns the changed probes that are gone there.
     [[nodiscard]] std::unordered_set<const Entry*>
-    MeetOthers(const std::shared_ptr<QuorIniFile::IniStore>& theirs, OthersChanges others);
+    CheckForConflicts(const std::shared_ptr<QuorIniFile::IniStore>& theirs, OthersChanges others);
     /// Raises DocumentError when a probe would get a name that is `taken` in the file, and was not by ours.
     void RequireFreeNames(const std::unordered_set<std::wstring>& taken) const;
     [[nodiscard]] bool IsSameRecord(const std::shared_ptr<QuorIniFile::IniStore>& theirs,
