@@ -306,7 +306,7 @@ struct Neighbours {
         temporaryStart = start + '-';
     }
     [[nodiscard]] std::string Path(const std::string& name) const {
-        return (fs::path(folder) / name).string();
+        return folder == "." ? name : (fs::path(folder) / name).string();
     }
     [[nodiscard]] std::string Temporary(std::uint64_t random) const {
         return Path(temporaryStart + Hexadecimal(random) + std::string(temporaryEnd));
@@ -763,11 +763,14 @@ private:
                 throw KeptAside();
             return SetbackKind::FileChanged;
         }
-        if (isNewThere)
-            throw KeptAside();
-        // Not ours, nor any save's: it was put in the place of our text.
-        return m_hasTemporary && PutBack() && IsAt(m_path, m_stamp) ? SetbackKind::TemporaryLost
-                                                                    : SetbackKind::Stolen;
+        if (!isNewThere) {
+            // It was put in the place of our new text, or of the file right behind us: nobody can tell.
+            const bool isOldBack = m_hasTemporary && PutBack() && IsAt(m_path, m_stamp);
+            if (!isOldBack)
+                return SetbackKind::Stolen;
+            m_hasTemporary = false;
+        }
+        throw KeptAside();
     }
 
     /// Takes an exchange back. Where that fails, the file that was there keeps its temporary name.

@@ -1,6 +1,6 @@
 // Any file, read as the record of a conversion of every type: no crash, no exception, and a record that was
-// read is written and read again as the same one. What has been read in part may be impossible to write: that
-// is told, and nothing is written.
+// read is written and read again as the same one. What has been read in part may hold a value that cannot be
+// written: that is told, and what stands before it is written.
 
 #include "QuorConversions/core/CQuorConversion.h"
 #include "QuorConversions/platform/HeadlessPlatform.h"
@@ -24,16 +24,17 @@ private:
     std::size_t m_reports = 0;
 };
 
-/// What `object` puts into an empty file; nothing when it cannot be written.
+/// What `object` puts into an empty file; nothing when not all of it can be written.
 template <class Object>
 std::string Record(const Object& object, const TempFolder& folder, const Silent& platform) {
     std::filesystem::remove(folder.Path("record.ini"));
     std::shared_ptr<QuorIniFile::INIFile> builtIn;
     const std::size_t before = platform.Reports();
     object.WriteToFile(builtIn, folder.Name("record.ini"), section);
-    const bool isWritten = std::filesystem::exists(folder.Path("record.ini"));
-    Claim(isWritten == (platform.Reports() == before), "a record is written, or it is told why it is not");
-    return isWritten ? folder.Read("record.ini") : "";
+    const bool isWhole = platform.Reports() == before;
+    Claim(!isWhole || std::filesystem::exists(folder.Path("record.ini")),
+          "a record is written, or it is told why it is not");
+    return isWhole ? folder.Read("record.ini") : "";
 }
 
 template <class Object>

@@ -1,5 +1,6 @@
 #include "apps/quorconv/Commands.h"
 
+#include "QuorIniFile/IniDisk.h"
 #include "QuorIniFile/IniFormat.h"
 #include "QuorIniFile/IniValue.h"
 #include "QuorIniFile/IniWarning.h"
@@ -41,13 +42,23 @@ public:
             CheckRecord(Probe(store, m_file.Path(), record), record);
         for (const auto& [line, text] : m_problems)
             std::cout << ToPrintable(m_file.Path()) << ':' << line << ": " << ToPrintable(text) << '\n';
-        return m_problems.empty();
+        return ReportAbandonedFiles() && m_problems.empty();
     }
 
 private:
     void Report(std::size_t line, const std::wstring& section, const std::wstring& key,
                 const std::wstring& what) {
         m_problems.emplace(line, L"[" + section + L"] " + (key.empty() ? L"" : key + L": ") + what);
+    }
+
+    /// False when a save that was killed has left something beside the file.
+    [[nodiscard]] bool ReportAbandonedFiles() const {
+        const std::vector<std::string> paths = QuorIniFile::AbandonedFilesOf(m_file.Path());
+        for (const std::string& path : paths)
+            std::cout << ToPrintable(m_file.Path() + L": an interrupted save has left " +
+                                     QuorIniFile::DecodeBytes(path))
+                      << '\n';
+        return paths.empty();
     }
 
     /// Keys and sections that stand twice, the host's own too: who reads them sees the first.

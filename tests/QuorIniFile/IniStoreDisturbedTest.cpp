@@ -200,21 +200,23 @@ TEST(IniStoreDisturbed, AFileThatIsPutInThePlaceOfTheTemporaryOneNeverBecomesThe
                 }
                 return 0;
             };
+            std::string expected = "; the host's own\n[A]\nx=2\n";
             try {
                 Save(files, L"x", 2);
             } catch (const QuorError& error) {
-                // The old file, which is gone, may have been what somebody had just saved: that is told.
+                // The thief's file may be what somebody has just saved: it is kept, and that is told.
                 ++errors;
                 EXPECT_EQ(error.Number(), 75);
-                EXPECT_NE(std::string(error.what())
-                              .find("replaced it at the same moment; its file is kept as /.quor-"),
-                          std::string::npos)
-                    << error.what();
+                const std::string told = "replaced it at the same moment; its file is kept as /.quor-";
+                EXPECT_NE(std::string(error.what()).find(told), std::string::npos) << error.what();
+                EXPECT_EQ(Beside(disk, ".tmp").size(), 1U);
+                if (disk.Now().at(path) != expected)
+                    expected = host;
             }
             reached = calls > at;
-            EXPECT_EQ(disk.Now().at(path), "; the host's own\n[A]\nx=2\n") << "call " << at;
+            EXPECT_EQ(disk.Now().at(path), expected) << "call " << at;
         }
-        EXPECT_LE(errors, 2U);
+        EXPECT_LE(errors, 6U) << "those of the last look and the exchange";
     }
 }
 
@@ -234,14 +236,18 @@ TEST(IniStoreDisturbed, AThiefWhoComesTwiceAndTakesTheOldFileTooDoesNotKeepTheNe
                 ++calls;
                 return 0;
             };
+            bool isTold = false;
             try {
                 Save(files, L"x", 2);
             } catch (const QuorError& error) {
                 EXPECT_EQ(error.Number(), 75);
+                isTold = true;
             }
             isReached = calls > second;
             isFirstReached = calls > first;
-            ASSERT_EQ(disk.Now().at(path), "; the host's own\n[A]\nx=2\n") << first << " and " << second;
+            const std::string text = disk.Now().at(path);
+            ASSERT_TRUE(text == "; the host's own\n[A]\nx=2\n" || (isTold && text == host))
+                << first << " and " << second << ": " << text;
         }
     }
 }

@@ -1,16 +1,18 @@
-// A host as small as one can be: keeps a probe in a file and reads it back. Usage: host FOLDER
+// A host as small as one can be: keeps a probe in a file and reads it back, in a thread whose stack is as
+// small as those of instruments. Usage: host FOLDER
 
 #include <QuorConversions/core/CQuorConversion.h>
 #include <QuorConversions/rtd/CQuorCVD.h>
 
-#include <iostream>
 #include <string>
+
+#include <pthread.h>
 
 using namespace QuorConversions;
 
-int main(int, char** argv) {
-    const std::string folder = argv[1];
-    const std::wstring file = std::wstring(folder.begin(), folder.end()) + L"/probes.ini";
+namespace {
+
+int KeepProbe(const std::wstring& file) {
     std::shared_ptr<INIFile> none;
 
     CQuorConversion probe;
@@ -29,4 +31,28 @@ int main(int, char** argv) {
             return 1;
     }
     return SettingsAs<CQuorCVD>(again)->Coefficients(CVD_R0) == 100.0123 ? 0 : 1;
+}
+
+struct Task {
+    std::wstring file;
+    int result = 1;
+};
+
+void* Run(void* argument) {
+    Task& task = *static_cast<Task*>(argument);
+    task.result = KeepProbe(task.file);
+    return nullptr;
+}
+
+} // namespace
+
+int main(int, char** argv) {
+    const std::string folder = argv[1];
+    Task task{std::wstring(folder.begin(), folder.end()) + L"/probes.ini"};
+    pthread_attr_t attributes;
+    pthread_t thread;
+    if (pthread_attr_init(&attributes) != 0 || pthread_attr_setstacksize(&attributes, 65536) != 0 ||
+        pthread_create(&thread, &attributes, Run, &task) != 0 || pthread_join(thread, nullptr) != 0)
+        return 1;
+    return task.result;
 }

@@ -752,11 +752,11 @@ TEST_F(ProbeDocumentTest, AProgramThatTakesNoLockMayWriteOtherKeysAtAnyCallOfASa
         bool isRenamed = false;
         files.onCall = [&](std::string_view call) {
             // Between the last look at the file and its replacement nobody can be seen.
-            if (calls++ == at && call != "Rename") {
+            if (calls++ == at && call != "Exchange") {
                 folder.Write("host.ini", theirs);
                 expected = isRenamed ? theirs : Replaced(ours, "=1.5\n", "=1.75\n");
             }
-            isRenamed = isRenamed || call == "Rename";
+            isRenamed = isRenamed || call == "Exchange";
             return 0;
         };
         document.Save();
@@ -775,7 +775,7 @@ TEST_F(ProbeDocumentTest, AProgramThatTakesNoLockMayWriteTheSameKeyAtAnyCallOfAS
         document.Rename(1, L"Probe B");
         std::size_t calls = 0;
         files.onCall = [&](std::string_view call) {
-            if (calls++ == at && call != "Rename")
+            if (calls++ == at && call != "Exchange")
                 folder.Write("host.ini", theirs);
             return 0;
         };

@@ -1,5 +1,7 @@
 #include "tests/apps/quorconv/Quorconv.h"
 
+#include "QuorIniFile/IniDisk.h"
+
 #include <algorithm>
 #include <filesystem>
 
@@ -11,6 +13,25 @@ TEST_F(QuorconvTest, ChecksTheSamplesWithoutAComplaint) {
             arguments.push_back(entry.path().string());
     EXPECT_EQ(arguments.size(), 14U);
     ExpectFine(arguments);
+}
+
+TEST_F(QuorconvTest, ChecksWhatInterruptedSavesHaveLeft) {
+    folder.Write("host.ini", "[Host]\nColour=red\n");
+    std::string start;
+    {
+        const QuorIniFile::IniReplacement save(folder.Name("host.ini"));
+        const std::string lock = folder.Files().front();
+        start = lock.substr(0, lock.rfind('.'));
+        ExpectFine({"check", "host.ini"}); // a save that is under way
+    }
+    folder.Write(start + ".lock", "");
+    folder.Write(start + "-1234.tmp", "[Host]\n");
+    folder.Write(".quor-0-1234.tmp", "of another file");
+    const Outcome check = Quorconv({"check", "host.ini"});
+    EXPECT_EQ(check.code, 1);
+    EXPECT_EQ(check.out, "host.ini: an interrupted save has left " + start + "-1234.tmp\n" +
+                             "host.ini: an interrupted save has left " + start + ".lock\n");
+    EXPECT_EQ(check.err, "");
 }
 
 namespace {

@@ -117,7 +117,7 @@ TEST_F(QuorconvProcessesTest, AnEditOfTheSameKeyAsAnotherProcessIsToldAndNotWrit
     EXPECT_EQ(edit.err,
               "quorconv: host.ini: [Probe 1 - Settings] Coefficients0: another program has changed it "
               "meanwhile from 100.01 to 100.02; yours is 100.03, and nothing was written\n"
-              "host.ini: [Probe 1 - Settings] Coefficients2: another program has changed it "
+              "  host.ini: [Probe 1 - Settings] Coefficients2: another program has changed it "
               "meanwhile from 1.5 to 1.7; yours is 1.6, and nothing was written\n");
     EXPECT_EQ(folder.Read("host.ini"), Replaced(Replaced(before, "100.01", "100.02"), "1.50", "1.7"));
 }
@@ -139,7 +139,7 @@ TEST_F(QuorconvProcessesTest, AnEditOfAProbeThatIsRemovedMeanwhileOrGetsAnotherT
     EXPECT_EQ(edit.code, 1);
     EXPECT_EQ(edit.err, "quorconv: host.ini: [Probe 1] ConversionType: another program has removed it "
                         "meanwhile, which was 2; yours is 2, and nothing was written\n"
-                        "host.ini: [Probe 1 - Settings] Coefficients0: another program has removed it "
+                        "  host.ini: [Probe 1 - Settings] Coefficients0: another program has removed it "
                         "meanwhile, which was 100.01; yours is 100.03, and nothing was written\n");
     EXPECT_EQ(folder.Read("host.ini"), removed);
 
