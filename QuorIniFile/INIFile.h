@@ -40,9 +40,9 @@ public:
     /// saves many probes brackets them all and pays once.
     virtual void Hold();
     virtual void Release();
-    /// In place of Release, when a record could not be written whole: what was written since the outermost
-    /// Hold should not become durable, and the outermost Release should raise. An implementation that does
-    /// not override this one keeps the part that was written.
+    /// In place of Release, when this object itself has failed, or memory, before a record was written: what
+    /// was written since the outermost Hold should not become durable, and the outermost Release should
+    /// raise. An implementation that does not override this one keeps the part that was written.
     virtual void Abandon();
 };
 

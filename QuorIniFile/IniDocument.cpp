@@ -98,7 +98,7 @@ bool IniDocument::HasKeysInText(Section section) const {
 std::optional<IniDocument::Section> IniDocument::FindSection(std::string_view name) const {
     if (m_newSections.empty() && m_edits.empty())
         return m_sections.Find(m_text, name);
-    if (const auto given = LastGiven(name); given && IsThere(*given))
+    if (const auto given = LastGiven(name, HashName(name)); given && IsThere(*given))
         return given;
     const auto found = m_sections.Find(m_text, name);
     const bool isThere = found && SameName(Name(*found), name) && IsThere(*found);
@@ -111,7 +111,8 @@ IniDocument::Section IniDocument::AddSection(std::string_view name) {
     const auto old = m_edits.empty() ? std::nullopt : m_sections.Find(m_text, canonical);
     if (old && SameName(Name(*old), canonical))
         return *old;
-    if (const auto given = LastGiven(canonical))
+    const std::uint64_t hash = HashName(canonical);
+    if (const auto given = LastGiven(canonical, hash))
         return *given;
     const std::size_t first = m_sections.Count(m_text);
     const std::size_t number = first + m_newSections.size();
@@ -119,23 +120,39 @@ IniDocument::Section IniDocument::AddSection(std::string_view name) {
         throw std::bad_alloc();
     m_newSections.emplace_back(name); // should the next step fail, it never gets a key
     m_firstNew = static_cast<Section>(first);
-    m_given[std::string(canonical)].push_back(static_cast<Section>(number));
+    const auto given = m_given.empty() ? m_given.end() : m_given.find(canonical); // as almost always
+    if (given != m_given.end())
+        given->second.push_back(static_cast<Section>(number));
+    else
+        m_newNames.Add(hash, static_cast<Section>(number));
     return static_cast<Section>(number);
 }
 
-std::optional<IniDocument::Section> IniDocument::LastGiven(std::string_view name) const {
+std::optional<IniDocument::Section> IniDocument::FindNew(std::string_view name, std::uint64_t hash) const {
+    return m_newNames.Find(hash, [&](Section section) { return SameName(Name(section), name); });
+}
+
+std::optional<IniDocument::Section> IniDocument::LastGiven(std::string_view name, std::uint64_t hash) const {
+    const auto found = m_given.empty() ? m_given.end() : m_given.find(name);
+    if (found == m_given.end())
+        return FindNew(name, hash);
+    return found->second.empty() ? std::nullopt : std::optional(found->second.back());
+}
+
+std::vector<IniDocument::Section>& IniDocument::Given(std::string_view name) {
     const auto found = m_given.find(name);
-    return found == m_given.end() || found->second.empty() ? std::nullopt
-                                                           : std::optional(found->second.back());
+    if (found != m_given.end())
+        return found->second;
+    std::vector<Section> sections;
+    if (const auto section = FindNew(name, HashName(name)))
+        sections.push_back(*section);
+    return m_given.emplace(name, std::move(sections)).first->second;
 }
 
 void IniDocument::TakeBack(std::string_view name, Section section) noexcept {
     const auto found = m_given.find(name);
-    if (found == m_given.end() || found->second.empty() || found->second.back() != section)
-        return;
-    found->second.pop_back();
-    if (found->second.empty())
-        m_given.erase(found);
+    if (found != m_given.end() && !found->second.empty() && found->second.back() == section)
+        found->second.pop_back();
 }
 
 std::vector<std::string_view> IniDocument::SectionNames() const {
@@ -177,7 +194,8 @@ bool IniDocument::RenameSection(Section section, std::string_view name) {
     const std::string from(CanonicalName(Name(section), buffer));
     const std::string to(CanonicalName(name, buffer));
     const bool isOld = IsSpelledInText(section, name);
-    m_given[to].push_back(section);
+    Given(from);
+    Given(to).push_back(section);
     if (IsNew(section)) {
         m_newSections[section - m_firstNew] = std::move(spelling);
     } else {

@@ -133,8 +133,13 @@ private:
     [[nodiscard]] const Edit* EditOf(Section section) const;
     /// Notes a removal or renaming of a section of the text, and gives its edit to be changed.
     Edit& Note(Section section, std::optional<std::string> to);
-    /// The section that was given that name last and has it still, whether it is there or was removed.
-    [[nodiscard]] std::optional<Section> LastGiven(std::string_view name) const;
+    /// The section that was given that name, whose hash is given too, last and has it still, whether it is
+    /// there or was removed.
+    [[nodiscard]] std::optional<Section> LastGiven(std::string_view name, std::uint64_t hash) const;
+    /// The same among new sections, as long as none of that name was renamed.
+    [[nodiscard]] std::optional<Section> FindNew(std::string_view name, std::uint64_t hash) const;
+    /// The sections that were given that name, for renaming: from now on m_given has them.
+    std::vector<Section>& Given(std::string_view name);
     /// Takes a name back from the section that was given it last; nothing for other sections.
     void TakeBack(std::string_view name, Section section) noexcept;
     /// Whether all headers of a section spell that name in the text, so that none has to be rewritten.
@@ -161,8 +166,9 @@ private:
     Section m_firstNew = 0xFFFFFFFF;        // the number of the first new section, once there is one
     std::unordered_map<Section, Edit> m_edits;
     std::vector<Move> m_moves;
-    // New sections and those that were renamed, by the names that they have now. Of several that have one
-    // name all but the last were removed.
+    IniIndex m_newNames; // of new sections, as they were added
+    // The names that sections were given or gave up by being renamed, with those that have them now. Of
+    // several that have one name all but the last were removed.
     IniNameMap<std::vector<Section>> m_given;
     IniChanges m_changes;
     std::string m_line;          // that is being put together

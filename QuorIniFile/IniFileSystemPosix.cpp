@@ -172,16 +172,13 @@ std::string ConditionOf(const std::string& process) {
     const std::size_t close = line.rfind(") ");
     if (open == std::string::npos || close == std::string::npos || close + 2 >= line.size())
         return {};
-    const std::string name = ' ' + line.substr(open, close + 1 - open);
-    switch (line[close + 2]) {
-    case 'T':
-    case 't':
-        return name + ", which is stopped";
-    case 'Z':
-        return name + ended;
-    default:
-        return name;
-    }
+    std::string name = ' ' + line.substr(open, close + 1 - open);
+    const char state = line[close + 2];
+    if (state == 'T' || state == 't')
+        name += ", which is stopped";
+    else if (state == 'Z')
+        name += ended;
+    return name;
 }
 
 /// The locked files of this process. The kernel gives a lock back when all handles to it are closed, those
@@ -190,9 +187,10 @@ std::string ConditionOf(const std::string& process) {
 class LockedFiles {
 public:
     static LockedFiles& OfThisProcess() {
-        static LockedFiles& files =
-            *new LockedFiles; // stores that are destroyed at the very end need it, too
-        return files;
+        // Never destroyed: a store may end at the very end of the program.
+        // NOLINTNEXTLINE(cppcoreguidelines-owning-memory,cppcoreguidelines-avoid-non-const-global-variables)
+        static auto* const files = new LockedFiles;
+        return *files;
     }
     /// An error number; 0 when the file is remembered.
     int Add(int file) {
