@@ -27,8 +27,8 @@ constexpr std::uint64_t largestFile = 0xFFFFFFFF;
 
 // Errors ---------------------------------------------------------------------------------------------------
 
-/// What is being done when the system refuses; a missing part of a path means another thing in each case.
-enum class Deed : std::uint8_t { Read, Write };
+/// Why the system was asked; a missing part of a path means another thing in each case.
+enum class Purpose : std::uint8_t { Read, Write };
 
 struct SystemError {
     int code;
@@ -46,7 +46,7 @@ constexpr SystemError systemErrors[] = {
     {ENOTDIR, ERR_PATH_NOT_FOUND, false},  {ENAMETOOLONG, ERR_BAD_FILE_NAME, false},
 };
 
-SystemError Known(int code) {
+SystemError ErrorFor(int code) {
     const auto* const known = std::find_if(std::begin(systemErrors), std::end(systemErrors),
                                            [code](const SystemError& error) { return error.code == code; });
     return known != std::end(systemErrors) ? *known : SystemError{code, ERR_PATH_FILE_ACCESS, false};
@@ -54,12 +54,12 @@ SystemError Known(int code) {
 
 std::wstring WordsFor(int code) { return DecodeBytes(std::generic_category().message(code)); }
 
-[[noreturn]] void Raise(int code, std::wstring_view fileName, Deed deed) {
+[[noreturn]] void Raise(int code, std::wstring_view fileName, Purpose purpose) {
     if (code == ENOMEM)
         throw std::bad_alloc();
     if (code == ENOENT)
-        throw FileError(deed == Deed::Read ? ERR_FILE_NOT_FOUND : ERR_PATH_NOT_FOUND, fileName);
-    const SystemError error = Known(code);
+        throw FileError(purpose == Purpose::Read ? ERR_FILE_NOT_FOUND : ERR_PATH_NOT_FOUND, fileName);
+    const SystemError error = ErrorFor(code);
     if (error.causeAddsNothing)
         throw FileError(error.number, fileName);
     throw FileError(error.number, fileName, WordsFor(code));
@@ -69,13 +69,13 @@ std::wstring WordsFor(int code) { return DecodeBytes(std::generic_category().mes
 [[noreturn]] void RaiseFor(const std::string& temporaryPath, int code, std::wstring_view fileName) {
     if (code == ENOMEM)
         throw std::bad_alloc();
-    throw FileError(Known(code).number, fileName, DecodeBytes(temporaryPath) + L": " + WordsFor(code));
+    throw FileError(ErrorFor(code).number, fileName, DecodeBytes(temporaryPath) + L": " + WordsFor(code));
 }
 
-int ErrorOf(int error) { return error; }
+int CodeOf(int error) { return error; }
 
 template <class Value>
-int ErrorOf(const IniResult<Value>& result) {
+int CodeOf(const IniResult<Value>& result) {
     return result.error;
 }
 
@@ -83,7 +83,7 @@ int ErrorOf(const IniResult<Value>& result) {
 template <class Call>
 auto Uninterrupted(const Call& call) {
     auto result = call();
-    while (ErrorOf(result) == EINTR)
+    while (CodeOf(result) == EINTR)
         result = call();
     return result;
 }
@@ -109,14 +109,19 @@ struct Target {
     std::wstring_view fileName;
 };
 
-template <class One, class Other>
-bool IsSameFile(const One& a, const Other& b) {
-    return a.device == b.device && a.inode == b.inode;
-}
+/// What tells a file from every other one, whatever its names.
+struct FileId {
+    std::uint64_t device = 0;
+    std::uint64_t inode = 0;
+
+    template <class StatusOrStamp>
+    explicit FileId(const StatusOrStamp& file) : device(file.device), inode(file.inode) {}
+    friend bool operator==(const FileId&, const FileId&) = default;
+};
 
 void RequireRegular(const IniFileStatus& status, std::wstring_view fileName) {
     if (status.kind == IniFileStatus::Kind::Folder)
-        Raise(EISDIR, fileName, Deed::Read);
+        Raise(EISDIR, fileName, Purpose::Read);
     if (status.kind != IniFileStatus::Kind::Regular)
         throw FileError(ERR_PATH_FILE_ACCESS, fileName, L"It is not a regular file");
     if (status.size > largestFile)
@@ -129,7 +134,7 @@ std::optional<IniFileStatus> FindRegular(const std::string& path, const Target& 
     if (status.error == ENOENT)
         return std::nullopt;
     if (status.error != 0)
-        Raise(status.error, target.fileName, Deed::Read);
+        Raise(status.error, target.fileName, Purpose::Read);
     RequireRegular(status.value, target.fileName);
     return status.value;
 }
@@ -166,16 +171,16 @@ private:
     IniFileSystem::Handle m_handle = 0;
 };
 
-IniFileStatus StatusOf(const OpenFile& file, const Target& target, Deed deed) {
+IniFileStatus StatusOf(const OpenFile& file, const Target& target, Purpose purpose) {
     const auto status = Uninterrupted([&] { return target.files.StatusOf(file.Get()); });
     if (status.error != 0)
-        Raise(status.error, target.fileName, deed);
+        Raise(status.error, target.fileName, purpose);
     return status.value;
 }
 
-IniStamp StampOfOpen(const OpenFile& file, const Target& target, Deed deed) {
+IniStamp StampOfOpen(const OpenFile& file, const Target& target, Purpose purpose) {
     const Moment before = Now();
-    return StampFrom(StatusOf(file, target, deed), before);
+    return StampFrom(StatusOf(file, target, purpose), before);
 }
 
 struct RegularFile {
@@ -210,10 +215,10 @@ std::optional<RegularFile> OpenRegular(const std::string& path, const Target& ta
     if (opened.error == EWOULDBLOCK)
         throw FileError(ERR_PERMISSION_DENIED, target.fileName, L"In use by another program");
     if (opened.error != 0)
-        Raise(opened.error, target.fileName, Deed::Read);
+        Raise(opened.error, target.fileName, Purpose::Read);
     OpenFile file(target.files, opened.value);
     const Moment before = Now();
-    const IniFileStatus status = StatusOf(file, target, Deed::Read);
+    const IniFileStatus status = StatusOf(file, target, Purpose::Read);
     RequireRegular(status, target.fileName);
     return RegularFile{std::move(file), status, StampFrom(status, before)};
 }
@@ -222,7 +227,7 @@ std::size_t ReadAt(const OpenFile& file, std::uint64_t offset, char* bytes, std:
                    const Target& target) {
     const auto count = Uninterrupted([&] { return target.files.Read(file.Get(), offset, bytes, size); });
     if (count.error != 0)
-        Raise(count.error, target.fileName, Deed::Read);
+        Raise(count.error, target.fileName, Purpose::Read);
     return count.value;
 }
 
@@ -269,10 +274,10 @@ fs::path FollowLinks(fs::path path, const Target& target) {
         if (link.error == EINVAL || link.error == ENOENT)
             return path;
         if (link.error != 0)
-            Raise(link.error, target.fileName, Deed::Write);
+            Raise(link.error, target.fileName, Purpose::Write);
         path = path.parent_path() / link.value;
     }
-    Raise(ELOOP, target.fileName, Deed::Write);
+    Raise(ELOOP, target.fileName, Purpose::Write);
 }
 
 std::string FolderOf(const fs::path& path) {
@@ -294,6 +299,7 @@ struct Neighbours {
     std::string lock;           // a path
     std::string temporaryStart; // of names of temporary files
     static constexpr std::string_view temporaryEnd = ".tmp";
+    static constexpr std::string_view keptEnd = ".kept";
 
     explicit Neighbours(const fs::path& target) : folder(FolderOf(target)) {
         std::uint64_t number = 0xCBF29CE484222325U;
@@ -311,18 +317,20 @@ struct Neighbours {
     [[nodiscard]] std::string Temporary(std::uint64_t random) const {
         return Path(temporaryStart + Hexadecimal(random) + std::string(temporaryEnd));
     }
-    /// The temporary files that are there.
-    [[nodiscard]] IniResult<std::vector<std::string>> Temporaries(IniFileSystem& files) const {
-        auto names = Uninterrupted([&] { return files.NamesIn(folder); });
-        names.value.erase(std::remove_if(names.value.begin(), names.value.end(),
-                                         [this](const std::string& name) {
-                                             return !name.starts_with(temporaryStart) ||
-                                                    !name.ends_with(temporaryEnd);
-                                         }),
-                          names.value.end());
-        for (std::string& name : names.value)
-            name = Path(name);
-        return names;
+    /// Another name for a temporary file.
+    [[nodiscard]] static std::string Kept(const std::string& temporary) {
+        return temporary.substr(0, temporary.size() - temporaryEnd.size()) + std::string(keptEnd);
+    }
+    /// The temporary files that are there, or those that were kept. In a folder that may not be read there
+    /// seem to be none.
+    [[nodiscard]] std::vector<std::string> Find(std::string_view end, IniFileSystem& files) const {
+        std::vector<std::string> paths;
+        for (const std::string& name : Uninterrupted([&] { return files.NamesIn(folder); }).value) {
+            if (name.starts_with(temporaryStart) && name.ends_with(end))
+                paths.push_back(Path(name));
+        }
+        std::sort(paths.begin(), paths.end());
+        return paths;
     }
 };
 
@@ -341,8 +349,11 @@ IniFileName IniFileName::Absolute(std::wstring_view text, IniFileSystem& files) 
         return name;
     const auto folder = Uninterrupted([&] { return files.CurrentFolder(); });
     if (folder.error != 0)
-        Raise(folder.error, text, Deed::Write);
-    name.m_path = (fs::path(folder.value) / name.m_path).string();
+        Raise(folder.error, text, Purpose::Write);
+    std::string path = (fs::path(folder.value) / name.m_path).string();
+    constexpr std::size_t longest = 4095; // bytes; what is below such a folder can be named from there only
+    if (path.size() <= longest)
+        name.m_path = std::move(path);
     return name;
 }
 
@@ -356,7 +367,7 @@ std::optional<IniFileBytes> ReadBytes(const IniFileName& fileName, IniFileSystem
         if (!regular)
             return std::nullopt;
         IniFileBytes result{ReadAll(*regular, target), regular->stamp};
-        if (reading == mostReadings || result.stamp == StampOfOpen(regular->file, target, Deed::Read))
+        if (reading == mostReadings || result.stamp == StampOfOpen(regular->file, target, Purpose::Read))
             return result;
         files.Pause(std::chrono::milliseconds(1));
     }
@@ -379,13 +390,17 @@ void MakeFolders(std::wstring_view folder, IniFileSystem& files) {
         made /= part;
         const int error = Uninterrupted([&] { return files.MakeFolder(made.string()); });
         if (error != 0 && error != EEXIST)
-            Raise(error, folder, Deed::Write);
+            Raise(error, folder, Purpose::Write);
     }
 }
 
-std::vector<std::string> AbandonedFilesOf(const IniFileName& fileName, IniFileSystem& files) {
+std::vector<IniLeftover> LeftoversOf(const IniFileName& fileName, IniFileSystem& files) {
     const Neighbours neighbours(FollowLinks(fs::path(fileName.Path()), {files, fileName.Text()}));
-    std::vector<std::string> paths = neighbours.Temporaries(files).value;
+    std::vector<IniLeftover> leftovers;
+    for (std::string& path : neighbours.Find(Neighbours::keptEnd, files))
+        leftovers.push_back({std::move(path), true});
+
+    std::vector<std::string> paths = neighbours.Find(Neighbours::temporaryEnd, files);
     paths.push_back(neighbours.lock);
     // A save that has just created its lock file has it locked a moment later.
     for (int look = 0; look < 2; ++look) {
@@ -395,18 +410,21 @@ std::vector<std::string> AbandonedFilesOf(const IniFileName& fileName, IniFileSy
         if (lock.error == 0) {
             const OpenFile file(files, lock.value);
             if (Uninterrupted([&] { return files.TryLock(file.Get()); }) != 0)
-                return {};
+                return leftovers;
         } else if (lock.error != ENOENT) {
-            return {};
+            return leftovers;
         }
         paths.erase(std::remove_if(paths.begin(), paths.end(),
                                    [&](const std::string& path) {
                                        return Uninterrupted([&] { return files.StatusAt(path); }).error != 0;
                                    }),
                     paths.end()); // a save that has ended meanwhile has taken its files along
+        if (paths.empty())
+            break;
     }
-    std::sort(paths.begin(), paths.end());
-    return paths;
+    for (std::string& path : paths)
+        leftovers.push_back({std::move(path), false});
+    return leftovers;
 }
 
 // Replacing ------------------------------------------------------------------------------------------------
@@ -465,20 +483,27 @@ public:
             throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, L"It would be larger than 4 GiB");
         RequireWritable();
         constexpr int mostThefts = 20;
-        for (int thefts = 0;; ++thefts) {
+        for (int thefts = 0;;) {
             const auto setback = TryCommit(bytes, read);
-            if (!setback)
-                break;
-            if (*setback != SetbackKind::Stolen)
+            if (setback == SetbackKind::NeedsName)
+                continue;
+            if (setback && *setback != SetbackKind::Stolen)
                 return SetBack(*setback);
-            if (thefts == mostThefts)
+            if (setback && ++thefts > mostThefts)
                 throw ErrorOf(SetbackKind::TemporaryLost);
-            // What stands there now is nobody's text, and the old one is gone: ours is all that there is.
+            if (!setback) {
+                if (thefts > 0 && m_hasTemporary) // it is what was put there, not what we have read
+                    KeepAside();
+                if (!m_kept.empty())
+                    throw KeptAside();
+                break;
+            }
+            // The file that we have read is gone, and what stands there is not ours: ours comes there first.
             m_stamp = StampAt(m_path, Here());
             read.reset();
         }
         // Before the flush, which takes time: what another program makes of the file meanwhile is not ours.
-        const IniStamp stamp = StampOfOpen(m_text->file, Here(), Deed::Write);
+        const IniStamp stamp = StampOfOpen(m_text->file, Here(), Purpose::Write);
         Require([&] { return m_files.SyncFolder(m_neighbours.folder); });
         return stamp;
     }
@@ -489,49 +514,44 @@ private:
         FileChanged,
         LockLost,
         TemporaryLost,
-        Stolen, // somebody has put a file in the place of ours, which became the file, and took the old one
+        NeedsName, // the new text has to have a name from the start
+        Stolen, // another file stands there, though we have the lock, and the one that we have read is gone
     };
 
     /// An open file, with what tells it from others.
     struct KnownFile {
         OpenFile file;
-        IniFileStatus status;
+        FileId id;
+        std::uint32_t rights = 0;
     };
 
     [[nodiscard]] Target Here() const { return {m_files, m_fileName}; }
 
     [[nodiscard]] KnownFile Known(OpenFile file) const {
-        const IniFileStatus status = StatusOf(file, Here(), Deed::Write);
-        return {std::move(file), status};
+        const IniFileStatus status = StatusOf(file, Here(), Purpose::Write);
+        return {std::move(file), FileId(status), status.rights};
     }
 
     template <class Call>
     void Require(const Call& call) const {
         if (const int error = Uninterrupted(call))
-            Raise(error, m_fileName, Deed::Write);
+            Raise(error, m_fileName, Purpose::Write);
     }
 
     [[nodiscard]] int Remove(const std::string& path) const {
         return Uninterrupted([&] { return m_files.Remove(path); });
     }
 
-    enum class Standing : std::uint8_t { Nothing, This, Other };
-
-    /// What a path leads to: a file that we know, or something else.
-    template <class StatusOrStamp>
-    [[nodiscard]] Standing WhatIsAt(const std::string& path, const StatusOrStamp& file) const {
+    /// Which file a path leads to; nothing when there is none.
+    [[nodiscard]] std::optional<FileId> FileAt(const std::string& path) const {
         const auto named = Uninterrupted([&] { return m_files.StatusAt(path); });
         if (named.error == ENOENT)
-            return Standing::Nothing;
+            return std::nullopt;
         if (named.error != 0)
-            Raise(named.error, m_fileName, Deed::Write);
-        return IsSameFile(file, named.value) ? Standing::This : Standing::Other;
+            Raise(named.error, m_fileName, Purpose::Write);
+        return FileId(named.value);
     }
-    template <class StatusOrStamp>
-    [[nodiscard]] bool IsAt(const std::string& path, const StatusOrStamp& file) const {
-        return WhatIsAt(path, file) == Standing::This;
-    }
-    [[nodiscard]] bool HasLock() const { return m_lock && IsAt(m_neighbours.lock, m_lock->status); }
+    [[nodiscard]] bool HasLock() const { return m_lock && FileAt(m_neighbours.lock) == m_lock->id; }
 
     std::nullopt_t SetBack(SetbackKind kind) {
         m_setback = ErrorOf(kind);
@@ -545,6 +565,7 @@ private:
             return FileError(ERR_PERMISSION_DENIED, m_fileName,
                              L"Another program keeps removing " + DecodeBytes(m_neighbours.lock));
         case SetbackKind::TemporaryLost:
+        case SetbackKind::NeedsName:
         case SetbackKind::Stolen:
             return FileError(ERR_PATH_FILE_ACCESS, m_fileName,
                              L"Another program keeps removing " + DecodeBytes(m_temporary));
@@ -569,12 +590,12 @@ private:
         if (created.error == EACCES)
             throw FileError(ERR_PERMISSION_DENIED, m_fileName, L"Its folder does not allow new files");
         if (created.error != 0)
-            Raise(created.error, m_fileName, Deed::Write);
+            Raise(created.error, m_fileName, Purpose::Write);
 
         m_lock = Known(OpenFile(m_files, created.value));
         const int error = Uninterrupted([&] { return m_files.TryLock(m_lock->file.Get()); });
         if (error != 0 && error != ENOTSUP && error != EWOULDBLOCK)
-            Raise(error, m_fileName, Deed::Write);
+            Raise(error, m_fileName, Purpose::Write);
         // It may have been taken for abandoned before we could lock it.
         if (error != EWOULDBLOCK && HasLock())
             return true;
@@ -596,10 +617,14 @@ private:
             RaiseFor(m_neighbours.lock, opened.error, m_fileName);
 
         const OpenFile lock(m_files, opened.value);
+        const IniFileStatus status = StatusOf(lock, Here(), Purpose::Write);
+        if (status.kind != IniFileStatus::Kind::Regular || status.size != 0)
+            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName,
+                            DecodeBytes(m_neighbours.lock) + L": It is not the lock file of a save");
         const int error = Uninterrupted([&] { return m_files.TryLock(lock.Get()); });
         if (error == ENOTSUP)
             RemoveUntouched(&lock, isLast);
-        else if (error == 0 && IsAt(m_neighbours.lock, StatusOf(lock, Here(), Deed::Write)))
+        else if (error == 0 && FileAt(m_neighbours.lock) == FileId(status))
             RemoveLeftovers();
         else if (error == EWOULDBLOCK && isLast)
             throw InUseBy(m_files.LockHolder(lock.Get()));
@@ -611,7 +636,7 @@ private:
     /// untouched, at the end of the waiting. A save that takes longer than that sees that its lock is gone.
     void RemoveUntouched(const OpenFile* lock, bool isLast) {
         const IniStamp stamp =
-            lock ? StampOfOpen(*lock, Here(), Deed::Write) : StampAt(m_neighbours.lock, Here());
+            lock ? StampOfOpen(*lock, Here(), Purpose::Write) : StampAt(m_neighbours.lock, Here());
         if (!m_firstSeen.exists)
             m_firstSeen = stamp;
         if (!isLast || !stamp.exists)
@@ -623,7 +648,7 @@ private:
 
     /// The lock file goes last: as long as it is there, somebody knows that there is something to remove.
     void RemoveLeftovers() {
-        std::vector<std::string> paths = m_neighbours.Temporaries(m_files).value;
+        std::vector<std::string> paths = m_neighbours.Find(Neighbours::temporaryEnd, m_files);
         paths.push_back(m_neighbours.lock);
         for (const std::string& path : paths) {
             const int error = Remove(path);
@@ -646,7 +671,7 @@ private:
         if (error == EACCES)
             throw FileError(ERR_PERMISSION_DENIED, m_fileName, L"The file is read-only");
         if (error != 0)
-            Raise(error, m_fileName, Deed::Write);
+            Raise(error, m_fileName, Purpose::Write);
     }
 
     /// Creates the file for the new text, without a name where that can be. False when its name is taken.
@@ -655,7 +680,9 @@ private:
         static_cast<void>(RemoveTemporary()); // what an attempt before this one has left
         m_hasTemporary = false;
         m_temporary = m_neighbours.Temporary(m_files.RandomNumber());
-        auto created = Uninterrupted([&] { return m_files.OpenUnnamed(m_neighbours.folder, how); });
+        IniResult<IniFileSystem::Handle> created{ENOTSUP, {}};
+        if (!m_needsName)
+            created = Uninterrupted([&] { return m_files.OpenUnnamed(m_neighbours.folder, how); });
         if (created.error == ENOTSUP) {
             created = Uninterrupted([&] { return m_files.Open(m_temporary, how); });
             if (created.error == EEXIST)
@@ -663,7 +690,7 @@ private:
             m_hasTemporary = created.error == 0;
         }
         if (created.error != 0)
-            Raise(created.error, m_fileName, Deed::Write);
+            Raise(created.error, m_fileName, Purpose::Write);
         m_text = Known(OpenFile(m_files, created.value));
         return true;
     }
@@ -684,7 +711,7 @@ private:
         Require([&] { return m_files.Sync(m_text->file.Get()); });
         Require([&] {
             return m_old ? m_files.CopyAttributes(m_old->file.Get(), m_text->file.Get())
-                         : m_files.SetRights(m_text->file.Get(), m_text->status.rights);
+                         : m_files.SetRights(m_text->file.Get(), m_text->rights);
         });
         Require([&] { return m_files.Sync(m_text->file.Get()); });
     }
@@ -693,9 +720,9 @@ private:
         while (!bytes.empty()) {
             const auto count = Uninterrupted([&] { return m_files.Write(m_text->file.Get(), bytes); });
             if (count.error != 0)
-                Raise(count.error, m_fileName, Deed::Write);
+                Raise(count.error, m_fileName, Purpose::Write);
             if (count.value == 0) // a system that neither writes nor says why would be asked for ever
-                Raise(EIO, m_fileName, Deed::Write);
+                Raise(EIO, m_fileName, Purpose::Write);
             bytes.remove_prefix(count.value);
         }
     }
@@ -715,6 +742,8 @@ private:
         if (!CreateText())
             return SetbackKind::TemporaryLost;
         WriteText(bytes);
+        if (StatusOf(m_text->file, Here(), Purpose::Write).size != bytes.size())
+            Raise(EIO, m_fileName, Purpose::Write); // the system has not done what it said
         return Replace(read);
     }
 
@@ -724,69 +753,108 @@ private:
             if (error == EEXIST)
                 return SetbackKind::TemporaryLost;
             if (error != 0)
-                Raise(error, m_fileName, Deed::Write);
+                return WhyNoName(error);
             m_hasTemporary = true;
         }
-        if (m_hasTemporary && !IsAt(m_temporary, m_text->status))
+        if (m_hasTemporary && FileAt(m_temporary) != m_text->id)
             return SetbackKind::TemporaryLost;
         if (!HasLock())
             return SetbackKind::LockLost;
         if (!IsAsItWas(read)) // the last look: what comes now must not be waited for
             return SetbackKind::FileChanged;
-        if (!m_hasTemporary)
-            return Create();
-        return m_stamp.exists ? Exchange() : Overwrite();
+        return m_stamp.exists ? Exchange() : Create();
+    }
+
+    /// When a file without a name cannot get one: raises what will not be better with a name from the start.
+    [[nodiscard]] SetbackKind WhyNoName(int error) {
+        constexpr int refusals[] = {EPERM, EACCES, EMLINK, ENOENT, EXDEV, EINVAL, ENOSYS, ENOTSUP};
+        if (std::find(std::begin(refusals), std::end(refusals), error) == std::end(refusals))
+            Raise(error, m_fileName, Purpose::Write);
+        m_needsName = true;
+        return SetbackKind::NeedsName;
     }
 
     /// For a file that is not there yet.
     std::optional<SetbackKind> Create() {
         const int error = Uninterrupted([&] { return m_files.Name(m_text->file.Get(), m_path); });
         if (error != 0 && error != EEXIST)
-            Raise(error, m_fileName, Deed::Write);
-        return error == 0 && IsAt(m_path, m_text->status) ? std::nullopt
+            return m_hasTemporary ? Overwrite() : WhyNoName(error); // not every file can have two names
+        return error == 0 && FileAt(m_path) == m_text->id ? std::nullopt
                                                           : std::optional(SetbackKind::FileChanged);
     }
 
+    /// Lets the new text and the file change names. Whatever file then stands where no file of ours should be
+    /// goes back to its place, or is kept aside, which is told: it is never removed.
     std::optional<SetbackKind> Exchange() {
         const int error = Uninterrupted([&] { return m_files.Exchange(m_temporary, m_path); });
         if (error == ENOTSUP)
             return Overwrite();
         if (error != 0)
             return WhyNot(error);
-        const bool isNewThere = IsAt(m_path, m_text->status);
-        const Standing taken = WhatIsAt(m_temporary, m_stamp);
-        m_hasTemporary = taken == Standing::This; // what is somebody else's is not removed
-        if (isNewThere && taken != Standing::Other)
+        m_hasTemporary = false; // until we know what it is
+        std::optional<FileId> there;
+        std::optional<FileId> taken;
+        try {
+            taken = FileAt(m_temporary);
+            m_hasTemporary = taken == FileId(m_stamp);
+            there = FileAt(m_path);
+        } catch (...) {
+            const auto again = m_files.StatusAt(m_temporary);
+            m_hasTemporary = again.error == 0 && FileId(again.value) == FileId(m_stamp);
+            if (!m_hasTemporary)
+                KeepAside();
+            throw;
+        }
+        const bool isNewThere = there == m_text->id;
+        const bool isForeign = taken && !m_hasTemporary; // what we have taken out
+        if (isNewThere && !isForeign)
             return std::nullopt;
-        if (!HasLock()) { // somebody has saved meanwhile: what we have taken out, or what is there now
-            if (isNewThere && !PutBack())
-                throw KeptAside();
-            return SetbackKind::FileChanged;
+        if (taken == m_text->id) // the system has not done what it says
+            return Overwrite();
+        if (!HasLock()) { // somebody has saved meanwhile
+            if (!isForeign || (isNewThere && PutBack(*there, *taken)))
+                return SetbackKind::FileChanged;
+            KeepAside();
+            throw KeptAside();
         }
-        if (!isNewThere) {
-            // It was put in the place of our new text, or of the file right behind us: nobody can tell.
-            const bool isOldBack = m_hasTemporary && PutBack() && IsAt(m_path, m_stamp);
-            if (!isOldBack)
-                return SetbackKind::Stolen;
-            m_hasTemporary = false;
-        }
-        throw KeptAside();
+        // A program that takes no lock has put a file there, right before us, or right behind us, or in the
+        // place of our new text: nobody can tell.
+        const bool isOldBack = !isNewThere && there && m_hasTemporary && PutBack(*there, *taken);
+        if (isForeign || isOldBack)
+            KeepAside();
+        if (isNewThere || isOldBack)
+            throw KeptAside();
+        return SetbackKind::Stolen;
     }
 
-    /// Takes an exchange back. Where that fails, the file that was there keeps its temporary name.
-    bool PutBack() {
+    /// Takes an exchange back. Whether the two files stand where they stood before: `there`, which goes, and
+    /// `taken`, which comes back.
+    bool PutBack(const FileId& there, const FileId& taken) {
         m_hasTemporary = false;
         const int error = Uninterrupted([&] { return m_files.Exchange(m_temporary, m_path); });
         if (error != 0 && error != ENOENT)
             RaiseFor(m_temporary, error, m_fileName);
-        m_hasTemporary = error == 0;
-        return m_hasTemporary;
+        const std::optional<FileId> back = FileAt(m_temporary);
+        m_hasTemporary = back == m_text->id;
+        if (FileAt(m_path) == taken && back == there)
+            return true;
+        if (!m_hasTemporary)
+            KeepAside();
+        return false;
     }
 
+    /// Gives what stands under the temporary name another one, under which no save ever removes it.
+    void KeepAside() {
+        m_hasTemporary = false;
+        const std::string kept = Neighbours::Kept(m_temporary);
+        const int error = Uninterrupted([&] { return m_files.Rename(m_temporary, kept); });
+        if (error != ENOENT)
+            m_kept += (m_kept.empty() ? "" : ", ") + (error == 0 ? kept : m_temporary);
+    }
     [[nodiscard]] QuorError KeptAside() const {
         return FileError(ERR_PATH_FILE_ACCESS, m_fileName,
                          L"Another program has replaced it at the same moment; its file is kept as " +
-                             DecodeBytes(m_temporary));
+                             DecodeBytes(m_kept));
     }
 
     /// Where files cannot change names, or there is no old one.
@@ -794,7 +862,7 @@ private:
         if (const int error = Uninterrupted([&] { return m_files.Rename(m_temporary, m_path); }))
             return WhyNot(error);
         m_hasTemporary = false;
-        if (IsAt(m_path, m_text->status))
+        if (FileAt(m_path) == m_text->id)
             return std::nullopt;
         if (!HasLock()) // somebody has saved after us
             return SetbackKind::FileChanged;
@@ -808,8 +876,8 @@ private:
             throw FileError(ERR_PATH_FILE_ACCESS, m_fileName,
                             L"It is a mount point, which cannot be replaced");
         if (error != ENOENT)
-            Raise(error, m_fileName, Deed::Write);
-        return IsAt(m_temporary, m_text->status) ? SetbackKind::FileChanged : SetbackKind::TemporaryLost;
+            Raise(error, m_fileName, Purpose::Write);
+        return FileAt(m_temporary) == m_text->id ? SetbackKind::FileChanged : SetbackKind::TemporaryLost;
     }
 
     /// False when the temporary file, or the old file under its name, is still there.
@@ -831,6 +899,8 @@ private:
     std::optional<KnownFile> m_text;
     std::string m_temporary;     // the path that the new text has, or gets, before that of the file
     bool m_hasTemporary = false; // there is something of ours under that path
+    bool m_needsName = false;    // there can be no files without one here
+    std::string m_kept;          // files of others that were kept aside
     std::optional<QuorError> m_setback;
 };
 

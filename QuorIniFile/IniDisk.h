@@ -32,8 +32,9 @@ public:
         : IniFileName(std::wstring(std::wstring_view(text))) {}
     IniFileName(std::wstring text); // NOLINT(google-explicit-constructor)
 
-    /// A relative name that goes on meaning the file in what is the current folder now. Raises 52 for a name
-    /// that no file can have, 76 when there is no current folder.
+    /// A relative name that goes on meaning the file in what is the current folder now, unless that is so
+    /// deep that no path leads to it. Raises 52 for a name that no file can have, 76 when there is no current
+    /// folder.
     [[nodiscard]] static IniFileName Absolute(std::wstring_view text, IniFileSystem& files);
 
     [[nodiscard]] const std::wstring& Text() const { return m_text; }
@@ -90,10 +91,19 @@ ReadBytes(const IniFileName& fileName, IniFileSystem& files = IniFileSystem::Sys
 /// Creates a folder, and those above it, where they are missing. What is created is for the user alone.
 QUORINIFILE_EXPORT void MakeFolders(std::wstring_view folder, IniFileSystem& files = IniFileSystem::System());
 
-/// What interrupted saves of a file have left beside it, by their paths: the next save removes them, or,
-/// where their lock file is gone, nobody does. Nothing as long as a save is under way.
-[[nodiscard]] QUORINIFILE_EXPORT std::vector<std::string>
-AbandonedFilesOf(const IniFileName& fileName, IniFileSystem& files = IniFileSystem::System());
+/// A file that a save has left beside its own.
+struct IniLeftover {
+    std::string path;
+    /// What another program had put in the place of the file at the very moment of a save, which has told so.
+    /// It stays until somebody removes it. Others are what an interrupted save has left: the next save
+    /// removes them, or, where their lock file is gone, nobody does.
+    bool isKept = false;
+};
+
+/// What saves of a file have left beside it. Of interrupted saves nothing as long as a save is under way, or
+/// where nobody can tell (a file system without locks, a lock file that only another user may open).
+[[nodiscard]] QUORINIFILE_EXPORT std::vector<IniLeftover>
+LeftoversOf(const IniFileName& fileName, IniFileSystem& files = IniFileSystem::System());
 
 /// The replacement of one file: locked, then read, then written, so that no other process that goes this way
 /// comes in between.
@@ -106,12 +116,13 @@ AbandonedFilesOf(const IniFileName& fileName, IniFileSystem& files = IniFileSyst
 ///
 /// The new text is another file, of a name that nobody can foresee, ".quor-<number>-<random>.tmp", and has
 /// none until it is whole, where the system can do that. It changes names with the target, and the old file
-/// goes when it is certain which file stands where: neither a lock that was lost nor a file that somebody has
-/// put in the place of ours can destroy anything.
+/// goes when it is certain which file stands where. A file that somebody else has put there meanwhile goes
+/// back to its place, or is kept beside it (".quor-<number>-<random>.kept") and told of.
 class QUORINIFILE_EXPORT IniReplacement {
 public:
-    /// Waits up to ten seconds for its turn, then raises 70 with the process that has the file in use. A
-    /// folder that does not exist is 76, one that cannot be written 70.
+    /// Waits up to ten seconds for its turn, then raises 70 with the process that has the file in use; twenty
+    /// where somebody keeps removing the lock file. A folder that does not exist is 76, one that cannot be
+    /// written 70.
     explicit IniReplacement(const IniFileName& fileName, IniFileSystem& files = IniFileSystem::System());
     IniReplacement(const IniReplacement&) = delete;
     IniReplacement& operator=(const IniReplacement&) = delete;
@@ -137,7 +148,8 @@ public:
     /// On a failure the file is as it was, or, when the failure comes after the replacement, whole and new;
     /// it may not outlive a power cut then. Mode, owner, access lists and extended attributes are kept as far
     /// as the system allows; of several hard links the others keep the old file. A file that we are not to
-    /// write is error 70, a mount point 75.
+    /// write is error 70, a mount point 75. 75 is also, with the name under which it is kept, that another
+    /// program has put a file there at the very moment: the new text is in the file then, or the old one.
     [[nodiscard]] std::optional<IniStamp> Commit(std::string_view bytes,
                                                  std::optional<std::string_view> read = std::nullopt);
     /// What has come in between, as the error to raise when one does not try again: 70 when another program

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
@@ -166,8 +167,10 @@ std::string ConditionOf(const std::string& process) {
     const char* const ended = ", which has ended; a process that it has started has its lock";
     std::ifstream file("/proc/" + process + "/stat"); // 1234 (host) S ...; the name may hold anything
     std::string line;
-    if (!std::getline(file, line))
-        return ended;
+    if (!std::getline(file, line)) { // it has ended, or is not shown to us
+        const bool hasEnded = ::kill(static_cast<pid_t>(std::stol(process)), 0) != 0 && errno == ESRCH;
+        return hasEnded ? ended : "";
+    }
     const std::size_t open = line.find('(');
     const std::size_t close = line.rfind(") ");
     if (open == std::string::npos || close == std::string::npos || close + 2 >= line.size())
@@ -181,37 +184,39 @@ std::string ConditionOf(const std::string& process) {
     return name;
 }
 
-/// The locked files of this process. The kernel gives a lock back when all handles to it are closed, those
-/// included that a child of fork has got without knowing: it closes them before it does anything else, so
-/// that no lock outlives the process that took it. (A program that is started closes them by O_CLOEXEC.)
-class LockedFiles {
+/// The lock files that this process has open. The kernel gives a lock back when all handles to it are closed,
+/// those included that a child of fork has got without knowing: it closes them before it does anything else,
+/// so that no lock outlives the process that took it. (A program that is started closes them by O_CLOEXEC.)
+class OpenLockFiles {
 public:
-    static LockedFiles& OfThisProcess() {
+    static OpenLockFiles& OfThisProcess() {
         // Never destroyed: a store may end at the very end of the program.
         // NOLINTNEXTLINE(cppcoreguidelines-owning-memory,cppcoreguidelines-avoid-non-const-global-variables)
-        static auto* const files = new LockedFiles;
+        static auto* const files = new OpenLockFiles;
         return *files;
     }
-    /// An error number; 0 when the file is remembered.
-    int Add(int file) {
+    /// What `open` opens. No fork comes between that and its being remembered.
+    template <class Open>
+    int Add(const Open& open) {
         const std::lock_guard lock(m_mutex);
-        try {
+        m_files.reserve(m_files.size() + 1);
+        const int file = open();
+        if (file >= 0)
             m_files.push_back(file);
-        } catch (const std::bad_alloc&) {
-            return ENOMEM;
-        }
-        return 0;
+        return file;
     }
-    void Remove(int file) {
+    /// Closes a file, whether it is one of these or not.
+    void Close(int file) {
         const std::lock_guard lock(m_mutex);
         m_files.erase(std::remove(m_files.begin(), m_files.end(), file), m_files.end());
+        ::close(file);
     }
 
 private:
-    LockedFiles() {
+    OpenLockFiles() {
         ::pthread_atfork([] { OfThisProcess().m_mutex.lock(); }, [] { OfThisProcess().m_mutex.unlock(); },
                          [] {
-                             LockedFiles& files = OfThisProcess();
+                             OpenLockFiles& files = OfThisProcess();
                              for (const int file : files.m_files)
                                  ::close(file);
                              files.m_files.clear();
@@ -283,14 +288,17 @@ public:
             break;
         case Opening::ToLock:
             // Some network file systems lock only what is open for writing; elsewhere reading will do.
-            file = OpenFile(path, O_RDWR | O_NONBLOCK | O_NOFOLLOW, 0);
-            if (file < 0 && errno == EACCES)
-                file = OpenFile(path, O_RDONLY | O_NONBLOCK | O_NOFOLLOW, 0);
+            file = OpenLockFiles::OfThisProcess().Add([&] {
+                const int writable = OpenFile(path, O_RDWR | O_NONBLOCK | O_NOFOLLOW, 0);
+                return writable < 0 && errno == EACCES ? OpenFile(path, O_RDONLY | O_NONBLOCK | O_NOFOLLOW, 0)
+                                                       : writable;
+            });
             break;
         case Opening::CreateLock: {
             const std::size_t slash = path.rfind('/');
             const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
-            file = OpenFile(path, O_RDWR | O_CREAT | O_EXCL, 0600);
+            file = OpenLockFiles::OfThisProcess().Add(
+                [&] { return OpenFile(path, O_RDWR | O_CREAT | O_EXCL, 0600); });
             if (file >= 0)
                 ShareLock(file, folder);
             break;
@@ -323,10 +331,7 @@ public:
     }
 
     // After a Sync that went well, closing has nothing to tell.
-    void Close(Handle file) override {
-        LockedFiles::OfThisProcess().Remove(Fd(file));
-        ::close(Fd(file));
-    }
+    void Close(Handle file) override { OpenLockFiles::OfThisProcess().Close(Fd(file)); }
 
     IniResult<std::size_t> Read(Handle file, std::uint64_t offset, char* bytes, std::size_t size) override {
         const ssize_t count = ::pread(Fd(file), bytes, size, static_cast<off_t>(offset));
@@ -352,9 +357,6 @@ public:
     }
 
     int TryLock(Handle file) override {
-        // Before it is locked: a child must not come in between.
-        if (const int error = LockedFiles::OfThisProcess().Add(Fd(file)))
-            return error;
         const int error = ErrorUnless(::flock(Fd(file), LOCK_EX | LOCK_NB) == 0);
         return IsOneOf(error, {ENOLCK, ENOSYS, EINVAL, EOPNOTSUPP}) ? ENOTSUP : error;
     }

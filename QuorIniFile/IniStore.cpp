@@ -295,9 +295,6 @@ private:
         if (m_isAbandoned)
             throw NotWritten();
         if (m_document && m_document->Written()) {
-            // The file may have been replaced after it was locked, and read, or read again, only then.
-            if (!replacement.Has(m_document->BaseText()))
-                return FileError(ERR_PERMISSION_DENIED, FileName(), L"Another program keeps writing it");
             if (auto setback = SaveInto(replacement, *m_document))
                 return setback;
         }

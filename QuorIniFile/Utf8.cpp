@@ -41,14 +41,18 @@ std::uint32_t NextCharacter(std::wstring_view text, std::size_t& at) {
 
 /// The first and the last code of each range that a terminal or a log must not get. They are in order.
 constexpr std::pair<std::uint32_t, std::uint32_t> unprintable[] = {
-    {0x0, 0x1F},      // control characters
-    {0x7F, 0x9F},     // delete, and the control characters that are one code for ESC and a letter
-    {0x61C, 0x61C},   // Arabic letter mark
-    {0x200E, 0x200F}, // left-to-right and right-to-left mark
-    {0x2028, 0x202E}, // line and paragraph separator, embeddings and overrides of the direction
-    {0x2066, 0x2069}, // isolates of the direction
-    {0xD800, 0xDFFF}, // lone surrogates
-    {0xFEFF, 0xFEFF}, // byte-order mark
+    {0x0, 0x1F},        // control characters
+    {0x7F, 0x9F},       // delete, and the control characters that are one code for ESC and a letter
+    {0xAD, 0xAD},       // soft hyphen: from here on what nobody sees, or what changes the direction
+    {0x61C, 0x61C},     // Arabic letter mark
+    {0x180E, 0x180E},   // Mongolian vowel separator
+    {0x200B, 0x200F},   // spaces and joiners without a width, marks of direction
+    {0x2028, 0x202E},   // line and paragraph separator, embeddings and overrides of the direction
+    {0x2060, 0x206F},   // joiners and operators without a width, isolates of the direction
+    {0xD800, 0xDFFF},   // lone surrogates
+    {0xFEFF, 0xFEFF},   // byte-order mark
+    {0xFFF9, 0xFFFB},   // annotations
+    {0xE0000, 0xE007F}, // tags
     {lastCharacter + 1, noCharacter}, // no Unicode
 };
 

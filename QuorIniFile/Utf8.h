@@ -55,9 +55,9 @@ inline constexpr std::uint32_t lastCharacter = 0x10FFFF;
 [[nodiscard]] QUORINIFILE_EXPORT std::string ToUtf8(std::wstring_view text);
 
 /// `text` with escapes for what a terminal would obey or a log would take for a new line: control characters,
-/// line separators, marks of direction, the byte-order mark, and what is no Unicode character. They look like
-/// those in the values of files: "\n", "\r", "\t", else "\u{1B}". Everything else stays, backslashes too, so
-/// the result is not to be parsed. A text of several lines is escaped line by line.
+/// line separators, marks of direction, characters that nobody sees, and what is no Unicode character. They
+/// look like those in the values of files: "\n", "\r", "\t", else "\u{1B}". Everything else stays,
+/// backslashes too, so the result is not to be parsed. A text of several lines is escaped line by line.
 [[nodiscard]] QUORINIFILE_EXPORT std::wstring EscapeControls(std::wstring_view text);
 
 /// The same as UTF-8, ready to be printed.

@@ -480,33 +480,35 @@ bool MainWindow::Save() {
     const auto current = CurrentProbe();
     const std::wstring name = current ? m_document->Name(*current) : std::wstring();
     if (!SaveBy(tr("%1 cannot be saved.").arg(FileName()),
-                [this](OthersChanges others) { m_document->Save(others); }))
+                [this](const OthersChanges& replaced) { m_document->Save(replaced); }))
         return false;
     ShowList(m_document->Find(name)); // probes that another program has added may stand before it now
     statusBar()->showMessage(tr("%1 is saved.").arg(FileName()), 5000);
     return true;
 }
 
-bool MainWindow::SaveBy(const QString& what, const std::function<void(OthersChanges)>& save) {
-    bool mayReplace = true;
+bool MainWindow::SaveBy(const QString& what, const std::function<void(const OthersChanges&)>& save) {
+    bool isRefused = false;
     const bool done = Try(what, [&] {
-        try {
-            save(OthersChanges::Refuse);
-            return;
-        } catch (const DocumentError& error) {
-            if (error.failure != Failure::ChangedByOthers)
-                throw;
-            Message box(this, QMessageBox::Warning, Words(error),
-                        tr("Do you want to replace what the other program has written?"),
-                        QMessageBox::Save | QMessageBox::Cancel);
-            box.button(QMessageBox::Save)->setText(tr("&Replace"));
-            box.setDefaultButton(QMessageBox::Cancel);
-            mayReplace = box.exec() == QMessageBox::Save;
+        // Asked again for what has come while the question was open.
+        for (OthersChanges replaced; !isRefused;) {
+            try {
+                save(replaced);
+                return;
+            } catch (const DocumentError& error) {
+                if (error.failure != Failure::ChangedByOthers)
+                    throw;
+                Message box(this, QMessageBox::Warning, Words(error),
+                            tr("Do you want to replace what the other program has written?"),
+                            QMessageBox::Save | QMessageBox::Cancel);
+                box.button(QMessageBox::Save)->setText(tr("&Replace"));
+                box.setDefaultButton(QMessageBox::Cancel);
+                isRefused = box.exec() != QMessageBox::Save;
+                replaced = {error.details, error.conflicts};
+            }
         }
-        if (mayReplace)
-            save(OthersChanges::Replace);
     });
-    return done && mayReplace;
+    return done && !isRefused;
 }
 
 bool MainWindow::SaveCopyAs() {
@@ -516,7 +518,7 @@ bool MainWindow::SaveCopyAs() {
         return false;
     const auto current = CurrentProbe();
     if (!SaveBy(tr("%1 cannot be saved.").arg(path),
-                [&](OthersChanges others) { m_document->SaveCopyAs(FromQt(path), others); }))
+                [&](const OthersChanges& replaced) { m_document->SaveCopyAs(FromQt(path), replaced); }))
         return false;
     RememberRecent(QFileInfo(path).absoluteFilePath());
     ShowList(current);

@@ -67,7 +67,7 @@ private:
     bool SaveCopyAs();
     /// Saves by `save`, and asks before what another program has written gives way. A failure is told under
     /// `what`. False when nothing was saved.
-    bool SaveBy(const QString& what, const std::function<void(OthersChanges)>& save);
+    bool SaveBy(const QString& what, const std::function<void(const OthersChanges&)>& save);
     [[nodiscard]] QString AskForHostFile(const QString& title, bool toSave);
     void Import();
     /// Adds the probes of stand-alone files. False when not all could be added.

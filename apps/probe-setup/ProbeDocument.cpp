@@ -34,12 +34,14 @@ namespace fs = std::filesystem;
 namespace {
 
 /// Gives a file these bytes, whatever stands in it.
-void ReplaceBytes(const std::wstring& path, std::string_view bytes) {
+void ReplaceBytes(const std::wstring& path, std::string_view bytes, QuorIniFile::IniFileSystem& files) {
     constexpr int mostTries = 20;
-    for (int tries = 0; !QuorIniFile::IniReplacement(path).Commit(bytes); ++tries) {
+    for (int tries = 0;; ++tries) {
+        QuorIniFile::IniReplacement replacement(path, files);
+        if (replacement.Commit(bytes))
+            return;
         if (tries == mostTries)
-            throw QuorIniFile::FileError(QuorIniFile::ERR_PERMISSION_DENIED, path,
-                                         L"Another program keeps writing it");
+            throw QuorError(replacement.Setback());
     }
 }
 
@@ -577,14 +579,14 @@ bool ProbeDocument::Changed() const {
     return !RemovedEntries().empty();
 }
 
-void ProbeDocument::Save(OthersChanges others) {
+void ProbeDocument::Save(const OthersChanges& replaced) {
     // What was read stays in m_store, whatever becomes of this save.
     const auto store = StoreOf(m_path);
     bool othersWrote = false;
     store->Edit([&] {
         // A file that is gone is not made anew: it would hold nothing but what has changed.
         static_cast<void>(store->Sections());
-        othersWrote = WriteChanges(store, others);
+        othersWrote = WriteChanges(store, replaced);
     });
     Settle();
     m_store = store;
@@ -601,7 +603,7 @@ void ProbeDocument::Save(OthersChanges others) {
 }
 
 std::unordered_set<const ProbeDocument::Entry*>
-ProbeDocument::CheckForConflicts(const std::shared_ptr<IniStore>& theirs, OthersChanges others) {
+ProbeDocument::CheckForConflicts(const std::shared_ptr<IniStore>& theirs, const OthersChanges& replaced) {
     std::unordered_set<std::wstring> sections;
     std::unordered_set<std::wstring> taken; // and by whose settings
     for (const std::wstring& section : theirs->Sections()) {
@@ -631,7 +633,13 @@ ProbeDocument::CheckForConflicts(const std::shared_ptr<IniStore>& theirs, Others
         if (sections.contains(Folded(entry->Section())) && !IsSameRecord(theirs, entry->Section()))
             changed.push_back(entry->name);
     }
-    if (others == OthersChanges::Refuse && !(changed.empty() && conflicts.empty()))
+    const auto isAgreed = [](const auto& agreed) {
+        return [&agreed](const auto& found) {
+            return std::find(agreed.begin(), agreed.end(), found) != agreed.end();
+        };
+    };
+    if (!std::all_of(changed.begin(), changed.end(), isAgreed(replaced.probes)) ||
+        !std::all_of(conflicts.begin(), conflicts.end(), isAgreed(replaced.values)))
         throw DocumentError{Failure::ChangedByOthers, m_path, std::move(changed), std::move(conflicts)};
     for (Entry* const entry : gone)
         RequireWhole(*entry);
@@ -673,11 +681,11 @@ void ProbeDocument::WriteAll(const std::shared_ptr<IniStore>& store) {
     }
 }
 
-bool ProbeDocument::WriteChanges(const std::shared_ptr<IniStore>& store, OthersChanges others) {
+bool ProbeDocument::WriteChanges(const std::shared_ptr<IniStore>& store, const OthersChanges& replaced) {
     const bool othersWrote = m_store->FileChanged();
     std::unordered_set<const Entry*> gone;
     if (othersWrote)
-        gone = CheckForConflicts(store, others);
+        gone = CheckForConflicts(store, replaced);
     MoveSections(*store);
     for (const Entry& entry : m_entries) {
         if (IsMerged(entry) && !gone.contains(&entry))
@@ -809,21 +817,21 @@ void ProbeDocument::Settle() {
     m_undone.clear();
 }
 
-void ProbeDocument::SaveCopyAs(const std::wstring& path, OthersChanges others) {
-    const auto original = m_path.empty() ? std::nullopt : QuorIniFile::ReadBytes(m_path);
+void ProbeDocument::SaveCopyAs(const std::wstring& path, const OthersChanges& replaced) {
+    const auto original = m_path.empty() ? std::nullopt : QuorIniFile::ReadBytes(m_path, m_files);
     const bool isOwn = !m_path.empty() && IsSameFile(path, m_path);
     if (isOwn && original) {
-        Save(others);
+        Save(replaced);
         return;
     }
     const WorkFile work;
-    ReplaceBytes(work.Path(), original ? original->bytes : std::string());
+    ReplaceBytes(work.Path(), original ? original->bytes : std::string(), m_files);
     const auto store = StoreOf(work.Path());
     try {
         // Where somebody has removed the file, the probes are what can be saved of it.
         store->Edit([&] {
             if (original)
-                static_cast<void>(WriteChanges(store, others));
+                static_cast<void>(WriteChanges(store, replaced));
             else
                 WriteAll(store);
         });
@@ -837,7 +845,7 @@ void ProbeDocument::SaveCopyAs(const std::wstring& path, OthersChanges others) {
             text.replace(at, work.Path().size(), path);
         throw QuorError(error.Number(), error.Source(), text);
     }
-    ReplaceBytes(path, QuorIniFile::ReadBytes(work.Path())->bytes);
+    ReplaceBytes(path, QuorIniFile::ReadBytes(work.Path(), m_files)->bytes, m_files);
     if (!m_path.empty() && !isOwn)
         return;
     auto saved = StoreOf(path);

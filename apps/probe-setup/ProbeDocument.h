@@ -66,10 +66,12 @@ struct DocumentError {
     std::vector<ProbeRecords::RecordConflict> conflicts = {};
 };
 
-/// What becomes of what another program has written about the very probes or keys that are to be saved.
-enum class OthersChanges {
-    Refuse,  ///< nothing is saved
-    Replace, ///< it gives way; what was removed of a changed probe comes back
+/// What another program has written about the very probes or keys that are to be saved, and what is to give
+/// way: the user has seen it, in the error of a save. Whatever else it has written meanwhile refuses the save
+/// anew. What was removed of a changed probe comes back.
+struct OthersChanges {
+    std::vector<std::wstring> probes;
+    std::vector<ProbeRecords::RecordConflict> values;
 };
 
 /// The probes of a host's INI file, as they are to be: a list that is edited in memory and saved on request.
@@ -177,13 +179,13 @@ public:
     /// another program has used one of the new names in it, and when it has changed a probe that is to be
     /// written whole or removed, or a key that is to be written. What another program has added or changed is
     /// in the list afterwards. The document must have a file.
-    void Save(OthersChanges others = OthersChanges::Refuse);
+    void Save(const OthersChanges& replaced = {});
     /// Saves the document, with all of the file around the probes, under another name, in place of what is
     /// there; without its surroundings, when its own file is gone. The document stays with its own file, if
     /// it has one, and takes the new one otherwise; a file of its own that was gone is its own again. Raises
     /// what Save raises, and DocumentError when the file is gone and a probe, whose text is lost with it, was
     /// not read wholly or is of an unknown type.
-    void SaveCopyAs(const std::wstring& path, OthersChanges others = OthersChanges::Refuse);
+    void SaveCopyAs(const std::wstring& path, const OthersChanges& replaced = {});
 
     /// Whether `path` is a stand-alone settings file: by its extension, and because no host keeps probes in
     /// it. Raises QuorError when it cannot be read.
@@ -241,7 +243,7 @@ private:
     /// Joins what was done with what others have written, and writes it, within an edit of the store; nothing
     /// of the document changes, for the edit may begin anew. Returns whether others have written.
     [[nodiscard]] bool WriteChanges(const std::shared_ptr<QuorIniFile::IniStore>& store,
-                                    OthersChanges others);
+                                    const OthersChanges& replaced);
     /// A probe that stood in the file when it was read.
     struct Owner {
         const Entry* entry;
@@ -280,7 +282,7 @@ private:
     /// Raises DocumentError when what was done cannot be joined with what others have written into `theirs`.
     /// Returns the changed probes that are gone there.
     [[nodiscard]] std::unordered_set<const Entry*>
-    CheckForConflicts(const std::shared_ptr<QuorIniFile::IniStore>& theirs, OthersChanges others);
+    CheckForConflicts(const std::shared_ptr<QuorIniFile::IniStore>& theirs, const OthersChanges& replaced);
     /// Raises DocumentError when a probe would get a name that is `taken` in the file, and was not by ours.
     void RequireFreeNames(const std::unordered_set<std::wstring>& taken) const;
     [[nodiscard]] bool IsSameRecord(const std::shared_ptr<QuorIniFile::IniStore>& theirs,

@@ -42,7 +42,7 @@ public:
             CheckRecord(Probe(store, m_file.Path(), record), record);
         for (const auto& [line, text] : m_problems)
             std::cout << ToPrintable(m_file.Path()) << ':' << line << ": " << ToPrintable(text) << '\n';
-        return ReportAbandonedFiles() && m_problems.empty();
+        return ReportLeftovers() && m_problems.empty();
     }
 
 private:
@@ -51,14 +51,16 @@ private:
         m_problems.emplace(line, L"[" + section + L"] " + (key.empty() ? L"" : key + L": ") + what);
     }
 
-    /// False when a save that was killed has left something beside the file.
-    [[nodiscard]] bool ReportAbandonedFiles() const {
-        const std::vector<std::string> paths = QuorIniFile::AbandonedFilesOf(m_file.Path());
-        for (const std::string& path : paths)
-            std::cout << ToPrintable(m_file.Path() + L": an interrupted save has left " +
+    /// False when saves have left something beside the file.
+    [[nodiscard]] bool ReportLeftovers() const {
+        const std::vector<QuorIniFile::IniLeftover> leftovers = QuorIniFile::LeftoversOf(m_file.Path());
+        for (const auto& [path, isKept] : leftovers)
+            std::cout << ToPrintable(m_file.Path() +
+                                     (isKept ? L": what another program had put in its place is kept as "
+                                             : L": an interrupted save has left ") +
                                      QuorIniFile::DecodeBytes(path))
                       << '\n';
-        return paths.empty();
+        return leftovers.empty();
     }
 
     /// Keys and sections that stand twice, the host's own too: who reads them sees the first.

@@ -195,7 +195,7 @@ private:
                          "  click OK");
     }
 
-    CLI::App m_app{"Probe records in INI files: look at them, change them, keep them right."};
+    CLI::App m_app{"Probe records in INI files: look at them, change them, keep them right.", "quorconv"};
     std::function<ExitCode()> m_command;
     std::string m_file;
     std::string m_section;

@@ -60,7 +60,7 @@ void RecordMerge::Take(std::wstring_view key, Value ours) {
     const bool weChanged = !Same(read, change.value);
     if (theyChanged && key != L"Version") {
         RecordConflict conflict{change.section, change.key, read, theirs, change.value};
-        if (key == L"ConversionType" && m_section == m_recordSection)
+        if (key == L"ConversionType") // of which the facade has the only one
             m_typeConflict = std::move(conflict);
         else if (weChanged && !Same(theirs, change.value))
             m_conflicts.push_back(std::move(conflict));

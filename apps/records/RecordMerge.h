@@ -20,6 +20,9 @@ struct RecordConflict {
     std::optional<Value> read;
     std::optional<Value> theirs;
     Value ours;
+
+    /// Whether the same stands against the same. (A NaN counts as another one: the user is asked again.)
+    friend bool operator==(const RecordConflict&, const RecordConflict&) = default;
 };
 
 /// The changes of a record since it was read, to be merged into the file as it is now, which other programs

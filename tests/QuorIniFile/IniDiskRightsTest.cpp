@@ -318,7 +318,7 @@ TEST(IniDiskRights, ALockFileThatOnlyAnotherUserMayRemoveIsNamed) {
         const IniReplacement one(folder.Name("a.ini"));
         return folder.Files().front();
     }();
-    folder.Write(temporary, "left by a process of another user");
+    folder.Write(temporary, "");
     ASSERT_EQ(::seteuid(ordinary), 0);
     const QuorError error = RaisedBy([&] { const IniReplacement replacement(folder.Name("a.ini")); });
     ASSERT_EQ(::seteuid(0), 0);

@@ -274,6 +274,13 @@ TEST(IniDisk, WhatStandsInTheWayOfTheLockFileIsNamedAndStays) {
     fs::remove(folder.Path(temporary));
     fs::create_symlink("a.ini", folder.Path(temporary));
     expectNamed();
+    fs::remove(folder.Path(temporary));
+    ASSERT_EQ(::mkfifo(folder.Path(temporary).c_str(), 0600), 0);
+    expectNamed();
+    fs::remove(folder.Path(temporary));
+    folder.Write(temporary, "somebody's own");
+    expectNamed();
+    EXPECT_EQ(folder.Read(temporary), "somebody's own");
 }
 
 TEST(IniDisk, AFolderThatDoesNotExistIsPathNotFound) {

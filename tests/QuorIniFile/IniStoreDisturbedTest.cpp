@@ -10,9 +10,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <chrono>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 using namespace QuorIniFile;
@@ -103,11 +105,35 @@ void DisturbEverywhere(const Disturbance& disturbance) {
 }
 
 /// What a second computer, or a second process, saves.
-void SaveFromElsewhere(SimulatedDisk& disk) {
+void SaveFromElsewhere(SimulatedDisk& disk, const wchar_t* key, std::int16_t value) {
     disk.computer = 2;
-    Save(disk, L"y", 3);
+    Save(disk, key, value);
     disk.computer = 1;
 }
+void SaveY(SimulatedDisk& disk) { SaveFromElsewhere(disk, L"y", 3); }
+
+/// The names of what was left beside the file.
+Names LeftBeside(SimulatedDisk& disk) {
+    Names paths;
+    for (const auto& [left, isKept] : LeftoversOf(L"/a.ini", disk)) {
+        EXPECT_EQ(isKept, left.ends_with(".kept"));
+        paths.push_back(left);
+    }
+    return paths;
+}
+
+/// What a save told; nothing when it went well.
+std::string Told(IniFileSystem& files) {
+    try {
+        Save(files, L"x", 2);
+    } catch (const QuorError& error) {
+        return error.what();
+    }
+    return "";
+}
+
+constexpr const char* keptAside = "Path/File access error: /a.ini: Another program has replaced it at the "
+                                  "same moment; its file is kept as ";
 
 std::string ErrorOfASaveDuring(SimulatedDisk& disk, const std::function<void()>& always,
                                std::int32_t number) {
@@ -138,7 +164,7 @@ TEST(IniStoreDisturbed, ATemporaryFileOfAFirstSaveThatIsRemovedAtAnyCallIsMadeAn
 TEST(IniStoreDisturbed, ALockFileThatIsRemovedAtAnyCallBeforeAnotherSaveLosesNothing) {
     DisturbEverywhere({[](SimulatedDisk& disk) {
                            Clean(disk, ".lock");
-                           SaveFromElsewhere(disk);
+                           SaveY(disk);
                        },
                        "; the host's own\n[A]\nx=2\ny=3\n", host, true, true, true});
 }
@@ -146,18 +172,18 @@ TEST(IniStoreDisturbed, ALockFileThatIsRemovedAtAnyCallBeforeAnotherSaveLosesNot
 TEST(IniStoreDisturbed, AllFilesOfASaveThatAreRemovedAtAnyCallBeforeAnotherSaveLoseNothing) {
     DisturbEverywhere({[](SimulatedDisk& disk) {
                            Clean(disk, "");
-                           SaveFromElsewhere(disk);
+                           SaveY(disk);
                        },
                        "; the host's own\n[A]\nx=2\ny=3\n", host, true, true, true});
 }
 
 TEST(IniStoreDisturbed, AComputerThatDoesNotSeeOurLockMaySaveAtAnyCallAndNothingIsLost) {
-    DisturbEverywhere({SaveFromElsewhere, "; the host's own\n[A]\nx=2\ny=3\n", host, true, false, true});
+    DisturbEverywhere({SaveY, "; the host's own\n[A]\nx=2\ny=3\n", host, true, false, true});
 }
 
 TEST(IniStoreDisturbed, AFlushOfFourteenSecondsWithoutLocksLosesNothingToASaveThatTookItForAbandoned) {
     // Each call in turn is the one that takes so long that another process waits ten seconds and goes on.
-    DisturbEverywhere({SaveFromElsewhere, "; the host's own\n[A]\nx=2\ny=3\n", host, false, true, true});
+    DisturbEverywhere({SaveY, "; the host's own\n[A]\nx=2\ny=3\n", host, false, true, true});
 }
 
 TEST(IniStoreDisturbed, AFirstSaveAndThatOfAComputerThatDoesNotSeeItsLockLoseNothing) {
@@ -171,7 +197,7 @@ TEST(IniStoreDisturbed, AFirstSaveAndThatOfAComputerThatDoesNotSeeItsLockLoseNot
             std::size_t calls = 0;
             files.onCall = [&](std::string_view call) {
                 if (calls++ == at && call != "Rename")
-                    SaveFromElsewhere(disk);
+                    SaveY(disk);
                 return 0;
             };
             Save(files, L"x", 2);
@@ -180,6 +206,48 @@ TEST(IniStoreDisturbed, AFirstSaveAndThatOfAComputerThatDoesNotSeeItsLockLoseNot
             EXPECT_NE(text.find("x=2\n"), std::string::npos) << "call " << at;
             EXPECT_TRUE(!reached || text.find("y=3\n") != std::string::npos || !hasUnnamedFiles)
                 << "call " << at;
+        }
+    }
+}
+
+TEST(IniStoreDisturbed, TwoSavesOfOthersAtAnyTwoCallsAreFoundOrKeptAndTold) {
+    for (const bool sharesLocks : {true, false}) {
+        bool isFirstReached = true;
+        for (std::size_t first = 0; isFirstReached; ++first) {
+            bool isReached = true;
+            for (std::size_t second = first; isReached; ++second) {
+                SimulatedDisk disk(Files{{path, host}});
+                disk.sharesLocks = sharesLocks;
+                InterceptedFiles files(disk);
+                std::size_t calls = 0;
+                files.onCall = [&](std::string_view) {
+                    const std::size_t call = calls++;
+                    for (const auto& [at, key] : {std::pair(first, L"y"), std::pair(second, L"z")}) {
+                        if (call != at)
+                            continue;
+                        if (sharesLocks)
+                            Clean(disk, ".lock");
+                        SaveFromElsewhere(disk, key, 3);
+                    }
+                    return 0;
+                };
+                const std::string told = Told(files);
+                isReached = calls > second;
+                isFirstReached = calls > first;
+                if (!isReached)
+                    break;
+                std::string texts = disk.Now().at(path);
+                for (const std::string& kept : Beside(disk, ".kept")) {
+                    EXPECT_NE(told.find(kept), std::string::npos) << told;
+                    texts += disk.Now().at(kept);
+                }
+                for (const char* key : {"x=2\n", "y=3\n", "z=3\n"}) {
+                    EXPECT_TRUE(texts.find(key) != std::string::npos || (!told.empty() && *key == 'x'))
+                        << key << " of " << texts << ", calls " << first << " and " << second << ": " << told;
+                }
+                EXPECT_EQ(texts.rfind(host, 0) == 0 || texts.rfind("; the host's own\n[A]\nx=2\n", 0) == 0,
+                          true);
+            }
         }
     }
 }
@@ -200,27 +268,24 @@ TEST(IniStoreDisturbed, AFileThatIsPutInThePlaceOfTheTemporaryOneNeverBecomesThe
                 }
                 return 0;
             };
-            std::string expected = "; the host's own\n[A]\nx=2\n";
-            try {
-                Save(files, L"x", 2);
-            } catch (const QuorError& error) {
-                // The thief's file may be what somebody has just saved: it is kept, and that is told.
-                ++errors;
-                EXPECT_EQ(error.Number(), 75);
-                const std::string told = "replaced it at the same moment; its file is kept as /.quor-";
-                EXPECT_NE(std::string(error.what()).find(told), std::string::npos) << error.what();
-                EXPECT_EQ(Beside(disk, ".tmp").size(), 1U);
-                if (disk.Now().at(path) != expected)
-                    expected = host;
-            }
+            const std::string told = Told(files);
             reached = calls > at;
-            EXPECT_EQ(disk.Now().at(path), expected) << "call " << at;
+            const std::string text = disk.Now().at(path);
+            if (told.empty()) {
+                EXPECT_EQ(text, "; the host's own\n[A]\nx=2\n") << "call " << at;
+                continue;
+            }
+            // The thief's file may be what somebody has just saved: it is kept, and that is told.
+            ++errors;
+            ASSERT_EQ(Beside(disk, ".kept").size(), 1U);
+            EXPECT_EQ(told, keptAside + Beside(disk, ".kept").front());
+            EXPECT_TRUE(text == host || text == "; the host's own\n[A]\nx=2\n") << text;
         }
         EXPECT_LE(errors, 6U) << "those of the last look and the exchange";
     }
 }
 
-TEST(IniStoreDisturbed, AThiefWhoComesTwiceAndTakesTheOldFileTooDoesNotKeepTheNewTextFromComing) {
+TEST(IniStoreDisturbed, AThiefWhoComesTwiceAndTakesTheOldFileTooDoesNotKeepTheTextFromBeingThere) {
     bool isFirstReached = true;
     for (std::size_t first = 0; isFirstReached; ++first) {
         bool isReached = true;
@@ -236,20 +301,110 @@ TEST(IniStoreDisturbed, AThiefWhoComesTwiceAndTakesTheOldFileTooDoesNotKeepTheNe
                 ++calls;
                 return 0;
             };
-            bool isTold = false;
-            try {
-                Save(files, L"x", 2);
-            } catch (const QuorError& error) {
-                EXPECT_EQ(error.Number(), 75);
-                isTold = true;
-            }
+            const std::string told = Told(files);
             isReached = calls > second;
             isFirstReached = calls > first;
             const std::string text = disk.Now().at(path);
-            ASSERT_TRUE(text == "; the host's own\n[A]\nx=2\n" || (isTold && text == host))
-                << first << " and " << second << ": " << text;
+            ASSERT_TRUE(text == "; the host's own\n[A]\nx=2\n" || (!told.empty() && text == host))
+                << first << " and " << second << ": " << text << told;
         }
     }
+}
+
+TEST(IniStoreDisturbed, AProgramThatRenamesTwiceAroundTheExchangeHasBothItsFilesKept) {
+    SimulatedDisk disk(Files{{path, host}});
+    InterceptedFiles files(disk);
+    int exchanges = 0;
+    bool isDone = false;
+    files.onCall = [&](std::string_view call) {
+        if (exchanges == 1 && !isDone) {
+            isDone = true;
+            disk.Replace(path, "; precious two\n");
+        }
+        if (call == "Exchange" && ++exchanges == 1)
+            disk.Replace(path, "; precious one\n");
+        return 0;
+    };
+    const std::string told = Told(files);
+    const Names kept = Beside(disk, ".kept");
+    ASSERT_EQ(kept.size(), 2U) << told;
+    EXPECT_EQ(told, keptAside + kept[0] + ", " + kept[1]);
+    EXPECT_EQ(disk.Now().at(path), "; the host's own\n[A]\nx=2\n");
+    EXPECT_EQ(disk.Now().at(kept[0]), "; precious one\n");
+    EXPECT_EQ(disk.Now().at(kept[1]), "; precious two\n");
+}
+
+TEST(IniStoreDisturbed, ALookThatFailsAfterTheExchangeRemovesNothingOfOthers) {
+    for (const bool isOthers : {true, false}) {
+        SimulatedDisk disk(Files{{path, host}});
+        InterceptedFiles files(disk);
+        bool isExchanged = false;
+        bool hasFailed = false;
+        files.onCall = [&](std::string_view call) {
+            if (isExchanged && !hasFailed) {
+                hasFailed = true;
+                return EIO;
+            }
+            if (call == "Exchange" && !isExchanged) {
+                isExchanged = true;
+                if (isOthers)
+                    disk.Replace(path, "; precious\n");
+            }
+            return 0;
+        };
+        EXPECT_EQ(Told(files), "Device I/O error: /a.ini");
+        EXPECT_EQ(disk.Now().at(path), "; the host's own\n[A]\nx=2\n");
+        ASSERT_EQ(Beside(disk, "").size(), isOthers ? 1U : 0U);
+        if (isOthers) {
+            EXPECT_EQ(disk.Now().at(Beside(disk, ".kept").at(0)), "; precious\n");
+        }
+    }
+}
+
+TEST(IniStoreDisturbed, WhatWasKeptStaysWhateverBecomesOfLaterSaves) {
+    SimulatedDisk disk(Files{{path, host}, {"/.quor-65abe8b5491700c0-7.kept", "; precious\n"}});
+    struct Killed {};
+    InterceptedFiles files(disk);
+    bool isDead = false;
+    files.onCall = [&](std::string_view call) {
+        isDead = isDead || call == "Exchange";
+        if (isDead)
+            throw Killed();
+        return 0;
+    };
+    EXPECT_THROW(Save(files, L"x", 2), Killed);
+    Save(disk, L"y", 3);
+    EXPECT_EQ(disk.Now(), (Files{{path, std::string(host) + "y=3\n"},
+                                 {"/.quor-65abe8b5491700c0-7.kept", "; precious\n"}}));
+    EXPECT_EQ(LeftBeside(disk), Names{"/.quor-65abe8b5491700c0-7.kept"});
+}
+
+TEST(IniStoreDisturbed, ALockFileThatHasBecomeAnothersIsNotRemovedAsAbandoned) {
+    // Between our opening of an abandoned lock file and our locking it another process removes it and begins.
+    SimulatedDisk disk(Files{{path, host}});
+    const std::string lock = [&disk] {
+        const IniReplacement one(L"/a.ini", disk); // to see the name
+        return Beside(disk, ".lock").at(0);
+    }();
+    disk.Replace(lock, "");
+    InterceptedFiles files(disk);
+    IniFileSystem::Handle other = 0;
+    bool isHeld = false;
+    files.onCall = [&](std::string_view call) {
+        if (call == "TryLock" && !isHeld) {
+            isHeld = true;
+            EXPECT_EQ(disk.Remove(lock), 0);
+            other = disk.Open(lock, IniFileSystem::Opening::CreateLock).value;
+            EXPECT_EQ(disk.TryLock(other), 0);
+        } else if (disk.waited >= 1s && isHeld && other != 0) {
+            EXPECT_EQ(Beside(disk, ".lock"), Names{lock}) << "it is still the other's";
+            EXPECT_EQ(disk.Remove(lock), 0);
+            disk.Close(std::exchange(other, 0));
+        }
+        return 0;
+    };
+    EXPECT_EQ(Told(files), "");
+    EXPECT_GE(disk.waited, 1s);
 }
 
 TEST(IniStoreDisturbed, WhereFilesCannotChangeNamesAThiefOfTheLastMomentIsToldOf) {
@@ -271,44 +426,36 @@ TEST(IniStoreDisturbed, WhereFilesCannotChangeNamesAThiefOfTheLastMomentIsToldOf
 }
 
 TEST(IniStoreDisturbed, AFileThatAnotherProgramRenamesIntoPlaceWhileWeSaveIsNotLost) {
-    // When ours stands there, theirs takes its place as at any other time.
     for (std::size_t at = 0;; ++at) {
         SimulatedDisk disk(Files{{path, host}});
         InterceptedFiles files(disk);
         std::size_t calls = 0;
-        bool isExchanged = false;
+        std::size_t sinceExchange = 0;
         bool isReplaced = false;
-        bool isLastMoment = false;
         files.onCall = [&](std::string_view call) {
-            if (calls++ == at && !isExchanged) {
+            sinceExchange += sinceExchange > 0 || call == "Exchange" ? 1 : 0;
+            if (calls++ == at &&
+                sinceExchange < 4) { // then ours has stood there, and theirs has come after it
                 disk.Replace(path, "; theirs\n[A]\nx=1\n");
                 isReplaced = true;
-                isLastMoment = call == "Exchange";
             }
-            isExchanged = isExchanged || call == "Exchange";
             return 0;
         };
-        std::string told;
-        try {
-            Save(files, L"x", 2);
-        } catch (const QuorError& error) {
-            told = error.what();
-        }
+        const std::string told = Told(files);
         if (!isReplaced)
             break;
-        if (!isLastMoment) {
-            EXPECT_EQ(told, "");
+        const Names kept = Beside(disk, ".kept");
+        if (told.empty()) {
             EXPECT_EQ(disk.Now(), (Files{{path, "; theirs\n[A]\nx=2\n"}})) << "call " << at;
             continue;
         }
-        const std::string kept = Beside(disk, ".tmp").at(0);
-        EXPECT_EQ(told,
-                  "Path/File access error: /a.ini: Another program has replaced it at the same moment; its "
-                  "file is kept as " +
-                      kept);
-        EXPECT_EQ(disk.Now(),
-                  (Files{{path, "; the host's own\n[A]\nx=2\n"}, {kept, "; theirs\n[A]\nx=1\n"}}));
-        EXPECT_EQ(AbandonedFilesOf(L"/a.ini", disk), Names{kept});
+        // In the very moment of the exchange.
+        ASSERT_EQ(kept.size(), 1U);
+        EXPECT_EQ(told, keptAside + kept.front());
+        EXPECT_EQ(disk.Now().at(kept.front()), "; theirs\n[A]\nx=1\n") << "call " << at;
+        EXPECT_EQ(LeftBeside(disk), kept);
+        const std::string text = disk.Now().at(path);
+        EXPECT_TRUE(text == host || text == "; the host's own\n[A]\nx=2\n") << text;
     }
 }
 
@@ -374,7 +521,7 @@ TEST(IniStoreDisturbed, WhatAnInterruptedSaveHasLeftIsNamedAndGoesWithTheNextOne
         };
         EXPECT_THROW(Save(files, L"x", 2), Killed);
         const Names lock = Beside(disk, ".lock");
-        const Names left = AbandonedFilesOf(L"/a.ini", disk);
+        const Names left = LeftBeside(disk);
         ASSERT_EQ(left.size(), 2U);
         EXPECT_EQ(left[1], lock.at(0));
         EXPECT_TRUE(left[0].ends_with(".tmp"));
@@ -382,7 +529,7 @@ TEST(IniStoreDisturbed, WhatAnInterruptedSaveHasLeftIsNamedAndGoesWithTheNextOne
         Save(disk, L"y", 3);
         EXPECT_EQ(disk.Now(),
                   (Files{{path, std::string(host) + "y=3\n"}, {"/.quor-other-1.tmp", "of another file"}}));
-        EXPECT_EQ(AbandonedFilesOf(L"/a.ini", disk), Names{});
+        EXPECT_EQ(LeftBeside(disk), Names{});
     }
 }
 
@@ -395,7 +542,7 @@ TEST(IniStoreDisturbed, ASaveThatIsUnderWayHasLeftNothing) {
     files.onCall = [&](std::string_view call) {
         if (hasLock && call != "TryLock") {
             ++looks;
-            EXPECT_EQ(AbandonedFilesOf(L"/a.ini", disk), Names{}) << call;
+            EXPECT_EQ(LeftBeside(disk), Names{}) << call;
         }
         hasLock = hasLock || call == "TryLock";
         return 0;

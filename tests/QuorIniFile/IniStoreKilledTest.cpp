@@ -305,6 +305,26 @@ TEST(IniStoreKilled, EverySystemCallThatFailsIsAnErrorWithTheOldFileOrAnInterrup
     EXPECT_EQ(doneWithout.size(), 2U) << testing::PrintToString(doneWithout);
 }
 
+TEST(IniStoreKilled, WhereTheSystemRefusesWhatASaveWouldLikeItGoesAnotherWay) {
+    // No locks, no exchange, no names for files without one, in the words of several systems.
+    for (const std::string refusal :
+         {"flock:error=ENOLCK", "flock:error=EOPNOTSUPP", "renameat2:error=EINVAL", "renameat2:error=ENOSYS",
+          "linkat:error=EPERM", "linkat:error=ENOENT", "linkat:error=EMLINK", "access:error=ENOENT"}) {
+        const TempFolder logs;
+        const TempFolder folder;
+        PrepareTraced(folder);
+        TracedSave save{};
+        try {
+            save = SaveTraced(folder, logs, {"-e", "trace=%file,%desc", "-e", "inject=" + refusal});
+        } catch (const std::system_error&) {
+            GTEST_SKIP() << "strace is not installed";
+        }
+        EXPECT_EQ(save.exitCode, 0) << refusal << ": " << save.output;
+        EXPECT_EQ(folder.Read("a.ini"), afterTraced) << refusal;
+        EXPECT_EQ(folder.Files(), Names{"a.ini"}) << refusal;
+    }
+}
+
 // A disk that is really full ------------------------------------------------------------------------------
 
 TEST(IniStoreKilled, AFullDiskKeepsTheOldFileAndTheNextSaveThatFitsGoesWell) {

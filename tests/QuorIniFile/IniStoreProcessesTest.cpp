@@ -88,7 +88,7 @@ public:
         m_file = m_disk.Open(m_path, Opening::CreateLock).value;
         static_cast<void>(m_disk.TryLock(m_file));
     }
-    void Touch() const { static_cast<void>(m_disk.Write(m_file, "x")); }
+    void Touch() const { m_disk.Rewrite(m_path, ""); }
     void Die() const { m_disk.Close(m_file); }
 
 private:
@@ -234,6 +234,31 @@ TEST(IniStoreProcesses, AChildOfAProcessThatIsKilledWhileItHasTheLockDoesNotHave
     ::kill(child, SIGKILL);
 }
 
+TEST(IniStoreProcesses, AChildThatIsStartedWhileTheLockIsBeingTakenDoesNotHaveIt) {
+    // As when another thread forks between the creation of the lock file and its being locked.
+    const TempFolder folder;
+    IniFileSystem& files = IniFileSystem::System();
+    const auto file = files.Open(folder.Path("lock").string(), Opening::CreateLock);
+    ASSERT_EQ(file.error, 0);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        for (;;)
+            ::pause();
+    }
+    EXPECT_EQ(files.TryLock(file.value), 0);
+    files.Close(file.value);
+    const auto again = files.Open(folder.Path("lock").string(), Opening::ToLock);
+    int error = EWOULDBLOCK; // until the child has begun to run
+    for (int looks = 0; looks < 1000 && error == EWOULDBLOCK; ++looks) {
+        error = files.TryLock(again.value);
+        files.Pause(10ms);
+    }
+    EXPECT_EQ(error, 0) << "the child has no handle that keeps it locked";
+    files.Close(again.value);
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+}
+
 TEST(IniStoreProcesses, AChildThatEndsDoesNotGiveTheLockOfItsParentBack) {
     const TempFolder folder;
     Process holder({saver, "fork", folder.Path("a.ini").string()});
@@ -357,6 +382,12 @@ TEST(IniStoreProcesses, ALockThatAProcessHasLeftToAnotherOneIsToldOf) {
         static_cast<void>(::flock(file, LOCK_EX));
         ::_exit(0); // our own handle is a copy of its own, and keeps the lock
     }
+    siginfo_t info{};
+    EXPECT_EQ(::waitid(P_PID, static_cast<id_t>(parent), &info, WEXITED | WNOWAIT), 0);
+    const std::string ended = ", which has ended; a process that it has started has its lock";
+    const std::string holder = IniFileSystem::System().LockHolder(file); // nobody has waited for it yet
+    EXPECT_TRUE(holder.starts_with("process " + std::to_string(parent) + " (")) << holder;
+    EXPECT_TRUE(holder.ends_with(")" + ended)) << holder;
     int status = 0;
     ::waitpid(parent, &status, 0);
     EXPECT_EQ(IniFileSystem::System().LockHolder(file),

@@ -56,6 +56,11 @@ protected:
         person.Type(L"R0", L"100.0123");
         person.Click(L"OK");
     }
+    /// Saves as the user does who has seen what another program has written, and agrees to replace it.
+    void SaveOverOthers() {
+        const DocumentError shown = ErrorOf([&] { document.Save(); });
+        document.Save({shown.details, shown.conflicts});
+    }
     template <class Action>
     DocumentError ErrorOf(const Action& action) const {
         try {
@@ -665,7 +670,7 @@ TEST_F(ProbeDocumentTest, NewerValuesOfAnotherProgramForTheSameKeysAreNotOverwri
     EXPECT_EQ(ErrorOf([&] { document.SaveCopyAs(folder.Name("copy.ini")); }).failure,
               Failure::ChangedByOthers);
     EXPECT_FALSE(fs::exists(folder.Path("copy.ini")));
-    document.Save(OthersChanges::Replace);
+    SaveOverOthers();
     EXPECT_EQ(File(), Replaced(Replaced(theirs, "=99.5\n", "=100.0123\n"), "Coefficients3=0\n",
                                "Coefficients3=0\nCoefficients2=1.6\n"))
         << "what they have written for other keys stays";
@@ -715,6 +720,21 @@ TEST_F(ProbeDocumentTest, AValueThatAnotherProgramHasGivenTheSameKeyTooIsNoConfl
     EXPECT_FALSE(document.Changed());
 }
 
+TEST_F(ProbeDocumentTest, WhatComesWhileTheUserIsAskedIsToldAnew) {
+    Open();
+    EXPECT_TRUE(Edit(0, TypeR0));
+    folder.Write("host.ini", Replaced(host, "=100.0\n", "=99.5\n"));
+    const DocumentError shown = ErrorOf([&] { document.Save(); });
+    const std::string newer = Replaced(host, "=100.0\n", "=99.25\n");
+    folder.Write("host.ini", newer);
+    const DocumentError error = ErrorOf([&] { document.Save({shown.details, shown.conflicts}); });
+    EXPECT_EQ(error.failure, Failure::ChangedByOthers);
+    EXPECT_EQ(Lines(error.conflicts), Texts{L"[Probe 1 - Settings] Coefficients0: 100, 99.25, 100.0123"});
+    EXPECT_EQ(File(), newer);
+    document.Save({error.details, error.conflicts});
+    EXPECT_EQ(File(), Replaced(host, "=100.0\n", "=100.0123\n"));
+}
+
 TEST_F(ProbeDocumentTest, AProbeThatAnotherProgramHasGivenAnotherTypeIsWrittenWholeOnRequest) {
     Open();
     EXPECT_TRUE(Edit(0, TypeR0));
@@ -722,7 +742,7 @@ TEST_F(ProbeDocumentTest, AProbeThatAnotherProgramHasGivenAnotherTypeIsWrittenWh
                  Replaced(Replaced(host, "ConversionType=2", "ConversionType=19"), "=1.5\n", "=7\n"));
     EXPECT_EQ(Lines(ErrorOf([&] { document.Save(); }).conflicts),
               Texts{L"[Probe 1] ConversionType: 2, 19, 2"});
-    document.Save(OthersChanges::Replace);
+    SaveOverOthers();
     EXPECT_EQ(File(), Replaced(host, "=100.0\n", "=100.0123\n"));
 }
 
@@ -843,7 +863,7 @@ TEST_F(ProbeDocumentTest, ARenamedProbeThatAnotherProgramHasRemovedDoesNotVanish
     EXPECT_EQ(ErrorOf([&] { document.Save(); }).details, Texts{L"Probe A"});
     EXPECT_EQ(File(), theirs);
     EXPECT_EQ(document.Name(0), L"Probe A");
-    document.Save(OthersChanges::Replace);
+    SaveOverOthers();
     EXPECT_EQ(Names(), (Texts{L"Probe 2", L"Probe A"}));
     EXPECT_NE(File().find("[Probe A - Settings]"), std::string::npos) << File();
     EXPECT_NE(File().find("Coefficients1=0.0039083\n"), std::string::npos) << File();

@@ -15,7 +15,7 @@ TEST_F(QuorconvTest, ChecksTheSamplesWithoutAComplaint) {
     ExpectFine(arguments);
 }
 
-TEST_F(QuorconvTest, ChecksWhatInterruptedSavesHaveLeft) {
+TEST_F(QuorconvTest, ChecksWhatSavesHaveLeftBesideTheFile) {
     folder.Write("host.ini", "[Host]\nColour=red\n");
     std::string start;
     {
@@ -26,11 +26,13 @@ TEST_F(QuorconvTest, ChecksWhatInterruptedSavesHaveLeft) {
     }
     folder.Write(start + ".lock", "");
     folder.Write(start + "-1234.tmp", "[Host]\n");
+    folder.Write(start + "-5678.kept", "[Host]\n");
     folder.Write(".quor-0-1234.tmp", "of another file");
     const Outcome check = Quorconv({"check", "host.ini"});
     EXPECT_EQ(check.code, 1);
-    EXPECT_EQ(check.out, "host.ini: an interrupted save has left " + start + "-1234.tmp\n" +
-                             "host.ini: an interrupted save has left " + start + ".lock\n");
+    EXPECT_EQ(check.out, "host.ini: what another program had put in its place is kept as " + start +
+                             "-5678.kept\n" + "host.ini: an interrupted save has left " + start +
+                             "-1234.tmp\n" + "host.ini: an interrupted save has left " + start + ".lock\n");
     EXPECT_EQ(check.err, "");
 }
 
