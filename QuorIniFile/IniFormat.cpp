@@ -87,6 +87,18 @@ IniLine ClassifyLine(std::string_view line) {
     return {IniLineKind::Key, TrimRight(name), TrimRight(TrimLeft(value))};
 }
 
+bool IniContinuation::IsPartOfValue(std::string_view line, IniLineKind kind) {
+    if (kind == IniLineKind::Comment)
+        return false; // neither a part nor the end of a value
+    const bool isBelowBackslash = m_isContinued;
+    m_isContinued = false;
+    if (kind == IniLineKind::Blank)
+        return isBelowBackslash;
+    m_isValue = kind == IniLineKind::Key || isBelowBackslash || (m_isValue && IsBlank(line.front()));
+    m_isContinued = m_isValue && line.back() == '\\';
+    return m_isValue;
+}
+
 IniCommentedValue SplitComment(std::string_view value) {
     if (value.empty() || value.front() == '"')
         return {value, {}};

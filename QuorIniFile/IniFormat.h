@@ -35,6 +35,21 @@ struct IniLine {
 /// comment, and at the last ']' when there is no such one.
 [[nodiscard]] QUORINIFILE_EXPORT IniLine ClassifyLine(std::string_view line);
 
+/// Says line by line, from a header down, which lines belong to a value. Some programs continue a value on
+/// the lines below its key line: lines that begin with a blank or tab (blank lines and comments may stand
+/// between), and the line below one that ends in a backslash. The store does not join such lines to the
+/// value, but nothing may come between.
+class QUORINIFILE_EXPORT IniContinuation {
+public:
+    /// For the next line. True for key lines and the lines that continue a value, an indented line right
+    /// below the header too: it would continue any key that came above it.
+    [[nodiscard]] bool IsPartOfValue(std::string_view line, IniLineKind kind);
+
+private:
+    bool m_isValue = true;      // an indented line continues what stands above
+    bool m_isContinued = false; // the line above ends in a backslash
+};
+
 /// A value parted from the comment behind it: "100.02 ; ohms at 0 C".
 struct IniCommentedValue {
     std::string_view plain;   // the value without blanks at its end

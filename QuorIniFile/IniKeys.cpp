@@ -22,22 +22,21 @@ void IniKeys::Read(std::string_view text, std::size_t begin, std::size_t end) {
     m_keys.clear();
     if (std::exchange(m_isIndexed, false))
         m_names = {};
+    while (end > begin && end < text.size() && (text[end - 1] == ' ' || text[end - 1] == '\t'))
+        --end; // blanks in front of the next header are part of its line
     m_begin = begin;
     m_length = end - begin;
     m_behindLast = begin;
     const std::string_view body = text.substr(0, end);
+    IniContinuation continuation;
     for (std::size_t at = begin; at < end;) {
-        if (text[at] == '\n') { // nearly all blank lines
-            ++at;
-            continue;
-        }
         const IniCut cut = CutLine(body, at);
         const IniLine line = ClassifyLine(cut.line);
         at = cut.next;
-        if (line.kind == IniLineKind::Key) {
+        if (line.kind == IniLineKind::Key)
             Add(text, line);
+        if (continuation.IsPartOfValue(cut.line, line.kind))
             m_behindLast = cut.next;
-        }
     }
 }
 

@@ -32,7 +32,7 @@ public:
     [[nodiscard]] std::optional<Found> Find(std::string_view text, std::string_view name) const;
     /// The names of all keys as they stand in the text. Some may stand several times.
     [[nodiscard]] std::vector<std::string_view> Names(std::string_view text) const;
-    /// Where the line behind the last key line starts; `begin` when there is no key.
+    /// Where the line below the last value starts, continuation lines included; `begin` when there is none.
     [[nodiscard]] std::size_t BehindLast() const { return m_behindLast; }
     /// Whether the section is so long that reading it again is worth avoiding.
     [[nodiscard]] bool AreLong() const { return m_length > shortSection || m_isIndexed; }

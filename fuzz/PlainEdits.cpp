@@ -87,6 +87,9 @@ void ClaimLines(const PlainIni& before, const Lines& expected, const PlainIni& a
                        ? other.parsed.kind == IniLineKind::Key && other.parsed.name == line.parsed.name
                        : other.content == content;
         };
+        const bool mustFollow = line.mustFollow && !expected.gone.contains(number - 1);
+        Claim(!mustFollow || (next != after.Lines().end() && isThisLine(*next)),
+              "nothing comes between a value and the lines that continue it");
         for (; next != after.Lines().end() && !isThisLine(*next); ++next)
             countAdded(*next);
         Claim(next != after.Lines().end(), "a line that nobody wrote or removed stands where it stood");

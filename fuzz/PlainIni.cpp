@@ -24,7 +24,7 @@ PlainIni::PlainIni(std::string_view text) {
             content.remove_suffix(1);
         const IniLine parsed = ClassifyLine(content);
         const std::size_t number = m_lines.size();
-        m_lines.push_back({content, text.substr(content.size(), length - content.size()), parsed});
+        m_lines.push_back({content, text.substr(content.size(), length - content.size()), parsed, false});
         text.remove_prefix(length);
 
         if (parsed.kind == IniLineKind::BrokenSection) {
@@ -37,6 +37,33 @@ PlainIni::PlainIni(std::string_view text) {
                 section.reset();
         } else if (parsed.kind == IniLineKind::Key && section) {
             m_keys.emplace(Place(*section, Folded(DecodeBytes(parsed.name))), number);
+        }
+    }
+    MarkContinuedValues();
+}
+
+void PlainIni::MarkContinuedValues() {
+    const auto is = [this](std::size_t line, IniLineKind kind) { return m_lines[line].parsed.kind == kind; };
+    for (std::size_t key = 0; key < m_lines.size(); ++key) {
+        if (!is(key, IniLineKind::Key))
+            continue;
+        std::size_t last = key; // of the value
+        for (std::size_t line = key + 1; line < m_lines.size(); ++line) {
+            if (is(line, IniLineKind::Comment))
+                continue;
+            const std::string_view content = m_lines[line].content;
+            std::size_t above = line - 1;
+            while (above > last && is(above, IniLineKind::Comment))
+                --above;
+            const bool isBelowBackslash = above == last && m_lines[last].content.ends_with('\\');
+            const bool isIndented = content.starts_with(' ') || content.starts_with('\t');
+            if (is(line, IniLineKind::Blank) && !isBelowBackslash)
+                continue;
+            if (!is(line, IniLineKind::Blank) &&
+                (!is(line, IniLineKind::Malformed) || (!isBelowBackslash && !isIndented)))
+                break;
+            while (last < line)
+                m_lines[++last].mustFollow = true;
         }
     }
 }

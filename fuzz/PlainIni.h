@@ -23,6 +23,7 @@ public:
     struct Line {
         std::string_view content, end; // end: "\n", "\r\n" or, on the last line, nothing
         QuorIniFile::IniLine parsed;
+        bool mustFollow = false; // the line above: a value that began there, or above it, goes on below
     };
     /// Section and key, both folded.
     using Place = std::pair<std::wstring, std::wstring>;
@@ -40,6 +41,9 @@ public:
     [[nodiscard]] std::optional<std::string_view> Value(const Place& place) const;
 
 private:
+    /// Says of each line whether a value goes on from the line above.
+    void MarkContinuedValues();
+
     std::vector<Line> m_lines;
     std::set<std::wstring> m_sections; // their folded names
     std::vector<std::string_view> m_names;

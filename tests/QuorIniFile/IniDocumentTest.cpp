@@ -88,6 +88,38 @@ TEST(IniDocument, ANewKeyFollowsTheLastKeyOfItsSection) {
     EXPECT_EQ(With("[A]\nx=1\n[broken\nz=3\n", "A", "y", "2"), "[A]\nx=1\ny=2\n[broken\nz=3\n");
 }
 
+TEST(IniDocument, ANewKeyFollowsTheIndentedLinesThatContinueTheLastValue) {
+    EXPECT_EQ(With("[A]\nx=1\n  more\n\teven more\n\n[B]\n", "A", "y", "2"),
+              "[A]\nx=1\n  more\n\teven more\ny=2\n\n[B]\n");
+    EXPECT_EQ(With("[A]\r\nx=1\r\n more", "A", "y", "2"), "[A]\r\nx=1\r\n more\r\ny=2");
+    EXPECT_EQ(With("[A]\nx=1\n\n; remark\n  more\n", "A", "y", "2"), "[A]\nx=1\n\n; remark\n  more\ny=2\n")
+        << "some programs let blank lines and comments stand inside a value";
+    EXPECT_EQ(With("[A]\nx=1\n  k=v\n  more\n", "A", "y", "2"), "[A]\nx=1\n  k=v\n  more\ny=2\n");
+    EXPECT_EQ(With("[A]\n  more\n[B]\n", "A", "y", "2"), "[A]\n  more\ny=2\n[B]\n")
+        << "a key above it would get it for its value";
+}
+
+TEST(IniDocument, ANewKeyFollowsTheLineBelowALastValueThatEndsInABackslash) {
+    EXPECT_EQ(With("[A]\nx=1 \\\n2 \\\n3\nno key\n", "A", "y", "4"), "[A]\nx=1 \\\n2 \\\n3\ny=4\nno key\n");
+    EXPECT_EQ(With("[A]\r\nx=1\\\r\n\r\n[B]\r\n", "A", "y", "2"), "[A]\r\nx=1\\\r\n\r\ny=2\r\n[B]\r\n")
+        << "right below the backslash it would become a part of the value";
+    EXPECT_EQ(With("[A]\nx=1\\\n; remark\n2\n", "A", "y", "3"), "[A]\nx=1\\\n; remark\n2\ny=3\n");
+    EXPECT_EQ(With("[A]\nx=1\\\n  [B]\n", "A", "y", "2"), "[A]\nx=1\\\ny=2\n  [B]\n")
+        << "a header is a header wherever it stands";
+}
+
+TEST(IniDocument, ANewKeyDoesNotFollowLinesThatContinueNothing) {
+    EXPECT_EQ(With("[A]\nx=1\nno key\n  more\n", "A", "y", "2"), "[A]\nx=1\ny=2\nno key\n  more\n");
+    EXPECT_EQ(With("[A]\nx=1\n  ; about B\n  [B]\n", "A", "y", "2"), "[A]\nx=1\ny=2\n  ; about B\n  [B]\n");
+    EXPECT_EQ(With("[A]\nx=1\n; C:\\Data\\\n\n[B]\n", "A", "y", "2"), "[A]\nx=1\ny=2\n; C:\\Data\\\n\n[B]\n");
+}
+
+TEST(IniDocument, AValueIsRewrittenOnItsKeyLineAndItsContinuationLinesStay) {
+    EXPECT_EQ(With("[A]\nx=1 \\\n2\n  k=v\n", "A", "x", "3"), "[A]\nx=3\n2\n  k=v\n");
+    EXPECT_EQ(With("[A]\nx=1\n  k=v\n", "A", "k", "2"), "[A]\nx=1\n  k=2\n")
+        << "an indented line with an equals sign is a key of its own";
+}
+
 TEST(IniDocument, ANewKeyTakesTheLineEndOfTheLineItFollows) {
     EXPECT_EQ(With("[A]\r\nx=1\r\n[B]\n", "A", "y", "2"), "[A]\r\nx=1\r\ny=2\r\n[B]\n");
     EXPECT_EQ(With("[A]\r\nx=1\n[B]\r\n", "A", "y", "2"), "[A]\r\nx=1\ny=2\n[B]\r\n");
@@ -211,6 +243,17 @@ TEST(IniDocument, ARemovedSectionGoesWithItsHeaderItsKeysAndTheBlankLinesBehindI
     EXPECT_EQ(Without("[A]\r\nx=1\r\n\r\n[B]\r\ny=2\r\n", "A"), "[B]\r\ny=2\r\n");
     EXPECT_EQ(Without("[A]\nx=1\n  [B]\ny=2\n[C]\n", "b"), "[A]\nx=1\n[C]\n");
     EXPECT_EQ(Without("\xEF\xBB\xBF[A]\nx=1\n", "A"), "\xEF\xBB\xBF");
+}
+
+TEST(IniDocument, ARemovedSectionTakesTheLinesAlongThatContinueItsLastValue) {
+    EXPECT_EQ(Without("[A]\nx=1\n  more\n\n  still more\n\n[B]\n", "A"), "[B]\n");
+    EXPECT_EQ(Without("[A]\nx=1 \\\n\n2 \\\n; 3\n\n; apart\n\n[B]\n", "A"), "; apart\n\n[B]\n");
+    EXPECT_EQ(Without("[A]\nx=C:\\\n; about B\n[B]\n", "A"), "; about B\n[B]\n");
+
+    IniDocument back("[A]\nx=1 \\\n2\n  more\n\n[B]\n");
+    back.RemoveSection(back.FindSection("A").value());
+    Write(back, "A", "y", {"3", false, {}});
+    EXPECT_EQ(back.Text(), "[A]\ny=3\n\n[B]\n");
 }
 
 TEST(IniDocument, RemovingTheLastSectionUndoesWhatAddingItHasDone) {

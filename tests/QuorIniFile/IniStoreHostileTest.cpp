@@ -249,6 +249,8 @@ TEST_F(IniStoreHostile, ManyOfAnythingTakeTimeInProportion) {
         {"semicolons", repeated("[A]\nx=", ";", 20)},
         {"quotes", repeated("[A]\nx=\"", "\"\\", 20)},
         {"blank lines", repeated("[A]\n", "\n", 20)},
+        {"continuation lines", repeated("[A]\nx=1\n", " k\n", 10)},
+        {"lines below a backslash", repeated("[A]\nx=1\\\n", "\\\n", 10)},
         {"blanks", repeated("[A]\n", " ", 40)},
         {"blanks and brackets", repeated("", "    [\n", 4)},
         {"carriage returns", repeated("[A]\nx=1", "\r", 40)},
