@@ -28,16 +28,12 @@ void AppendLine(std::string& text, std::size_t start, std::string_view line) {
         text.append(line).append(end);
 }
 
-bool EndsInBlankLine(std::string_view text) {
-    if (text.ends_with('\n'))
-        text.remove_suffix(text.ends_with("\r\n") ? 2 : 1);
-    return ClassifyLine(text.substr(text.rfind('\n') + 1)).kind == IniLineKind::Blank;
-}
-
-/// Adds the header of a section, parted by a blank line from what stands before.
+/// Adds the header of a section below a blank line, unless it is the first line. The blank line is added even
+/// where the text ends in one, so that the removal of the section knows how many lines were added:
+/// JoinExtents.
 void AppendHeader(std::string& text, std::size_t start, std::string_view name) {
     std::string header = '[' + std::string(name) + ']';
-    if (text.size() > start && !EndsInBlankLine(std::string_view(text).substr(start)))
+    if (text.size() > start)
         header.insert(0, LineEndOf(text));
     AppendLine(text, start, header);
 }

@@ -47,7 +47,8 @@ public:
     [[nodiscard]] IniEncoding Encoding() const;
 
     [[nodiscard]] std::optional<Section> FindSection(std::string_view name) const;
-    /// Adds a section at the end; it becomes part of the text with its first key. `name` is spelled as it
+    /// Adds a section at the end, below a blank line of its own; it becomes part of the text with its first
+    /// key. `name` is spelled as it
     /// will stand in the text, and no section of that name is there yet. One that was removed comes back in
     /// its old place, without its old keys.
     Section AddSection(std::string_view name);
@@ -57,7 +58,8 @@ public:
     /// Removes a section, and later ones of its name, which would be found in its place otherwise: the
     /// header, the comments that touch it from above, and what follows down to the last key and the comments
     /// that touch that one. Comments that stand apart stay, and so do those that touch the next header, and
-    /// those that open the text, for these may speak of the whole of it.
+    /// those that open the text, for these may speak of the whole of it. Removing the last section, which was
+    /// added at the end, gives the text that was there before.
     void RemoveSection(Section section);
     /// Rewrites the name in the header of a section, and of later ones of its name, and nothing else. `name`
     /// is spelled as it will stand in the text, and no other section of that name is there. False, and

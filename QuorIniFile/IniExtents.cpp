@@ -19,15 +19,9 @@ std::size_t LineStart(std::string_view text, std::size_t at) {
     return at;
 }
 
-/// Where the first of those lines starts that touch `line` from above and are of that kind.
-std::size_t StartOfAll(IniLineKind kind, std::string_view text, std::size_t line) {
-    while (line > MarkLength(text)) {
-        const std::size_t above = LineStart(text, line - 1);
-        if (KindAt(text, above) != kind)
-            break;
-        line = above;
-    }
-    return line;
+/// Where the line above a line starts; the line itself when it is the first.
+std::size_t LineAbove(std::string_view text, std::size_t line) {
+    return line > MarkLength(text) ? LineStart(text, line - 1) : line;
 }
 
 /// Where the lines of that kind end that start at `line`.
@@ -39,7 +33,9 @@ std::size_t EndOfAll(IniLineKind kind, std::string_view text, std::size_t line, 
 
 std::size_t StartWithComments(std::string_view text, const IniHeader& header) {
     const std::size_t line = LineStart(text, header.start);
-    const std::size_t start = StartOfAll(IniLineKind::Comment, text, line);
+    std::size_t start = line;
+    while (start > MarkLength(text) && KindAt(text, LineAbove(text, start)) == IniLineKind::Comment)
+        start = LineAbove(text, start);
     return start > MarkLength(text) ? start : line;
 }
 
@@ -79,8 +75,11 @@ std::vector<IniExtent> JoinExtents(std::string_view text, std::vector<IniExtent>
         else
             joined.push_back(extent);
     }
-    if (!joined.empty() && joined.back().end == text.size())
-        joined.back().start = StartOfAll(IniLineKind::Blank, text, joined.back().start);
+    if (!joined.empty() && joined.back().end == text.size()) {
+        const std::size_t above = LineAbove(text, joined.back().start);
+        if (KindAt(text, above) == IniLineKind::Blank)
+            joined.back().start = above;
+    }
     return joined;
 }
 

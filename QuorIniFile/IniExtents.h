@@ -27,8 +27,8 @@ struct IniExtent {
                                                       const std::vector<IniHeader>& headers,
                                                       std::size_t number);
 
-/// `extents` in the order of the text, as one where they touch; at the end of the text with the blank lines
-/// that parted the last section from the one before.
+/// `extents` in the order of the text, as one where they touch; at the end of the text with one blank
+/// line above, which stands there since the last section was added.
 [[nodiscard]] QUORINIFILE_EXPORT std::vector<IniExtent> JoinExtents(std::string_view text,
                                                                     std::vector<IniExtent> extents);
 

@@ -251,12 +251,12 @@ std::set<std::size_t> PlainEdits::LinesThatGo(const PlainIni& old) const {
         for (std::size_t line = first; line < (staysEmpty ? body.end : body.endOfBlanks); ++line)
             gone.insert(line);
     }
-    // At the end of the text the blank lines go that parted the last section from the one before.
+    // At the end of the text a blank line goes that was added with the last section.
     if (gone.contains(lines.size() - 1)) {
         std::size_t first = lines.size() - 1;
         while (first > 0 && gone.contains(first - 1))
             --first;
-        for (; first > 0 && lines[first - 1].parsed.kind == IniLineKind::Blank; --first)
+        if (first > 0 && lines[first - 1].parsed.kind == IniLineKind::Blank)
             gone.insert(first - 1);
     }
     return gone;

@@ -128,20 +128,20 @@ TEST(IniDocument, ANewKeyTakesTheLineEndOfTheLineItFollows) {
     EXPECT_EQ(With("[A]", "A", "y", "2"), "[A]\ny=2");
 }
 
-TEST(IniDocument, ANewSectionFollowsABlankLineAtTheEnd) {
+TEST(IniDocument, ANewSectionFollowsABlankLineOfItsOwnAtTheEnd) {
     EXPECT_EQ(With("", "A", "x", "1"), "[A]\nx=1\n");
     EXPECT_EQ(With("\xEF\xBB\xBF", "A", "x", "1"), "\xEF\xBB\xBF[A]\nx=1\n");
     EXPECT_EQ(With("[A]\nx=1\n", "B", "y", "2"), "[A]\nx=1\n\n[B]\ny=2\n");
     EXPECT_EQ(With("[A]\r\nx=1\r\n", "B", "y", "2"), "[A]\r\nx=1\r\n\r\n[B]\r\ny=2\r\n");
-    EXPECT_EQ(With("[A]\r\nx=1\r\n\r\n", "B", "y", "2"), "[A]\r\nx=1\r\n\r\n[B]\r\ny=2\r\n");
-    EXPECT_EQ(With("[A]\nx=1\n \t\n", "B", "y", "2"), "[A]\nx=1\n \t\n[B]\ny=2\n");
-    EXPECT_EQ(With("\n", "B", "y", "2"), "\n[B]\ny=2\n");
+    EXPECT_EQ(With("[A]\r\nx=1\r\n\r\n", "B", "y", "2"), "[A]\r\nx=1\r\n\r\n\r\n[B]\r\ny=2\r\n");
+    EXPECT_EQ(With("[A]\nx=1\n \t\n", "B", "y", "2"), "[A]\nx=1\n \t\n\n[B]\ny=2\n");
+    EXPECT_EQ(With("\n", "B", "y", "2"), "\n\n[B]\ny=2\n");
 }
 
 TEST(IniDocument, ANewSectionAfterALastLineWithoutAnEndLeavesTheFileWithoutOne) {
     EXPECT_EQ(With("[A]\nx=1", "B", "y", "2"), "[A]\nx=1\n\n[B]\ny=2");
     EXPECT_EQ(With("[A]\r\nx=1", "B", "y", "2"), "[A]\r\nx=1\r\n\r\n[B]\r\ny=2");
-    EXPECT_EQ(With("[A]\nx=1\n  ", "B", "y", "2"), "[A]\nx=1\n  \n[B]\ny=2");
+    EXPECT_EQ(With("[A]\nx=1\n  ", "B", "y", "2"), "[A]\nx=1\n  \n\n[B]\ny=2");
 }
 
 TEST(IniDocument, ChangesOfAllKindsMeetAtTheEndOfTheFile) {
@@ -256,11 +256,52 @@ TEST(IniDocument, ARemovedSectionTakesTheLinesAlongThatContinueItsLastValue) {
     EXPECT_EQ(back.Text(), "[A]\ny=3\n\n[B]\n");
 }
 
-TEST(IniDocument, RemovingTheLastSectionUndoesWhatAddingItHasDone) {
-    for (const std::string text : {"[A]\nx=1\n", "[A]\r\nx=1\r\n", "[A]\nx=1", "; remark\n", ""}) {
-        EXPECT_EQ(Without(With(text, "B", "y", "2"), "B"), text);
+TEST(IniDocument, RemovingTheSectionThatWasAddedLastGivesTheTextBack) {
+    for (const std::string text : {"[A]\nx=1\n",
+                                   "[A]\nx=1\n\n",
+                                   "[A]\nx=1\n\n \t\n\n",
+                                   "[A]\r\nx=1\r\n",
+                                   "[A]\r\nx=1\r\n\r\n",
+                                   "[A]\nx=1\r\n\n",
+                                   "[A]\nx=1",
+                                   "[A]\r\nx=1",
+                                   "[A]\nx=1\n  ",
+                                   "[A]\nx=1\r",
+                                   "[A]",
+                                   "x",
+                                   "\r",
+                                   "\n",
+                                   "\r\n\r\n",
+                                   "  ",
+                                   "; remark\n",
+                                   "; remark",
+                                   "[A]\nx=1\\\n",
+                                   "[A]\nx=1\n  more\n\n",
+                                   "[A\n",
+                                   "\xEF\xBB\xBF",
+                                   "\xEF\xBB\xBF\n",
+                                   ""}) {
+        const std::string added = With(text, "B", "y", "2");
+        EXPECT_EQ(Without(added, "B"), text);
+        EXPECT_EQ(Without(Without(With(added, "C", "z", "3"), "B"), "C"), text);
+        EXPECT_EQ(Without(Without(With(added, "C", "z", "3"), "C"), "B"), text);
+
+        IniDocument both(With(added, "C", "z", "3"));
+        both.RemoveSection(both.FindSection("B").value());
+        both.RemoveSection(both.FindSection("C").value());
+        EXPECT_EQ(both.Text(), text) << "in one save";
+        IniDocument unsaved(text);
+        Write(unsaved, "B", "y", {"2", false, {}});
+        unsaved.RemoveSection(unsaved.FindSection("B").value());
+        EXPECT_FALSE(unsaved.Changed());
+        EXPECT_EQ(unsaved.Text(), text);
     }
-    EXPECT_EQ(Without("[A]\nx=1\n\n \t\n[B]\ny=2\n\n", "B"), "[A]\nx=1\n");
+}
+
+TEST(IniDocument, RemovingTheLastSectionLeavesAllBlankLinesAboveButOne) {
+    EXPECT_EQ(Without("[A]\nx=1\n\n \t\n[B]\ny=2\n\n", "B"), "[A]\nx=1\n\n");
+    EXPECT_EQ(Without("[A]\nx=1\n[B]\ny=2\n", "B"), "[A]\nx=1\n");
+    EXPECT_EQ(Without("\n[B]\ny=2\n", "B"), "");
 }
 
 TEST(IniDocument, CommentsThatTouchARemovedSectionGoWithItAndOthersStay) {

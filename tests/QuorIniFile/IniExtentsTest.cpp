@@ -27,13 +27,13 @@ TEST(IniExtents, ABodyIsWhatFollowsTheHeaderWithoutTheBlankLinesAtItsEnd) {
     EXPECT_EQ(Cut(BodyExtent(text, headers, 2)), "");
 }
 
-TEST(IniExtents, ExtentsThatTouchAreOneAndTheLastTakesTheBlankLinesBeforeItAlong) {
+TEST(IniExtents, ExtentsThatTouchAreOneAndTheLastTakesABlankLineAboveItAlong) {
     const std::string lines = "a\n\nb\nc\n\n \nd\n"; // 0, 2, 3, 5, 7, 8, 10
     const auto joined = JoinExtents(lines, {{10, 12}, {5, 7}, {3, 5}});
     ASSERT_EQ(joined.size(), 2U);
     EXPECT_EQ(joined[0].start, 3U) << "the blank line before stays";
     EXPECT_EQ(joined[0].end, 7U);
-    EXPECT_EQ(joined[1].start, 7U);
+    EXPECT_EQ(joined[1].start, 8U);
     EXPECT_EQ(joined[1].end, 12U);
     EXPECT_TRUE(JoinExtents(lines, {}).empty());
 }

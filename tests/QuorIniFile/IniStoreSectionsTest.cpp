@@ -221,7 +221,7 @@ TEST_F(IniStoreSections, OfAFileThatWasEmptiedBeginAnewWithWhatWasWritten) {
         Put(L"A", L"x", 5);
         File(theirs);
         store->Release();
-        EXPECT_EQ(File(), theirs + (theirs.ends_with('\n') ? "[A]\r\nx=5\r\n" : "[A]\nx=5\n"));
+        EXPECT_EQ(File(), theirs + (theirs.ends_with('\n') ? "\r\n[A]\r\nx=5\r\n" : "[A]\nx=5\n"));
     }
 }
 
