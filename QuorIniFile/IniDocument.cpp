@@ -46,8 +46,11 @@ std::string NameFor(const IniDocument& document, std::string_view name) {
     return NameToWrite(DecodeBytes(name), document.Encoding()).value_or(std::string(name));
 }
 
-std::string TextFor(const IniDocument& document, std::string_view text) {
-    return IsAscii(text) ? std::string(text) : EncodeText(DecodeText(text), document.Encoding());
+std::string TextFor(const IniDocument& document, const IniCommentedValue& text) {
+    // Quotes that only told it from a comment may not be needed there.
+    return IsAscii(text.plain) && text.comment.empty()
+               ? std::string(text.plain)
+               : EncodeText(DecodeText(text.plain), document.Encoding());
 }
 
 std::string CommentFor(const IniDocument& document, std::string_view comment, IniEncoding encoding) {
@@ -412,9 +415,10 @@ std::optional<IniConflict> IniDocument::ApplyChangesTo(IniDocument& other) const
         }
 
         const IniLine line = ClassifyLine(m_changes.Line(change));
-        const IniCommentedValue parts = SplitComment(line.value);
+        const IniCommentedValue parts =
+            change.isText ? SplitTextComment(line.value) : SplitComment(line.value);
         IniNewValue value{
-            change.isText ? TextFor(other, line.value) : std::string(parts.plain), change.isText, {}};
+            change.isText ? TextFor(other, parts) : std::string(parts.plain), change.isText, {}};
         if (change.hasComment)
             value.comment = CommentFor(other, parts.comment, Encoding());
         std::string keyBuffer;

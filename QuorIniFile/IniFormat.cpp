@@ -39,6 +39,30 @@ IniLine ClassifyHeader(std::string_view header) {
     return {IniLineKind::Section, header.substr(1, close - 1), {}};
 }
 
+/// Where the text in quotes ends that `value` begins with.
+std::size_t ClosingQuote(std::string_view value) {
+    for (std::size_t at = 1; at < value.size(); ++at) {
+        if (value[at] == '"')
+            return at;
+        if (value[at] == '\\' && at + 1 < value.size() && (value[at + 1] == '\\' || value[at + 1] == '"'))
+            ++at;
+    }
+    return npos;
+}
+
+/// The same text in quotes, if it stands in none.
+std::string InQuotes(std::string_view text) {
+    if (text.starts_with('"'))
+        return std::string(text);
+    std::string quoted(1, '"');
+    for (const char c : text) {
+        if (c == '"' || c == '\\')
+            quoted += '\\';
+        quoted += c;
+    }
+    return quoted.append(1, '"');
+}
+
 bool EqualFolded(std::string_view a, std::string_view b) {
     return a.size() == b.size() &&
            std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Small(x) == Small(y); });
@@ -99,9 +123,22 @@ bool IniContinuation::IsPartOfValue(std::string_view line, IniLineKind kind) {
     return m_isValue;
 }
 
+IniCommentedValue SplitTextComment(std::string_view value) {
+    if (!value.starts_with('"'))
+        return {value, {}};
+    const std::size_t close = ClosingQuote(value);
+    if (close == npos)
+        return {value, {}};
+    const std::string_view behind = value.substr(close + 1);
+    const std::string_view comment = TrimLeft(behind);
+    if (comment.size() == behind.size() || !comment.starts_with(';') || comment.find('"') != npos)
+        return {value, {}};
+    return {value.substr(0, close + 1), comment};
+}
+
 IniCommentedValue SplitComment(std::string_view value) {
     if (value.empty() || value.front() == '"')
-        return {value, {}};
+        return SplitTextComment(value);
     for (std::size_t at = value.find(';'); at != npos; at = value.find(';', at + 1)) {
         if (at == 0 || IsBlank(value[at - 1]))
             return {TrimRight(value.substr(0, at)), value.substr(at)};
@@ -111,10 +148,20 @@ IniCommentedValue SplitComment(std::string_view value) {
 
 std::string RewriteLine(std::string_view line, const IniNewValue& value) {
     const std::string_view present = ClassifyLine(line).value;
-    const std::string_view old = value.isText ? present : SplitComment(present).plain;
+    std::string bytes = value.bytes;
+    std::string_view old = SplitComment(present).plain;
+    if (value.isText && old.size() < present.size()) {
+        std::string quoted = InQuotes(value.bytes);
+        const bool isTold = present.starts_with('"') || old == value.bytes;
+        const std::string commented = quoted + ' ' + std::string(SplitComment(present).comment);
+        if (isTold && SplitTextComment(commented).plain == quoted)
+            bytes = std::move(quoted);
+        else
+            old = present;
+    }
     const auto start = static_cast<std::size_t>(old.data() - line.data());
     std::string result(line.substr(0, start));
-    result += value.bytes;
+    result += bytes;
     if (!value.comment.empty())
         return result.append(1, ' ').append(value.comment);
     const std::string_view tail = line.substr(start + old.size());

@@ -56,18 +56,27 @@ struct IniCommentedValue {
     std::string_view comment; // from its ';' on; empty when there is none
 };
 
-/// Parts the trailing comment from the value of a number or flag, which can hold no ';' of its own. For text
-/// the whole value counts; a value that begins with a quote is never parted.
+/// Parts the comment from a text in quotes ("Rig 4" ; the old one). The closing quote is the first one that
+/// no backslash escapes; a blank and a ';' follow it, and no other quote. Everything else is text as a whole:
+/// a text without quotes may hold a ';' of its own.
+[[nodiscard]] QUORINIFILE_EXPORT IniCommentedValue SplitTextComment(std::string_view value);
+
+/// Parts the comment from the value of a number or flag, which can hold no ';' of its own: it begins at the
+/// first ';' at the start or behind a blank. A value that begins with a quote is parted as a text.
 [[nodiscard]] QUORINIFILE_EXPORT IniCommentedValue SplitComment(std::string_view value);
 
 /// What is to stand behind a key.
 struct IniNewValue {
     std::string bytes;
-    bool isText = false; // text takes the place of all that stood there, anything else leaves the comment
+    bool isText = false;
     std::string comment; // "; remark", takes the place of the comment that stood there; empty: leave it
 };
 
-/// The key line `line` with another value. Everything else of it stays as it was.
+/// The key line `line` with another value. Everything else of it stays as it was, the comment behind a
+/// number, flag or text in quotes too. A text takes the place of all of a text without quotes, with one
+/// exception: where a comment would begin in it and what stands before that is the new text already
+/// (Version=1.0 ; remark), the new text is put in quotes, which tell it from the comment, and the comment
+/// stays.
 [[nodiscard]] QUORINIFILE_EXPORT std::string RewriteLine(std::string_view line, const IniNewValue& value);
 
 /// The line that starts at a place of a text, and where the next one starts.

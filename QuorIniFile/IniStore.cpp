@@ -95,7 +95,7 @@ public:
         m_value.isText = true;
         m_value.comment.clear();
         if (present.line && DecodeText(present.line->value) == text)
-            m_value.bytes = present.line->value;
+            m_value.bytes = SplitTextComment(present.line->value).plain;
         else
             m_value.bytes = EncodeText(text, EncodingFor(text));
         Put(key, name, present);

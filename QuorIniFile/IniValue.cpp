@@ -239,7 +239,7 @@ std::string EncodeText(std::wstring_view text, IniEncoding encoding) {
 std::wstring DecodeText(std::string_view value) {
     if (!value.starts_with('"') && IsAscii(value))
         return {value.begin(), value.end()};
-    std::wstring text = DecodeBytes(value);
+    std::wstring text = DecodeBytes(SplitTextComment(value).plain);
     if (text.size() < 2 || text.front() != L'"' || text.back() != L'"')
         return text;
     const std::wstring_view inside = std::wstring_view(text).substr(1, text.size() - 2);

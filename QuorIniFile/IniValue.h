@@ -45,7 +45,8 @@ using NumberText = std::array<char, 32>;
 ///   outer
 ///     quotes go and the rest is taken as it stands;
 ///   - with a quote inside that no backslash escapes ("a" or "b"): taken as it stands, outer quotes included.
-/// Without quotes every byte means itself, the backslash too.
+/// A comment behind a text in quotes is no part of it: SplitTextComment. Without quotes every byte means
+/// itself, the backslash and the semicolon too.
 [[nodiscard]] QUORINIFILE_EXPORT std::wstring DecodeText(std::string_view value);
 
 /// A remark as it stands behind a value: "; remark", with line breaks as blanks. Empty for an empty remark.

@@ -63,9 +63,17 @@ void ExpectAnyValueOnThisLine(std::string_view line, const IniLine& parsed) {
     Claim(SplitComment(withNumber.value).plain == "-2.5", "the number stands behind the key");
     Claim(SplitComment(withNumber.value).comment == SplitComment(parsed.value).comment,
           "the remark behind a number stays");
-    const std::string text = RewriteLine(line, {"\"; x\"", true, {}});
-    Claim(ClassifyLine(text).name == parsed.name && ClassifyLine(text).value == "\"; x\"",
-          "a text takes the place of all that stood there");
+    for (const std::string& bytes : {std::string("\"; x\""), std::string(SplitComment(parsed.value).plain)}) {
+        const std::string text = RewriteLine(line, {bytes, true, {}});
+        const IniLine withText = ClassifyLine(text);
+        const std::string_view comment = SplitTextComment(withText.value).comment;
+        Claim(withText.kind == IniLineKind::Key && withText.name == parsed.name, "the key stays");
+        Claim(DecodeText(withText.value) == DecodeText(bytes), "the text stands behind the key");
+        Claim(comment.empty() || comment == SplitComment(parsed.value).comment,
+              "the remark behind a text is the one that stood there");
+        Claim(SplitTextComment(parsed.value).comment.empty() || !comment.empty() || bytes.starts_with('"'),
+              "the remark behind a text in quotes stays");
+    }
 }
 
 } // namespace

@@ -205,6 +205,24 @@ TEST(IniDocument, ChangesCanBeMadeInATextThatSomebodyElseHasChanged) {
                              "X =10 ; Ohm\r\nz=30\r\n\r\n[B]\r\nnew=40\r\n");
 }
 
+TEST(IniDocument, ACommentBehindATextIsThatOfTheTextThatSomebodyElseHasChanged) {
+    IniDocument ours("[A]\nVersion=1.0 ; ours\nname=\"a\" ; ours\n");
+    Write(ours, "A", "Version", {"1.0", true, {}});
+    Write(ours, "A", "name", {"b", true, {}});
+    EXPECT_EQ(ours.Text(), "[A]\nVersion=\"1.0\" ; ours\nname=\"b\" ; ours\n");
+    const std::pair<const char*, const char*> cases[] = {
+        {"[A]\nVersion=1.0 ; theirs\nname=\"a\" ; theirs\n",
+         "[A]\nVersion=\"1.0\" ; theirs\nname=\"b\" ; theirs\n"},
+        {"[A]\nVersion=1.0\nname=a\n", "[A]\nVersion=1.0\nname=b\n"},
+        {"", "[A]\nVersion=1.0\nname=b\n"},
+    };
+    for (const auto& [before, after] : cases) {
+        IniDocument theirs(before);
+        EXPECT_FALSE(ours.ApplyChangesTo(theirs));
+        EXPECT_EQ(theirs.Text(), after);
+    }
+}
+
 TEST(IniDocument, NamesInLatin1AreFoundByTheirText) {
     IniDocument document("[K\xF6ln]\nW\xE4rme=1\n" + ManyKeys(1000).substr(4));
     EXPECT_EQ(document.Encoding(), IniEncoding::Latin1);

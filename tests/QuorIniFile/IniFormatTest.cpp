@@ -59,6 +59,7 @@ TEST(IniFormat, ACommentBehindANumberIsPartedFromIt) {
         {"100.02 # ohms", "100.02 # ohms", ""},
         {"; ohms", "", "; ohms"},
         {"\"a ; b\"", "\"a ; b\"", ""},
+        {"\"5\" ; ohms", "\"5\"", "; ohms"},
         {"", "", ""},
     };
     for (const auto& expected : cases) {
@@ -78,6 +79,64 @@ TEST(IniFormat, OnlyTheValueOfALineIsRewritten) {
     EXPECT_EQ(RewriteLine("R0=\"a ; b\"", number("")), "R0=5");
 
     EXPECT_EQ(RewriteLine("Name = a ; b \t", {"c", true, {}}), "Name = c \t");
+}
+
+TEST(IniFormat, ACommentBehindATextInQuotesIsPartedFromItAndNothingElseOfAText) {
+    const struct {
+        const char* value;
+        const char* plain;
+        const char* comment;
+    } cases[] = {
+        {R"("a" ; c)", R"("a")", "; c"},
+        {"\"a\"\t;c ; d", R"("a")", ";c ; d"},
+        {R"("" ;)", R"("")", ";"},
+        {R"("a;b ; c" ; d)", R"("a;b ; c")", "; d"},
+        {R"("2\" \\" ; c)", R"("2\" \\")", "; c"},
+        {R"("C:\Data" ; c)", R"("C:\Data")", "; c"},
+        {R"("a")", R"("a")", ""},
+        {R"("a";c)", R"("a";c)", ""},
+        {R"("a" # c)", R"("a" # c)", ""},
+        {R"("a" b ; c)", R"("a" b ; c)", ""},
+        {R"("a" ; "b")", R"("a" ; "b")", ""},
+        {R"("a" ; the "b" one)", R"("a" ; the "b" one)", ""},
+        {R"("C:\" ; c)", R"("C:\" ; c)", ""},
+        {R"("a ; c)", R"("a ; c)", ""},
+        {R"(" ; c)", R"(" ; c)", ""},
+        {"a ; c", "a ; c", ""},
+        {"1.0 ; c", "1.0 ; c", ""},
+        {"", "", ""},
+    };
+    for (const auto& expected : cases) {
+        EXPECT_EQ(SplitTextComment(expected.value).plain, expected.plain) << expected.value;
+        EXPECT_EQ(SplitTextComment(expected.value).comment, expected.comment) << expected.value;
+    }
+}
+
+TEST(IniFormat, ATextKeepsTheCommentBehindATextInQuotes) {
+    EXPECT_EQ(RewriteLine(R"( Name = "Rig 4"  ; the old one )", {"Rig 5", true, {}}),
+              R"( Name = "Rig 5"  ; the old one )");
+    EXPECT_EQ(RewriteLine(R"(Path="C:\Data" ; runs)", {R"(D:\new)", true, {}}), R"(Path="D:\\new" ; runs)");
+    EXPECT_EQ(RewriteLine(R"(Name="a" ; c)", {R"(" b")", true, {}}), R"(Name=" b" ; c)");
+    EXPECT_EQ(RewriteLine(R"(Name="a" ; c)", {"", true, {}}), R"(Name="" ; c)");
+    EXPECT_EQ(RewriteLine(R"(Name="5" ; c)", {"6", false, {}}), "Name=6 ; c") << "and so does a number";
+    EXPECT_EQ(RewriteLine(R"(Name="a" ; c)", {R"("C:\")", true, {}}), R"(Name="C:\")")
+        << "a comment behind this spelling would be read as text";
+}
+
+TEST(IniFormat, ATextThatStandsThereBeforeACommentGetsQuotesAndKeepsTheComment) {
+    EXPECT_EQ(RewriteLine("Version=1.0 ; from the certificate", {"1.0", true, {}}),
+              R"(Version="1.0" ; from the certificate)");
+    EXPECT_EQ(RewriteLine("Path = a\\b\t;c", {"a\\b", true, {}}), "Path = \"a\\\\b\"\t;c");
+    EXPECT_EQ(RewriteLine("Name=; c", {"", true, {}}), R"(Name="" ; c)");
+
+    EXPECT_EQ(RewriteLine("Version=1.0 ; from the certificate", {"1.1", true, {}}), "Version=1.1")
+        << "another text may have been meant with all that stood there";
+    EXPECT_EQ(RewriteLine("Columns=Channel;Probe", {"Channel", true, {}}), "Columns=Channel");
+    EXPECT_EQ(RewriteLine("Columns=Channel;Probe", {"Channel;Probe", true, {}}), "Columns=Channel;Probe");
+    EXPECT_EQ(RewriteLine("Columns=a ; b", {"a ; b", true, {}}), "Columns=a ; b");
+    EXPECT_EQ(RewriteLine(R"(Version=1.0 ; a "draft")", {"1.0", true, {}}), "Version=1.0")
+        << "a quote in it makes it no comment behind a text in quotes";
+    EXPECT_EQ(RewriteLine("Version=1.0 # remark", {"1.0", true, {}}), "Version=1.0");
 }
 
 TEST(IniFormat, LinesEndInLfOrCrlfAndALoneCrIsACharacter) {

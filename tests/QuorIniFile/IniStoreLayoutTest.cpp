@@ -99,6 +99,38 @@ TEST(IniStoreLayout, TextTakesThePlaceOfAllThatStoodThere) {
               "[A]\nt = six\n");
 }
 
+TEST(IniStoreLayout, ACommentBehindATextThatIsWrittenAgainOrStandsInQuotesStays) {
+    TempFolder folder;
+    folder.Write("a.ini", "[A]\nVersion=1.0 ; from the certificate\nColumns=Channel ; Probe\n"
+                          "Name = \"Rig 4\" ; the old one\nPath=\"C:\\Data\" ; runs\n");
+    IniStore store;
+    store.SetFileName(folder.Name("a.ini"));
+    store.SetSection(L"A");
+    store.WriteString(L"Version", L"1.0");
+    store.WriteString(L"Columns", L"Channel ; Probe");
+    store.WriteString(L"Name", L"Rig 5");
+    store.WriteString(L"Path", L"C:\\Data");
+    EXPECT_EQ(folder.Read("a.ini"), "[A]\nVersion=\"1.0\" ; from the certificate\nColumns=Channel ; Probe\n"
+                                    "Name = \"Rig 5\" ; the old one\nPath=\"C:\\Data\" ; runs\n");
+    const std::pair<const wchar_t*, const wchar_t*> written[] = {
+        {L"Version", L"1.0"}, {L"Columns", L"Channel ; Probe"}, {L"Name", L"Rig 5"}, {L"Path", L"C:\\Data"}};
+    for (const auto& [key, text] : written) {
+        std::wstring read;
+        EXPECT_TRUE(store.ReadString(key, read));
+        EXPECT_EQ(read, text);
+    }
+}
+
+TEST(IniStoreLayout, WhatTheHostMayHaveMeantAsTextNeverBecomesAComment) {
+    EXPECT_EQ(After("[A]\na=Channel ; Probe\nb=x;y\nc=\"x\" ; \"y\"\n",
+                    [](IniStore& store) {
+                        store.WriteString(L"a", L"Time");
+                        store.WriteString(L"b", L"x");
+                        store.WriteString(L"c", L"z");
+                    }),
+              "[A]\na=Time\nb=x\nc=z\n");
+}
+
 TEST(IniStoreLayout, ANewKeyStandsBehindTheLastOneOfItsSection) {
     EXPECT_EQ(After("[A]\r\nx=1\r\n\r\n; about B\r\n[B]\r\ny=2\r\n",
                     [](IniStore& store) {

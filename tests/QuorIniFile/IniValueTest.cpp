@@ -150,6 +150,12 @@ TEST(IniValue, QuotedTextOfOtherProgramsIsReadAsTheyMeanIt) {
         {R"("\u{41")", L"\\u{41"},
         {R"("\u{123456789}")", L"\\u{123456789}"},
         {R"("\u41")", L"\\u41"},
+        {R"("a" ; b)", L"a"},
+        {R"("two\nlines; " ; b)", L"two\nlines; "},
+        {R"("C:\Data" ; b)", L"C:\\Data"},
+        {R"("a" ; "b")", L"\"a\" ; \"b\""},
+        {R"("a";b)", L"\"a\";b"},
+        {R"(a ; b)", L"a ; b"},
     };
     for (const auto& [value, text] : cases)
         EXPECT_EQ(DecodeText(value), text) << value;
