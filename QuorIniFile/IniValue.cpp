@@ -21,23 +21,6 @@ std::string_view ToText(Number value, NumberText& place) {
     return {place.data(), static_cast<std::size_t>(result.ptr - place.data())};
 }
 
-std::uint32_t CodeOf(wchar_t c) {
-    if constexpr (wideIsUtf16)
-        return static_cast<std::uint16_t>(c);
-    else
-        return static_cast<std::uint32_t>(c);
-}
-
-/// How many units of `text` from `at` on form one character of UTF-8, 0 when the unit there is none.
-std::size_t CharacterLength(std::wstring_view text, std::size_t at) {
-    const std::uint32_t code = CodeOf(text[at]);
-    if (code < 0xD800 || (code > 0xDFFF && code <= lastCharacter))
-        return 1;
-    const bool pair = wideIsUtf16 && code <= 0xDBFF && at + 1 < text.size() &&
-                      CodeOf(text[at + 1]) >= 0xDC00 && CodeOf(text[at + 1]) <= 0xDFFF;
-    return pair ? 2 : 0;
-}
-
 void AppendEscape(std::string& out, std::uint32_t code) {
     constexpr std::pair<char, char> named[] = {{'\\', '\\'}, {'"', '"'}, {'\n', 'n'}, {'\r', 'r'}};
     for (const auto& [character, letter] : named) {
@@ -55,56 +38,64 @@ bool IsControl(std::uint32_t code, IniEncoding encoding) {
            (encoding == IniEncoding::Utf8 && code >= 0x80 && code <= 0x9F);
 }
 
-bool IsEdge(wchar_t c) { return c == L' ' || c == L'\t'; }
+bool IsEdge(std::uint32_t code) { return code == ' ' || code == '\t'; }
 
 /// How text is put between the bytes of a file: what cannot stand there itself becomes an escape.
+template <class Unit>
 class TextWriter {
 public:
     /// Characters above `limit` are escaped, whether the encoding has them or not.
-    TextWriter(std::wstring_view text, IniEncoding encoding, std::uint32_t limit)
+    TextWriter(std::basic_string_view<Unit> text, IniEncoding encoding, std::uint32_t limit)
         : m_text(text), m_encoding(encoding), m_limit(limit) {}
 
     [[nodiscard]] std::string Write() const {
         const bool quoted = NeedsQuotes();
         std::string out(quoted ? 1 : 0, '"');
         for (std::size_t at = 0; at < m_text.size();) {
-            const std::uint32_t code = CodeOf(m_text[at]);
-            const std::size_t length = CharacterLength(m_text, at);
-            if (NeedsEscape(at) || (quoted && (code == '"' || code == '\\')))
+            const std::uint32_t code = NextCode(m_text, at);
+            if (NeedsEscape(code) || (quoted && (code == '"' || code == '\\')))
                 AppendEscape(out, code);
-            else if (m_encoding == IniEncoding::Latin1 || code < 0x80)
+            else if (m_encoding == IniEncoding::Latin1)
                 out += static_cast<char>(code);
             else
-                out += ToUtf8(m_text.substr(at, length));
-            at += std::max<std::size_t>(length, 1);
+                AppendUtf8(out, code);
         }
         return out.append(quoted ? 1 : 0, '"');
     }
 
 private:
-    [[nodiscard]] bool NeedsEscape(std::size_t at) const {
-        const std::uint32_t code = CodeOf(m_text[at]);
-        return code > m_limit || CharacterLength(m_text, at) == 0 || IsControl(code, m_encoding);
+    [[nodiscard]] bool NeedsEscape(std::uint32_t code) const {
+        return code > m_limit || !IsCharacter(code) || IsControl(code, m_encoding);
     }
 
     [[nodiscard]] bool NeedsQuotes() const {
         if (m_text.empty())
             return false;
-        if (IsEdge(m_text.front()) || IsEdge(m_text.back()) || m_text.front() == L';' ||
-            m_text.front() == L'#')
+        if (IsEdge(m_text.front()) || IsEdge(m_text.back()) || m_text.front() == ';' || m_text.front() == '#')
             return true;
-        for (std::size_t at = 0; at < m_text.size();
-             at += std::max<std::size_t>(CharacterLength(m_text, at), 1)) {
-            if (m_text[at] == L'"' || NeedsEscape(at))
+        for (std::size_t at = 0; at < m_text.size();) {
+            const std::uint32_t code = NextCode(m_text, at);
+            if (code == '"' || NeedsEscape(code))
                 return true;
         }
         return false;
     }
 
-    std::wstring_view m_text;
+    std::basic_string_view<Unit> m_text;
     IniEncoding m_encoding;
     std::uint32_t m_limit;
 };
+
+template <class Unit>
+std::string EncodeUnits(std::basic_string_view<Unit> text, IniEncoding encoding) {
+    if (encoding == IniEncoding::Utf8)
+        return TextWriter(text, encoding, std::numeric_limits<std::uint32_t>::max()).Write();
+    std::string bytes = TextWriter(text, encoding, 0xFF).Write();
+    // Letters of Latin-1 that happen to form UTF-8 would be read as UTF-8.
+    if (!IsAscii(bytes) && IsUtf8(bytes))
+        bytes = TextWriter(text, encoding, 0x7F).Write();
+    return bytes;
+}
 
 // Reading --------------------------------------------------------------------------------------------------
 
@@ -226,15 +217,9 @@ std::optional<bool> ParseBoolean(std::string_view value) {
     return std::nullopt;
 }
 
-std::string EncodeText(std::wstring_view text, IniEncoding encoding) {
-    if (encoding == IniEncoding::Utf8)
-        return TextWriter(text, encoding, std::numeric_limits<std::uint32_t>::max()).Write();
-    std::string bytes = TextWriter(text, encoding, 0xFF).Write();
-    // Letters of Latin-1 that happen to form UTF-8 would be read as UTF-8.
-    if (!IsAscii(bytes) && IsUtf8(bytes))
-        bytes = TextWriter(text, encoding, 0x7F).Write();
-    return bytes;
-}
+std::string EncodeText(std::wstring_view text, IniEncoding encoding) { return EncodeUnits(text, encoding); }
+
+std::string EncodeText(std::u16string_view text, IniEncoding encoding) { return EncodeUnits(text, encoding); }
 
 std::wstring DecodeText(std::string_view value) {
     if (!value.starts_with('"') && IsAscii(value))
@@ -256,23 +241,21 @@ std::wstring DecodeText(std::string_view value) {
 }
 
 std::string FormatComment(std::wstring_view comment, IniEncoding encoding) {
-    std::wstring text(comment);
-    for (wchar_t& c : text) {
-        if (IsControl(CodeOf(c), IniEncoding::Utf8) || c == L'\t')
-            c = L' ';
-        else if (encoding == IniEncoding::Latin1 && CodeOf(c) > 0xFF)
-            c = L'?';
+    std::string text;
+    for (std::size_t at = 0; at < comment.size();) {
+        const std::size_t start = at;
+        const std::uint32_t code = NextCode(comment, at);
+        if (IsControl(code, IniEncoding::Utf8) || code == '\t')
+            text += ' ';
+        else if (encoding == IniEncoding::Latin1)
+            text += code > 0xFF ? '?' : static_cast<char>(code);
+        else
+            text += ToUtf8(comment.substr(start, at - start));
     }
-    const std::size_t first = text.find_first_not_of(L' ');
-    if (first == std::wstring::npos)
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string::npos)
         return {};
-    text = text.substr(first, text.find_last_not_of(L' ') - first + 1);
-    if (encoding == IniEncoding::Utf8)
-        return "; " + ToUtf8(text);
-    std::string bytes = "; ";
-    for (const wchar_t c : text)
-        bytes += static_cast<char>(c);
-    return bytes;
+    return "; " + text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 } // namespace QuorIniFile

@@ -38,6 +38,9 @@ using NumberText = std::array<char, 32>;
 /// the escapes \\ \" \n \r and \u{HEX}. Every std::wstring comes back exactly, even one that is no valid
 /// text.
 [[nodiscard]] QUORINIFILE_EXPORT std::string EncodeText(std::wstring_view text, IniEncoding encoding);
+/// The same for text in units of 16 bits, as wchar_t is on some systems: a pair of surrogates is one
+/// character.
+[[nodiscard]] QUORINIFILE_EXPORT std::string EncodeText(std::u16string_view text, IniEncoding encoding);
 
 /// The text that a value spells. In double quotes:
 ///   - with the escapes above and no others: unescaped;

@@ -14,31 +14,6 @@ namespace {
 constexpr std::uint32_t replacement = 0xFFFD;
 constexpr std::uint32_t noCharacter = 0xFFFFFFFF;
 
-bool IsSurrogate(std::uint32_t code) { return code >= 0xD800 && code <= 0xDFFF; }
-
-/// The code that starts at `text[at]`, that of a lone surrogate too; moves `at` behind it.
-std::uint32_t NextCode(std::wstring_view text, std::size_t& at) {
-    // NOLINTNEXTLINE(bugprone-signed-char-misuse,cert-str34-c): a wide character, whatever its sign
-    auto code = static_cast<std::uint32_t>(text[at++]);
-    if constexpr (wideIsUtf16) {
-        code &= 0xFFFFU;
-        if (code >= 0xD800 && code <= 0xDBFF && at < text.size()) {
-            const std::uint32_t low = static_cast<std::uint32_t>(text[at]) & 0xFFFFU;
-            if (low >= 0xDC00 && low <= 0xDFFF) {
-                ++at;
-                return 0x10000 + ((code - 0xD800) << 10) + (low - 0xDC00);
-            }
-        }
-    }
-    return code;
-}
-
-/// The character that starts at `text[at]`; moves `at` behind it.
-std::uint32_t NextCharacter(std::wstring_view text, std::size_t& at) {
-    const std::uint32_t code = NextCode(text, at);
-    return IsSurrogate(code) || code > lastCharacter ? replacement : code;
-}
-
 /// The first and the last code of each range that a terminal or a log must not get. They are in order.
 constexpr std::pair<std::uint32_t, std::uint32_t> unprintable[] = {
     {0x0, 0x1F},        // control characters
@@ -79,7 +54,7 @@ std::uint32_t NextFromUtf8(std::string_view bytes, std::size_t& at) {
         code = (code << 6) | (next & 0x3FU);
     }
     constexpr std::uint32_t smallest[] = {0, 0x80, 0x800, 0x10000};
-    return code < smallest[continuations] || IsSurrogate(code) || code > lastCharacter ? noCharacter : code;
+    return code < smallest[continuations] || !IsCharacter(code) ? noCharacter : code;
 }
 
 } // namespace
@@ -93,22 +68,26 @@ void AppendCharacter(std::wstring& text, std::uint32_t code) {
     text += static_cast<wchar_t>(code);
 }
 
+void AppendUtf8(std::string& bytes, std::uint32_t code) {
+    if (code < 0x80) {
+        bytes += static_cast<char>(code);
+        return;
+    }
+    const int continuations = code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
+    constexpr std::uint32_t leads[] = {0, 0xC0, 0xE0, 0xF0};
+    bytes += static_cast<char>(leads[continuations] | (code >> (6 * continuations)));
+    for (int i = continuations - 1; i >= 0; --i)
+        bytes += static_cast<char>(0x80 | ((code >> (6 * i)) & 0x3F));
+}
+
 std::string ToUtf8(std::wstring_view text) {
     std::string bytes;
     if (CopyAscii(text, bytes)) // nearly all names are
         return bytes;
     bytes.clear();
     for (std::size_t at = 0; at < text.size();) {
-        const std::uint32_t code = NextCharacter(text, at);
-        if (code < 0x80) {
-            bytes += static_cast<char>(code);
-            continue;
-        }
-        const int continuations = code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
-        constexpr std::uint32_t leads[] = {0, 0xC0, 0xE0, 0xF0};
-        bytes += static_cast<char>(leads[continuations] | (code >> (6 * continuations)));
-        for (int i = continuations - 1; i >= 0; --i)
-            bytes += static_cast<char>(0x80 | ((code >> (6 * i)) & 0x3F));
+        const std::uint32_t code = NextCode(text, at);
+        AppendUtf8(bytes, IsCharacter(code) ? code : replacement);
     }
     return bytes;
 }

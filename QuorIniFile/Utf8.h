@@ -17,6 +17,30 @@ inline constexpr bool wideIsUtf16 = sizeof(wchar_t) == 2;
 /// The greatest code of a Unicode character.
 inline constexpr std::uint32_t lastCharacter = 0x10FFFF;
 
+/// Whether it is the code of a Unicode character: no lone surrogate, nothing past the last one.
+[[nodiscard]] constexpr bool IsCharacter(std::uint32_t code) {
+    return (code < 0xD800 || code > 0xDFFF) && code <= lastCharacter;
+}
+
+/// The code that starts at `text[at]`, that of a lone surrogate too; moves `at` behind it. In units of 16
+/// bits a pair of surrogates is one code; a wider unit is a code of its own.
+template <class Unit>
+[[nodiscard]] std::uint32_t NextCode(std::basic_string_view<Unit> text, std::size_t& at) {
+    // NOLINTNEXTLINE(bugprone-signed-char-misuse,cert-str34-c): a wide character, whatever its sign
+    auto code = static_cast<std::uint32_t>(text[at++]);
+    if constexpr (sizeof(Unit) == 2) {
+        code &= 0xFFFFU;
+        if (code >= 0xD800 && code <= 0xDBFF && at < text.size()) {
+            const std::uint32_t low = static_cast<std::uint32_t>(text[at]) & 0xFFFFU;
+            if (low >= 0xDC00 && low <= 0xDFFF) {
+                ++at;
+                return 0x10000 + ((code - 0xD800) << 10) + (low - 0xDC00);
+            }
+        }
+    }
+    return code;
+}
+
 /// Whether all of it is ASCII, which is the same as bytes and as text.
 [[nodiscard]] QUORINIFILE_EXPORT bool IsAscii(std::wstring_view text);
 [[nodiscard]] inline bool IsAscii(std::string_view bytes) { // in line: it is asked of every key
@@ -53,6 +77,9 @@ inline constexpr std::uint32_t lastCharacter = 0x10FFFF;
 
 /// `text` as UTF-8. What is no Unicode character (a lone surrogate, a code past 0x10FFFF) becomes U+FFFD.
 [[nodiscard]] QUORINIFILE_EXPORT std::string ToUtf8(std::wstring_view text);
+
+/// Adds the character with that code to `bytes`.
+QUORINIFILE_EXPORT void AppendUtf8(std::string& bytes, std::uint32_t code);
 
 /// `text` with escapes for what a terminal would obey or a log would take for a new line: control characters,
 /// line separators, marks of direction, characters that nobody sees, and what is no Unicode character. They

@@ -134,6 +134,33 @@ TEST(IniValue, ALatin1FileGetsLatin1AndEscapesForTheRest) {
     }
 }
 
+TEST(IniValue, ACharacterOfTwoUnitsOf16BitsIsWrittenOrEscapedAsOne) {
+    const struct {
+        std::u16string text;
+        const char* utf8;
+        const char* latin1;
+    } cases[] = {
+        {u"20 \u00B0C",
+         "20 \xC2\xB0"
+         "C",
+         "20 \xB0"
+         "C"},
+        {u"\U0001F321", "\xF0\x9F\x8C\xA1", R"("\u{1F321}")"},
+        {u"a\U0010FFFFb",
+         "a\xF4\x8F\xBF\xBF"
+         "b",
+         R"("a\u{10FFFF}b")"},
+        {u"\"\U00010000", "\"\\\"\xF0\x90\x80\x80\"", R"("\"\u{10000}")"},
+        {{u'a', 0xD83C}, R"("a\u{D83C}")", R"("a\u{D83C}")"},
+        {{0xDF21, 0xD83C}, R"("\u{DF21}\u{D83C}")", R"("\u{DF21}\u{D83C}")"},
+        {{0xD83C, 0xD83C, 0xDF21}, "\"\\u{D83C}\xF0\x9F\x8C\xA1\"", R"("\u{D83C}\u{1F321}")"},
+    };
+    for (const auto& expected : cases) {
+        EXPECT_EQ(EncodeText(expected.text, IniEncoding::Utf8), expected.utf8);
+        EXPECT_EQ(EncodeText(expected.text, IniEncoding::Latin1), expected.latin1);
+    }
+}
+
 TEST(IniValue, QuotedTextOfOtherProgramsIsReadAsTheyMeanIt) {
     const std::pair<const char*, const wchar_t*> cases[] = {
         {R"("C:\Data")", L"C:\\Data"},

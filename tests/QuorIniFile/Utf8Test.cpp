@@ -5,11 +5,13 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 using QuorIniFile::EscapeControls;
 using QuorIniFile::FromUtf8;
 using QuorIniFile::IsAscii;
 using QuorIniFile::IsUtf8;
+using QuorIniFile::NextCode;
 using QuorIniFile::ToPrintable;
 using QuorIniFile::ToUtf8;
 
@@ -17,6 +19,20 @@ TEST(Utf8, TextOfEveryLengthOfCharacterComesBack) {
     EXPECT_EQ(ToUtf8(L"A\u00B0\u2126\U0001F321"), "A\xC2\xB0\xE2\x84\xA6\xF0\x9F\x8C\xA1");
     EXPECT_EQ(FromUtf8("A\xC2\xB0\xE2\x84\xA6\xF0\x9F\x8C\xA1"), L"A\u00B0\u2126\U0001F321");
     EXPECT_EQ(FromUtf8(""), L"");
+}
+
+TEST(Utf8, APairOfSurrogatesIsOneCodeInUnitsOf16BitsAndTwoInWiderOnes) {
+    const std::u16string narrow = {u'a', 0xD83C, 0xDF21, 0xDF21, 0xD83C};
+    std::vector<std::uint32_t> codes;
+    for (std::size_t at = 0; at < narrow.size();)
+        codes.push_back(NextCode(std::u16string_view(narrow), at));
+    EXPECT_EQ(codes, (std::vector<std::uint32_t>{'a', 0x1F321, 0xDF21, 0xD83C}));
+
+    const std::u32string wide = {0xD83C, 0xDF21, 0x1F321, 0x110000};
+    codes.clear();
+    for (std::size_t at = 0; at < wide.size();)
+        codes.push_back(NextCode(std::u32string_view(wide), at));
+    EXPECT_EQ(codes, (std::vector<std::uint32_t>{0xD83C, 0xDF21, 0x1F321, 0x110000}));
 }
 
 TEST(Utf8, WhatIsNoCharacterBecomesTheReplacementCharacter) {
