@@ -104,19 +104,23 @@ bool EqualIgnoringCase(std::string_view a, std::string_view lower) {
            std::equal(a.begin(), a.end(), lower.begin(), [](char x, char y) { return Small(x) == y; });
 }
 
-/// The number that all of `value` spells. from_chars knows no '+', and takes names that are none of ours.
+/// Reads the number that all of `value` spells; result_out_of_range when a Number cannot hold it. from_chars
+/// knows no '+', and takes names that are none of ours.
 template <class Number>
-std::optional<Number> ToNumber(std::string_view value) {
+std::errc ReadNumber(std::string_view value, Number& number) {
     if (value.starts_with('+') && !value.starts_with("+-"))
         value.remove_prefix(1);
     const std::size_t first = value.starts_with('-') ? 1 : 0;
     if (value.size() == first || (value[first] != '.' && (value[first] < '0' || value[first] > '9')))
-        return std::nullopt;
-    Number number{};
+        return std::errc::invalid_argument;
     const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
-    if (error != std::errc() || end != value.data() + value.size())
-        return std::nullopt;
-    return number;
+    return end == value.data() + value.size() ? error : std::errc::invalid_argument;
+}
+
+template <class Number>
+std::optional<Number> ToNumber(std::string_view value) {
+    Number number{};
+    return ReadNumber(value, number) == std::errc() ? std::optional(number) : std::nullopt;
 }
 
 bool IsWide(std::uint32_t code) { return !wideIsUtf16 || code <= lastCharacter; }
@@ -196,6 +200,11 @@ std::optional<double> ParseDouble(std::string_view value) {
             return number;
     }
     return ToNumber<double>(value);
+}
+
+bool IsBeyondDouble(std::string_view value) {
+    double number = 0;
+    return ReadNumber(value, number) == std::errc::result_out_of_range;
 }
 
 std::string FormatInteger(std::int16_t value) {

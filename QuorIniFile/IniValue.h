@@ -23,6 +23,8 @@ using NumberText = std::array<char, 32>;
 /// Decimal, from the first byte to the last, a leading '+' allowed; the three names in any case. Nothing for
 /// a number that a double cannot hold, be it too large or too close to zero.
 [[nodiscard]] QUORINIFILE_EXPORT std::optional<double> ParseDouble(std::string_view value);
+/// Whether it is such a number.
+[[nodiscard]] QUORINIFILE_EXPORT bool IsBeyondDouble(std::string_view value);
 
 [[nodiscard]] QUORINIFILE_EXPORT std::string FormatInteger(std::int16_t value);
 /// Decimal, from the first byte to the last, a leading '+' allowed. Nothing outside 16 bits.

@@ -191,9 +191,22 @@ private:
         } else if (!key) {
             Report(section->line, read.section, read.key, L"the key is missing");
         } else {
+            const std::wstring text = QuorIniFile::DecodeBytes(QuorIniFile::SplitComment(key->value).plain);
             Report(key->line, read.section, read.key,
-                   WhatIsWrong(read.value, QuorIniFile::DecodeText(key->value)));
+                   WhatIsWrong(read.value, text) + WhatIsNoComment(read.value, text));
         }
+    }
+
+    /// For a value that would be fine without what looks like a comment behind it, but is none.
+    static std::wstring WhatIsNoComment(const Value& kind, const std::wstring& text) {
+        const std::size_t sign = text.find_first_of(L"#;");
+        if (sign == std::wstring::npos)
+            return {};
+        const std::size_t end = text.find_last_not_of(L" \t", sign == 0 ? 0 : sign - 1);
+        if (end == std::wstring::npos || !ParseAs(kind, text.substr(0, end + 1)))
+            return {};
+        return text[sign] == L'#' ? L"; a comment begins with \";\""
+                                  : L"; a comment begins with \";\" behind a blank";
     }
 
     /// A problem with a key that was read.

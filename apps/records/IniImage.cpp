@@ -43,10 +43,15 @@ std::optional<Value> ParseAs(const Value& kind, const std::wstring& text) {
 
 std::wstring WhatIsWrong(const Value& kind, const std::wstring& text) {
     const std::wstring quoted = L"\"" + text + L"\" ";
-    if (std::holds_alternative<double>(kind))
-        return quoted + (text.find(L',') == std::wstring::npos
-                             ? L"is not a number that a double can hold"
-                             : L"is not a number; the decimal separator is a point");
+    if (std::holds_alternative<double>(kind)) {
+        std::wstring withPoints = text;
+        std::replace(withPoints.begin(), withPoints.end(), L',', L'.');
+        if (QuorIniFile::IsBeyondDouble(ToUtf8(text)))
+            return quoted + L"is a number that no double can hold: too large, or too close to zero";
+        if (ParseAs(kind, withPoints))
+            return quoted + L"is not a number; the decimal separator is a point";
+        return quoted + L"is not a number";
+    }
     if (std::holds_alternative<std::int16_t>(kind))
         return quoted + L"is not a whole number from -32768 to 32767";
     if (std::holds_alternative<bool>(kind))

@@ -92,6 +92,16 @@ TEST(IniValue, FlagsAreReadInFiveSpellings) {
         EXPECT_EQ(ParseBoolean(text), std::nullopt) << text;
 }
 
+TEST(IniValue, ANumberThatNoDoubleCanHoldIsToldFromWhatIsNoNumber) {
+    for (const char* text : {"1E400", "-1e309", "+1E400", "1E-400", "-1E-400"}) {
+        EXPECT_TRUE(IsBeyondDouble(text)) << text;
+        EXPECT_EQ(ParseDouble(text), std::nullopt) << text;
+    }
+    for (const char* text :
+         {"1E308", "0", "5E-324", "Infinity", "NaN", "1E400x", "1E400 ", "", "inf", "+-1E400"})
+        EXPECT_FALSE(IsBeyondDouble(text)) << text;
+}
+
 TEST(IniValue, TextStandsAsItIsOrInQuotesWhereItWouldNotSurvive) {
     const std::pair<std::wstring, std::string> cases[] = {
         {L"", ""},

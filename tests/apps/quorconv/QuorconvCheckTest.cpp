@@ -53,6 +53,30 @@ const BadFile badFiles[] = {
      "host.ini:1: [A - Settings] the section is missing\n"},
     {"a value that cannot be read stands at its line", "[A]\nConversionType=14\n[A - Settings]\nRTPW=25,5\n",
      "host.ini:4: [A - Settings] RTPW: \"25,5\" is not a number; the decimal separator is a point\n"},
+    {"a decimal comma before a comment is told, whatever the comment says",
+     "[A]\nConversionType=14\n[A - Settings]\nRTPW=25,5 ; ohms, at 0.01 C\n",
+     "host.ini:4: [A - Settings] RTPW: \"25,5\" is not a number; the decimal separator is a point\n"},
+    {"a sign that begins no comment is told",
+     "[A]\nConversionType=14 # ITS-90\n", //
+     "host.ini:2: [A] ConversionType: \"14 # ITS-90\" is not a whole number from -32768 to 32767; a comment "
+     "begins with \";\"\n"},
+    {"the same behind a number", "[A]\nConversionType=14\n[A - Settings]\nRTPW=0.00385 # alpha, or ;\n",
+     "host.ini:4: [A - Settings] RTPW: \"0.00385 # alpha, or\" is not a number; a comment begins with "
+     "\";\"\n"},
+    {"a comment without a blank in front of it is told",
+     "[A]\nConversionType=14\n[A - Settings]\nRTPW=25.5;ohms\n",
+     "host.ini:4: [A - Settings] RTPW: \"25.5;ohms\" is not a number; a comment begins with \";\" behind a "
+     "blank\n"},
+    {"a number that is too large is told", "[A]\nConversionType=14\n[A - Settings]\nRTPW=1E400 ; at 0, 1 C\n",
+     "host.ini:4: [A - Settings] RTPW: \"1E400\" is a number that no double can hold: too large, or too "
+     "close "
+     "to zero\n"},
+    {"a number that is too close to zero is told", "[A]\nConversionType=14\n[A - Settings]\nRTPW=-1E-400\n",
+     "host.ini:4: [A - Settings] RTPW: \"-1E-400\" is a number that no double can hold: too large, or too "
+     "close to zero\n"},
+    {"what is no number in any way is told without advice",
+     "[A]\nConversionType=14\n[A - Settings]\nRTPW=1,2,3 # list\n",
+     "host.ini:4: [A - Settings] RTPW: \"1,2,3 # list\" is not a number\n"},
     {"unknown keys are told in each section of a record, not in the host's own",
      "[Host]\nColour=red\n[A]\nConversionType=14\nColour=red\n[A - Settings]\nRTPW=25.5\nRTWP=25.6\n",
      "host.ini:5: [A] Colour: unknown key: a record of this type and size does not hold it\n"
@@ -144,7 +168,7 @@ TEST_F(QuorconvTest, ChecksEveryFileAndGoesOnAfterABadOne) {
     folder.Write("d.w90", "[W(T90)]\nRTPW=25\n");
     const Outcome run = Quorconv({"check", "a.w90", "b.w90", "c.w90", "missing.w90", "d.w90"});
     EXPECT_EQ(run.code, 1);
-    EXPECT_EQ(run.out, "a.w90:2: [W(T90)] RTPW: \"x\" is not a number that a double can hold\n"
+    EXPECT_EQ(run.out, "a.w90:2: [W(T90)] RTPW: \"x\" is not a number\n"
                        "b.w90:1: [W(T90)] the section is missing\n"
                        "c.w90: Path/File access error: c.w90: the file is UTF-16 text\n"
                        "missing.w90: File not found: missing.w90\n");

@@ -198,9 +198,10 @@ TEST_F(QuorconvTest, RefusesWhatIsNoExactValueAndWritesNothing) {
     ExpectRefused({"set", "host.ini", "Probe 1", "Coefficients0=1,5"},
                   place + "Coefficients0: \"1,5\" is not a number; the decimal separator is a point\n");
     ExpectRefused({"set", "host.ini", "Probe 1", "Coefficients0=12abc"},
-                  place + "Coefficients0: \"12abc\" is not a number that a double can hold\n");
+                  place + "Coefficients0: \"12abc\" is not a number\n");
     ExpectRefused({"set", "host.ini", "Probe 1", "Coefficients0=1e999"},
-                  place + "Coefficients0: \"1e999\" is not a number that a double can hold\n");
+                  place + "Coefficients0: \"1e999\" is a number that no double can hold: too large, or too "
+                          "close to zero\n");
     ExpectRefused({"set", "host.ini", "Probe 1", "NumCoefficients=70000"},
                   place + "NumCoefficients: \"70000\" is not a whole number from -32768 to 32767\n");
     ExpectRefused({"set", "host.ini", "Probe 1", "UsePolynomial=maybe"},
