@@ -38,7 +38,10 @@ bool IsControl(std::uint32_t code, IniEncoding encoding) {
            (encoding == IniEncoding::Utf8 && code >= 0x80 && code <= 0x9F);
 }
 
-bool IsEdge(std::uint32_t code) { return code == ' ' || code == '\t'; }
+template <class Unit>
+bool IsEdge(Unit c) {
+    return c == ' ' || c == '\t';
+}
 
 /// How text is put between the bytes of a file: what cannot stand there itself becomes an escape.
 template <class Unit>

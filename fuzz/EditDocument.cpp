@@ -94,10 +94,24 @@ void ClaimAgreement(const IniDocument& document, const PlainIni& old, const Plai
     }
 }
 
+void ClaimThatAnAddedSectionCanBeTakenBack(const std::string& text) {
+    constexpr std::string_view name = "added";
+    IniDocument added(text);
+    if (added.FindSection(name))
+        return;
+    added.Write(added.AddSection(name), "key", "key", {"1", false, {}});
+    IniDocument back(added.Text());
+    const auto section = back.FindSection(name);
+    Claim(section.has_value(), "a section that was added is there");
+    back.RemoveSection(*section);
+    Claim(back.Text() == text, "a section that is added and removed again leaves nothing");
+}
+
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const Fuzz::EditedFile file = Fuzz::ParseInput(Fuzz::Bytes(data, size));
+    ClaimThatAnAddedSectionCanBeTakenBack(file.text);
     IniDocument document(file.text);
     PlainEdits plain(file.text);
     for (const Edit& edit : file.edits) {

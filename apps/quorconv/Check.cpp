@@ -197,7 +197,7 @@ private:
         }
     }
 
-    /// For a value that would be fine without what looks like a comment behind it, but is none.
+    /// For a value that would be fine without what looks like a comment after it, but is none.
     static std::wstring WhatIsNoComment(const Value& kind, const std::wstring& text) {
         const std::size_t sign = text.find_first_of(L"#;");
         if (sign == std::wstring::npos)
@@ -206,7 +206,7 @@ private:
         if (end == std::wstring::npos || !ParseAs(kind, text.substr(0, end + 1)))
             return {};
         return text[sign] == L'#' ? L"; a comment begins with \";\""
-                                  : L"; a comment begins with \";\" behind a blank";
+                                  : L"; a comment begins with \";\" after a blank";
     }
 
     /// A problem with a key that was read.

@@ -65,7 +65,7 @@ const BadFile badFiles[] = {
      "\";\"\n"},
     {"a comment without a blank in front of it is told",
      "[A]\nConversionType=14\n[A - Settings]\nRTPW=25.5;ohms\n",
-     "host.ini:4: [A - Settings] RTPW: \"25.5;ohms\" is not a number; a comment begins with \";\" behind a "
+     "host.ini:4: [A - Settings] RTPW: \"25.5;ohms\" is not a number; a comment begins with \";\" after a "
      "blank\n"},
     {"a number that is too large is told", "[A]\nConversionType=14\n[A - Settings]\nRTPW=1E400 ; at 0, 1 C\n",
      "host.ini:4: [A - Settings] RTPW: \"1E400\" is a number that no double can hold: too large, or too "
