@@ -2,6 +2,7 @@
 
 #include "QuorIniFile/IniDisk.h"
 #include "QuorIniFile/IniDocument.h"
+#include "QuorIniFile/IniEncodedText.h"
 #include "QuorIniFile/IniError.h"
 #include "QuorIniFile/IniFormat.h"
 #include "QuorIniFile/IniValue.h"
@@ -210,7 +211,7 @@ public:
             return true;
         if (now == m_stamp && m_stamp.isSettled)
             return false;
-        if (!HasBytes(m_file, m_document->BaseText(), m_files))
+        if (!HasBytes(m_file, Loaded().Bytes(), m_files))
             return true;
         m_stamp = now;
         return false;
@@ -219,12 +220,19 @@ public:
     void Reload() {
         if (!m_document)
             return;
-        auto [document, stamp] = LoadFile();
-        ApplyChangesTo(document);
-        Adopt(std::move(document), stamp);
+        FileDocument file = LoadFile();
+        ApplyChangesTo(file.document);
+        Adopt(std::move(file));
     }
 
 private:
+    /// A document, and how the file that it was read from spells it.
+    struct FileDocument {
+        IniDocument document;
+        IniFileEncoding encoding = IniFileEncoding::Bytes;
+        IniStamp stamp = {};
+    };
+
     /// One attempt at an edit. Ends the brackets that were opened in it, selects the section that was
     /// selected before, and forgets what was written unless all of it has been saved.
     class Attempt {
@@ -288,14 +296,14 @@ private:
     /// anything.
     std::optional<QuorError> TryEdit(const std::function<void()>& edit) {
         IniReplacement replacement(m_file, m_files);
-        auto [document, stamp] = LoadFile();
+        FileDocument file = LoadFile();
         Attempt attempt(*this);
-        Adopt(std::move(document), stamp);
+        Adopt(std::move(file));
         edit();
         if (m_isAbandoned)
             throw NotWritten();
         if (m_document && m_document->Written()) {
-            if (auto setback = SaveInto(replacement, *m_document))
+            if (auto setback = SaveInto(replacement, *m_document, m_encoding))
                 return setback;
         }
         attempt.Saved();
@@ -308,8 +316,7 @@ private:
             return;
         if (FileName().empty())
             throw FileError(ERR_BAD_FILE_NAME, FileName());
-        auto [document, stamp] = LoadFile();
-        Adopt(std::move(document), stamp);
+        Adopt(LoadFile());
     }
 
     void LoadExisting() {
@@ -319,24 +326,25 @@ private:
     }
 
     /// The file as it is now; an empty document when there is none.
-    [[nodiscard]] std::pair<IniDocument, IniStamp> LoadFile() const {
+    [[nodiscard]] FileDocument LoadFile() const {
         std::optional<IniFileBytes> file = ReadBytes(m_file, m_files);
-        if (!file)
-            return {IniDocument(), IniStamp()};
-        return {Document(std::move(file->bytes)), file->stamp};
+        return file ? Decode(std::move(file->bytes), file->stamp) : FileDocument();
     }
 
-    [[nodiscard]] IniDocument Document(std::string bytes) const {
-        if (IsUtf16(bytes))
-            throw FileError(ERR_PATH_FILE_ACCESS, FileName(), L"The file is UTF-16 text");
-        return IniDocument(std::move(bytes));
+    [[nodiscard]] FileDocument Decode(std::string bytes, const IniStamp& stamp) const {
+        IniDecodedText decoded = DecodeFile(std::move(bytes), FileName());
+        return {IniDocument(std::move(decoded.text)), decoded.encoding, stamp};
     }
 
-    void Adopt(IniDocument document, const IniStamp& stamp) noexcept {
+    /// The bytes of the file as it was loaded.
+    [[nodiscard]] IniEncodedText Loaded() const { return {m_document->BaseText(), m_encoding}; }
+
+    void Adopt(FileDocument file) noexcept {
         static_assert(std::is_nothrow_move_assignable_v<IniDocument>);
-        m_document = std::move(document);
+        m_document = std::move(file.document);
         m_number.reset();
-        m_stamp = stamp;
+        m_encoding = file.encoding;
+        m_stamp = file.stamp;
     }
 
     /// Raises what stands in the way of a change there.
@@ -352,32 +360,34 @@ private:
     /// Writes the changes into the file as it is now. What has come in between, if anything.
     std::optional<QuorError> TrySave() {
         IniReplacement replacement(m_file, m_files);
-        std::optional<IniDocument> theirs; // what somebody else has made of the file, and our changes to it
-        if (!replacement.Has(m_document->BaseText())) {
-            theirs = Document(replacement.Bytes());
-            ApplyChangesTo(*theirs);
-        }
-        return SaveInto(replacement, theirs ? *theirs : *m_document);
+        if (replacement.Has(Loaded().Bytes()))
+            return SaveInto(replacement, *m_document, m_encoding);
+        // What somebody else has made of the file, and our changes to it.
+        FileDocument theirs = Decode(replacement.Bytes(), replacement.Stamp());
+        ApplyChangesTo(theirs.document);
+        return SaveInto(replacement, theirs.document, theirs.encoding);
     }
 
-    /// Puts the text of `changed`, which was made from what stands in the file, in its place. What has come
-    /// in between, if anything.
-    std::optional<QuorError> SaveInto(IniReplacement& replacement, const IniDocument& changed) {
+    /// Puts the text of `changed`, which was made from what stands in the file in that encoding, in its
+    /// place. What has come in between, if anything.
+    std::optional<QuorError> SaveInto(IniReplacement& replacement, const IniDocument& changed,
+                                      IniFileEncoding encoding) {
         // The document of the new text is made before the file, so that nothing can fail after that.
         IniDocument saved(changed.Changed() ? changed.Text() : std::string(changed.BaseText()));
         if (!changed.Changed()) {
             // Whoever wrote it, what we say is saved has to outlive a power cut.
             replacement.Flush();
-            Adopt(std::move(saved), replacement.Stamp());
+            Adopt({std::move(saved), encoding, replacement.Stamp()});
             return std::nullopt;
         }
         // A file of one NUL is no UTF-16, and becomes it with what follows: nobody could load that.
-        if (IsUtf16(saved.BaseText()))
-            throw FileError(ERR_PATH_FILE_ACCESS, FileName(), L"With these changes it would be UTF-16 text");
-        const std::optional<IniStamp> stamp = replacement.Commit(saved.BaseText(), changed.BaseText());
+        RequireDecodable(saved.BaseText(), encoding, FileName());
+        const IniEncodedText bytes(saved.BaseText(), encoding);
+        const IniEncodedText read(changed.BaseText(), encoding);
+        const std::optional<IniStamp> stamp = replacement.Commit(bytes.Bytes(), read.Bytes());
         if (!stamp)
             return replacement.Setback();
-        Adopt(std::move(saved), *stamp);
+        Adopt({std::move(saved), encoding, *stamp});
         return std::nullopt;
     }
 
@@ -472,6 +482,7 @@ private:
     std::size_t m_holds = 0;
     bool m_isAbandoned = false; // what is held is part of a record, and must not be saved
     bool m_isEditing = false;   // an edit holds all that is written, until it ends
+    IniFileEncoding m_encoding = IniFileEncoding::Bytes; // of the file that the document was read from
     // Made anew with each call; kept, because making them needs memory.
     std::string m_keyBytes, m_spare;
     IniNewValue m_value;

@@ -38,11 +38,14 @@ namespace QuorIniFile {
 /// changes what it has read (a counter, one coefficient of a record) reads and writes inside Edit: no other
 /// process comes in between.
 ///
+/// A UTF-16 file with a byte-order mark, of either byte order, is edited like any other and stays UTF-16.
+///
 /// Errors are QuorError with the source "QuorIniFile" and the file's name in the description: bad file name
 /// 52, device error 57, disk full 61, permission denied 70, path not found 76, anything else that cannot be
-/// read or written 75, UTF-16 text and names that the file could not give back among it. A file that another
-/// process has been saving for ten seconds is 70, "In use by" whom. A lack of memory is std::bad_alloc. After
-/// any of them the file is as it was or complete, and the object holds what it held before.
+/// read or written 75, among it UTF-16 text that is not valid or has no byte-order mark, and names that the
+/// file could not give back. A file that another process has been saving for ten seconds is 70, "In use by"
+/// whom. A lack of memory is std::bad_alloc. After any of them the file is as it was or complete, and the
+/// object holds what it held before.
 class QUORINIFILE_EXPORT IniStore final : public INIFile {
 public:
     /// On the files of this computer, or on others, which must outlive the store.

@@ -12,7 +12,6 @@ namespace QuorIniFile {
 namespace {
 
 constexpr std::uint32_t replacement = 0xFFFD;
-constexpr std::uint32_t noCharacter = 0xFFFFFFFF;
 
 /// The first and the last code of each range that a terminal or a log must not get. They are in order.
 constexpr std::pair<std::uint32_t, std::uint32_t> unprintable[] = {
@@ -38,7 +37,28 @@ bool IsUnprintable(std::uint32_t code) {
     return range->first <= code; // the last range ends with the greatest code there is
 }
 
-/// The character that starts at `bytes[at]`, or noCharacter; moves `at` behind it.
+} // namespace
+
+void AppendCharacter(std::wstring& text, std::uint32_t code) {
+    if (wideIsUtf16 && code > 0xFFFF) {
+        text += static_cast<wchar_t>(LeadSurrogate(code));
+        code = TrailSurrogate(code);
+    }
+    text += static_cast<wchar_t>(code);
+}
+
+void AppendUtf8(std::string& bytes, std::uint32_t code) {
+    if (code < 0x80) {
+        bytes += static_cast<char>(code);
+        return;
+    }
+    const int continuations = code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
+    constexpr std::uint32_t leads[] = {0, 0xC0, 0xE0, 0xF0};
+    bytes += static_cast<char>(leads[continuations] | (code >> (6 * continuations)));
+    for (int i = continuations - 1; i >= 0; --i)
+        bytes += static_cast<char>(0x80 | ((code >> (6 * i)) & 0x3F));
+}
+
 std::uint32_t NextFromUtf8(std::string_view bytes, std::size_t& at) {
     const auto lead = static_cast<unsigned char>(bytes[at++]);
     if (lead < 0x80)
@@ -55,29 +75,6 @@ std::uint32_t NextFromUtf8(std::string_view bytes, std::size_t& at) {
     }
     constexpr std::uint32_t smallest[] = {0, 0x80, 0x800, 0x10000};
     return code < smallest[continuations] || !IsCharacter(code) ? noCharacter : code;
-}
-
-} // namespace
-
-void AppendCharacter(std::wstring& text, std::uint32_t code) {
-    if (wideIsUtf16 && code > 0xFFFF) {
-        code -= 0x10000;
-        text += static_cast<wchar_t>(0xD800 + (code >> 10));
-        code = 0xDC00 + (code & 0x3FF);
-    }
-    text += static_cast<wchar_t>(code);
-}
-
-void AppendUtf8(std::string& bytes, std::uint32_t code) {
-    if (code < 0x80) {
-        bytes += static_cast<char>(code);
-        return;
-    }
-    const int continuations = code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
-    constexpr std::uint32_t leads[] = {0, 0xC0, 0xE0, 0xF0};
-    bytes += static_cast<char>(leads[continuations] | (code >> (6 * continuations)));
-    for (int i = continuations - 1; i >= 0; --i)
-        bytes += static_cast<char>(0x80 | ((code >> (6 * i)) & 0x3F));
 }
 
 std::string ToUtf8(std::wstring_view text) {

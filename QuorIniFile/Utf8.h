@@ -17,6 +17,20 @@ inline constexpr bool wideIsUtf16 = sizeof(wchar_t) == 2;
 /// The greatest code of a Unicode character.
 inline constexpr std::uint32_t lastCharacter = 0x10FFFF;
 
+/// No code of a character.
+inline constexpr std::uint32_t noCharacter = 0xFFFFFFFF;
+
+// A character outside the basic plane is two units in UTF-16, a lead and a trail surrogate.
+[[nodiscard]] constexpr bool IsLeadSurrogate(std::uint32_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
+[[nodiscard]] constexpr bool IsTrailSurrogate(std::uint32_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
+[[nodiscard]] constexpr std::uint32_t JoinSurrogates(std::uint32_t lead, std::uint32_t trail) {
+    return 0x10000 + ((lead - 0xD800) << 10U) + (trail - 0xDC00);
+}
+[[nodiscard]] constexpr std::uint32_t LeadSurrogate(std::uint32_t code) {
+    return 0xD800 + ((code - 0x10000) >> 10U);
+}
+[[nodiscard]] constexpr std::uint32_t TrailSurrogate(std::uint32_t code) { return 0xDC00 + (code & 0x3FFU); }
+
 /// Whether it is the code of a Unicode character: no lone surrogate, nothing past the last one.
 [[nodiscard]] constexpr bool IsCharacter(std::uint32_t code) {
     return (code < 0xD800 || code > 0xDFFF) && code <= lastCharacter;
@@ -30,11 +44,11 @@ template <class Unit>
     auto code = static_cast<std::uint32_t>(text[at++]);
     if constexpr (sizeof(Unit) == 2) {
         code &= 0xFFFFU;
-        if (code >= 0xD800 && code <= 0xDBFF && at < text.size()) {
-            const std::uint32_t low = static_cast<std::uint32_t>(text[at]) & 0xFFFFU;
-            if (low >= 0xDC00 && low <= 0xDFFF) {
+        if (IsLeadSurrogate(code) && at < text.size()) {
+            const std::uint32_t trail = static_cast<std::uint32_t>(text[at]) & 0xFFFFU;
+            if (IsTrailSurrogate(trail)) {
                 ++at;
-                return 0x10000 + ((code - 0xD800) << 10) + (low - 0xDC00);
+                return JoinSurrogates(code, trail);
             }
         }
     }
@@ -78,9 +92,6 @@ template <class Unit>
 /// `text` as UTF-8. What is no Unicode character (a lone surrogate, a code past 0x10FFFF) becomes U+FFFD.
 [[nodiscard]] QUORINIFILE_EXPORT std::string ToUtf8(std::wstring_view text);
 
-/// Adds the character with that code to `bytes`.
-QUORINIFILE_EXPORT void AppendUtf8(std::string& bytes, std::uint32_t code);
-
 /// `text` with escapes for what a terminal would obey or a log would take for a new line: control characters,
 /// line separators, marks of direction, characters that nobody sees, and what is no Unicode character. They
 /// look like those in the values of files: "\n", "\r", "\t", else "\u{1B}". Everything else stays,
@@ -98,5 +109,12 @@ QUORINIFILE_EXPORT void AppendUtf8(std::string& bytes, std::uint32_t code);
 
 /// Adds the character with that code, in two parts where a wchar_t cannot hold it.
 QUORINIFILE_EXPORT void AppendCharacter(std::wstring& text, std::uint32_t code);
+
+/// Adds the character with that code as UTF-8.
+QUORINIFILE_EXPORT void AppendUtf8(std::string& bytes, std::uint32_t code);
+
+/// The character that starts at `bytes[at]`, or noCharacter where that is no valid UTF-8; moves `at` behind
+/// what it has read.
+[[nodiscard]] QUORINIFILE_EXPORT std::uint32_t NextFromUtf8(std::string_view bytes, std::size_t& at);
 
 } // namespace QuorIniFile

@@ -2,6 +2,7 @@
 
 #include "QuorConversions/core/modPaths.h"
 #include "QuorIniFile/IniDisk.h"
+#include "QuorIniFile/IniEncodedText.h"
 #include "QuorIniFile/IniError.h"
 #include "QuorIniFile/Utf8.h"
 #include "apps/records/Names.h"
@@ -15,13 +16,11 @@ using namespace QuorIniFile;
 
 namespace {
 
-std::string BytesOf(const std::wstring& path) {
+std::string TextOf(const std::wstring& path) {
     auto file = ReadBytes(path);
     if (!file)
         throw FileError(ERR_FILE_NOT_FOUND, path);
-    if (IsUtf16(file->bytes))
-        throw FileError(ERR_PATH_FILE_ACCESS, path, L"the file is UTF-16 text");
-    return std::move(file->bytes);
+    return DecodeFile(std::move(file->bytes), path).text;
 }
 
 } // namespace
@@ -34,7 +33,7 @@ std::optional<std::wstring> StandAloneSection(std::wstring_view path) {
     return type == Types().end() ? std::nullopt : std::optional(type->section);
 }
 
-ProbeFile::ProbeFile(std::wstring path) : m_path(std::move(path)), m_bytes(BytesOf(m_path)) {
+ProbeFile::ProbeFile(std::wstring path) : m_path(std::move(path)), m_bytes(TextOf(m_path)) {
     ReadSections();
     FindRecords();
 }

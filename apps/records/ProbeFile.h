@@ -42,6 +42,7 @@ public:
     ~ProbeFile() = default;
 
     [[nodiscard]] const std::wstring& Path() const { return m_path; }
+    /// The text of the file: its bytes, or those of a UTF-16 file in UTF-8.
     [[nodiscard]] const std::string& Bytes() const { return m_bytes; }
     /// All sections in the order of the file, those included that nobody can read.
     [[nodiscard]] const std::vector<Section>& Sections() const { return m_sections; }

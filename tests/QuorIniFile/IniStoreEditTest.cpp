@@ -321,11 +321,11 @@ TEST_F(IniStoreEdit, ThatCannotBeSavedForgetsWhatItWrote) {
 TEST_F(IniStoreEdit, OfAFileThatCannotBeLoadedLeavesTheStoreAsItWas) {
     File("[A]\nx=1\n");
     EXPECT_EQ(Get(L"x"), 1);
-    const std::string utf16("\xFF\xFE[\0A\0]\0", 8);
+    const std::string utf16("[\0A\0]\0", 6);
     File(utf16);
     bool called = false;
     EXPECT_EQ(RaisedBy([&] { store.Edit([&] { called = true; }); }, 75),
-              "Path/File access error: a.ini: The file is UTF-16 text");
+              "Path/File access error: a.ini: The file is UTF-16 text without a byte-order mark");
     EXPECT_FALSE(called);
     EXPECT_EQ(Get(L"x"), 1);
     EXPECT_EQ(File(), utf16);

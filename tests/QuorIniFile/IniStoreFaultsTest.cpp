@@ -7,6 +7,7 @@
 #include "tests/support/InterceptedFiles.h"
 #include "tests/support/SimulatedDisk.h"
 #include "tests/support/TempFolder.h"
+#include "tests/support/Utf16.h"
 
 #include <gtest/gtest.h>
 
@@ -137,6 +138,60 @@ TEST(IniStoreFaults, EveryCallThatFailsIsAnErrorAndLeavesTheOldFileOrTheNewOne) 
                 EXPECT_GT(at, exists ? 20U : 10U) << "the calls of a read and a save";
             }
         }
+    }
+}
+
+TEST(IniStoreFaults, EveryCallOfASaveIntoUtf16ThatFailsIsAnErrorAndLeavesTheOldFileOrTheNewOne) {
+    const std::string before = Utf16Be(u"\uFEFF; \u2126\r\n[A]\r\nx=1\r\n");
+    const std::string after = Utf16Be(u"\uFEFF; \u2126\r\n[A]\r\nx=\u2126\r\n");
+    std::size_t at = 0;
+    for (bool reached = true; reached; ++at) {
+        FaultyRun run(true);
+        run.folder.Write("a.ini", before);
+        Fault fault{at, EIO};
+        run.files.onCall = std::ref(fault);
+        std::int32_t number = 0;
+        try {
+            run.store.WriteString(L"x", L"\u2126");
+        } catch (const QuorError& error) {
+            number = error.Number();
+        }
+        reached = fault.WasReached();
+        const std::string where = fault.name + ", call " + std::to_string(at);
+        ASSERT_EQ(number, reached && !fault.isDurable ? 57 : 0) << where;
+        const std::string file = run.folder.Read("a.ini");
+        EXPECT_TRUE(file == after || (number != 0 && file == before)) << where;
+
+        run.files.onCall = [](std::string_view) { return 0; };
+        run.store.WriteString(L"x", L"\u2126");
+        EXPECT_EQ(run.folder.Read("a.ini"), after) << where;
+        EXPECT_EQ(run.files.openFiles, 0) << where;
+    }
+    EXPECT_GT(at, 20U) << "the calls of a read and a save";
+}
+
+TEST(IniStoreFaults, AProgramThatTakesNoLockMayTurnTheFileIntoUtf16AtAnyCallAndItsKeysSurvive) {
+    const std::string theirs = Utf16Le(u"\uFEFF; \u2126\n[A]\nx=1\n[B]\ny=5\n");
+    const std::string both = Utf16Le(u"\uFEFF; \u2126\n[A]\nx=2\n[B]\ny=5\n");
+    bool reached = true;
+    for (std::size_t at = 0; reached; ++at) {
+        FaultyRun run(true);
+        std::size_t calls = 0;
+        bool isRenamed = false;
+        std::string expected = newText;
+        run.files.onCall = [&](std::string_view call) {
+            // Between the last look at the file and its replacement nobody can be seen.
+            if (calls++ == at && call != "Exchange") {
+                run.folder.Write("a.ini", theirs);
+                expected = isRenamed ? theirs : both;
+            }
+            isRenamed = isRenamed || call == "Exchange";
+            return 0;
+        };
+        run.ReadAndSave();
+        reached = calls > at;
+        EXPECT_EQ(run.folder.Read("a.ini"), expected) << "call " << at;
+        EXPECT_EQ(run.folder.Files(), Names{"a.ini"});
     }
 }
 

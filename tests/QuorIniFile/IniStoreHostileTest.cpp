@@ -123,11 +123,23 @@ TEST_F(IniStoreHostile, FilesWithoutASectionHaveNoKeys) {
     }
 }
 
-TEST_F(IniStoreHostile, Utf16IsRefusedForReadingAndWritingAndStays) {
-    for (const std::string& text :
-         {"\xFF\xFE[\0A\0]\0\n\0"s, "\xFE\xFF\0[\0A\0]\0\n"s, "[\0A\0]\0\n\0"s, "\0[\0A\0]\0\n"s, "\xFF\xFE"s,
-          // cut off in the middle of a character
-          "\xFF\xFE[\0A\0]"s, "\xFE\xFF\0[\0A\0]\0"s, "[\0A\0]"s, "\0[\0"s, "\xFF\xFE["s, "\xFE\xFF\0"s}) {
+TEST_F(IniStoreHostile, Utf16ThatIsNotValidOrHasNoMarkIsRefusedForReadingAndWritingAndStays) {
+    const std::wstring unmarked = L"without a byte-order mark";
+    const std::wstring odd = L"with an odd number of bytes"; // cut off in the middle of a character
+    const std::wstring half = L"with half a surrogate pair in line 2";
+    const std::pair<std::string, std::wstring> cases[] = {
+        {"[\0A\0]\0\n\0"s, unmarked},
+        {"\0[\0A\0]\0\n"s, unmarked},
+        {"[\0A\0]"s, unmarked},
+        {"\0[\0"s, unmarked},
+        {"\xFF\xFE[\0A\0]"s, odd},
+        {"\xFE\xFF\0[\0A\0]\0"s, odd},
+        {"\xFF\xFE["s, odd},
+        {"\xFE\xFF\0"s, odd},
+        {"\xFF\xFE\n\0\x3C\xD8[\0"s, half},
+        {"\xFE\xFF\0\n\xDF\x21"s, half},
+    };
+    for (const auto& [text, cause] : cases) {
         const TempFolder own;
         own.Write("a.ini", text);
         IniStore fresh;
@@ -142,8 +154,8 @@ TEST_F(IniStoreHostile, Utf16IsRefusedForReadingAndWritingAndStays) {
                 ADD_FAILURE() << "UTF-16 was taken for lines: " << testing::PrintToString(text);
             } catch (const QuorError& error) {
                 EXPECT_EQ(error.Number(), 75);
-                EXPECT_EQ(error.Description(),
-                          L"Path/File access error: " + own.Name("a.ini") + L": The file is UTF-16 text");
+                EXPECT_EQ(error.Description(), L"Path/File access error: " + own.Name("a.ini") +
+                                                   L": The file is UTF-16 text " + cause);
             }
         }
         EXPECT_EQ(own.Read("a.ini"), text);

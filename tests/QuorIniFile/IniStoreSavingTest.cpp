@@ -217,11 +217,11 @@ TEST_F(IniStoreSaving, AFileThatAnotherProgramHasDeletedBeginsAnew) {
     EXPECT_EQ(File(), "[A]\nx=3\n");
 }
 
-TEST_F(IniStoreSaving, AFileThatHasBecomeUtf16IsLeftAlone) {
+TEST_F(IniStoreSaving, AFileThatHasBecomeUtf16WithoutAMarkIsLeftAlone) {
     File("[A]\nx=1\n");
     store->Hold();
     Put(L"x", 2);
-    const std::string utf16("\xFF\xFE[\0A\0]\0", 8);
+    const std::string utf16("[\0A\0]\0", 6);
     File(utf16);
     EXPECT_EQ(NumberRaisedBy([&] { store->Release(); }), 75);
     EXPECT_EQ(File(), utf16);

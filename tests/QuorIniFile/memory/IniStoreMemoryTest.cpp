@@ -6,6 +6,7 @@
 #include "tests/support/FailingMemory.h"
 #include "tests/support/InterceptedFiles.h"
 #include "tests/support/TempFolder.h"
+#include "tests/support/Utf16.h"
 
 #include <gtest/gtest.h>
 
@@ -379,6 +380,48 @@ TEST(IniStoreMemory, AnEditSavesAllThatItWroteOrForgetsIt) {
             EXPECT_EQ(scene.store->Section(), L"A");
         },
         30);
+}
+
+TEST(IniStoreMemory, AUtf16FileIsLoadedAndSavedOrNot) {
+    const std::string before = Utf16Le(u"\uFEFF; \u2126\r\n[A]\r\nx=1\r\n");
+    FailEach([&](Scene& scene) { scene.folder.Write("a.ini", before); },
+             [](Scene& scene) {
+                 EXPECT_EQ(scene.store->Sections(), std::vector<std::wstring>{L"A"});
+                 scene.store->WriteString(L"x", L"\u2126, a text that is longer than a short one");
+             },
+             [&](Scene& scene) { EXPECT_EQ(scene.File(), before); },
+             [](Scene& scene) {
+                 EXPECT_FALSE(scene.store->FileChanged());
+                 EXPECT_EQ(scene.File(), Utf16Le(u"\uFEFF; \u2126\r\n[A]\r\nx=\u2126, a text that is longer "
+                                                 u"than a short one\r\n"));
+             },
+             20);
+}
+
+TEST(IniStoreMemory, AFileThatHasBecomeUtf16GetsWhatIsHeldOrStays) {
+    const std::string theirs = Utf16Be(u"\uFEFF; \u2126\r\n[A]\r\nx=5\r\nname=1\r\n");
+    FailEach(
+        [&](Scene& scene) {
+            scene.store->Hold();
+            scene.store->WriteString(L"x", L"\u00B0");
+            scene.folder.Write("a.ini", theirs);
+            scene.store->Hold();
+        },
+        [](Scene& scene) {
+            scene.store->Release();
+            scene.store->Release();
+        },
+        [&](Scene& scene) {
+            EXPECT_EQ(scene.File(), theirs);
+            EXPECT_TRUE(scene.store->FileChanged());
+            scene.store->Hold();
+            scene.store->Hold();
+        },
+        [](Scene& scene) {
+            EXPECT_EQ(scene.File(), Utf16Be(u"\uFEFF; \u2126\r\n[A]\r\nx=\u00B0\r\nname=1\r\n"));
+            EXPECT_FALSE(scene.store->FileChanged());
+        },
+        20);
 }
 
 TEST(IniStoreMemory, AStoreThatEndsWithoutMemoryEndsQuietly) {

@@ -630,7 +630,7 @@ TEST_F(MainWindowTest, NamesThatLookLikeMarkUpAreShownAsTheyAre) {
 
 TEST_F(MainWindowTest, KeysGoOnAfterAFileThatCannotBeOpened) {
     GoTo(1);
-    folder.Write("wide.ini", std::string("\xFF\xFE[\0A\0", 6));
+    folder.Write("wide.ini", std::string("\xFF\xFE[\0A", 5));
     WillAnswer(QMessageBox::Ok);
     EXPECT_FALSE(window->OpenPath(Path("wide.ini")));
     ComeToFront(*window);

@@ -6,6 +6,7 @@
 #include "tests/apps/probe-setup/HostFile.h"
 #include "tests/support/InterceptedFiles.h"
 #include "tests/support/Process.h"
+#include "tests/support/Utf16.h"
 #include "toolkits/scripted/ScriptedPlatform.h"
 
 #include <gtest/gtest.h>
@@ -133,7 +134,7 @@ TEST_F(ProbeDocumentTest, NamesEveryConversionOfTheSampleLaboratoryAsQuorconvDoe
 TEST_F(ProbeDocumentTest, AFileThatCannotBeReadLeavesTheDocumentAsItWas) {
     Open();
     EXPECT_THROW(document.Open(folder.Name("missing.ini")), QuorError);
-    folder.Write("wide.ini", std::string("\xFF\xFE[\0A\0", 6));
+    folder.Write("wide.ini", std::string("\xFF\xFE[\0A", 5));
     EXPECT_THROW(document.Open(folder.Name("wide.ini")), QuorError);
     EXPECT_EQ(document.Count(), 2U);
     EXPECT_EQ(document.Path(), folder.Name("host.ini"));
@@ -153,6 +154,23 @@ TEST_F(ProbeDocumentTest, AnEditedProbeIsWrittenAsQuorconvSetWritesIt) {
     folder.Write("host.ini", host);
     ExpectFine({"set", "host.ini", "Probe 1", "Coefficients0=100.0123"});
     EXPECT_EQ(ours, File());
+}
+
+TEST_F(ProbeDocumentTest, AUtf16FileIsOpenedEditedAndSavedAsUtf16) {
+    const auto utf16 = [](const std::string& text) { // of ASCII
+        return Utf16Le(u"\uFEFF; \u00B0C, \u2126\r\n" + std::u16string(text.begin(), text.end()));
+    };
+    Open(utf16(host));
+    EXPECT_EQ(Names(), (Texts{L"Probe 1", L"Probe 2"}));
+    EXPECT_TRUE(Edit(0, TypeR0));
+    document.Rename(1, L"Probe 3");
+    document.SaveCopyAs(folder.Name("copy.ini"));
+    document.Save();
+    const std::string saved =
+        utf16(Replaced(Replaced(host, "=100.0\n", "=100.0123\n"), "Probe 2", "Probe 3"));
+    EXPECT_EQ(File(), saved);
+    EXPECT_EQ(folder.Read("copy.ini"), saved);
+    EXPECT_FALSE(document.Changed());
 }
 
 TEST_F(ProbeDocumentTest, ACancelledDialogAndOneThatChangedNothingAreNoChange) {

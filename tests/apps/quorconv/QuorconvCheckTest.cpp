@@ -164,12 +164,13 @@ TEST_F(QuorconvTest, ChecksARecordOfTheGreatestCountAndALongSection) {
 TEST_F(QuorconvTest, ChecksEveryFileAndGoesOnAfterABadOne) {
     folder.Write("a.w90", "[W(T90)]\nRTPW=x\n");
     folder.Write("b.w90", "[RTPW]\nRTPW=25\n");
-    folder.Write("c.w90", "\xFF\xFE[\0W\0");
+    folder.Write("c.w90", "\xFF\xFE[");
     folder.Write("d.w90", "[W(T90)]\nRTPW=25\n");
     const Outcome run = Quorconv({"check", "a.w90", "b.w90", "c.w90", "missing.w90", "d.w90"});
     EXPECT_EQ(run.code, 1);
-    EXPECT_EQ(run.out, "a.w90:2: [W(T90)] RTPW: \"x\" is not a number\n"
-                       "b.w90:1: [W(T90)] the section is missing\n"
-                       "c.w90: Path/File access error: c.w90: the file is UTF-16 text\n"
-                       "missing.w90: File not found: missing.w90\n");
+    EXPECT_EQ(run.out,
+              "a.w90:2: [W(T90)] RTPW: \"x\" is not a number\n"
+              "b.w90:1: [W(T90)] the section is missing\n"
+              "c.w90: Path/File access error: c.w90: The file is UTF-16 text with an odd number of bytes\n"
+              "missing.w90: File not found: missing.w90\n");
 }

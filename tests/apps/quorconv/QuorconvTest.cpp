@@ -1,4 +1,5 @@
 #include "tests/apps/quorconv/Quorconv.h"
+#include "tests/support/Utf16.h"
 
 #include <filesystem>
 #include <sstream>
@@ -190,6 +191,20 @@ TEST_F(QuorconvTest, ChangesTheLineOfTheValueAndNoOtherByte) {
     ExpectFine({"set", "host.ini", "Probe 1", "coefficients0=100.0123"});
     EXPECT_EQ(folder.Read("host.ini"),
               Replaced(hostFile, "Coefficients0=100.0\n", "Coefficients0=100.0123\n"));
+}
+
+TEST_F(QuorconvTest, ReadsAndChangesAUtf16FileAndLeavesItsOtherBytes) {
+    const std::u16string before = u"\uFEFF; \u00B0C\r\n[\u00D6l]\r\nConversionType=14\r\nVersion=1.0\r\n\r\n"
+                                  u"[\u00D6l - Settings]\r\nVersion=1.0\r\nRTPW=";
+    folder.Write("host.ini", Utf16Le(before + u"25.5 ; ohms\r\n; \u2126"));
+    ExpectFine({"list", "host.ini"}, "\xC3\x96l\tCONV_WT90\tW(T90)\n");
+    ExpectFine({"show", "host.ini", "\xC3\x96l"}, "[\xC3\x96l] CONV_WT90 W(T90)\nRTPW=25.5\n");
+    ExpectFine({"check", "host.ini"});
+    ExpectFine({"set", "host.ini", "\xC3\x96l", "RTPW=25.4"});
+    EXPECT_EQ(folder.Read("host.ini"), Utf16Le(before + u"25.4 ; ohms\r\n; \u2126"));
+    folder.Write("host.ini", Utf16Be(before + u"x\r\n"));
+    EXPECT_EQ(Quorconv({"check", "host.ini"}).out,
+              "host.ini:8: [\xC3\x96l - Settings] RTPW: \"x\" is not a number that a double can hold\n");
 }
 
 TEST_F(QuorconvTest, RefusesWhatIsNoExactValueAndWritesNothing) {
