@@ -1,12 +1,13 @@
 // Any file, any edits, through the store and the disk, saved, discarded or loaded anew, while another program
 // writes into the same file.
 
-#include "QuorIniFile/IniFormat.h"
 #include "QuorIniFile/IniStore.h"
 #include "QuorIniFile/QuorError.h"
+#include "QuorIniFile/Utf8.h"
 #include "fuzz/Claim.h"
 #include "fuzz/Edits.h"
 #include "fuzz/PlainEdits.h"
+#include "fuzz/PlainUtf16.h"
 #include "tests/support/TempFolder.h"
 
 #include <algorithm>
@@ -19,7 +20,9 @@ namespace {
 using namespace QuorIniFile;
 using Fuzz::Claim;
 using Fuzz::Edit;
+using Fuzz::HasUtf16Mark;
 using Fuzz::PlainEdits;
+using Fuzz::PlainText;
 
 constexpr const char* name = "fuzz.ini";
 
@@ -80,26 +83,27 @@ public:
     void Do(const Edit& edit) {
         static constexpr std::pair<char, void (Trial::*)(const Edit&)> kinds[] = {
             {'R', &Trial::Remove}, {'N', &Trial::Rename}, {'S', &Trial::Save},  {'D', &Trial::Discard},
-            {'L', &Trial::Reload}, {'X', &Trial::Append}, {'H', &Trial::Halve},
+            {'L', &Trial::Reload}, {'X', &Trial::Append}, {'H', &Trial::Halve}, {'U', &Trial::Turn},
         };
         const auto* const kind = std::find_if(std::begin(kinds), std::end(kinds),
                                               [&](const auto& row) { return row.first == edit.kind; });
         (this->*(kind == std::end(kinds) ? &Trial::Write : kind->second))(edit);
-        Claim(m_store.FileChanged() == (m_plain && m_plain->Text() != File()),
+        Claim(m_store.FileChanged() == (m_plain && m_loaded != File()),
               "a store knows whether its file has changed");
     }
 
     void Save(const Edit& /*edit*/ = {}) {
         const std::string before = File();
         std::optional<PlainEdits> there = m_plain;
-        if (m_plain && m_plain->Text() != before)
-            there = m_plain->In(before).edits;
+        if (m_plain && m_loaded != before)
+            there = In(before);
         const bool isSaved = IsDone([&] { m_store.Release(); });
         m_store.Hold();
         if (!isSaved) {
-            Claim(m_isAsked && (!there || IsUtf16(before) || before.find('\0') != std::string::npos),
-                  "only UTF-16, what would become it, a name that is taken and a section that is gone cannot "
-                  "be saved into");
+            const bool mayBecomeUtf16 = !HasUtf16Mark(before) && before.find('\0') != std::string::npos;
+            Claim(m_isAsked && (!there || mayBecomeUtf16), "only what is no valid UTF-16, what would become "
+                                                           "it, a name that is taken and a section that is "
+                                                           "gone cannot be saved into");
             Claim(File() == before, "a save that fails leaves the file as it is");
             Discard();
             return;
@@ -112,7 +116,11 @@ public:
         Claim(there.has_value(),
               "a name that is taken is not given to another section, and a section that is "
               "gone does not come back in part");
-        there->ClaimMade(saved);
+        const auto text = PlainText(saved);
+        Claim(text && HasUtf16Mark(saved) == HasUtf16Mark(before) &&
+                  (!HasUtf16Mark(before) || saved.starts_with(before.substr(0, 2))),
+              "a file keeps its encoding and its byte order");
+        there->ClaimMade(*text);
         ClaimRead(*there);
         Load(saved);
         Claim(m_store.Sections() == m_plain->Names(),
@@ -122,15 +130,16 @@ public:
 private:
     [[nodiscard]] std::string File() const { return m_folder.Read(name); }
 
-    void Load(const std::string& text) {
-        m_plain.emplace(text);
+    void Load(const std::string& bytes) {
+        m_plain.emplace(PlainText(bytes).value());
+        m_loaded = bytes;
         m_isAsked = false;
     }
 
     /// The store loads its file when it is first asked for something. False when nobody can.
     bool IsLoaded() {
-        if (const std::string text = File(); !m_plain && !IsUtf16(text))
-            Load(text);
+        if (const std::string bytes = File(); !m_plain && PlainText(bytes))
+            Load(bytes);
         return m_plain.has_value();
     }
 
@@ -139,7 +148,7 @@ private:
         m_store.SetSection(edit.section);
         if (!IsDone([&] { std::visit(StoreWriter{m_store, edit}, edit.value); }))
             return; // a name that no file can hold
-        Claim(isLoaded, "nothing is written into UTF-16");
+        Claim(isLoaded, "nothing is written into what is no valid UTF-16");
         Claim(std::visit(StoreReader{m_store, edit.key}, edit.value), "a store reads what it was given");
         m_plain->Write(edit);
         m_isAsked = true;
@@ -172,16 +181,18 @@ private:
     }
 
     void Reload(const Edit& /*edit*/) {
-        const std::string text = File();
+        const std::string bytes = File();
         const bool isDone = IsDone([&] { m_store.Reload(); });
         if (!m_plain)
             return;
-        auto there = m_plain->In(text).edits;
-        Claim(isDone == (there && !IsUtf16(text)),
-              "only UTF-16, a name that is taken and a section that is gone cannot be loaded");
+        auto there = In(bytes);
+        Claim(
+            isDone == there.has_value(),
+            "only what is no valid UTF-16, a name that is taken and a section that is gone cannot be loaded");
         if (!isDone)
             return;
         m_plain = std::move(there);
+        m_loaded = bytes;
         m_isAsked = m_plain->AreMade();
         ClaimNames();
     }
@@ -192,6 +203,21 @@ private:
     void Halve(const Edit& /*edit*/) {
         const std::string text = File();
         m_folder.Write(name, text.substr(text.size() / 2));
+    }
+
+    void Turn(const Edit& /*edit*/) {
+        const std::string bytes = File();
+        const auto text = PlainText(bytes);
+        if (text && HasUtf16Mark(bytes))
+            m_folder.Write(name, *text);
+        else if (text && IsAscii(std::string_view(*text)))
+            m_folder.Write(name, Fuzz::PlainUtf16(*text));
+    }
+
+    /// The edits in what somebody else has made of the file; nothing when they cannot be made.
+    [[nodiscard]] std::optional<PlainEdits> In(const std::string& bytes) const {
+        const auto text = PlainText(bytes);
+        return text ? m_plain->In(*text).edits : std::nullopt;
     }
 
     void ClaimNames() {
@@ -218,6 +244,7 @@ private:
     const TempFolder& m_folder;
     IniStore m_store;
     std::optional<PlainEdits> m_plain; // nothing until the store has loaded its file
+    std::string m_loaded;              // the bytes of the file then
     bool m_isAsked = false;            // for anything since then
 };
 

@@ -23,6 +23,7 @@ namespace Fuzz {
 ///     ||L|                              loads the file anew
 ///     ||X|[Other]                       another program appends a line to the file
 ///     ||H|                              another program leaves half of the file, the second one
+///     ||U|                              another program turns the file into UTF-16 or UTF-16 into UTF-8
 struct Edit {
     std::wstring section, key;
     char kind = 's';

@@ -2,11 +2,14 @@
 // index, names in any case, and what a value spells can be spelled again.
 
 #include "QuorIniFile/IniDocument.h"
+#include "QuorIniFile/IniEncodedText.h"
 #include "QuorIniFile/IniFormat.h"
 #include "QuorIniFile/IniValue.h"
+#include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
 #include "fuzz/Claim.h"
 #include "fuzz/PlainIni.h"
+#include "fuzz/PlainUtf16.h"
 
 #include <bit>
 #include <cmath>
@@ -76,6 +79,18 @@ void ExpectAnyValueOnThisLine(std::string_view line, const IniLine& parsed) {
     }
 }
 
+void ExpectTheSameBytesAgain(std::string_view bytes) {
+    const auto text = Fuzz::PlainText(bytes);
+    try {
+        const IniDecodedText decoded = DecodeFile(std::string(bytes), L"fuzz.ini");
+        Claim(decoded.text == text, "a file is the text that it spells, unit by unit");
+        Claim(IniEncodedText(decoded.text, decoded.encoding).Bytes() == bytes,
+              "a text comes back as the same bytes");
+    } catch (const QuorError& error) {
+        Claim(!text && error.Number() == ERR_PATH_FILE_ACCESS, "only what is no valid UTF-16 is refused");
+    }
+}
+
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -115,6 +130,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (const auto wide = FromUtf8(text))
         Claim(ToUtf8(*wide) == text, "UTF-8 comes back byte for byte");
     static_cast<void>(EncodingOf(text));
-    static_cast<void>(IsUtf16(text));
+    ExpectTheSameBytesAgain(text);
     return 0;
 }
