@@ -204,7 +204,7 @@ TEST_F(QuorconvTest, ReadsAndChangesAUtf16FileAndLeavesItsOtherBytes) {
     EXPECT_EQ(folder.Read("host.ini"), Utf16Le(before + u"25.4 ; ohms\r\n; \u2126"));
     folder.Write("host.ini", Utf16Be(before + u"x\r\n"));
     EXPECT_EQ(Quorconv({"check", "host.ini"}).out,
-              "host.ini:8: [\xC3\x96l - Settings] RTPW: \"x\" is not a number that a double can hold\n");
+              "host.ini:8: [\xC3\x96l - Settings] RTPW: \"x\" is not a number\n");
 }
 
 TEST_F(QuorconvTest, RefusesWhatIsNoExactValueAndWritesNothing) {
