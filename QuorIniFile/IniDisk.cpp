@@ -482,26 +482,11 @@ public:
         if (bytes.size() > largestFile)
             throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, L"It would be larger than 4 GiB");
         RequireWritable();
-        constexpr int mostThefts = 20;
-        for (int thefts = 0;;) {
-            const auto setback = TryCommit(bytes, read);
-            if (setback == SetbackKind::NeedsName)
-                continue;
-            if (setback && *setback != SetbackKind::Stolen)
-                return SetBack(*setback);
-            if (setback && ++thefts > mostThefts)
-                throw ErrorOf(SetbackKind::TemporaryLost);
-            if (!setback) {
-                if (thefts > 0 && m_hasTemporary) // it is what was put there, not what we have read
-                    KeepAside();
-                if (!m_kept.empty())
-                    throw KeptAside();
-                break;
-            }
-            // The file that we have read is gone, and what stands there is not ours: ours comes there first.
-            m_stamp = StampAt(m_path, Here());
-            read.reset();
-        }
+        const auto setback = CommitUnlessStolen(bytes, read);
+        if (!m_kept.empty())
+            throw KeptAside();
+        if (setback)
+            return SetBack(*setback);
         // Before the flush, which takes time: what another program makes of the file meanwhile is not ours.
         const IniStamp stamp = StampOfOpen(m_text->file, Here(), Purpose::Write);
         Require([&] { return m_files.SyncFolder(m_neighbours.folder); });
@@ -592,7 +577,12 @@ private:
         if (created.error != 0)
             Raise(created.error, m_fileName, Purpose::Write);
 
-        m_lock = Known(OpenFile(m_files, created.value));
+        try {
+            m_lock = Known(OpenFile(m_files, created.value));
+        } catch (...) {
+            static_cast<void>(Remove(m_neighbours.lock));
+            throw;
+        }
         const int error = Uninterrupted([&] { return m_files.TryLock(m_lock->file.Get()); });
         if (error != 0 && error != ENOTSUP && error != EWOULDBLOCK)
             Raise(error, m_fileName, Purpose::Write);
@@ -625,7 +615,7 @@ private:
         if (error == ENOTSUP)
             RemoveUntouched(&lock, isLast);
         else if (error == 0 && FileAt(m_neighbours.lock) == FileId(status))
-            RemoveLeftovers();
+            RemoveLeftovers(StampOfOpen(lock, Here(), Purpose::Write));
         else if (error == EWOULDBLOCK && isLast)
             throw InUseBy(m_files.LockHolder(lock.Get()));
         else if (error != 0 && error != EWOULDBLOCK)
@@ -643,12 +633,20 @@ private:
             return;
         if (stamp != m_firstSeen)
             throw InUseBy("");
-        RemoveLeftovers();
+        RemoveLeftovers(stamp);
     }
 
-    /// The lock file goes last: as long as it is there, somebody knows that there is something to remove.
-    void RemoveLeftovers() {
-        std::vector<std::string> paths = m_neighbours.Find(Neighbours::temporaryEnd, m_files);
+    /// Removes what a save has left whose lock file that is: temporary files that were changed since it was
+    /// created. Older ones are somebody else's, and may be all that is left of a file. The lock file goes
+    /// last: as long as it is there, somebody knows that there is something to remove.
+    void RemoveLeftovers(const IniStamp& lock) {
+        std::vector<std::string> paths;
+        for (const std::string& path : m_neighbours.Find(Neighbours::temporaryEnd, m_files)) {
+            const auto status = Uninterrupted([&] { return m_files.StatusAt(path); });
+            if (status.error == 0 && std::tie(status.value.seconds, status.value.nanoseconds) >=
+                                         std::tie(lock.seconds, lock.nanoseconds))
+                paths.push_back(path);
+        }
         paths.push_back(m_neighbours.lock);
         for (const std::string& path : paths) {
             const int error = Remove(path);
@@ -747,6 +745,25 @@ private:
         return Replace(read);
     }
 
+    /// The same until it has succeeded, or something has come in between that is not a theft.
+    std::optional<SetbackKind> CommitUnlessStolen(std::string_view bytes,
+                                                  std::optional<std::string_view> read) {
+        constexpr int mostThefts = 20;
+        for (int thefts = 0;;) {
+            const auto setback = TryCommit(bytes, read);
+            if (setback == SetbackKind::NeedsName)
+                continue;
+            if (setback != SetbackKind::Stolen)
+                return setback;
+            if (++thefts > mostThefts)
+                throw ErrorOf(SetbackKind::TemporaryLost);
+            // The file that we have read is gone, and what stands there is not ours: ours comes there first.
+            m_stamp = StampAt(m_path, Here());
+            m_isOldGone = true;
+            read.reset();
+        }
+    }
+
     std::optional<SetbackKind> Replace(std::optional<std::string_view> read) {
         if (m_stamp.exists && !m_hasTemporary) {
             const int error = Uninterrupted([&] { return m_files.Name(m_text->file.Get(), m_temporary); });
@@ -765,10 +782,16 @@ private:
         return m_stamp.exists ? Exchange() : Create();
     }
 
+    /// Whether the system says that a file cannot be named in this way, rather than that something went
+    /// wrong.
+    static bool IsRefusal(int error) {
+        constexpr int refusals[] = {EPERM, EACCES, EMLINK, ENOENT, EXDEV, EINVAL, ENOSYS, ENOTSUP};
+        return std::find(std::begin(refusals), std::end(refusals), error) != std::end(refusals);
+    }
+
     /// When a file without a name cannot get one: raises what will not be better with a name from the start.
     [[nodiscard]] SetbackKind WhyNoName(int error) {
-        constexpr int refusals[] = {EPERM, EACCES, EMLINK, ENOENT, EXDEV, EINVAL, ENOSYS, ENOTSUP};
-        if (std::find(std::begin(refusals), std::end(refusals), error) == std::end(refusals))
+        if (!IsRefusal(error))
             Raise(error, m_fileName, Purpose::Write);
         m_needsName = true;
         return SetbackKind::NeedsName;
@@ -777,75 +800,95 @@ private:
     /// For a file that is not there yet.
     std::optional<SetbackKind> Create() {
         const int error = Uninterrupted([&] { return m_files.Name(m_text->file.Get(), m_path); });
-        if (error != 0 && error != EEXIST)
-            return m_hasTemporary ? Overwrite() : WhyNoName(error); // not every file can have two names
-        return error == 0 && FileAt(m_path) == m_text->id ? std::nullopt
-                                                          : std::optional(SetbackKind::FileChanged);
+        if (error == EEXIST)
+            return SetbackKind::FileChanged;
+        if (error != 0 && m_hasTemporary && IsRefusal(error)) // not every file can have two names
+            return Overwrite();
+        if (error != 0)
+            return WhyNoName(error);
+        return FileAt(m_path) == m_text->id ? std::nullopt : std::optional(SetbackKind::FileChanged);
     }
 
-    /// Lets the new text and the file change names. Whatever file then stands where no file of ours should be
-    /// goes back to its place, or is kept aside, which is told: it is never removed.
+    /// Lets the new text and the file change names. Whatever file then stands where none of ours should be
+    /// goes back to its place, or is kept aside and told of: it is never removed.
     std::optional<SetbackKind> Exchange() {
         const int error = Uninterrupted([&] { return m_files.Exchange(m_temporary, m_path); });
         if (error == ENOTSUP)
             return Overwrite();
         if (error != 0)
             return WhyNot(error);
-        m_hasTemporary = false; // until we know what it is
-        std::optional<FileId> there;
-        std::optional<FileId> taken;
+        m_hasTemporary = false; // nothing there is ours to remove until we know what it is
         try {
-            taken = FileAt(m_temporary);
-            m_hasTemporary = taken == FileId(m_stamp);
-            there = FileAt(m_path);
-        } catch (...) {
-            const auto again = m_files.StatusAt(m_temporary);
-            m_hasTemporary = again.error == 0 && FileId(again.value) == FileId(m_stamp);
+            return Settle();
+        } catch (const QuorError&) {
             if (!m_hasTemporary)
-                KeepAside();
+                SettleWithoutKnowing();
             throw;
         }
+    }
+
+    /// What an exchange has brought.
+    std::optional<SetbackKind> Settle() {
+        const std::optional<FileId> there = FileAt(m_path);
+        const std::optional<FileId> taken = FileAt(m_temporary);
         const bool isNewThere = there == m_text->id;
-        const bool isForeign = taken && !m_hasTemporary; // what we have taken out
-        if (isNewThere && !isForeign)
+        const bool isOld = taken == FileId(m_stamp) && !m_isOldGone;
+        if (isNewThere && (isOld || !taken)) {
+            m_hasTemporary = isOld;
             return std::nullopt;
-        if (taken == m_text->id) // the system has not done what it says
+        }
+        if (taken == m_text->id) { // the system has not done what it says
+            m_hasTemporary = true;
             return Overwrite();
+        }
         if (!HasLock()) { // somebody has saved meanwhile
-            if (!isForeign || (isNewThere && PutBack(*there, *taken)))
-                return SetbackKind::FileChanged;
-            KeepAside();
-            throw KeptAside();
+            if (taken && !isOld && !(isNewThere && PutBack(*there)))
+                KeepAside();
+            m_hasTemporary = m_hasTemporary || isOld;
+            return SetbackKind::FileChanged;
         }
         // A program that takes no lock has put a file there, right before us, or right behind us, or in the
         // place of our new text: nobody can tell.
-        const bool isOldBack = !isNewThere && there && m_hasTemporary && PutBack(*there, *taken);
-        if (isForeign || isOldBack)
+        if (isOld && there && PutBack(*there) && FileAt(m_path) == taken) {
             KeepAside();
-        if (isNewThere || isOldBack)
-            throw KeptAside();
-        return SetbackKind::Stolen;
+            return SetbackKind::FileChanged;
+        }
+        KeepAside();
+        return isNewThere ? std::nullopt : std::optional(SetbackKind::Stolen);
     }
 
-    /// Takes an exchange back. Whether the two files stand where they stood before: `there`, which goes, and
-    /// `taken`, which comes back.
-    bool PutBack(const FileId& there, const FileId& taken) {
-        m_hasTemporary = false;
-        const int error = Uninterrupted([&] { return m_files.Exchange(m_temporary, m_path); });
-        if (error != 0 && error != ENOENT)
-            RaiseFor(m_temporary, error, m_fileName);
-        const std::optional<FileId> back = FileAt(m_temporary);
-        m_hasTemporary = back == m_text->id;
-        if (FileAt(m_path) == taken && back == there)
-            return true;
+    /// The same when the system does not answer. Asks once more, and else keeps what it does not know.
+    void SettleWithoutKnowing() {
+        const auto there = m_files.StatusAt(m_path);
+        const auto taken = m_files.StatusAt(m_temporary);
+        m_hasTemporary = there.error == 0 && taken.error == 0 && FileId(there.value) == m_text->id &&
+                         FileId(taken.value) == FileId(m_stamp) && !m_isOldGone;
         if (!m_hasTemporary)
             KeepAside();
+    }
+
+    /// Takes an exchange back. True when what stood there, `there`, is what has the temporary name then. What
+    /// somebody has put there in between goes back to its place, and what that takes out is kept aside.
+    bool PutBack(const FileId& there) {
+        for (int exchanges = 0; exchanges < 2; ++exchanges) {
+            const int error = Uninterrupted([&] { return m_files.Exchange(m_temporary, m_path); });
+            if (error != 0 && error != ENOENT) {
+                KeepAside();
+                RaiseFor(m_kept, error, m_fileName);
+            }
+            const std::optional<FileId> back = FileAt(m_temporary);
+            m_hasTemporary = back == m_text->id;
+            if (back == there || m_hasTemporary)
+                return back == there;
+        }
+        KeepAside();
         return false;
     }
 
     /// Gives what stands under the temporary name another one, under which no save ever removes it.
     void KeepAside() {
-        m_hasTemporary = false;
+        if (m_hasTemporary)
+            return; // it is ours
         const std::string kept = Neighbours::Kept(m_temporary);
         const int error = Uninterrupted([&] { return m_files.Rename(m_temporary, kept); });
         if (error != ENOENT)
@@ -900,6 +943,7 @@ private:
     std::string m_temporary;     // the path that the new text has, or gets, before that of the file
     bool m_hasTemporary = false; // there is something of ours under that path
     bool m_needsName = false;    // there can be no files without one here
+    bool m_isOldGone = false;    // the file that we have read; m_stamp is that of another one then
     std::string m_kept;          // files of others that were kept aside
     std::optional<QuorError> m_setback;
 };

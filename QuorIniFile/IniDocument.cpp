@@ -344,7 +344,7 @@ std::string IniDocument::Text() const {
         size += m_changes.Line(m_changes[number]).size() + 2;
     for (const std::string& name : m_newSections)
         size += name.size() + 6; // with brackets, two line ends of two bytes at most
-    const std::vector<Patch> patches = Patches();
+    std::vector<Patch> patches = Patches();
     for (const Patch& patch : patches)
         size += patch.text.size();
     std::string text;
@@ -355,6 +355,10 @@ std::string IniDocument::Text() const {
     // What is added stands before what is removed in the same place.
     const auto copyUpTo = [&](std::size_t end) {
         for (; patch != patches.end() && patch->old.start < end; ++patch) {
+            if (patch->old.end > end) { // the blank line above the section that goes is that of a value
+                patch->old.start = end;
+                break;
+            }
             text.append(m_text, copied, patch->old.start - copied).append(patch->text);
             copied = patch->old.end;
         }

@@ -363,8 +363,16 @@ private:
         if (replacement.Has(Loaded().Bytes()))
             return SaveInto(replacement, *m_document, m_encoding);
         // What somebody else has made of the file, and our changes to it.
-        FileDocument theirs = Decode(replacement.Bytes(), replacement.Stamp());
-        ApplyChangesTo(theirs.document);
+        FileDocument theirs;
+        try {
+            theirs = Decode(replacement.Bytes(), replacement.Stamp());
+            ApplyChangesTo(theirs.document);
+        } catch (const QuorError&) {
+            if (StampOf(m_file, m_files) == replacement.Stamp())
+                throw;
+            // It was half written.
+            return FileError(ERR_PERMISSION_DENIED, FileName(), L"Another program keeps writing it");
+        }
         return SaveInto(replacement, theirs.document, theirs.encoding);
     }
 

@@ -104,7 +104,7 @@ public:
     /// The function is called again, upon the file as it is then, when a program that takes no lock has
     /// changed the file meanwhile: it must be repeatable, with no effects but those on this store. Others
     /// wait for the lock ten seconds at most, another store on the same file in this process too: it must be
-    /// short, and must not wait for a person.
+    /// short, and must not wait for a person. A child that it forks must not return from it.
     ///
     /// When the function raises, its exception passes through; when the file cannot be saved, Edit raises
     /// what a save raises. Either way nothing is saved, what the function wrote is forgotten, as by Discard,

@@ -283,6 +283,13 @@ PlainEdits::Lines PlainEdits::ExpectedLines(const PlainIni& old) const {
     }
     expected.added += added.size(); // their headers
     expected.mostBlanks = added.size();
+    // The blank line above the last section may be that of a value that ends in a backslash: it stays above a
+    // new key.
+    for (const std::size_t number : expected.gone) {
+        const PlainIni::Line& line = old.Lines()[number];
+        const bool isOfValue = line.mustFollow && !expected.gone.contains(number - 1);
+        expected.mostBlanks += isOfValue && line.parsed.kind == IniLineKind::Blank ? 1 : 0;
+    }
     return expected;
 }
 

@@ -114,6 +114,13 @@ TEST(IniDocument, ANewKeyDoesNotFollowLinesThatContinueNothing) {
     EXPECT_EQ(With("[A]\nx=1\n; C:\\Data\\\n\n[B]\n", "A", "y", "2"), "[A]\nx=1\ny=2\n; C:\\Data\\\n\n[B]\n");
 }
 
+TEST(IniDocument, ABlankLineThatContinuesAValueStaysAboveANewKeyWhenTheSectionBelowGoes) {
+    IniDocument document("[A]\nx=C:\\\n\n[B]\ny=1\n");
+    Write(document, "A", "z", {"2", false, {}});
+    document.RemoveSection(document.FindSection("B").value());
+    EXPECT_EQ(document.Text(), "[A]\nx=C:\\\n\nz=2\n");
+}
+
 TEST(IniDocument, AValueIsRewrittenOnItsKeyLineAndItsContinuationLinesStay) {
     EXPECT_EQ(With("[A]\nx=1 \\\n2\n  k=v\n", "A", "x", "3"), "[A]\nx=3\n2\n  k=v\n");
     EXPECT_EQ(With("[A]\nx=1\n  k=v\n", "A", "k", "2"), "[A]\nx=1\n  k=2\n")

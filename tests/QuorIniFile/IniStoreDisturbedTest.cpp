@@ -361,6 +361,111 @@ TEST(IniStoreDisturbed, ALookThatFailsAfterTheExchangeRemovesNothingOfOthers) {
     }
 }
 
+TEST(IniStoreDisturbed, WhateverFailsAroundTheExchangeNoTextOfOthersIsLostNorOurs) {
+    // A program renames its file into place before or behind the exchange, or a thief takes the place of our
+    // new text; then one call fails. A later save is killed, and one more goes well.
+    enum class Where { Before, Behind, Thief };
+    for (const Where where : {Where::Before, Where::Behind, Where::Thief}) {
+        bool reached = true;
+        for (std::size_t at = 1; reached; ++at) {
+            SimulatedDisk disk(Files{{path, host}});
+            InterceptedFiles files(disk);
+            std::size_t since = 0; // calls from the exchange on
+            bool isReplaced = false;
+            files.onCall = [&](std::string_view call) {
+                since += since > 0 || call == "Exchange" ? 1 : 0;
+                if (since == (where == Where::Behind ? 2U : 1U) && !isReplaced) {
+                    isReplaced = true;
+                    disk.Replace(where == Where::Thief ? Beside(disk, ".tmp").at(0) : path, "; precious\n");
+                }
+                reached = since > at;
+                return since == at + 1 ? EIO : 0;
+            };
+            reached = false;
+            const std::string told = Told(files);
+            const auto texts = [&disk] {
+                std::string all;
+                for (const auto& [name, bytes] : disk.Now())
+                    all += bytes;
+                return all;
+            };
+            const std::string message = "case " + std::to_string(static_cast<int>(where)) + ", call " +
+                                        std::to_string(at) + ": " + told;
+            const auto expectAll = [&](const char* when) {
+                EXPECT_NE(texts().find("; precious\n"), std::string::npos) << when << message;
+                EXPECT_NE(texts().find("; the host's own\n"), std::string::npos) << when << message;
+            };
+            expectAll("at once, ");
+            struct Killed {};
+            InterceptedFiles next(disk);
+            bool isDead = false;
+            next.onCall = [&](std::string_view call) {
+                isDead = isDead || call == "Exchange";
+                if (isDead)
+                    throw Killed();
+                return 0;
+            };
+            EXPECT_THROW(Save(next, L"z", 4), Killed);
+            Save(disk, L"z", 5);
+            expectAll("later, ");
+        }
+    }
+}
+
+TEST(IniStoreDisturbed, ThreeFilesOfAnotherProgramInOneSaveAreAllKeptOrThere) {
+    for (std::size_t third = 3; third < 40; ++third) {
+        SimulatedDisk disk(Files{{path, host}});
+        InterceptedFiles files(disk);
+        std::size_t since = 0;
+        files.onCall = [&](std::string_view call) {
+            since += since > 0 || call == "Exchange" ? 1 : 0;
+            const std::pair<std::size_t, const char*> renames[] = {
+                {1, "; one\n"}, {2, "; two\n"}, {third, "; three\n"}};
+            for (const auto& [at, text] : renames) {
+                if (since == at)
+                    disk.Replace(path, text);
+            }
+            return 0;
+        };
+        const std::string told = Told(files);
+        std::string texts;
+        for (const auto& [name, bytes] : disk.Now()) {
+            texts += bytes;
+            EXPECT_TRUE(!name.ends_with(".kept") || told.find(name) != std::string::npos)
+                << name << ": " << told;
+        }
+        EXPECT_NE(texts.find("; one\n"), std::string::npos) << texts << ", call " << third;
+        // The third one may take the place of the second one by itself, as at any other time.
+        EXPECT_TRUE(texts.find("; two\n") != std::string::npos ||
+                    texts.find("; three\n") != std::string::npos);
+        EXPECT_TRUE(since < third || texts.find("; three\n") != std::string::npos)
+            << texts << ", call " << third;
+    }
+}
+
+TEST(IniStoreDisturbed, ASaveUponOursThatMeetsOurPuttingBackIsPutBackAsWell) {
+    // Others have taken our lock and save: y right before the exchange, z upon our text right before that
+    // goes.
+    SimulatedDisk disk(Files{{path, host}});
+    InterceptedFiles files(disk);
+    int exchanges = 0;
+    files.onCall = [&](std::string_view call) {
+        if (call != "Exchange")
+            return 0;
+        ++exchanges;
+        if (exchanges <= 2) {
+            Clean(disk, ".lock");
+            SaveFromElsewhere(disk, exchanges == 1 ? L"y" : L"z", 3);
+        }
+        return 0;
+    };
+    const std::string told = Told(files);
+    EXPECT_EQ(disk.Now().at(path), "; the host's own\n[A]\nx=2\nz=3\n") << "whoever saved last is right";
+    ASSERT_EQ(Beside(disk, ".kept").size(), 1U);
+    EXPECT_EQ(disk.Now().at(Beside(disk, ".kept")[0]), "; the host's own\n[A]\nx=1\ny=3\n");
+    EXPECT_EQ(told, keptAside + Beside(disk, ".kept")[0]);
+}
+
 TEST(IniStoreDisturbed, WhatWasKeptStaysWhateverBecomesOfLaterSaves) {
     SimulatedDisk disk(Files{{path, host}, {"/.quor-65abe8b5491700c0-7.kept", "; precious\n"}});
     struct Killed {};
@@ -435,7 +540,7 @@ TEST(IniStoreDisturbed, AFileThatAnotherProgramRenamesIntoPlaceWhileWeSaveIsNotL
         files.onCall = [&](std::string_view call) {
             sinceExchange += sinceExchange > 0 || call == "Exchange" ? 1 : 0;
             if (calls++ == at &&
-                sinceExchange < 4) { // then ours has stood there, and theirs has come after it
+                sinceExchange < 3) { // then ours has stood there, and theirs has come after it
                 disk.Replace(path, "; theirs\n[A]\nx=1\n");
                 isReplaced = true;
             }
@@ -498,7 +603,7 @@ TEST(IniStoreDisturbed, AnExchangeThatCannotBeTakenBackKeepsTheOldFileAndSaysWhe
         Save(files, L"x", 2);
         FAIL() << "it was saved";
     } catch (const QuorError& error) {
-        const std::string kept = Beside(disk, ".tmp").at(0);
+        const std::string kept = Beside(disk, ".kept").at(0);
         EXPECT_EQ(error.Number(), 57);
         EXPECT_NE(std::string(error.what()).find(kept), std::string::npos) << error.what();
         EXPECT_EQ(disk.Now().at(kept), host);
