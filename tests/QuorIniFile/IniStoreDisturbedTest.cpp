@@ -132,6 +132,20 @@ std::string Told(IniFileSystem& files) {
     return "";
 }
 
+/// A save whose process is killed when all is ready.
+void SaveAndBeKilled(SimulatedDisk& disk, const wchar_t* key, std::int16_t value) {
+    struct Killed {};
+    InterceptedFiles files(disk);
+    bool isDead = false;
+    files.onCall = [&isDead](std::string_view call) {
+        isDead = isDead || call == "Exchange";
+        if (isDead)
+            throw Killed();
+        return 0;
+    };
+    EXPECT_THROW(Save(files, key, value), Killed);
+}
+
 constexpr const char* keptAside = "Path/File access error: /a.ini: Another program has replaced it at the "
                                   "same moment; its file is kept as ";
 
@@ -396,16 +410,7 @@ TEST(IniStoreDisturbed, WhateverFailsAroundTheExchangeNoTextOfOthersIsLostNorOur
                 EXPECT_NE(texts().find("; the host's own\n"), std::string::npos) << when << message;
             };
             expectAll("at once, ");
-            struct Killed {};
-            InterceptedFiles next(disk);
-            bool isDead = false;
-            next.onCall = [&](std::string_view call) {
-                isDead = isDead || call == "Exchange";
-                if (isDead)
-                    throw Killed();
-                return 0;
-            };
-            EXPECT_THROW(Save(next, L"z", 4), Killed);
+            SaveAndBeKilled(disk, L"z", 4);
             Save(disk, L"z", 5);
             expectAll("later, ");
         }
@@ -468,16 +473,7 @@ TEST(IniStoreDisturbed, ASaveUponOursThatMeetsOurPuttingBackIsPutBackAsWell) {
 
 TEST(IniStoreDisturbed, WhatWasKeptStaysWhateverBecomesOfLaterSaves) {
     SimulatedDisk disk(Files{{path, host}, {"/.quor-65abe8b5491700c0-7.kept", "; precious\n"}});
-    struct Killed {};
-    InterceptedFiles files(disk);
-    bool isDead = false;
-    files.onCall = [&](std::string_view call) {
-        isDead = isDead || call == "Exchange";
-        if (isDead)
-            throw Killed();
-        return 0;
-    };
-    EXPECT_THROW(Save(files, L"x", 2), Killed);
+    SaveAndBeKilled(disk, L"x", 2);
     Save(disk, L"y", 3);
     EXPECT_EQ(disk.Now(), (Files{{path, std::string(host) + "y=3\n"},
                                  {"/.quor-65abe8b5491700c0-7.kept", "; precious\n"}}));
@@ -614,17 +610,7 @@ TEST(IniStoreDisturbed, WhatAnInterruptedSaveHasLeftIsNamedAndGoesWithTheNextOne
     for (const bool hasUnnamedFiles : {true, false}) {
         SimulatedDisk disk(Files{{path, host}, {"/.quor-other-1.tmp", "of another file"}});
         disk.hasUnnamedFiles = hasUnnamedFiles;
-        struct Killed {};
-        InterceptedFiles files(disk);
-        bool isDead = false;
-        files.onCall = [&](std::string_view call) {
-            if (call == "Exchange" || isDead) {
-                isDead = true;
-                throw Killed();
-            }
-            return 0;
-        };
-        EXPECT_THROW(Save(files, L"x", 2), Killed);
+        SaveAndBeKilled(disk, L"x", 2);
         const Names lock = Beside(disk, ".lock");
         const Names left = LeftBeside(disk);
         ASSERT_EQ(left.size(), 2U);
