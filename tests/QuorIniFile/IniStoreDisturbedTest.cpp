@@ -624,6 +624,16 @@ TEST(IniStoreDisturbed, WhatAnInterruptedSaveHasLeftIsNamedAndGoesWithTheNextOne
     }
 }
 
+TEST(IniStoreDisturbed, ATemporaryFileThatIsOlderThanTheInterruptedSaveIsNotRemovedWithIt) {
+    const std::string older =
+        "/.quor-65abe8b5491700c0-7.tmp"; // whose lock file is gone: nobody knows what it is
+    SimulatedDisk disk(Files{{path, host}, {older, "; precious\n"}});
+    SaveAndBeKilled(disk, L"x", 2);
+    Save(disk, L"y", 3);
+    EXPECT_EQ(disk.Now(), (Files{{path, std::string(host) + "y=3\n"}, {older, "; precious\n"}}));
+    EXPECT_EQ(LeftBeside(disk), Names{older});
+}
+
 TEST(IniStoreDisturbed, ASaveThatIsUnderWayHasLeftNothing) {
     SimulatedDisk disk(Files{{path, host}});
     disk.hasUnnamedFiles = false;
