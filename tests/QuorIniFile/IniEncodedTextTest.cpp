@@ -164,3 +164,15 @@ TEST(IniEncodedText, ThatCouldNotBeReadBackIsRefused) {
     EXPECT_EQ(raised("\xEF\xBB\xBFx=\xC2\xB0", IniFileEncoding::Utf16LittleEndian), L"");
     EXPECT_EQ(raised("\xEF\xBB\xBF\0["s, IniFileEncoding::Utf16BigEndian), L"");
 }
+
+TEST(IniEncodedText, AnEditedUtf16TextThatWouldBeTakenForUtf32IsRefused) {
+    const std::string_view text("\xEF\xBB\xBF\0\n\n", 6); // FF FE 00 00 0A 00 0A 00
+    try {
+        RequireDecodable(text, IniFileEncoding::Utf16LittleEndian, L"a.ini");
+        FAIL() << "it could not be loaded again";
+    } catch (const QuorError& error) {
+        EXPECT_EQ(error.Description(),
+                  L"Path/File access error: a.ini: With these changes it would be UTF-32 text");
+    }
+    RequireDecodable(text, IniFileEncoding::Utf16BigEndian, L"a.ini");
+}

@@ -560,6 +560,36 @@ TEST(IniStoreDisturbed, AFileThatAnotherProgramRenamesIntoPlaceWhileWeSaveIsNotL
     }
 }
 
+TEST(IniStoreDisturbed, AFileThatIsHalfWrittenWhenOursIsToGoIntoItIsWaitedFor) {
+    const std::string half("\xFF\xFE[", 3); // of a file in UTF-16: an odd number of bytes
+    bool reached = true;
+    for (std::size_t at = 0; reached; ++at) {
+        SimulatedDisk disk(Files{{path, host}});
+        InterceptedFiles files(disk);
+        IniStore store(files);
+        store.SetFileName(L"/a.ini");
+        store.SetSection(L"A");
+        store.Hold();
+        store.WriteInteger(L"x", 2, L"");
+        disk.Rewrite(path, half);
+        std::size_t calls = 0;
+        files.onCall = [&](std::string_view) {
+            if (calls++ == at)
+                disk.Rewrite(path, "; theirs\n[A]\nx=1\n");
+            return 0;
+        };
+        reached = false;
+        try {
+            store.Release();
+            reached = calls > at;
+            EXPECT_EQ(disk.Now().at(path), "; theirs\n[A]\nx=2\n") << "call " << at;
+        } catch (const QuorError& error) {
+            EXPECT_LE(calls, at + 2) << "it was half written to the end: " << error.what();
+            EXPECT_GT(at, 10U);
+        }
+    }
+}
+
 TEST(IniStoreDisturbed, WhoeverKeepsRemovingTheTemporaryFileIsToldOf) {
     SimulatedDisk disk(Files{{path, host}});
     const std::string error = ErrorOfASaveDuring(
