@@ -150,7 +150,9 @@ void RequireDecodable(std::string_view text, IniFileEncoding encoding, std::wstr
         throw CannotBeRead(fileName, L"With these changes it would be UTF-16 text");
     if (isUtf16 && !IsUtf8(text))
         throw CannotBeRead(fileName, L"With these changes it would be no valid UTF-16 text");
-    if (encoding == IniFileEncoding::Utf16LittleEndian && IsUtf32(IniEncodedText(text, encoding).Bytes()))
+    const bool beginsWithNul = text.substr(MarkLength(text)).starts_with('\0'); // as almost never
+    if (encoding == IniFileEncoding::Utf16LittleEndian && beginsWithNul &&
+        IsUtf32(IniEncodedText(text, encoding).Bytes()))
         throw CannotBeRead(fileName, L"With these changes it would be UTF-32 text");
     if (text.size() > most || (isUtf16 && SizeInUtf16(text) > most))
         throw CannotBeRead(fileName, L"It would be larger than 4 GiB");

@@ -34,8 +34,8 @@ inline constexpr std::uint64_t largestText = 0xFFFFFFFF;
                                                            std::uint64_t most = largestText);
 
 /// Raises 75 with `fileName` unless DecodeFile would give `text` back from the bytes that spell it: when they
-/// would be taken for UTF-16, when the text of a UTF-16 file is no valid UTF-8, and when bytes or text would
-/// be more than `most`.
+/// would be taken for UTF-16 or UTF-32, when the text of a UTF-16 file is no valid UTF-8, and when bytes or
+/// text would be more than `most`.
 QUORINIFILE_EXPORT void RequireDecodable(std::string_view text, IniFileEncoding encoding,
                                          std::wstring_view fileName, std::uint64_t most = largestText);
 
