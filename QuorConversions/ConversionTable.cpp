@@ -1,6 +1,6 @@
 // Which class belongs to which conversion type.
 
-#include "QuorConversions/core/ConversionTable.h"
+#include "QuorConversions/core/detail/ConversionTable.h"
 
 #include "QuorConversions/core/CreationKey.h"
 #include "QuorConversions/polynomial/CQuorPolynomial.h"

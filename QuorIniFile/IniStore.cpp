@@ -1,12 +1,12 @@
 #include "QuorIniFile/IniStore.h"
 
-#include "QuorIniFile/IniDisk.h"
-#include "QuorIniFile/IniDocument.h"
-#include "QuorIniFile/IniEncodedText.h"
-#include "QuorIniFile/IniError.h"
-#include "QuorIniFile/IniFormat.h"
-#include "QuorIniFile/IniValue.h"
-#include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/detail/IniDisk.h"
+#include "QuorIniFile/detail/IniDocument.h"
+#include "QuorIniFile/detail/IniEncodedText.h"
+#include "QuorIniFile/detail/IniError.h"
+#include "QuorIniFile/detail/IniFormat.h"
+#include "QuorIniFile/detail/IniValue.h"
+#include "QuorIniFile/detail/Unicode.h"
 
 #include <bit>
 #include <cmath>
@@ -52,6 +52,7 @@ public:
         m_file = std::move(file);
     }
     [[nodiscard]] const std::wstring& FileName() const { return m_file.Text(); }
+    void MakeFolder() const { MakeFolderOf(m_file, m_files); }
 
     void SetSection(std::wstring_view section) {
         if (section == m_section)
@@ -496,6 +497,7 @@ private:
     IniNewValue m_value;
 };
 
+IniStore::IniStore() : IniStore(IniFileSystem::System()) {}
 IniStore::IniStore(IniFileSystem& files) : m_session(std::make_unique<Session>(files)) {}
 
 IniStore::~IniStore() {
@@ -507,6 +509,7 @@ IniStore::~IniStore() {
 
 void IniStore::SetFileName(std::wstring_view fileName) { m_session->SetFileName(fileName); }
 std::wstring_view IniStore::FileName() const { return m_session->FileName(); }
+void IniStore::MakeFolder() { m_session->MakeFolder(); }
 void IniStore::SetSection(std::wstring_view section) { m_session->SetSection(section); }
 std::wstring_view IniStore::Section() const { return m_session->Section(); }
 

@@ -2,7 +2,6 @@
 
 #include "QuorIniFile/Export.h"
 #include "QuorIniFile/INIFile.h"
-#include "QuorIniFile/IniFileSystem.h"
 #include "QuorIniFile/IniWarning.h"
 
 #include <cstdint>
@@ -13,6 +12,8 @@
 #include <vector>
 
 namespace QuorIniFile {
+
+class IniFileSystem;
 
 /// The built-in INI-file component: it stands on the file of that name and changes nothing in it but the
 /// lines that are written.
@@ -48,8 +49,10 @@ namespace QuorIniFile {
 /// object holds what it held before.
 class QUORINIFILE_EXPORT IniStore final : public INIFile {
 public:
-    /// On the files of this computer, or on others, which must outlive the store.
-    explicit IniStore(IniFileSystem& files = IniFileSystem::System());
+    /// On the files of this computer.
+    IniStore();
+    /// On other files, which must outlive the store: those of a test, which fail when they are told to.
+    explicit IniStore(IniFileSystem& files);
     IniStore(const IniStore&) = delete;
     IniStore& operator=(const IniStore&) = delete;
     /// Saves what is still held; failures are swallowed, so a caller that must know calls Release. What a
@@ -62,6 +65,9 @@ public:
     /// abandoned. The same name changes nothing.
     void SetFileName(std::wstring_view fileName) override;
     [[nodiscard]] std::wstring_view FileName() const;
+    /// Creates the folder of the file, and those above it, where they are missing. What is created is for the
+    /// user alone. Raises 70 or 75 where that is not possible.
+    void MakeFolder();
     /// Without a call the section without a name is selected.
     void SetSection(std::wstring_view section) override;
     [[nodiscard]] std::wstring_view Section() const;

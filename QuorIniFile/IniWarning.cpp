@@ -1,7 +1,7 @@
 #include "QuorIniFile/IniWarning.h"
 
-#include "QuorIniFile/IniFormat.h"
-#include "QuorIniFile/IniNames.h"
+#include "QuorIniFile/detail/IniFormat.h"
+#include "QuorIniFile/detail/IniNames.h"
 
 #include <utility>
 

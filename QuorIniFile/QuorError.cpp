@@ -1,6 +1,6 @@
 #include "QuorIniFile/QuorError.h"
 
-#include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/detail/Unicode.h"
 
 #include <utility>
 

@@ -1,6 +1,5 @@
 #include "QuorRegistryII/FileRegistry.h"
 
-#include "QuorIniFile/IniDisk.h"
 #include "QuorIniFile/IniStore.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
@@ -41,8 +40,9 @@ FileRegistry::FileRegistry(std::wstring_view application, std::wstring_view fold
     if (application.empty() || application == L"." || application == L".." ||
         application.find_first_of(std::wstring_view(L"/\0", 2)) != std::wstring_view::npos)
         Raise(QuorIniFile::ERR_BAD_FILE_NAME, L"Bad file name or number: " + std::wstring(application));
-    m_folder = folder.empty() ? ConfigurationFolder().append(L"/").append(application) : std::wstring(folder);
-    m_fileName = std::wstring(m_folder).append(L"/").append(application).append(L".ini");
+    m_fileName =
+        folder.empty() ? ConfigurationFolder().append(L"/").append(application) : std::wstring(folder);
+    m_fileName.append(L"/").append(application).append(L".ini");
 }
 
 bool FileRegistry::ReadValue(std::wstring_view section, std::wstring_view name, std::wstring& value) {
@@ -59,9 +59,9 @@ bool FileRegistry::ReadValue(std::wstring_view section, std::wstring_view name, 
 }
 
 void FileRegistry::WriteValue(std::wstring_view section, std::wstring_view name, std::wstring_view value) {
-    QuorIniFile::MakeFolders(m_folder);
     QuorIniFile::IniStore store;
     store.SetFileName(m_fileName);
+    store.MakeFolder();
     store.SetSection(section);
     store.WriteString(name, value);
 }

@@ -27,7 +27,6 @@ public:
     void WriteValue(std::wstring_view section, std::wstring_view name, std::wstring_view value) override;
 
 private:
-    std::wstring m_folder;
     std::wstring m_fileName;
 };
 

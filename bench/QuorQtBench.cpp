@@ -4,7 +4,7 @@
 
 #include "QuorConversions/core/CQuorConversion.h"
 #include "QuorConversions/core/SettingsObject.h"
-#include "toolkits/qt/QtPlatform.h"
+#include "QuorConversions/qt/QtPlatform.h"
 
 #include <QApplication>
 #include <QComboBox>

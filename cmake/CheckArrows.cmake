@@ -13,6 +13,7 @@ set(storeys
     "QuorConversions/rtd|QuorConversions/thermistor|QuorConversions/polynomial|QuorConversions/thermocouple"
     "QuorConversions/dialogs"
     "QuorConversions"
+    "QuorConversions/qt" # what the Qt toolkit has for hosts
     "toolkits/scripted|toolkits/qt"
     "apps/records"
     "apps/quorconv|apps/probe-setup")

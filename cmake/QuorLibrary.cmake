@@ -1,5 +1,5 @@
 # What every target of this project shares: the language, the warnings, the sanitizers, and the way one of
-# the three libraries is declared.
+# the libraries is declared.
 
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
@@ -20,20 +20,20 @@ if(QUOR_FUZZ)
     target_compile_options(quor_options INTERFACE -fsanitize=fuzzer-no-link) # the fuzzer sees which code ran
 endif()
 
-# quor_library(NAME DEPENDS lib... SOURCES file...)
+# quor_library(NAME DEPENDS lib... HEADERS file... SOURCES file...)
 # Declares the library NAME, its alias QuorConversions::NAME, its export header NAME/Export.h and its install
-# rules. Headers are installed under the path that the sources use: #include "NAME/...".
+# rules. HEADERS are what a host may include, under the path that the sources use: #include "NAME/...". All
+# others are internal: they are not installed, and nothing that they declare is exported.
 function(quor_library name)
-    cmake_parse_arguments(arg "" "" "DEPENDS;SOURCES" ${ARGN})
+    cmake_parse_arguments(arg "" "" "DEPENDS;HEADERS;SOURCES" ${ARGN})
     add_library(${name} ${arg_SOURCES})
     add_library(QuorConversions::${name} ALIAS ${name})
     string(TOUPPER ${name} upper)
-    generate_export_header(${name} BASE_NAME ${upper}
-        EXPORT_FILE_NAME ${PROJECT_BINARY_DIR}/include/${name}/Export.h)
-    target_include_directories(${name} PUBLIC
-        $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
-        $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>
-        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+    set(generated ${PROJECT_BINARY_DIR}/include)
+    generate_export_header(${name} BASE_NAME ${upper} EXPORT_FILE_NAME ${generated}/${name}/Export.h)
+    target_sources(${name} PUBLIC
+        FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${arg_HEADERS}
+        FILE_SET generated TYPE HEADERS BASE_DIRS ${generated} FILES ${generated}/${name}/Export.h)
     target_compile_features(${name} PUBLIC cxx_std_20)
     target_link_libraries(${name} PUBLIC ${arg_DEPENDS} PRIVATE $<BUILD_INTERFACE:quor_options>)
     if(QUOR_FUZZ)
@@ -41,16 +41,36 @@ function(quor_library name)
         target_precompile_headers(${name} PRIVATE <algorithm> <cmath> <functional> <map> <memory> <optional> <set>
             <string> <string_view> <variant> <vector>)
     endif()
+    quor_exports(${name} ${name})
+    install(TARGETS ${name} EXPORT QuorConversionsTargets
+        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+        FILE_SET generated DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+endfunction()
+
+# What a library of this project shares with the others: its version, and that it exports what stands in
+# `namespace` and is marked for it, but no template of the standard library that it has filled in.
+function(quor_exports name namespace)
     set_target_properties(${name} PROPERTIES
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}
         POSITION_INDEPENDENT_CODE ON)
     if(NOT BUILD_SHARED_LIBS)
+        string(TOUPPER ${name} upper)
         target_compile_definitions(${name} PUBLIC ${upper}_STATIC_DEFINE)
+        return()
     endif()
-    install(TARGETS ${name} EXPORT QuorConversionsTargets)
-    install(DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${name}
-        FILES_MATCHING PATTERN "*.h" PATTERN "*.def")
-    install(FILES ${PROJECT_BINARY_DIR}/include/${name}/Export.h
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${name})
+    set(map ${CMAKE_CURRENT_BINARY_DIR}/${name}.map)
+    file(CONFIGURE OUTPUT ${map} @ONLY CONTENT [[{
+    global: extern "C++" {
+        @namespace@::*;
+        typeinfo?for?@namespace@::*;
+        typeinfo?name?for?@namespace@::*;
+        vtable?for?@namespace@::*;
+        non-virtual?thunk?to?@namespace@::*;
+    };
+    local: *;
+};
+]])
+    target_link_options(${name} PRIVATE LINKER:--version-script=${map})
+    set_target_properties(${name} PROPERTIES LINK_DEPENDS ${map})
 endfunction()

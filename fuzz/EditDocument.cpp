@@ -1,9 +1,9 @@
 // Any file, any edits, in memory: nothing but what was written, removed or renamed changes, the document and
 // its text say the same, and the same edits can be made in the text that somebody else has made of the file.
 
-#include "QuorIniFile/IniDocument.h"
-#include "QuorIniFile/IniFormat.h"
-#include "QuorIniFile/IniValue.h"
+#include "QuorIniFile/detail/IniDocument.h"
+#include "QuorIniFile/detail/IniFormat.h"
+#include "QuorIniFile/detail/IniValue.h"
 #include "fuzz/Claim.h"
 #include "fuzz/Edits.h"
 #include "fuzz/PlainEdits.h"

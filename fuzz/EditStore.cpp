@@ -3,7 +3,7 @@
 
 #include "QuorIniFile/IniStore.h"
 #include "QuorIniFile/QuorError.h"
-#include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/detail/Unicode.h"
 #include "fuzz/Claim.h"
 #include "fuzz/Edits.h"
 #include "fuzz/PlainEdits.h"

@@ -1,6 +1,6 @@
 #include "fuzz/Edits.h"
 
-#include "QuorIniFile/IniValue.h"
+#include "QuorIniFile/detail/IniValue.h"
 
 #include <bit>
 #include <charconv>

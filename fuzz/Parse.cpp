@@ -1,12 +1,12 @@
 // Any bytes at all, read as an INI file: every key that a plain look from top to bottom finds is found by the
 // index, names in any case, and what a value spells can be spelled again.
 
-#include "QuorIniFile/IniDocument.h"
-#include "QuorIniFile/IniEncodedText.h"
-#include "QuorIniFile/IniFormat.h"
-#include "QuorIniFile/IniValue.h"
 #include "QuorIniFile/QuorError.h"
-#include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/detail/IniDocument.h"
+#include "QuorIniFile/detail/IniEncodedText.h"
+#include "QuorIniFile/detail/IniFormat.h"
+#include "QuorIniFile/detail/IniValue.h"
+#include "QuorIniFile/detail/Unicode.h"
 #include "fuzz/Claim.h"
 #include "fuzz/PlainIni.h"
 #include "fuzz/PlainUtf16.h"

@@ -1,7 +1,7 @@
 #include "fuzz/PlainUtf16.h"
 
-#include "QuorIniFile/IniFormat.h"
-#include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/detail/IniFormat.h"
+#include "QuorIniFile/detail/Unicode.h"
 
 #include <algorithm>
 #include <vector>

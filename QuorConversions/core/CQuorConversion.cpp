@@ -1,7 +1,7 @@
 #include "QuorConversions/core/CQuorConversion.h"
 
-#include "QuorConversions/core/ConversionTable.h"
-#include "QuorConversions/core/Record.h"
+#include "QuorConversions/core/detail/ConversionTable.h"
+#include "QuorConversions/core/detail/Record.h"
 #include "QuorConversions/core/modHelp.h"
 
 #include <utility>

@@ -1,6 +1,6 @@
 #include "QuorConversions/core/CoefficientSettings.h"
 
-#include "QuorConversions/core/Record.h"
+#include "QuorConversions/core/detail/Record.h"
 
 namespace QuorConversions {
 namespace {

@@ -1,7 +1,7 @@
 #include "QuorConversions/core/QuorObject.h"
 
-#include "QuorConversions/core/BusyPointer.h"
-#include "QuorConversions/core/Record.h"
+#include "QuorConversions/core/detail/BusyPointer.h"
+#include "QuorConversions/core/detail/Record.h"
 #include "QuorConversions/core/modMessages.h"
 #include "QuorConversions/platform/HeadlessPlatform.h"
 

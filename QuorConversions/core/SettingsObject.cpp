@@ -1,6 +1,6 @@
 #include "QuorConversions/core/SettingsObject.h"
 
-#include "QuorConversions/core/SettingsEditor.h"
+#include "QuorConversions/core/detail/SettingsEditor.h"
 #include "QuorConversions/core/modPaths.h"
 
 #include <utility>

@@ -1,6 +1,6 @@
 #include "QuorConversions/core/ValueFormatter.h"
 
-#include "QuorConversions/core/ShortestDecimal.h"
+#include "QuorConversions/core/detail/ShortestDecimal.h"
 
 #include <algorithm>
 #include <cmath>

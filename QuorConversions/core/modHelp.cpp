@@ -1,6 +1,6 @@
 #include "QuorConversions/core/modHelp.h"
 
-#include "QuorConversions/core/BusyPointer.h"
+#include "QuorConversions/core/detail/BusyPointer.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #include "QuorConversions/core/modMessages.h"
 
-#include "QuorConversions/core/BusyPointer.h"
+#include "QuorConversions/core/detail/BusyPointer.h"
 #include "QuorIniFile/Utf8.h"
 
 #include <new>

@@ -2,7 +2,7 @@
 
 #include "QuorConversions/core/NumberText.h"
 #include "QuorConversions/core/ValueFormatter.h"
-#include "QuorConversions/core/modEditing.h"
+#include "QuorConversions/core/detail/modEditing.h"
 #include "QuorConversions/core/modHelp.h"
 #include "QuorConversions/core/modMessages.h"
 

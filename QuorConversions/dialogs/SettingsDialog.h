@@ -1,8 +1,8 @@
 #pragma once
 
 #include "QuorConversions/controls/Dialog.h"
-#include "QuorConversions/core/SettingsEditor.h"
 #include "QuorConversions/core/SettingsObject.h"
+#include "QuorConversions/core/detail/SettingsEditor.h"
 
 #include <deque>
 #include <functional>

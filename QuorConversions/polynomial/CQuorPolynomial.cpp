@@ -1,6 +1,6 @@
 #include "QuorConversions/polynomial/CQuorPolynomial.h"
 
-#include "QuorConversions/core/Record.h"
+#include "QuorConversions/core/detail/Record.h"
 
 namespace QuorConversions {
 namespace {

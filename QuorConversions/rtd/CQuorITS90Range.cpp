@@ -1,6 +1,6 @@
 #include "QuorConversions/rtd/CQuorITS90Range.h"
 
-#include "QuorConversions/core/Record.h"
+#include "QuorConversions/core/detail/Record.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "QuorConversions/thermistor/CQuorThermistor.h"
 
-#include "QuorConversions/core/Record.h"
+#include "QuorConversions/core/detail/Record.h"
 
 namespace QuorConversions {
 namespace {

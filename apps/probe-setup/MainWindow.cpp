@@ -2,12 +2,12 @@
 
 #include "QuorConversions/core/CQuorConversion.h"
 #include "QuorConversions/core/modStrings.h"
+#include "QuorConversions/qt/QtPlatform.h"
+#include "QuorConversions/qt/QtText.h"
 #include "QuorIniFile/QuorError.h"
 #include "apps/probe-setup/ProbeDialog.h"
 #include "apps/probe-setup/ProbeTableModel.h"
 #include "apps/records/Types.h"
-#include "toolkits/qt/QtPlatform.h"
-#include "toolkits/qt/QtText.h"
 
 #include <QAbstractItemDelegate>
 #include <QApplication>

@@ -1,9 +1,9 @@
 #include "apps/probe-setup/ProbeDialog.h"
 
 #include "QuorConversions/core/modStrings.h"
+#include "QuorConversions/qt/QtText.h"
 #include "apps/probe-setup/TypeTexts.h"
 #include "apps/records/Types.h"
-#include "toolkits/qt/QtText.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>

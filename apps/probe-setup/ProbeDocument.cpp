@@ -2,10 +2,10 @@
 
 #include "QuorConversions/core/modPaths.h"
 #include "QuorConversions/core/modStrings.h"
-#include "QuorIniFile/IniDisk.h"
-#include "QuorIniFile/IniError.h"
-#include "QuorIniFile/IniFormat.h"
 #include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/detail/IniDisk.h"
+#include "QuorIniFile/detail/IniError.h"
+#include "QuorIniFile/detail/IniFormat.h"
 #include "apps/records/IniImage.h"
 #include "apps/records/Names.h"
 #include "apps/records/ProbeFile.h"
@@ -108,7 +108,9 @@ class WorkFile {
 public:
     WorkFile()
         : m_folder(fs::temp_directory_path() / ("probe-setup-" + std::to_string(std::random_device{}()))) {
-        QuorIniFile::MakeFolders(m_folder.wstring());
+        IniStore store;
+        store.SetFileName(Path());
+        store.MakeFolder();
     }
     WorkFile(const WorkFile&) = delete;
     WorkFile& operator=(const WorkFile&) = delete;

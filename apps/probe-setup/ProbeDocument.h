@@ -2,6 +2,7 @@
 
 #include "QuorConversions/core/CQuorConversion.h"
 #include "QuorIniFile/IniStore.h"
+#include "QuorIniFile/detail/IniFileSystem.h"
 #include "QuorRegistryII/Registry.h"
 #include "apps/probe-setup/QuietPlatform.h"
 #include "apps/records/RecordMerge.h"

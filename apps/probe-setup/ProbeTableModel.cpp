@@ -1,7 +1,7 @@
 #include "apps/probe-setup/ProbeTableModel.h"
 
+#include "QuorConversions/qt/QtText.h"
 #include "apps/probe-setup/TypeTexts.h"
-#include "toolkits/qt/QtText.h"
 
 #include <QStringMatcher>
 #include <QTextDocument>

@@ -1,7 +1,7 @@
 #include "apps/probe-setup/TypeTexts.h"
 
+#include "QuorConversions/qt/QtText.h"
 #include "apps/records/Types.h"
-#include "toolkits/qt/QtText.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,13 +1,13 @@
 // Probe Setup: the probes of a host's file in a window.
 
+#include "QuorConversions/qt/QtSession.h"
+#include "QuorConversions/qt/QtText.h"
+#include "QuorConversions/qt/Translations.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
 #include "QuorRegistryII/FileRegistry.h"
 #include "apps/probe-setup/MainWindow.h"
 #include "apps/probe-setup/Tour.h"
-#include "toolkits/qt/QtSession.h"
-#include "toolkits/qt/QtText.h"
-#include "toolkits/qt/Translations.h"
 
 #include <QApplication>
 #include <QCommandLineOption>

@@ -1,10 +1,10 @@
 #include "apps/quorconv/Commands.h"
 
 #include "QuorConversions/core/modPaths.h"
-#include "QuorIniFile/IniDisk.h"
-#include "QuorIniFile/IniError.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/detail/IniDisk.h"
+#include "QuorIniFile/detail/IniError.h"
 #include "apps/quorconv/Probe.h"
 #include "apps/records/IniImage.h"
 #include "apps/records/Names.h"

@@ -1,13 +1,13 @@
 // quorconv: probe records in INI files, from the command line.
 
-#include "QuorIniFile/IniFormat.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/detail/IniFormat.h"
 #include "apps/quorconv/Commands.h"
 
 #ifdef QUORCONV_HAS_WINDOWS
-#include "toolkits/qt/QtPlatform.h"
-#include "toolkits/qt/QtSession.h"
+#include "QuorConversions/qt/QtPlatform.h"
+#include "QuorConversions/qt/QtSession.h"
 #endif
 
 #include <CLI/CLI.hpp>

@@ -1,7 +1,7 @@
 #include "apps/records/IniImage.h"
 
-#include "QuorIniFile/IniValue.h"
 #include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/detail/IniValue.h"
 #include "apps/records/Names.h"
 
 #include <algorithm>

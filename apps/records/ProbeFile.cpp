@@ -1,10 +1,10 @@
 #include "apps/records/ProbeFile.h"
 
 #include "QuorConversions/core/modPaths.h"
-#include "QuorIniFile/IniDisk.h"
-#include "QuorIniFile/IniEncodedText.h"
-#include "QuorIniFile/IniError.h"
 #include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/detail/IniDisk.h"
+#include "QuorIniFile/detail/IniEncodedText.h"
+#include "QuorIniFile/detail/IniError.h"
 #include "apps/records/Names.h"
 #include "apps/records/Types.h"
 

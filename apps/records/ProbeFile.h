@@ -1,6 +1,6 @@
 #pragma once
 
-#include "QuorIniFile/IniFormat.h"
+#include "QuorIniFile/detail/IniFormat.h"
 
 #include <cstddef>
 #include <optional>

@@ -1,7 +1,7 @@
 // Edits one probe of a host's file. Usage: host FILE SECTION
 #include <QApplication>
 #include <QuorConversions/core/CQuorConversion.h>
-#include <toolkits/qt/QtPlatform.h>
+#include <QuorConversions/qt/QtPlatform.h>
 using namespace QuorConversions;
 
 int main(int argc, char** argv) {

@@ -1,4 +1,4 @@
-#include "QuorIniFile/IniChanges.h"
+#include "QuorIniFile/detail/IniChanges.h"
 
 #include <gtest/gtest.h>
 

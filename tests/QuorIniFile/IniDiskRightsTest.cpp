@@ -1,6 +1,6 @@
 // Who may read and write a file, before, while and after it is replaced.
 
-#include "QuorIniFile/IniDisk.h"
+#include "QuorIniFile/detail/IniDisk.h"
 
 #include "QuorIniFile/QuorError.h"
 #include "tests/support/InterceptedFiles.h"

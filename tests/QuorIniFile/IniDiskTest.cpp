@@ -1,4 +1,4 @@
-#include "QuorIniFile/IniDisk.h"
+#include "QuorIniFile/detail/IniDisk.h"
 
 #include "QuorIniFile/IniStore.h"
 #include "QuorIniFile/QuorError.h"
@@ -396,12 +396,15 @@ TEST(IniDisk, ARelativeNameNeedsACurrentFolder) {
 
 TEST(IniDisk, FoldersAreMadeForTheUserAlone) {
     const TempFolder folder;
-    MakeFolders(folder.Name("a/b"));
+    const auto makeFolderOf = [](const std::wstring& file) {
+        MakeFolderOf(IniFileName::Absolute(file, IniFileSystem::System()));
+    };
+    makeFolderOf(folder.Name("a/b/probes.ini"));
     EXPECT_EQ(ModeOf(folder.Path("a")), 0700U);
     EXPECT_EQ(ModeOf(folder.Path("a/b")), 0700U);
     ASSERT_EQ(::chmod(folder.Path("a").c_str(), 0755), 0);
-    MakeFolders(folder.Name("a/b/"));
+    makeFolderOf(folder.Name("a/b/other.ini"));
     EXPECT_EQ(ModeOf(folder.Path("a")), 0755U) << "what is there stays as it is";
     folder.Write("file", "");
-    EXPECT_EQ(RaisedBy([&] { MakeFolders(folder.Name("file/a")); }).Number(), 76);
+    EXPECT_EQ(RaisedBy([&] { makeFolderOf(folder.Name("file/a/probes.ini")); }).Number(), 76);
 }

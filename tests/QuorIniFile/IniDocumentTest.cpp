@@ -1,4 +1,4 @@
-#include "QuorIniFile/IniDocument.h"
+#include "QuorIniFile/detail/IniDocument.h"
 
 #include <gtest/gtest.h>
 

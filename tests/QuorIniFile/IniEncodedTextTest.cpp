@@ -1,4 +1,4 @@
-#include "QuorIniFile/IniEncodedText.h"
+#include "QuorIniFile/detail/IniEncodedText.h"
 
 #include "QuorIniFile/QuorError.h"
 #include "tests/support/Utf16.h"

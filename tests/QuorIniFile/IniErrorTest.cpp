@@ -1,4 +1,4 @@
-#include "QuorIniFile/IniError.h"
+#include "QuorIniFile/detail/IniError.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "QuorIniFile/IniExtents.h"
+#include "QuorIniFile/detail/IniExtents.h"
 
 #include <gtest/gtest.h>
 

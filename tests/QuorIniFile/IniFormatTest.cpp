@@ -1,4 +1,4 @@
-#include "QuorIniFile/IniFormat.h"
+#include "QuorIniFile/detail/IniFormat.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "QuorIniFile/IniIndex.h"
+#include "QuorIniFile/detail/IniIndex.h"
 
 #include <gtest/gtest.h>
 

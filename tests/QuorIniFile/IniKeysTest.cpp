@@ -1,4 +1,4 @@
-#include "QuorIniFile/IniKeys.h"
+#include "QuorIniFile/detail/IniKeys.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "QuorIniFile/IniSections.h"
+#include "QuorIniFile/detail/IniSections.h"
 
 #include <gtest/gtest.h>
 

@@ -3,8 +3,8 @@
 
 #include "QuorIniFile/IniStore.h"
 
-#include "QuorIniFile/IniDisk.h"
 #include "QuorIniFile/QuorError.h"
+#include "QuorIniFile/detail/IniDisk.h"
 #include "tests/support/InterceptedFiles.h"
 #include "tests/support/SimulatedDisk.h"
 

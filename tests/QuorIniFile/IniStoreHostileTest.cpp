@@ -2,8 +2,8 @@
 
 #include "QuorIniFile/IniStore.h"
 
-#include "QuorIniFile/IniDocument.h"
 #include "QuorIniFile/QuorError.h"
+#include "QuorIniFile/detail/IniDocument.h"
 #include "tests/support/InterceptedFiles.h"
 #include "tests/support/TempFolder.h"
 

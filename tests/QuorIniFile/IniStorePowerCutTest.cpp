@@ -2,7 +2,7 @@
 
 #include "QuorIniFile/IniStore.h"
 
-#include "QuorIniFile/IniDisk.h"
+#include "QuorIniFile/detail/IniDisk.h"
 #include "tests/support/InterceptedFiles.h"
 #include "tests/support/SimulatedDisk.h"
 

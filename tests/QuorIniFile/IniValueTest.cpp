@@ -1,4 +1,4 @@
-#include "QuorIniFile/IniValue.h"
+#include "QuorIniFile/detail/IniValue.h"
 
 #include <gtest/gtest.h>
 

@@ -1,24 +1,16 @@
 #pragma once
 
-#include "QuorConversions/Export.h"
-
-namespace QuorConversions {
-
-/// The next GetDecimalSeparator asks its platform, as the first one of a process does. In the test build
-/// only.
-QUORCONVERSIONS_EXPORT void ForgetDecimalSeparator();
-
-} // namespace QuorConversions
+#include "QuorConversions/core/detail/modEditing.h"
 
 namespace Support {
 
 /// As long as it lives, the process has no decimal separator of an earlier test; nor of this one afterwards.
 class FreshDecimalSeparator {
 public:
-    FreshDecimalSeparator() { QuorConversions::ForgetDecimalSeparator(); }
+    FreshDecimalSeparator() { QuorConversions::ProcessDecimalSeparator().clear(); }
     FreshDecimalSeparator(const FreshDecimalSeparator&) = delete;
     FreshDecimalSeparator& operator=(const FreshDecimalSeparator&) = delete;
-    ~FreshDecimalSeparator() { QuorConversions::ForgetDecimalSeparator(); }
+    ~FreshDecimalSeparator() { QuorConversions::ProcessDecimalSeparator().clear(); }
 };
 
 } // namespace Support

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "QuorIniFile/IniFileSystem.h"
+#include "QuorIniFile/detail/IniFileSystem.h"
 
 #include <chrono>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #include "toolkits/qt/HelpWindow.h"
 
+#include "QuorConversions/qt/QtText.h"
 #include "QuorIniFile/QuorError.h"
-#include "toolkits/qt/QtText.h"
 
 #include <QAction>
 #include <QApplication>

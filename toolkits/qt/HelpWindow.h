@@ -1,7 +1,5 @@
 #pragma once
 
-#include "toolkits/qt/Export.h"
-
 #include <QCoreApplication>
 #include <QMainWindow>
 #include <QPointer>
@@ -23,7 +21,7 @@ namespace QuorConversions::QtToolkit {
 /// A window that shows the pages of help collections: the topics beside the page, the way back, find in page,
 /// zoom. It is no modal window and no modal window blocks it while it shows a topic that was asked for there.
 /// It remembers nothing from one run to the next, writes no file and fetches nothing from a network.
-class QUORQTTOOLKIT_EXPORT HelpWindow : public QMainWindow {
+class HelpWindow : public QMainWindow {
     Q_DECLARE_TR_FUNCTIONS(HelpWindow)
 
 public:

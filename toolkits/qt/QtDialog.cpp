@@ -1,7 +1,7 @@
 #include "toolkits/qt/QtDialog.h"
 
 #include "QuorConversions/controls/ControlNames.h"
-#include "toolkits/qt/QtText.h"
+#include "QuorConversions/qt/QtText.h"
 #include "toolkits/qt/TextBoxWidget.h"
 
 #include <QCloseEvent>

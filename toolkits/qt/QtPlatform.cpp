@@ -1,13 +1,13 @@
-#include "toolkits/qt/QtPlatform.h"
+#include "QuorConversions/qt/QtPlatform.h"
 
 #include "QuorConversions/controls/Dialog.h"
 #include "QuorConversions/core/modHelp.h"
 #include "QuorConversions/core/modMessages.h"
+#include "QuorConversions/qt/QtText.h"
 #include "QuorConversions/resources/StringIds.h"
 #include "QuorConversions/resources/StringTable.h"
 #include "toolkits/qt/HelpWindow.h"
 #include "toolkits/qt/QtDialog.h"
-#include "toolkits/qt/QtText.h"
 
 #include <QApplication>
 #include <QDir>

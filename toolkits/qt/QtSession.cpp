@@ -1,9 +1,9 @@
-#include "toolkits/qt/QtSession.h"
+#include "QuorConversions/qt/QtSession.h"
 
 #include "QuorConversions/core/modHelp.h"
-#include "toolkits/qt/QtPlatform.h"
-#include "toolkits/qt/QtText.h"
-#include "toolkits/qt/Translations.h"
+#include "QuorConversions/qt/QtPlatform.h"
+#include "QuorConversions/qt/QtText.h"
+#include "QuorConversions/qt/Translations.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,7 +1,7 @@
-#include "toolkits/qt/Translations.h"
+#include "QuorConversions/qt/Translations.h"
 
+#include "QuorConversions/qt/QtText.h"
 #include "QuorConversions/resources/StringTable.h"
-#include "toolkits/qt/QtText.h"
 
 #include <QCoreApplication>
 #include <QLibraryInfo>

@@ -1,4 +1,4 @@
-#include "QuorConversions/core/modEditing.h"
+#include "QuorConversions/core/detail/modEditing.h"
 
 #include "QuorConversions/platform/HeadlessPlatform.h"
 #include "tests/support/DecimalSeparator.h"

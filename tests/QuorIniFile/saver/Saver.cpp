@@ -11,9 +11,9 @@
 //                                         and adds a line to LOG for each
 // An error goes to the standard output and ends it with 1.
 
-#include "QuorIniFile/IniDisk.h"
 #include "QuorIniFile/IniStore.h"
 #include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/detail/IniDisk.h"
 
 #include <chrono>
 #include <csignal>

@@ -1,12 +1,12 @@
 #include "apps/probe-setup/MainWindow.h"
 
+#include "QuorConversions/qt/QtText.h"
+#include "QuorConversions/qt/Translations.h"
 #include "apps/probe-setup/ProbeTableModel.h"
 #include "apps/probe-setup/TypeTexts.h"
 #include "apps/records/Types.h"
 #include "tests/apps/probe-setup/HostFile.h"
 #include "tests/toolkits/qt/QtScreen.h"
-#include "toolkits/qt/QtText.h"
-#include "toolkits/qt/Translations.h"
 
 #include <gtest/gtest.h>
 

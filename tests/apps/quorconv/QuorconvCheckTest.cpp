@@ -1,6 +1,6 @@
 #include "tests/apps/quorconv/Quorconv.h"
 
-#include "QuorIniFile/IniDisk.h"
+#include "QuorIniFile/detail/IniDisk.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,11 +1,11 @@
 // The pages themselves: complete, linked, and true to the dialogs, the files and the standards.
 
 #include "QuorConversions/core/modStrings.h"
+#include "QuorConversions/qt/QtText.h"
 #include "QuorConversions/thermocouple/CQuorTCTypePoly.h"
 #include "QuorConversions/thermocouple/CQuorTCTypeX.h"
 #include "tests/support/Objects.h"
 #include "tests/support/SettingsClasses.h"
-#include "toolkits/qt/QtText.h"
 #include "toolkits/scripted/ScriptedPlatform.h"
 
 #include <QHelpEngineCore>

@@ -1,6 +1,6 @@
 #include "tests/toolkits/qt/Looks.h"
 
-#include "toolkits/qt/Translations.h"
+#include "QuorConversions/qt/Translations.h"
 
 #include <QApplication>
 

@@ -1,8 +1,8 @@
 #include "toolkits/qt/QtDialog.h"
 
+#include "QuorConversions/qt/QtPlatform.h"
 #include "tests/toolkits/qt/QtScreen.h"
 #include "tests/toolkits/qt/SampleDialog.h"
-#include "toolkits/qt/QtPlatform.h"
 
 #include <gtest/gtest.h>
 

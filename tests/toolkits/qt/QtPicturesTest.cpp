@@ -2,6 +2,7 @@
 // (QT_SCALE_FACTOR), in a light and a dark palette, in two languages, in large letters, from right to left.
 // The pictures are left in the folder "pictures", by scale, for people to look at.
 
+#include "QuorConversions/qt/QtText.h"
 #include "QuorConversions/resources/StringIds.h"
 #include "QuorConversions/resources/StringTable.h"
 #include "QuorConversions/rtd/CQuorITS90.h"
@@ -10,7 +11,6 @@
 #include "tests/support/TestedScreen.h"
 #include "tests/toolkits/qt/Looks.h"
 #include "tests/toolkits/qt/QtScreen.h"
-#include "toolkits/qt/QtText.h"
 
 #include <QApplication>
 #include <QComboBox>

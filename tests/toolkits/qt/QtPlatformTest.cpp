@@ -1,12 +1,12 @@
-#include "toolkits/qt/QtPlatform.h"
+#include "QuorConversions/qt/QtPlatform.h"
 
 #include "QuorConversions/core/modHelp.h"
+#include "QuorConversions/qt/QtText.h"
 #include "QuorConversions/rtd/CQuorPT100.h"
 #include "tests/support/TempFolder.h"
 #include "tests/toolkits/qt/QtScreen.h"
 #include "tests/toolkits/qt/SampleDialog.h"
 #include "toolkits/qt/HelpWindow.h"
-#include "toolkits/qt/QtText.h"
 
 #include <gtest/gtest.h>
 

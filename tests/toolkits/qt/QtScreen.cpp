@@ -1,7 +1,7 @@
 #include "tests/toolkits/qt/QtScreen.h"
 
+#include "QuorConversions/qt/QtText.h"
 #include "tests/support/TestedScreen.h"
-#include "toolkits/qt/QtText.h"
 
 #include <gtest/gtest.h>
 

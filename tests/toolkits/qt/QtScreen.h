@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkits/qt/QtPlatform.h"
+#include "QuorConversions/qt/QtPlatform.h"
 #include "toolkits/scripted/Screen.h"
 
 #include <QWidget>

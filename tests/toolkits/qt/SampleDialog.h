@@ -2,7 +2,7 @@
 
 #include "QuorConversions/controls/Dialog.h"
 #include "QuorConversions/platform/Platform.h"
-#include "toolkits/qt/QtText.h"
+#include "QuorConversions/qt/QtText.h"
 
 #include <functional>
 #include <string>

@@ -1,10 +1,10 @@
-#include "toolkits/qt/Translations.h"
+#include "QuorConversions/qt/Translations.h"
 
+#include "QuorConversions/qt/QtText.h"
 #include "QuorConversions/resources/StringIds.h"
 #include "QuorConversions/resources/StringTable.h"
 #include "tests/support/Objects.h"
 #include "toolkits/qt/HelpWindow.h"
-#include "toolkits/qt/QtText.h"
 
 #include <QAction>
 #include <QCoreApplication>

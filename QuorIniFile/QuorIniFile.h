@@ -1,0 +1,8 @@
+#pragma once
+
+// All that a host needs of the INI-file component.
+#include "QuorIniFile/INIFile.h"
+#include "QuorIniFile/IniStore.h"
+#include "QuorIniFile/IniWarning.h"
+#include "QuorIniFile/QuorError.h"
+#include "QuorIniFile/Utf8.h"
