@@ -20,6 +20,16 @@ if(QUOR_FUZZ)
     target_compile_options(quor_options INTERFACE -fsanitize=fuzzer-no-link) # the fuzzer sees which code ran
 endif()
 
+# quor_precompile(TARGET header...)
+# Reading the headers of the standard library, and of those given, is most of a build: where tests are built
+# all of it is, and reads them once a target. Every other build reads what each source includes.
+function(quor_precompile target)
+    if(QUOR_BUILD_TESTS OR QUOR_FUZZ)
+        target_precompile_headers(${target} PRIVATE <algorithm> <functional> <map> <memory> <optional> <set> <string>
+            <string_view> <unordered_map> <variant> <vector> ${ARGN})
+    endif()
+endfunction()
+
 # quor_library(NAME DEPENDS lib... HEADERS file... SOURCES file...)
 # Declares the library NAME, its alias QuorConversions::NAME, its export header NAME/Export.h and its install
 # rules. HEADERS are what a host may include, under the path that the sources use: #include "NAME/...". All
@@ -36,11 +46,7 @@ function(quor_library name)
         FILE_SET generated TYPE HEADERS BASE_DIRS ${generated} FILES ${generated}/${name}/Export.h)
     target_compile_features(${name} PUBLIC cxx_std_20)
     target_link_libraries(${name} PUBLIC ${arg_DEPENDS} PRIVATE $<BUILD_INTERFACE:quor_options>)
-    if(QUOR_FUZZ)
-        # Every test run builds the fuzzers, and most of that is reading these.
-        target_precompile_headers(${name} PRIVATE <algorithm> <cmath> <functional> <map> <memory> <optional> <set>
-            <string> <string_view> <variant> <vector>)
-    endif()
+    quor_precompile(${name})
     quor_exports(${name} ${name})
     install(TARGETS ${name} EXPORT QuorConversionsTargets
         FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
