@@ -48,6 +48,7 @@ public:
             throw FileError(ERR_PATH_FILE_ACCESS, FileName(), L"An edit of it has not ended");
         if (!m_isAbandoned)
             Save();
+        ++m_textNumber;
         m_document.reset();
         m_file = std::move(file);
     }
@@ -116,6 +117,62 @@ public:
         return WarningsOf(m_document->BaseText());
     }
 
+    [[nodiscard]] bool HasSection(std::wstring_view name) {
+        LoadExisting();
+        return FindSection(name).has_value();
+    }
+
+    [[nodiscard]] std::string_view PresentText() {
+        LoadExisting();
+        if (!m_document->Changed())
+            return m_document->BaseText();
+        if (m_composed != m_textNumber) {
+            m_present = m_document->Text();
+            m_composed = m_textNumber;
+        }
+        return m_present;
+    }
+    [[nodiscard]] std::uint64_t TextNumber() const { return m_textNumber; }
+
+    [[nodiscard]] bool IsReadOnly() const { return QuorIniFile::IsReadOnly(m_file, m_files); }
+    [[nodiscard]] bool IsOwnFile(std::wstring_view fileName) const {
+        return IsSamePlace(IniFileName::Absolute(fileName, m_files), m_file, m_files);
+    }
+    [[nodiscard]] std::vector<IniLeftover> Leftovers() const {
+        std::vector<IniLeftover> leftovers = LeftoversOf(m_file, m_files);
+        // A relative name was completed by the folder that was the current one then.
+        const std::string& path = m_file.Path();
+        const std::string given = ToUtf8(m_file.Text());
+        const std::string added = path.ends_with(given) ? path.substr(0, path.size() - given.size()) : "";
+        for (IniLeftover& leftover : leftovers) {
+            if (leftover.path.starts_with(added))
+                leftover.path.erase(0, added.size());
+        }
+        return leftovers;
+    }
+
+    void SaveAs(std::wstring_view fileName) {
+        if (m_isEditing)
+            throw FileError(ERR_PATH_FILE_ACCESS, FileName(), L"An edit of it has not ended");
+        if (m_isAbandoned)
+            throw NotWritten();
+        const IniFileName target = IniFileName::Absolute(fileName, m_files);
+        const std::string text(PresentText());
+        const bool isOwn = IsSamePlace(target, m_file, m_files);
+        if (isOwn && StampOf(m_file, m_files).exists) {
+            Save();
+            return;
+        }
+        RequireDecodable(text, m_encoding, target.Text());
+        const IniEncodedText bytes(text, m_encoding);
+        IniStamp stamp;
+        UntilSaved([&] { return TryReplace(target, bytes.Bytes(), stamp); });
+        if (isOwn) {
+            m_hasFailed = false;
+            Adopt({IniDocument(text), m_encoding, stamp});
+        }
+    }
+
     void RemoveSection(std::wstring_view name) {
         Load();
         const auto section = FindSection(name);
@@ -143,6 +200,7 @@ public:
     }
 
     void Discard() {
+        ++m_textNumber;
         m_document.reset();
         m_hasFailed = false;
         m_isAbandoned = false;
@@ -311,6 +369,16 @@ private:
         return std::nullopt;
     }
 
+    /// Gives a file these bytes, whatever stands in it. What has come in between, if anything.
+    std::optional<QuorError> TryReplace(const IniFileName& target, std::string_view bytes, IniStamp& stamp) {
+        IniReplacement replacement(target, m_files);
+        const std::optional<IniStamp> now = replacement.Commit(bytes);
+        if (!now)
+            return replacement.Setback();
+        stamp = *now;
+        return std::nullopt;
+    }
+
     void Load() {
         // A file that was not there may have come since, as long as we have nothing to say about it.
         if (m_document && (m_stamp.exists || m_document->Changed()))
@@ -342,6 +410,7 @@ private:
 
     void Adopt(FileDocument file) noexcept {
         static_assert(std::is_nothrow_move_assignable_v<IniDocument>);
+        ++m_textNumber;
         m_document = std::move(file.document);
         m_number.reset();
         m_encoding = file.encoding;
@@ -413,6 +482,7 @@ private:
     }
 
     void SectionsChanged() {
+        ++m_textNumber;
         m_number.reset();
         m_hasFailed = false;
         if (!IsHeld())
@@ -439,6 +509,7 @@ private:
                     m_document->AddSection(SpellNew(L"section", m_section, section, buffer, IsSectionName));
             }
         }
+        ++m_textNumber;
         m_document->Write(*m_number, *name, present, spelling, m_value);
         m_hasFailed = false;
         if (!IsHeld())
@@ -487,6 +558,9 @@ private:
     std::optional<IniDocument> m_document;        // nothing until the file is loaded
     IniStamp m_stamp;                             // of the file that the document was read from
     std::optional<IniDocument::Section> m_number; // of the selected section, once it was found
+    std::uint64_t m_textNumber = 1;               // counts whatever may have changed the text
+    std::string m_present;                        // the text with all changes,
+    std::uint64_t m_composed = 0;                 // as it was under that number
     bool m_hasFailed = false;                     // a save of all that is written
     std::size_t m_holds = 0;
     bool m_isAbandoned = false; // what is held is part of a record, and must not be saved
@@ -557,6 +631,13 @@ void IniStore::WriteString(std::wstring_view key, std::wstring_view value) {
 
 std::vector<std::wstring> IniStore::Sections() { return m_session->Sections(); }
 std::vector<IniWarning> IniStore::Warnings() { return m_session->Warnings(); }
+bool IniStore::CanNameSection(std::wstring_view name) {
+    const auto spelled = NameToFind(name);
+    return spelled && QuorIniFile::IsSectionName(*spelled);
+}
+bool IniStore::HasSection(std::wstring_view name) { return m_session->HasSection(name); }
+IniLines IniStore::Lines(const IniLines::Place& from) { return {m_session->PresentText(), from}; }
+std::uint64_t IniStore::TextNumber() const { return m_session->TextNumber(); }
 void IniStore::RemoveSection(std::wstring_view name) { m_session->RemoveSection(name); }
 void IniStore::RenameSection(std::wstring_view from, std::wstring_view to) {
     m_session->RenameSection(from, to);
@@ -569,6 +650,10 @@ void IniStore::Release() { m_session->Release(); }
 void IniStore::Abandon() { m_session->Abandon(); }
 
 bool IniStore::FileChanged() { return m_session->FileChanged(); }
+bool IniStore::IsReadOnly() const { return m_session->IsReadOnly(); }
+bool IniStore::IsOwnFile(std::wstring_view fileName) const { return m_session->IsOwnFile(fileName); }
+std::vector<IniLeftover> IniStore::Leftovers() const { return m_session->Leftovers(); }
+void IniStore::SaveAs(std::wstring_view fileName) { m_session->SaveAs(fileName); }
 void IniStore::Reload() { m_session->Reload(); }
 
 } // namespace QuorIniFile

@@ -2,6 +2,8 @@
 
 #include "QuorIniFile/Export.h"
 #include "QuorIniFile/INIFile.h"
+#include "QuorIniFile/IniLeftover.h"
+#include "QuorIniFile/IniLines.h"
 #include "QuorIniFile/IniWarning.h"
 
 #include <cstdint>
@@ -89,6 +91,17 @@ public:
     /// They are lines of the text that was loaded or last saved: what is held does not count. Raises 53 when
     /// there is no file.
     [[nodiscard]] std::vector<IniWarning> Warnings();
+    /// Whether a new section can have that name: no line break, no ']' that would end it, nothing that a file
+    /// could not give back.
+    [[nodiscard]] static bool CanNameSection(std::wstring_view name);
+    /// Whether there is a section of that name, also one without keys. Raises 53 when there is no file.
+    [[nodiscard]] bool HasSection(std::wstring_view name);
+    /// The lines of the text as it is now, with what was written, from a line on that an earlier walk through
+    /// the same text has passed. Raises 53 when there is no file.
+    [[nodiscard]] IniLines Lines(const IniLines::Place& from = {});
+    /// Another number whenever the text may have become another one since: a file was loaded or saved,
+    /// something was written or discarded. For those who keep what Lines has told.
+    [[nodiscard]] std::uint64_t TextNumber() const;
     /// Removes a section with its header, the comments that touch the header from above, and its body down to
     /// the last key and the comments that touch that one. Comments that stand apart stay, and so do those
     /// that open the file. Later sections of that name, which nobody has read, go too. A section that is not
@@ -139,6 +152,22 @@ public:
     /// or gone counts too. Costs a look at the folder, or reading the file when it was touched. False as long
     /// as nothing was loaded. Raises what loading would raise.
     [[nodiscard]] bool FileChanged();
+    /// Whether a save would be refused, because this user may not write the file or nothing can be put into
+    /// its folder. A symbolic link is followed.
+    [[nodiscard]] bool IsReadOnly() const;
+    /// Whether a save to `fileName` would be a save of the own file, whichever links lead there.
+    [[nodiscard]] bool IsOwnFile(std::wstring_view fileName) const;
+    /// What saves of the file have left beside it, as paths from where the name of the file starts. Of
+    /// interrupted saves nothing as long as a save is under way, or where nobody can tell (a file system
+    /// without locks, a lock file that only another user may open).
+    [[nodiscard]] std::vector<IniLeftover> Leftovers() const;
+    /// Gives another file the text as it is now, with what was written, in place of whatever stands there: in
+    /// the same encoding, durably and at once, as a save does it, and through symbolic links. This object
+    /// stays with its own file, and what was held for that stays held. Raises 53 when there is no text, and
+    /// what a save raises; the other file is as it was, then. The own file is saved as ever, be it held or
+    /// not; where it is gone it gets the whole text. Raises 75 inside an edit, which saves by itself, and
+    /// when a bracket was abandoned.
+    void SaveAs(std::wstring_view fileName);
     /// Loads the file as it is now. What was written and not saved stays, upon the new text. On an error the
     /// object is as before. Before the first read or write there is nothing to load anew.
     void Reload();

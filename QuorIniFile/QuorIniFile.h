@@ -2,7 +2,10 @@
 
 // All that a host needs of the INI-file component.
 #include "QuorIniFile/INIFile.h"
+#include "QuorIniFile/IniLeftover.h"
+#include "QuorIniFile/IniLines.h"
 #include "QuorIniFile/IniStore.h"
 #include "QuorIniFile/IniWarning.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/ValueText.h"

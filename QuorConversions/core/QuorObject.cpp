@@ -151,6 +151,23 @@ void QuorObject::WriteToFile(std::shared_ptr<INIFile>& iniFile, const std::wstri
     }
 }
 
+void QuorObject::WriteToFile(const std::wstring& fname, const std::wstring& secname) const {
+    std::shared_ptr<INIFile> none;
+    WriteToFile(none, fname, secname);
+}
+
+void QuorObject::WriteOrRaise(const std::shared_ptr<INIFile>& iniFile, const std::wstring& secname) const {
+    iniFile->SetSection(secname);
+    iniFile->WriteString(L"Version", QUOR_LIBRARY_VERSION);
+    RecordWriter record(iniFile, secname, m_className, RecordWriter::Failures::Raised);
+    WriteRecord(record);
+}
+
+bool QuorObject::ReadFromFile(const std::wstring& fname, const std::wstring& secname) {
+    std::shared_ptr<INIFile> none;
+    return ReadFromFile(none, fname, secname);
+}
+
 bool QuorObject::ReadFromFile(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname,
                               const std::wstring& secname) {
     bool complete = false;

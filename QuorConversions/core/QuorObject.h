@@ -45,11 +45,24 @@ public:
     void WriteToFile(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname,
                      const std::wstring& secname) const;
 
+    /// The same into the file `fname`, which is created when it does not exist, in a folder that must exist.
+    ///
+    /// Nothing is returned: a failure is told to the user, through the platform, and to nobody else. A host
+    /// that must know brackets the writes by Hold and Release of a store of its own, whose Release raises,
+    /// calls WriteOrRaise, or keeps its probes in a QuorProbeFile::ProbeFile.
+    void WriteToFile(const std::wstring& fname, const std::wstring& secname) const;
+
+    /// The same as WriteToFile with an INI-file object, but what fails is raised and nobody is told. Then a
+    /// part of the record has been written: call it inside an edit of the store, which is given up by it.
+    void WriteOrRaise(const std::shared_ptr<INIFile>& iniFile, const std::wstring& secname) const;
+
     /// Reads the record from the section `secname`; `iniFile` and `fname` as in WriteToFile. True when every
     /// key was found. A key that is missing or cannot be read leaves the object's own value standing, and the
     /// user is told once; any other failure is reported. There is no rollback.
     bool ReadFromFile(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname,
                       const std::wstring& secname);
+    /// The same from the file `fname`.
+    bool ReadFromFile(const std::wstring& fname, const std::wstring& secname);
 
 protected:
     /// `className` is the source of the object's errors. A null platform is the headless one.

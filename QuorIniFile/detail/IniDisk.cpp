@@ -383,6 +383,30 @@ bool HasBytes(const IniFileName& fileName, std::string_view bytes, IniFileSystem
     return regular ? HasOnly(regular->file, bytes, target) : bytes.empty();
 }
 
+bool IsSamePlace(const IniFileName& a, const IniFileName& b, IniFileSystem& files) {
+    const fs::path one = FollowLinks(fs::path(a.Path()), {files, a.Text()});
+    const fs::path other = FollowLinks(fs::path(b.Path()), {files, b.Text()});
+    const auto statusOf = [&files](const std::string& path) {
+        return Uninterrupted([&] { return files.StatusAt(path); });
+    };
+    const auto isOne = [](const IniResult<IniFileStatus>& x, const IniResult<IniFileStatus>& y) {
+        return x.error == 0 && y.error == 0 && x.value.device == y.value.device &&
+               x.value.inode == y.value.inode;
+    };
+    if (one.filename() == other.filename() && isOne(statusOf(FolderOf(one)), statusOf(FolderOf(other))))
+        return true;
+    // Where the case of letters makes no difference, one file answers to two spellings of its only name.
+    const auto file = statusOf(one.string());
+    return file.value.links == 1 && isOne(file, statusOf(other.string()));
+}
+
+bool IsReadOnly(const IniFileName& fileName, IniFileSystem& files) {
+    const fs::path path = FollowLinks(fs::path(fileName.Path()), {files, fileName.Text()});
+    const int error = Uninterrupted([&] { return files.MayWrite(path.string()); });
+    return (error != 0 && error != ENOENT) ||
+           Uninterrupted([&] { return files.MayWrite(FolderOf(path)); }) != 0;
+}
+
 void MakeFolderOf(const IniFileName& fileName, IniFileSystem& files) {
     fs::path made;
     for (const fs::path& part : fs::path(fileName.Path()).parent_path()) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QuorIniFile/IniLeftover.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/detail/IniFileSystem.h"
 
@@ -86,18 +87,18 @@ struct IniFileBytes {
 [[nodiscard]] bool HasBytes(const IniFileName& fileName, std::string_view bytes,
                             IniFileSystem& files = IniFileSystem::System());
 
+/// Whether a save to the one name is a save to the other: both lead, through all links, to one place, whether
+/// there is a file or not. Of two hard links each is a place of its own, because a save parts them.
+[[nodiscard]] bool IsSamePlace(const IniFileName& a, const IniFileName& b,
+                               IniFileSystem& files = IniFileSystem::System());
+
+/// Whether a save would be refused: the file, at the end of all links, is not to be written by this user, or
+/// nothing can be put into its folder.
+[[nodiscard]] bool IsReadOnly(const IniFileName& fileName, IniFileSystem& files = IniFileSystem::System());
+
 /// Creates the folder of a file, and those above it, where they are missing. What is created is for the user
 /// alone.
 void MakeFolderOf(const IniFileName& fileName, IniFileSystem& files = IniFileSystem::System());
-
-/// A file that a save has left beside its own.
-struct IniLeftover {
-    std::string path;
-    /// What another program had put in the place of the file at the very moment of a save, which has told so.
-    /// It stays until somebody removes it. Others are what an interrupted save has left: the next save
-    /// removes them, or, where their lock file is gone, nobody does.
-    bool isKept = false;
-};
 
 /// What saves of a file have left beside it. Of interrupted saves nothing as long as a save is under way, or
 /// where nobody can tell (a file system without locks, a lock file that only another user may open).

@@ -27,6 +27,7 @@ struct IniFileStatus {
     std::int64_t seconds = 0; // of the last change of its bytes, name or rights; nobody can set it back
     std::int64_t nanoseconds = 0;
     std::uint32_t rights = 0; // who may do what, as SetRights takes it
+    std::uint64_t links = 1;  // how many names the file has
 };
 
 /// What the store asks of the operating system, a call a function, so that a test can put a disk in its place

@@ -57,7 +57,8 @@ IniFileStatus StatusFrom(const struct stat& status) {
             static_cast<std::uint64_t>(status.st_size),
             static_cast<std::int64_t>(status.st_ctim.tv_sec),
             static_cast<std::int64_t>(status.st_ctim.tv_nsec),
-            static_cast<std::uint32_t>(status.st_mode & 07777U)};
+            static_cast<std::uint32_t>(status.st_mode & 07777U),
+            static_cast<std::uint64_t>(status.st_nlink)};
 }
 
 #ifdef __linux__

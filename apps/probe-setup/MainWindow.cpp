@@ -5,9 +5,9 @@
 #include "QuorConversions/qt/QtPlatform.h"
 #include "QuorConversions/qt/QtText.h"
 #include "QuorIniFile/QuorError.h"
+#include "QuorProbeFile/ProbeTypes.h"
 #include "apps/probe-setup/ProbeDialog.h"
 #include "apps/probe-setup/ProbeTableModel.h"
-#include "apps/records/Types.h"
 
 #include <QAbstractItemDelegate>
 #include <QApplication>
@@ -280,11 +280,11 @@ void MainWindow::MakeActions() {
 
 // Files
 
-QString MainWindow::Words(const ProbeRecords::RecordConflict& conflict) {
+QString MainWindow::Words(const QuorProbeFile::RecordConflict& conflict) {
     const QString key = ToQt(L"[" + conflict.section + L"] " + conflict.key);
-    const QString ours = ToQt(ProbeRecords::ToText(conflict.ours));
+    const QString ours = ToQt(QuorProbeFile::ToText(conflict.ours));
     return conflict.theirs ? tr("%1: %2 in the file, %3 here")
-                                 .arg(key, ToQt(ProbeRecords::ToText(*conflict.theirs)), ours)
+                                 .arg(key, ToQt(QuorProbeFile::ToText(*conflict.theirs)), ours)
                            : tr("%1: removed from the file, %2 here").arg(key, ours);
 }
 
@@ -311,7 +311,7 @@ QString MainWindow::Words(const DocumentError& error) {
                 tr("%1: another program has changed or removed these probes meanwhile:").arg(file) + lines(0);
         if (!error.conflicts.empty()) {
             std::vector<std::wstring> keys;
-            for (const ProbeRecords::RecordConflict& conflict : error.conflicts)
+            for (const QuorProbeFile::RecordConflict& conflict : error.conflicts)
                 keys.push_back(FromQt(Words(conflict)));
             parts += tr("%1: another program has changed these values meanwhile:").arg(file) +
                      QLatin1Char('\n') + Lines(keys);
@@ -528,7 +528,7 @@ bool MainWindow::SaveCopyAs() {
 
 void MainWindow::Import() {
     QStringList patterns;
-    for (const auto& type : ProbeRecords::Types()) {
+    for (const auto& type : QuorProbeFile::Types()) {
         const QString pattern = QStringLiteral("*.") + ToQt(type.extension);
         if (!type.extension.empty() && !patterns.contains(pattern))
             patterns += pattern;

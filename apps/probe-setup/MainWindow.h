@@ -102,7 +102,7 @@ private:
     /// Runs what may fail; a failure is told under `what`. False then.
     bool Try(const QString& what, const std::function<void()>& action);
     [[nodiscard]] static QString Words(const DocumentError& error);
-    [[nodiscard]] static QString Words(const ProbeRecords::RecordConflict& conflict);
+    [[nodiscard]] static QString Words(const QuorProbeFile::RecordConflict& conflict);
     [[nodiscard]] static QString StepText(StepKind kind);
     /// What to do where no probe is shown.
     [[nodiscard]] QString EmptyText() const;

@@ -2,8 +2,8 @@
 
 #include "QuorConversions/core/modStrings.h"
 #include "QuorConversions/qt/QtText.h"
+#include "QuorProbeFile/ProbeTypes.h"
 #include "apps/probe-setup/TypeTexts.h"
-#include "apps/records/Types.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -79,7 +79,7 @@ ProbeDialog::ProbeDialog(QWidget* parent, const ProbeDocument& document, const Q
 }
 
 void ProbeDialog::AddTypes(bool withKeep, ProbeType selected) {
-    for (const ProbeRecords::TypeInfo& type : ProbeRecords::Types()) {
+    for (const QuorProbeFile::TypeInfo& type : QuorProbeFile::Types()) {
         if (type.code == CONV_NONE && !withKeep)
             continue;
         auto* const item = new QListWidgetItem(TypeTexts::OfChoice(type.code), m_types);

@@ -6,11 +6,11 @@
 #include "QuorIniFile/detail/IniDisk.h"
 #include "QuorIniFile/detail/IniError.h"
 #include "QuorIniFile/detail/IniFormat.h"
-#include "apps/records/IniImage.h"
-#include "apps/records/Names.h"
-#include "apps/records/ProbeFile.h"
-#include "apps/records/ReadLog.h"
-#include "apps/records/Types.h"
+#include "QuorProbeFile/ProbeFile.h"
+#include "QuorProbeFile/ProbeNames.h"
+#include "QuorProbeFile/ProbeTypes.h"
+#include "QuorProbeFile/ReadLog.h"
+#include "QuorProbeFile/RecordImage.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -25,7 +25,7 @@
 namespace ProbeSetup {
 
 using namespace QuorConversions;
-using namespace ProbeRecords;
+using namespace QuorProbeFile;
 using QuorIniFile::IniStore;
 using QuorIniFile::ToUtf8;
 
@@ -185,8 +185,8 @@ std::shared_ptr<IniStore> ProbeDocument::StoreOf(const std::wstring& path) const
 // The list and the file
 
 void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
-    const ProbeFile file(path);
-    const std::vector<Record>& records = file.Records();
+    ProbeFile file(path);
+    const std::vector<ProbeEntry>& records = file.Probes();
     auto store = StoreOf(path);
 
     const QuietPlatform::Quiet quiet(*m_platform);
@@ -194,7 +194,7 @@ void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
     entries.reserve(records.size());
     std::unordered_set<std::wstring> probes;
     std::unordered_map<std::int32_t, std::uint32_t> names; // of types
-    for (const Record& record : records) {
+    for (const ProbeEntry& record : records) {
         if (record.standAlone)
             continue;
         Entry entry;
@@ -239,7 +239,7 @@ void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
     m_isReadOnly = IsReadOnlyFile(path);
     m_store = std::move(store);
     m_entries = std::move(entries);
-    m_lostRecords = file.LostRecords();
+    m_lostRecords = file.LostSections();
     m_foreign = std::move(foreign);
 }
 
@@ -321,7 +321,7 @@ std::shared_ptr<CQuorConversion> ProbeDocument::CopyOf(const CQuorConversion& co
     auto copy = NewConversion();
     copy->SetConversionType(conversion.ConversionType());
     if (const auto settings = conversion.Settings())
-        IniImage::Apply(IniImage::Of(*settings), *copy->Settings());
+        RecordImage::Apply(RecordImage::Of(*settings), *copy->Settings());
     copy->SetChanged(false);
     return copy;
 }
@@ -387,7 +387,7 @@ bool ProbeDocument::Edit(std::size_t probe) {
     if (!copy->Edit() || m_isReadOnly || !copy->Settings())
         return false;
     // Not every value that a dialog can change sets Changed: a file that it opens may hold others as well.
-    if (IniImage::Same(*IniImage::Of(*conversion.Settings()), *IniImage::Of(*copy->Settings())))
+    if (RecordImage::Same(*RecordImage::Of(*conversion.Settings()), *RecordImage::Of(*copy->Settings())))
         return false;
     copy->SetChanged(true);
     Content content = ContentOf(copy);
@@ -863,9 +863,9 @@ void ProbeDocument::SaveCopyAs(const std::wstring& path, const OthersChanges& re
 bool ProbeDocument::IsStandAlone(const std::wstring& path) {
     if (!StandAloneSection(path))
         return false;
-    const ProbeFile file(path);
-    return std::all_of(file.Records().begin(), file.Records().end(),
-                       [](const Record& record) { return record.standAlone; });
+    const std::vector<ProbeEntry> probes = ProbeFile(path).Probes();
+    return std::all_of(probes.begin(), probes.end(),
+                       [](const ProbeEntry& probe) { return probe.standAlone; });
 }
 
 } // namespace ProbeSetup

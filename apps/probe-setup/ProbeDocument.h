@@ -3,9 +3,9 @@
 #include "QuorConversions/core/CQuorConversion.h"
 #include "QuorIniFile/IniStore.h"
 #include "QuorIniFile/detail/IniFileSystem.h"
+#include "QuorProbeFile/RecordMerge.h"
 #include "QuorRegistryII/Registry.h"
 #include "apps/probe-setup/QuietPlatform.h"
-#include "apps/records/RecordMerge.h"
 
 #include <cstddef>
 #include <functional>
@@ -64,7 +64,7 @@ struct DocumentError {
     Failure failure;
     std::wstring file;
     std::vector<std::wstring> details;
-    std::vector<ProbeRecords::RecordConflict> conflicts = {};
+    std::vector<QuorProbeFile::RecordConflict> conflicts = {};
 };
 
 /// What another program has written about the very probes or keys that are to be saved, and what is to give
@@ -72,7 +72,7 @@ struct DocumentError {
 /// anew. What was removed of a changed probe comes back.
 struct OthersChanges {
     std::vector<std::wstring> probes;
-    std::vector<ProbeRecords::RecordConflict> values;
+    std::vector<QuorProbeFile::RecordConflict> values;
 };
 
 /// The probes of a host's INI file, as they are to be: a list that is edited in memory and saved on request.
@@ -273,7 +273,7 @@ private:
     }
     /// The changes of a probe that is merged, now that it stands in `section` of `store`. Raises
     /// DocumentError when the library refuses the record.
-    [[nodiscard]] std::shared_ptr<ProbeRecords::RecordMerge>
+    [[nodiscard]] std::shared_ptr<QuorProbeFile::RecordMerge>
     MergeOf(const Entry& entry, const std::shared_ptr<QuorIniFile::IniStore>& store,
             const std::wstring& section) const;
     /// Conflicts give way: the user has agreed to that, or there were none.

@@ -4,8 +4,8 @@
 #include "QuorConversions/qt/QtText.h"
 #include "QuorIniFile/Utf8.h"
 #include "QuorIniFile/detail/IniFormat.h"
+#include "QuorProbeFile/ProbeTypes.h"
 #include "apps/probe-setup/MainWindow.h"
-#include "apps/records/Types.h"
 
 #include <QAction>
 #include <QApplication>
@@ -269,7 +269,7 @@ private:
 std::optional<std::size_t> FirstOfKind(const ProbeDocument& document, const std::wstring& extension) {
     for (std::size_t probe = 0; probe < document.Count(); ++probe) {
         const auto type = document.Type(probe);
-        const ProbeRecords::TypeInfo* const info = type ? ProbeRecords::FindType(*type) : nullptr;
+        const QuorProbeFile::TypeInfo* const info = type ? QuorProbeFile::FindType(*type) : nullptr;
         if (info && info->extension == extension)
             return probe;
     }
@@ -293,7 +293,7 @@ int RunTour(MainWindow& window, const QString& file, const QString& folder) {
     }
     guide.TakePicture(window, QStringLiteral("window"));
     QStringList kinds;
-    for (const ProbeRecords::TypeInfo& type : ProbeRecords::Types()) {
+    for (const QuorProbeFile::TypeInfo& type : QuorProbeFile::Types()) {
         const QString kind = ToQt(type.extension);
         if (kind.isEmpty() || kinds.contains(kind))
             continue;

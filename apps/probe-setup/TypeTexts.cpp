@@ -1,7 +1,7 @@
 #include "apps/probe-setup/TypeTexts.h"
 
 #include "QuorConversions/qt/QtText.h"
-#include "apps/records/Types.h"
+#include "QuorProbeFile/ProbeTypes.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,16 +1,15 @@
 #include "apps/quorconv/Commands.h"
 
-#include "QuorConversions/core/modPaths.h"
-#include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
 #include "QuorIniFile/detail/IniDisk.h"
 #include "QuorIniFile/detail/IniError.h"
+#include "QuorIniFile/detail/IniFormat.h"
+#include "QuorProbeFile/ProbeFile.h"
+#include "QuorProbeFile/ProbeNames.h"
+#include "QuorProbeFile/ProbeTypes.h"
+#include "QuorProbeFile/RecordImage.h"
+#include "QuorProbeFile/RecordMerge.h"
 #include "apps/quorconv/Probe.h"
-#include "apps/records/IniImage.h"
-#include "apps/records/Names.h"
-#include "apps/records/ProbeFile.h"
-#include "apps/records/RecordMerge.h"
-#include "apps/records/Types.h"
 #include "toolkits/scripted/Script.h"
 
 #include <nlohmann/json.hpp>
@@ -24,7 +23,7 @@
 namespace quorconv {
 
 using namespace QuorConversions;
-using namespace ProbeRecords;
+using namespace QuorProbeFile;
 using QuorIniFile::ToPrintable;
 using QuorIniFile::ToUtf8;
 using Json = nlohmann::ordered_json;
@@ -35,80 +34,42 @@ std::wstring Place(const std::wstring& file, const std::wstring& section) {
     return file + L": [" + section + L"]";
 }
 
-/// The messages of the library as the reasons of a problem.
-std::vector<std::wstring> Reasons(const Probe& probe) {
-    std::vector<std::wstring> reasons;
-    for (const auto& message : probe.Messages())
-        reasons.push_back(message.text);
-    for (const auto& read : probe.Reads())
-        if (!read.found)
-            reasons.push_back(L"[" + read.section + L"] " + read.key + L": missing or unreadable");
-    return reasons;
+/// Whether a key is missing, or cannot be read.
+bool IsOfKey(const ProbeProblem& problem) {
+    return problem.kind == PROBLEM_SECTION_MISSING || problem.kind == PROBLEM_KEY_MISSING ||
+           problem.kind == PROBLEM_VALUE_UNREADABLE;
 }
 
-Record FindRecord(const ProbeFile& file, const std::wstring& section) {
-    if (auto record = file.FindRecord(section))
-        return *std::move(record);
-    const bool exists = file.FindSection(section) != nullptr;
-    throw Problem{Place(file.Path(), section) +
-                  (exists ? L": the section is not the record of a probe" : L": there is no such section")};
-}
-
-/// Whether there is no complaint about a record but that it lacks keys which are about to be given.
-bool IsCompletedBy(const Probe& probe, const std::vector<Assignment>& assignments) {
-    const auto& messages = probe.Messages();
-    const auto& reads = probe.Reads();
-    return (messages.empty() || probe.LacksKeys()) &&
-           std::all_of(messages.begin(), messages.end(), IsVersionMessage) &&
-           std::all_of(reads.begin(), reads.end(), [&](const ReadLog::Read& read) {
-               return read.found ||
-                      std::any_of(assignments.begin(), assignments.end(),
-                                  [&](const Assignment& a) { return SameName(a.key, probe.PathOf(read)); });
+/// Whether there is no complaint about a record but that it lacks keys which are about to be given. A type
+/// that nobody knows, and a value that the settings replace, are shown as they are.
+bool IsCompletedBy(const ReadOutcome& outcome, const std::wstring& settings,
+                   const std::vector<Assignment>& assignments) {
+    const auto& problems = outcome.problems;
+    const bool lacksKeys = std::any_of(problems.begin(), problems.end(), IsOfKey);
+    return (outcome.messages.empty() || lacksKeys) &&
+           std::all_of(problems.begin(), problems.end(), [&](const ProbeProblem& problem) {
+               if (problem.kind == PROBLEM_UNKNOWN_TYPE || problem.kind == PROBLEM_VALUE_REPLACED)
+                   return true;
+               return IsOfKey(problem) &&
+                      std::any_of(assignments.begin(), assignments.end(), [&](const Assignment& a) {
+                          return SameName(a.key, PathOf(settings, problem.section, problem.key));
+                      });
            });
 }
 
-/// The probe of a record; raises Problem when the library could not read all of it, but for what `completion`
-/// gives.
-Probe ReadProbe(const std::shared_ptr<QuorIniFile::INIFile>& store, const std::wstring& file, Record record,
+/// Reads the probe of a section; raises Problem when the library could not read all of it, but for what
+/// `completion` gives.
+Probe ReadProbe(ProbeFile& file, const std::wstring& section,
                 const std::vector<Assignment>& completion = {}) {
-    Probe probe(store, file, std::move(record));
-    probe.Read();
-    if (!IsCompletedBy(probe, completion))
-        throw Problem{Place(file, probe.Where().section) + L": the record cannot be read", Reasons(probe)};
+    const auto present = file.Find(section); // as the file spells it
+    Probe probe(present ? present->section : section);
+    const ReadOutcome outcome = file.Read(probe.Section(), probe.Conversion());
+    const std::wstring settings =
+        outcome.probe.standAlone ? probe.Section() : SettingsSection(probe.Section());
+    if (!IsCompletedBy(outcome, settings, completion))
+        throw Problem{Place(file.Path(), probe.Section()) + L": the record cannot be read",
+                      Reasons(outcome.messages, outcome.problems)};
     return probe;
-}
-
-/// Where a record is to be written: what stands there already, or a place for a new one.
-struct Target {
-    Record record;
-    bool exists = false;
-};
-
-Target FindTarget(const std::wstring& path, const std::wstring& section, const TypeInfo& type) {
-    try {
-        const ProbeFile file(path);
-        if (auto record = file.FindRecord(section))
-            return {*std::move(record), true};
-        if (file.FindSection(section))
-            throw Problem{Place(path, section) + L": the section exists and is not the record of a probe"};
-    } catch (const QuorIniFile::QuorError& error) {
-        if (error.Number() != QuorIniFile::ERR_FILE_NOT_FOUND)
-            throw;
-    }
-    // Types share sections, not extensions: a PT100 would fit into a "cvd" file, and then be no valid one.
-    const auto standAlone = StandAloneSection(path);
-    const bool isStandAlone = standAlone && SameName(*standAlone, section);
-    if (isStandAlone && Folded(GetExtensionPart(path)) != type.extension)
-        throw Problem{Place(path, section) + L": in a file of this kind the section is not for " +
-                      type.enumerator};
-    return {{section, 0, isStandAlone}, false};
-}
-
-/// Writes all of a probe into `iniFile`.
-void WriteProbe(Probe& probe, const std::wstring& file,
-                const std::shared_ptr<QuorIniFile::INIFile>& iniFile) {
-    if (!probe.Write(iniFile))
-        throw Problem{Place(file, probe.Where().section) + L": the record cannot be written", Reasons(probe)};
 }
 
 std::wstring TellConflict(const std::wstring& file, const RecordConflict& conflict) {
@@ -122,26 +83,21 @@ std::wstring TellConflict(const std::wstring& file, const RecordConflict& confli
     return text + L"; yours is " + ToText(conflict.ours) + L", and nothing was written";
 }
 
-/// Writes what has become another value since the probe was read, into the file as it is within an edit of
-/// `store`, and nothing else. Raises Problem when another program has changed the same.
-void WriteChanges(Probe& probe, const std::wstring& file,
-                  const std::shared_ptr<QuorIniFile::INIFile>& store) {
-    const std::wstring& section = probe.Where().section;
-    const auto merge = std::make_shared<RecordMerge>(probe.Store(), section, store, section);
-    WriteProbe(probe, file, merge);
+/// Writes what has become another value since the probe was read from `before`, into `now`, and nothing else.
+/// Raises Problem when another program has changed the same.
+void WriteChanges(const Probe& probe, ProbeFile& before, ProbeFile& now) {
     std::vector<std::wstring> told;
-    for (const RecordConflict& conflict : merge->Conflicts())
-        told.push_back(TellConflict(file, conflict));
+    for (const RecordConflict& conflict : now.WriteChanges(probe.Section(), probe.Conversion(), before))
+        told.push_back(TellConflict(now.Path(), conflict));
     if (!told.empty())
         throw Problem{told.front(), {std::next(told.begin()), told.end()}};
-    merge->WriteChanges();
 }
 
 /// Gives the settings the values of the assignments, through the object itself, so that its own rules decide.
 /// A value may need another one first (a coefficient past the count needs the count), so those that have no
 /// place yet are tried again as long as new places appear.
 void Assign(Probe& probe, const std::wstring& file, const std::vector<Assignment>& assignments) {
-    const std::wstring place = Place(file, probe.Where().section) + L" ";
+    const std::wstring place = Place(file, probe.Section()) + L" ";
     SettingsObject* const settings = probe.Settings();
     if (!settings) {
         if (!assignments.empty())
@@ -150,16 +106,16 @@ void Assign(Probe& probe, const std::wstring& file, const std::vector<Assignment
     }
     probe.ForgetMessages();
     std::vector<Assignment> pending = assignments;
-    std::vector<IniImage::Entry> assigned;
+    std::vector<RecordImage::Entry> assigned;
     while (!pending.empty()) {
-        const auto image = IniImage::Of(*settings);
+        const auto image = RecordImage::Of(*settings);
         const auto unplaced = std::stable_partition(pending.begin(), pending.end(), [&](const Assignment& a) {
             return image->Find(a.key) != nullptr;
         });
         if (unplaced == pending.begin())
             throw Problem{place + pending.front().key + L": there is no such key in a record of this type"};
         for (auto assignment = pending.begin(); assignment != unplaced; ++assignment) {
-            IniImage::Entry& entry = *image->Find(assignment->key);
+            RecordImage::Entry& entry = *image->Find(assignment->key);
             const auto value = ParseAs(entry.value, assignment->value);
             if (!value)
                 throw Problem{place + assignment->key + L": " + WhatIsWrong(entry.value, assignment->value)};
@@ -167,16 +123,16 @@ void Assign(Probe& probe, const std::wstring& file, const std::vector<Assignment
             assigned.push_back(entry);
         }
         pending.erase(pending.begin(), unplaced);
-        IniImage::Apply(image, *settings);
+        RecordImage::Apply(image, *settings);
         if (!probe.Messages().empty())
-            throw Problem{place + L"the values are refused", Reasons(probe)};
+            throw Problem{place + L"the values are refused", probe.Messages()};
     }
-    const auto result = IniImage::Of(*settings);
+    const auto result = RecordImage::Of(*settings);
     for (auto entry = assigned.begin(); entry != assigned.end(); ++entry) {
         const bool replaced =
             std::any_of(std::next(entry), assigned.end(),
-                        [&](const IniImage::Entry& later) { return later.path == entry->path; });
-        const IniImage::Entry* const stored = result->Find(entry->path);
+                        [&](const RecordImage::Entry& later) { return later.path == entry->path; });
+        const RecordImage::Entry* const stored = result->Find(entry->path);
         if (!replaced && (!stored || !SameValue(stored->value, entry->value)))
             throw Problem{place + entry->path + L": the value " + ToText(entry->value) + L" is not accepted"};
     }
@@ -199,7 +155,7 @@ Json ToJson(const Value& value) {
 Json ToJson(const Probe& probe) {
     Json settings = Json::object();
     if (probe.Settings()) {
-        const auto image = IniImage::Of(*probe.Settings());
+        const auto image = RecordImage::Of(*probe.Settings());
         for (const auto& entry : image->Entries()) {
             const auto slash = entry.path.find(L'/');
             Json& parent =
@@ -208,7 +164,7 @@ Json ToJson(const Probe& probe) {
                 ToJson(entry.value);
         }
     }
-    return {{"section", ToUtf8(probe.Where().section)},
+    return {{"section", ToUtf8(probe.Section())},
             {"code", static_cast<std::int32_t>(probe.Conversion().ConversionType())},
             {"type", ToUtf8(probe.TypeName())},
             {"name", ToUtf8(probe.Name())},
@@ -216,11 +172,10 @@ Json ToJson(const Probe& probe) {
 }
 
 void PrintProbe(const Probe& probe) {
-    std::cout << ToPrintable(L"[" + probe.Where().section + L"] " + probe.TypeName() + L" " + probe.Name())
-              << '\n';
+    std::cout << ToPrintable(L"[" + probe.Section() + L"] " + probe.TypeName() + L" " + probe.Name()) << '\n';
     if (!probe.Settings())
         return;
-    const auto image = IniImage::Of(*probe.Settings());
+    const auto image = RecordImage::Of(*probe.Settings());
     for (const auto& entry : image->Entries())
         std::cout << ToPrintable(entry.path + L"=" + ToText(entry.value)) << '\n';
 }
@@ -234,27 +189,25 @@ void ListTypes() {
 }
 
 void ListProbes(const std::wstring& path) {
-    const ProbeFile file(path);
-    const auto store = StoreOf(path);
-    for (const Record& record : file.Records()) {
-        Probe probe(store, path, record);
-        probe.Read();
-        std::cout << ToPrintable(record.section) << '\t'
-                  << ToPrintable(probe.HasType() ? probe.TypeName() : L"?") << '\t'
-                  << ToPrintable(probe.HasType() ? probe.Name() : L"?") << '\n';
-    }
+    ProbeFile file(path);
+    for (const ProbeEntry& probe : file.Probes())
+        std::cout << ToPrintable(probe.section) << '\t'
+                  << ToPrintable(probe.type ? TypeName(*probe.type) : L"?") << '\t'
+                  << ToPrintable(probe.type ? file.ConversionName(probe) : L"?") << '\n';
 }
 
 void ShowProbes(const std::wstring& path, const std::wstring* section, bool asJson) {
-    const ProbeFile file(path);
-    std::vector<Record> records = file.Records();
+    ProbeFile file(path);
+    std::vector<std::wstring> sections;
     if (section)
-        records = {FindRecord(file, *section)};
-    const auto store = StoreOf(path);
+        sections = {*section};
+    else
+        for (const ProbeEntry& probe : file.Probes())
+            sections.push_back(probe.section);
     Json array = Json::array();
     const char* separator = "";
-    for (const Record& record : records) {
-        const Probe probe = ReadProbe(store, path, record);
+    for (const std::wstring& name : sections) {
+        const Probe probe = ReadProbe(file, name);
         if (asJson) {
             array.push_back(ToJson(probe));
         } else {
@@ -271,50 +224,48 @@ void NewProbe(const std::wstring& path, const std::wstring& section, const std::
     const TypeInfo* const type = ParseType(typeText);
     if (!type || type->code == CONV_NONE)
         throw Problem{L"\"" + typeText + L"\" is no conversion type; the command \"types\" lists them"};
-    const auto store = StoreOf(path);
-    store->Edit([&] {
-        Target target = FindTarget(path, section, *type);
-        if (target.exists)
+    ProbeFile file(path, ProbeFile::Opening::OrNew);
+    file.Edit([&] {
+        if (file.Find(section))
             throw Problem{Place(path, section) + L": there is a probe in this section already"};
-        Probe probe(store, path, std::move(target.record));
-        probe.SetType(*type);
+        Probe probe(section);
+        probe.Conversion().SetConversionType(type->code);
         Assign(probe, path, assignments);
-        WriteProbe(probe, path, store);
+        file.Write(section, probe.Conversion());
     });
 }
 
 void SetValues(const std::wstring& path, const std::wstring& section,
                const std::vector<Assignment>& assignments) {
-    const auto store = StoreOf(path);
-    store->Edit([&] {
-        const ProbeFile file(path);
-        Probe probe = ReadProbe(store, path, FindRecord(file, section), assignments);
+    ProbeFile file(path);
+    file.Edit([&] {
+        Probe probe = ReadProbe(file, section, assignments);
         Assign(probe, path, assignments);
-        WriteChanges(probe, path, store);
+        WriteChanges(probe, file, file);
     });
 }
 
 namespace {
 
-Probe ReadEditableProbe(const std::wstring& path, const std::wstring& section) {
-    const ProbeFile file(path);
-    Probe probe = ReadProbe(StoreOf(path), path, FindRecord(file, section));
+Probe ReadEditableProbe(ProbeFile& file, const std::wstring& section) {
+    Probe probe = ReadProbe(file, section);
     if (!probe.Settings())
-        throw Problem{Place(path, section) + L": " + probe.TypeName() + L" has no settings"};
+        throw Problem{Place(file.Path(), section) + L": " + probe.TypeName() + L" has no settings"};
     return probe;
 }
 
 /// Writes what a person has changed of a probe, who may have taken his time.
-void WriteEdited(Probe& probe, const std::wstring& path) {
-    const auto store = StoreOf(path);
-    store->Edit([&] { WriteChanges(probe, path, store); });
+void WriteEdited(const Probe& probe, ProbeFile& before) {
+    ProbeFile now(before.Path());
+    WriteChanges(probe, before, now);
 }
 
 } // namespace
 
 void EditProbe(const std::wstring& path, const std::wstring& section, const std::wstring* scriptPath,
                bool show) {
-    Probe probe = ReadEditableProbe(path, section);
+    ProbeFile file(path);
+    Probe probe = ReadEditableProbe(file, section);
     std::wstring commands = show ? L"show\n" : L"";
     if (scriptPath) {
         const auto script = QuorIniFile::ReadBytes(*scriptPath);
@@ -336,46 +287,59 @@ void EditProbe(const std::wstring& path, const std::wstring& section, const std:
     if (const auto& complaints = probe.Screen().Complaints(); !complaints.empty())
         throw Problem{Place(path, section) + L": the dialog did not go as the script says", complaints};
     if (accepted)
-        WriteEdited(probe, path);
+        WriteEdited(probe, file);
 }
 
 void EditProbeOn(const std::shared_ptr<Platform>& platform, const std::wstring& path,
                  const std::wstring& section) {
-    Probe probe = ReadEditableProbe(path, section);
+    ProbeFile file(path);
+    Probe probe = ReadEditableProbe(file, section);
     // The probe itself stays with the platform that logs: its messages decide what is told here.
     CQuorConversion shown(platform);
     shown.SetConversionType(probe.Conversion().ConversionType());
-    IniImage::Apply(IniImage::Of(*probe.Settings()), *shown.Settings());
+    RecordImage::Apply(RecordImage::Of(*probe.Settings()), *shown.Settings());
     if (!shown.Edit())
         return;
-    IniImage::Apply(IniImage::Of(*shown.Settings()), *probe.Settings());
-    WriteEdited(probe, path);
+    RecordImage::Apply(RecordImage::Of(*shown.Settings()), *probe.Settings());
+    WriteEdited(probe, file);
 }
 
 void CopyProbe(const std::wstring& fromPath, const std::wstring& fromSection, const std::wstring& toPath,
                const std::wstring& toSection) {
-    const ProbeFile from(fromPath);
-    const Probe source = ReadProbe(StoreOf(fromPath), fromPath, FindRecord(from, fromSection));
-    const TypeInfo* const type = FindType(source.Conversion().ConversionType());
-    if (!type)
-        throw Problem{Place(fromPath, fromSection) + L": " + source.TypeName() + L" is no conversion type"};
-    const auto store = StoreOf(toPath);
-    store->Edit([&] {
-        Target target = FindTarget(toPath, toSection, *type);
-        if (target.exists) {
-            // Nothing ever deletes keys, so a record of another type would leave its own among the new ones.
-            Probe old(store, toPath, target.record);
-            old.Read();
-            if (old.TypeName() != source.TypeName())
-                throw Problem{Place(toPath, toSection) + L": there is a probe of another type (" +
-                              old.TypeName() + L") in this section"};
+    ProbeFile from(fromPath);
+    ProbeFile to(toPath, ProbeFile::Opening::OrNew);
+    to.CopyFrom(from, fromSection, toSection);
+}
+
+std::vector<std::wstring> Reasons(const std::vector<std::wstring>& messages,
+                                  const std::vector<ProbeProblem>& problems) {
+    std::vector<std::wstring> reasons = messages;
+    for (const ProbeProblem& problem : problems)
+        if (IsOfKey(problem))
+            reasons.push_back(L"[" + problem.section + L"] " + problem.key + L": missing or unreadable");
+    return reasons;
+}
+
+bool CheckFiles(const std::vector<std::wstring>& files) {
+    bool fine = true;
+    for (const std::wstring& file : files) {
+        try {
+            for (const ProbeProblem& problem : ProbeFile(file).Check()) {
+                fine = false;
+                if (problem.line == 0) // beside the file
+                    std::cout << ToPrintable(file + L": " + problem.text) << '\n';
+                else
+                    std::cout << ToPrintable(file) << ':' << problem.line << ": "
+                              << ToPrintable(L"[" + problem.section + L"] " +
+                                             (problem.key.empty() ? L"" : problem.key + L": ") + problem.text)
+                              << '\n';
+            }
+        } catch (const QuorIniFile::QuorError& error) {
+            std::cout << ToPrintable(file) << ": " << ToPrintable(error.Description()) << '\n';
+            fine = false;
         }
-        Probe copy(store, toPath, std::move(target.record));
-        copy.SetType(*type);
-        if (source.Settings())
-            IniImage::Apply(IniImage::Of(*source.Settings()), *copy.Settings());
-        WriteProbe(copy, toPath, store);
-    });
+    }
+    return fine;
 }
 
 } // namespace quorconv

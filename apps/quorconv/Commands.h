@@ -1,6 +1,7 @@
 #pragma once
 
 #include "QuorConversions/platform/Platform.h"
+#include "QuorProbeFile/ProbeProblem.h"
 
 #include <memory>
 #include <string>
@@ -21,8 +22,8 @@ struct Assignment {
     std::wstring value;
 };
 
-// The commands. Each prints its results on the standard output and raises Problem or QuorError when it cannot
-// do what it is asked; nothing has been written then.
+// The commands. Each prints its results on the standard output and raises Problem or QuorError
+// (ProbeFileError too) when it cannot do what it is asked; nothing has been written then.
 
 void ListTypes();
 void ListProbes(const std::wstring& path);
@@ -41,6 +42,9 @@ void EditProbe(const std::wstring& path, const std::wstring& section, const std:
 /// Opens the dialog of the probe on the screen of `platform`. What was accepted is written.
 void EditProbeOn(const std::shared_ptr<QuorConversions::Platform>& platform, const std::wstring& path,
                  const std::wstring& section);
+/// Why a record cannot be read: what the library has said, and the keys.
+[[nodiscard]] std::vector<std::wstring> Reasons(const std::vector<std::wstring>& messages,
+                                                const std::vector<QuorProbeFile::ProbeProblem>& problems);
 /// Prints each problem of each file as "file:line: [section] key: what is wrong"; true when there is none.
 [[nodiscard]] bool CheckFiles(const std::vector<std::wstring>& files);
 

@@ -3,6 +3,7 @@
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
 #include "QuorIniFile/detail/IniFormat.h"
+#include "QuorProbeFile/ProbeFileError.h"
 #include "apps/quorconv/Commands.h"
 
 #ifdef QUORCONV_HAS_WINDOWS
@@ -210,6 +211,14 @@ private:
     CLI::Option* m_hasSection = nullptr;
 };
 
+/// A text for the terminal, with each reason on a line of its own.
+std::string Lines(const std::wstring& text, const std::vector<std::wstring>& reasons) {
+    std::string lines = ToPrintable(text);
+    for (const std::wstring& reason : reasons)
+        lines += "\n  " + ToPrintable(reason);
+    return lines;
+}
+
 /// `text` is printable.
 int Failed(const std::string& text, ExitCode code) {
     std::cerr << "quorconv: " << text << '\n';
@@ -227,10 +236,10 @@ int main(int argc, char** argv) {
     } catch (const UsageError& error) {
         return Failed(error.what(), wrongUsage);
     } catch (const quorconv::Problem& problem) {
-        std::string text = ToPrintable(problem.text);
-        for (const std::wstring& reason : problem.reasons)
-            text += "\n  " + ToPrintable(reason);
-        return Failed(text, problemFound);
+        return Failed(Lines(problem.text, problem.reasons), problemFound);
+    } catch (const QuorProbeFile::ProbeFileError& error) {
+        return Failed(Lines(error.Description(), quorconv::Reasons(error.Messages(), error.Problems())),
+                      problemFound);
     } catch (const std::exception& error) {
         return Failed(PrintableBytes(error.what()), problemFound);
     }

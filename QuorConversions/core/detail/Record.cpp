@@ -11,8 +11,9 @@ std::wstring NestedSection(const std::wstring& parent, const wchar_t* child) {
     return parent + L" - " + child;
 }
 
-RecordWriter::RecordWriter(std::shared_ptr<INIFile> iniFile, std::wstring section, const wchar_t* source)
-    : m_iniFile(std::move(iniFile)), m_section(std::move(section)), m_source(source) {}
+RecordWriter::RecordWriter(std::shared_ptr<INIFile> iniFile, std::wstring section, const wchar_t* source,
+                           Failures failures)
+    : m_iniFile(std::move(iniFile)), m_section(std::move(section)), m_source(source), m_failures(failures) {}
 
 template <class Operation>
 void RecordWriter::Store(Operation operation) {
@@ -41,7 +42,11 @@ void RecordWriter::Boolean(const wchar_t* key, bool value) {
 }
 
 void RecordWriter::Nested(const wchar_t* name, const QuorObject& child) {
-    child.WriteToFile(m_iniFile, L"", NestedSection(m_section, name));
+    const std::wstring section = NestedSection(m_section, name);
+    if (m_failures == Failures::Raised)
+        child.WriteOrRaise(m_iniFile, section);
+    else
+        child.WriteToFile(m_iniFile, L"", section);
 }
 
 RecordReader::RecordReader(std::shared_ptr<INIFile> iniFile, std::wstring section)

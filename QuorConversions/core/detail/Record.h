@@ -19,7 +19,11 @@ namespace QuorConversions {
 /// of that object from errors of the object that is being written.
 class RecordWriter {
 public:
-    RecordWriter(std::shared_ptr<INIFile> iniFile, std::wstring section, const wchar_t* source);
+    /// Whether what fails in a nested record is reported by that record, or raised.
+    enum class Failures : std::uint8_t { Reported, Raised };
+
+    RecordWriter(std::shared_ptr<INIFile> iniFile, std::wstring section, const wchar_t* source,
+                 Failures failures = Failures::Reported);
 
     void Text(const wchar_t* key, const std::wstring& value);
     /// Codes and counts are 16-bit values in a file. Raises 6 "Overflow" for one that does not fit.
@@ -40,6 +44,7 @@ private:
     std::shared_ptr<INIFile> m_iniFile;
     std::wstring m_section; // a copy: host code that runs inside a message box may change the caller's
     const wchar_t* m_source;
+    Failures m_failures;
     bool m_storeFailed = false;
 };
 

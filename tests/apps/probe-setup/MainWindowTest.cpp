@@ -2,9 +2,9 @@
 
 #include "QuorConversions/qt/QtText.h"
 #include "QuorConversions/qt/Translations.h"
+#include "QuorProbeFile/ProbeTypes.h"
 #include "apps/probe-setup/ProbeTableModel.h"
 #include "apps/probe-setup/TypeTexts.h"
-#include "apps/records/Types.h"
 #include "tests/apps/probe-setup/HostFile.h"
 #include "tests/toolkits/qt/QtScreen.h"
 
@@ -871,7 +871,7 @@ TEST_F(MainWindowTest, EveryWidgetThatTakesTheKeyboardHasANameForScreenReaders) 
 
 TEST(TypeTexts, NoTwoTypesAreCalledTheSameAndNoneIsUnknown) {
     std::set<QString> names;
-    for (const ProbeRecords::TypeInfo& type : ProbeRecords::Types()) {
+    for (const QuorProbeFile::TypeInfo& type : QuorProbeFile::Types()) {
         const QString name = TypeTexts::OfChoice(type.code);
         EXPECT_TRUE(names.insert(name).second) << name.toStdString();
         EXPECT_FALSE(name.contains('<') || name.contains('%')) << name.toStdString();

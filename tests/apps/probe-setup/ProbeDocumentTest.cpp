@@ -89,12 +89,12 @@ protected:
         return dynamic_cast<const CQuorCVD&>(*document.Conversion(probe).Settings()).Coefficients(CVD_ALPHA);
     }
     /// A line each: the key, what was read, what the file holds, what the user wants.
-    static Texts Lines(const std::vector<ProbeRecords::RecordConflict>& conflicts) {
-        const auto text = [](const auto& value) { return value ? ProbeRecords::ToText(*value) : L"none"; };
+    static Texts Lines(const std::vector<QuorProbeFile::RecordConflict>& conflicts) {
+        const auto text = [](const auto& value) { return value ? QuorProbeFile::ToText(*value) : L"none"; };
         Texts lines;
         for (const auto& conflict : conflicts)
             lines.push_back(L"[" + conflict.section + L"] " + conflict.key + L": " + text(conflict.read) +
-                            L", " + text(conflict.theirs) + L", " + ProbeRecords::ToText(conflict.ours));
+                            L", " + text(conflict.theirs) + L", " + QuorProbeFile::ToText(conflict.ours));
         return lines;
     }
 

@@ -1,12 +1,11 @@
-#include "apps/records/Types.h"
+#include "QuorProbeFile/ProbeTypes.h"
 
-#include "QuorIniFile/Utf8.h"
-#include "QuorIniFile/detail/IniValue.h"
-#include "apps/records/Names.h"
+#include "QuorIniFile/ValueText.h"
+#include "QuorProbeFile/ProbeNames.h"
 
 #include <algorithm>
 
-namespace ProbeRecords {
+namespace QuorProbeFile {
 
 using namespace QuorConversions;
 
@@ -38,8 +37,17 @@ const TypeInfo* FindType(std::int32_t code) {
     return type == Types().end() ? nullptr : &*type;
 }
 
+std::vector<const TypeInfo*> TypesOfExtension(const std::wstring& extension) {
+    std::vector<const TypeInfo*> found;
+    const std::wstring wanted = Folded(extension);
+    for (const TypeInfo& type : Types())
+        if (!type.extension.empty() && type.extension == wanted)
+            found.push_back(&type);
+    return found;
+}
+
 const TypeInfo* ParseType(const std::wstring& text) {
-    if (const auto code = QuorIniFile::ParseInteger(QuorIniFile::ToUtf8(text)))
+    if (const auto code = QuorIniFile::IntegerOf(text))
         return FindType(*code);
     const std::wstring wanted = Folded(text);
     const auto type = std::find_if(Types().begin(), Types().end(), [&](const TypeInfo& t) {
@@ -48,4 +56,8 @@ const TypeInfo* ParseType(const std::wstring& text) {
     return type == Types().end() ? nullptr : &*type;
 }
 
-} // namespace ProbeRecords
+std::wstring NameOf(const CQuorConversion& conversion) {
+    return conversion.ConversionName(conversion.Settings() ? currentValue : conversion.ConversionType());
+}
+
+} // namespace QuorProbeFile

@@ -1,4 +1,4 @@
-#include "apps/records/RecordMerge.h"
+#include "QuorProbeFile/RecordMerge.h"
 
 #include "QuorConversions/core/CQuorConversion.h"
 #include "QuorConversions/rtd/CQuorCVD.h"
@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-using namespace ProbeRecords;
+using namespace QuorProbeFile;
 using namespace QuorConversions;
 using QuorIniFile::IniStore;
 

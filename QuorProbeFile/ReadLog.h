@@ -1,13 +1,13 @@
 #pragma once
 
 #include "QuorIniFile/INIFile.h"
-#include "apps/records/IniImage.h"
+#include "QuorProbeFile/RecordValue.h"
 
 #include <memory>
 #include <string>
 #include <vector>
 
-namespace ProbeRecords {
+namespace QuorProbeFile {
 
 /// Passes everything on to another INI-file object and remembers what was read through it, so that a
 /// host learns from the library itself which keys a record consists of.
@@ -70,4 +70,4 @@ private:
     std::vector<Read> m_reads;
 };
 
-} // namespace ProbeRecords
+} // namespace QuorProbeFile

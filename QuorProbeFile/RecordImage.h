@@ -2,33 +2,21 @@
 
 #include "QuorConversions/core/SettingsObject.h"
 #include "QuorIniFile/INIFile.h"
+#include "QuorProbeFile/Export.h"
+#include "QuorProbeFile/RecordValue.h"
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <variant>
 #include <vector>
 
-namespace ProbeRecords {
-
-/// A value of a record, with the kind that the library gave it.
-using Value = std::variant<std::wstring, std::int16_t, double, bool>;
-
-/// How a value stands in a file, but text as it is.
-[[nodiscard]] std::wstring ToText(const Value& value);
-/// `text` as a value of the kind of `kind`, exactly; nothing when it is not wholly one.
-[[nodiscard]] std::optional<Value> ParseAs(const Value& kind, const std::wstring& text);
-/// What a text that ParseAs refuses should have been: "is not a number", ...
-[[nodiscard]] std::wstring WhatIsWrong(const Value& kind, const std::wstring& text);
-/// Bit for bit for numbers, so that -0.0 is not 0.0 and NaN is NaN.
-[[nodiscard]] bool SameValue(const Value& a, const Value& b);
+namespace QuorProbeFile {
 
 /// A settings record in memory: what the library writes, in its order and with its kinds, so that a
 /// host knows the keys of no class. It can be read back into an object; a key that it does not hold counts
 /// as found and leaves the object's own value.
-class IniImage final : public QuorIniFile::INIFile {
+class QUORPROBEFILE_EXPORT RecordImage final : public QuorIniFile::INIFile {
 public:
     struct Entry {
         std::wstring path; ///< the key; behind "High Range/" or the like in a nested record
@@ -36,11 +24,11 @@ public:
     };
 
     /// All values of `settings`, without "Version".
-    [[nodiscard]] static std::shared_ptr<IniImage> Of(const QuorConversions::SettingsObject& settings);
+    [[nodiscard]] static std::shared_ptr<RecordImage> Of(const QuorConversions::SettingsObject& settings);
     /// Puts the values of the image into `settings`.
-    static void Apply(std::shared_ptr<IniImage> image, QuorConversions::SettingsObject& settings);
+    static void Apply(std::shared_ptr<RecordImage> image, QuorConversions::SettingsObject& settings);
     /// Whether two images have the same values under the same paths, in the same order.
-    [[nodiscard]] static bool Same(const IniImage& a, const IniImage& b);
+    [[nodiscard]] static bool Same(const RecordImage& a, const RecordImage& b);
 
     [[nodiscard]] const std::vector<Entry>& Entries() const { return m_entries; }
     /// The entry of a path, in any ASCII case; null when there is none.
@@ -78,4 +66,4 @@ private:
     std::wstring m_prefix;
 };
 
-} // namespace ProbeRecords
+} // namespace QuorProbeFile

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "QuorIniFile/INIFile.h"
-#include "apps/records/IniImage.h"
+#include "QuorProbeFile/Export.h"
+#include "QuorProbeFile/RecordValue.h"
 
 #include <memory>
 #include <optional>
@@ -9,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-namespace ProbeRecords {
+namespace QuorProbeFile {
 
 /// A key that another program has changed in the file since the record was read, and that we are to change to
 /// another value. A value that is missing was not there, or is gone; text stands for one that cannot be read
@@ -35,7 +36,7 @@ struct RecordConflict {
 ///
 /// "Version" is no value of the record: it never makes a conflict, and is written where it was missing or
 /// another one and nobody has changed it.
-class RecordMerge final : public QuorIniFile::INIFile {
+class QUORPROBEFILE_EXPORT RecordMerge final : public QuorIniFile::INIFile {
 public:
     /// The record was read from `before`, which still gives what it gave then, and stood there in the section
     /// `sectionBefore`; now it stands in `section` of `file`. Both may be the same object.
@@ -95,4 +96,4 @@ private:
     std::optional<RecordConflict> m_typeConflict;
 };
 
-} // namespace ProbeRecords
+} // namespace QuorProbeFile

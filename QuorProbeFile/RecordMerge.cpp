@@ -1,10 +1,10 @@
-#include "apps/records/RecordMerge.h"
+#include "QuorProbeFile/RecordMerge.h"
 
-#include "apps/records/Names.h"
+#include "QuorProbeFile/ProbeNames.h"
 
 #include <utility>
 
-namespace ProbeRecords {
+namespace QuorProbeFile {
 
 using QuorIniFile::INIFile;
 
@@ -107,4 +107,4 @@ void RecordMerge::Write(const std::vector<Change>& changes) {
     }
 }
 
-} // namespace ProbeRecords
+} // namespace QuorProbeFile

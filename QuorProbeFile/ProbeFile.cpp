@@ -1,0 +1,404 @@
+#include "QuorProbeFile/ProbeFile.h"
+
+#include "QuorConversions/core/modPaths.h"
+#include "QuorIniFile/IniLines.h"
+#include "QuorIniFile/Utf8.h"
+#include "QuorProbeFile/ProbeNames.h"
+#include "QuorProbeFile/ProbeTypes.h"
+#include "QuorProbeFile/RecordImage.h"
+#include "QuorProbeFile/SectionPlan.h"
+#include "QuorProbeFile/detail/FileCheck.h"
+#include "QuorProbeFile/detail/RecordProblems.h"
+#include "QuorProbeFile/detail/RecordReading.h"
+#include "QuorProbeFile/detail/SectionIndex.h"
+
+#include <algorithm>
+#include <unordered_set>
+#include <utility>
+
+namespace QuorProbeFile {
+
+using namespace QuorConversions;
+using QuorIniFile::IniLines;
+using QuorIniFile::IniStore;
+using QuorIniFile::IniWarning;
+using QuorIniFile::IniWarningKind;
+
+namespace {
+
+constexpr std::string_view typeKey = "ConversionType";
+constexpr const wchar_t* wideTypeKey = L"ConversionType";
+
+/// The type as messages name it: its enumerator, or the code of one that is none.
+std::wstring TypeName(std::int32_t code) {
+    const wchar_t* const enumerator = ConversionEnumerator(code);
+    return enumerator ? enumerator : std::to_wstring(code);
+}
+
+bool IsNamedByItsValues(std::int32_t code) { return code == CONV_TCTYPEX || code == CONV_TCTYPEPOLY; }
+
+/// Whether the settings object has given up reading the record.
+bool IsRefused(const std::vector<ProbeProblem>& problems) {
+    return std::any_of(problems.begin(), problems.end(), [](const ProbeProblem& problem) {
+        return problem.kind == PROBLEM_RECORD_REFUSED || problem.kind == PROBLEM_VALUE_REFUSED;
+    });
+}
+
+/// Gives one conversion type and values of another one.
+void Assign(CQuorConversion& to, const CQuorConversion& from) {
+    to.SetConversionType(from.ConversionType());
+    if (const auto settings = from.Settings())
+        RecordImage::Apply(RecordImage::Of(*settings), *to.Settings());
+}
+
+/// Looks into a file, unless it is still to be created; false then.
+template <class Look>
+bool WhereThereIsAFile(const Look& look) {
+    try {
+        look();
+        return true;
+    } catch (const QuorError& error) {
+        if (error.Number() != QuorIniFile::ERR_FILE_NOT_FOUND)
+            throw;
+        return false;
+    }
+}
+
+} // namespace
+
+ProbeFile::ProbeFile(std::wstring_view path, Opening opening)
+    : m_path(path), m_store(std::make_shared<IniStore>()) {
+    Load(path, opening);
+}
+
+ProbeFile::ProbeFile(std::wstring_view path, QuorIniFile::IniFileSystem& files, Opening opening)
+    : m_path(path), m_store(std::make_shared<IniStore>(files)) {
+    Load(path, opening);
+}
+
+ProbeFile::~ProbeFile() = default;
+
+void ProbeFile::Load(std::wstring_view path, Opening opening) {
+    m_store->SetFileName(path);
+    if (opening == Opening::Existing)
+        static_cast<void>(m_store->Lines());
+    else
+        static_cast<void>(HasSection({}));
+}
+
+ProbeFileError ProbeFile::Error(EProbeFileError code, std::wstring_view section,
+                                std::wstring_view other) const {
+    return {code, m_path, std::wstring(section), std::wstring(other)};
+}
+
+// What is there
+
+void ProbeFile::Survey() {
+    const bool exists = WhereThereIsAFile([&] { static_cast<void>(m_store->Lines()); });
+    if (m_surveyed == m_store->TextNumber())
+        return;
+    m_probes.clear();
+    m_lostSections.clear();
+    if (!exists)
+        return;
+    const auto standAlone = StandAloneSection(m_path);
+    SectionIndex sections;
+    IniLines lines = m_store->Lines();
+    IniLines header = lines; // of the section that is walked through
+    bool isFirst = false;    // of its name; nobody reads another one
+    bool hasType = false;
+    std::optional<EQuorConversionType> type;
+    const auto finish = [&] {
+        if (hasType && header.Is(IniLines::Kind::UnclosedHeader))
+            m_lostSections.push_back(header.Number());
+        else if (isFirst && hasType)
+            m_probes.push_back({header.Name(), header.Number(), type, false});
+        else if (isFirst && standAlone && SameName(header.Name(), *standAlone))
+            m_probes.push_back({header.Name(), header.Number(), {}, true});
+    };
+    while (lines.Next()) {
+        switch (lines.What()) {
+        case IniLines::Kind::Header:
+        case IniLines::Kind::UnclosedHeader:
+            finish();
+            header = lines;
+            isFirst = lines.Is(IniLines::Kind::Header) && sections.Add(lines) != nullptr;
+            hasType = false;
+            type.reset();
+            break;
+        case IniLines::Kind::Key:
+            if (!hasType && header.Number() != 0 && lines.HasName(typeKey)) {
+                hasType = true;
+                if (const auto code = lines.Integer())
+                    type = EQuorConversionType{*code};
+            }
+            break;
+        case IniLines::Kind::Malformed:
+            break;
+        }
+    }
+    finish();
+    for (ProbeEntry& probe : m_probes) {
+        if (probe.standAlone)
+            probe.type = RecordReading(m_store, m_path, probe).Conversion().ConversionType();
+    }
+    m_surveyed = m_store->TextNumber();
+}
+
+const std::vector<ProbeEntry>& ProbeFile::Probes() {
+    Survey();
+    return m_probes;
+}
+
+const std::vector<std::size_t>& ProbeFile::LostSections() {
+    Survey();
+    return m_lostSections;
+}
+
+std::optional<ProbeEntry> ProbeFile::Find(std::wstring_view section) {
+    const auto found = std::find_if(Probes().begin(), Probes().end(), [&](const ProbeEntry& probe) {
+        return SameName(probe.section, section);
+    });
+    return found == Probes().end() ? std::nullopt : std::optional(*found);
+}
+
+std::wstring ProbeFile::ConversionName(const ProbeEntry& probe) {
+    if (!probe.type)
+        return {};
+    CQuorConversion conversion;
+    if (probe.standAlone || IsNamedByItsValues(*probe.type)) {
+        const RecordReading reading(m_store, m_path, probe);
+        return NameOf(reading.Conversion());
+    }
+    conversion.SetConversionType(*probe.type);
+    return NameOf(conversion);
+}
+
+std::vector<IniWarning> ProbeFile::DuplicateSections() {
+    std::vector<IniWarning> warnings;
+    WhereThereIsAFile([&] { warnings = m_store->Warnings(); });
+    warnings.erase(std::remove_if(warnings.begin(), warnings.end(),
+                                  [](const IniWarning& warning) {
+                                      return warning.kind != IniWarningKind::DuplicateSection;
+                                  }),
+                   warnings.end());
+    return warnings;
+}
+
+bool ProbeFile::HasSection(std::wstring_view section) {
+    bool found = false;
+    WhereThereIsAFile([&] { found = m_store->HasSection(section); });
+    return found;
+}
+
+/// The probe of a section, without its line: that would take a walk through the whole file.
+std::optional<ProbeEntry> ProbeFile::Locate(std::wstring_view section) {
+    if (!HasSection(section))
+        return std::nullopt;
+    m_store->SetSection(section);
+    ProbeEntry probe{std::wstring(section), 0, {}, false};
+    std::wstring text;
+    if (m_store->ReadString(wideTypeKey, text)) {
+        std::int16_t code = 0;
+        if (m_store->ReadInteger(wideTypeKey, code))
+            probe.type = EQuorConversionType{code};
+        return probe;
+    }
+    const auto standAlone = StandAloneSection(m_path);
+    if (!standAlone || !SameName(*standAlone, section))
+        return std::nullopt;
+    probe.standAlone = true;
+    return probe;
+}
+
+ProbeEntry ProbeFile::Require(std::wstring_view section) {
+    if (auto probe = Locate(section))
+        return *std::move(probe);
+    throw Error(HasSection(section) ? PROBE_NO_RECORD : PROBE_NO_SUCH_SECTION, section);
+}
+
+// Reading
+
+ReadOutcome ProbeFile::Read(std::wstring_view section, CQuorConversion& conversion) {
+    ProbeEntry probe = Require(section);
+    if (!probe.standAlone && !probe.type) {
+        std::wstring text;
+        m_store->SetSection(section);
+        static_cast<void>(m_store->ReadString(wideTypeKey, text));
+        throw Error(PROBE_TYPE_UNREADABLE, section, text);
+    }
+    const RecordReading reading(m_store, m_path, probe);
+    probe.type = reading.Conversion().ConversionType();
+    ReadOutcome outcome;
+    LinePlaces places(*m_store);
+    outcome.problems = ProblemsOf(reading, probe, places);
+    if (!outcome.problems.empty()) {
+        probe.line = places.Section(probe.section)->header.number;
+        for (ProbeProblem& problem : outcome.problems)
+            problem.line = problem.line != 0 ? problem.line : probe.line;
+    }
+    outcome.probe = std::move(probe);
+    for (const MessageCollector::Message& message : reading.Messages())
+        outcome.messages.push_back(message.text);
+    if (IsRefused(outcome.problems)) { // what it was read up to is no record either
+        CQuorConversion defaults;
+        defaults.SetConversionType(reading.Conversion().ConversionType());
+        Assign(conversion, defaults);
+    } else {
+        Assign(conversion, reading.Conversion());
+    }
+    conversion.SetChanged(false);
+    return outcome;
+}
+
+std::vector<ProbeProblem> ProbeFile::Check() {
+    std::vector<ProbeProblem> problems;
+    WhereThereIsAFile([&] { problems = CheckFile(m_store, m_path, Probes(), LostSections()); });
+    return problems;
+}
+
+// Writing
+
+void ProbeFile::Edit(const std::function<void()>& edit) { m_store->Edit(edit); }
+
+void ProbeFile::RequireName(std::wstring_view name, std::wstring_view except) {
+    // A name that no section can have is refused by the store as well, but it cannot tell which one it was.
+    if (!IniStore::CanNameSection(name))
+        throw Error(PROBE_BAD_NAME, name);
+    for (const std::wstring_view owner : PossibleOwners(name)) {
+        if (!SameName(owner, except) && Locate(owner))
+            throw Error(PROBE_NAME_OF_SETTINGS, name, owner);
+    }
+    const std::wstring settings = SettingsSection(name);
+    if (HasSection(settings) && !SameName(name, except))
+        throw Error(PROBE_SETTINGS_ARE_TAKEN, name, settings);
+}
+
+void ProbeFile::MoveSections(const std::function<void(ProbeMove&)>& move) {
+    std::vector<ProbeMove> moves;
+    moves.reserve(Probes().size());
+    for (const ProbeEntry& probe : Probes())
+        move(moves.emplace_back(ProbeMove{probe.section, probe.section}));
+    std::optional<SharedSection> shared;
+    const SectionPlan plan = PlanSections(m_store->Sections(), moves, shared);
+    if (shared)
+        throw Error(PROBE_SECTION_IS_SHARED, moves[shared->probe].section, moves[shared->other].section);
+    ApplyPlan(*m_store, plan);
+}
+
+/// The settings that stand in the file go where they are those of another type.
+void ProbeFile::RemoveOldSettings(const std::vector<ProbeToWrite>& probes) {
+    std::unordered_set<std::wstring> changing;
+    for (const ProbeToWrite& probe : probes) {
+        const auto present = Locate(probe.section);
+        if (present && present->type && *present->type != probe.conversion->ConversionType())
+            changing.insert(Folded(probe.section));
+    }
+    if (!changing.empty())
+        MoveSections([&](ProbeMove& move) { move.changesType = changing.contains(Folded(move.section)); });
+}
+
+void ProbeFile::WriteOne(const ProbeToWrite& probe) {
+    const EQuorConversionType type = probe.conversion->ConversionType();
+    const auto present = Locate(probe.section);
+    if (!present) {
+        if (HasSection(probe.section))
+            throw Error(PROBE_SECTION_OF_HOST, probe.section);
+        RequireName(probe.section, {});
+    }
+    const auto standAlone = StandAloneSection(m_path);
+    const bool isStandAlone =
+        present ? present->standAlone : standAlone && SameName(*standAlone, probe.section);
+    if (isStandAlone) {
+        // Types share sections, not extensions: a PT100 would fit into a "cvd" file, and then be no valid
+        // one.
+        const TypeInfo* const info = FindType(type);
+        if (!info || info->extension != Folded(GetExtensionPart(m_path)))
+            throw Error(PROBE_DOES_NOT_FIT_FILE, probe.section, TypeName(type));
+    }
+    WriteRecord(m_store, probe.section, *probe.conversion, isStandAlone);
+}
+
+void ProbeFile::WriteRecord(const std::shared_ptr<INIFile>& to, std::wstring_view section,
+                            const CQuorConversion& conversion, bool standAlone) const {
+    const std::wstring name(section);
+    try {
+        if (standAlone)
+            conversion.Settings()->WriteOrRaise(to, name);
+        else
+            conversion.WriteOrRaise(to, name);
+    } catch (const QuorError& error) {
+        throw ProbeFileError(m_path, name, error);
+    }
+}
+
+std::vector<RecordConflict> ProbeFile::WriteChanges(std::wstring_view section,
+                                                    const CQuorConversion& conversion, ProbeFile& before) {
+    std::vector<RecordConflict> conflicts;
+    Edit([&] {
+        const ProbeEntry probe = before.Require(section);
+        const auto merge =
+            std::make_shared<RecordMerge>(before.m_store, probe.section, m_store, probe.section);
+        WriteRecord(merge, section, conversion, probe.standAlone);
+        conflicts = merge->Conflicts();
+        if (conflicts.empty())
+            merge->WriteChanges();
+    });
+    return conflicts;
+}
+
+void ProbeFile::Write(std::wstring_view section, const CQuorConversion& conversion) {
+    Write({{std::wstring(section), &conversion}});
+}
+
+void ProbeFile::Write(const std::vector<ProbeToWrite>& probes) {
+    Edit([&] {
+        RemoveOldSettings(probes);
+        for (const ProbeToWrite& probe : probes)
+            WriteOne(probe);
+    });
+}
+
+void ProbeFile::Rename(std::wstring_view section, std::wstring_view name) {
+    Edit([&] {
+        static_cast<void>(Require(section));
+        if (!SameName(section, name) && HasSection(name))
+            throw Error(PROBE_NAME_IS_TAKEN, name);
+        RequireName(name, section);
+        MoveSections([&](ProbeMove& move) {
+            if (SameName(move.section, section))
+                move.name = name;
+        });
+    });
+}
+
+void ProbeFile::Remove(std::wstring_view section) {
+    Edit([&] {
+        static_cast<void>(Require(section));
+        MoveSections([&](ProbeMove& move) { move.isRemoved = SameName(move.section, section); });
+    });
+}
+
+void ProbeFile::Copy(std::wstring_view section, std::wstring_view toSection) {
+    Edit([&] { CopyFrom(*this, section, toSection); });
+}
+
+void ProbeFile::CopyFrom(ProbeFile& source, std::wstring_view section, std::wstring_view toSection) {
+    CQuorConversion conversion;
+    ReadOutcome outcome = source.Read(section, conversion);
+    if (!FindType(conversion.ConversionType()))
+        throw source.Error(PROBE_UNKNOWN_TYPE, section, TypeName(conversion.ConversionType()));
+    if (!outcome.IsWhole())
+        throw ProbeFileError(source.Path(), std::wstring(section), std::move(outcome.problems),
+                             std::move(outcome.messages));
+    Edit([&] {
+        auto present = Locate(toSection);
+        if (present && present->standAlone)
+            present->type = RecordReading(m_store, m_path, *present).Conversion().ConversionType();
+        if (present && present->type != conversion.ConversionType())
+            throw Error(PROBE_OF_ANOTHER_TYPE, toSection, present->type ? TypeName(*present->type) : L"?");
+        WriteOne({std::wstring(toSection), &conversion});
+    });
+}
+
+} // namespace QuorProbeFile

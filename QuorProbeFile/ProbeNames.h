@@ -1,0 +1,39 @@
+#pragma once
+
+#include "QuorProbeFile/Export.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// How the sections and keys of records are called.
+namespace QuorProbeFile {
+
+/// `text` with ASCII capitals made small.
+[[nodiscard]] QUORPROBEFILE_EXPORT std::wstring Folded(std::wstring text);
+/// Whether two names mean one section or key: they are the same in any case of ASCII letters.
+[[nodiscard]] QUORPROBEFILE_EXPORT bool SameName(std::wstring_view a, std::wstring_view b);
+
+/// What stands between the name of a section and that of a record nested in it.
+inline constexpr std::wstring_view nestedMark = L" - ";
+/// What follows the name of a probe in that of the section of its settings.
+inline constexpr std::wstring_view settingsMark = L" - Settings";
+
+/// The section in which a probe of a host keeps its settings: "P - Settings".
+[[nodiscard]] QUORPROBEFILE_EXPORT std::wstring SettingsSection(std::wstring_view probe);
+/// Whether the settings of `probe` stand in `section`, or below it: "P - Settings", "P - Settings - Low
+/// Range".
+[[nodiscard]] QUORPROBEFILE_EXPORT bool HoldsSettingsOf(std::wstring_view section, std::wstring_view probe);
+/// The parts of `section` that are the name of a probe if its settings stand there: of "A - Settings - Low
+/// Range" it is "A". The views point into `section`.
+[[nodiscard]] QUORPROBEFILE_EXPORT std::vector<std::wstring_view> PossibleOwners(std::wstring_view section);
+/// The path of a key in a RecordImage of the settings that stand in the section `settings`: behind "High
+/// Range/" or the like in a nested section; empty for a section that is not of these settings.
+[[nodiscard]] QUORPROBEFILE_EXPORT std::wstring PathOf(std::wstring_view settings, std::wstring_view section,
+                                                       std::wstring_view key);
+/// The section in which a stand-alone settings file with the extension of `path` keeps its record; nothing
+/// for any other file.
+[[nodiscard]] QUORPROBEFILE_EXPORT std::optional<std::wstring> StandAloneSection(std::wstring_view path);
+
+} // namespace QuorProbeFile

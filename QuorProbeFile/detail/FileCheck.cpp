@@ -1,0 +1,151 @@
+#include "QuorProbeFile/detail/FileCheck.h"
+
+#include "QuorIniFile/IniLines.h"
+#include "QuorIniFile/Utf8.h"
+#include "QuorProbeFile/ProbeNames.h"
+#include "QuorProbeFile/detail/RecordProblems.h"
+#include "QuorProbeFile/detail/RecordReading.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <utility>
+
+namespace QuorProbeFile {
+
+using QuorIniFile::IniLeftover;
+using QuorIniFile::IniLines;
+using QuorIniFile::IniStore;
+using QuorIniFile::IniWarning;
+using QuorIniFile::IniWarningKind;
+
+namespace {
+
+/// A path in whatever encoding.
+std::wstring PathText(const std::string& path) {
+    if (auto text = QuorIniFile::FromUtf8(path))
+        return *std::move(text);
+    std::wstring text(path.size(), L'\0');
+    std::transform(path.begin(), path.end(), text.begin(),
+                   [](char c) { return static_cast<wchar_t>(static_cast<unsigned char>(c)); });
+    return text;
+}
+
+class FileCheck {
+public:
+    explicit FileCheck(const std::shared_ptr<IniStore>& store) : m_store(store), m_places(*store) {}
+
+    void Report(ProbeProblem problem) { m_problems.push_back(std::move(problem)); }
+
+    /// Keys and sections that stand twice, the host's own too: who reads them sees the first.
+    void CheckRepetitions() {
+        for (const IniWarning& warning : m_store->Warnings()) {
+            const bool isKey = warning.kind == IniWarningKind::DuplicateKey;
+            if (!isKey && warning.kind != IniWarningKind::DuplicateSection)
+                continue;
+            const std::wstring what = isKey ? L"the key" : L"the section";
+            Report(
+                {isKey ? PROBLEM_DUPLICATE_KEY : PROBLEM_DUPLICATE_SECTION, warning.line, warning.section,
+                 warning.key,
+                 what + L" stands twice; the one in line " + std::to_wstring(warning.first) + L" is read"});
+        }
+    }
+
+    void CheckRecord(const std::wstring& path, const ProbeEntry& probe) {
+        const RecordReading reading(m_store, path, probe);
+        bool isLookedThrough =
+            reading.HasType(); // the library has asked for each key that the record can have
+        for (ProbeProblem& problem : ProblemsOf(reading, probe, m_places)) {
+            if (problem.kind == PROBLEM_SECTION_MISSING) {
+                if (!m_missingSections.insert(Folded(problem.section)).second)
+                    continue;
+                problem.key.clear();
+            }
+            isLookedThrough = isLookedThrough && !IsGivenUpAfter(problem);
+            Report(std::move(problem));
+        }
+        CheckSections(reading, probe, isLookedThrough);
+    }
+
+    /// What saves have left beside the file.
+    void CheckLeftovers(std::vector<ProbeProblem>& problems) const {
+        for (const IniLeftover& leftover : m_store->Leftovers())
+            problems.push_back({leftover.isKept ? PROBLEM_KEPT_FILE : PROBLEM_INTERRUPTED_SAVE,
+                                0,
+                                {},
+                                {},
+                                (leftover.isKept ? L"what another program had put in its place is kept as "
+                                                 : L"an interrupted save has left ") +
+                                    PathText(leftover.path)});
+    }
+
+    [[nodiscard]] std::vector<ProbeProblem> Take() {
+        std::stable_sort(m_problems.begin(), m_problems.end(),
+                         [](const ProbeProblem& a, const ProbeProblem& b) { return a.line < b.line; });
+        CheckLeftovers(m_problems);
+        return std::move(m_problems);
+    }
+
+private:
+    /// Whether the library may have asked for no more keys of the record.
+    [[nodiscard]] static bool IsGivenUpAfter(const ProbeProblem& problem) {
+        return problem.kind == PROBLEM_UNKNOWN_TYPE || problem.kind == PROBLEM_RECORD_REFUSED ||
+               problem.kind == PROBLEM_VALUE_REFUSED;
+    }
+
+    /// Keys that no record of this type has, and lines that are no keys.
+    void CheckSections(const RecordReading& reading, const ProbeEntry& probe, bool isLookedThrough) {
+        std::map<std::wstring, std::set<std::wstring>> known;
+        known[Folded(probe.section)];
+        if (reading.Settings())
+            known[Folded(probe.standAlone ? probe.section : SettingsSection(probe.section))];
+        for (const ReadLog::Read& read : reading.Reads())
+            known[Folded(read.section)].insert(Folded(read.key));
+        for (const auto& [name, keys] : known)
+            if (const auto* const section = m_places.Section(name))
+                CheckSection(*section, keys, isLookedThrough);
+    }
+
+    void CheckSection(const SectionIndex::Section& section, const std::set<std::wstring>& known,
+                      bool isLookedThrough) {
+        const std::wstring name = m_places.NameOf(section);
+        std::set<std::wstring> seen;
+        m_places.ForEachLine(section, [&](const IniLines& line) {
+            if (line.Is(IniLines::Kind::Malformed)) {
+                Report({PROBLEM_MALFORMED_LINE, line.Number(), name, {}, L"the line is no key=value"});
+                return;
+            }
+            const std::wstring key = Folded(line.Name());
+            if (isLookedThrough && key != L"version" && !known.contains(key) && seen.insert(key).second)
+                Report({PROBLEM_UNKNOWN_KEY, line.Number(), name, line.Name(),
+                        L"unknown key: a record of this type and size does not hold it"});
+        });
+    }
+
+    std::shared_ptr<IniStore> m_store;
+    LinePlaces m_places;
+    std::vector<ProbeProblem> m_problems;
+    std::set<std::wstring> m_missingSections;
+};
+
+} // namespace
+
+std::vector<ProbeProblem> CheckFile(const std::shared_ptr<IniStore>& store, const std::wstring& path,
+                                    const std::vector<ProbeEntry>& probes,
+                                    const std::vector<std::size_t>& lostSections) {
+    FileCheck check(store);
+    if (const auto section = StandAloneSection(path); section && probes.empty())
+        check.Report({PROBLEM_SECTION_MISSING, 1, *section, {}, L"the section is missing"});
+    for (const std::size_t line : lostSections)
+        check.Report({PROBLEM_UNCLOSED_HEADER,
+                      line,
+                      {},
+                      {},
+                      L"the header has no \"]\"; nobody can read the record below it"});
+    check.CheckRepetitions();
+    for (const ProbeEntry& probe : probes)
+        check.CheckRecord(path, probe);
+    return check.Take();
+}
+
+} // namespace QuorProbeFile

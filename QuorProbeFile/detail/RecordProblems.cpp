@@ -1,0 +1,137 @@
+#include "QuorProbeFile/detail/RecordProblems.h"
+
+#include "QuorProbeFile/ProbeNames.h"
+#include "QuorProbeFile/ProbeTypes.h"
+#include "QuorProbeFile/RecordImage.h"
+
+#include <algorithm>
+#include <iterator>
+#include <set>
+#include <utility>
+
+namespace QuorProbeFile {
+
+namespace {
+
+/// For a value that would be fine without what looks like a comment after it, but is none.
+std::wstring WhatIsNoComment(const Value& kind, const std::wstring& text) {
+    const std::size_t sign = text.find_first_of(L"#;");
+    if (sign == std::wstring::npos)
+        return {};
+    const std::size_t end = text.find_last_not_of(L" \t", sign == 0 ? 0 : sign - 1);
+    if (end == std::wstring::npos || !ParseAs(kind, text.substr(0, end + 1)))
+        return {};
+    return text[sign] == L'#' ? L"; a comment begins with \";\""
+                              : L"; a comment begins with \";\" after a blank";
+}
+
+/// A problem with a key that was read.
+ProbeProblem ProblemAt(const ReadLog::Read& read, const ProbeEntry& entry, LinePlaces& places,
+                       EProbeProblem kind, std::wstring text) {
+    const LinePlaces::Key* const key = places.Find(read.section, read.key);
+    return {kind, key ? key->line : entry.line, read.section, read.key, std::move(text)};
+}
+
+} // namespace
+
+const SectionIndex::Section* LinePlaces::Section(std::wstring_view section) {
+    if (m_sections.IsEmpty()) {
+        Lines lines = m_store.Lines();
+        SectionIndex::Section* present = nullptr; // that which is read
+        while (lines.Next()) {
+            if (lines.Is(Lines::Kind::Header))
+                present = m_sections.Add(lines);
+            else if (lines.Is(Lines::Kind::UnclosedHeader))
+                present = nullptr;
+            else if (present && lines.Is(Lines::Kind::Malformed))
+                ++present->malformed;
+            else if (present && !lines.HasName("Version"))
+                ++present->keys;
+        }
+    }
+    return m_sections.Find(section);
+}
+
+std::wstring LinePlaces::NameOf(const SectionIndex::Section& section) const {
+    Lines lines = m_store.Lines(section.header);
+    static_cast<void>(lines.Next());
+    return lines.Name();
+}
+
+const LinePlaces::Key* LinePlaces::Find(const std::wstring& section, const std::wstring& key) {
+    if (m_section != section) {
+        m_section = section;
+        m_keys = {};
+        if (const auto* const found = Section(section))
+            ForEachLine(*found, [this](const Lines& line) {
+                if (line.Is(Lines::Kind::Key))
+                    m_keys.try_emplace(Folded(line.Name()), Key{line.Number(), line.Value()});
+            });
+    }
+    const auto found = m_keys.find(Folded(key));
+    return found == m_keys.end() ? nullptr : &found->second;
+}
+
+ProbeProblem ProblemOf(const ReadLog::Read& read, const ProbeEntry& entry, LinePlaces& places) {
+    const auto* const section = places.Section(read.section);
+    if (!section)
+        return {PROBLEM_SECTION_MISSING, entry.line, read.section, read.key, L"the section is missing"};
+    const LinePlaces::Key* const key = places.Find(read.section, read.key);
+    if (!key)
+        return {PROBLEM_KEY_MISSING, section->header.number, read.section, read.key, L"the key is missing"};
+    return {PROBLEM_VALUE_UNREADABLE, key->line, read.section, read.key,
+            WhatIsWrong(read.value, key->value) + WhatIsNoComment(read.value, key->value)};
+}
+
+std::vector<ProbeProblem> ProblemsOf(const RecordReading& reading, const ProbeEntry& entry,
+                                     LinePlaces& places) {
+    const std::vector<ReadLog::Read>& reads = reading.Reads();
+    if (!entry.standAlone && !reads.empty()) {
+        const ReadLog::Read& type = reads.front();
+        if (!reading.HasType()) // nothing else can be said of the record
+            return {ProblemOf(type, entry, places)};
+        if (!FindType(reading.Conversion().ConversionType()))
+            return {ProblemAt(type, entry, places, PROBLEM_UNKNOWN_TYPE,
+                              ToText(type.value) + L" is no conversion type")};
+    }
+
+    // What the library itself refuses. The keys that decide how a record is read are whole numbers: the last
+    // of them is to blame. The version message blames a value, too, where no key is missing (a count below
+    // zero).
+    std::vector<ProbeProblem> problems;
+    std::set<std::pair<std::wstring, std::wstring>> blamed;
+    for (const MessageCollector::Message& message : reading.Messages()) {
+        if (message.isVersion && reading.LacksKeys())
+            continue; // each missing key is a problem of its own
+        const auto read = std::find_if(
+            std::make_reverse_iterator(reads.begin() + static_cast<std::ptrdiff_t>(message.readsBefore)),
+            reads.rend(),
+            [](const ReadLog::Read& r) { return std::holds_alternative<std::int16_t>(r.value); });
+        if (read == reads.rend())
+            problems.push_back({PROBLEM_RECORD_REFUSED, entry.line, entry.section, L"", message.text});
+        else if (blamed.emplace(read->section, read->key).second)
+            problems.push_back(message.isVersion
+                                   ? ProblemAt(*read, entry, places, PROBLEM_VALUE_REFUSED,
+                                               L"the value " + ToText(read->value) + L" is not accepted")
+                                   : ProblemAt(*read, entry, places, PROBLEM_RECORD_REFUSED, message.text));
+    }
+
+    // Keys that are missing, cannot be read, or hold what the object does not accept.
+    const auto settings = reading.Settings();
+    const auto image = settings ? RecordImage::Of(*settings) : nullptr;
+    const std::wstring root = entry.standAlone ? entry.section : SettingsSection(entry.section);
+    for (const ReadLog::Read& read : reads) {
+        if (!read.found) {
+            problems.push_back(ProblemOf(read, entry, places));
+            continue;
+        }
+        const auto* const stored = image ? image->Find(PathOf(root, read.section, read.key)) : nullptr;
+        if (stored && !SameValue(stored->value, read.value) && !blamed.contains({read.section, read.key}))
+            problems.push_back(ProblemAt(read, entry, places, PROBLEM_VALUE_REPLACED,
+                                         L"the value " + ToText(read.value) + L" is not accepted; " +
+                                             ToText(stored->value) + L" would be used"));
+    }
+    return problems;
+}
+
+} // namespace QuorProbeFile

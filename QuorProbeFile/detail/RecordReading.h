@@ -1,0 +1,66 @@
+#pragma once
+
+#include "QuorConversions/core/CQuorConversion.h"
+#include "QuorConversions/platform/HeadlessPlatform.h"
+#include "QuorIniFile/IniStore.h"
+#include "QuorProbeFile/ProbeEntry.h"
+#include "QuorProbeFile/ProbeProblem.h"
+#include "QuorProbeFile/ReadLog.h"
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace QuorProbeFile {
+
+/// What the library tells the user while a record is read, kept instead of shown.
+class MessageCollector final : public QuorConversions::HeadlessPlatform {
+public:
+    struct Message {
+        std::wstring text;       ///< on one line
+        std::size_t readsBefore; ///< how many reads there had been
+        bool isVersion;          ///< it tells of missing keys
+    };
+
+    explicit MessageCollector(std::shared_ptr<ReadLog> reads) : m_reads(std::move(reads)) {}
+    [[nodiscard]] const std::vector<Message>& Messages() const { return m_messages; }
+    void ShowMessage(const QuorConversions::MessageRequest& request) override;
+
+private:
+    std::shared_ptr<ReadLog> m_reads;
+    std::vector<Message> m_messages;
+};
+
+/// A record, read by the library into a conversion that nobody sees: its values, what was looked for, and
+/// what the library had to say.
+class RecordReading {
+public:
+    /// Reads the record `entry` of the file `path`, which `store` is bound to.
+    RecordReading(const std::shared_ptr<QuorIniFile::IniStore>& store, std::wstring_view path,
+                  const ProbeEntry& entry);
+
+    [[nodiscard]] const QuorConversions::CQuorConversion& Conversion() const { return *m_conversion; }
+    [[nodiscard]] std::shared_ptr<QuorConversions::SettingsObject> Settings() const {
+        return m_conversion->Settings();
+    }
+    [[nodiscard]] const std::vector<ReadLog::Read>& Reads() const { return m_reads->Reads(); }
+    [[nodiscard]] const std::vector<MessageCollector::Message>& Messages() const {
+        return m_messages->Messages();
+    }
+    /// Whether the record says its type. The library takes one that does not for an ITS-90 calibration.
+    [[nodiscard]] bool HasType() const;
+    /// Whether a key that was looked for is missing or cannot be read.
+    [[nodiscard]] bool LacksKeys() const;
+
+private:
+    void StartAnew(const std::shared_ptr<QuorIniFile::IniStore>& store);
+
+    bool m_standAlone;
+    std::shared_ptr<ReadLog> m_reads;
+    std::shared_ptr<MessageCollector> m_messages;
+    std::unique_ptr<QuorConversions::CQuorConversion> m_conversion;
+};
+
+} // namespace QuorProbeFile

@@ -1,0 +1,422 @@
+#include "QuorProbeFile/ProbeFile.h"
+
+#include "QuorConversions/rtd/CQuorCVD.h"
+#include "QuorConversions/rtd/CQuorITS90.h"
+#include "QuorConversions/rtd/CQuorWT90.h"
+#include "QuorIniFile/QuorError.h"
+#include "QuorProbeFile/ProbeTypes.h"
+#include "tests/support/TempFolder.h"
+#include "toolkits/scripted/ScriptedPlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+using namespace QuorConversions;
+using namespace QuorProbeFile;
+
+namespace {
+
+constexpr const char* hostFile = "; the laboratory's file\n"
+                                 "[Instrument]\n"
+                                 "Channels=8\n"
+                                 "\n"
+                                 "[P]\n"
+                                 "Version=1.0\n"
+                                 "ConversionType=2\n"
+                                 "\n"
+                                 "[P - Settings]\n"
+                                 "Version=1.0\n"
+                                 "NumCoefficients=4\n"
+                                 "UsePolynomial=False\n"
+                                 "Coefficients0=100.0 ; ohms\n"
+                                 "Coefficients1=3.9083E-3\n"
+                                 "Coefficients2=1.5\n"
+                                 "Coefficients3=0\n"
+                                 "\n"
+                                 "[Q]\n"
+                                 "Version=1.0\n"
+                                 "ConversionType=14\n"
+                                 "[Q - Settings]\n"
+                                 "Version=1.0\n"
+                                 "RTPW=25.5\n";
+
+std::string Replaced(std::string text, const std::string& from, const std::string& to) {
+    const auto at = text.find(from);
+    EXPECT_NE(at, std::string::npos) << from;
+    return at == std::string::npos ? text : text.replace(at, from.size(), to);
+}
+
+class ProbeFileTest : public testing::Test {
+protected:
+    void Host(const std::string& text) const { folder.Write("host.ini", text); }
+    [[nodiscard]] std::string File() const { return folder.Read("host.ini"); }
+    [[nodiscard]] std::wstring Path() const { return folder.Name("host.ini"); }
+
+    /// The error that `call` raises: "code section other".
+    template <class Call>
+    static std::wstring ErrorOf(const Call& call) {
+        try {
+            call();
+            return L"none";
+        } catch (const ProbeFileError& error) {
+            return std::to_wstring(error.Code()) + L" [" + error.Section() + L"] " + error.Other();
+        }
+    }
+    /// "line [section] key kind text" of each.
+    static std::vector<std::wstring> Told(const std::vector<ProbeProblem>& problems) {
+        std::vector<std::wstring> told;
+        for (const ProbeProblem& p : problems)
+            told.push_back(std::to_wstring(p.line) + L" [" + p.section + L"] " + p.key + L" " +
+                           std::to_wstring(p.kind) + L" " + p.text);
+        return told;
+    }
+    using Texts = std::vector<std::wstring>;
+
+    TempFolder folder;
+};
+
+} // namespace
+
+TEST_F(ProbeFileTest, TellsTheProbesInOrderWithSectionLineAndType) {
+    Host(std::string(hostFile) + "[p]\nConversionType=4\n[R]\nConversionType=two\n[S]\nConversionType=77\n");
+    ProbeFile file(Path());
+    const std::vector<ProbeEntry> expected{
+        {L"P", 5, CONV_CVD, false},
+        {L"Q", 18, CONV_WT90, false},
+        {L"R", 26, {}, false},
+        {L"S", 28, EQuorConversionType{77}, false},
+    };
+    EXPECT_EQ(file.Probes(), expected) << "nobody reads a second section [p]";
+    EXPECT_EQ(file.Find(L"q"), expected[1]);
+    EXPECT_EQ(file.Find(L"Instrument"), std::nullopt);
+    EXPECT_EQ(file.ConversionName(expected[0]), L"Callendar-Van Dusen");
+    EXPECT_EQ(file.ConversionName(expected[2]), L"");
+    EXPECT_EQ(file.ConversionName(expected[3]), L"<unknown>");
+}
+
+TEST_F(ProbeFileTest, TellsTheProbeOfAStandAloneFileWithTheTypeThatReadsIt) {
+    folder.Write("a.thr", "; T(R)\n[Thermistor]\nConvType=1\nNumCoefficients=1\nCoefficients0=2\n");
+    ProbeFile file(folder.Name("a.thr"));
+    EXPECT_EQ(file.Probes(), (std::vector<ProbeEntry>{{L"Thermistor", 2, CONV_THERMISTORR_T, true}}));
+    EXPECT_EQ(file.ConversionName(file.Probes().front()), L"Thermistor R(T)");
+}
+
+TEST_F(ProbeFileTest, AConversionThatIsNamedByItsValuesIsNamedByThem) {
+    ProbeFile file(Path(), ProbeFile::Opening::OrNew);
+    CQuorConversion conversion;
+    conversion.SetConversionType(CONV_TCTYPEX);
+    file.Write(L"T", conversion);
+    EXPECT_EQ(file.ConversionName(file.Probes().front()), L"TC Type K");
+}
+
+TEST_F(ProbeFileTest, TellsLostSectionsAndThoseThatStandTwice) {
+    Host("[A\nConversionType=2\n[Host\nx=1\n[B]\nConversionType=10\n[b]\ny=1\n");
+    ProbeFile file(Path());
+    EXPECT_EQ(file.LostSections(), std::vector<std::size_t>{1});
+    const auto duplicates = file.DuplicateSections();
+    ASSERT_EQ(duplicates.size(), 1U);
+    EXPECT_EQ(duplicates[0].section, L"B");
+    EXPECT_EQ(duplicates[0].line, 7U);
+    EXPECT_EQ(duplicates[0].first, 5U);
+}
+
+TEST_F(ProbeFileTest, ReadsAProbeIntoAConversionThatCountsAsUnchanged) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    const ReadOutcome outcome = file.Read(L"p", conversion);
+    EXPECT_TRUE(outcome.IsWhole());
+    EXPECT_EQ(outcome.probe.type, CONV_CVD);
+    EXPECT_EQ(conversion.ConversionType(), CONV_CVD);
+    EXPECT_EQ(SettingsAs<CQuorCVD>(conversion)->Coefficients(CVD_ALPHA), 3.9083E-3);
+    EXPECT_FALSE(conversion.Changed());
+}
+
+TEST_F(ProbeFileTest, RefusesToReadWhatIsNoRecordAndLeavesTheConversionAsItWas) {
+    Host(std::string(hostFile) + "[R]\nConversionType=two\n");
+    ProbeFile file(Path());
+    const auto platform = std::make_shared<Scripted::ScriptedPlatform>();
+    CQuorConversion conversion(platform);
+    conversion.SetConversionType(CONV_CVD);
+    SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_R0, 99.5);
+    EXPECT_EQ(ErrorOf([&] { (void)file.Read(L"Z", conversion); }), L"1 [Z] ");
+    EXPECT_EQ(ErrorOf([&] { (void)file.Read(L"Instrument", conversion); }), L"2 [Instrument] ");
+    EXPECT_EQ(ErrorOf([&] { (void)file.Read(L"R", conversion); }), L"3 [R] two");
+    EXPECT_EQ(SettingsAs<CQuorCVD>(conversion)->Coefficients(CVD_R0), 99.5);
+    EXPECT_TRUE(platform->Messages().empty());
+}
+
+TEST_F(ProbeFileTest, WhatIsMissingHasTheDefaultOfTheTypeAndIsToldKeyByKey) {
+    Host(Replaced(Replaced(hostFile, "Coefficients2=1.5\n", ""), "3.9083E-3", "3,9083E-3"));
+    ProbeFile file(Path());
+    const auto platform = std::make_shared<Scripted::ScriptedPlatform>();
+    CQuorConversion conversion(platform);
+    conversion.SetConversionType(CONV_CVD);
+    SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_DELTA, 7.0);
+    const ReadOutcome outcome = file.Read(L"P", conversion);
+    EXPECT_FALSE(outcome.IsWhole());
+    EXPECT_EQ(
+        Told(outcome.problems),
+        (Texts{L"14 [P - Settings] Coefficients1 3 \"3,9083E-3\" is not a number; the decimal separator is a "
+               L"point",
+               L"9 [P - Settings] Coefficients2 2 the key is missing"}));
+    EXPECT_EQ(SettingsAs<CQuorCVD>(conversion)->Coefficients(CVD_R0), 100.0);
+    EXPECT_EQ(SettingsAs<CQuorCVD>(conversion)->Coefficients(CVD_DELTA), 0.0)
+        << "a coefficient of the probe that was there before would be a wrong temperature";
+    EXPECT_TRUE(platform->Messages().empty()) << "the host is told, not the user";
+}
+
+TEST_F(ProbeFileTest, OfARefusedRecordTheConversionHasTheTypeAlone) {
+    Host(Replaced(hostFile, "NumCoefficients=4", "NumCoefficients=-4"));
+    ProbeFile file(Path());
+    const auto platform = std::make_shared<Scripted::ScriptedPlatform>();
+    CQuorConversion conversion(platform);
+    const ReadOutcome outcome = file.Read(L"P", conversion);
+    EXPECT_EQ(Told(outcome.problems),
+              Texts{L"11 [P - Settings] NumCoefficients 6 the value -4 is not accepted"});
+    EXPECT_EQ(conversion.ConversionType(), CONV_CVD);
+    EXPECT_EQ(SettingsAs<CQuorCVD>(conversion)->Coefficients(CVD_R0), 0.0);
+    EXPECT_TRUE(platform->Messages().empty());
+}
+
+TEST_F(ProbeFileTest, AnUnknownTypeIsTold) {
+    Host("[S]\nConversionType=77\n");
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    EXPECT_EQ(Told(file.Read(L"S", conversion).problems),
+              Texts{L"2 [S] ConversionType 4 77 is no conversion type"});
+    EXPECT_EQ(conversion.ConversionType(), 77);
+}
+
+TEST_F(ProbeFileTest, WritesOnlyTheLinesWithOtherValues) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    ASSERT_TRUE(file.Read(L"P", conversion).IsWhole());
+    SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_R0, 100.0123);
+    file.Write(L"P", conversion);
+    EXPECT_EQ(File(), Replaced(hostFile, "100.0 ;", "100.0123 ;"));
+    EXPECT_TRUE(conversion.Changed()) << "only the host clears it";
+}
+
+TEST_F(ProbeFileTest, AProbeOfAnotherTypeTakesThePlaceOfTheOldSettings) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    conversion.SetConversionType(CONV_WT90);
+    SettingsAs<CQuorWT90>(conversion)->SetRTPW(24.75);
+    file.Write(L"P", conversion);
+    EXPECT_EQ(File(),
+              "; the laboratory's file\n[Instrument]\nChannels=8\n\n[P]\nVersion=1.0\nConversionType=14\n\n"
+              "[P - Settings]\nVersion=1.0\nRTPW=24.75\n\n"
+              "[Q]\nVersion=1.0\nConversionType=14\n[Q - Settings]\nVersion=1.0\nRTPW=25.5\n");
+    EXPECT_EQ(file.Find(L"P")->type, CONV_WT90);
+}
+
+TEST_F(ProbeFileTest, CreatesAFileWithTheFirstProbe) {
+    EXPECT_THROW(ProbeFile file(Path()), QuorError);
+    ProbeFile file(Path(), ProbeFile::Opening::OrNew);
+    EXPECT_TRUE(file.Probes().empty());
+    EXPECT_EQ(file.Check(), std::vector<ProbeProblem>{});
+    EXPECT_FALSE(std::filesystem::exists(folder.Path("host.ini")));
+    CQuorConversion conversion;
+    conversion.SetConversionType(CONV_OHMS);
+    file.Write(L"R", conversion);
+    EXPECT_EQ(File(), "[R]\nVersion=1.0\nConversionType=10\n");
+    EXPECT_EQ(file.Probes(), (std::vector<ProbeEntry>{{L"R", 1, CONV_OHMS, false}}));
+}
+
+TEST_F(ProbeFileTest, WritesManyTogetherOrNone) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    CQuorConversion good;
+    good.SetConversionType(CONV_OHMS);
+    CQuorConversion bad;
+    bad.SetConversionType(EQuorConversionType{40000}); // no file holds such a code
+    try {
+        file.Write({{L"A", &good}, {L"B", &bad}});
+        FAIL() << "nothing was raised";
+    } catch (const ProbeFileError& error) {
+        EXPECT_EQ(error.Code(), PROBE_CANNOT_BE_WRITTEN);
+        EXPECT_EQ(error.Section(), L"B");
+        ASSERT_NE(error.Cause(), nullptr);
+        EXPECT_EQ(error.Cause()->Number(), QuorIniFile::ERR_OVERFLOW);
+        EXPECT_EQ(error.Number(), QuorIniFile::ERR_OVERFLOW);
+        EXPECT_EQ(error.Description(), Path() + L": [B]: the record cannot be written: Overflow");
+    }
+    EXPECT_EQ(File(), hostFile);
+    file.Write({{L"A", &good}, {L"B", &good}});
+    EXPECT_EQ(File(), std::string(hostFile) +
+                          "\n[A]\nVersion=1.0\nConversionType=10\n\n[B]\nVersion=1.0\nConversionType=10\n");
+}
+
+TEST_F(ProbeFileTest, WritesIntoNoSectionThatIsAnotherOnes) {
+    Host(std::string(hostFile) + "[New - Settings]\nx=1\n");
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    conversion.SetConversionType(CONV_OHMS);
+    EXPECT_EQ(ErrorOf([&] { file.Write(L"Instrument", conversion); }), L"14 [Instrument] ");
+    EXPECT_EQ(ErrorOf([&] { file.Write(L"a\nb", conversion); }), L"6 [a\nb] ");
+    EXPECT_EQ(ErrorOf([&] { file.Write(L"p - settings - X", conversion); }), L"8 [p - settings - X] p");
+    EXPECT_EQ(ErrorOf([&] { file.Write(L"New", conversion); }), L"9 [New] New - Settings");
+    EXPECT_EQ(File(), std::string(hostFile) + "[New - Settings]\nx=1\n");
+}
+
+TEST_F(ProbeFileTest, AStandAloneFileTakesItsOwnTypeAlone) {
+    ProbeFile file(folder.Name("a.w90"), ProbeFile::Opening::OrNew);
+    CQuorConversion conversion;
+    conversion.SetConversionType(CONV_CVD);
+    EXPECT_EQ(ErrorOf([&] { file.Write(L"W(T90)", conversion); }), L"12 [W(T90)] CONV_CVD");
+    conversion.SetConversionType(CONV_WT90);
+    file.Write(L"W(T90)", conversion);
+    EXPECT_EQ(folder.Read("a.w90"), "[W(T90)]\nVersion=1.0\nRTPW=0\n");
+}
+
+TEST_F(ProbeFileTest, RenamesAProbeWithItsSettings) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    file.Rename(L"p", L"PRT-1188");
+    EXPECT_EQ(File(), Replaced(Replaced(hostFile, "[P]", "[PRT-1188]"), "[P - S", "[PRT-1188 - S"));
+    file.Rename(L"PRT-1188", L"prt-1188");
+    EXPECT_EQ(file.Probes().front().section, L"prt-1188");
+}
+
+TEST_F(ProbeFileTest, ANameThatIsTakenIsRefused) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    EXPECT_EQ(ErrorOf([&] { file.Rename(L"P", L"q"); }), L"7 [q] ");
+    EXPECT_EQ(ErrorOf([&] { file.Rename(L"P", L"Instrument"); }), L"7 [Instrument] ");
+    EXPECT_EQ(ErrorOf([&] { file.Rename(L"P", L"Q - Settings - P"); }), L"8 [Q - Settings - P] Q");
+    EXPECT_EQ(ErrorOf([&] { file.Rename(L"P", L"x]\n"); }), L"6 [x]\n] ");
+    EXPECT_EQ(ErrorOf([&] { file.Rename(L"Z", L"A"); }), L"1 [Z] ");
+    EXPECT_EQ(File(), hostFile);
+}
+
+TEST_F(ProbeFileTest, RemovesAProbeWithItsSettings) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    file.Remove(L"P");
+    EXPECT_EQ(File(), "; the laboratory's file\n[Instrument]\nChannels=8\n\n"
+                      "[Q]\nVersion=1.0\nConversionType=14\n[Q - Settings]\nVersion=1.0\nRTPW=25.5\n");
+    EXPECT_EQ(file.Probes().size(), 1U);
+    EXPECT_EQ(ErrorOf([&] { file.Remove(L"P"); }), L"1 [P] ");
+    EXPECT_EQ(ErrorOf([&] { file.Remove(L"Instrument"); }), L"2 [Instrument] ");
+}
+
+TEST_F(ProbeFileTest, AProbeThatSharesItsSectionWithAnotherOneStays) {
+    const std::string text = "[A]\nConversionType=10\n[A - Settings]\nConversionType=10\n";
+    Host(text);
+    ProbeFile file(Path());
+    EXPECT_EQ(ErrorOf([&] { file.Remove(L"A"); }), L"10 [A] A - Settings");
+    EXPECT_EQ(File(), text);
+}
+
+TEST_F(ProbeFileTest, CopiesAProbeWithinTheFileAndFromAnother) {
+    Host(hostFile);
+    folder.Write("a.w90", "[W(T90)]\nRTPW=24.5\n");
+    ProbeFile file(Path());
+    file.Copy(L"Q", L"Q2");
+    const std::string copied =
+        std::string(hostFile) +
+        "\n[Q2]\nVersion=1.0\nConversionType=14\n\n[Q2 - Settings]\nVersion=1.0\nRTPW=25.5\n";
+    EXPECT_EQ(File(), copied);
+    ProbeFile other(folder.Name("a.w90"));
+    file.CopyFrom(other, L"W(T90)", L"q2");
+    EXPECT_EQ(File(), copied.substr(0, copied.size() - 5) + "24.5\n");
+    EXPECT_EQ(ErrorOf([&] { file.CopyFrom(other, L"W(T90)", L"P"); }), L"11 [P] CONV_CVD");
+}
+
+TEST_F(ProbeFileTest, CopiesNoProbeThatCannotBeReadWholly) {
+    const std::string text = Replaced(hostFile, "RTPW=25.5", "RTPW=25,5");
+    Host(text);
+    ProbeFile file(Path());
+    try {
+        file.Copy(L"Q", L"Q2");
+        FAIL() << "nothing was raised";
+    } catch (const ProbeFileError& error) {
+        EXPECT_EQ(error.Code(), PROBE_INCOMPLETE);
+        EXPECT_EQ(
+            Told(error.Problems()),
+            Texts{L"23 [Q - Settings] RTPW 3 \"25,5\" is not a number; the decimal separator is a point"});
+    }
+    EXPECT_EQ(File(), text);
+}
+
+TEST_F(ProbeFileTest, WritesChangesIntoWhatOthersHaveWrittenAndTellsConflicts) {
+    Host(hostFile);
+    ProbeFile before(Path());
+    CQuorConversion conversion;
+    ASSERT_TRUE(before.Read(L"P", conversion).IsWhole());
+    SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_R0, 100.5);
+    const std::string theirs = Replaced(hostFile, "Coefficients2=1.5", "Coefficients2=1.6");
+    Host(theirs);
+    ProbeFile now(Path());
+    EXPECT_TRUE(now.WriteChanges(L"P", conversion, before).empty());
+    EXPECT_EQ(File(), Replaced(theirs, "100.0 ;", "100.5 ;"));
+
+    SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_DELTA, 1.7);
+    const auto conflicts = now.WriteChanges(L"P", conversion, before);
+    ASSERT_EQ(conflicts.size(), 1U);
+    EXPECT_EQ(conflicts[0].key, L"Coefficients2");
+    EXPECT_EQ(conflicts[0].theirs, Value(1.6));
+    EXPECT_EQ(conflicts[0].ours, Value(1.7));
+    EXPECT_EQ(File(), Replaced(theirs, "100.0 ;", "100.5 ;"));
+}
+
+TEST_F(ProbeFileTest, WritesUponWhatAnotherProgramHasSavedMeanwhile) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    ASSERT_EQ(file.Probes().size(), 2U);
+    EXPECT_FALSE(file.Changed());
+    Host(std::string("; theirs\n") + hostFile);
+    EXPECT_TRUE(file.Changed());
+    EXPECT_EQ(file.Probes().front().line, 5U) << "all reads see the text that was loaded";
+    file.Remove(L"Q");
+    EXPECT_FALSE(file.Changed());
+    EXPECT_EQ(File().substr(0, 9), "; theirs\n");
+    EXPECT_EQ(file.Probes().front().line, 6U);
+    Host(hostFile);
+    file.Reload();
+    EXPECT_EQ(file.Probes().size(), 2U);
+}
+
+TEST_F(ProbeFileTest, SeveralStepsOfAnEditAreSavedTogetherOrNotAtAll) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    EXPECT_EQ(ErrorOf([&] {
+                  file.Edit([&] {
+                      file.Rename(L"P", L"A");
+                      EXPECT_EQ(file.Probes().front().section, L"A");
+                      file.Remove(L"Z");
+                  });
+              }),
+              L"1 [Z] ");
+    EXPECT_EQ(File(), hostFile);
+    EXPECT_EQ(file.Probes().front().section, L"P");
+}
+
+TEST_F(ProbeFileTest, SavesAnotherFileAndStaysWithItsOwn) {
+    Host(hostFile);
+    folder.Write("real.ini", "old");
+    std::filesystem::create_symlink("real.ini", folder.Path("link.ini"));
+    ProbeFile file(Path());
+    file.SaveAs(folder.Name("link.ini"));
+    EXPECT_EQ(folder.Read("real.ini"), hostFile);
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.Path("link.ini")));
+    file.Remove(L"Q");
+    EXPECT_EQ(folder.Read("real.ini"), hostFile);
+    EXPECT_NE(File(), hostFile);
+}
+
+TEST_F(ProbeFileTest, TellsAFileThatMayNotBeWritten) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    EXPECT_FALSE(file.IsReadOnly());
+    std::filesystem::permissions(folder.Path("host.ini"), std::filesystem::perms::owner_read);
+    EXPECT_TRUE(file.IsReadOnly());
+}
