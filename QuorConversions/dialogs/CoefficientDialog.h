@@ -29,7 +29,7 @@ protected:
                    std::function<std::int32_t()> get, std::function<void(std::int32_t)> set) {
         m_choice.emplace(MakeChoice(labelName, listName, std::move(fill), std::move(get), std::move(set)));
     }
-    [[nodiscard]] const Choice& TheChoice() const { return *m_choice; }
+    [[nodiscard]] const Choice& ChoiceRow() const { return *m_choice; }
 
     void AddRows(std::size_t count) {
         const auto labels = AddArray<Label>(L"lblCoefficients", count);

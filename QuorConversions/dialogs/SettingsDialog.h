@@ -86,7 +86,6 @@ protected:
     virtual void ShowPageOf(Control& /*control*/) {}
 
     [[nodiscard]] Frame& Settings() { return m_frame; }
-    [[nodiscard]] Platform& Host() const { return *m_platform; }
 
     // What the events do.
     void OnActivate() override;

@@ -12,28 +12,28 @@ frmIPTS68Settings::frmIPTS68Settings(CQuorIPTS68& settings, std::shared_ptr<Plat
 }
 
 void frmIPTS68Settings::SetCaptions() {
-    TheChoice().label.SetCaption(TableText(IDS_SCALE) + L":");
+    ChoiceRow().label.SetCaption(TableText(IDS_SCALE) + L":");
     LabelRows({IDS_R0, IDS_ALPHA, IDS_DELTA, IDS_A4, IDS_C4});
     CoefficientDialog::SetCaptions();
 }
 
 void frmIPTS68Settings::LoadControls() {
     CoefficientDialog::LoadControls();
-    TheChoice().label.SetVisible(Object().ScaleEnabled());
-    TheChoice().list.SetVisible(Object().ScaleEnabled());
+    ChoiceRow().label.SetVisible(Object().ScaleEnabled());
+    ChoiceRow().list.SetVisible(Object().ScaleEnabled());
 }
 
 bool frmIPTS68Settings::GatherSettings() {
     // Without a selection the scale stays, and the validation refuses it.
-    if (Object().ScaleEnabled() && TheChoice().list.Visible())
-        (void)StoreChoice(TheChoice());
+    if (Object().ScaleEnabled() && ChoiceRow().list.Visible())
+        (void)StoreChoice(ChoiceRow());
     return CoefficientDialog::GatherSettings();
 }
 
 bool frmIPTS68Settings::ValidateSettings() {
     const auto scale = Object().IPTS68Scale();
     if (Object().ScaleEnabled() && scale != SCALE_ITS90 && scale != SCALE_IPTS68)
-        return Refuse(IDS_SELECT_SCALE, &TheChoice().list);
+        return Refuse(IDS_SELECT_SCALE, &ChoiceRow().list);
     return RequireNonZero(IPTS68_DELTA + 1);
 }
 

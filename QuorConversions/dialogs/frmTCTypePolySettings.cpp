@@ -12,18 +12,18 @@ frmTCTypePolySettings::frmTCTypePolySettings(CQuorTCTypePoly& settings, std::sha
 }
 
 void frmTCTypePolySettings::SetCaptions() {
-    TheChoice().label.SetCaption(TableText(IDS_TYPE) + L":");
+    ChoiceRow().label.SetCaption(TableText(IDS_TYPE) + L":");
     NumberRows(TableText(IDS_C));
     CoefficientDialog::SetCaptions();
 }
 
 bool frmTCTypePolySettings::GatherSettings() {
-    (void)StoreChoice(TheChoice()); // without a selection the type stays, and the validation refuses it
+    (void)StoreChoice(ChoiceRow()); // without a selection the type stays, and the validation refuses it
     return CoefficientDialog::GatherSettings();
 }
 
 bool frmTCTypePolySettings::ValidateSettings() {
-    return TheChoice().list.HasSelection() || Refuse(IDS_SELECT_TC_TYPE, &TheChoice().list);
+    return ChoiceRow().list.HasSelection() || Refuse(IDS_SELECT_TC_TYPE, &ChoiceRow().list);
 }
 
 } // namespace QuorConversions

@@ -74,10 +74,10 @@ void DrawFrame(const Frame& frame, const std::wstring& indent, std::wstring& scr
 
 CannotDo::CannotDo(const std::wstring& what) : std::runtime_error(QuorIniFile::ToUtf8(what)), text(what) {}
 
-Hands& Person::OnOpenDialog() const {
+InputDriver& Person::OnOpenDialog() const {
     if (!m_dialog.IsOpen())
         throw CannotDo(L"the dialog is closed");
-    return m_hands;
+    return m_driver;
 }
 
 Control& Person::Find(std::wstring_view name) const {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "QuorConversions/controls/Dialog.h"
-#include "toolkits/scripted/Hands.h"
+#include "toolkits/scripted/InputDriver.h"
 
 #include <stdexcept>
 #include <string>
@@ -24,7 +24,7 @@ struct CannotDo : std::runtime_error {
 /// ("txtCoefficients(0)").
 class Person {
 public:
-    Person(Dialog& dialog, Hands& hands) : m_dialog(dialog), m_hands(hands) {}
+    Person(Dialog& dialog, InputDriver& driver) : m_dialog(dialog), m_driver(driver) {}
 
     /// Goes to a text box, which selects its text, and types over it.
     void Type(std::wstring_view box, std::wstring_view text);
@@ -42,7 +42,7 @@ public:
     void TurnTo(std::wstring_view tab);
     void Click(std::wstring_view button);
     /// Moves the window.
-    void MoveTo(std::int32_t left, std::int32_t top) { m_hands.MoveTo(left, top); }
+    void MoveTo(std::int32_t left, std::int32_t top) { m_driver.MoveTo(left, top); }
     /// Closes the window by its own close box.
     void Close() { OnOpenDialog().Close(); }
 
@@ -61,13 +61,13 @@ public:
 
 private:
     /// Only an open dialog can be acted on.
-    [[nodiscard]] Hands& OnOpenDialog() const;
+    [[nodiscard]] InputDriver& OnOpenDialog() const;
     [[nodiscard]] Control& Find(std::wstring_view name) const;
     template <class T>
     [[nodiscard]] T& Find(std::wstring_view name, ControlKind kind, const wchar_t* what) const;
 
     Dialog& m_dialog;
-    Hands& m_hands;
+    InputDriver& m_driver;
 };
 
 } // namespace QuorConversions::Scripted

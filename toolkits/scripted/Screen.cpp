@@ -2,11 +2,11 @@
 
 namespace QuorConversions::Scripted {
 
-void Screen::Run(Dialog& dialog, DialogInput& input, const std::function<void(Hands&)>& act) {
+void Screen::Run(Dialog& dialog, DialogInput& input, const std::function<void(InputDriver&)>& act) {
     dialog.SetWindowHandle(1); // any window will do as the owner of a file dialog
     input.Activate();
-    ModelHands hands(dialog, input);
-    act(hands);
+    ModelInputDriver driver(dialog, input);
+    act(driver);
     dialog.SetWindowHandle(0);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "QuorConversions/platform/Platform.h"
-#include "toolkits/scripted/Hands.h"
+#include "toolkits/scripted/InputDriver.h"
 
 #include <functional>
 
@@ -17,7 +17,7 @@ public:
     virtual ~Screen() = default;
 
     /// Shows the dialog, and lets `act` act on it, which leaves it.
-    virtual void Run(Dialog& dialog, DialogInput& input, const std::function<void(Hands&)>& act);
+    virtual void Run(Dialog& dialog, DialogInput& input, const std::function<void(InputDriver&)>& act);
     /// Shows the message, and calls `whileShown` before it is closed.
     virtual void ShowMessage(const MessageRequest& request, const std::function<void()>& whileShown);
 };

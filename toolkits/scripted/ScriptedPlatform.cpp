@@ -31,20 +31,20 @@ void ScriptedPlatform::ComplainOfWhatDidNotCome() {
 
 void ScriptedPlatform::RunDialog(Dialog& dialog, DialogInput& input) {
     m_events.push_back(L"dialog " + dialog.Title());
-    m_screen->Run(dialog, input, [&](Hands& hands) {
-        Act(dialog, hands);
-        hands.Escape();
+    m_screen->Run(dialog, input, [&](InputDriver& driver) {
+        Act(dialog, driver);
+        driver.Escape();
     });
 }
 
-void ScriptedPlatform::Act(Dialog& dialog, Hands& hands) {
+void ScriptedPlatform::Act(Dialog& dialog, InputDriver& driver) {
     if (m_dialogs.empty()) {
         Complain(L"nobody is there for the dialog \"" + dialog.Title() + L"\"");
         return;
     }
     const auto action = std::move(m_dialogs.front());
     m_dialogs.pop_front();
-    Person person(dialog, hands);
+    Person person(dialog, driver);
     try {
         action(person);
     } catch (const CannotDo& error) {

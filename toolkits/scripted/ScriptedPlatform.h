@@ -78,7 +78,7 @@ public:
 
 private:
     /// Lets the next person act on the dialog.
-    void Act(Dialog& dialog, Hands& hands);
+    void Act(Dialog& dialog, InputDriver& driver);
 
     std::shared_ptr<Screen> m_screen;
     std::deque<std::optional<std::wstring>> m_answers;

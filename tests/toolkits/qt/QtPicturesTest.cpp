@@ -32,7 +32,7 @@ using QtToolkit::FromQt;
 using Scripted::Person;
 using Support::Dressed;
 using Support::LetLayOut;
-using Support::QtHands;
+using Support::QtInputDriver;
 using Support::settingsClasses;
 
 namespace {

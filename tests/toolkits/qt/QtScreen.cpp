@@ -26,7 +26,7 @@
 using namespace QuorConversions;
 using QtToolkit::FromQt;
 using QtToolkit::ToQt;
-using Scripted::Hands;
+using Scripted::InputDriver;
 
 namespace Support {
 namespace {
@@ -148,19 +148,19 @@ void ExpectShowsTheModel(const QWidget& window, const Dialog& dialog) {
 }
 
 template <class T>
-T& QtHands::WidgetOf(const Control& control) const {
+T& QtInputDriver::WidgetOf(const Control& control) const {
     auto* const widget = m_window.findChild<T*>(ToQt(control.Name()));
     if (!widget)
         throw std::logic_error("no widget shows the control");
     return *widget;
 }
 
-QWidget* QtHands::Focused() const {
+QWidget* QtInputDriver::Focused() const {
     Activate();
     return m_window.focusWidget() ? m_window.focusWidget() : &m_window;
 }
 
-void QtHands::Activate() const {
+void QtInputDriver::Activate() const {
     const auto isInFront = [this] { return QGuiApplication::focusWindow() == m_window.windowHandle(); };
     if (m_window.isHidden() || QTest::qWaitFor(isInFront, 20))
         return;
@@ -168,17 +168,17 @@ void QtHands::Activate() const {
     EXPECT_TRUE(QTest::qWaitFor(isInFront));
 }
 
-void QtHands::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) const {
+void QtInputDriver::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) const {
     QTest::keyClick(Focused(), key, modifiers);
     Look();
 }
 
-void QtHands::Look() const {
+void QtInputDriver::Look() const {
     if (m_dialog.IsOpen())
         ExpectShowsTheModel(m_window, m_dialog);
 }
 
-void QtHands::GoTo(Control& control) {
+void QtInputDriver::GoTo(Control& control) {
     Activate();
     auto& widget = WidgetOf<QWidget>(control);
     if (!widget.isVisible() || !control.TakesFocus())
@@ -194,9 +194,9 @@ void QtHands::GoTo(Control& control) {
     Look();
 }
 
-void QtHands::SelectAll() { Key(Qt::Key_A, Qt::ControlModifier); }
+void QtInputDriver::SelectAll() { Key(Qt::Key_A, Qt::ControlModifier); }
 
-void QtHands::Press(std::int16_t keyAscii) {
+void QtInputDriver::Press(std::int16_t keyAscii) {
     for (const auto& named : namedKeys)
         if (named.keyAscii == keyAscii)
             return Key(named.key, named.modifiers);
@@ -204,19 +204,19 @@ void QtHands::Press(std::int16_t keyAscii) {
     Look();
 }
 
-void QtHands::Tab(bool backwards) {
+void QtInputDriver::Tab(bool backwards) {
     Key(backwards ? Qt::Key_Backtab : Qt::Key_Tab, backwards ? Qt::ShiftModifier : Qt::NoModifier);
 }
 
-void QtHands::Escape() { Key(Qt::Key_Escape); }
+void QtInputDriver::Escape() { Key(Qt::Key_Escape); }
 
-void QtHands::Click(PushButton& button) {
+void QtInputDriver::Click(PushButton& button) {
     Activate();
     QTest::mouseClick(&WidgetOf<QPushButton>(button), Qt::LeftButton);
     Look();
 }
 
-void QtHands::Choose(DropDownList& list, std::int32_t index) {
+void QtInputDriver::Choose(DropDownList& list, std::int32_t index) {
     GoTo(list);
     auto& box = WidgetOf<QComboBox>(list);
     QTest::keyClick(&box, Qt::Key_Down, Qt::AltModifier); // opens it
@@ -227,26 +227,26 @@ void QtHands::Choose(DropDownList& list, std::int32_t index) {
     Look();
 }
 
-void QtHands::SelectTab(TabStrip& tabs, std::size_t tab) {
+void QtInputDriver::SelectTab(TabStrip& tabs, std::size_t tab) {
     Activate();
     auto& bar = WidgetOf<QTabBar>(tabs);
     QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(static_cast<int>(tab)).center());
     Look();
 }
 
-void QtHands::MoveTo(std::int32_t left, std::int32_t top) { m_window.move(left, top); }
+void QtInputDriver::MoveTo(std::int32_t left, std::int32_t top) { m_window.move(left, top); }
 
-void QtHands::Close() { m_window.close(); }
+void QtInputDriver::Close() { m_window.close(); }
 
-void QtScreen::Run(Dialog& dialog, DialogInput& input, const std::function<void(Hands&)>& act) {
+void QtScreen::Run(Dialog& dialog, DialogInput& input, const std::function<void(InputDriver&)>& act) {
     std::exception_ptr failure;
     WhenShown([name = ToQt(dialog.Name())](QWidget& window) { return window.objectName() == name; },
               [&](QWidget& window) {
-                  QtHands hands(window, dialog);
-                  hands.Activate();
+                  QtInputDriver driver(window, dialog);
+                  driver.Activate();
                   ExpectShowsTheModel(window, dialog);
                   try {
-                      act(hands);
+                      act(driver);
                   } catch (...) { // it must not pass through the event loop
                       failure = std::current_exception();
                   }

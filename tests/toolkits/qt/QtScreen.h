@@ -19,10 +19,10 @@ void LetLayOut(int moment = 60);
 /// Expects that each widget of the window shows what its control says.
 void ExpectShowsTheModel(const QWidget& window, const QuorConversions::Dialog& dialog);
 
-/// Hands on a keyboard and a mouse.
-class QtHands final : public QuorConversions::Scripted::Hands {
+/// The driver with keyboard and mouse.
+class QtInputDriver final : public QuorConversions::Scripted::InputDriver {
 public:
-    QtHands(QWidget& window, QuorConversions::Dialog& dialog) : m_window(window), m_dialog(dialog) {}
+    QtInputDriver(QWidget& window, QuorConversions::Dialog& dialog) : m_window(window), m_dialog(dialog) {}
 
     void GoTo(QuorConversions::Control& control) override;
     void SelectAll() override;
@@ -54,7 +54,7 @@ private:
 class QtScreen final : public QuorConversions::Scripted::Screen {
 public:
     void Run(QuorConversions::Dialog& dialog, QuorConversions::DialogInput& input,
-             const std::function<void(QuorConversions::Scripted::Hands&)>& act) override;
+             const std::function<void(QuorConversions::Scripted::InputDriver&)>& act) override;
     void ShowMessage(const QuorConversions::MessageRequest& request,
                      const std::function<void()>& whileShown) override;
 

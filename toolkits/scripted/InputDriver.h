@@ -9,12 +9,12 @@ namespace QuorConversions::Scripted {
 
 /// How what a person does reaches the dialog in front of them: through the model itself, or through the
 /// windows, keys and mouse of a toolkit.
-class Hands {
+class InputDriver {
 public:
-    Hands() = default;
-    Hands(const Hands&) = delete;
-    Hands& operator=(const Hands&) = delete;
-    virtual ~Hands() = default;
+    InputDriver() = default;
+    InputDriver(const InputDriver&) = delete;
+    InputDriver& operator=(const InputDriver&) = delete;
+    virtual ~InputDriver() = default;
 
     /// Goes to a control.
     virtual void GoTo(Control& control) = 0;
@@ -33,10 +33,10 @@ public:
     virtual void Close() = 0;
 };
 
-/// Hands that reach into the model: they do to a text what its key does, as a toolkit would.
-class ModelHands final : public Hands {
+/// The driver that reaches into the model: it does to a text what its key does, as a toolkit would.
+class ModelInputDriver final : public InputDriver {
 public:
-    ModelHands(Dialog& dialog, DialogInput& input) : m_dialog(dialog), m_input(input) {}
+    ModelInputDriver(Dialog& dialog, DialogInput& input) : m_dialog(dialog), m_input(input) {}
 
     void GoTo(Control& control) override { m_input.Focus(control); }
     void SelectAll() override;

@@ -1,21 +1,21 @@
-#include "toolkits/scripted/Hands.h"
+#include "toolkits/scripted/InputDriver.h"
 
 #include <string>
 #include <utility>
 
 namespace QuorConversions::Scripted {
 
-TextBox* ModelHands::ActiveBox() const {
+TextBox* ModelInputDriver::ActiveBox() const {
     Control* const active = m_dialog.ActiveControl();
     return active && active->Kind() == ControlKind::TextBox ? static_cast<TextBox*>(active) : nullptr;
 }
 
-void ModelHands::SelectAll() {
+void ModelInputDriver::SelectAll() {
     if (TextBox* const box = ActiveBox())
         box->SetSelection(0, box->Text().size());
 }
 
-void ModelHands::Press(std::int16_t keyAscii) {
+void ModelInputDriver::Press(std::int16_t keyAscii) {
     constexpr std::int16_t backspace = 8;
     const std::int16_t key = m_input.KeyPress(keyAscii);
     TextBox* const box = ActiveBox();
