@@ -58,9 +58,9 @@ void RecordMerge::Take(std::wstring_view key, Value ours) {
     const std::optional<Value> theirs = Look(*m_file, change.key, change.value);
     const bool theyChanged = !Same(read, theirs);
     const bool weChanged = !Same(read, change.value);
-    if (theyChanged && key != L"Version") {
+    if (theyChanged && key != versionKey) {
         RecordConflict conflict{change.section, change.key, read, theirs, change.value};
-        if (key == L"ConversionType") // of which the facade has the only one
+        if (key == conversionTypeKey) // of which the facade has the only one
             m_typeConflict = std::move(conflict);
         else if (weChanged && !Same(theirs, change.value))
             m_conflicts.push_back(std::move(conflict));
@@ -68,7 +68,7 @@ void RecordMerge::Take(std::wstring_view key, Value ours) {
     if (!weChanged) {
         if (!theirs)
             m_removed.push_back(std::move(change));
-    } else if (key != L"Version") {
+    } else if (key != versionKey) {
         m_changes.push_back(std::move(change));
     } else if (!theyChanged) {
         m_versions.push_back(std::move(change));

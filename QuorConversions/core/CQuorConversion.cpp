@@ -1,5 +1,6 @@
 #include "QuorConversions/core/CQuorConversion.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorConversions/core/detail/ConversionTable.h"
 #include "QuorConversions/core/detail/Record.h"
 #include "QuorConversions/core/modHelp.h"
@@ -7,12 +8,6 @@
 #include <utility>
 
 namespace QuorConversions {
-namespace {
-
-constexpr const wchar_t* typeKey = L"ConversionType";
-constexpr const wchar_t* settingsName = L"Settings"; // part of section names: never translated
-
-} // namespace
 
 CQuorConversion::CQuorConversion(std::shared_ptr<Platform> platform)
     : QuorObject(std::move(platform), L"CQuorConversion") {}
@@ -92,14 +87,14 @@ bool CQuorConversion::Edit() {
 }
 
 void CQuorConversion::WriteRecord(RecordWriter& record) const {
-    record.Integer(typeKey, m_type);
+    record.Integer(conversionTypeKey, m_type);
     if (const std::shared_ptr<SettingsObject> settings = m_settings)
         record.Nested(settingsName, *settings);
 }
 
 void CQuorConversion::ReadRecord(RecordReader& record) {
     // The variable starts at 0, not at the current type: a record without a type is an ITS-90 one.
-    SetConversionType(EQuorConversionType{record.Integer(typeKey, CONV_ITS90)});
+    SetConversionType(EQuorConversionType{record.Integer(conversionTypeKey, CONV_ITS90)});
     if (const std::shared_ptr<SettingsObject> settings = m_settings)
         record.Nested(settingsName, *settings);
 }

@@ -1,12 +1,12 @@
 #include "QuorConversions/core/CoefficientSettings.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorConversions/core/detail/Record.h"
 
 namespace QuorConversions {
 namespace {
 
 constexpr const wchar_t* countKey = L"NumCoefficients";
-constexpr const wchar_t* coefficientsKey = L"Coefficients";
 
 } // namespace
 

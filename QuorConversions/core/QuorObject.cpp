@@ -1,5 +1,6 @@
 #include "QuorConversions/core/QuorObject.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorConversions/core/detail/BusyPointer.h"
 #include "QuorConversions/core/detail/Record.h"
 #include "QuorConversions/core/modMessages.h"
@@ -137,7 +138,7 @@ void QuorObject::WriteToFile(std::shared_ptr<INIFile>& iniFile, const std::wstri
             [&](Platform&, const std::shared_ptr<INIFile>& store) {
                 isHeld = true;
                 RecordHold hold(*store);
-                store->WriteString(L"Version", QUOR_LIBRARY_VERSION);
+                store->WriteString(versionKey, QUOR_LIBRARY_VERSION);
                 const std::exception_ptr refusal = WriteWhatCanBeWritten(store, secname);
                 hold.Release(); // the report waits for the user: what was written must be safe by then
                 if (refusal)

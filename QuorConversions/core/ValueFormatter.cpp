@@ -1,6 +1,7 @@
 #include "QuorConversions/core/ValueFormatter.h"
 
 #include "QuorConversions/core/detail/ShortestDecimal.h"
+#include "QuorIniFile/AsciiCase.h"
 
 #include <algorithm>
 #include <cmath>
@@ -273,11 +274,8 @@ constexpr NamedFormat namedFormats[] = {
 };
 
 std::wstring_view FormatOf(std::wstring_view nameOrFormat) {
-    const auto sameLetter = [](wchar_t letter, wchar_t given) {
-        return letter == (given >= L'A' && given <= L'Z' ? given - L'A' + L'a' : given);
-    };
     for (const auto& [name, format] : namedFormats)
-        if (std::ranges::equal(name, nameOrFormat, sameLetter))
+        if (QuorIniFile::EqualFolded(name, nameOrFormat))
             return format;
     return nameOrFormat;
 }

@@ -1,13 +1,12 @@
 #include "QuorConversions/rtd/CQuorITS90.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorConversions/core/detail/Record.h"
 
 namespace QuorConversions {
 namespace {
 
 constexpr SettingsTraits its90Traits{L"CQuorITS90", IDS_ITS_90, L"i90", L"ITS-90"};
-constexpr const wchar_t* highRangeName = L"High Range";
-constexpr const wchar_t* lowRangeName = L"Low Range";
 
 } // namespace
 
@@ -34,13 +33,13 @@ void CQuorITS90::SetChanged(bool value) {
 }
 
 void CQuorITS90::WriteRecord(RecordWriter& record) const {
-    record.Double(L"RTPW", m_rtpw);
+    record.Double(rtpwKey, m_rtpw);
     record.Nested(highRangeName, *m_highRange);
     record.Nested(lowRangeName, *m_lowRange);
 }
 
 void CQuorITS90::ReadRecord(RecordReader& record) {
-    SetRTPW(record.Double(L"RTPW", m_rtpw));
+    SetRTPW(record.Double(rtpwKey, m_rtpw));
     record.Nested(highRangeName, *m_highRange);
     record.Nested(lowRangeName, *m_lowRange);
 }

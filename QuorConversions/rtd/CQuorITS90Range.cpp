@@ -1,5 +1,6 @@
 #include "QuorConversions/rtd/CQuorITS90Range.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorConversions/core/detail/Record.h"
 
 #include <algorithm>
@@ -8,7 +9,6 @@ namespace QuorConversions {
 namespace {
 
 constexpr const wchar_t* rangeKey = L"Range";
-constexpr const wchar_t* coefficientsKey = L"Coefficients";
 
 } // namespace
 

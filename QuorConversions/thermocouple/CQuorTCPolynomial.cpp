@@ -1,12 +1,13 @@
 #include "QuorConversions/thermocouple/CQuorTCPolynomial.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorConversions/core/detail/Record.h"
 
 namespace QuorConversions {
 namespace {
 
 constexpr SettingsTraits tcPolynomialTraits{L"CQuorTCPolynomial", IDS_TC_POLYNOMIAL, L"tcp",
-                                            L"Thermocouple Polynomial"};
+                                            thermocouplePolynomialSection};
 constexpr const wchar_t* mV25CKey = L"mV(25C)";
 
 } // namespace

@@ -1,12 +1,13 @@
 #include "QuorConversions/thermocouple/CQuorTCTypePoly.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorConversions/core/detail/Record.h"
 
 namespace QuorConversions {
 namespace {
 
 constexpr SettingsTraits tcTypePolyTraits{L"CQuorTCTypePoly", IDS_TC_TYPE, L"ttp",
-                                          L"Thermocouple Polynomial"};
+                                          thermocouplePolynomialSection};
 
 // The reverse of the class with deviation points: C, L, M and U are known here, gold against platinum is not.
 constexpr TCTypeCatalogue typesWithPolynomial{

@@ -1,5 +1,6 @@
 #include "QuorConversions/thermocouple/CQuorTCTypeX.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorConversions/core/detail/Record.h"
 
 namespace QuorConversions {
@@ -8,7 +9,6 @@ namespace {
 constexpr SettingsTraits tcTypeXTraits{L"CQuorTCTypeX", IDS_TC_TYPE, L"tcx", L"Thermocouple Type"};
 constexpr const wchar_t* tempScaleKey = L"TempScale";
 constexpr const wchar_t* offsetScaleKey = L"OffsetScale";
-constexpr const wchar_t* coefficientsKey = L"Coefficients";
 
 // C, L, M and U are members of the enumeration that this class neither names nor offers.
 constexpr TCTypeCatalogue typesWithPoints{

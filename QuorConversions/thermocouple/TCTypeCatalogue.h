@@ -9,9 +9,6 @@
 
 namespace QuorConversions {
 
-/// The key under which a record keeps its thermocouple type.
-inline constexpr const wchar_t* tcTypeKey = L"TCType";
-
 /// The standard thermocouple types.
 enum ETCType : std::int32_t {
     TCTYPE_NONE = -1,

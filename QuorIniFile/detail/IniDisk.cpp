@@ -1,5 +1,6 @@
 #include "QuorIniFile/detail/IniDisk.h"
 
+#include "QuorIniFile/AsciiCase.h"
 #include "QuorIniFile/detail/IniError.h"
 #include "QuorIniFile/detail/IniFormat.h"
 #include "QuorIniFile/detail/Unicode.h"

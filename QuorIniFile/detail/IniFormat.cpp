@@ -1,5 +1,6 @@
 #include "QuorIniFile/detail/IniFormat.h"
 
+#include "QuorIniFile/AsciiCase.h"
 #include "QuorIniFile/detail/Unicode.h"
 
 #include <algorithm>
@@ -61,11 +62,6 @@ std::string InQuotes(std::string_view text) {
         quoted += c;
     }
     return quoted.append(1, '"');
-}
-
-bool EqualFolded(std::string_view a, std::string_view b) {
-    return a.size() == b.size() &&
-           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Small(x) == Small(y); });
 }
 
 std::wstring FromLatin1(std::string_view bytes) {

@@ -1,5 +1,6 @@
 #include "QuorIniFile/detail/IniValue.h"
 
+#include "QuorIniFile/AsciiCase.h"
 #include "QuorIniFile/detail/Unicode.h"
 
 #include <algorithm>
@@ -102,11 +103,6 @@ std::string EncodeUnits(std::basic_string_view<Unit> text, IniEncoding encoding)
 
 // Reading --------------------------------------------------------------------------------------------------
 
-bool EqualIgnoringCase(std::string_view a, std::string_view lower) {
-    return a.size() == lower.size() &&
-           std::equal(a.begin(), a.end(), lower.begin(), [](char x, char y) { return Small(x) == y; });
-}
-
 /// Reads the number that all of `value` spells; result_out_of_range when a Number cannot hold it. from_chars
 /// knows no '+', and takes names that are none of ours.
 template <class Number>
@@ -199,7 +195,7 @@ std::optional<double> ParseDouble(std::string_view value) {
     constexpr std::pair<std::string_view, double> named[] = {
         {"nan", Limits::quiet_NaN()}, {"infinity", Limits::infinity()}, {"-infinity", -Limits::infinity()}};
     for (const auto& [name, number] : named) {
-        if (EqualIgnoringCase(value, name))
+        if (EqualFolded(value, name))
             return number;
     }
     return ToNumber<double>(value);
@@ -223,7 +219,7 @@ std::optional<bool> ParseBoolean(std::string_view value) {
     constexpr std::pair<std::string_view, bool> spellings[] = {
         {"true", true}, {"-1", true}, {"1", true}, {"false", false}, {"0", false}};
     for (const auto& [spelling, flag] : spellings) {
-        if (EqualIgnoringCase(value, spelling))
+        if (EqualFolded(value, spelling))
             return flag;
     }
     return std::nullopt;

@@ -82,11 +82,6 @@ template <class Unit>
 /// is used again and again needs no memory of its own each time.
 [[nodiscard]] bool CopyAscii(std::wstring_view text, std::string& bytes);
 
-/// A capital ASCII letter made small; any other byte as it is.
-[[nodiscard]] constexpr char Small(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-}
-
 [[nodiscard]] bool IsUtf8(std::string_view bytes);
 
 /// The escape for the character with that code, "\u{HEX}", in values of files and in what is printed.

@@ -201,7 +201,7 @@ void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
         entry.name = record.section;
         store->SetSection(record.section);
         std::int16_t type = 0;
-        if (!store->ReadInteger(L"ConversionType", type)) {
+        if (!store->ReadInteger(conversionTypeKey, type)) {
             entry.content.name = NumberOf({});
         } else {
             entry.content.type = EQuorConversionType{type};

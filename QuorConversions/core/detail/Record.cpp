@@ -1,5 +1,7 @@
 #include "QuorConversions/core/detail/Record.h"
 
+#include "QuorConversions/core/RecordNames.h"
+
 #include <limits>
 #include <utility>
 
@@ -8,7 +10,7 @@ namespace QuorConversions {
 std::wstring IndexedKey(const wchar_t* name, std::int32_t index) { return name + std::to_wstring(index); }
 
 std::wstring NestedSection(const std::wstring& parent, const wchar_t* child) {
-    return parent + L" - " + child;
+    return std::wstring(parent).append(nestedMark).append(child);
 }
 
 RecordWriter::RecordWriter(std::shared_ptr<INIFile> iniFile, std::wstring section, const wchar_t* source,

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string_view>
+
+// The names of sections and keys in records, as they stand in every file: never translated. A key that one
+// class alone writes and reads is named beside it.
+namespace QuorConversions {
+
+/// What follows the name of a probe in that of the section of its settings: "P - Settings".
+inline constexpr std::wstring_view settingsMark = L" - Settings";
+/// What stands between the name of a section and that of a record nested in it.
+inline constexpr std::wstring_view nestedMark = settingsMark.substr(0, 3);
+
+// Nested records.
+inline constexpr const wchar_t* settingsName = settingsMark.data() + nestedMark.size(); // "Settings"
+inline constexpr const wchar_t* highRangeName = L"High Range";
+inline constexpr const wchar_t* lowRangeName = L"Low Range";
+
+// Sections of stand-alone files that two classes share.
+inline constexpr const wchar_t* thermocouplePolynomialSection = L"Thermocouple Polynomial";
+
+// Keys.
+inline constexpr const wchar_t* versionKey = L"Version";
+inline constexpr const wchar_t* conversionTypeKey = L"ConversionType";
+inline constexpr const wchar_t* coefficientsKey = L"Coefficients"; // indexed
+inline constexpr const wchar_t* rtpwKey = L"RTPW";
+inline constexpr const wchar_t* tcTypeKey = L"TCType";
+
+} // namespace QuorConversions
