@@ -4,17 +4,16 @@
 #include "QuorConversions/resources/StringIds.h"
 #include "QuorConversions/resources/StringTable.h"
 #include "tests/support/Objects.h"
+#include "tests/toolkits/qt/OwnTexts.h"
 #include "toolkits/qt/HelpWindow.h"
 
 #include <QAction>
 #include <QCoreApplication>
-#include <QFile>
 #include <QLocale>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSet>
-#include <QXmlStreamReader>
 
 #include <gtest/gtest.h>
 
@@ -113,29 +112,8 @@ TEST_F(TranslationsTest, HaveAGermanTextForEveryEntryOfTheStringTable) {
 }
 
 TEST_F(TranslationsTest, HaveGermanForEveryTextOfTheToolkitsOwn) {
-    QFile file(QStringLiteral(QUOR_OWN_TEXTS));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    QXmlStreamReader xml(&file);
-    QByteArray context;
-    int texts = 0;
-    while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        if (xml.name() == QLatin1String("name"))
-            context = xml.readElementText().toUtf8();
-        if (xml.name() != QLatin1String("source"))
-            continue;
-        const QString source = xml.readElementText();
-        const QString german = QCoreApplication::translate(context, source.toUtf8());
-        if (source != "Navigation") { // the same word
-            EXPECT_NE(german, source) << context.toStdString() << " has no German for it";
-        }
-        for (const char* const place : {"%1", "%2", "%3"})
-            EXPECT_EQ(german.count(place), source.count(place)) << source.toStdString();
-        ++texts;
-    }
-    EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
-    EXPECT_GT(texts, 20);
+    Support::ExpectTranslated(QStringLiteral(QUOR_OWN_TEXTS), 20,
+                              [](const QString& text) { return text == "Navigation"; });
 }
 
 TEST_F(TranslationsTest, GiveNoTwoButtonsOfADialogTheSameAccessKey) {
