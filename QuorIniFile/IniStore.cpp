@@ -24,6 +24,14 @@ bool SameDouble(double a, double b) {
            (std::isnan(a) && std::isnan(b));
 }
 
+/// Which new names a file can take, and what is told of the others.
+struct NameRule {
+    bool (*readsBack)(std::string_view name);
+    EIniCause refusal;
+};
+constexpr NameRule sectionNames{IsSectionName, INI_CAUSE_BAD_SECTION_NAME};
+constexpr NameRule keyNames{IsKeyName, INI_CAUSE_BAD_KEY_NAME};
+
 /// Takes over what a value could be read as.
 template <class Value>
 bool Assign(Value& value, std::optional<Value> read) {
@@ -45,7 +53,7 @@ public:
         if (file == m_file)
             return;
         if (m_isEditing)
-            throw FileError(ERR_PATH_FILE_ACCESS, FileName(), L"An edit of it has not ended");
+            throw FileError(ERR_PATH_FILE_ACCESS, FileName(), INI_CAUSE_EDIT_NOT_ENDED);
         if (!m_isAbandoned)
             Save();
         ++m_textNumber;
@@ -186,16 +194,15 @@ public:
         Load();
         const auto section = FindSection(from);
         if (!section)
-            throw FileError(ERR_PATH_FILE_ACCESS, FileName(), L"There is no section " + Quoted(from));
+            throw ErrorAbout(from, INI_CAUSE_NO_SUCH_SECTION);
         std::string bytes;
         std::string buffer;
-        const std::string_view spelling =
-            SpellNew(L"section", to, NameToFind(to, bytes), buffer, IsSectionName);
+        const std::string_view spelling = SpellNew(to, NameToFind(to, bytes), buffer, sectionNames);
         const auto holder = FindSection(to);
         if (holder && holder != section)
-            throw NameIsTaken(to);
+            throw ErrorAbout(to, INI_CAUSE_SECTION_EXISTS);
         if (!m_document->RenameSection(*section, spelling))
-            throw NoSuchName(L"section", to);
+            throw ErrorAbout(to, sectionNames.refusal);
         SectionsChanged();
     }
 
@@ -236,7 +243,7 @@ public:
             return;
         }
         if (IsHeld())
-            throw FileError(ERR_PATH_FILE_ACCESS, FileName(), L"No edit can begin between Hold and Release");
+            throw FileError(ERR_PATH_FILE_ACCESS, FileName(), INI_CAUSE_EDIT_WITHIN_HOLD);
         if (FileName().empty())
             throw FileError(ERR_BAD_FILE_NAME, FileName());
         Save();
@@ -327,8 +334,7 @@ private:
 
     [[nodiscard]] bool IsHeld() const { return m_holds > 0 || m_isEditing; }
     [[nodiscard]] QuorError NotWritten() const {
-        return FileError(ERR_PATH_FILE_ACCESS, FileName(),
-                         L"A record could not be written whole, so nothing was saved");
+        return FileError(ERR_PATH_FILE_ACCESS, FileName(), INI_CAUSE_RECORD_NOT_WHOLE);
     }
 
     /// Repeats an attempt that tells what has come in between, if anything.
@@ -422,9 +428,9 @@ private:
         const std::optional<IniConflict> conflict = m_document->ApplyChangesTo(other);
         if (!conflict)
             return;
-        const std::wstring section = DecodeBytes(conflict->section);
-        throw conflict->kind == IniConflict::Kind::NameIsTaken ? NameIsTaken(section)
-                                                               : SectionIsGone(section);
+        throw ErrorAbout(DecodeBytes(conflict->section), conflict->kind == IniConflict::Kind::NameIsTaken
+                                                             ? INI_CAUSE_SECTION_EXISTS
+                                                             : INI_CAUSE_SECTION_IS_GONE);
     }
 
     /// Writes the changes into the file as it is now. What has come in between, if anything.
@@ -441,7 +447,7 @@ private:
             if (StampOf(m_file, m_files) == replacement.Stamp())
                 throw;
             // It was half written.
-            return FileError(ERR_PERMISSION_DENIED, FileName(), L"Another program keeps writing it");
+            return FileError(ERR_PERMISSION_DENIED, FileName(), INI_CAUSE_KEEPS_WRITING);
         }
         return SaveInto(replacement, theirs.document, theirs.encoding);
     }
@@ -500,13 +506,12 @@ private:
         std::string_view spelling;
         if (!present.line) {
             // Both names are checked before anything is changed.
-            spelling = SpellNew(L"key", key, name, m_spare, IsKeyName);
+            spelling = SpellNew(key, name, m_spare, keyNames);
             if (!m_number) {
                 std::string buffer;
                 const std::optional<std::string_view> section =
                     m_hasSectionName ? std::optional<std::string_view>(m_sectionBytes) : std::nullopt;
-                m_number =
-                    m_document->AddSection(SpellNew(L"section", m_section, section, buffer, IsSectionName));
+                m_number = m_document->AddSection(SpellNew(m_section, section, buffer, sectionNames));
             }
         }
         ++m_textNumber;
@@ -523,31 +528,20 @@ private:
 
     /// How a new name is to be written. `bytes` are the name as look-ups take it; `buffer` holds the answer
     /// when that is another.
-    [[nodiscard]] std::string_view SpellNew(std::wstring_view what, std::wstring_view name,
-                                            std::optional<std::string_view> bytes, std::string& buffer,
-                                            bool (*readsBack)(std::string_view)) const {
+    [[nodiscard]] std::string_view SpellNew(std::wstring_view name, std::optional<std::string_view> bytes,
+                                            std::string& buffer, const NameRule& rule) const {
         if (bytes && !IsAscii(*bytes)) {
             if (auto spelling = NameToWrite(name, m_document->Encoding()))
                 bytes = buffer = *std::move(spelling);
         }
-        if (!bytes || !readsBack(*bytes))
-            throw NoSuchName(what, name);
+        if (!bytes || !rule.readsBack(*bytes))
+            throw ErrorAbout(name, rule.refusal);
         return *bytes;
     }
 
-    static std::wstring Quoted(std::wstring_view name) { return L'"' + std::wstring(name) + L'"'; }
-    [[nodiscard]] QuorError NoSuchName(std::wstring_view what, std::wstring_view name) const {
-        return FileError(ERR_PATH_FILE_ACCESS, FileName(),
-                         L"No " + std::wstring(what) + L" can have the name " + Quoted(name));
-    }
-    [[nodiscard]] QuorError NameIsTaken(std::wstring_view name) const {
-        return FileError(ERR_PATH_FILE_ACCESS, FileName(),
-                         L"There is a section " + Quoted(name) + L" already");
-    }
-    [[nodiscard]] QuorError SectionIsGone(std::wstring_view name) const {
-        return FileError(ERR_PATH_FILE_ACCESS, FileName(),
-                         L"Another program has removed or renamed the section " + Quoted(name) +
-                             L", of which only a part was written");
+    /// An error about a section or key of the file, by name.
+    [[nodiscard]] QuorError ErrorAbout(std::wstring_view name, EIniCause cause) const {
+        return FileError(ERR_PATH_FILE_ACCESS, FileName(), cause, {std::wstring(name)});
     }
 
     IniFileSystem& m_files;

@@ -46,9 +46,9 @@ class IniFileSystem;
 /// Errors are QuorError with the source "QuorIniFile" and the file's name in the description: bad file name
 /// 52, device error 57, disk full 61, permission denied 70, path not found 76, anything else that cannot be
 /// read or written 75, among it UTF-16 text that is not valid or has no byte-order mark, and names that the
-/// file could not give back. A file that another process has been saving for ten seconds is 70, "In use by"
-/// whom. A lack of memory is std::bad_alloc. After any of them the file is as it was or complete, and the
-/// object holds what it held before.
+/// file could not give back; why, for programs, in QuorError::Cause(). A file that another process has been
+/// saving for ten seconds is 70, "In use by" whom. A lack of memory is std::bad_alloc. After any of them the
+/// file is as it was or complete, and the object holds what it held before.
 class QUORINIFILE_EXPORT IniStore final : public INIFile {
 public:
     /// On the files of this computer.

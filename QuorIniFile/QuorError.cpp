@@ -15,4 +15,9 @@ QuorError::QuorError(std::int32_t number, std::wstring source, std::wstring desc
       m_helpContext(helpContext),
       m_what(ToUtf8(m_description)) {}
 
+QuorError::QuorError(std::int32_t number, std::wstring source, std::wstring description, IniCause cause)
+    : QuorError(number, std::move(source), std::move(description)) {
+    m_cause = std::move(cause);
+}
+
 } // namespace QuorIniFile

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "QuorIniFile/Export.h"
+#include "QuorIniFile/IniCause.h"
 
 #include <cstdint>
 #include <exception>
+#include <optional>
 #include <string>
 
 namespace QuorIniFile {
@@ -30,17 +32,21 @@ enum EErrorNumber : std::int32_t {
 };
 
 /// The one exception of the libraries. It carries what an error report prints: number, source (the class or
-/// component that raised it), description, and optionally a help file with a topic.
+/// component that raised it), description, and optionally a help file with a topic. An error of the INI-file
+/// store also carries its cause.
 class QUORINIFILE_EXPORT QuorError : public std::exception {
 public:
     QuorError(std::int32_t number, std::wstring source, std::wstring description, std::wstring helpFile = {},
               std::int32_t helpContext = 0);
+    QuorError(std::int32_t number, std::wstring source, std::wstring description, IniCause cause);
 
     [[nodiscard]] std::int32_t Number() const noexcept { return m_number; }
     [[nodiscard]] const std::wstring& Source() const noexcept { return m_source; }
     [[nodiscard]] const std::wstring& Description() const noexcept { return m_description; }
     [[nodiscard]] const std::wstring& HelpFile() const noexcept { return m_helpFile; }
     [[nodiscard]] std::int32_t HelpContext() const noexcept { return m_helpContext; }
+    /// What the description says, for programs; null for an error that the store has not raised.
+    [[nodiscard]] const IniCause* Cause() const noexcept { return m_cause ? &*m_cause : nullptr; }
 
     /// The description as UTF-8, for hosts that catch std::exception. It is what a window shows as plain
     /// text: names of files, sections and keys stand in it as they are, control characters included. Whoever
@@ -53,6 +59,7 @@ private:
     std::wstring m_description;
     std::wstring m_helpFile;
     std::int32_t m_helpContext;
+    std::optional<IniCause> m_cause;
     std::string m_what;
 };
 

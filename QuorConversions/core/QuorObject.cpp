@@ -81,8 +81,8 @@ QuorError QuorObject::Error(std::int32_t number, EStringId text) const {
     return {number, m_className, TableText(text)};
 }
 
-void QuorObject::ShowMessage(const std::wstring& text) const {
-    QuorConversions::ShowMessage(*m_platform, text, TableText(IDS_MESSAGE_TITLE));
+void QuorObject::ShowMessage(EStringId id, const std::wstring& text) const {
+    QuorConversions::ShowMessage(*m_platform, id, text);
 }
 
 void QuorObject::ReportCurrentError(EStringId context) const noexcept {
@@ -178,8 +178,7 @@ bool QuorObject::ReadFromFile(std::shared_ptr<INIFile>& iniFile, const std::wstr
                 ReadRecord(record);
                 complete = !record.Failed();
                 if (!complete)
-                    QuorConversions::ShowMessage(platform, TableText(IDS_WRONG_FILE_VERSION),
-                                                 TableText(IDS_MESSAGE_TITLE));
+                    QuorConversions::ShowMessage(platform, IDS_WRONG_FILE_VERSION);
             });
     return complete;
 }

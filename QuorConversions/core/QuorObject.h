@@ -73,7 +73,8 @@ protected:
 
     /// An error of this class with a text of the string table.
     [[nodiscard]] QuorError Error(std::int32_t number, EStringId text) const;
-    void ShowMessage(const std::wstring& text) const;
+    /// Shows `text`, which is made from the string-table entry `id`.
+    void ShowMessage(EStringId id, const std::wstring& text) const;
     /// Reports the error that is being handled; call it inside a catch block.
     void ReportCurrentError(EStringId context) const noexcept;
 

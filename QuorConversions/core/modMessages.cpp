@@ -2,6 +2,7 @@
 
 #include "QuorConversions/core/detail/BusyPointer.h"
 #include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/detail/IniError.h"
 
 #include <new>
 
@@ -16,6 +17,30 @@ std::wstring WideText(const char* text) {
     for (; *text != '\0'; ++text)
         ascii += static_cast<unsigned char>(*text) < 0x80 ? static_cast<wchar_t>(*text) : L'?';
     return ascii;
+}
+
+/// The entry that says what an error number of the store means; 0 where there is none.
+std::int32_t ErrorTextId(std::int32_t error) {
+    switch (error) {
+#define QUOR_INI_ERROR(number, name, text)                                                                   \
+    case number:                                                                                             \
+        return IDS_##name;
+#include "QuorIniFile/IniTexts.def"
+    default:
+        return 0;
+    }
+}
+
+/// The entry of a cause of the store's; 0 where there is none.
+std::int32_t CauseTextId(std::int32_t cause) {
+    switch (cause) {
+#define QUOR_INI_CAUSE(number, name, text)                                                                   \
+    case number:                                                                                             \
+        return IDS_INI_##name;
+#include "QuorIniFile/IniTexts.def"
+    default:
+        return 0;
+    }
 }
 
 void Show(Platform& platform, const MessageRequest& request) {
@@ -41,14 +66,27 @@ QuorError CurrentError(const std::wstring& source) {
     }
 }
 
+std::wstring DescriptionOf(const QuorError& error) {
+    const QuorIniFile::IniCause* const cause = error.Cause();
+    const std::int32_t numberId = cause ? ErrorTextId(error.Number()) : 0;
+    if (numberId == 0)
+        return error.Description();
+    const std::int32_t causeId = CauseTextId(cause->code);
+    return QuorIniFile::Describe(TableText(numberId), causeId != 0 ? TableText(causeId) : L"", *cause);
+}
+
 void ReportError(Platform& platform, const QuorError& error, const std::wstring& context,
                  const std::wstring& title, const std::wstring& helpFile, std::int32_t helpContext) noexcept {
     try {
-        MessageRequest request{TableText(IDS_ERROR_OCCURRED_WHILE) + L" " + context + L".\r", title,
-                               ICON_CRITICAL, helpFile, helpContext};
+        MessageRequest request{TableText(IDS_ERROR_OCCURRED_WHILE) + L" " + context + L".\r",
+                               title,
+                               ICON_CRITICAL,
+                               helpFile,
+                               helpContext,
+                               IDS_ERROR_OCCURRED_WHILE};
         if (error.Number() != 0) {
             request.text += L"\r" + TableText(IDS_ERROR_WORD) + L": " + std::to_wstring(error.Number()) +
-                            L" - " + error.Description();
+                            L" - " + DescriptionOf(error);
             if (!error.Source().empty())
                 request.text += L"\r(" + error.Source() + L")";
             if (helpFile.empty() && !error.HelpFile().empty()) {
@@ -62,11 +100,17 @@ void ReportError(Platform& platform, const QuorError& error, const std::wstring&
 }
 
 void ShowMessage(Platform& platform, const std::wstring& text, const std::wstring& title,
-                 const std::wstring& helpFile, std::int32_t helpContext) noexcept {
+                 const std::wstring& helpFile, std::int32_t helpContext, std::int32_t textId) noexcept {
     try {
-        Show(platform, {text, title, ICON_INFORMATION, helpFile, helpContext});
+        Show(platform, {text, title, ICON_INFORMATION, helpFile, helpContext, textId});
     } catch (...) { // as above
     }
+}
+
+void ShowMessage(Platform& platform, EStringId id) { ShowMessage(platform, id, TableText(id)); }
+
+void ShowMessage(Platform& platform, EStringId id, const std::wstring& text) {
+    ShowMessage(platform, text, TableText(IDS_MESSAGE_TITLE), {}, 0, id);
 }
 
 } // namespace QuorConversions

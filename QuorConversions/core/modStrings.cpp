@@ -1,5 +1,9 @@
 #include "QuorConversions/core/modStrings.h"
 
+#include "QuorIniFile/detail/IniError.h"
+
+#include <vector>
+
 namespace QuorConversions {
 namespace {
 
@@ -13,17 +17,13 @@ std::wstring_view Trimmed(std::wstring_view text) {
 } // namespace
 
 std::wstring ReplaceTildes(std::wstring_view textTemplate, std::wstring_view values) {
-    std::wstring result;
-    for (const wchar_t character : textTemplate) {
-        if (character != L'~') {
-            result += character;
-            continue;
-        }
-        const auto bar = values.find(L'|');
-        result += Trimmed(values.substr(0, bar));
-        values = bar == std::wstring_view::npos ? std::wstring_view{} : values.substr(bar + 1);
+    std::vector<std::wstring> trimmed;
+    for (std::size_t start = 0; start != std::wstring_view::npos;) {
+        const auto bar = values.find(L'|', start);
+        trimmed.emplace_back(Trimmed(values.substr(start, bar - start)));
+        start = bar == std::wstring_view::npos ? bar : bar + 1;
     }
-    return result;
+    return QuorIniFile::FillTildes(textTemplate, trimmed);
 }
 
 } // namespace QuorConversions

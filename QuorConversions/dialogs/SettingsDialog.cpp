@@ -142,7 +142,7 @@ void SettingsDialog::AllowEditing(std::initializer_list<Control*> controls) cons
 }
 
 bool SettingsDialog::Refuse(EStringId message, Control* focus) {
-    ShowMessage(*m_platform, TableText(message), TableText(IDS_MESSAGE_TITLE));
+    ShowMessage(*m_platform, message);
     if (focus) {
         ShowPageOf(*focus);
         SetFocus(*focus);

@@ -23,6 +23,9 @@ struct MessageRequest {
     EMessageIcon icon = ICON_INFORMATION;
     std::wstring helpFile;
     std::int32_t helpContext = 0;
+    /// By which a program knows the message, whatever the language: the id of the string-table entry that the
+    /// text is made from, or begins with (101 for an error report); 0 where there is none.
+    std::int32_t textId = 0;
 };
 
 enum class FileDialogKind { Open, Save };

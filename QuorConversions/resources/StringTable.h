@@ -16,7 +16,8 @@ using StringTable = std::function<std::optional<std::wstring>(std::int32_t id)>;
 /// library. Texts are looked up at each use; an empty function gives the built-in texts back.
 QUORCONVERSIONS_EXPORT void ReplaceStringTable(StringTable table);
 
-/// The text of the entry `id` (101 to 212); empty text for an id without an entry.
+/// The text of the entry `id` (101 to 212; above 1000 for the store's errors); empty text for an id without
+/// an entry.
 [[nodiscard]] QUORCONVERSIONS_EXPORT std::wstring TableText(std::int32_t id);
 
 } // namespace QuorConversions

@@ -40,8 +40,8 @@ void CQuorThermistor::WriteRecord(RecordWriter& record) const {
 void CQuorThermistor::ReadRecord(RecordReader& record) {
     const std::int32_t stored = record.Integer(convTypeKey, m_convType);
     if (stored != m_convType) {
-        ShowMessage(
-            ReplaceTildes(TableText(IDS_WRONG_THERMISTOR_DIRECTION), GetName() + L"|" + Direction(stored)));
+        ShowMessage(IDS_WRONG_THERMISTOR_DIRECTION, ReplaceTildes(TableText(IDS_WRONG_THERMISTOR_DIRECTION),
+                                                                  GetName() + L"|" + Direction(stored)));
         return;
     }
     ResizeCoefficients(ReadCount(record));

@@ -31,7 +31,7 @@ void CQuorTCTypeX::FillTCTypeNameCombo(ListControl& ctrl) const { typesWithPoint
 bool CQuorTCTypeX::CheckPoint(std::int32_t index) const {
     if (IsValidPoint(index))
         return true;
-    ShowMessage(TableText(IDS_TC_TYPE_INDEX) + std::to_wstring(index));
+    ShowMessage(IDS_TC_TYPE_INDEX, TableText(IDS_TC_TYPE_INDEX) + std::to_wstring(index));
     return false;
 }
 

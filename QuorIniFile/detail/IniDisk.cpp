@@ -70,7 +70,8 @@ std::wstring WordsFor(int code) { return DecodeBytes(std::generic_category().mes
 [[noreturn]] void RaiseFor(const std::string& temporaryPath, int code, std::wstring_view fileName) {
     if (code == ENOMEM)
         throw std::bad_alloc();
-    throw FileError(ErrorFor(code).number, fileName, DecodeBytes(temporaryPath) + L": " + WordsFor(code));
+    throw FileError(ErrorFor(code).number, fileName, INI_CAUSE_SYSTEM_AT_PATH,
+                    {DecodeBytes(temporaryPath), WordsFor(code)});
 }
 
 int CodeOf(int error) { return error; }
@@ -124,9 +125,9 @@ void RequireRegular(const IniFileStatus& status, std::wstring_view fileName) {
     if (status.kind == IniFileStatus::Kind::Folder)
         Raise(EISDIR, fileName, Purpose::Read);
     if (status.kind != IniFileStatus::Kind::Regular)
-        throw FileError(ERR_PATH_FILE_ACCESS, fileName, L"It is not a regular file");
+        throw FileError(ERR_PATH_FILE_ACCESS, fileName, INI_CAUSE_NOT_A_REGULAR_FILE);
     if (status.size > largestFile)
-        throw FileError(ERR_PATH_FILE_ACCESS, fileName, L"It is larger than 4 GiB");
+        throw FileError(ERR_PATH_FILE_ACCESS, fileName, INI_CAUSE_TOO_LARGE);
 }
 
 /// The status of the regular file behind `path`, or nothing when there is none.
@@ -214,7 +215,7 @@ std::optional<RegularFile> OpenRegular(const std::string& path, const Target& ta
     if (opened.error == ENOENT)
         return std::nullopt;
     if (opened.error == EWOULDBLOCK)
-        throw FileError(ERR_PERMISSION_DENIED, target.fileName, L"In use by another program");
+        throw FileError(ERR_PERMISSION_DENIED, target.fileName, INI_CAUSE_IN_USE);
     if (opened.error != 0)
         Raise(opened.error, target.fileName, Purpose::Read);
     OpenFile file(target.files, opened.value);
@@ -246,7 +247,7 @@ std::string ReadAll(const RegularFile& regular, const Target& target) {
             return bytes;
         }
         if (used > largestFile)
-            throw FileError(ERR_PATH_FILE_ACCESS, target.fileName, L"It is larger than 4 GiB");
+            throw FileError(ERR_PATH_FILE_ACCESS, target.fileName, INI_CAUSE_TOO_LARGE);
         if (used == bytes.size())
             bytes.resize(used + bufferSize);
     }
@@ -504,7 +505,7 @@ public:
 
     std::optional<IniStamp> Commit(std::string_view bytes, std::optional<std::string_view> read) {
         if (bytes.size() > largestFile)
-            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, L"It would be larger than 4 GiB");
+            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, INI_CAUSE_WOULD_BE_TOO_LARGE);
         RequireWritable();
         const auto setback = CommitUnlessStolen(bytes, read);
         if (!m_kept.empty())
@@ -571,17 +572,17 @@ private:
     [[nodiscard]] QuorError ErrorOf(SetbackKind kind) const {
         switch (kind) {
         case SetbackKind::LockLost:
-            return FileError(ERR_PERMISSION_DENIED, m_fileName,
-                             L"Another program keeps removing " + DecodeBytes(m_neighbours.lock));
+            return FileError(ERR_PERMISSION_DENIED, m_fileName, INI_CAUSE_KEEPS_REMOVING,
+                             {DecodeBytes(m_neighbours.lock)});
         case SetbackKind::TemporaryLost:
         case SetbackKind::NeedsName:
         case SetbackKind::Stolen:
-            return FileError(ERR_PATH_FILE_ACCESS, m_fileName,
-                             L"Another program keeps removing " + DecodeBytes(m_temporary));
+            return FileError(ERR_PATH_FILE_ACCESS, m_fileName, INI_CAUSE_KEEPS_REMOVING,
+                             {DecodeBytes(m_temporary)});
         case SetbackKind::FileChanged:
             break;
         }
-        return FileError(ERR_PERMISSION_DENIED, m_fileName, L"Another program keeps writing it");
+        return FileError(ERR_PERMISSION_DENIED, m_fileName, INI_CAUSE_KEEPS_WRITING);
     }
 
     // The lock.
@@ -597,7 +598,7 @@ private:
             return false;
         }
         if (created.error == EACCES)
-            throw FileError(ERR_PERMISSION_DENIED, m_fileName, L"Its folder does not allow new files");
+            throw FileError(ERR_PERMISSION_DENIED, m_fileName, INI_CAUSE_FOLDER_REFUSES_FILES);
         if (created.error != 0)
             Raise(created.error, m_fileName, Purpose::Write);
 
@@ -633,15 +634,15 @@ private:
         const OpenFile lock(m_files, opened.value);
         const IniFileStatus status = StatusOf(lock, Here(), Purpose::Write);
         if (status.kind != IniFileStatus::Kind::Regular || status.size != 0)
-            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName,
-                            DecodeBytes(m_neighbours.lock) + L": It is not the lock file of a save");
+            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, INI_CAUSE_NOT_A_LOCK_FILE,
+                            {DecodeBytes(m_neighbours.lock)});
         const int error = Uninterrupted([&] { return m_files.TryLock(lock.Get()); });
         if (error == ENOTSUP)
             RemoveUntouched(&lock, isLast);
         else if (error == 0 && FileAt(m_neighbours.lock) == FileId(status))
             RemoveLeftovers(StampOfOpen(lock, Here(), Purpose::Write));
         else if (error == EWOULDBLOCK && isLast)
-            throw InUseBy(m_files.LockHolder(lock.Get()));
+            throw InUse(m_files.LockHolder(lock.Get()));
         else if (error != 0 && error != EWOULDBLOCK)
             RaiseFor(m_neighbours.lock, error, m_fileName);
     }
@@ -656,7 +657,7 @@ private:
         if (!isLast || !stamp.exists)
             return;
         if (stamp != m_firstSeen)
-            throw InUseBy("");
+            throw InUse({});
         RemoveLeftovers(stamp);
     }
 
@@ -679,9 +680,8 @@ private:
         }
     }
 
-    [[nodiscard]] QuorError InUseBy(const std::string& holder) const {
-        return FileError(ERR_PERMISSION_DENIED, m_fileName,
-                         L"In use by " + (holder.empty() ? L"another program" : DecodeBytes(holder)));
+    [[nodiscard]] QuorError InUse(const IniLockHolder& holder) const {
+        return FileError(ERR_PERMISSION_DENIED, m_fileName, holder.cause, {DecodeBytes(holder.process)});
     }
 
     // The new text.
@@ -691,7 +691,7 @@ private:
             return;
         const int error = Uninterrupted([&] { return m_files.MayWrite(m_path); });
         if (error == EACCES)
-            throw FileError(ERR_PERMISSION_DENIED, m_fileName, L"The file is read-only");
+            throw FileError(ERR_PERMISSION_DENIED, m_fileName, INI_CAUSE_READ_ONLY);
         if (error != 0)
             Raise(error, m_fileName, Purpose::Write);
     }
@@ -919,9 +919,8 @@ private:
             m_kept += (m_kept.empty() ? "" : ", ") + (error == 0 ? kept : m_temporary);
     }
     [[nodiscard]] QuorError KeptAside() const {
-        return FileError(ERR_PATH_FILE_ACCESS, m_fileName,
-                         L"Another program has replaced it at the same moment; its file is kept as " +
-                             DecodeBytes(m_kept));
+        return FileError(ERR_PATH_FILE_ACCESS, m_fileName, INI_CAUSE_REPLACED_AND_KEPT,
+                         {DecodeBytes(m_kept)});
     }
 
     /// Where files cannot change names, or there is no old one.
@@ -933,15 +932,13 @@ private:
             return std::nullopt;
         if (!HasLock()) // somebody has saved after us
             return SetbackKind::FileChanged;
-        throw FileError(ERR_PATH_FILE_ACCESS, m_fileName,
-                        L"Another program has replaced it at the same moment");
+        throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, INI_CAUSE_REPLACED);
     }
 
     /// What has come in between when a name could not be given. Raises what is an error.
     [[nodiscard]] SetbackKind WhyNot(int error) const {
         if (error == EBUSY)
-            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName,
-                            L"It is a mount point, which cannot be replaced");
+            throw FileError(ERR_PATH_FILE_ACCESS, m_fileName, INI_CAUSE_MOUNT_POINT);
         if (error != ENOENT)
             Raise(error, m_fileName, Purpose::Write);
         return FileAt(m_temporary) == m_text->id ? SetbackKind::FileChanged : SetbackKind::TemporaryLost;

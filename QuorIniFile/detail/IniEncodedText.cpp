@@ -5,15 +5,17 @@
 #include "QuorIniFile/detail/Unicode.h"
 
 #include <cstddef>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace QuorIniFile {
 namespace {
 
 constexpr std::size_t unitSize = 2; // bytes
 
-QuorError CannotBeRead(std::wstring_view fileName, std::wstring_view cause) {
-    return FileError(ERR_PATH_FILE_ACCESS, fileName, cause);
+QuorError CannotBeRead(std::wstring_view fileName, EIniCause cause, std::vector<std::wstring> values = {}) {
+    return FileError(ERR_PATH_FILE_ACCESS, fileName, cause, std::move(values));
 }
 
 IniFileEncoding EncodingByMark(std::string_view bytes) {
@@ -78,8 +80,7 @@ std::uint64_t SizeInUtf8(std::string_view bytes, IniFileEncoding encoding, std::
     for (Utf16Reader reader(bytes, encoding); !reader.IsAtEnd();) {
         const std::uint32_t code = reader.Next();
         if (code == noCharacter)
-            throw CannotBeRead(fileName, L"The file is UTF-16 text with half a surrogate pair in line " +
-                                             std::to_wstring(line));
+            throw CannotBeRead(fileName, INI_CAUSE_UTF16_HALF_A_PAIR, {std::to_wstring(line)});
         size += LengthInUtf8(code);
         line += code == '\n' ? 1 : 0;
     }
@@ -126,16 +127,16 @@ IniDecodedText DecodeFile(std::string bytes, std::wstring_view fileName, std::ui
     const IniFileEncoding encoding = EncodingByMark(bytes);
     if (encoding == IniFileEncoding::Bytes) {
         if (IsUtf16(bytes))
-            throw CannotBeRead(fileName, L"The file is UTF-16 text without a byte-order mark");
+            throw CannotBeRead(fileName, INI_CAUSE_UTF16_WITHOUT_MARK);
         return {std::move(bytes), encoding};
     }
     if (bytes.size() % unitSize != 0)
-        throw CannotBeRead(fileName, L"The file is UTF-16 text with an odd number of bytes");
+        throw CannotBeRead(fileName, INI_CAUSE_UTF16_ODD_SIZE);
     if (encoding == IniFileEncoding::Utf16LittleEndian && IsUtf32(bytes))
-        throw CannotBeRead(fileName, L"The file is UTF-32 text");
+        throw CannotBeRead(fileName, INI_CAUSE_UTF32);
     const std::uint64_t size = SizeInUtf8(bytes, encoding, fileName);
     if (size > most)
-        throw CannotBeRead(fileName, L"It is larger than 4 GiB as UTF-8");
+        throw CannotBeRead(fileName, INI_CAUSE_TOO_LARGE_AS_UTF8);
     IniDecodedText decoded{{}, encoding};
     decoded.text.reserve(static_cast<std::size_t>(size));
     for (Utf16Reader reader(bytes, encoding); !reader.IsAtEnd();)
@@ -147,15 +148,15 @@ void RequireDecodable(std::string_view text, IniFileEncoding encoding, std::wstr
                       std::uint64_t most) {
     const bool isUtf16 = encoding != IniFileEncoding::Bytes;
     if (!isUtf16 && IsUtf16(text))
-        throw CannotBeRead(fileName, L"With these changes it would be UTF-16 text");
+        throw CannotBeRead(fileName, INI_CAUSE_WOULD_BE_UTF16);
     if (isUtf16 && !IsUtf8(text))
-        throw CannotBeRead(fileName, L"With these changes it would be no valid UTF-16 text");
+        throw CannotBeRead(fileName, INI_CAUSE_WOULD_BE_INVALID_UTF16);
     const bool beginsWithNul = text.substr(MarkLength(text)).starts_with('\0'); // as almost never
     if (encoding == IniFileEncoding::Utf16LittleEndian && beginsWithNul &&
         IsUtf32(IniEncodedText(text, encoding).Bytes()))
-        throw CannotBeRead(fileName, L"With these changes it would be UTF-32 text");
+        throw CannotBeRead(fileName, INI_CAUSE_WOULD_BE_UTF32);
     if (text.size() > most || (isUtf16 && SizeInUtf16(text) > most))
-        throw CannotBeRead(fileName, L"It would be larger than 4 GiB");
+        throw CannotBeRead(fileName, INI_CAUSE_WOULD_BE_TOO_LARGE);
 }
 
 IniEncodedText::IniEncodedText(std::string_view text, IniFileEncoding encoding) : m_bytes(text) {

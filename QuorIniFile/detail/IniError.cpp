@@ -1,33 +1,85 @@
 #include "QuorIniFile/detail/IniError.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
-#include <string>
 #include <utility>
 
 namespace QuorIniFile {
 namespace {
 
-constexpr std::pair<EErrorNumber, std::wstring_view> texts[] = {
-    {ERR_BAD_FILE_NAME, L"Bad file name or number"},
-    {ERR_FILE_NOT_FOUND, L"File not found"},
-    {ERR_DEVICE_IO, L"Device I/O error"},
-    {ERR_DISK_FULL, L"Disk full"},
-    {ERR_PERMISSION_DENIED, L"Permission denied"},
-    {ERR_PATH_FILE_ACCESS, L"Path/File access error"},
-    {ERR_PATH_NOT_FOUND, L"Path not found"},
+struct NumberedText {
+    std::int32_t number;
+    std::wstring_view text;
 };
+
+#define QUOR_INI_ERROR(number, name, text) static_assert(ERR_##name == (number));
+#include "QuorIniFile/IniTexts.def"
+
+constexpr NumberedText standardTexts[] = {
+#define QUOR_INI_ERROR(number, name, text) {number, text},
+#include "QuorIniFile/IniTexts.def"
+};
+
+constexpr NumberedText causeTexts[] = {
+    {INI_CAUSE_NONE, L""},
+#define QUOR_INI_CAUSE(number, name, text) {number, text},
+#include "QuorIniFile/IniTexts.def"
+};
+
+template <std::size_t size>
+std::wstring_view TextOf(std::int32_t number, const NumberedText (&texts)[size],
+                         std::wstring_view otherwise) {
+    const auto* const found = std::find_if(std::begin(texts), std::end(texts),
+                                           [number](const auto& entry) { return entry.number == number; });
+    return found != std::end(texts) ? found->text : otherwise;
+}
+
+QuorError ErrorOf(std::int32_t number, IniCause cause) {
+    std::wstring description =
+        Describe(TextOf(number, standardTexts, L"Error"), TextOf(cause.code, causeTexts, L""), cause);
+    return {number, L"QuorIniFile", std::move(description), std::move(cause)};
+}
 
 } // namespace
 
-QuorError FileError(EErrorNumber number, std::wstring_view fileName, std::wstring_view cause) {
-    const auto* const text = std::find_if(std::begin(texts), std::end(texts),
-                                          [number](const auto& entry) { return entry.first == number; });
-    std::wstring description(text != std::end(texts) ? text->second : L"Error");
-    description.append(L": ").append(fileName);
-    if (!cause.empty())
-        description.append(L": ").append(cause);
-    return {number, L"QuorIniFile", std::move(description)};
+QuorError FileError(EErrorNumber number, std::wstring_view fileName, EIniCause cause,
+                    std::vector<std::wstring> values) {
+    return ErrorOf(number, {cause, std::wstring(fileName), std::move(values)});
+}
+
+QuorError FileError(EErrorNumber number, std::wstring_view fileName, std::wstring_view words) {
+    if (words.empty())
+        return FileError(number, fileName, INI_CAUSE_NONE);
+    return FileError(number, fileName, INI_CAUSE_SYSTEM, {std::wstring(words)});
+}
+
+QuorError WithFileName(const QuorError& error, std::wstring_view fileName) {
+    if (!error.Cause())
+        return error;
+    IniCause cause = *error.Cause();
+    cause.fileName = fileName;
+    return ErrorOf(error.Number(), std::move(cause));
+}
+
+std::wstring Describe(std::wstring_view standardText, std::wstring_view causeText, const IniCause& cause) {
+    std::wstring description(standardText);
+    description.append(L": ").append(cause.fileName);
+    if (!causeText.empty())
+        description.append(L": ").append(FillTildes(causeText, cause.values));
+    return description;
+}
+
+std::wstring FillTildes(std::wstring_view text, const std::vector<std::wstring>& values) {
+    std::wstring result;
+    auto next = values.begin();
+    for (const wchar_t character : text) {
+        if (character != L'~')
+            result += character;
+        else if (next != values.end())
+            result += *next++;
+    }
+    return result;
 }
 
 } // namespace QuorIniFile

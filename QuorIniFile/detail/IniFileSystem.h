@@ -1,5 +1,7 @@
 #pragma once
 
+#include "QuorIniFile/IniCause.h"
+
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
@@ -28,6 +30,13 @@ struct IniFileStatus {
     std::int64_t nanoseconds = 0;
     std::uint32_t rights = 0; // who may do what, as SetRights takes it
     std::uint64_t links = 1;  // how many names the file has
+};
+
+/// Who has a lock: the process and its name ("1234 (host)", "1234"), empty when the system does not tell; and
+/// the cause to tell, INI_CAUSE_IN_USE or one of its kin.
+struct IniLockHolder {
+    EIniCause cause = INI_CAUSE_IN_USE;
+    std::string process;
 };
 
 /// What the store asks of the operating system, a call a function, so that a test can put a disk in its place
@@ -92,9 +101,8 @@ public:
     /// whatever way; a child of that process does not have the lock. EWOULDBLOCK when somebody has the lock,
     /// ENOTSUP when this file system knows none.
     [[nodiscard]] virtual int TryLock(Handle file) = 0;
-    /// Who has the lock, for a person ("process 1234 (host)", "process 1234 (host), which is stopped"); empty
-    /// when the system does not tell.
-    [[nodiscard]] virtual std::string LockHolder(Handle file) = 0;
+    /// Who has the lock.
+    [[nodiscard]] virtual IniLockHolder LockHolder(Handle file) = 0;
 
     /// Gives one file the owner, group, mode, access lists and other extended attributes of another, as far
     /// as this user may. Who could not read the one cannot read the other at any moment.

@@ -163,26 +163,23 @@ std::optional<std::string> LockingProcess(const struct stat& /*status*/) { retur
 
 #endif
 
-/// The name of a process, and what keeps it from going on: " (host), which is stopped".
-std::string ConditionOf(const std::string& process) {
-    const char* const ended = ", which has ended; a process that it has started has its lock";
+/// The process of that number, its name where the system tells it, and what keeps it from going on.
+IniLockHolder HolderFrom(const std::string& process) {
     std::ifstream file("/proc/" + process + "/stat"); // 1234 (host) S ...; the name may hold anything
     std::string line;
     if (!std::getline(file, line)) { // it has ended, or is not shown to us
         const bool hasEnded = ::kill(static_cast<pid_t>(std::stol(process)), 0) != 0 && errno == ESRCH;
-        return hasEnded ? ended : "";
+        return {hasEnded ? INI_CAUSE_IN_USE_BY_ENDED : INI_CAUSE_IN_USE_BY, process};
     }
     const std::size_t open = line.find('(');
     const std::size_t close = line.rfind(") ");
     if (open == std::string::npos || close == std::string::npos || close + 2 >= line.size())
-        return {};
-    std::string name = ' ' + line.substr(open, close + 1 - open);
+        return {INI_CAUSE_IN_USE_BY, process};
+    std::string named = process + ' ' + line.substr(open, close + 1 - open);
     const char state = line[close + 2];
     if (state == 'T' || state == 't')
-        name += ", which is stopped";
-    else if (state == 'Z')
-        name += ended;
-    return name;
+        return {INI_CAUSE_IN_USE_BY_STOPPED, std::move(named)};
+    return {state == 'Z' ? INI_CAUSE_IN_USE_BY_ENDED : INI_CAUSE_IN_USE_BY, std::move(named)};
 }
 
 /// The lock files that this process has open. The kernel gives a lock back when all handles to it are closed,
@@ -362,10 +359,10 @@ public:
         return IsOneOf(error, {ENOLCK, ENOSYS, EINVAL, EOPNOTSUPP}) ? ENOTSUP : error;
     }
 
-    std::string LockHolder(Handle file) override {
+    IniLockHolder LockHolder(Handle file) override {
         struct stat status {};
         const auto process = ::fstat(Fd(file), &status) == 0 ? LockingProcess(status) : std::nullopt;
-        return process ? "process " + *process + ConditionOf(*process) : "";
+        return process ? HolderFrom(*process) : IniLockHolder();
     }
 
     int CopyAttributes(Handle from, Handle to) override {

@@ -1,6 +1,7 @@
 #include "apps/probe-setup/MainWindow.h"
 
 #include "QuorConversions/core/CQuorConversion.h"
+#include "QuorConversions/core/modMessages.h"
 #include "QuorConversions/core/modStrings.h"
 #include "QuorConversions/qt/QtPlatform.h"
 #include "QuorConversions/qt/QtText.h"
@@ -338,7 +339,7 @@ bool MainWindow::Try(const QString& what, const std::function<void()>& action) {
         action();
         return true;
     } catch (const QuorError& error) {
-        reason = ToQt(error.Description());
+        reason = ToQt(DescriptionOf(error));
     } catch (const DocumentError& error) {
         reason = Words(error);
     } catch (const std::exception& error) {
@@ -914,7 +915,7 @@ void MainWindow::Remember(const wchar_t* name, const QString& value) {
         if (m_registry && Remembered(name) != value)
             m_registry->WriteValue(registrySection, name, FromQt(value));
     } catch (const QuorError& error) {
-        statusBar()->showMessage(ToQt(error.Description()), 10000);
+        statusBar()->showMessage(ToQt(DescriptionOf(error)), 10000);
     }
 }
 

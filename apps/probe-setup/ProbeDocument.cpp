@@ -131,16 +131,18 @@ ReadProblems ProblemsOf(const std::vector<ReadLog::Read>& reads, const QuietPlat
             problems.keys.push_back(L"[" + read.section + L"] " + read.key);
     }
     // The message of missing keys says less than the keys themselves.
-    const std::wstring version = TableText(IDS_WRONG_FILE_VERSION);
-    std::copy_if(quiet.Messages().begin(), quiet.Messages().end(), std::back_inserter(problems.messages),
-                 [&](const std::wstring& message) { return problems.keys.empty() || message != version; });
+    for (const auto& [text, id] : quiet.Messages()) {
+        if (problems.keys.empty() || id != IDS_WRONG_FILE_VERSION)
+            problems.messages.push_back(text);
+    }
     return problems;
 }
 
 /// What DocumentError says of a probe that cannot be written.
 std::vector<std::wstring> Details(const std::wstring& probe, const QuietPlatform::Quiet& quiet) {
     std::vector<std::wstring> details{probe};
-    details.insert(details.end(), quiet.Messages().begin(), quiet.Messages().end());
+    for (const auto& message : quiet.Messages())
+        details.push_back(message.text);
     return details;
 }
 
@@ -842,10 +844,9 @@ void ProbeDocument::SaveCopyAs(const std::wstring& path, const OthersChanges& re
             error.file = path;
         throw;
     } catch (const QuorError& error) { // the user knows nothing of a work file
-        std::wstring text = error.Description();
-        if (const auto at = text.find(work.Path()); at != std::wstring::npos)
-            text.replace(at, work.Path().size(), path);
-        throw QuorError(error.Number(), error.Source(), text);
+        if (error.Cause() && error.Cause()->fileName == work.Path())
+            throw WithFileName(error, path);
+        throw;
     }
     ReplaceBytes(path, QuorIniFile::ReadBytes(work.Path(), m_files)->bytes, m_files);
     if (!m_path.empty() && !isOwn)

@@ -23,7 +23,7 @@ void QuietPlatform::ShowMessage(const MessageRequest& request) {
     }
     std::wstring text = request.text;
     std::replace(text.begin(), text.end(), L'\r', L' ');
-    m_quiet->m_messages.push_back(std::move(text));
+    m_quiet->m_messages.push_back({std::move(text), request.textId});
 }
 
 std::optional<std::wstring> QuietPlatform::AskForFile(const FileRequest& request) {

@@ -2,6 +2,7 @@
 
 #include "QuorConversions/platform/Platform.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -19,14 +20,17 @@ public:
         Quiet(const Quiet&) = delete;
         Quiet& operator=(const Quiet&) = delete;
         ~Quiet();
-        /// Each on one line.
-        [[nodiscard]] const std::vector<std::wstring>& Messages() const { return m_messages; }
+        struct Message {
+            std::wstring text;   ///< on one line
+            std::int32_t textId; ///< of the string table
+        };
+        [[nodiscard]] const std::vector<Message>& Messages() const { return m_messages; }
 
     private:
         friend class QuietPlatform;
         QuietPlatform& m_platform;
         Quiet* m_outer;
-        std::vector<std::wstring> m_messages;
+        std::vector<Message> m_messages;
     };
 
     explicit QuietPlatform(std::shared_ptr<QuorConversions::Platform> host) : m_host(std::move(host)) {}

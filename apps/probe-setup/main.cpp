@@ -1,5 +1,6 @@
 // Probe Setup: the probes of a host's file in a window.
 
+#include "QuorConversions/core/modMessages.h"
 #include "QuorConversions/qt/QtSession.h"
 #include "QuorConversions/qt/QtText.h"
 #include "QuorConversions/qt/Translations.h"
@@ -41,7 +42,7 @@ std::shared_ptr<QuorRegistryII::Registry> UserRegistry() {
     try {
         return std::make_shared<QuorRegistryII::FileRegistry>(L"probe-setup");
     } catch (const QuorIniFile::QuorError& error) {
-        std::cerr << "probe-setup: " << ToPrintable(error.Description()) << '\n';
+        std::cerr << "probe-setup: " << ToPrintable(QuorConversions::DescriptionOf(error)) << '\n';
         return nullptr; // a user without a home: nothing is remembered
     }
 }

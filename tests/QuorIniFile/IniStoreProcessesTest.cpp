@@ -3,7 +3,10 @@
 #include "QuorIniFile/IniStore.h"
 
 #include "QuorIniFile/QuorError.h"
+#include "QuorIniFile/Utf8.h"
 #include "QuorIniFile/detail/IniDisk.h"
+#include "QuorIniFile/detail/IniError.h"
+#include "QuorIniFile/detail/IniFormat.h"
 #include "tests/support/InterceptedFiles.h"
 #include "tests/support/Process.h"
 #include "tests/support/SimulatedDisk.h"
@@ -45,6 +48,14 @@ QuorError RaisedBy(const Action& action) {
         return error;
     }
     return {0, L"", L"nothing"};
+}
+
+/// How a message names who has a lock.
+std::wstring Told(const IniLockHolder& holder) {
+    const std::wstring inUse = L"Permission denied: a.ini: In use by ";
+    const std::wstring text =
+        FileError(ERR_PERMISSION_DENIED, L"a.ini", holder.cause, {DecodeBytes(holder.process)}).Description();
+    return text.starts_with(inUse) ? text.substr(inUse.size()) : text;
 }
 
 void Save(IniFileSystem& files, const std::wstring& file) {
@@ -361,12 +372,12 @@ TEST(IniStoreProcesses, TheProcessThatHasTheLockIsNamed) {
     const auto file = files.Open(folder.Path(folder.Files().front()).string(), Opening::ToLock);
     ASSERT_EQ(file.error, 0);
     EXPECT_EQ(files.TryLock(file.value), EWOULDBLOCK);
-    const std::string name = "process " + std::to_string(holder.Number()) + " (IniSaver)";
-    EXPECT_EQ(files.LockHolder(file.value), name);
+    const std::wstring name = L"process " + std::to_wstring(holder.Number()) + L" (IniSaver)";
+    EXPECT_EQ(Told(files.LockHolder(file.value)), name);
     ::kill(holder.Number(), SIGSTOP);
     siginfo_t info{};
     EXPECT_EQ(::waitid(P_PID, static_cast<id_t>(holder.Number()), &info, WSTOPPED | WNOWAIT), 0);
-    EXPECT_EQ(files.LockHolder(file.value), name + ", which is stopped");
+    EXPECT_EQ(Told(files.LockHolder(file.value)), name + L", which is stopped");
     files.Close(file.value);
 }
 
@@ -384,15 +395,16 @@ TEST(IniStoreProcesses, ALockThatAProcessHasLeftToAnotherOneIsToldOf) {
     }
     siginfo_t info{};
     EXPECT_EQ(::waitid(P_PID, static_cast<id_t>(parent), &info, WEXITED | WNOWAIT), 0);
-    const std::string ended = ", which has ended; a process that it has started has its lock";
-    const std::string holder = IniFileSystem::System().LockHolder(file); // nobody has waited for it yet
-    EXPECT_TRUE(holder.starts_with("process " + std::to_string(parent) + " (")) << holder;
-    EXPECT_TRUE(holder.ends_with(")" + ended)) << holder;
+    const std::wstring ended = L", which has ended; a process that it has started has its lock";
+    const std::wstring holder =
+        Told(IniFileSystem::System().LockHolder(file)); // nobody has waited for it yet
+    EXPECT_TRUE(holder.starts_with(L"process " + std::to_wstring(parent) + L" (")) << ToUtf8(holder);
+    EXPECT_TRUE(holder.ends_with(L")" + ended)) << ToUtf8(holder);
     int status = 0;
     ::waitpid(parent, &status, 0);
-    EXPECT_EQ(IniFileSystem::System().LockHolder(file),
-              "process " + std::to_string(parent) +
-                  ", which has ended; a process that it has started has its lock");
+    EXPECT_EQ(Told(IniFileSystem::System().LockHolder(file)),
+              L"process " + std::to_wstring(parent) +
+                  L", which has ended; a process that it has started has its lock");
     ::close(file);
 }
 
@@ -400,7 +412,7 @@ TEST(IniStoreProcesses, AFileThatIsInUseForTenSecondsIsAnErrorThatSaysByWhom) {
     SimulatedDisk disk;
     ForeignSave foreign(disk);
     foreign.Begin();
-    disk.lockHolder = "process 1234 (host)";
+    disk.lockHolder = {INI_CAUSE_IN_USE_BY, "1234 (host)"};
     const QuorError error = RaisedBy([&] { Save(disk, L"/a.ini"); });
     EXPECT_EQ(error.Number(), 70);
     EXPECT_EQ(error.Description(), L"Permission denied: /a.ini: In use by process 1234 (host)");
@@ -408,7 +420,7 @@ TEST(IniStoreProcesses, AFileThatIsInUseForTenSecondsIsAnErrorThatSaysByWhom) {
     EXPECT_LT(disk.waited, 11s);
     EXPECT_EQ(disk.Now().size(), 1U) << "what the other one has begun stays";
 
-    disk.lockHolder = "";
+    disk.lockHolder = {};
     EXPECT_EQ(RaisedBy([&] { Save(disk, L"/a.ini"); }).Description(),
               L"Permission denied: /a.ini: In use by another program");
 

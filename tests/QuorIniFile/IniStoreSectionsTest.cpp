@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <sys/stat.h>
@@ -239,4 +240,20 @@ TEST_F(IniStoreSections, ThatWereDiscardedAreNeverSaved) {
     store->Discard();
     store.reset();
     EXPECT_EQ(File(), text);
+}
+
+TEST_F(IniStoreSections, TheirRefusalsHaveACauseAndANameForPrograms) {
+    File("[A]\n[B]\n");
+    const auto causeOf = [&](const wchar_t* from, const wchar_t* to) {
+        try {
+            store->RenameSection(from, to);
+        } catch (const QuorError& error) {
+            EXPECT_EQ(error.Cause()->fileName, folder.Name("a.ini"));
+            return std::pair(error.Cause()->code, error.Cause()->values);
+        }
+        return std::pair(INI_CAUSE_NONE, Names{});
+    };
+    EXPECT_EQ(causeOf(L"A", L"b"), std::pair(INI_CAUSE_SECTION_EXISTS, Names{L"b"}));
+    EXPECT_EQ(causeOf(L"C", L"D"), std::pair(INI_CAUSE_NO_SUCH_SECTION, Names{L"C"}));
+    EXPECT_EQ(causeOf(L"A", L"C\nD"), std::pair(INI_CAUSE_BAD_SECTION_NAME, Names{L"C\nD"}));
 }

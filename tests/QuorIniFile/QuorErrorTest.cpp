@@ -12,4 +12,5 @@ TEST(QuorError, CarriesEverythingThatAReportPrints) {
     EXPECT_EQ(error.HelpFile(), L"quor.hlp");
     EXPECT_EQ(error.HelpContext(), 10100);
     EXPECT_STREQ(error.what(), "File not found: \xC2\xB0.ini");
+    EXPECT_FALSE(error.Cause()) << "the store has not raised it";
 }

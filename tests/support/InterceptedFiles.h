@@ -82,7 +82,7 @@ public:
     int TryLock(Handle file) override {
         return Do("TryLock", [&] { return m_files.TryLock(file); });
     }
-    std::string LockHolder(Handle file) override { return m_files.LockHolder(file); }
+    QuorIniFile::IniLockHolder LockHolder(Handle file) override { return m_files.LockHolder(file); }
     int CopyAttributes(Handle from, Handle to) override {
         return Do("CopyAttributes", [&] { return m_files.CopyAttributes(from, to); });
     }

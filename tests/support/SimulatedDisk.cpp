@@ -214,7 +214,7 @@ int SimulatedDisk::TryLock(Handle file) {
     return m_locks.try_emplace(key, file).first->second == file ? 0 : EWOULDBLOCK;
 }
 
-std::string SimulatedDisk::LockHolder(Handle /*file*/) { return lockHolder; }
+QuorIniFile::IniLockHolder SimulatedDisk::LockHolder(Handle /*file*/) { return lockHolder; }
 
 int SimulatedDisk::CopyAttributes(Handle /*from*/, Handle /*to*/) { return 0; }
 

@@ -38,7 +38,7 @@ public:
     /// How long a look at a path takes.
     std::chrono::milliseconds latency{0};
     /// What LockHolder tells.
-    std::string lockHolder;
+    QuorIniFile::IniLockHolder lockHolder;
     /// How long the store has waited, for others and for calls that take their time.
     std::chrono::milliseconds waited{0};
 
@@ -67,7 +67,7 @@ public:
     int Sync(Handle file) override;
     int SyncFolder(const std::string& path) override;
     int TryLock(Handle file) override;
-    std::string LockHolder(Handle file) override;
+    QuorIniFile::IniLockHolder LockHolder(Handle file) override;
     int CopyAttributes(Handle from, Handle to) override;
     int Rename(const std::string& from, const std::string& to) override;
     int SetRights(Handle file, std::uint32_t rights) override;

@@ -178,3 +178,12 @@ TEST_F(StringTableTest, ThatFailsSpoilsNoCallThatReports) {
     std::wstring filename;
     EXPECT_NO_THROW(EXPECT_FALSE(conversion.Settings()->OpenFile(0, filename)));
 }
+
+TEST_F(StringTableTest, HoldsWhatTheStoreSaysOfItsErrors) {
+    EXPECT_EQ(TableText(1052), L"Bad file name or number");
+    EXPECT_EQ(TableText(1076), L"Path not found");
+    EXPECT_EQ(TableText(2041), L"In use by process ~");
+    EXPECT_EQ(TableText(2082), L"A record could not be written whole, so nothing was saved");
+    for (const std::int32_t id : {1000, 1051, 1999, 2000, 2900})
+        EXPECT_EQ(TableText(id), L"") << id;
+}

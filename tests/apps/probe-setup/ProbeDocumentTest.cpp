@@ -1,5 +1,6 @@
 #include "apps/probe-setup/ProbeDocument.h"
 
+#include "QuorConversions/resources/StringTable.h"
 #include "QuorConversions/rtd/CQuorCVD.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
@@ -11,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -1013,4 +1015,34 @@ TEST_F(ProbeDocumentTest, ManyProbesAreOpenedAndSavedWithoutReadingThem) {
         expected +=
             "[P" + std::to_string(i) + "]\nConversionType=2\n[P" + std::to_string(i) + " - Settings]\nx=1\n";
     EXPECT_EQ(File(), expected);
+}
+
+TEST_F(ProbeDocumentTest, MissingKeysAreToldWithoutTheMessageThatSaysLessInEveryLanguage) {
+    ReplaceStringTable([](std::int32_t id) -> std::optional<std::wstring> {
+        return id == 119 ? std::optional<std::wstring>(L"Die Datei ist unlesbar.\rIhre Version stimmt nicht.")
+                         : std::nullopt;
+    });
+    Open(Replaced(host, "Coefficients1=3.9083E-3\n", ""));
+    const Texts messages = document.CheckRecord(0).messages;
+    ReplaceStringTable({});
+    EXPECT_EQ(document.CheckRecord(0).keys, Texts{L"[Probe 1 - Settings] Coefficients1"});
+    EXPECT_EQ(messages, Texts{});
+}
+
+TEST_F(ProbeDocumentTest, ACopyThatFailsIsAnErrorAboutTheFileThatTheUserHasNamed) {
+    Open();
+    int flushes = 0;
+    files.onCall = [&](std::string_view call) { return call == "Sync" && ++flushes == 2 ? EIO : 0; };
+    document.SetType(1, CONV_VOLTS);
+    try {
+        document.SaveCopyAs(folder.Name("copy.ini"));
+        ADD_FAILURE() << "nothing was raised";
+    } catch (const QuorError& error) {
+        EXPECT_EQ(error.Number(), 57);
+        EXPECT_EQ(error.Description(), L"Device I/O error: " + folder.Name("copy.ini"));
+        ASSERT_TRUE(error.Cause());
+        EXPECT_EQ(error.Cause()->fileName, folder.Name("copy.ini"));
+    }
+    EXPECT_GE(flushes, 2);
+    EXPECT_FALSE(fs::exists(folder.Path("copy.ini")));
 }

@@ -66,7 +66,9 @@ bool IsTheSameInEveryLanguage(std::int32_t id) {
                                                 IDS_T_OF_R,
                                                 IDS_R_OF_T,
                                                 IDS_OFFSET,
-                                                IDS_PT100};
+                                                IDS_PT100,
+                                                IDS_INI_SYSTEM,
+                                                IDS_INI_SYSTEM_AT_PATH};
     return same.count(id) > 0;
 }
 
@@ -160,6 +162,21 @@ TEST_F(TranslationsTest, MakeWholeSentencesOfTheParts) {
     // The notes name what the user is to look for by the text that stands there.
     EXPECT_NE(TableText(IDS_RANGE_5_SELECT_NONE).find(TableText(IDS_NO_RANGE)), std::wstring::npos);
     EXPECT_NE(TableText(IDS_RANGE_5_SELECT_NONE).find(TableText(IDS_HIGH_RANGE)), std::wstring::npos);
+}
+
+TEST_F(TranslationsTest, ReportAnErrorOfTheStoreInGerman) {
+    const auto platform = std::make_shared<Support::ScriptedPlatform>();
+    CQuorConversion conversion(platform);
+    std::shared_ptr<QuorIniFile::INIFile> none;
+    EXPECT_FALSE(conversion.ReadFromFile(none, L"/missing/probes.ini", L"Probe"));
+    EXPECT_EQ(platform->Messages().at(0).text, L"Fehler beim Lesen der Einstellungen.\r"
+                                               L"\rFehler: 53 - Datei nicht gefunden: /missing/probes.ini"
+                                               L"\r(QuorIniFile)");
+    conversion.WriteToFile(none, L"/dev/null", L"Probe");
+    EXPECT_EQ(platform->Messages().at(1).text,
+              L"Fehler beim Schreiben der Einstellungen.\r"
+              L"\rFehler: 75 - Fehler beim Zugriff auf Pfad oder Datei: /dev/null: Es ist keine "
+              L"gew\u00F6hnliche Datei\r(QuorIniFile)");
 }
 
 TEST_F(TranslationsTest, NeverReachSectionsAndKeys) {

@@ -387,6 +387,162 @@
         <source>PT100</source>
         <translation>PT100</translation>
     </message>
+    <message>
+        <source>File not found</source>
+        <translation>Datei nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Device I/O error</source>
+        <translation>E/A-Fehler des Geräts</translation>
+    </message>
+    <message>
+        <source>Disk full</source>
+        <translation>Datenträger voll</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Zugriff verweigert</translation>
+    </message>
+    <message>
+        <source>Path/File access error</source>
+        <translation>Fehler beim Zugriff auf Pfad oder Datei</translation>
+    </message>
+    <message>
+        <source>Path not found</source>
+        <translation>Pfad nicht gefunden</translation>
+    </message>
+    <message>
+        <source>~</source>
+        <translation>~</translation>
+    </message>
+    <message>
+        <source>~: ~</source>
+        <translation>~: ~</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>Es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>It is a mount point, which cannot be replaced</source>
+        <translation>Auf der Datei ist ein anderes Dateisystem eingehängt; sie kann nicht ersetzt werden</translation>
+    </message>
+    <message>
+        <source>The file is read-only</source>
+        <translation>Die Datei ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>Its folder does not allow new files</source>
+        <translation>In ihrem Ordner dürfen keine neuen Dateien angelegt werden</translation>
+    </message>
+    <message>
+        <source>~: It is not the lock file of a save</source>
+        <translation>~: Das ist keine Sperrdatei eines Speichervorgangs</translation>
+    </message>
+    <message>
+        <source>It is larger than 4 GiB</source>
+        <translation>Die Datei ist größer als 4 GiB</translation>
+    </message>
+    <message>
+        <source>It would be larger than 4 GiB</source>
+        <translation>Die Datei würde größer als 4 GiB</translation>
+    </message>
+    <message>
+        <source>It is larger than 4 GiB as UTF-8</source>
+        <translation>Als UTF-8 ist die Datei größer als 4 GiB</translation>
+    </message>
+    <message>
+        <source>The file is UTF-16 text without a byte-order mark</source>
+        <translation>Die Datei ist UTF-16-Text ohne Bytereihenfolge-Marke (BOM)</translation>
+    </message>
+    <message>
+        <source>The file is UTF-16 text with an odd number of bytes</source>
+        <translation>Die Datei ist UTF-16-Text mit einer ungeraden Anzahl von Bytes</translation>
+    </message>
+    <message>
+        <source>The file is UTF-16 text with half a surrogate pair in line ~</source>
+        <translation>Die Datei ist UTF-16-Text mit einem halben Surrogatpaar in Zeile ~</translation>
+    </message>
+    <message>
+        <source>The file is UTF-32 text</source>
+        <translation>Die Datei ist UTF-32-Text</translation>
+    </message>
+    <message>
+        <source>With these changes it would be UTF-16 text</source>
+        <translation>Mit diesen Änderungen würde die Datei zu UTF-16-Text</translation>
+    </message>
+    <message>
+        <source>With these changes it would be no valid UTF-16 text</source>
+        <translation>Mit diesen Änderungen wäre die Datei kein gültiger UTF-16-Text</translation>
+    </message>
+    <message>
+        <source>With these changes it would be UTF-32 text</source>
+        <translation>Mit diesen Änderungen würde die Datei zu UTF-32-Text</translation>
+    </message>
+    <message>
+        <source>In use by another program</source>
+        <translation>Wird von einem anderen Programm benutzt</translation>
+    </message>
+    <message>
+        <source>In use by process ~</source>
+        <translation>Wird von Prozess ~ benutzt</translation>
+    </message>
+    <message>
+        <source>In use by process ~, which is stopped</source>
+        <translation>Wird von Prozess ~ benutzt, der angehalten ist</translation>
+    </message>
+    <message>
+        <source>In use by process ~, which has ended; a process that it has started has its lock</source>
+        <translation>Wird von Prozess ~ benutzt, der beendet ist; ein von ihm gestarteter Prozess hält die Sperre</translation>
+    </message>
+    <message>
+        <source>Another program keeps writing it</source>
+        <translation>Ein anderes Programm schreibt die Datei immer wieder</translation>
+    </message>
+    <message>
+        <source>Another program keeps removing ~</source>
+        <translation>Ein anderes Programm löscht immer wieder ~</translation>
+    </message>
+    <message>
+        <source>Another program has replaced it at the same moment</source>
+        <translation>Ein anderes Programm hat die Datei im selben Augenblick ersetzt</translation>
+    </message>
+    <message>
+        <source>Another program has replaced it at the same moment; its file is kept as ~</source>
+        <translation>Ein anderes Programm hat die Datei im selben Augenblick ersetzt; dessen Datei wurde aufbewahrt als ~</translation>
+    </message>
+    <message>
+        <source>There is no section &quot;~&quot;</source>
+        <translation>Es gibt keinen Abschnitt „~“</translation>
+    </message>
+    <message>
+        <source>There is a section &quot;~&quot; already</source>
+        <translation>Es gibt bereits einen Abschnitt „~“</translation>
+    </message>
+    <message>
+        <source>No section can have the name &quot;~&quot;</source>
+        <translation>Kein Abschnitt kann den Namen „~“ haben</translation>
+    </message>
+    <message>
+        <source>No key can have the name &quot;~&quot;</source>
+        <translation>Kein Schlüssel kann den Namen „~“ haben</translation>
+    </message>
+    <message>
+        <source>Another program has removed or renamed the section &quot;~&quot;, of which only a part was written</source>
+        <translation>Ein anderes Programm hat den Abschnitt „~“ entfernt oder umbenannt, von dem nur ein Teil geschrieben wurde</translation>
+    </message>
+    <message>
+        <source>An edit of it has not ended</source>
+        <translation>Eine Bearbeitung der Datei ist noch nicht beendet</translation>
+    </message>
+    <message>
+        <source>No edit can begin between Hold and Release</source>
+        <translation>Zwischen Hold und Release kann keine Bearbeitung beginnen</translation>
+    </message>
+    <message>
+        <source>A record could not be written whole, so nothing was saved</source>
+        <translation>Ein Datensatz konnte nicht vollständig geschrieben werden; deshalb wurde nichts gespeichert</translation>
+    </message>
 </context>
 <context>
     <name>HelpWindow</name>

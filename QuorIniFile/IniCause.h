@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace QuorIniFile {
+
+/// Why the store raises an error, for programs: INI_CAUSE_<name> of each row of IniTexts.def. The numbers
+/// keep their meaning for ever; new ones are only added.
+enum EIniCause : std::int32_t {
+    INI_CAUSE_NONE = 0, ///< the number of the error says it all
+#define QUOR_INI_CAUSE(number, name, text) INI_CAUSE_##name = (number),
+#include "QuorIniFile/IniTexts.def"
+};
+
+/// What the description of an error of the store is made from. Whoever decides by an error looks here, never
+/// at its text.
+struct IniCause {
+    EIniCause code = INI_CAUSE_NONE;
+    std::wstring fileName;            ///< the file, as the caller has named it
+    std::vector<std::wstring> values; ///< names, paths and the like, one for each "~" of the cause's text
+};
+
+} // namespace QuorIniFile
