@@ -28,8 +28,8 @@ constexpr NumberedText causeTexts[] = {
 };
 
 template <std::size_t size>
-std::wstring_view TextOf(std::int32_t number, const NumberedText (&texts)[size],
-                         std::wstring_view otherwise) {
+std::wstring_view FindText(std::int32_t number, const NumberedText (&texts)[size],
+                           std::wstring_view otherwise) {
     const auto* const found = std::find_if(std::begin(texts), std::end(texts),
                                            [number](const auto& entry) { return entry.number == number; });
     return found != std::end(texts) ? found->text : otherwise;
@@ -37,7 +37,7 @@ std::wstring_view TextOf(std::int32_t number, const NumberedText (&texts)[size],
 
 QuorError ErrorOf(std::int32_t number, IniCause cause) {
     std::wstring description =
-        Describe(TextOf(number, standardTexts, L"Error"), TextOf(cause.code, causeTexts, L""), cause);
+        Describe(FindText(number, standardTexts, L"Error"), FindText(cause.code, causeTexts, L""), cause);
     return {number, L"QuorIniFile", std::move(description), std::move(cause)};
 }
 
