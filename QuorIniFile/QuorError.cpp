@@ -16,8 +16,11 @@ QuorError::QuorError(std::int32_t number, std::wstring source, std::wstring desc
       m_what(ToUtf8(m_description)) {}
 
 QuorError::QuorError(std::int32_t number, std::wstring source, std::wstring description, IniCause cause)
-    : QuorError(number, std::move(source), std::move(description)) {
-    m_cause = std::move(cause);
-}
+    : m_number(number),
+      m_source(std::move(source)),
+      m_description(std::move(description)),
+      m_helpContext(0),
+      m_cause(std::move(cause)),
+      m_what(ToUtf8(m_description)) {}
 
 } // namespace QuorIniFile
