@@ -2,6 +2,7 @@
 
 // All that a host needs of the conversions: the facade and the settings objects,
 #include "QuorConversions/core/CQuorConversion.h"
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorConversions/polynomial/CQuorPolynomial.h"
 #include "QuorConversions/rtd/CQuorCVD.h"
 #include "QuorConversions/rtd/CQuorHTPRT.h"

@@ -1,7 +1,9 @@
 #pragma once
 
 // All that a host needs of the INI-file component.
+#include "QuorIniFile/AsciiCase.h"
 #include "QuorIniFile/INIFile.h"
+#include "QuorIniFile/IniCause.h"
 #include "QuorIniFile/IniLeftover.h"
 #include "QuorIniFile/IniLines.h"
 #include "QuorIniFile/IniStore.h"

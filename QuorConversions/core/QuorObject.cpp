@@ -159,7 +159,7 @@ void QuorObject::WriteToFile(const std::wstring& fname, const std::wstring& secn
 
 void QuorObject::WriteOrRaise(const std::shared_ptr<INIFile>& iniFile, const std::wstring& secname) const {
     iniFile->SetSection(secname);
-    iniFile->WriteString(L"Version", QUOR_LIBRARY_VERSION);
+    iniFile->WriteString(versionKey, QUOR_LIBRARY_VERSION);
     RecordWriter record(iniFile, secname, m_className, RecordWriter::Failures::Raised);
     WriteRecord(record);
 }

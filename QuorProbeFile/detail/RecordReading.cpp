@@ -27,7 +27,7 @@ std::wstring OnOneLine(const std::wstring& text) {
 
 void MessageCollector::ShowMessage(const MessageRequest& request) {
     m_messages.push_back(
-        {OnOneLine(request.text), m_reads->Count(), request.text == TableText(IDS_WRONG_FILE_VERSION)});
+        {OnOneLine(request.text), m_reads->Count(), request.textId == IDS_WRONG_FILE_VERSION});
 }
 
 RecordReading::RecordReading(const std::shared_ptr<IniStore>& store, std::wstring_view path,
