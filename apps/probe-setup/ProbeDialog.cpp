@@ -4,6 +4,7 @@
 #include "QuorConversions/qt/QtText.h"
 #include "QuorProbeFile/ProbeTypes.h"
 #include "apps/probe-setup/TypeTexts.h"
+#include "apps/probe-setup/Wording.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -20,33 +21,6 @@ namespace ProbeSetup {
 using namespace QuorConversions;
 using QtToolkit::FromQt;
 using QtToolkit::ToQt;
-
-QString TextOf(NameProblem problem, const QString& name) {
-    switch (problem) {
-    case NameProblem::None:
-        return {};
-    case NameProblem::Empty:
-        return QCoreApplication::translate("NameProblem", "A probe needs a name.");
-    case NameProblem::CannotBeWritten:
-        return QCoreApplication::translate("NameProblem", "No section of a file can be called \"%1\".")
-            .arg(name);
-    case NameProblem::ProbeExists:
-        return QCoreApplication::translate("NameProblem", "There is a probe called \"%1\" already.")
-            .arg(name);
-    case NameProblem::SectionExists:
-        return QCoreApplication::translate("NameProblem", "The file has a section of its own called \"%1\".")
-            .arg(name);
-    case NameProblem::IsSettingsOfProbe:
-        return QCoreApplication::translate("NameProblem",
-                                           "Another probe keeps its settings in the section \"%1\".")
-            .arg(name);
-    case NameProblem::SettingsSectionExists:
-        return QCoreApplication::translate(
-                   "NameProblem", "The file has a section in which the settings of \"%1\" would stand.")
-            .arg(name);
-    }
-    return {};
-}
 
 ProbeDialog::ProbeDialog(QWidget* parent, const QString& probe, ProbeType type, std::function<void()> help)
     : QDialog(parent), m_types(new QListWidget), m_buttons(new QDialogButtonBox) {
@@ -127,7 +101,7 @@ void ProbeDialog::Build(const QString& hint, std::function<void()> help) {
 
 void ProbeDialog::CheckName() {
     const QString name = Name();
-    const QString problem = TextOf(m_document->CheckName(FromQt(name)), name);
+    const QString problem = Wording::Of(m_document->CheckName(FromQt(name)), name);
     m_problem->setText(problem);
     m_problem->setVisible(!problem.isEmpty());
     m_buttons->button(QDialogButtonBox::Ok)->setEnabled(problem.isEmpty());

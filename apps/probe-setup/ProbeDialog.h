@@ -16,9 +16,6 @@ class QListWidget;
 
 namespace ProbeSetup {
 
-/// Why a probe cannot be called `name`, for the user; empty for no problem.
-[[nodiscard]] QString TextOf(NameProblem problem, const QString& name);
-
 /// Asks for the type of a probe, and for the name of a new one.
 class ProbeDialog final : public QDialog {
     Q_DECLARE_TR_FUNCTIONS(ProbeDialog)

@@ -546,18 +546,18 @@ std::optional<StepKind> ProbeDocument::RedoKind() const {
     return m_undone.empty() ? std::nullopt : std::optional(m_undone.back().kind);
 }
 
-std::size_t ProbeDocument::Undo() {
+std::vector<std::size_t> ProbeDocument::Undo() {
     Toggle(m_done.back());
     m_undone.push_back(std::move(m_done.back()));
     m_done.pop_back();
-    return m_undone.back().places.front();
+    return m_undone.back().places;
 }
 
-std::size_t ProbeDocument::Redo() {
+std::vector<std::size_t> ProbeDocument::Redo() {
     Toggle(m_undone.back());
     m_done.push_back(std::move(m_undone.back()));
     m_undone.pop_back();
-    return m_done.back().places.front();
+    return m_done.back().places;
 }
 
 // Saving

@@ -169,9 +169,10 @@ public:
     /// ends the history.
     [[nodiscard]] std::optional<StepKind> UndoKind() const;
     [[nodiscard]] std::optional<StepKind> RedoKind() const;
-    /// Each returns the place of the probe that it concerns, or where probes have gone. There must be a step.
-    std::size_t Undo();
-    std::size_t Redo();
+    /// Each returns the places of the probes that it concerns, or where probes have gone, in ascending order.
+    /// There must be a step.
+    std::vector<std::size_t> Undo();
+    std::vector<std::size_t> Redo();
 
     /// Whether a save would write anything.
     [[nodiscard]] bool Changed() const;

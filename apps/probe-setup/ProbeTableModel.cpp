@@ -8,15 +8,10 @@
 
 #include <algorithm>
 #include <unordered_map>
-#include <utility>
 
 namespace ProbeSetup {
 
 using QuorConversions::QtToolkit::ToQt;
-
-ProbeTableModel::ProbeTableModel(const ProbeDocument& document,
-                                 std::function<void(std::size_t, const QString&)> rename)
-    : m_document(document), m_rename(std::move(rename)) {}
 
 void ProbeTableModel::Refresh() {
     beginResetModel();
@@ -60,6 +55,11 @@ std::optional<int> ProbeTableModel::RowOf(std::size_t probe) const {
     const auto row = std::lower_bound(m_rows.begin(), m_rows.end(), probe);
     if (row == m_rows.end() || *row != probe)
         return std::nullopt;
+    return static_cast<int>(row - m_rows.begin());
+}
+
+int ProbeTableModel::RowFrom(std::size_t probe) const {
+    const auto row = std::lower_bound(m_rows.begin(), m_rows.end() - 1, probe);
     return static_cast<int>(row - m_rows.begin());
 }
 
@@ -119,13 +119,6 @@ Qt::ItemFlags ProbeTableModel::flags(const QModelIndex& index) const {
     if (index.isValid() && index.column() == NameColumn && !m_document.IsReadOnly())
         flags |= Qt::ItemIsEditable;
     return flags;
-}
-
-bool ProbeTableModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-    if (!index.isValid() || index.column() != NameColumn || role != Qt::EditRole)
-        return false;
-    m_rename(ProbeAt(index.row()), value.toString());
-    return true;
 }
 
 } // namespace ProbeSetup

@@ -6,7 +6,6 @@
 #include <QCoreApplication>
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <vector>
 
@@ -20,8 +19,8 @@ class ProbeTableModel final : public QAbstractTableModel {
 public:
     enum Column { NameColumn, ConversionColumn, ChangedColumn, ColumnCount };
 
-    /// The document outlives the model. `rename` is asked to give a probe the name that the user has typed.
-    ProbeTableModel(const ProbeDocument& document, std::function<void(std::size_t, const QString&)> rename);
+    /// The document outlives the model.
+    explicit ProbeTableModel(const ProbeDocument& document) : m_document(document) {}
 
     /// Shows the document as it is now. To be called when probes have come or gone.
     void Refresh();
@@ -33,6 +32,8 @@ public:
     [[nodiscard]] std::size_t ProbeAt(int row) const { return m_rows[static_cast<std::size_t>(row)]; }
     /// The row of a probe; nothing when the filter hides it.
     [[nodiscard]] std::optional<int> RowOf(std::size_t probe) const;
+    /// That row, or the next one below that is shown, or the last one. There must be a row.
+    [[nodiscard]] int RowFrom(std::size_t probe) const;
     [[nodiscard]] QString ConversionText(std::size_t probe) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
@@ -40,13 +41,11 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
-    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
 private:
     void Filter();
 
     const ProbeDocument& m_document;
-    std::function<void(std::size_t, const QString&)> m_rename;
     QString m_filter;
     std::vector<std::uint32_t> m_rows; // the probes that are shown, in their order
 };

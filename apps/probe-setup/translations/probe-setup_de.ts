@@ -33,30 +33,109 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>Read-only</source>
-        <translation>Schreibgeschützt</translation>
-    </message>
+    <name>FileCommands</name>
     <message>
         <source>Progress of loading</source>
         <translation>Fortschritt des Ladens</translation>
     </message>
     <message>
-        <source>F&amp;ind:</source>
-        <translation>S&amp;uchen:</translation>
+        <source>New file</source>
+        <translation>Neue Datei</translation>
     </message>
     <message>
-        <source>Part of a name or of a conversion</source>
-        <translation>Teil eines Namens oder einer Konversion</translation>
+        <source>%1 has changes that are not saved.</source>
+        <translation>%1 hat Änderungen, die nicht gespeichert sind.</translation>
     </message>
     <message>
-        <source>Find probes</source>
-        <translation>Fühler suchen</translation>
+        <source>Do you want to save them?</source>
+        <translation>Möchten Sie sie speichern?</translation>
     </message>
     <message>
-        <source>Probes</source>
-        <translation>Fühler</translation>
+        <source>Files of hosts (*.ini)</source>
+        <translation>Dateien von Programmen (*.ini)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>The file cannot be opened.</source>
+        <translation>Die Datei kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>%1: these section headers have no &quot;]&quot;, so nobody can read the probes below them:</source>
+        <translation>%1: Diesen Abschnittsköpfen fehlt die „]“, sodass niemand die Fühler darunter lesen kann:</translation>
+    </message>
+    <message>
+        <source>Loading %1…</source>
+        <translation>%1 wird geladen …</translation>
+    </message>
+    <message>
+        <source>Only one file can be open. %1 is opened.</source>
+        <translation>Nur eine Datei kann offen sein. %1 wird geöffnet.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be saved.</source>
+        <translation>%1 kann nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>%1 is saved.</source>
+        <translation>%1 ist gespeichert.</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>Save a copy as</source>
+        <translation>Kopie speichern unter</translation>
+    </message>
+    <message>
+        <source>Do you want to replace what the other program has written?</source>
+        <translation>Soll ersetzt werden, was das andere Programm geschrieben hat?</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>Import probes</source>
+        <translation>Fühler importieren</translation>
+    </message>
+    <message>
+        <source>Settings files (%1)</source>
+        <translation>Einstellungsdateien (%1)</translation>
+    </message>
+    <message>
+        <source>%1 is read-only: no probe can be added.</source>
+        <translation>%1 ist schreibgeschützt: Es kann kein Fühler hinzugefügt werden.</translation>
+    </message>
+    <message>
+        <source>The probe cannot be imported.</source>
+        <translation>Der Fühler kann nicht importiert werden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be exported.</source>
+        <translation>„%1“ kann nicht exportiert werden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is written into %2.</source>
+        <translation>„%1“ ist in %2 geschrieben.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Read-only</source>
+        <translation>Schreibgeschützt</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -223,98 +302,6 @@
         <translation>Werkzeuge</translation>
     </message>
     <message>
-        <source>%1: this is no settings file of a conversion.</source>
-        <translation>%1: Das ist keine Einstellungsdatei einer Konversion.</translation>
-    </message>
-    <message>
-        <source>%1: these keys are missing or cannot be read:</source>
-        <translation>%1: Diese Schlüssel fehlen oder sind nicht lesbar:</translation>
-    </message>
-    <message>
-        <source>%1: another program has added a section called &quot;%2&quot; meanwhile. Give the probe another name and save again.</source>
-        <translation>%1: Ein anderes Programm hat inzwischen einen Abschnitt namens „%2“ hinzugefügt. Geben Sie dem Fühler einen anderen Namen und speichern Sie noch einmal.</translation>
-    </message>
-    <message>
-        <source>%1: the probe &quot;%2&quot; cannot be written:</source>
-        <translation>%1: Der Fühler „%2“ kann nicht geschrieben werden:</translation>
-    </message>
-    <message>
-        <source>%1: the section [%2] belongs to &quot;%3&quot; and to &quot;%4&quot; at once, so it can neither go nor get another name with one of them alone. Take that change back.</source>
-        <translation>%1: Der Abschnitt [%2] gehört zu „%3“ und zu „%4“ zugleich; er kann also nicht mit einem von beiden allein verschwinden oder einen anderen Namen bekommen. Nehmen Sie diese Änderung zurück.</translation>
-    </message>
-    <message>
-        <source>Probe Setup</source>
-        <translation>Probe Setup</translation>
-    </message>
-    <message>
-        <source>New file</source>
-        <translation>Neue Datei</translation>
-    </message>
-    <message>
-        <source>%1 has changes that are not saved.</source>
-        <translation>%1 hat Änderungen, die nicht gespeichert sind.</translation>
-    </message>
-    <message>
-        <source>Do you want to save them?</source>
-        <translation>Möchten Sie sie speichern?</translation>
-    </message>
-    <message>
-        <source>Files of hosts (*.ini)</source>
-        <translation>Dateien von Programmen (*.ini)</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Öffnen</translation>
-    </message>
-    <message>
-        <source>The file cannot be opened.</source>
-        <translation>Die Datei kann nicht geöffnet werden.</translation>
-    </message>
-    <message>
-        <source>Loading %1…</source>
-        <translation>%1 wird geladen …</translation>
-    </message>
-    <message>
-        <source>Only one file can be open. %1 is opened.</source>
-        <translation>Nur eine Datei kann offen sein. %1 wird geöffnet.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be saved.</source>
-        <translation>%1 kann nicht gespeichert werden.</translation>
-    </message>
-    <message>
-        <source>%1 is saved.</source>
-        <translation>%1 ist gespeichert.</translation>
-    </message>
-    <message>
-        <source>Save as</source>
-        <translation>Speichern unter</translation>
-    </message>
-    <message>
-        <source>Save a copy as</source>
-        <translation>Kopie speichern unter</translation>
-    </message>
-    <message>
-        <source>Import probes</source>
-        <translation>Fühler importieren</translation>
-    </message>
-    <message>
-        <source>Settings files (%1)</source>
-        <translation>Einstellungsdateien (%1)</translation>
-    </message>
-    <message>
-        <source>%1 is read-only: no probe can be added.</source>
-        <translation>%1 ist schreibgeschützt: Es kann kein Fühler hinzugefügt werden.</translation>
-    </message>
-    <message>
-        <source>The probe cannot be imported.</source>
-        <translation>Der Fühler kann nicht importiert werden.</translation>
-    </message>
-    <message>
         <source>New probe</source>
         <translation>Neuer Fühler</translation>
     </message>
@@ -329,14 +316,6 @@
     <message>
         <source>This key is missing or cannot be read:</source>
         <translation>Dieser Schlüssel fehlt oder ist nicht lesbar:</translation>
-    </message>
-    <message>
-        <source>%1: these section headers have no &quot;]&quot;, so nobody can read the probes below them:</source>
-        <translation>%1: Diesen Abschnittsköpfen fehlt die „]“, sodass niemand die Fühler darunter lesen kann:</translation>
-    </message>
-    <message>
-        <source>Line %1</source>
-        <translation>Zeile %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no settings to edit: %2.</source>
@@ -357,34 +336,6 @@ Die Konversionen der Fühler von Präzisionsthermometern: verwaltet, bearbeitet,
     <message>
         <source>%1[*] – Probe Setup</source>
         <translation>%1[*] – Probe Setup</translation>
-    </message>
-    <message>
-        <source>add</source>
-        <translation>Hinzufügen</translation>
-    </message>
-    <message>
-        <source>duplicate</source>
-        <translation>Duplizieren</translation>
-    </message>
-    <message>
-        <source>import</source>
-        <translation>Importieren</translation>
-    </message>
-    <message>
-        <source>remove</source>
-        <translation>Entfernen</translation>
-    </message>
-    <message>
-        <source>rename</source>
-        <translation>Umbenennen</translation>
-    </message>
-    <message>
-        <source>change of type</source>
-        <translation>Änderung des Typs</translation>
-    </message>
-    <message>
-        <source>edit</source>
-        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Undo: %1</source>
@@ -435,75 +386,31 @@ Die Konversionen der Fühler von Präzisionsthermometern: verwaltet, bearbeitet,
         <translation>%1 hat noch keine Fühler. Fügen Sie einen hinzu (%2), oder importieren Sie eine Einstellungsdatei (%3).</translation>
     </message>
     <message>
-        <source>&amp;Discard</source>
-        <translation>&amp;Verwerfen</translation>
-    </message>
-    <message>
-        <source>%1: &quot;%2&quot; has the type %3, which this program does not know. It stays in the file as it is, but it cannot be copied.</source>
-        <translation>%1: „%2“ hat den Typ %3, den dieses Programm nicht kennt. Der Fühler bleibt in der Datei, wie er ist, kann aber nicht kopiert werden.</translation>
-    </message>
-    <message>
-        <source>%1: another program has changed or removed these probes meanwhile:</source>
-        <translation>%1: Ein anderes Programm hat inzwischen diese Fühler geändert oder entfernt:</translation>
-    </message>
-    <message>
-        <source>%1: another program has changed these values meanwhile:</source>
-        <translation>%1: Ein anderes Programm hat inzwischen diese Werte geändert:</translation>
-    </message>
-    <message>
-        <source>%1: %2 in the file, %3 here</source>
-        <translation>%1: %2 in der Datei, %3 hier</translation>
-    </message>
-    <message>
-        <source>%1: removed from the file, %2 here</source>
-        <translation>%1: aus der Datei entfernt, %2 hier</translation>
-    </message>
-    <message>
-        <source>Do you want to replace what the other program has written?</source>
-        <translation>Soll ersetzt werden, was das andere Programm geschrieben hat?</translation>
-    </message>
-    <message>
-        <source>&amp;Replace</source>
-        <translation>&amp;Ersetzen</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be exported.</source>
-        <translation>„%1“ kann nicht exportiert werden.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is written into %2.</source>
-        <translation>„%1“ ist in %2 geschrieben.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be duplicated.</source>
         <translation>„%1“ kann nicht dupliziert werden.</translation>
     </message>
+    <message>
+        <source>Taken back: %1</source>
+        <translation>Zurückgenommen: %1</translation>
+    </message>
+    <message>
+        <source>Done again: %1</source>
+        <translation>Wiederholt: %1</translation>
+    </message>
 </context>
 <context>
-    <name>NameProblem</name>
+    <name>MessageBox</name>
     <message>
-        <source>A probe needs a name.</source>
-        <translation>Ein Fühler braucht einen Namen.</translation>
+        <source>Probe Setup</source>
+        <translation>Probe Setup</translation>
     </message>
     <message>
-        <source>No section of a file can be called &quot;%1&quot;.</source>
-        <translation>Kein Abschnitt einer Datei kann „%1“ heißen.</translation>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
-        <source>There is a probe called &quot;%1&quot; already.</source>
-        <translation>Es gibt schon einen Fühler namens „%1“.</translation>
-    </message>
-    <message>
-        <source>The file has a section of its own called &quot;%1&quot;.</source>
-        <translation>Die Datei hat einen eigenen Abschnitt namens „%1“.</translation>
-    </message>
-    <message>
-        <source>Another probe keeps its settings in the section &quot;%1&quot;.</source>
-        <translation>Ein anderer Fühler bewahrt seine Einstellungen im Abschnitt „%1“ auf.</translation>
-    </message>
-    <message>
-        <source>The file has a section in which the settings of &quot;%1&quot; would stand.</source>
-        <translation>Die Datei hat einen Abschnitt, in dem die Einstellungen von „%1“ stehen würden.</translation>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
     </message>
 </context>
 <context>
@@ -531,6 +438,25 @@ Die Konversionen der Fühler von Präzisionsthermometern: verwaltet, bearbeitet,
     <message>
         <source>Conversion &amp;type:</source>
         <translation>Konversions&amp;typ:</translation>
+    </message>
+</context>
+<context>
+    <name>ProbeList</name>
+    <message>
+        <source>F&amp;ind:</source>
+        <translation>S&amp;uchen:</translation>
+    </message>
+    <message>
+        <source>Part of a name or of a conversion</source>
+        <translation>Teil eines Namens oder einer Konversion</translation>
+    </message>
+    <message>
+        <source>Find probes</source>
+        <translation>Fühler suchen</translation>
+    </message>
+    <message>
+        <source>Probes</source>
+        <translation>Fühler</translation>
     </message>
 </context>
 <context>
@@ -593,6 +519,101 @@ Die Konversionen der Fühler von Präzisionsthermometern: verwaltet, bearbeitet,
     <message>
         <source>ITS-SR5, ITS-90 in range 5 alone</source>
         <translation>ITS-SR5, ITS-90 nur im Bereich 5</translation>
+    </message>
+</context>
+<context>
+    <name>Wording</name>
+    <message>
+        <source>%1: %2 in the file, %3 here</source>
+        <translation>%1: %2 in der Datei, %3 hier</translation>
+    </message>
+    <message>
+        <source>%1: removed from the file, %2 here</source>
+        <translation>%1: aus der Datei entfernt, %2 hier</translation>
+    </message>
+    <message>
+        <source>%1: this is no settings file of a conversion.</source>
+        <translation>%1: Das ist keine Einstellungsdatei einer Konversion.</translation>
+    </message>
+    <message>
+        <source>%1: these keys are missing or cannot be read:</source>
+        <translation>%1: Diese Schlüssel fehlen oder sind nicht lesbar:</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; has the type %3, which this program does not know. It stays in the file as it is, but it cannot be copied.</source>
+        <translation>%1: „%2“ hat den Typ %3, den dieses Programm nicht kennt. Der Fühler bleibt in der Datei, wie er ist, kann aber nicht kopiert werden.</translation>
+    </message>
+    <message>
+        <source>%1: another program has changed or removed these probes meanwhile:</source>
+        <translation>%1: Ein anderes Programm hat inzwischen diese Fühler geändert oder entfernt:</translation>
+    </message>
+    <message>
+        <source>%1: another program has changed these values meanwhile:</source>
+        <translation>%1: Ein anderes Programm hat inzwischen diese Werte geändert:</translation>
+    </message>
+    <message>
+        <source>%1: another program has added a section called &quot;%2&quot; meanwhile. Give the probe another name and save again.</source>
+        <translation>%1: Ein anderes Programm hat inzwischen einen Abschnitt namens „%2“ hinzugefügt. Geben Sie dem Fühler einen anderen Namen und speichern Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>%1: the probe &quot;%2&quot; cannot be written:</source>
+        <translation>%1: Der Fühler „%2“ kann nicht geschrieben werden:</translation>
+    </message>
+    <message>
+        <source>%1: the section [%2] belongs to &quot;%3&quot; and to &quot;%4&quot; at once, so it can neither go nor get another name with one of them alone. Take that change back.</source>
+        <translation>%1: Der Abschnitt [%2] gehört zu „%3“ und zu „%4“ zugleich; er kann also nicht mit einem von beiden allein verschwinden oder einen anderen Namen bekommen. Nehmen Sie diese Änderung zurück.</translation>
+    </message>
+    <message>
+        <source>A probe needs a name.</source>
+        <translation>Ein Fühler braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>No section of a file can be called &quot;%1&quot;.</source>
+        <translation>Kein Abschnitt einer Datei kann „%1“ heißen.</translation>
+    </message>
+    <message>
+        <source>There is a probe called &quot;%1&quot; already.</source>
+        <translation>Es gibt schon einen Fühler namens „%1“.</translation>
+    </message>
+    <message>
+        <source>The file has a section of its own called &quot;%1&quot;.</source>
+        <translation>Die Datei hat einen eigenen Abschnitt namens „%1“.</translation>
+    </message>
+    <message>
+        <source>Another probe keeps its settings in the section &quot;%1&quot;.</source>
+        <translation>Ein anderer Fühler bewahrt seine Einstellungen im Abschnitt „%1“ auf.</translation>
+    </message>
+    <message>
+        <source>The file has a section in which the settings of &quot;%1&quot; would stand.</source>
+        <translation>Die Datei hat einen Abschnitt, in dem die Einstellungen von „%1“ stehen würden.</translation>
+    </message>
+    <message>
+        <source>add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>change of type</source>
+        <translation>Änderung des Typs</translation>
+    </message>
+    <message>
+        <source>edit</source>
+        <translation>Bearbeiten</translation>
     </message>
 </context>
 </TS>

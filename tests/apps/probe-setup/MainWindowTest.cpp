@@ -6,6 +6,7 @@
 #include "apps/probe-setup/ProbeTableModel.h"
 #include "apps/probe-setup/TypeTexts.h"
 #include "tests/apps/probe-setup/HostFile.h"
+#include "tests/apps/probe-setup/MemoryRegistry.h"
 #include "tests/toolkits/qt/QtScreen.h"
 
 #include <gtest/gtest.h>
@@ -47,21 +48,6 @@ using QuorConversions::QtToolkit::ToQt;
 void PrintTo(const QString& text, std::ostream* out) { *out << text.toStdString(); }
 
 namespace {
-
-/// Remembers as long as the test runs.
-class Memory final : public QuorRegistryII::Registry {
-public:
-    bool ReadValue(std::wstring_view section, std::wstring_view name, std::wstring& value) override {
-        const auto found = values.find({std::wstring(section), std::wstring(name)});
-        if (found != values.end())
-            value = found->second;
-        return found != values.end();
-    }
-    void WriteValue(std::wstring_view section, std::wstring_view name, std::wstring_view value) override {
-        values[{std::wstring(section), std::wstring(name)}] = value;
-    }
-    std::map<std::pair<std::wstring, std::wstring>, std::wstring> values;
-};
 
 void ComeToFront(QWidget& window) {
     // A window counts as active for Qt also while the one that it belongs to has the keyboard.
@@ -151,13 +137,25 @@ protected:
             QTest::mouseClick(push, Qt::LeftButton);
         });
     }
+    /// Opens the editor of a probe's name and types there.
+    [[nodiscard]] QLineEdit& TypeName(int row, const QString& name) const {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // an editor that was closed
+        GoTo(row);
+        Press(Qt::Key_F2);
+        auto* const editor = Table().viewport()->findChild<QLineEdit*>();
+        if (!editor)
+            throw std::runtime_error("no editor");
+        editor->selectAll();
+        QTest::keyClicks(editor, name);
+        return *editor;
+    }
     void EditR0(const char* text = "100.0123") const {
         GoTo(0);
         WillType("txtCoefficients(0)", text, "cmdOKCancelHelp(0)");
         Press(Qt::Key_Return);
     }
 
-    std::shared_ptr<Memory> registry = std::make_shared<Memory>();
+    std::shared_ptr<MemoryRegistry> registry = std::make_shared<MemoryRegistry>();
     std::unique_ptr<MainWindow> window;
 };
 
@@ -283,6 +281,67 @@ TEST_F(MainWindowTest, ATypedNameThatIsRefusedStopsTheAction) {
     EXPECT_TRUE(window->isVisible());
 }
 
+TEST_F(MainWindowTest, ARefusedNameStaysInItsEditorUntilItIsCorrected) {
+    QLineEdit& editor = TypeName(0, "probe 2");
+    QString text;
+    WillAnswer(QMessageBox::Ok, &text);
+    QTest::keyClick(&editor, Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !text.isEmpty() && window->focusWidget() == &editor; }));
+    ComeToFront(*window);
+    EXPECT_EQ(text, "There is a probe called \"probe 2\" already.|");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_EQ(Table().viewport()->findChild<QLineEdit*>(), &editor);
+    EXPECT_EQ(editor.text(), "probe 2");
+    QTest::keyClicks(&editor, "5");
+    QTest::keyClick(&editor, Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Table().viewport()->findChild<QLineEdit*>(); }));
+    EXPECT_EQ(Names(), (QStringList{"probe 25", "Probe 2"}));
+}
+
+TEST_F(MainWindowTest, EscGivesARefusedNameUp) {
+    QLineEdit& editor = TypeName(0, "Probe 2");
+    QString text;
+    WillAnswer(QMessageBox::Ok, &text);
+    QTest::keyClick(&editor, Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !text.isEmpty() && window->focusWidget() == &editor; }));
+    ComeToFront(*window);
+    QTest::keyClick(&editor, Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(Table().viewport()->findChild<QLineEdit*>(), nullptr);
+    EXPECT_EQ(Names(), (QStringList{"Probe 1", "Probe 2"}));
+    EXPECT_FALSE(window->isWindowModified());
+    EXPECT_FALSE(Action("save").isEnabled());
+}
+
+TEST_F(MainWindowTest, AClickElsewhereDoesNotThrowARefusedNameAway) {
+    QLineEdit& editor = TypeName(0, "Probe 2");
+    QString text;
+    WillAnswer(QMessageBox::Ok, &text);
+    const QRect other = Table().visualRect(Table().model()->index(1, 0));
+    QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, other.center());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !text.isEmpty() && window->focusWidget() == &editor; }));
+    ComeToFront(*window);
+    EXPECT_EQ(editor.text(), "Probe 2");
+    EXPECT_EQ(Table().currentIndex().row(), 0) << "where the name is edited";
+}
+
+TEST_F(MainWindowTest, AnEditorThatReturnHasClosedIsNotCommittedAgainByTheNextCommand) {
+    static QStringList warnings;
+    warnings.clear();
+    const QtMessageHandler before = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString& text) { warnings += text; });
+    QTest::keyClick(&TypeName(0, "Reference"), Qt::Key_Return);
+    Press(Qt::Key_D, Qt::ControlModifier); // before Qt comes to closing the editor
+    QCoreApplication::processEvents();
+    QTest::keyClick(&TypeName(1, "Ohms"), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    Press(Qt::Key_D, Qt::ControlModifier); // when it is closed and not deleted yet
+    QCoreApplication::processEvents();
+    qInstallMessageHandler(before);
+    EXPECT_EQ(warnings, QStringList{});
+    EXPECT_EQ(Names(), (QStringList{"Reference", "Ohms", "Reference (2)", "Ohms (2)"}));
+}
+
 TEST_F(MainWindowTest, WhatWasRemovedComesBack) {
     GoTo(0);
     Press(Qt::Key_A, Qt::ControlModifier);
@@ -295,6 +354,53 @@ TEST_F(MainWindowTest, WhatWasRemovedComesBack) {
     EXPECT_FALSE(window->isWindowModified());
     Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(Names(), QStringList{});
+}
+
+TEST_F(MainWindowTest, UndoSelectsWhatHasComeBackAndSaysWhatItHasTakenBack) {
+    folder.Write("three.ini", host + "\n[Probe 3]\nConversionType=11\n");
+    ASSERT_TRUE(window->OpenPath(Path("three.ini")));
+    const auto selected = [this] {
+        QStringList names;
+        for (const QModelIndex& row : Table().selectionModel()->selectedRows())
+            names += row.data().toString();
+        names.sort();
+        return names;
+    };
+    GoTo(2);
+    QTest::mouseClick(Table().viewport(), Qt::LeftButton, Qt::ControlModifier,
+                      Table().visualRect(Table().model()->index(0, 0)).center());
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(window->statusBar()->currentMessage(), "2 probes are removed. Undo brings them back.");
+    EXPECT_EQ(selected(), QStringList{"Probe 2"});
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(window->statusBar()->currentMessage(), "Taken back: remove");
+    EXPECT_EQ(selected(), (QStringList{"Probe 1", "Probe 3"}));
+    EXPECT_EQ(Table().currentIndex().row(), 0);
+    Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(window->statusBar()->currentMessage(), "Done again: remove");
+    EXPECT_EQ(selected(), QStringList{"Probe 2"});
+    Action("undo").trigger();
+
+    QTest::keyClick(&TypeName(1, "Ohms"), Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Names()[1] == "Ohms"; }));
+    GoTo(0);
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(window->statusBar()->currentMessage(), "Taken back: rename");
+    EXPECT_EQ(selected(), QStringList{"Probe 2"});
+}
+
+TEST_F(MainWindowTest, AfterARemovalTheNextProbeThatIsShownIsTheCurrentOne) {
+    std::string text;
+    for (const char* const name : {"a1", "b1", "a2", "b2", "a3", "b3"})
+        text += "[" + std::string(name) + "]\nConversionType=10\n";
+    folder.Write("many.ini", text);
+    ASSERT_TRUE(window->OpenPath(Path("many.ini")));
+    QTest::keyClicks(&FindBox(), "a");
+    GoTo(1);
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Table().currentIndex().data().toString(), "a3");
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Table().currentIndex().data().toString(), "a1") << "there is none below";
 }
 
 TEST_F(MainWindowTest, InsertAddsAProbeWithANameThatIsFree) {
@@ -625,6 +731,8 @@ TEST_F(MainWindowTest, NamesThatLookLikeMarkUpAreShownAsTheyAre) {
     editor->selectAll();
     QTest::keyClicks(editor, name);
     Action("duplicate").trigger(); // the name is refused
+    ComeToFront(*window);
+    QTest::keyClick(editor, Qt::Key_Escape);
     WhenShown<QDialog>([&](QDialog& dialog) {
         auto* const problem = dialog.findChild<QLabel*>("nameProblem");
         EXPECT_EQ(problem->textFormat(), Qt::PlainText);

@@ -1,0 +1,271 @@
+#include "apps/probe-setup/FileCommands.h"
+
+#include "QuorConversions/qt/QtPlatform.h"
+#include "QuorConversions/qt/QtText.h"
+#include "QuorProbeFile/ProbeTypes.h"
+#include "apps/probe-setup/MessageBox.h"
+#include "apps/probe-setup/ProbeList.h"
+#include "apps/probe-setup/RecentFiles.h"
+#include "apps/probe-setup/Wording.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScopeGuard>
+#include <QStatusBar>
+#include <QTreeView>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ProbeSetup {
+
+using QuorConversions::QtToolkit::FromQt;
+using QuorConversions::QtToolkit::ToQt;
+
+FileCommands::FileCommands(QMainWindow& window, QuorConversions::QtToolkit::QtPlatform& platform,
+                           ProbeDocument& document, ProbeList& list, RecentFiles& recent)
+    : m_window(window),
+      m_platform(platform),
+      m_document(document),
+      m_list(list),
+      m_recent(recent),
+      m_progress(new QProgressBar) {
+    m_progress->setRange(0, 100);
+    m_progress->setMaximumWidth(window.fontMetrics().averageCharWidth() * 24);
+    m_progress->setAccessibleName(tr("Progress of loading"));
+    window.statusBar()->addPermanentWidget(m_progress);
+    m_progress->hide();
+}
+
+void FileCommands::ShowStatus(const QString& text) {
+    constexpr int aWhile = 5000; // milliseconds
+    m_window.statusBar()->showMessage(text, aWhile);
+}
+
+QString FileCommands::FileName() const {
+    return m_document.Path().empty() ? tr("New file") : QFileInfo(ToQt(m_document.Path())).fileName();
+}
+
+bool FileCommands::MayLoseChanges() {
+    if (!m_document.Changed())
+        return true;
+    MessageBox box(&m_window, QMessageBox::Warning, tr("%1 has changes that are not saved.").arg(FileName()),
+                   tr("Do you want to save them?"),
+                   QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    box.setDefaultButton(QMessageBox::Save);
+    const int answer = box.exec();
+    return answer == QMessageBox::Save ? Save() : answer == QMessageBox::Discard;
+}
+
+QString FileCommands::AskForHostFile(const QString& title, bool toSave) {
+    const QString folder = QFileInfo(ToQt(m_document.Path())).path();
+    QFileDialog dialog(&m_window, title, folder,
+                       tr("Files of hosts (*.ini)") + QStringLiteral(";;") + tr("All files (*)"));
+    dialog.setAcceptMode(toSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(toSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    if (toSave)
+        dialog.setDefaultSuffix(QStringLiteral("ini"));
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+// Opening
+
+void FileCommands::New() {
+    if (!MayLoseChanges())
+        return;
+    m_document.Close();
+    m_list.ClearFindBox();
+    m_list.Show({});
+}
+
+void FileCommands::Open() {
+    const QString path = AskForHostFile(tr("Open"), false);
+    if (!path.isEmpty())
+        OpenPath(path);
+}
+
+bool FileCommands::OpenPath(const QString& path) {
+    bool standAlone = false;
+    if (!RunOrTell(&m_window, tr("The file cannot be opened."),
+                   [&] { standAlone = ProbeDocument::IsStandAlone(FromQt(path)); })) {
+        m_recent.Remove(path);
+        return false;
+    }
+    return standAlone ? ImportPaths({path}) : OpenHostFile(path);
+}
+
+bool FileCommands::OpenHostFile(const QString& path) {
+    if (!MayLoseChanges())
+        return false;
+    const QString full = QFileInfo(path).absoluteFilePath();
+    if (!Load(full)) {
+        m_recent.Remove(full);
+        return false;
+    }
+    m_recent.Add(full);
+    m_list.ClearFindBox();
+    m_list.Show(0);
+    if (!m_document.LostRecords().empty()) {
+        std::vector<std::wstring> lines;
+        for (const std::size_t line : m_document.LostRecords())
+            lines.push_back(FromQt(tr("Line %1").arg(line)));
+        MessageBox(&m_window, QMessageBox::Warning,
+                   tr("%1: these section headers have no \"]\", so nobody can read the probes below them:")
+                       .arg(full),
+                   Wording::Lines(lines))
+            .exec();
+    }
+    return true;
+}
+
+bool FileCommands::Load(const QString& path) {
+    m_progress->setValue(0);
+    m_progress->show();
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    m_window.setEnabled(false);
+    m_window.statusBar()->showMessage(tr("Loading %1\u2026").arg(path));
+    QElapsedTimer sinceShown;
+    const auto show = [this, &sinceShown](double part) {
+        constexpr qint64 often = 50; // milliseconds
+        if (sinceShown.isValid() && sinceShown.elapsed() < often)
+            return;
+        m_progress->setValue(static_cast<int>(part * m_progress->maximum()));
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        sinceShown.start();
+    };
+    show(0);
+    return RunOrTell(&m_window, tr("The file cannot be opened."), [&] {
+        const auto restore = qScopeGuard([this] { // before a failure is told
+            m_window.statusBar()->clearMessage();
+            m_window.setEnabled(true);
+            m_list.Table().setFocus(); // a window that cannot be used has lost it
+            QApplication::restoreOverrideCursor();
+            m_progress->hide();
+        });
+        m_document.Open(FromQt(path), show);
+    });
+}
+
+void FileCommands::OpenPaths(const QStringList& paths) {
+    QStringList settings;
+    QStringList hosts;
+    for (const QString& path : paths) {
+        bool standAlone = false;
+        if (RunOrTell(&m_window, tr("The file cannot be opened."),
+                      [&] { standAlone = ProbeDocument::IsStandAlone(FromQt(path)); }))
+            (standAlone ? settings : hosts) += path;
+    }
+    if (hosts.size() > 1) {
+        MessageBox(&m_window, QMessageBox::Information,
+                   tr("Only one file can be open. %1 is opened.").arg(hosts.front()))
+            .exec();
+    }
+    if (!hosts.isEmpty() && !OpenHostFile(hosts.front()))
+        return;
+    ImportPaths(settings);
+}
+
+// Saving
+
+bool FileCommands::Save() {
+    if (m_document.Path().empty())
+        return SaveCopyAs();
+    const auto current = m_list.Current();
+    const std::wstring name = current ? m_document.Name(*current) : std::wstring();
+    if (!SaveBy(tr("%1 cannot be saved.").arg(FileName()),
+                [this](const OthersChanges& replaced) { m_document.Save(replaced); }))
+        return false;
+    m_list.Show(m_document.Find(name)); // probes that another program has added may stand before it now
+    ShowStatus(tr("%1 is saved.").arg(FileName()));
+    return true;
+}
+
+bool FileCommands::SaveCopyAs() {
+    const bool isNew = m_document.Path().empty();
+    const QString path = AskForHostFile(isNew ? tr("Save as") : tr("Save a copy as"), true);
+    if (path.isEmpty())
+        return false;
+    const auto current = m_list.Current();
+    if (!SaveBy(tr("%1 cannot be saved.").arg(path),
+                [&](const OthersChanges& replaced) { m_document.SaveCopyAs(FromQt(path), replaced); }))
+        return false;
+    m_recent.Add(QFileInfo(path).absoluteFilePath());
+    m_list.Show(current);
+    ShowStatus(tr("%1 is saved.").arg(path));
+    return true;
+}
+
+bool FileCommands::SaveBy(const QString& what, const std::function<void(const OthersChanges&)>& save) {
+    bool isRefused = false;
+    const bool done = RunOrTell(&m_window, what, [&] {
+        // Asked again for what has come while the question was open.
+        for (OthersChanges replaced; !isRefused;) {
+            try {
+                save(replaced);
+                return;
+            } catch (const DocumentError& error) {
+                if (error.failure != Failure::ChangedByOthers)
+                    throw;
+                MessageBox box(&m_window, QMessageBox::Warning, Wording::Of(error),
+                               tr("Do you want to replace what the other program has written?"),
+                               QMessageBox::Save | QMessageBox::Cancel);
+                box.button(QMessageBox::Save)->setText(tr("&Replace"));
+                box.setDefaultButton(QMessageBox::Cancel);
+                isRefused = box.exec() != QMessageBox::Save;
+                replaced = {error.details, error.conflicts};
+            }
+        }
+    });
+    return done && !isRefused;
+}
+
+// Files of one probe
+
+void FileCommands::Import() {
+    QStringList patterns;
+    for (const auto& type : QuorProbeFile::Types()) {
+        const QString pattern = QStringLiteral("*.") + ToQt(type.extension);
+        if (!type.extension.empty() && !patterns.contains(pattern))
+            patterns += pattern;
+    }
+    ImportPaths(QFileDialog::getOpenFileNames(&m_window, tr("Import probes"),
+                                              QFileInfo(ToQt(m_document.Path())).path(),
+                                              tr("Settings files (%1)").arg(patterns.join(QLatin1Char(' '))) +
+                                                  QStringLiteral(";;") + tr("All files (*)")));
+}
+
+bool FileCommands::ImportPaths(const QStringList& paths) {
+    if (m_document.IsReadOnly() && !paths.isEmpty()) {
+        MessageBox(&m_window, QMessageBox::Information,
+                   tr("%1 is read-only: no probe can be added.").arg(FileName()))
+            .exec();
+        return false;
+    }
+    bool all = true;
+    for (const QString& path : paths) {
+        std::size_t probe = 0;
+        if (RunOrTell(&m_window, tr("The probe cannot be imported."),
+                      [&] { probe = m_document.Import(FromQt(path)); }))
+            m_list.ShowNew({probe});
+        else
+            all = false;
+    }
+    return all;
+}
+
+void FileCommands::Export(std::size_t probe) {
+    const QString name = ToQt(m_document.Name(probe));
+    std::optional<std::wstring> path;
+    if (RunOrTell(&m_window, tr("\"%1\" cannot be exported.").arg(name),
+                  [&] { path = m_document.Export(probe, m_platform.HandleOf(m_window)); }) &&
+        path)
+        ShowStatus(tr("\"%1\" is written into %2.").arg(name, ToQt(*path)));
+}
+
+} // namespace ProbeSetup

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "apps/probe-setup/ProbeDocument.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <cstddef>
+#include <functional>
+
+class QMainWindow;
+class QProgressBar;
+
+namespace QuorConversions::QtToolkit {
+class QtPlatform;
+}
+
+namespace ProbeSetup {
+
+class ProbeList;
+class RecentFiles;
+
+/// What a person does with files: opens, saves, imports and exports them. It asks for files and before
+/// something is lost, tells failures in messages, and shows in the list what has come.
+class FileCommands {
+    Q_DECLARE_TR_FUNCTIONS(FileCommands)
+
+public:
+    /// All of it outlives the commands. Messages, questions and the progress of loading are shown in
+    /// `window`.
+    FileCommands(QMainWindow& window, QuorConversions::QtToolkit::QtPlatform& platform,
+                 ProbeDocument& document, ProbeList& list, RecentFiles& recent);
+
+    /// The name of the open file, for people.
+    [[nodiscard]] QString FileName() const;
+    /// Asks what is to become of changes that are not saved; false when the person stays.
+    [[nodiscard]] bool MayLoseChanges();
+
+    void New();
+    void Open();
+    /// Opens a host's file, or adds the probe of a stand-alone one. False when the user kept the present
+    /// file, or the file could not be read.
+    bool OpenPath(const QString& path);
+    /// Opens the first host's file among these, and adds the probes of all stand-alone ones.
+    void OpenPaths(const QStringList& paths);
+    /// False when nothing was saved.
+    bool Save();
+    bool SaveCopyAs();
+    void Import();
+    void Export(std::size_t probe);
+
+private:
+    bool OpenHostFile(const QString& path);
+    /// Reads a host's file, with the window disabled.
+    bool Load(const QString& path);
+    /// Adds the probes of stand-alone files. False when not all could be added.
+    bool ImportPaths(const QStringList& paths);
+    /// Saves by `save`, and asks before what another program has written gives way. A failure is told under
+    /// `what`. False when nothing was saved.
+    bool SaveBy(const QString& what, const std::function<void(const OthersChanges&)>& save);
+    [[nodiscard]] QString AskForHostFile(const QString& title, bool toSave);
+    void ShowStatus(const QString& text);
+
+    QMainWindow& m_window;
+    QuorConversions::QtToolkit::QtPlatform& m_platform;
+    ProbeDocument& m_document;
+    ProbeList& m_list;
+    RecentFiles& m_recent;
+    QProgressBar* m_progress;
+};
+
+} // namespace ProbeSetup

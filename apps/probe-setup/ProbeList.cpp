@@ -1,0 +1,192 @@
+#include "apps/probe-setup/ProbeList.h"
+
+#include "QuorConversions/qt/QtText.h"
+#include "apps/probe-setup/MessageBox.h"
+#include "apps/probe-setup/ProbeTable.h"
+#include "apps/probe-setup/Wording.h"
+
+#include <QHeaderView>
+#include <QItemSelection>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace ProbeSetup {
+
+using QuorConversions::QtToolkit::FromQt;
+using QuorConversions::QtToolkit::ToQt;
+
+ProbeList::ProbeList(ProbeDocument& document, std::function<void()> changed)
+    : m_document(document),
+      m_changed(std::move(changed)),
+      m_model(document),
+      m_table(new ProbeTable(
+          {[this](int row, const QString& name) { return Rename(m_model.ProbeAt(row), name); },
+           [this](const QString& problem) { MessageBox(window(), QMessageBox::Warning, problem).exec(); },
+           [this] { m_changed(); }})),
+      m_emptyText(new QLabel(m_table->viewport())),
+      m_find(new QLineEdit) {
+    auto* const findLabel = new QLabel(tr("F&ind:"));
+    findLabel->setBuddy(m_find);
+    m_find->setObjectName(QStringLiteral("find"));
+    m_find->setClearButtonEnabled(true);
+    m_find->setPlaceholderText(tr("Part of a name or of a conversion"));
+    m_find->setAccessibleName(tr("Find probes"));
+    m_find->installEventFilter(this);
+    auto* const findRow = new QHBoxLayout;
+    findRow->addWidget(findLabel);
+    findRow->addWidget(m_find);
+    auto* const layout = new QVBoxLayout(this);
+    layout->addLayout(findRow);
+    layout->addWidget(m_table);
+    MakeTable();
+    connect(m_find, &QLineEdit::textChanged, this, [this](const QString& text) {
+        const auto current = Current();
+        m_model.SetFilter(text);
+        if (current && IsShown(*current))
+            Select({*current});
+        else if (RowCount() > 0)
+            Select({m_model.ProbeAt(0)});
+        m_changed();
+    });
+}
+
+ProbeList::~ProbeList() { m_table->setModel(nullptr); }
+
+void ProbeList::MakeTable() {
+    m_table->setObjectName(QStringLiteral("probes"));
+    m_table->setAccessibleName(tr("Probes"));
+    m_table->setModel(&m_model);
+    m_table->setRootIsDecorated(false);
+    m_table->setUniformRowHeights(true);
+    m_table->setAllColumnsShowFocus(true);
+    m_table->setAlternatingRowColors(true);
+    m_table->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_table->header()->setStretchLastSection(false);
+    m_table->header()->setSectionResizeMode(ProbeTableModel::ChangedColumn, QHeaderView::ResizeToContents);
+    m_table->header()->resizeSection(ProbeTableModel::NameColumn, fontMetrics().averageCharWidth() * 45);
+    m_table->header()->setSectionResizeMode(ProbeTableModel::ConversionColumn, QHeaderView::Stretch);
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { m_changed(); });
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { m_changed(); });
+
+    m_emptyText->setObjectName(QStringLiteral("emptyState"));
+    m_emptyText->setAlignment(Qt::AlignCenter);
+    m_emptyText->setWordWrap(true);
+    m_emptyText->setTextFormat(Qt::PlainText);
+    m_emptyText->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_emptyText->setContentsMargins(24, 24, 24, 24);
+    auto* const overlay = new QVBoxLayout(m_table->viewport());
+    overlay->setContentsMargins(0, 0, 0, 0);
+    overlay->addWidget(m_emptyText);
+}
+
+QTreeView& ProbeList::Table() { return *m_table; }
+
+std::optional<std::size_t> ProbeList::Current() const {
+    const QModelIndex index = m_table->currentIndex();
+    return index.isValid() ? std::optional(m_model.ProbeAt(index.row())) : std::nullopt;
+}
+
+std::vector<std::size_t> ProbeList::Selected() const {
+    std::vector<std::size_t> probes;
+    for (const QItemSelectionRange& range : m_table->selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            probes.push_back(m_model.ProbeAt(row));
+    }
+    std::sort(probes.begin(), probes.end());
+    probes.erase(std::unique(probes.begin(), probes.end()), probes.end());
+    return probes;
+}
+
+void ProbeList::Show(std::optional<std::size_t> current) {
+    m_model.Refresh();
+    if (current && RowCount() > 0)
+        Select({m_model.ProbeAt(m_model.RowFrom(*current))});
+    m_changed();
+}
+
+void ProbeList::ShowNew(const std::vector<std::size_t>& probes) {
+    m_model.Refresh();
+    if (!std::all_of(probes.begin(), probes.end(), [this](std::size_t probe) { return IsShown(probe); }))
+        ClearFindBox();
+    Select(probes);
+    m_changed();
+}
+
+void ProbeList::ShowChanged(std::size_t probe) {
+    m_model.RefreshProbe(probe);
+    m_changed();
+}
+
+void ProbeList::Select(const std::vector<std::size_t>& probes) {
+    const auto cell = [this](std::size_t probe) {
+        return m_model.index(m_model.RowOf(probe).value(), ProbeTableModel::NameColumn);
+    };
+    QItemSelection selection;
+    for (auto from = probes.begin(); from != probes.end();) {
+        auto to = from; // neighbours become one range: there may be very many
+        while (to + 1 != probes.end() && cell(*(to + 1)).row() == cell(*to).row() + 1)
+            ++to;
+        selection.select(cell(*from), cell(*to));
+        from = to + 1;
+    }
+    const QModelIndex first = cell(probes.front());
+    m_table->selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+    m_table->selectionModel()->select(selection,
+                                      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    m_table->scrollTo(first);
+}
+
+void ProbeList::EditName() {
+    m_table->edit(m_table->currentIndex().siblingAtColumn(ProbeTableModel::NameColumn));
+}
+
+bool ProbeList::FinishEditing() { return m_table->FinishEditing(); }
+
+QString ProbeList::Rename(std::size_t probe, const QString& typed) {
+    const QString name = typed.trimmed();
+    if (name == ToQt(m_document.Name(probe)))
+        return {};
+    const NameProblem problem = m_document.CheckName(FromQt(name), probe);
+    if (problem == NameProblem::None) {
+        m_document.Rename(probe, FromQt(name));
+        ShowChanged(probe);
+    }
+    return Wording::Of(problem, name);
+}
+
+void ProbeList::GoToFindBox() {
+    m_find->setFocus();
+    m_find->selectAll();
+}
+
+void ProbeList::ClearFindBox() { m_find->clear(); }
+
+QString ProbeList::FindText() const { return m_find->text(); }
+
+void ProbeList::SetEmptyText(const QString& text) {
+    m_emptyText->setText(text);
+    m_emptyText->setVisible(!text.isEmpty());
+    m_table->setAccessibleDescription(text);
+}
+
+bool ProbeList::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_find && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Escape)
+            m_find->clear();
+        if (key == Qt::Key_Escape || key == Qt::Key_Down || key == Qt::Key_Return || key == Qt::Key_Enter) {
+            m_table->setFocus();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace ProbeSetup
