@@ -18,6 +18,7 @@
 #include <QTranslator>
 
 #include <algorithm>
+#include <initializer_list>
 #include <iostream>
 #include <memory>
 #include <optional>
@@ -29,12 +30,17 @@ using QuorConversions::QtToolkit::FromQt;
 using QuorConversions::QtToolkit::ToQt;
 using QuorIniFile::ToPrintable;
 
-/// Where there is no display the tour runs on a screen in memory.
+/// Help and version are printed without a display, and where there is none the tour runs on a screen in
+/// memory. Qt wants to know that before it can read the command line.
 void ChooseScreen(int argc, char** argv) {
-    const bool tour = std::any_of(argv, argv + argc, [](const char* argument) {
-        return std::string_view(argument).starts_with("--tour");
-    });
-    if (tour && !QuorConversions::QtToolkit::HasDisplay())
+    const auto isGiven = [&](std::initializer_list<std::string_view> options) {
+        return std::any_of(argv + 1, argv + argc, [&](const std::string_view argument) {
+            const std::string_view option = argument.substr(0, argument.find('='));
+            return std::find(options.begin(), options.end(), option) != options.end();
+        });
+    };
+    if (isGiven({"-h", "--help", "--help-all", "-v", "--version"}) ||
+        (isGiven({"--tour"}) && !QuorConversions::QtToolkit::HasDisplay()))
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
