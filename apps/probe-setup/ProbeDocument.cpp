@@ -7,10 +7,8 @@
 #include "QuorIniFile/detail/IniError.h"
 #include "QuorIniFile/detail/IniFormat.h"
 #include "QuorProbeFile/ProbeFile.h"
-#include "QuorProbeFile/ProbeNames.h"
-#include "QuorProbeFile/ProbeTypes.h"
 #include "QuorProbeFile/ReadLog.h"
-#include "QuorProbeFile/RecordImage.h"
+#include "QuorProbeFile/ProbeTypes.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -25,7 +23,7 @@
 namespace ProbeSetup {
 
 using namespace QuorConversions;
-using namespace QuorProbeFile;
+using namespace ProbeRecords;
 using QuorIniFile::IniStore;
 using QuorIniFile::ToUtf8;
 
@@ -124,6 +122,29 @@ private:
     fs::path m_folder;
 };
 
+/// The first line that shows that a text without probes is none of an INI file: it has a character that no
+/// text has, or there is no section at all and the line is no key either. Nothing for what may be a host's
+/// file that has no probes yet.
+std::optional<std::size_t> LineOfNoIniFile(std::string_view text) {
+    const auto control = std::find_if(text.begin(), text.end(), [](char c) {
+        // What moves a printer, and the mark at the end of a file of old systems, may stand in a text.
+        constexpr std::string_view harmless = "\t\n\v\f\r\x1A";
+        return static_cast<unsigned char>(c) < ' ' && harmless.find(c) == std::string_view::npos;
+    });
+    if (control != text.end())
+        return 1 + static_cast<std::size_t>(std::count(text.begin(), control, '\n'));
+    std::optional<std::size_t> malformed;
+    QuorIniFile::IniWalker walker(text);
+    while (walker.Next()) {
+        const QuorIniFile::IniLineKind kind = walker.Line().kind;
+        if (kind == QuorIniFile::IniLineKind::Section)
+            return std::nullopt;
+        if (kind == QuorIniFile::IniLineKind::Malformed && !malformed)
+            malformed = walker.Number();
+    }
+    return malformed;
+}
+
 ReadProblems ProblemsOf(const std::vector<ReadLog::Read>& reads, const QuietPlatform::Quiet& quiet) {
     ReadProblems problems;
     for (const ReadLog::Read& read : reads) {
@@ -187,8 +208,10 @@ std::shared_ptr<IniStore> ProbeDocument::StoreOf(const std::wstring& path) const
 // The list and the file
 
 void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
-    ProbeFile file(path);
-    const std::vector<ProbeEntry>& records = file.Probes();
+    const ProbeFile file(path);
+    const std::vector<Record>& records = file.Records();
+    if (const auto line = records.empty() ? LineOfNoIniFile(file.Bytes()) : std::nullopt)
+        throw DocumentError{Failure::NoSettingsFile, path, {std::to_wstring(*line)}};
     auto store = StoreOf(path);
 
     const QuietPlatform::Quiet quiet(*m_platform);
@@ -196,7 +219,7 @@ void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
     entries.reserve(records.size());
     std::unordered_set<std::wstring> probes;
     std::unordered_map<std::int32_t, std::uint32_t> names; // of types
-    for (const ProbeEntry& record : records) {
+    for (const Record& record : records) {
         if (record.standAlone)
             continue;
         Entry entry;
@@ -241,7 +264,7 @@ void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
     m_isReadOnly = IsReadOnlyFile(path);
     m_store = std::move(store);
     m_entries = std::move(entries);
-    m_lostRecords = file.LostSections();
+    m_lostRecords = file.LostRecords();
     m_foreign = std::move(foreign);
 }
 
@@ -323,7 +346,7 @@ std::shared_ptr<CQuorConversion> ProbeDocument::CopyOf(const CQuorConversion& co
     auto copy = NewConversion();
     copy->SetConversionType(conversion.ConversionType());
     if (const auto settings = conversion.Settings())
-        RecordImage::Apply(RecordImage::Of(*settings), *copy->Settings());
+        IniImage::Apply(IniImage::Of(*settings), *copy->Settings());
     copy->SetChanged(false);
     return copy;
 }
@@ -389,7 +412,7 @@ bool ProbeDocument::Edit(std::size_t probe) {
     if (!copy->Edit() || m_isReadOnly || !copy->Settings())
         return false;
     // Not every value that a dialog can change sets Changed: a file that it opens may hold others as well.
-    if (RecordImage::Same(*RecordImage::Of(*conversion.Settings()), *RecordImage::Of(*copy->Settings())))
+    if (IniImage::Same(*IniImage::Of(*conversion.Settings()), *IniImage::Of(*copy->Settings())))
         return false;
     copy->SetChanged(true);
     Content content = ContentOf(copy);
@@ -697,7 +720,24 @@ bool ProbeDocument::WriteChanges(const std::shared_ptr<IniStore>& store, const O
         else if (entry.isNew || entry.content.IsChanged() || gone.contains(&entry))
             Write(store, entry, entry.name);
     }
+    SpellNewNames(*store);
     return othersWrote;
+}
+
+void ProbeDocument::SpellNewNames(IniStore& store) const {
+    std::unordered_set<std::wstring> removed;
+    for (const Entry* const entry : RemovedEntries())
+        removed.insert(Folded(entry->Section()));
+    for (const Entry& entry : m_entries) {
+        if (!entry.isNew || !removed.contains(Folded(entry.name)))
+            continue;
+        for (const std::wstring& section : store.Sections()) {
+            const std::wstring spelled =
+                entry.name + section.substr(std::min(section.size(), entry.name.size()));
+            if ((SameName(section, entry.name) || HoldsSettingsOf(section, entry.name)) && section != spelled)
+                store.RenameSection(section, spelled);
+        }
+    }
 }
 
 void ProbeDocument::WriteMerged(const std::shared_ptr<IniStore>& store, const Entry& entry) const {
@@ -864,9 +904,9 @@ void ProbeDocument::SaveCopyAs(const std::wstring& path, const OthersChanges& re
 bool ProbeDocument::IsStandAlone(const std::wstring& path) {
     if (!StandAloneSection(path))
         return false;
-    const std::vector<ProbeEntry> probes = ProbeFile(path).Probes();
-    return std::all_of(probes.begin(), probes.end(),
-                       [](const ProbeEntry& probe) { return probe.standAlone; });
+    const ProbeFile file(path);
+    return std::all_of(file.Records().begin(), file.Records().end(),
+                       [](const Record& record) { return record.standAlone; });
 }
 
 } // namespace ProbeSetup

@@ -48,6 +48,7 @@ struct ReadProblems {
 
 /// What the document cannot do, for a reason that it knows better than the library.
 enum class Failure {
+    NoSettingsFile,   ///< no probe stands in it, and it is no INI file; details: the line that shows it
     NoStandAloneFile, ///< the file's extension is that of no conversion type
     UnreadableRecord, ///< details: "[section] key" of what is missing or unreadable, or the library's
                       ///< messages
@@ -96,7 +97,7 @@ public:
                            QuorIniFile::IniFileSystem& files = QuorIniFile::IniFileSystem::System());
 
     /// Takes the probes of a file in place of what was there. Raises QuorError, and leaves all as it was,
-    /// when the file cannot be read.
+    /// when the file cannot be read, and DocumentError when it is no settings file.
     void Open(const std::wstring& path, const Progress& progress = {});
     /// Makes the document empty, without a file.
     void Close();
@@ -287,6 +288,9 @@ private:
     CheckForConflicts(const std::shared_ptr<QuorIniFile::IniStore>& theirs, const OthersChanges& replaced);
     /// Raises DocumentError when a probe would get a name that is `taken` in the file, and was not by ours.
     void RequireFreeNames(const std::unordered_set<std::wstring>& taken) const;
+    /// Gives new probes their names in the letters that the user has typed: a section that is written in the
+    /// place of one that was removed has the letters of that one.
+    void SpellNewNames(QuorIniFile::IniStore& store) const;
     [[nodiscard]] bool IsSameRecord(const std::shared_ptr<QuorIniFile::IniStore>& theirs,
                                     const std::wstring& section) const;
     [[nodiscard]] std::vector<const Entry*> RemovedEntries() const;

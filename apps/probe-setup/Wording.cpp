@@ -38,6 +38,10 @@ QString Wording::Of(const DocumentError& error) {
                Lines({error.details.begin() + static_cast<std::ptrdiff_t>(from), error.details.end()});
     };
     switch (error.failure) {
+    case Failure::NoSettingsFile:
+        return tr("%1: this is no settings file. Line %2 is neither a section nor a key, nor any other text "
+                  "that could stand in one.")
+            .arg(file, detail(0));
     case Failure::NoStandAloneFile:
         return tr("%1: this is no settings file of a conversion.").arg(file);
     case Failure::UnreadableRecord:

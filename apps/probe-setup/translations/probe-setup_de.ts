@@ -532,6 +532,10 @@ Die Konversionen der Fühler von Präzisionsthermometern: verwaltet, bearbeitet,
         <translation>%1: aus der Datei entfernt, %2 hier</translation>
     </message>
     <message>
+        <source>%1: this is no settings file. Line %2 is neither a section nor a key, nor any other text that could stand in one.</source>
+        <translation>%1: Das ist keine Einstellungsdatei. Zeile %2 ist weder ein Abschnitt noch ein Schlüssel noch sonst ein Text, der in einer stehen könnte.</translation>
+    </message>
+    <message>
         <source>%1: this is no settings file of a conversion.</source>
         <translation>%1: Das ist keine Einstellungsdatei einer Konversion.</translation>
     </message>

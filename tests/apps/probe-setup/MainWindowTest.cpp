@@ -551,6 +551,19 @@ TEST_F(MainWindowTest, AFileThatCannotBeOpenedIsNamedAndThePresentOneStays) {
     EXPECT_EQ(Names().size(), 2);
 }
 
+TEST_F(MainWindowTest, AFileThatIsNoSettingsFileIsToldAndThePresentOneStays) {
+    folder.Write("picture.ini", "\x89PNG\r\n\x1A\n[IHDR]\nx=\1\n");
+    QString text;
+    WillAnswer(QMessageBox::Ok, &text);
+    EXPECT_FALSE(window->OpenPath(Path("picture.ini")));
+    EXPECT_EQ(text,
+              "The file cannot be opened.|" + Path("picture.ini") +
+                  ": this is no settings file. Line 4 is neither a section nor a key, nor any other text "
+                  "that could stand in one.");
+    EXPECT_EQ(Names(), (QStringList{"Probe 1", "Probe 2"}));
+    EXPECT_EQ(window->windowTitle(), QString::fromUtf8("host.ini[*] \u2013 Probe Setup"));
+}
+
 TEST_F(MainWindowTest, AStandAloneFileIsAddedAsAProbe) {
     EXPECT_TRUE(window->OpenPath(QString::fromLatin1(QUOR_SAMPLES "/prt-1188.cvd")));
     EXPECT_EQ(Names(), (QStringList{"Probe 1", "Probe 2", "prt-1188"}));

@@ -12,10 +12,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <random>
 #include <string>
 #include <utility>
 #include <vector>
@@ -140,6 +143,38 @@ TEST_F(ProbeDocumentTest, AFileThatCannotBeReadLeavesTheDocumentAsItWas) {
     EXPECT_THROW(document.Open(folder.Name("wide.ini")), QuorError);
     EXPECT_EQ(document.Count(), 2U);
     EXPECT_EQ(document.Path(), folder.Name("host.ini"));
+}
+
+TEST_F(ProbeDocumentTest, WhatIsNoSettingsFileIsToldWithTheLineThatShowsIt) {
+    Open();
+    const auto expectRefused = [&](const char* file, const std::string& text, const wchar_t* line) {
+        folder.Write(file, text);
+        const DocumentError error = ErrorOf([&] { document.Open(folder.Name(file)); });
+        EXPECT_EQ(error.failure, Failure::NoSettingsFile) << file;
+        EXPECT_EQ(error.file, folder.Name(file));
+        EXPECT_EQ(error.details, Texts{line}) << file;
+        EXPECT_EQ(Names(), (Texts{L"Probe 1", L"Probe 2"})) << "the file that was open stays";
+    };
+    std::mt19937 random(20261122);
+    std::string noise;
+    while (noise.size() < 200'000)
+        noise += static_cast<char>(random() & 0xFF);
+    const std::size_t first = noise.find_first_of(std::string("\0\1\2\3\4\5\6\7", 8));
+    const auto line = 1 + std::count(noise.begin(), noise.begin() + static_cast<std::ptrdiff_t>(first), '\n');
+    ASSERT_EQ(line, 1);
+    expectRefused("noise.ini", noise, L"1");
+    expectRefused("picture.ini", "\x89PNG\r\n\x1A\n[IHDR]\nx=\1\n", L"4");
+    expectRefused("letter.txt", "\nDear colleague,\nthe probes are in the other file.\n", L"2");
+}
+
+TEST_F(ProbeDocumentTest, AFileWithoutProbesThatIsOneOfSettingsIsOpened) {
+    for (const char* const text : {"", "; nothing yet\n", "[Instrument]\nPort=COM3\nno value\n",
+                                   "Port=COM3\n", "[Instrument]\r\nNote=a\tb\r\n\x1A"}) {
+        Open(text);
+        EXPECT_EQ(document.Count(), 0U) << text;
+    }
+    Open("[P]\nConversionType=10\nNote=\1\n");
+    EXPECT_EQ(document.Count(), 1U) << "where there is a probe, it is a settings file";
 }
 
 TEST_F(ProbeDocumentTest, AnEditedProbeIsWrittenAsQuorconvSetWritesIt) {
@@ -281,6 +316,28 @@ TEST_F(ProbeDocumentTest, ANameOfARemovedProbeIsFreeAtOnce) {
     EXPECT_EQ(
         File(),
         "; The host's own file\n\n[Instrument]\nPort=COM3\n\n[Probe 1]\nVersion=1.0\nConversionType=10\n");
+}
+
+TEST_F(ProbeDocumentTest, ANewProbeIsSavedInTheLettersOfItsOwnWhereARemovedOneHadTheName) {
+    Open();
+    document.Remove({0});
+    document.Add(L"PROBE 1", CONV_PT100R0);
+    document.Save();
+    EXPECT_EQ(Names(), (Texts{L"Probe 2", L"PROBE 1"}));
+    const std::string saved = File();
+    EXPECT_NE(saved.find("\n[PROBE 1]\n"), std::string::npos) << saved;
+    EXPECT_NE(saved.find("\n[PROBE 1 - Settings]\n"), std::string::npos) << saved;
+    EXPECT_EQ(saved.find("[Probe 1"), std::string::npos) << saved;
+    Open();
+    EXPECT_EQ(document.Find(L"probe 1"), document.Find(L"PROBE 1"));
+    EXPECT_EQ(document.Name(document.Find(L"probe 1").value()), L"PROBE 1");
+    EXPECT_FALSE(document.Changed());
+
+    document.Remove({document.Find(L"PROBE 1").value()});
+    document.Rename(0, L"pRobe 1");
+    document.Save();
+    EXPECT_EQ(File().find("[PROBE 1"), std::string::npos) << File();
+    EXPECT_NE(File().find("[pRobe 1]"), std::string::npos) << File();
 }
 
 TEST_F(ProbeDocumentTest, AnotherTypeTakesThePlaceOfTheOldSettings) {
