@@ -44,6 +44,10 @@ public:
     [[nodiscard]] bool Is(Kind kind) const { return m_kind == kind; }
     [[nodiscard]] Kind What() const { return m_kind; }
 
+    /// The line as it stands in the text, with its end.
+    [[nodiscard]] std::string_view Bytes() const {
+        return m_text.substr(m_line.offset, m_next.offset - m_line.offset);
+    }
     /// The name in a header, or of a key; empty in other lines.
     [[nodiscard]] std::wstring Name() const;
     /// The same as its bytes stand in the text, UTF-8 or Latin-1.

@@ -2,61 +2,26 @@
 
 #include "QuorConversions/core/modPaths.h"
 #include "QuorConversions/core/modStrings.h"
-#include "QuorIniFile/Utf8.h"
-#include "QuorIniFile/detail/IniDisk.h"
-#include "QuorIniFile/detail/IniError.h"
-#include "QuorIniFile/detail/IniFormat.h"
-#include "QuorProbeFile/ProbeFile.h"
-#include "QuorProbeFile/ReadLog.h"
+#include "QuorIniFile/IniError.h"
+#include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeTypes.h"
+#include "QuorProbeFile/ReadLog.h"
+#include "QuorProbeFile/RecordImage.h"
+#include "QuorProbeFile/SectionPlan.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <iterator>
-#include <random>
 #include <unordered_map>
-#include <unordered_set>
 #include <utility>
-
-#include <unistd.h>
 
 namespace ProbeSetup {
 
 using namespace QuorConversions;
-using namespace ProbeRecords;
+using namespace QuorProbeFile;
+using QuorIniFile::IniLines;
 using QuorIniFile::IniStore;
-using QuorIniFile::ToUtf8;
-
-namespace fs = std::filesystem;
 
 namespace {
-
-/// Gives a file these bytes, whatever stands in it.
-void ReplaceBytes(const std::wstring& path, std::string_view bytes, QuorIniFile::IniFileSystem& files) {
-    constexpr int mostTries = 20;
-    for (int tries = 0;; ++tries) {
-        QuorIniFile::IniReplacement replacement(path, files);
-        if (replacement.Commit(bytes))
-            return;
-        if (tries == mostTries)
-            throw QuorError(replacement.Setback());
-    }
-}
-
-/// Calls `visit` with each part of `section` that is the name of a probe, if `section` holds its settings.
-template <class Visit>
-void ForEachOwner(std::wstring_view section, const Visit& visit) {
-    for (std::size_t at = section.find(nestedMark); at != std::wstring_view::npos;
-         at = section.find(nestedMark, at + 1)) {
-        if (HoldsSettingsOf(section, section.substr(0, at)))
-            visit(section.substr(0, at));
-    }
-}
-
-bool CanBeWritten(std::wstring_view name) {
-    const auto spelled = QuorIniFile::NameToFind(name);
-    return spelled && QuorIniFile::IsSectionName(*spelled);
-}
 
 /// A name for a probe that is called as no section can be: a file may have any name.
 std::wstring WithoutWhatCannotBeWritten(std::wstring name) {
@@ -65,116 +30,103 @@ std::wstring WithoutWhatCannotBeWritten(std::wstring name) {
         name.begin(), name.end(), [](wchar_t c) { return c < L' ' || c == L'[' || c == L']'; }, L' ');
     name.erase(0, name.find_first_not_of(blanks));
     name.erase(name.find_last_not_of(blanks) + 1);
-    return !name.empty() && CanBeWritten(name) ? name : L"Probe";
+    return !name.empty() && IniStore::CanNameSection(name) ? name : L"Probe";
 }
 
 /// Types of one code whose names depend on their values.
 bool IsNamedByItsValues(std::int32_t type) { return type == CONV_TCTYPEX || type == CONV_TCTYPEPOLY; }
 
-bool IsReadOnlyFile(const std::wstring& path) {
-    std::error_code error;
-    const fs::path file = fs::canonical(ToUtf8(path), error); // a save leaves a symbolic link where it is
-    const fs::perms mode = fs::status(file, error).permissions();
-    constexpr fs::perms anyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-    // A save puts a new file into the folder.
-    return error || (mode & anyWrite) == fs::perms::none || ::access(file.c_str(), W_OK) != 0 ||
-           ::access(file.parent_path().c_str(), W_OK) != 0;
+/// Whether a line has a character that no text has. What moves a printer may stand in a text, and so may the
+/// mark at the end of a file of old systems.
+bool HasControlCharacter(std::string_view line) {
+    return std::any_of(line.begin(), line.end(), [](char c) {
+        constexpr std::string_view harmless = "\t\n\v\f\r\x1A";
+        return static_cast<unsigned char>(c) < ' ' && harmless.find(c) == std::string_view::npos;
+    });
 }
-
-/// The place of a file at the end of all symbolic links, also when it is gone.
-fs::path PlaceOf(const std::wstring& path) {
-    constexpr int mostLinks = 40;
-    std::error_code error;
-    fs::path place = fs::absolute(ToUtf8(path), error);
-    for (int links = 0; links < mostLinks && fs::is_symlink(place, error); ++links)
-        place = place.parent_path() / fs::read_symlink(place, error);
-    const fs::path found = fs::weakly_canonical(place, error);
-    return error ? place : found;
-}
-
-/// Whether a save to the one path is a save to the other. Another hard link is another file then, because
-/// a save parts the two; another spelling, where the case of letters makes no difference, is not.
-bool IsSameFile(const std::wstring& a, const std::wstring& b) {
-    if (PlaceOf(a) == PlaceOf(b))
-        return true;
-    std::error_code error;
-    return fs::equivalent(ToUtf8(a), ToUtf8(b), error) && fs::hard_link_count(ToUtf8(a), error) == 1;
-}
-
-/// A file in a folder of its own, which vanishes with it.
-class WorkFile {
-public:
-    WorkFile()
-        : m_folder(fs::temp_directory_path() / ("probe-setup-" + std::to_string(std::random_device{}()))) {
-        IniStore store;
-        store.SetFileName(Path());
-        store.MakeFolder();
-    }
-    WorkFile(const WorkFile&) = delete;
-    WorkFile& operator=(const WorkFile&) = delete;
-    ~WorkFile() {
-        std::error_code ignored;
-        fs::remove_all(m_folder, ignored);
-    }
-    [[nodiscard]] std::wstring Path() const { return (m_folder / "copy.ini").wstring(); }
-
-private:
-    fs::path m_folder;
-};
 
 /// The first line that shows that a text without probes is none of an INI file: it has a character that no
 /// text has, or there is no section at all and the line is no key either. Nothing for what may be a host's
 /// file that has no probes yet.
-std::optional<std::size_t> LineOfNoIniFile(std::string_view text) {
-    const auto control = std::find_if(text.begin(), text.end(), [](char c) {
-        // What moves a printer, and the mark at the end of a file of old systems, may stand in a text.
-        constexpr std::string_view harmless = "\t\n\v\f\r\x1A";
-        return static_cast<unsigned char>(c) < ' ' && harmless.find(c) == std::string_view::npos;
-    });
-    if (control != text.end())
-        return 1 + static_cast<std::size_t>(std::count(text.begin(), control, '\n'));
+std::optional<std::size_t> LineOfNoIniFile(IniLines lines) {
+    bool hasSection = false;
     std::optional<std::size_t> malformed;
-    QuorIniFile::IniWalker walker(text);
-    while (walker.Next()) {
-        const QuorIniFile::IniLineKind kind = walker.Line().kind;
-        if (kind == QuorIniFile::IniLineKind::Section)
-            return std::nullopt;
-        if (kind == QuorIniFile::IniLineKind::Malformed && !malformed)
-            malformed = walker.Number();
+    while (lines.Next()) {
+        if (HasControlCharacter(lines.Bytes()))
+            return lines.Number();
+        hasSection = hasSection || lines.Is(IniLines::Kind::Header);
+        if (lines.Is(IniLines::Kind::Malformed) && !malformed)
+            malformed = lines.Number();
     }
-    return malformed;
+    return hasSection ? std::nullopt : malformed;
 }
 
-ReadProblems ProblemsOf(const std::vector<ReadLog::Read>& reads, const QuietPlatform::Quiet& quiet) {
+ReadProblems ProblemsOf(const ReadOutcome& outcome) {
     ReadProblems problems;
-    for (const ReadLog::Read& read : reads) {
-        if (!read.found)
-            problems.keys.push_back(L"[" + read.section + L"] " + read.key);
+    for (const ProbeProblem& problem : outcome.problems) {
+        if (problem.key.empty())
+            problems.messages.push_back(problem.text);
+        else
+            problems.keys.push_back(L"[" + problem.section + L"] " + problem.key);
     }
-    // The message of missing keys says less than the keys themselves.
-    for (const auto& [text, id] : quiet.Messages()) {
-        if (problems.keys.empty() || id != IDS_WRONG_FILE_VERSION)
-            problems.messages.push_back(text);
-    }
+    if (problems.IsEmpty())
+        problems.messages = outcome.messages;
     return problems;
 }
 
-/// What DocumentError says of a probe that cannot be written.
-std::vector<std::wstring> Details(const std::wstring& probe, const QuietPlatform::Quiet& quiet) {
-    std::vector<std::wstring> details{probe};
-    for (const auto& message : quiet.Messages())
-        details.push_back(message.text);
-    return details;
-}
-
 /// What the library reads of a conversion that stands in `section`.
-std::vector<ReadLog::Read> ReadsOf(CQuorConversion& conversion, const std::shared_ptr<IniStore>& store,
+std::vector<ReadLog::Read> ReadsOf(CQuorConversion& conversion, const ProbeFile& file,
                                    const std::wstring& section) {
-    const auto log = std::make_shared<ReadLog>(store);
+    const auto log = std::make_shared<ReadLog>(file.Store());
     std::shared_ptr<INIFile> iniFile = log;
     conversion.ReadFromFile(iniFile, L"", section);
     return log->Reads();
 }
+
+bool Exists(const ProbeFile& file) {
+    try {
+        static_cast<void>(file.Store()->Sections());
+        return true;
+    } catch (const QuorError& error) {
+        if (error.Number() != QuorIniFile::ERR_FILE_NOT_FOUND)
+            throw;
+        return false;
+    }
+}
+
+/// A file that is not there, for a text that is saved as `path`: that one, or one beside it.
+std::unique_ptr<ProbeFile> FileThatDoesNotExist(const std::wstring& path, QuorIniFile::IniFileSystem& files) {
+    std::wstring name = path;
+    for (int number = 1;; ++number) {
+        auto file = std::make_unique<ProbeFile>(name, files, ProbeFile::Opening::OrNew);
+        if (!Exists(*file))
+            return file;
+        name = path + L"." + std::to_wstring(number);
+    }
+}
+
+/// Reads a probe. Of a record that its class gives up the file gives the default values; here those that were
+/// reached are shown, because a save must not write defaults over them.
+ReadProblems ReadInto(CQuorConversion& conversion, ProbeFile& file, const std::wstring& section) {
+    const ReadOutcome outcome = file.Read(section, conversion);
+    if (std::any_of(outcome.problems.begin(), outcome.problems.end(), [](const ProbeProblem& problem) {
+            return problem.kind == PROBLEM_RECORD_REFUSED || problem.kind == PROBLEM_VALUE_REFUSED;
+        }))
+        static_cast<void>(ReadsOf(conversion, file, section));
+    return ProblemsOf(outcome);
+}
+
+/// What is written through a store as long as this lives stays in memory.
+class InMemory {
+public:
+    explicit InMemory(IniStore& store) : m_store(store) { m_store.Hold(); }
+    InMemory(const InMemory&) = delete;
+    InMemory& operator=(const InMemory&) = delete;
+    ~InMemory() { m_store.Abandon(); }
+
+private:
+    IniStore& m_store;
+};
 
 } // namespace
 
@@ -199,84 +151,68 @@ ProbeDocument::ProbeDocument(std::shared_ptr<Platform> platform,
       m_registry(std::move(registry)),
       m_files(files) {}
 
-std::shared_ptr<IniStore> ProbeDocument::StoreOf(const std::wstring& path) const {
-    auto store = std::make_shared<IniStore>(m_files);
-    store->SetFileName(path);
-    return store;
-}
-
 // The list and the file
 
 void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
-    const ProbeFile file(path);
-    const std::vector<Record>& records = file.Records();
-    if (const auto line = records.empty() ? LineOfNoIniFile(file.Bytes()) : std::nullopt)
+    auto file = std::make_unique<ProbeFile>(path, m_files);
+    const std::vector<ProbeEntry>& probes = file->Probes();
+    if (const auto line = probes.empty() ? LineOfNoIniFile(file->Store()->Lines()) : std::nullopt)
         throw DocumentError{Failure::NoSettingsFile, path, {std::to_wstring(*line)}};
-    auto store = StoreOf(path);
 
-    const QuietPlatform::Quiet quiet(*m_platform);
     std::vector<Entry> entries;
-    entries.reserve(records.size());
-    std::unordered_set<std::wstring> probes;
+    entries.reserve(probes.size());
+    std::unordered_set<std::wstring> ours;
     std::unordered_map<std::int32_t, std::uint32_t> names; // of types
-    for (const Record& record : records) {
-        if (record.standAlone)
+    for (const ProbeEntry& probe : probes) {
+        if (probe.standAlone)
             continue;
         Entry entry;
-        entry.name = record.section;
-        store->SetSection(record.section);
-        std::int16_t type = 0;
-        if (!store->ReadInteger(conversionTypeKey, type)) {
-            entry.content.name = NumberOf({});
+        entry.name = probe.section;
+        entry.content.type = probe.type;
+        if (!probe.type || IsNamedByItsValues(*probe.type)) {
+            entry.content.name = NumberOf(file->ConversionName(probe));
         } else {
-            entry.content.type = EQuorConversionType{type};
-            const auto [name, isNew] = names.try_emplace(type, 0);
-            if (isNew || IsNamedByItsValues(type)) {
-                const auto conversion = NewConversion();
-                conversion->SetConversionType(EQuorConversionType{type});
-                if (IsNamedByItsValues(type)) {
-                    std::shared_ptr<INIFile> iniFile = store;
-                    conversion->ReadFromFile(iniFile, L"", record.section);
-                }
-                name->second = NumberOf(NameOf(*conversion));
-            }
+            const auto [name, isNew] = names.try_emplace(*probe.type, 0);
+            if (isNew)
+                name->second = NumberOf(file->ConversionName(probe));
             entry.content.name = name->second;
         }
-        probes.insert(Folded(entry.name));
+        ours.insert(Folded(entry.name));
         entries.push_back(std::move(entry));
         constexpr std::size_t now = 1024;
         if (progress && entries.size() % now == 0)
-            progress(static_cast<double>(entries.size()) / static_cast<double>(records.size()));
+            progress(static_cast<double>(entries.size()) / static_cast<double>(probes.size()));
     }
 
     std::vector<std::wstring> foreign;
-    for (std::wstring& section : store->Sections()) {
-        bool ours = probes.contains(Folded(section));
-        ForEachOwner(section, [&](std::wstring_view owner) {
-            ours = ours || probes.contains(Folded(std::wstring(owner)));
-        });
-        if (!ours)
+    for (std::wstring& section : file->Store()->Sections()) {
+        const std::vector<std::wstring_view> owners = PossibleOwners(section);
+        if (!ours.contains(Folded(section)) &&
+            std::none_of(owners.begin(), owners.end(),
+                         [&](std::wstring_view owner) { return ours.contains(Folded(std::wstring(owner))); }))
             foreign.push_back(std::move(section));
     }
 
     Close();
     m_path = path;
-    m_isReadOnly = IsReadOnlyFile(path);
-    m_store = std::move(store);
+    m_isReadOnly = file->IsReadOnly();
+    m_file = std::move(file);
     m_entries = std::move(entries);
-    m_lostRecords = file.LostRecords();
     m_foreign = std::move(foreign);
 }
 
 void ProbeDocument::Close() {
     m_path.clear();
     m_isReadOnly = false;
-    m_store = nullptr;
+    m_file = nullptr;
     m_entries.clear();
-    m_lostRecords.clear();
     m_foreign.clear();
     m_done.clear();
     m_undone.clear();
+}
+
+std::vector<std::size_t> ProbeDocument::LostRecords() const {
+    return m_file ? m_file->LostSections() : std::vector<std::size_t>();
 }
 
 bool ProbeDocument::IsChanged(std::size_t probe) const {
@@ -295,7 +231,7 @@ std::optional<std::size_t> ProbeDocument::Find(std::wstring_view name) const {
 NameProblem ProbeDocument::CheckName(std::wstring_view name, std::optional<std::size_t> except) const {
     if (name.empty())
         return NameProblem::Empty;
-    if (!CanBeWritten(name))
+    if (!IniStore::CanNameSection(name))
         return NameProblem::CannotBeWritten;
     for (std::size_t i = 0; i < m_entries.size(); ++i) {
         if (i == except)
@@ -318,7 +254,8 @@ NameProblem ProbeDocument::CheckName(std::wstring_view name, std::optional<std::
 }
 
 std::wstring ProbeDocument::FreeName(const std::wstring& wish) const {
-    std::wstring stem = !wish.empty() && CanBeWritten(wish) ? wish : WithoutWhatCannotBeWritten(wish);
+    std::wstring stem =
+        !wish.empty() && IniStore::CanNameSection(wish) ? wish : WithoutWhatCannotBeWritten(wish);
     std::wstring name = stem;
     NameProblem problem = CheckName(name);
     for (int number = 2; problem != NameProblem::None; problem = CheckName(name), ++number) {
@@ -346,7 +283,7 @@ std::shared_ptr<CQuorConversion> ProbeDocument::CopyOf(const CQuorConversion& co
     auto copy = NewConversion();
     copy->SetConversionType(conversion.ConversionType());
     if (const auto settings = conversion.Settings())
-        IniImage::Apply(IniImage::Of(*settings), *copy->Settings());
+        RecordImage::Apply(RecordImage::Of(*settings), *copy->Settings());
     copy->SetChanged(false);
     return copy;
 }
@@ -378,12 +315,12 @@ const ReadProblems& ProbeDocument::Load(Entry& entry) {
         return content.problems;
     const QuietPlatform::Quiet quiet(*m_platform);
     auto conversion = NewConversion();
-    if (!content.type) { // the library would take it for an ITS-90 calibration
-        content.conversion = std::move(conversion);
+    if (!content.type)
         content.problems.keys = {L"[" + entry.Section() + L"] ConversionType"};
-        return content.problems;
-    }
-    content.problems = ProblemsOf(ReadsOf(*conversion, m_store, entry.Section()), quiet);
+    else if (ConversionEnumerator(*content.type))
+        content.problems = ReadInto(*conversion, *m_file, entry.Section());
+    else
+        conversion->SetConversionType(*content.type);
     conversion->SetChanged(false);
     content.conversion = std::move(conversion);
     return content.problems;
@@ -412,7 +349,7 @@ bool ProbeDocument::Edit(std::size_t probe) {
     if (!copy->Edit() || m_isReadOnly || !copy->Settings())
         return false;
     // Not every value that a dialog can change sets Changed: a file that it opens may hold others as well.
-    if (IniImage::Same(*IniImage::Of(*conversion.Settings()), *IniImage::Of(*copy->Settings())))
+    if (RecordImage::Same(*RecordImage::Of(*conversion.Settings()), *RecordImage::Of(*copy->Settings())))
         return false;
     copy->SetChanged(true);
     Content content = ContentOf(copy);
@@ -432,7 +369,7 @@ std::optional<std::wstring> ProbeDocument::Export(std::size_t probe, std::int32_
     const QuietPlatform::Quiet quiet(*m_platform);
     const bool chosen = settings->SaveFileAs(hwnd, fileName);
     if (!quiet.Messages().empty())
-        throw DocumentError{Failure::CannotWrite, fileName, Details(Name(probe), quiet)};
+        throw DocumentError{Failure::CannotWrite, fileName, {Name(probe), quiet.Messages().front()}};
     return chosen ? std::optional(fileName) : std::nullopt;
 }
 
@@ -457,37 +394,18 @@ std::size_t ProbeDocument::Duplicate(std::size_t probe) {
 }
 
 std::size_t ProbeDocument::Import(const std::wstring& path) {
-    const std::wstring extension = Folded(GetExtensionPart(path));
-    const TypeInfo* first = nullptr;
-    for (const TypeInfo& type : Types()) {
-        if (extension.empty() || type.extension != extension)
-            continue;
-        // Several types share an extension: the first that reads the file without a complaint is meant.
-        first = first ? first : &type;
-        auto conversion = NewConversion();
-        conversion->SetConversionType(type.code);
-        const QuietPlatform::Quiet quiet(*m_platform);
-        std::wstring fileName = path;
-        if (conversion->Settings()->OpenFile(0, fileName) && quiet.Messages().empty()) {
-            const std::wstring name = GetFileNamePart(path);
-            return Append(StepKind::Import, FreeName(name.substr(0, name.size() - extension.size() - 1)),
-                          ContentOf(std::move(conversion)));
-        }
-    }
-    if (!first)
+    const auto section = StandAloneSection(path);
+    if (!section)
         throw DocumentError{Failure::NoStandAloneFile, path, {}};
-
-    // Once more, to learn what is missing.
-    const QuietPlatform::Quiet quiet(*m_platform);
-    const auto store = StoreOf(path);
-    const auto log = std::make_shared<ReadLog>(store);
-    std::shared_ptr<INIFile> iniFile = log;
-    const auto conversion = NewConversion();
-    conversion->SetConversionType(first->code);
-    conversion->Settings()->ReadFromFile(iniFile, L"", first->section);
-    const ReadProblems problems = ProblemsOf(log->Reads(), quiet);
-    throw DocumentError{Failure::UnreadableRecord, path,
-                        problems.messages.empty() ? problems.keys : problems.messages};
+    ProbeFile file(path, m_files);
+    if (!file.Find(*section))
+        throw DocumentError{Failure::UnreadableRecord, path, {L"[" + *section + L"]"}};
+    auto conversion = NewConversion();
+    if (const ReadProblems problems = ProblemsOf(file.Read(*section, *conversion)); !problems.IsEmpty())
+        throw DocumentError{Failure::UnreadableRecord, path, problems.Lines()};
+    const std::wstring name = GetFileNamePart(path);
+    return Append(StepKind::Import, FreeName(name.substr(0, name.rfind(L'.'))),
+                  ContentOf(std::move(conversion)));
 }
 
 void ProbeDocument::Rename(std::size_t probe, const std::wstring& name) {
@@ -607,16 +525,16 @@ bool ProbeDocument::Changed() const {
 }
 
 void ProbeDocument::Save(const OthersChanges& replaced) {
-    // What was read stays in m_store, whatever becomes of this save.
-    const auto store = StoreOf(m_path);
+    // What was read stays in m_file, whatever becomes of this save.
+    auto file = std::make_unique<ProbeFile>(m_path, m_files);
     bool othersWrote = false;
-    store->Edit([&] {
+    file->Edit([&] {
         // A file that is gone is not made anew: it would hold nothing but what has changed.
-        static_cast<void>(store->Sections());
-        othersWrote = WriteChanges(store, replaced);
+        static_cast<void>(file->Store()->Sections());
+        othersWrote = WriteChanges(*file, replaced);
     });
     Settle();
-    m_store = store;
+    m_file = std::move(file);
     if (!othersWrote)
         return;
     // Values of others that were kept would look like changes of ours, beside the file.
@@ -630,12 +548,13 @@ void ProbeDocument::Save(const OthersChanges& replaced) {
 }
 
 std::unordered_set<const ProbeDocument::Entry*>
-ProbeDocument::CheckForConflicts(const std::shared_ptr<IniStore>& theirs, const OthersChanges& replaced) {
+ProbeDocument::CheckForConflicts(const ProbeFile& theirs, const OthersChanges& replaced) {
     std::unordered_set<std::wstring> sections;
     std::unordered_set<std::wstring> taken; // and by whose settings
-    for (const std::wstring& section : theirs->Sections()) {
+    for (const std::wstring& section : theirs.Store()->Sections()) {
         sections.insert(Folded(section));
-        ForEachOwner(section, [&taken](std::wstring_view name) { taken.insert(Folded(std::wstring(name))); });
+        for (const std::wstring_view owner : PossibleOwners(section))
+            taken.insert(Folded(std::wstring(owner)));
     }
     taken.insert(sections.begin(), sections.end());
     RequireFreeNames(taken);
@@ -673,9 +592,9 @@ ProbeDocument::CheckForConflicts(const std::shared_ptr<IniStore>& theirs, const 
     return {gone.begin(), gone.end()};
 }
 
-bool ProbeDocument::IsSameRecord(const std::shared_ptr<IniStore>& theirs, const std::wstring& section) const {
+bool ProbeDocument::IsSameRecord(const ProbeFile& theirs, const std::wstring& section) const {
     const QuietPlatform::Quiet quiet(*m_platform);
-    const auto before = ReadsOf(*NewConversion(), m_store, section);
+    const auto before = ReadsOf(*NewConversion(), *m_file, section);
     const auto now = ReadsOf(*NewConversion(), theirs, section);
     return std::equal(before.begin(), before.end(), now.begin(), now.end(),
                       [](const ReadLog::Read& a, const ReadLog::Read& b) {
@@ -701,26 +620,26 @@ void ProbeDocument::RequireFreeNames(const std::unordered_set<std::wstring>& tak
     }
 }
 
-void ProbeDocument::WriteAll(const std::shared_ptr<IniStore>& store) {
+void ProbeDocument::WriteAll(const ProbeFile& file) {
     for (Entry& entry : m_entries) {
         RequireWhole(entry);
-        Write(store, entry, entry.name);
+        Write(file.Store(), entry, entry.name);
     }
 }
 
-bool ProbeDocument::WriteChanges(const std::shared_ptr<IniStore>& store, const OthersChanges& replaced) {
-    const bool othersWrote = m_store->FileChanged();
+bool ProbeDocument::WriteChanges(const ProbeFile& file, const OthersChanges& replaced) {
+    const bool othersWrote = m_file->Changed();
     std::unordered_set<const Entry*> gone;
     if (othersWrote)
-        gone = CheckForConflicts(store, replaced);
-    MoveSections(*store);
+        gone = CheckForConflicts(file, replaced);
+    MoveSections(*file.Store());
     for (const Entry& entry : m_entries) {
         if (IsMerged(entry) && !gone.contains(&entry))
-            WriteMerged(store, entry);
+            WriteMerged(file, entry);
         else if (entry.isNew || entry.content.IsChanged() || gone.contains(&entry))
-            Write(store, entry, entry.name);
+            Write(file.Store(), entry, entry.name);
     }
-    SpellNewNames(*store);
+    SpellNewNames(*file.Store());
     return othersWrote;
 }
 
@@ -740,113 +659,47 @@ void ProbeDocument::SpellNewNames(IniStore& store) const {
     }
 }
 
-void ProbeDocument::WriteMerged(const std::shared_ptr<IniStore>& store, const Entry& entry) const {
-    const auto merge = MergeOf(entry, store, entry.name);
+void ProbeDocument::WriteMerged(const ProbeFile& file, const Entry& entry) const {
+    const auto merge = MergeOf(entry, file, entry.name);
     if (merge->Conflicts().empty())
         merge->WriteChanges();
     else if (merge->HasAnotherType()) // the keys that stand there are not those of this conversion
-        Write(store, entry, entry.name);
+        Write(file.Store(), entry, entry.name);
     else
         merge->WriteChangesAndRemoved();
 }
 
-std::shared_ptr<RecordMerge> ProbeDocument::MergeOf(const Entry& entry,
-                                                    const std::shared_ptr<IniStore>& store,
+std::shared_ptr<RecordMerge> ProbeDocument::MergeOf(const Entry& entry, const ProbeFile& file,
                                                     const std::wstring& section) const {
-    auto merge = std::make_shared<RecordMerge>(m_store, entry.Section(), store, section);
+    auto merge = std::make_shared<RecordMerge>(m_file->Store(), entry.Section(), file.Store(), section);
     Write(merge, entry, section);
     return merge;
 }
 
 void ProbeDocument::MoveSections(IniStore& store) const {
-    const Moves moves = MovesIn(store);
-    for (const std::wstring& section : moves.removed)
-        store.RemoveSection(section);
-    // Probes may change names among each other: a name that somebody waits for is given up first.
-    std::unordered_set<std::wstring> wanted;
-    for (const auto& [from, to] : moves.renamed) {
-        if (!SameName(from, to))
-            wanted.insert(Folded(to));
-    }
-    std::size_t number = 0;
-    std::vector<std::pair<std::wstring, std::wstring>> renamed = moves.renamed;
-    for (auto& [from, to] : renamed) {
-        if (!wanted.contains(Folded(from)))
-            continue;
-        const std::wstring between = L"probe-setup renames " + std::to_wstring(++number);
-        store.RenameSection(from, between);
-        from = between;
-    }
-    for (const auto& [from, to] : renamed)
-        store.RenameSection(from, to);
-    for (const std::wstring& section : moves.outdated)
-        store.RemoveSection(section);
-}
-
-ProbeDocument::Moves ProbeDocument::MovesIn(IniStore& store) const {
-    const std::unordered_map<std::wstring, Owner> owners = Owners();
-    if (std::none_of(owners.begin(), owners.end(),
-                     [](const auto& owner) { return owner.second.Moves(true); }))
-        return {};
-    Moves moves;
-    for (const std::wstring& section : store.Sections()) {
-        std::vector<Owner> found;
-        const auto find = [&](std::wstring_view name) {
-            const auto owner = owners.find(Folded(std::wstring(name)));
-            if (owner == owners.end())
-                return;
-            found.push_back(owner->second);
-            moves.Add(owner->second, section, name.size());
-        };
-        find(section);
-        ForEachOwner(section, find);
-        RequireAgreement(section, found);
-    }
-    return moves;
-}
-
-std::unordered_map<std::wstring, ProbeDocument::Owner> ProbeDocument::Owners() const {
-    std::unordered_map<std::wstring, Owner> owners;
+    std::vector<ProbeMove> moves;
     for (const Entry& entry : m_entries) {
         if (!entry.isNew)
-            owners.emplace(Folded(entry.Section()), Owner{&entry, false});
+            moves.push_back({entry.Section(), entry.name, false, entry.content.replacesRecord});
     }
     for (const Entry* const entry : RemovedEntries())
-        owners.emplace(Folded(entry->Section()), Owner{entry, true});
-    return owners;
-}
-
-void ProbeDocument::Moves::Add(const Owner& owner, const std::wstring& section, std::size_t nameLength) {
-    const std::wstring name = owner.entry->name + section.substr(nameLength);
-    if (owner.isRemoved) {
-        removed.push_back(section);
-        return;
-    }
-    if (owner.entry->IsRenamed())
-        renamed.emplace_back(section, name);
-    if (owner.entry->content.replacesRecord && section.size() > nameLength)
-        outdated.push_back(name);
-}
-
-void ProbeDocument::RequireAgreement(const std::wstring& section, const std::vector<Owner>& owners) const {
-    for (const Owner& moving : owners) {
-        if (!moving.Moves(!SameName(section, moving.entry->Section())))
-            continue;
-        for (const Owner& other : owners) {
-            if (other.entry != moving.entry && !other.isRemoved)
-                throw DocumentError{
-                    Failure::SharedSection, m_path, {section, moving.entry->name, other.entry->name}};
-        }
-    }
+        moves.push_back({entry->Section(), entry->name, true, false});
+    std::optional<SharedSection> shared;
+    const SectionPlan plan = PlanSections(store.Sections(), moves, shared);
+    if (shared)
+        throw DocumentError{Failure::SharedSection,
+                            m_path,
+                            {shared->section, moves[shared->probe].name, moves[shared->other].name}};
+    ApplyPlan(store, plan);
 }
 
 void ProbeDocument::Write(const std::shared_ptr<INIFile>& iniFile, const Entry& entry,
                           const std::wstring& section) const {
-    const QuietPlatform::Quiet quiet(*m_platform);
-    std::shared_ptr<INIFile> target = iniFile;
-    entry.content.conversion->WriteToFile(target, L"", section);
-    if (!quiet.Messages().empty())
-        throw DocumentError{Failure::CannotWrite, m_path, Details(entry.name, quiet)};
+    try {
+        entry.content.conversion->WriteOrRaise(iniFile, section);
+    } catch (const QuorError& error) {
+        throw DocumentError{Failure::CannotWrite, m_path, {entry.name, error.Description()}};
+    }
 }
 
 void ProbeDocument::Settle() {
@@ -862,51 +715,43 @@ void ProbeDocument::Settle() {
 }
 
 void ProbeDocument::SaveCopyAs(const std::wstring& path, const OthersChanges& replaced) {
-    const auto original = m_path.empty() ? std::nullopt : QuorIniFile::ReadBytes(m_path, m_files);
-    const bool isOwn = !m_path.empty() && IsSameFile(path, m_path);
-    if (isOwn && original) {
+    const bool isOwn = m_file && m_file->Store()->IsOwnFile(path);
+    const auto file = m_path.empty()
+                          ? FileThatDoesNotExist(path, m_files)
+                          : std::make_unique<ProbeFile>(m_path, m_files, ProbeFile::Opening::OrNew);
+    const bool exists = Exists(*file);
+    if (isOwn && exists) {
         Save(replaced);
         return;
     }
-    const WorkFile work;
-    ReplaceBytes(work.Path(), original ? original->bytes : std::string(), m_files);
-    const auto store = StoreOf(work.Path());
     try {
+        const InMemory inMemory(*file->Store());
         // Where somebody has removed the file, the probes are what can be saved of it.
-        store->Edit([&] {
-            if (original)
-                static_cast<void>(WriteChanges(store, replaced));
-            else
-                WriteAll(store);
-        });
+        if (exists)
+            static_cast<void>(WriteChanges(*file, replaced));
+        else
+            WriteAll(*file);
+        file->SaveAs(path);
     } catch (DocumentError& error) {
         if (error.failure == Failure::CannotWrite)
             error.file = path;
         throw;
-    } catch (const QuorError& error) { // the user knows nothing of a work file
-        if (error.Cause() && error.Cause()->fileName == work.Path())
-            throw WithFileName(error, path);
-        throw;
     }
-    ReplaceBytes(path, QuorIniFile::ReadBytes(work.Path(), m_files)->bytes, m_files);
     if (!m_path.empty() && !isOwn)
         return;
-    auto saved = StoreOf(path);
-    static_cast<void>(saved->Sections()); // takes the text in
+    m_file = std::make_unique<ProbeFile>(path, m_files);
     m_path = path;
-    m_store = std::move(saved);
     m_isReadOnly = false;
-    m_lostRecords.clear(); // nothing but probes stands in it
-    m_foreign.clear();
+    m_foreign.clear(); // nothing but probes stands in it
     Settle();
 }
 
 bool ProbeDocument::IsStandAlone(const std::wstring& path) {
     if (!StandAloneSection(path))
         return false;
-    const ProbeFile file(path);
-    return std::all_of(file.Records().begin(), file.Records().end(),
-                       [](const Record& record) { return record.standAlone; });
+    ProbeFile file(path);
+    return std::all_of(file.Probes().begin(), file.Probes().end(),
+                       [](const ProbeEntry& probe) { return probe.standAlone; });
 }
 
 } // namespace ProbeSetup

@@ -2,7 +2,7 @@
 
 #include "QuorConversions/core/CQuorConversion.h"
 #include "QuorIniFile/IniStore.h"
-#include "QuorIniFile/detail/IniFileSystem.h"
+#include "QuorProbeFile/ProbeFile.h"
 #include "QuorProbeFile/RecordMerge.h"
 #include "QuorRegistryII/Registry.h"
 #include "apps/probe-setup/QuietPlatform.h"
@@ -13,7 +13,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 #include <vector>
@@ -109,7 +108,7 @@ public:
 
     /// The lines of headers without a ']' above what would be a probe when the file was opened: nobody can
     /// read it. It stays in the file.
-    [[nodiscard]] const std::vector<std::size_t>& LostRecords() const { return m_lostRecords; }
+    [[nodiscard]] std::vector<std::size_t> LostRecords() const;
 
     [[nodiscard]] std::size_t Count() const { return m_entries.size(); }
     [[nodiscard]] const std::wstring& Name(std::size_t probe) const { return m_entries[probe].name; }
@@ -225,7 +224,6 @@ private:
         Content content;            // for a step that changes the content
     };
 
-    [[nodiscard]] std::shared_ptr<QuorIniFile::IniStore> StoreOf(const std::wstring& path) const;
     [[nodiscard]] std::shared_ptr<QuorConversions::CQuorConversion> NewConversion() const;
     [[nodiscard]] std::shared_ptr<QuorConversions::CQuorConversion>
     CopyOf(const QuorConversions::CQuorConversion& conversion) const;
@@ -242,56 +240,36 @@ private:
     void Toggle(Step& step);
 
     /// Writes all probes into an empty file.
-    void WriteAll(const std::shared_ptr<QuorIniFile::IniStore>& store);
-    /// Joins what was done with what others have written, and writes it, within an edit of the store; nothing
-    /// of the document changes, for the edit may begin anew. Returns whether others have written.
-    [[nodiscard]] bool WriteChanges(const std::shared_ptr<QuorIniFile::IniStore>& store,
-                                    const OthersChanges& replaced);
-    /// A probe that stood in the file when it was read.
-    struct Owner {
-        const Entry* entry;
-        bool isRemoved;
-        /// Whether a section of it goes or gets another name.
-        [[nodiscard]] bool Moves(bool ofSettings) const {
-            return isRemoved || entry->IsRenamed() || (ofSettings && entry->content.replacesRecord);
-        }
-    };
-    /// By the folded names of their sections.
-    [[nodiscard]] std::unordered_map<std::wstring, Owner> Owners() const;
-    /// Raises DocumentError when a section would go or move with one of its owners, and is needed by another.
-    void RequireAgreement(const std::wstring& section, const std::vector<Owner>& owners) const;
-    /// What is to become of the sections of a file, before anything is written into them.
-    struct Moves {
-        void Add(const Owner& owner, const std::wstring& section, std::size_t nameLength);
-        std::vector<std::wstring> removed;
-        std::vector<std::pair<std::wstring, std::wstring>> renamed; // from, to
-        std::vector<std::wstring> outdated; // under their new names: settings of another conversion
-    };
-    [[nodiscard]] Moves MovesIn(QuorIniFile::IniStore& store) const;
+    void WriteAll(const QuorProbeFile::ProbeFile& file);
+    /// Joins what was done with what others have written into `file`, and writes it there, within an edit or
+    /// in memory; nothing of the document changes, for the edit may begin anew. Returns whether others have
+    /// written.
+    [[nodiscard]] bool WriteChanges(const QuorProbeFile::ProbeFile& file, const OthersChanges& replaced);
+    /// Removes and renames sections before anything is written into them. Raises DocumentError when one would
+    /// go or move with one of its probes, and is needed by another.
     void MoveSections(QuorIniFile::IniStore& store) const;
-    /// Whether a save writes of the probe only the keys that have other values than in m_store.
+    /// Whether a save writes of the probe only the keys that have other values than in m_file.
     [[nodiscard]] static bool IsMerged(const Entry& entry) {
         return !entry.isNew && !entry.content.replacesRecord && entry.content.IsChanged();
     }
-    /// The changes of a probe that is merged, now that it stands in `section` of `store`. Raises
+    /// The changes of a probe that is merged, now that it stands in `section` of `file`. Raises
     /// DocumentError when the library refuses the record.
     [[nodiscard]] std::shared_ptr<QuorProbeFile::RecordMerge>
-    MergeOf(const Entry& entry, const std::shared_ptr<QuorIniFile::IniStore>& store,
-            const std::wstring& section) const;
+    MergeOf(const Entry& entry, const QuorProbeFile::ProbeFile& file, const std::wstring& section) const;
     /// Conflicts give way: the user has agreed to that, or there were none.
-    void WriteMerged(const std::shared_ptr<QuorIniFile::IniStore>& store, const Entry& entry) const;
+    void WriteMerged(const QuorProbeFile::ProbeFile& file, const Entry& entry) const;
     void Write(const std::shared_ptr<QuorIniFile::INIFile>& iniFile, const Entry& entry,
                const std::wstring& section) const;
     /// Raises DocumentError when what was done cannot be joined with what others have written into `theirs`.
     /// Returns the changed probes that are gone there.
-    [[nodiscard]] std::unordered_set<const Entry*>
-    CheckForConflicts(const std::shared_ptr<QuorIniFile::IniStore>& theirs, const OthersChanges& replaced);
+    [[nodiscard]] std::unordered_set<const Entry*> CheckForConflicts(const QuorProbeFile::ProbeFile& theirs,
+                                                                     const OthersChanges& replaced);
     /// Raises DocumentError when a probe would get a name that is `taken` in the file, and was not by ours.
     void RequireFreeNames(const std::unordered_set<std::wstring>& taken) const;
     /// Gives new probes their names in the letters that the user has typed: a section that is written in the
     /// place of one that was removed has the letters of that one.
     void SpellNewNames(QuorIniFile::IniStore& store) const;
-    [[nodiscard]] bool IsSameRecord(const std::shared_ptr<QuorIniFile::IniStore>& theirs,
+    [[nodiscard]] bool IsSameRecord(const QuorProbeFile::ProbeFile& theirs,
                                     const std::wstring& section) const;
     [[nodiscard]] std::vector<const Entry*> RemovedEntries() const;
     void Settle();
@@ -301,9 +279,8 @@ private:
     QuorIniFile::IniFileSystem& m_files;
     std::wstring m_path;
     bool m_isReadOnly = false;
-    std::shared_ptr<QuorIniFile::IniStore> m_store; // the text that was last read or saved; never written to
+    std::unique_ptr<QuorProbeFile::ProbeFile> m_file; // as it was last read or saved; never written to
     std::vector<Entry> m_entries;
-    std::vector<std::size_t> m_lostRecords;
     std::vector<std::wstring> m_foreign; // the names of the file's other sections
     std::vector<std::wstring> m_names;   // of conversions
     std::vector<Step> m_done;
