@@ -5,9 +5,8 @@
 #include "QuorIniFile/IniError.h"
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeTypes.h"
-#include "QuorProbeFile/ReadLog.h"
 #include "QuorProbeFile/RecordImage.h"
-#include "QuorProbeFile/SectionPlan.h"
+#include "apps/probe-setup/DocumentSave.h"
 
 #include <algorithm>
 #include <iterator>
@@ -74,15 +73,6 @@ ReadProblems ProblemsOf(const ReadOutcome& outcome) {
     return problems;
 }
 
-/// What the library reads of a conversion that stands in `section`.
-std::vector<ReadLog::Read> ReadsOf(CQuorConversion& conversion, const ProbeFile& file,
-                                   const std::wstring& section) {
-    const auto log = std::make_shared<ReadLog>(file.Store());
-    std::shared_ptr<INIFile> iniFile = log;
-    conversion.ReadFromFile(iniFile, L"", section);
-    return log->Reads();
-}
-
 bool Exists(const ProbeFile& file) {
     try {
         static_cast<void>(file.Store()->Sections());
@@ -109,10 +99,14 @@ std::unique_ptr<ProbeFile> FileThatDoesNotExist(const std::wstring& path, QuorIn
 /// reached are shown, because a save must not write defaults over them.
 ReadProblems ReadInto(CQuorConversion& conversion, ProbeFile& file, const std::wstring& section) {
     const ReadOutcome outcome = file.Read(section, conversion);
-    if (std::any_of(outcome.problems.begin(), outcome.problems.end(), [](const ProbeProblem& problem) {
+    const bool isGivenUp =
+        std::any_of(outcome.problems.begin(), outcome.problems.end(), [](const ProbeProblem& problem) {
             return problem.kind == PROBLEM_RECORD_REFUSED || problem.kind == PROBLEM_VALUE_REFUSED;
-        }))
-        static_cast<void>(ReadsOf(conversion, file, section));
+        });
+    if (isGivenUp) {
+        std::shared_ptr<INIFile> store = file.Store();
+        conversion.ReadFromFile(store, L"", section);
+    }
     return ProblemsOf(outcome);
 }
 
@@ -130,20 +124,6 @@ private:
 
 } // namespace
 
-std::vector<std::wstring> ReadProblems::Lines() const {
-    std::vector<std::wstring> lines = keys;
-    lines.insert(lines.end(), messages.begin(), messages.end());
-    return lines;
-}
-
-void ProbeDocument::Entry::SetName(std::wstring newName) {
-    if (!isNew && !nameInFile)
-        nameInFile = name;
-    name = std::move(newName);
-    if (name == nameInFile)
-        nameInFile.reset();
-}
-
 ProbeDocument::ProbeDocument(std::shared_ptr<Platform> platform,
                              std::shared_ptr<QuorRegistryII::Registry> registry,
                              QuorIniFile::IniFileSystem& files)
@@ -159,14 +139,14 @@ void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
     if (const auto line = probes.empty() ? LineOfNoIniFile(file->Store()->Lines()) : std::nullopt)
         throw DocumentError{Failure::NoSettingsFile, path, {std::to_wstring(*line)}};
 
-    std::vector<Entry> entries;
+    std::vector<ListedProbe> entries;
     entries.reserve(probes.size());
     std::unordered_set<std::wstring> ours;
     std::unordered_map<std::int32_t, std::uint32_t> names; // of types
     for (const ProbeEntry& probe : probes) {
         if (probe.standAlone)
             continue;
-        Entry entry;
+        ListedProbe entry;
         entry.name = probe.section;
         entry.content.type = probe.type;
         if (!probe.type || IsNamedByItsValues(*probe.type)) {
@@ -197,7 +177,7 @@ void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
     m_path = path;
     m_isReadOnly = file->IsReadOnly();
     m_file = std::move(file);
-    m_entries = std::move(entries);
+    m_probes = std::move(entries);
     m_foreign = std::move(foreign);
 }
 
@@ -205,7 +185,7 @@ void ProbeDocument::Close() {
     m_path.clear();
     m_isReadOnly = false;
     m_file = nullptr;
-    m_entries.clear();
+    m_probes.clear();
     m_foreign.clear();
     m_done.clear();
     m_undone.clear();
@@ -215,17 +195,14 @@ std::vector<std::size_t> ProbeDocument::LostRecords() const {
     return m_file ? m_file->LostSections() : std::vector<std::size_t>();
 }
 
-bool ProbeDocument::IsChanged(std::size_t probe) const {
-    const Entry& entry = m_entries[probe];
-    return entry.isNew || entry.IsRenamed() || entry.content.IsChanged();
-}
+bool ProbeDocument::IsChanged(std::size_t probe) const { return m_probes[probe].IsChanged(); }
 
 std::optional<std::size_t> ProbeDocument::Find(std::wstring_view name) const {
-    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
-                                    [&](const Entry& entry) { return SameName(entry.name, name); });
-    if (found == m_entries.end())
+    const auto found = std::find_if(m_probes.begin(), m_probes.end(),
+                                    [&](const ListedProbe& entry) { return SameName(entry.name, name); });
+    if (found == m_probes.end())
         return std::nullopt;
-    return static_cast<std::size_t>(found - m_entries.begin());
+    return static_cast<std::size_t>(found - m_probes.begin());
 }
 
 NameProblem ProbeDocument::CheckName(std::wstring_view name, std::optional<std::size_t> except) const {
@@ -233,10 +210,10 @@ NameProblem ProbeDocument::CheckName(std::wstring_view name, std::optional<std::
         return NameProblem::Empty;
     if (!IniStore::CanNameSection(name))
         return NameProblem::CannotBeWritten;
-    for (std::size_t i = 0; i < m_entries.size(); ++i) {
+    for (std::size_t i = 0; i < m_probes.size(); ++i) {
         if (i == except)
             continue;
-        const std::wstring& other = m_entries[i].name;
+        const std::wstring& other = m_probes[i].name;
         if (SameName(name, other))
             return NameProblem::ProbeExists;
         if (HoldsSettingsOf(name, other))
@@ -301,16 +278,16 @@ std::uint32_t ProbeDocument::NumberOf(const std::wstring& name) {
     return static_cast<std::uint32_t>(found - m_names.begin());
 }
 
-ProbeDocument::Content ProbeDocument::ContentOf(std::shared_ptr<CQuorConversion> conversion) {
-    Content content;
+ProbeContent ProbeDocument::ContentOf(std::shared_ptr<CQuorConversion> conversion) {
+    ProbeContent content;
     content.type = conversion->ConversionType();
     content.name = NumberOf(NameOf(*conversion));
     content.conversion = std::move(conversion);
     return content;
 }
 
-const ReadProblems& ProbeDocument::Load(Entry& entry) {
-    Content& content = entry.content;
+const ReadProblems& ProbeDocument::Load(ListedProbe& entry) {
+    ProbeContent& content = entry.content;
     if (content.conversion)
         return content.problems;
     const QuietPlatform::Quiet quiet(*m_platform);
@@ -326,7 +303,7 @@ const ReadProblems& ProbeDocument::Load(Entry& entry) {
     return content.problems;
 }
 
-void ProbeDocument::RequireWhole(Entry& entry) {
+void ProbeDocument::RequireWhole(ListedProbe& entry) {
     if (const ReadProblems& problems = Load(entry); !problems.IsEmpty())
         throw DocumentError{Failure::UnreadableRecord, m_path, problems.Lines()};
     const EQuorConversionType type = *entry.content.type;
@@ -336,11 +313,11 @@ void ProbeDocument::RequireWhole(Entry& entry) {
 
 bool ProbeDocument::HasSettings(std::size_t probe) { return Conversion(probe).Settings() != nullptr; }
 
-const ReadProblems& ProbeDocument::CheckRecord(std::size_t probe) { return Load(m_entries[probe]); }
+const ReadProblems& ProbeDocument::CheckRecord(std::size_t probe) { return Load(m_probes[probe]); }
 
 const CQuorConversion& ProbeDocument::Conversion(std::size_t probe) {
-    Load(m_entries[probe]);
-    return *m_entries[probe].content.conversion;
+    Load(m_probes[probe]);
+    return *m_probes[probe].content.conversion;
 }
 
 bool ProbeDocument::Edit(std::size_t probe) {
@@ -352,14 +329,14 @@ bool ProbeDocument::Edit(std::size_t probe) {
     if (RecordImage::Same(*RecordImage::Of(*conversion.Settings()), *RecordImage::Of(*copy->Settings())))
         return false;
     copy->SetChanged(true);
-    Content content = ContentOf(copy);
-    content.replacesRecord = m_entries[probe].content.replacesRecord;
+    ProbeContent content = ContentOf(copy);
+    content.replacesRecord = m_probes[probe].content.replacesRecord;
     Do({StepKind::Edit, {probe}, {}, {}, std::move(content)});
     return true;
 }
 
 std::optional<std::wstring> ProbeDocument::Export(std::size_t probe, std::int32_t hwnd) {
-    RequireWhole(m_entries[probe]);
+    RequireWhole(m_probes[probe]);
     const std::shared_ptr<SettingsObject> settings = Conversion(probe).Settings();
     // A slash in a name would lead into another folder.
     std::wstring fileName = Name(probe);
@@ -375,11 +352,11 @@ std::optional<std::wstring> ProbeDocument::Export(std::size_t probe, std::int32_
 
 // Changes of the list
 
-std::size_t ProbeDocument::Append(StepKind kind, std::wstring name, Content content) {
-    Step step{kind, {m_entries.size()}, {}, {}, {}};
+std::size_t ProbeDocument::Append(StepKind kind, std::wstring name, ProbeContent content) {
+    Step step{kind, {m_probes.size()}, {}, {}, {}};
     step.entries.push_back({std::move(name), {}, true, std::move(content)});
     Do(std::move(step));
-    return m_entries.size() - 1;
+    return m_probes.size() - 1;
 }
 
 std::size_t ProbeDocument::Add(const std::wstring& name, EQuorConversionType type) {
@@ -389,7 +366,7 @@ std::size_t ProbeDocument::Add(const std::wstring& name, EQuorConversionType typ
 }
 
 std::size_t ProbeDocument::Duplicate(std::size_t probe) {
-    RequireWhole(m_entries[probe]);
+    RequireWhole(m_probes[probe]);
     return Append(StepKind::Duplicate, FreeName(Name(probe)), ContentOf(CopyOf(Conversion(probe))));
 }
 
@@ -409,17 +386,17 @@ std::size_t ProbeDocument::Import(const std::wstring& path) {
 }
 
 void ProbeDocument::Rename(std::size_t probe, const std::wstring& name) {
-    if (m_entries[probe].name != name)
+    if (m_probes[probe].name != name)
         Do({StepKind::Rename, {probe}, {}, name, {}});
 }
 
 void ProbeDocument::SetType(std::size_t probe, EQuorConversionType type) {
-    const Entry& entry = m_entries[probe];
+    const ListedProbe& entry = m_probes[probe];
     if (entry.content.type == type)
         return;
     auto conversion = NewConversion();
     conversion->SetConversionType(type);
-    Content content = ContentOf(std::move(conversion));
+    ProbeContent content = ContentOf(std::move(conversion));
     content.replacesRecord = !entry.isNew;
     Do({StepKind::ChangeType, {probe}, {}, {}, std::move(content)});
 }
@@ -438,7 +415,7 @@ void ProbeDocument::Do(Step step) {
 void ProbeDocument::Toggle(Step& step) {
     switch (step.kind) {
     case StepKind::Rename: {
-        Entry& entry = m_entries[step.places.front()];
+        ListedProbe& entry = m_probes[step.places.front()];
         std::wstring old = entry.name;
         entry.SetName(std::move(step.name));
         step.name = std::move(old);
@@ -446,7 +423,7 @@ void ProbeDocument::Toggle(Step& step) {
     }
     case StepKind::ChangeType:
     case StepKind::Edit:
-        std::swap(m_entries[step.places.front()].content, step.content);
+        std::swap(m_probes[step.places.front()].content, step.content);
         return;
     case StepKind::Add:
     case StepKind::Duplicate:
@@ -454,29 +431,29 @@ void ProbeDocument::Toggle(Step& step) {
     case StepKind::Remove:
         break;
     }
-    std::vector<Entry> entries;
+    std::vector<ListedProbe> entries;
     auto place = step.places.begin();
     if (step.entries.empty()) {
         step.entries.reserve(step.places.size());
-        entries.reserve(m_entries.size() - step.places.size());
-        for (std::size_t i = 0; i < m_entries.size(); ++i) {
+        entries.reserve(m_probes.size() - step.places.size());
+        for (std::size_t i = 0; i < m_probes.size(); ++i) {
             const bool goes = place != step.places.end() && *place == i;
-            (goes ? step.entries : entries).push_back(std::move(m_entries[i]));
+            (goes ? step.entries : entries).push_back(std::move(m_probes[i]));
             place += goes ? 1 : 0;
         }
     } else {
-        entries.reserve(m_entries.size() + step.entries.size());
-        auto stays = m_entries.begin();
-        for (Entry& comes : step.entries) {
+        entries.reserve(m_probes.size() + step.entries.size());
+        auto stays = m_probes.begin();
+        for (ListedProbe& comes : step.entries) {
             while (entries.size() < *place)
                 entries.push_back(std::move(*stays++));
             entries.push_back(std::move(comes));
             ++place;
         }
-        std::move(stays, m_entries.end(), std::back_inserter(entries));
+        std::move(stays, m_probes.end(), std::back_inserter(entries));
         step.entries.clear();
     }
-    m_entries = std::move(entries);
+    m_probes = std::move(entries);
 }
 
 std::optional<StepKind> ProbeDocument::UndoKind() const {
@@ -503,12 +480,12 @@ std::vector<std::size_t> ProbeDocument::Redo() {
 
 // Saving
 
-std::vector<const ProbeDocument::Entry*> ProbeDocument::RemovedEntries() const {
+std::vector<const ListedProbe*> ProbeDocument::RemovedProbes() const {
     // What was taken out of the list and stands in the file is in a step that was done. (Steps that were
     // taken back hold new probes only.)
-    std::vector<const Entry*> removed;
+    std::vector<const ListedProbe*> removed;
     for (const Step& step : m_done) {
-        for (const Entry& entry : step.entries) {
+        for (const ListedProbe& entry : step.entries) {
             if (!entry.isNew)
                 removed.push_back(&entry);
         }
@@ -517,11 +494,9 @@ std::vector<const ProbeDocument::Entry*> ProbeDocument::RemovedEntries() const {
 }
 
 bool ProbeDocument::Changed() const {
-    for (std::size_t i = 0; i < m_entries.size(); ++i) {
-        if (IsChanged(i))
-            return true;
-    }
-    return !RemovedEntries().empty();
+    return std::any_of(m_probes.begin(), m_probes.end(),
+                       [](const ListedProbe& entry) { return entry.IsChanged(); }) ||
+           !RemovedProbes().empty();
 }
 
 void ProbeDocument::Save(const OthersChanges& replaced) {
@@ -538,7 +513,7 @@ void ProbeDocument::Save(const OthersChanges& replaced) {
     if (!othersWrote)
         return;
     // Values of others that were kept would look like changes of ours, beside the file.
-    for (Entry& entry : m_entries)
+    for (ListedProbe& entry : m_probes)
         entry.content.conversion = nullptr;
     try {
         Open(std::wstring(m_path));
@@ -547,163 +522,20 @@ void ProbeDocument::Save(const OthersChanges& replaced) {
     }
 }
 
-std::unordered_set<const ProbeDocument::Entry*>
-ProbeDocument::CheckForConflicts(const ProbeFile& theirs, const OthersChanges& replaced) {
-    std::unordered_set<std::wstring> sections;
-    std::unordered_set<std::wstring> taken; // and by whose settings
-    for (const std::wstring& section : theirs.Store()->Sections()) {
-        sections.insert(Folded(section));
-        for (const std::wstring_view owner : PossibleOwners(section))
-            taken.insert(Folded(std::wstring(owner)));
-    }
-    taken.insert(sections.begin(), sections.end());
-    RequireFreeNames(taken);
-
-    std::vector<std::wstring> changed;
-    std::vector<RecordConflict> conflicts;
-    std::vector<Entry*> gone;
-    for (Entry& entry : m_entries) {
-        if (entry.isNew || !(entry.IsRenamed() || entry.content.IsChanged()))
-            continue;
-        if (!sections.contains(Folded(entry.Section()))) {
-            gone.push_back(&entry);
-            changed.push_back(entry.name);
-        } else if (IsMerged(entry)) {
-            const auto found = MergeOf(entry, theirs, entry.Section())->Conflicts();
-            conflicts.insert(conflicts.end(), found.begin(), found.end());
-        } else if (entry.content.IsChanged() && !IsSameRecord(theirs, entry.Section())) {
-            changed.push_back(entry.name);
-        } // what is only renamed keeps the values that stand there
-    }
-    for (const Entry* const entry : RemovedEntries()) {
-        if (sections.contains(Folded(entry->Section())) && !IsSameRecord(theirs, entry->Section()))
-            changed.push_back(entry->name);
-    }
-    const auto isAgreed = [](const auto& agreed) {
-        return [&agreed](const auto& found) {
-            return std::find(agreed.begin(), agreed.end(), found) != agreed.end();
-        };
-    };
-    if (!std::all_of(changed.begin(), changed.end(), isAgreed(replaced.probes)) ||
-        !std::all_of(conflicts.begin(), conflicts.end(), isAgreed(replaced.values)))
-        throw DocumentError{Failure::ChangedByOthers, m_path, std::move(changed), std::move(conflicts)};
-    for (Entry* const entry : gone)
-        RequireWhole(*entry);
-    return {gone.begin(), gone.end()};
-}
-
-bool ProbeDocument::IsSameRecord(const ProbeFile& theirs, const std::wstring& section) const {
-    const QuietPlatform::Quiet quiet(*m_platform);
-    const auto before = ReadsOf(*NewConversion(), *m_file, section);
-    const auto now = ReadsOf(*NewConversion(), theirs, section);
-    return std::equal(before.begin(), before.end(), now.begin(), now.end(),
-                      [](const ReadLog::Read& a, const ReadLog::Read& b) {
-                          return a.section == b.section && a.key == b.key && a.found == b.found &&
-                                 (!a.found || SameValue(a.value, b.value));
-                      });
-}
-
-void ProbeDocument::RequireFreeNames(const std::unordered_set<std::wstring>& taken) const {
-    std::unordered_set<std::wstring> ours; // sections in which our probes stood when the file was read
-    for (const Entry& entry : m_entries) {
-        if (!entry.isNew)
-            ours.insert(Folded(entry.Section()));
-    }
-    for (const Entry* const entry : RemovedEntries())
-        ours.insert(Folded(entry->Section()));
-    for (const Entry& entry : m_entries) {
-        if (!entry.isNew && !entry.IsRenamed())
-            continue;
-        const std::wstring name = Folded(entry.name);
-        if (!ours.contains(name) && taken.contains(name))
-            throw DocumentError{Failure::NameIsTaken, m_path, {entry.name}};
-    }
-}
-
 void ProbeDocument::WriteAll(const ProbeFile& file) {
-    for (Entry& entry : m_entries) {
+    for (ListedProbe& entry : m_probes) {
         RequireWhole(entry);
-        Write(file.Store(), entry, entry.name);
+        DocumentSave::WriteWhole(file, entry);
     }
 }
 
 bool ProbeDocument::WriteChanges(const ProbeFile& file, const OthersChanges& replaced) {
-    const bool othersWrote = m_file->Changed();
-    std::unordered_set<const Entry*> gone;
-    if (othersWrote)
-        gone = CheckForConflicts(file, replaced);
-    MoveSections(*file.Store());
-    for (const Entry& entry : m_entries) {
-        if (IsMerged(entry) && !gone.contains(&entry))
-            WriteMerged(file, entry);
-        else if (entry.isNew || entry.content.IsChanged() || gone.contains(&entry))
-            Write(file.Store(), entry, entry.name);
-    }
-    SpellNewNames(*file.Store());
-    return othersWrote;
-}
-
-void ProbeDocument::SpellNewNames(IniStore& store) const {
-    std::unordered_set<std::wstring> removed;
-    for (const Entry* const entry : RemovedEntries())
-        removed.insert(Folded(entry->Section()));
-    for (const Entry& entry : m_entries) {
-        if (!entry.isNew || !removed.contains(Folded(entry.name)))
-            continue;
-        for (const std::wstring& section : store.Sections()) {
-            const std::wstring spelled =
-                entry.name + section.substr(std::min(section.size(), entry.name.size()));
-            if ((SameName(section, entry.name) || HoldsSettingsOf(section, entry.name)) && section != spelled)
-                store.RenameSection(section, spelled);
-        }
-    }
-}
-
-void ProbeDocument::WriteMerged(const ProbeFile& file, const Entry& entry) const {
-    const auto merge = MergeOf(entry, file, entry.name);
-    if (merge->Conflicts().empty())
-        merge->WriteChanges();
-    else if (merge->HasAnotherType()) // the keys that stand there are not those of this conversion
-        Write(file.Store(), entry, entry.name);
-    else
-        merge->WriteChangesAndRemoved();
-}
-
-std::shared_ptr<RecordMerge> ProbeDocument::MergeOf(const Entry& entry, const ProbeFile& file,
-                                                    const std::wstring& section) const {
-    auto merge = std::make_shared<RecordMerge>(m_file->Store(), entry.Section(), file.Store(), section);
-    Write(merge, entry, section);
-    return merge;
-}
-
-void ProbeDocument::MoveSections(IniStore& store) const {
-    std::vector<ProbeMove> moves;
-    for (const Entry& entry : m_entries) {
-        if (!entry.isNew)
-            moves.push_back({entry.Section(), entry.name, false, entry.content.replacesRecord});
-    }
-    for (const Entry* const entry : RemovedEntries())
-        moves.push_back({entry->Section(), entry->name, true, false});
-    std::optional<SharedSection> shared;
-    const SectionPlan plan = PlanSections(store.Sections(), moves, shared);
-    if (shared)
-        throw DocumentError{Failure::SharedSection,
-                            m_path,
-                            {shared->section, moves[shared->probe].name, moves[shared->other].name}};
-    ApplyPlan(store, plan);
-}
-
-void ProbeDocument::Write(const std::shared_ptr<INIFile>& iniFile, const Entry& entry,
-                          const std::wstring& section) const {
-    try {
-        entry.content.conversion->WriteOrRaise(iniFile, section);
-    } catch (const QuorError& error) {
-        throw DocumentError{Failure::CannotWrite, m_path, {entry.name, error.Description()}};
-    }
+    const auto requireWhole = [this](std::size_t probe) { RequireWhole(m_probes[probe]); };
+    return DocumentSave(*m_file, m_probes, RemovedProbes(), requireWhole).WriteInto(file, replaced);
 }
 
 void ProbeDocument::Settle() {
-    for (Entry& entry : m_entries) {
+    for (ListedProbe& entry : m_probes) {
         entry.nameInFile.reset();
         entry.isNew = false;
         entry.content.replacesRecord = false;

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "QuorConversions/core/CQuorConversion.h"
-#include "QuorIniFile/IniStore.h"
+#include "QuorIniFile/IniFileSystem.h"
 #include "QuorProbeFile/ProbeFile.h"
-#include "QuorProbeFile/RecordMerge.h"
 #include "QuorRegistryII/Registry.h"
+#include "apps/probe-setup/DocumentError.h"
+#include "apps/probe-setup/ListedProbe.h"
 #include "apps/probe-setup/QuietPlatform.h"
 
 #include <cstddef>
@@ -13,14 +14,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_set>
-#include <utility>
 #include <vector>
 
 namespace ProbeSetup {
-
-/// A conversion type; nothing where a record says none that could be read.
-using ProbeType = std::optional<QuorConversions::EQuorConversionType>;
 
 /// Why a probe cannot have a name.
 enum class NameProblem {
@@ -35,45 +31,6 @@ enum class NameProblem {
 
 /// What the user has done to the list; each can be taken back.
 enum class StepKind { Add, Duplicate, Import, Remove, Rename, ChangeType, Edit };
-
-/// What could not be read of a probe.
-struct ReadProblems {
-    std::vector<std::wstring> keys;     ///< "[section] key" of each that is missing or cannot be read
-    std::vector<std::wstring> messages; ///< what else the library said
-    [[nodiscard]] bool IsEmpty() const { return keys.empty() && messages.empty(); }
-    /// Keys and messages.
-    [[nodiscard]] std::vector<std::wstring> Lines() const;
-};
-
-/// What the document cannot do, for a reason that it knows better than the library.
-enum class Failure {
-    NoSettingsFile,   ///< no probe stands in it, and it is no INI file; details: the line that shows it
-    NoStandAloneFile, ///< the file's extension is that of no conversion type
-    UnreadableRecord, ///< details: "[section] key" of what is missing or unreadable, or the library's
-                      ///< messages
-    UnknownType,      ///< details: the probe, and the code of its type
-    ChangedByOthers,  ///< details: the probes that another program has changed or removed meanwhile, and that
-                      ///< a save would write whole or remove; conflicts: the keys that it has changed, and
-                      ///< that a save would give other values
-    NameIsTaken,      ///< details: a new name that another program has used in the file meanwhile
-    CannotWrite,      ///< details: the section, and the library's messages
-    SharedSection,    ///< details: a section that would go or move, the probe that it would follow, and
-                      ///< another one, which has or keeps its settings in it too
-};
-struct DocumentError {
-    Failure failure;
-    std::wstring file;
-    std::vector<std::wstring> details;
-    std::vector<QuorProbeFile::RecordConflict> conflicts = {};
-};
-
-/// What another program has written about the very probes or keys that are to be saved, and what is to give
-/// way: the user has seen it, in the error of a save. Whatever else it has written meanwhile refuses the save
-/// anew. What was removed of a changed probe comes back.
-struct OthersChanges {
-    std::vector<std::wstring> probes;
-    std::vector<QuorProbeFile::RecordConflict> values;
-};
 
 /// The probes of a host's INI file, as they are to be: a list that is edited in memory and saved on request.
 /// It shows nothing but the dialogs of the conversions, through the platform; it knows no toolkit.
@@ -110,13 +67,13 @@ public:
     /// read it. It stays in the file.
     [[nodiscard]] std::vector<std::size_t> LostRecords() const;
 
-    [[nodiscard]] std::size_t Count() const { return m_entries.size(); }
-    [[nodiscard]] const std::wstring& Name(std::size_t probe) const { return m_entries[probe].name; }
+    [[nodiscard]] std::size_t Count() const { return m_probes.size(); }
+    [[nodiscard]] const std::wstring& Name(std::size_t probe) const { return m_probes[probe].name; }
     /// The type; nothing when the record says none that could be read.
-    [[nodiscard]] ProbeType Type(std::size_t probe) const { return m_entries[probe].content.type; }
+    [[nodiscard]] ProbeType Type(std::size_t probe) const { return m_probes[probe].content.type; }
     /// The number of the conversion's name: equal names have equal numbers, from 0 on.
     [[nodiscard]] std::size_t ConversionNumber(std::size_t probe) const {
-        return m_entries[probe].content.name;
+        return m_probes[probe].content.name;
     }
     /// The name of the conversion, from its settings where there are any; empty for a type that cannot be
     /// read.
@@ -194,84 +151,37 @@ public:
     [[nodiscard]] static bool IsStandAlone(const std::wstring& path);
 
 private:
-    /// What is stored of a probe.
-    struct Content {
-        std::shared_ptr<QuorConversions::CQuorConversion> conversion; // null until somebody looks into it
-        ProbeType type;
-        ReadProblems problems;       // of the record that the conversion was read from
-        std::uint32_t name = 0;      // in m_names
-        bool replacesRecord = false; // the settings in the file are those of another conversion
-        [[nodiscard]] bool IsChanged() const {
-            return replacesRecord || (conversion && conversion->Changed());
-        }
-    };
-    struct Entry {
-        std::wstring name;
-        std::optional<std::wstring> nameInFile; // where it is another one
-        bool isNew = false;                     // it has no record in the file
-        Content content;
-        [[nodiscard]] const std::wstring& Section() const { return nameInFile ? *nameInFile : name; }
-        [[nodiscard]] bool IsRenamed() const { return !isNew && nameInFile; }
-        void SetName(std::wstring newName);
-    };
     /// Something that was done. It holds what is not in the list at the moment, so that doing it and taking
     /// it back are the same: both change places.
     struct Step {
         StepKind kind;
         std::vector<std::size_t> places;
-        std::vector<Entry> entries; // those that are not in the list, for steps that add or remove
-        std::wstring name;          // for a step that renames
-        Content content;            // for a step that changes the content
+        std::vector<ListedProbe> entries; // those that are not in the list, for steps that add or remove
+        std::wstring name;                // for a step that renames
+        ProbeContent content;             // for a step that changes the content
     };
 
     [[nodiscard]] std::shared_ptr<QuorConversions::CQuorConversion> NewConversion() const;
     [[nodiscard]] std::shared_ptr<QuorConversions::CQuorConversion>
     CopyOf(const QuorConversions::CQuorConversion& conversion) const;
-    [[nodiscard]] Content ContentOf(std::shared_ptr<QuorConversions::CQuorConversion> conversion);
+    [[nodiscard]] ProbeContent ContentOf(std::shared_ptr<QuorConversions::CQuorConversion> conversion);
     [[nodiscard]] std::uint32_t NumberOf(const std::wstring& name);
     [[nodiscard]] std::wstring NameOf(const QuorConversions::CQuorConversion& conversion) const;
-    const ReadProblems& Load(Entry& entry);
+    const ReadProblems& Load(ListedProbe& probe);
     /// Raises DocumentError unless all of the probe is in its conversion, so that it can be written
     /// elsewhere.
-    void RequireWhole(Entry& entry);
+    void RequireWhole(ListedProbe& probe);
 
-    std::size_t Append(StepKind kind, std::wstring name, Content content);
+    std::size_t Append(StepKind kind, std::wstring name, ProbeContent content);
     void Do(Step step);
     void Toggle(Step& step);
 
     /// Writes all probes into an empty file.
     void WriteAll(const QuorProbeFile::ProbeFile& file);
-    /// Joins what was done with what others have written into `file`, and writes it there, within an edit or
-    /// in memory; nothing of the document changes, for the edit may begin anew. Returns whether others have
-    /// written.
+    [[nodiscard]] std::vector<const ListedProbe*> RemovedProbes() const;
+    /// Writes what was done into the file as it is now, within an edit or in memory. Returns whether another
+    /// program has written into it.
     [[nodiscard]] bool WriteChanges(const QuorProbeFile::ProbeFile& file, const OthersChanges& replaced);
-    /// Removes and renames sections before anything is written into them. Raises DocumentError when one would
-    /// go or move with one of its probes, and is needed by another.
-    void MoveSections(QuorIniFile::IniStore& store) const;
-    /// Whether a save writes of the probe only the keys that have other values than in m_file.
-    [[nodiscard]] static bool IsMerged(const Entry& entry) {
-        return !entry.isNew && !entry.content.replacesRecord && entry.content.IsChanged();
-    }
-    /// The changes of a probe that is merged, now that it stands in `section` of `file`. Raises
-    /// DocumentError when the library refuses the record.
-    [[nodiscard]] std::shared_ptr<QuorProbeFile::RecordMerge>
-    MergeOf(const Entry& entry, const QuorProbeFile::ProbeFile& file, const std::wstring& section) const;
-    /// Conflicts give way: the user has agreed to that, or there were none.
-    void WriteMerged(const QuorProbeFile::ProbeFile& file, const Entry& entry) const;
-    void Write(const std::shared_ptr<QuorIniFile::INIFile>& iniFile, const Entry& entry,
-               const std::wstring& section) const;
-    /// Raises DocumentError when what was done cannot be joined with what others have written into `theirs`.
-    /// Returns the changed probes that are gone there.
-    [[nodiscard]] std::unordered_set<const Entry*> CheckForConflicts(const QuorProbeFile::ProbeFile& theirs,
-                                                                     const OthersChanges& replaced);
-    /// Raises DocumentError when a probe would get a name that is `taken` in the file, and was not by ours.
-    void RequireFreeNames(const std::unordered_set<std::wstring>& taken) const;
-    /// Gives new probes their names in the letters that the user has typed: a section that is written in the
-    /// place of one that was removed has the letters of that one.
-    void SpellNewNames(QuorIniFile::IniStore& store) const;
-    [[nodiscard]] bool IsSameRecord(const QuorProbeFile::ProbeFile& theirs,
-                                    const std::wstring& section) const;
-    [[nodiscard]] std::vector<const Entry*> RemovedEntries() const;
     void Settle();
 
     std::shared_ptr<QuietPlatform> m_platform;
@@ -280,7 +190,7 @@ private:
     std::wstring m_path;
     bool m_isReadOnly = false;
     std::unique_ptr<QuorProbeFile::ProbeFile> m_file; // as it was last read or saved; never written to
-    std::vector<Entry> m_entries;
+    std::vector<ListedProbe> m_probes;
     std::vector<std::wstring> m_foreign; // the names of the file's other sections
     std::vector<std::wstring> m_names;   // of conversions
     std::vector<Step> m_done;

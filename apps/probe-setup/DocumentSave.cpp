@@ -1,0 +1,195 @@
+#include "apps/probe-setup/DocumentSave.h"
+
+#include "QuorConversions/core/CQuorConversion.h"
+#include "QuorConversions/platform/HeadlessPlatform.h"
+#include "QuorProbeFile/ProbeNames.h"
+#include "QuorProbeFile/ReadLog.h"
+#include "QuorProbeFile/SectionPlan.h"
+#include "apps/probe-setup/QuietPlatform.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace ProbeSetup {
+
+using namespace QuorConversions;
+using namespace QuorProbeFile;
+using QuorIniFile::IniStore;
+
+namespace {
+
+/// What the library reads of the probe that stands in `section`.
+std::vector<ReadLog::Read> ReadsOf(const ProbeFile& file, const std::wstring& section) {
+    const auto platform = std::make_shared<QuietPlatform>(std::make_shared<HeadlessPlatform>());
+    const QuietPlatform::Quiet quiet(*platform);
+    const auto log = std::make_shared<ReadLog>(file.Store());
+    std::shared_ptr<INIFile> iniFile = log;
+    CQuorConversion(platform).ReadFromFile(iniFile, L"", section);
+    return log->Reads();
+}
+
+void WriteRecord(const std::shared_ptr<INIFile>& iniFile, const ListedProbe& probe,
+                 const std::wstring& section, const std::wstring& path) {
+    try {
+        probe.content.conversion->WriteOrRaise(iniFile, section);
+    } catch (const QuorError& error) {
+        throw DocumentError{Failure::CannotWrite, path, {probe.name, error.Description()}};
+    }
+}
+
+} // namespace
+
+DocumentSave::DocumentSave(ProbeFile& before, const std::vector<ListedProbe>& probes,
+                           std::vector<const ListedProbe*> removed,
+                           std::function<void(std::size_t)> requireWhole)
+    : m_before(before),
+      m_probes(probes),
+      m_removed(std::move(removed)),
+      m_requireWhole(std::move(requireWhole)) {}
+
+bool DocumentSave::WriteInto(const ProbeFile& file, const OthersChanges& replaced) const {
+    const bool othersWrote = m_before.Changed();
+    std::unordered_set<const ListedProbe*> gone;
+    if (othersWrote)
+        gone = CheckForConflicts(file, replaced);
+    MoveSections(*file.Store());
+    for (const ListedProbe& probe : m_probes) {
+        if (probe.IsMerged() && !gone.contains(&probe))
+            WriteMerged(file, probe);
+        else if (probe.isNew || probe.content.IsChanged() || gone.contains(&probe))
+            WriteWhole(file, probe);
+    }
+    SpellNewNames(*file.Store());
+    return othersWrote;
+}
+
+void DocumentSave::WriteWhole(const ProbeFile& file, const ListedProbe& probe) {
+    WriteRecord(file.Store(), probe, probe.name, file.Path());
+}
+
+std::unordered_set<const ListedProbe*> DocumentSave::CheckForConflicts(const ProbeFile& file,
+                                                                       const OthersChanges& replaced) const {
+    std::unordered_set<std::wstring> sections;
+    std::unordered_set<std::wstring> taken; // and by whose settings
+    for (const std::wstring& section : file.Store()->Sections()) {
+        sections.insert(Folded(section));
+        for (const std::wstring_view owner : PossibleOwners(section))
+            taken.insert(Folded(std::wstring(owner)));
+    }
+    taken.insert(sections.begin(), sections.end());
+    RequireFreeNames(taken);
+
+    std::vector<std::wstring> changed;
+    std::vector<RecordConflict> conflicts;
+    std::unordered_set<const ListedProbe*> gone;
+    for (const ListedProbe& probe : m_probes) {
+        if (probe.isNew || !probe.IsChanged())
+            continue;
+        if (!sections.contains(Folded(probe.Section()))) {
+            gone.insert(&probe);
+            changed.push_back(probe.name);
+        } else if (probe.IsMerged()) {
+            const auto found = MergeOf(probe, file, probe.Section())->Conflicts();
+            conflicts.insert(conflicts.end(), found.begin(), found.end());
+        } else if (probe.content.IsChanged() && !IsSameRecord(file, probe.Section())) {
+            changed.push_back(probe.name);
+        } // what is only renamed keeps the values that stand there
+    }
+    for (const ListedProbe* const probe : m_removed) {
+        if (sections.contains(Folded(probe->Section())) && !IsSameRecord(file, probe->Section()))
+            changed.push_back(probe->name);
+    }
+    const auto isAgreed = [](const auto& agreed) {
+        return [&agreed](const auto& found) {
+            return std::find(agreed.begin(), agreed.end(), found) != agreed.end();
+        };
+    };
+    if (!std::all_of(changed.begin(), changed.end(), isAgreed(replaced.probes)) ||
+        !std::all_of(conflicts.begin(), conflicts.end(), isAgreed(replaced.values)))
+        throw DocumentError{Failure::ChangedByOthers, file.Path(), std::move(changed), std::move(conflicts)};
+    for (std::size_t i = 0; i < m_probes.size(); ++i) {
+        if (gone.contains(&m_probes[i]))
+            m_requireWhole(i);
+    }
+    return gone;
+}
+
+void DocumentSave::RequireFreeNames(const std::unordered_set<std::wstring>& taken) const {
+    std::unordered_set<std::wstring> ours; // sections in which our probes stood when the file was read
+    for (const ListedProbe& probe : m_probes) {
+        if (!probe.isNew)
+            ours.insert(Folded(probe.Section()));
+    }
+    for (const ListedProbe* const probe : m_removed)
+        ours.insert(Folded(probe->Section()));
+    for (const ListedProbe& probe : m_probes) {
+        if (!probe.isNew && !probe.IsRenamed())
+            continue;
+        const std::wstring name = Folded(probe.name);
+        if (!ours.contains(name) && taken.contains(name))
+            throw DocumentError{Failure::NameIsTaken, m_before.Path(), {probe.name}};
+    }
+}
+
+bool DocumentSave::IsSameRecord(const ProbeFile& file, const std::wstring& section) const {
+    const auto before = ReadsOf(m_before, section);
+    const auto now = ReadsOf(file, section);
+    return std::equal(before.begin(), before.end(), now.begin(), now.end(),
+                      [](const ReadLog::Read& a, const ReadLog::Read& b) {
+                          return a.section == b.section && a.key == b.key && a.found == b.found &&
+                                 (!a.found || SameValue(a.value, b.value));
+                      });
+}
+
+void DocumentSave::MoveSections(IniStore& store) const {
+    std::vector<ProbeMove> moves;
+    for (const ListedProbe& probe : m_probes) {
+        if (!probe.isNew)
+            moves.push_back({probe.Section(), probe.name, false, probe.content.replacesRecord});
+    }
+    for (const ListedProbe* const probe : m_removed)
+        moves.push_back({probe->Section(), probe->name, true, false});
+    std::optional<SharedSection> shared;
+    const SectionPlan plan = PlanSections(store.Sections(), moves, shared);
+    if (shared)
+        throw DocumentError{Failure::SharedSection,
+                            m_before.Path(),
+                            {shared->section, moves[shared->probe].name, moves[shared->other].name}};
+    ApplyPlan(store, plan);
+}
+
+std::shared_ptr<RecordMerge> DocumentSave::MergeOf(const ListedProbe& probe, const ProbeFile& file,
+                                                   const std::wstring& section) const {
+    auto merge = std::make_shared<RecordMerge>(m_before.Store(), probe.Section(), file.Store(), section);
+    WriteRecord(merge, probe, section, file.Path());
+    return merge;
+}
+
+void DocumentSave::WriteMerged(const ProbeFile& file, const ListedProbe& probe) const {
+    const auto merge = MergeOf(probe, file, probe.name);
+    if (merge->Conflicts().empty())
+        merge->WriteChanges();
+    else if (merge->HasAnotherType()) // the keys that stand there are not those of this conversion
+        WriteWhole(file, probe);
+    else
+        merge->WriteChangesAndRemoved();
+}
+
+void DocumentSave::SpellNewNames(IniStore& store) const {
+    std::unordered_set<std::wstring> removed;
+    for (const ListedProbe* const probe : m_removed)
+        removed.insert(Folded(probe->Section()));
+    for (const ListedProbe& probe : m_probes) {
+        if (!probe.isNew || !removed.contains(Folded(probe.name)))
+            continue;
+        for (const std::wstring& section : store.Sections()) {
+            const std::wstring spelled =
+                probe.name + section.substr(std::min(section.size(), probe.name.size()));
+            if ((SameName(section, probe.name) || HoldsSettingsOf(section, probe.name)) && section != spelled)
+                store.RenameSection(section, spelled);
+        }
+    }
+}
+
+} // namespace ProbeSetup
