@@ -40,9 +40,21 @@ bool IniLines::Next() {
     return false;
 }
 
+bool IniLines::NextHeader() {
+    while (m_next.offset < m_text.size()) {
+        const std::size_t start = m_text.find_first_not_of(" \t", m_next.offset);
+        if (start != npos && m_text[start] == '[')
+            return Next();
+        m_next = {CutLine(m_text, m_next.offset).next, m_next.number + 1};
+    }
+    return false;
+}
+
 std::wstring IniLines::Name() const { return DecodeBytes(m_name); }
 
-bool IniLines::HasName(std::string_view name) const { return SameName(m_name, name); }
+bool IniLines::HasName(std::string_view name) const {
+    return m_name.size() == name.size() && SameName(m_name, name); // ASCII has one spelling
+}
 
 std::wstring IniLines::Value() const { return DecodeBytes(SplitComment(m_value).plain); }
 

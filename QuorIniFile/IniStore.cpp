@@ -361,9 +361,14 @@ private:
     /// anything.
     std::optional<QuorError> TryEdit(const std::function<void()>& edit) {
         IniReplacement replacement(m_file, m_files);
-        FileDocument file = LoadFile();
+        std::optional<FileDocument> file;
+        if (!IsLoaded(replacement))
+            file = LoadFile();
         Attempt attempt(*this);
-        Adopt(std::move(file));
+        if (file)
+            Adopt(*std::move(file));
+        else
+            m_stamp = replacement.Stamp();
         edit();
         if (m_isAbandoned)
             throw NotWritten();
@@ -383,6 +388,13 @@ private:
             return replacement.Setback();
         stamp = *now;
         return std::nullopt;
+    }
+
+    /// Whether the file that is to be replaced is the one that was loaded, upon which nothing was written: it
+    /// need not be loaded and indexed again.
+    [[nodiscard]] bool IsLoaded(const IniReplacement& replacement) const {
+        return m_document && !m_document->Written() && m_stamp.exists && replacement.Stamp().exists &&
+               replacement.Has(Loaded().Bytes());
     }
 
     void Load() {

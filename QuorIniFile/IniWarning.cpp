@@ -2,7 +2,9 @@
 
 #include "QuorIniFile/detail/IniFormat.h"
 #include "QuorIniFile/detail/IniNames.h"
+#include "QuorIniFile/detail/Unicode.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace QuorIniFile {
@@ -10,7 +12,10 @@ namespace {
 
 class WarningReader {
 public:
-    explicit WarningReader(std::string_view text) : m_walker(text) {}
+    explicit WarningReader(std::string_view text) : m_walker(text) {
+        constexpr std::size_t few = 16; // so many are compared faster than put into a table
+        m_fewKeys.reserve(few);
+    }
 
     [[nodiscard]] std::vector<IniWarning> Read() {
         while (m_walker.Next()) {
@@ -59,17 +64,34 @@ private:
             Warn(IniWarningKind::KeyAboveSections, name, 0);
         if (!m_isRead)
             return;
+        if (const std::size_t first = FirstOf(name))
+            Warn(IniWarningKind::DuplicateKey, name, first);
+    }
+
+    /// The line of an earlier key of that name in the section, or 0, and notes this one then.
+    [[nodiscard]] std::size_t FirstOf(std::string_view name) {
         std::string buffer;
-        const auto [first, isFirst] =
-            m_keys.try_emplace(std::string(CanonicalName(name, buffer)), m_walker.Number());
-        if (!isFirst)
-            Warn(IniWarningKind::DuplicateKey, name, first->second);
+        name = CanonicalName(name, buffer);
+        if (m_keys.empty() && m_fewKeys.size() < m_fewKeys.capacity() && IsAscii(name)) {
+            const auto found = std::find_if(m_fewKeys.begin(), m_fewKeys.end(),
+                                            [name](const Header& key) { return SameName(key.name, name); });
+            if (found != m_fewKeys.end())
+                return found->line;
+            m_fewKeys.push_back({name, m_walker.Number()}); // a name in the text itself
+            return 0;
+        }
+        for (const Header& key : m_fewKeys)
+            m_keys.try_emplace(std::string(key.name), key.line);
+        m_fewKeys.clear();
+        const auto [first, isFirst] = m_keys.try_emplace(std::string(name), m_walker.Number());
+        return isFirst ? 0 : first->second;
     }
 
     void BeginSection(std::wstring name, bool isRead) {
         m_section = std::move(name);
         m_hasHeader = true;
         m_isRead = isRead;
+        m_fewKeys.clear();
         if (!m_keys.empty()) // a new table: the old one, once large, would take long to clear each time
             m_keys = IniNameMap<std::size_t>();
     }
@@ -81,7 +103,8 @@ private:
     IniWalker m_walker;
     std::vector<IniWarning> m_warnings;
     IniNameMap<Header> m_sections;  // the first header of each name
-    IniNameMap<std::size_t> m_keys; // of the section: the line of the first key of each name
+    std::vector<Header> m_fewKeys;  // of the section: the first key of each name, with its line;
+    IniNameMap<std::size_t> m_keys; // where there are many, or some outside ASCII, all of them
     std::wstring m_section;         // the name in the last header
     bool m_hasHeader = false;       // above the line
     bool m_isRead = false;          // the section: its header is the first of its name

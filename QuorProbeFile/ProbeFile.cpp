@@ -156,22 +156,40 @@ const std::vector<std::size_t>& ProbeFile::LostSections() {
 }
 
 std::optional<ProbeEntry> ProbeFile::Find(std::wstring_view section) {
-    const auto found = std::find_if(Probes().begin(), Probes().end(), [&](const ProbeEntry& probe) {
-        return SameName(probe.section, section);
-    });
-    return found == Probes().end() ? std::nullopt : std::optional(*found);
+    auto probe = Locate(section);
+    if (!probe)
+        return std::nullopt;
+    // Its header, the first one of that name: a look at the headers costs less than a survey of the file.
+    IniLines lines = m_store->Lines();
+    const std::string bytes = QuorIniFile::ToUtf8(section);
+    const bool isAscii = bytes.size() == section.size();
+    const auto isHeader = [&] {
+        return lines.Is(IniLines::Kind::Header) &&
+               (isAscii ? lines.HasName(bytes) : SameName(lines.Name(), section));
+    };
+    while (lines.NextHeader() && !isHeader()) {
+    }
+    probe->section = lines.Name();
+    probe->line = lines.Number();
+    if (probe->standAlone)
+        probe->type = RecordReading(m_store, m_path, *probe).Conversion().ConversionType();
+    return probe;
 }
 
 std::wstring ProbeFile::ConversionName(const ProbeEntry& probe) {
     if (!probe.type)
         return {};
-    CQuorConversion conversion;
     if (probe.standAlone || IsNamedByItsValues(*probe.type)) {
         const RecordReading reading(m_store, m_path, probe);
         return NameOf(reading.Conversion());
     }
-    conversion.SetConversionType(*probe.type);
-    return NameOf(conversion);
+    const auto [name, isNew] = m_typeNames.try_emplace(*probe.type);
+    if (isNew) {
+        CQuorConversion conversion;
+        conversion.SetConversionType(*probe.type);
+        name->second = NameOf(conversion);
+    }
+    return name->second;
 }
 
 std::vector<IniWarning> ProbeFile::DuplicateSections() {

@@ -15,6 +15,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace QuorProbeFile {
@@ -168,6 +169,7 @@ private:
     std::shared_ptr<QuorIniFile::IniStore> m_store;
     std::uint64_t m_surveyed = 0; // the number of the text that was surveyed
     std::vector<ProbeEntry> m_probes;
+    std::unordered_map<std::int32_t, std::wstring> m_typeNames; // of types that were asked for
     std::vector<std::size_t> m_lostSections;
 };
 

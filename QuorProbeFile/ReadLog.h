@@ -3,6 +3,7 @@
 #include "QuorIniFile/INIFile.h"
 #include "QuorProbeFile/RecordValue.h"
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
@@ -20,7 +21,10 @@ public:
         bool found;
     };
 
-    explicit ReadLog(std::shared_ptr<QuorIniFile::INIFile> store) : m_store(std::move(store)) {}
+    explicit ReadLog(std::shared_ptr<QuorIniFile::INIFile> store) : m_store(std::move(store)) {
+        constexpr std::size_t mostRecords = 16; // have no more keys
+        m_reads.reserve(mostRecords);
+    }
 
     [[nodiscard]] const std::vector<Read>& Reads() const { return m_reads; }
     /// How many reads there had been when a message was shown, and so on: a place in Reads().

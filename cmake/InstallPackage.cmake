@@ -1,5 +1,5 @@
 # The CMake package. find_package(QuorConversions) gives QuorConversions::QuorConversions,
-# QuorConversions::QuorIniFile and QuorConversions::QuorRegistryII; with COMPONENTS Qt also
+# QuorConversions::QuorProbeFile, QuorConversions::QuorIniFile and QuorConversions::QuorRegistryII; with COMPONENTS Qt also
 # QuorConversions::QtToolkit, and only then it looks for Qt.
 include(CMakePackageConfigHelpers)
 

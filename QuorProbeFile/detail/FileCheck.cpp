@@ -3,6 +3,8 @@
 #include "QuorIniFile/IniLines.h"
 #include "QuorIniFile/Utf8.h"
 #include "QuorProbeFile/ProbeNames.h"
+#include "QuorProbeFile/ProbeTypes.h"
+#include "QuorProbeFile/detail/RecordComparison.h"
 #include "QuorProbeFile/detail/RecordProblems.h"
 #include "QuorProbeFile/detail/RecordReading.h"
 
@@ -53,6 +55,8 @@ public:
 
     void CheckRecord(const std::wstring& path, const ProbeEntry& probe) {
         const RecordReading reading(m_store, path, probe);
+        if (IsRight(reading, probe))
+            return;
         bool isLookedThrough =
             reading.HasType(); // the library has asked for each key that the record can have
         for (ProbeProblem& problem : ProblemsOf(reading, probe, m_places)) {
@@ -91,6 +95,31 @@ private:
     [[nodiscard]] static bool IsGivenUpAfter(const ProbeProblem& problem) {
         return problem.kind == PROBLEM_UNKNOWN_TYPE || problem.kind == PROBLEM_RECORD_REFUSED ||
                problem.kind == PROBLEM_VALUE_REFUSED;
+    }
+
+    /// Whether the record is right at first sight, as nearly all are: the library has nothing to say, has
+    /// found every key, takes every value as it is, and its sections have as many keys as were asked for.
+    bool IsRight(const RecordReading& reading, const ProbeEntry& probe) {
+        const std::vector<ReadLog::Read>& reads = reading.Reads();
+        if (!reading.Messages().empty() || reading.LacksKeys() || probe.standAlone ||
+            !FindType(reading.Conversion().ConversionType()))
+            return false;
+        if (const auto settings = reading.Settings()) {
+            const auto comparison = std::make_shared<RecordComparison>(reads, 1); // behind the type
+            settings->WriteOrRaise(comparison, SettingsSection(probe.section));
+            if (!comparison->IsSame())
+                return false;
+        }
+        for (std::size_t first = 0; first < reads.size();) {
+            std::size_t last = first;
+            while (last < reads.size() && reads[last].section == reads[first].section)
+                ++last;
+            const SectionIndex::Section* const section = m_places.Section(reads[first].section);
+            if (section->keys != last - first || section->malformed != 0)
+                return false;
+            first = last;
+        }
+        return true;
     }
 
     /// Keys that no record of this type has, and lines that are no keys.

@@ -9,31 +9,65 @@ namespace {
 
 char Fold(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-} // namespace
-
-std::size_t SectionIndex::Hash::operator()(std::string_view name) const {
+std::uint64_t HashOf(std::string_view name) {
     std::uint64_t hash = 0xCBF29CE484222325U;
     for (const char c : name)
         hash = (hash ^ static_cast<unsigned char>(Fold(c))) * 0x100000001B3U;
-    return static_cast<std::size_t>(hash);
+    return hash ^ hash >> 32U;
 }
 
-bool SectionIndex::Equal::operator()(std::string_view a, std::string_view b) const {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return Fold(x) == Fold(y); });
+bool AreOneName(std::string_view a, std::string_view b) {
+    return a == b || std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                                [](char x, char y) { return Fold(x) == Fold(y); });
+}
+
+} // namespace
+
+std::size_t SectionIndex::SlotOf(std::string_view name, std::uint64_t hash) const {
+    const std::size_t last = m_slots.size() - 1;
+    std::size_t slot = hash & last;
+    for (; m_slots[slot] != 0; slot = (slot + 1) & last) {
+        const Entry& entry = m_entries[m_slots[slot] - 1];
+        if (entry.hash == hash && AreOneName(entry.name, name))
+            break;
+    }
+    return slot;
+}
+
+void SectionIndex::Grow() {
+    constexpr std::size_t first = 64;
+    std::vector<std::uint32_t> slots(std::max(first, m_slots.size() * 2));
+    const std::size_t last = slots.size() - 1;
+    for (std::uint32_t number = 1; number <= m_entries.size(); ++number) {
+        std::size_t slot = m_entries[number - 1].hash & last;
+        while (slots[slot] != 0)
+            slot = (slot + 1) & last;
+        slots[slot] = number;
+    }
+    m_slots.swap(slots);
 }
 
 SectionIndex::Section* SectionIndex::Add(const QuorIniFile::IniLines& header) {
     std::string_view name = header.NameBytes();
     if (std::any_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; }))
         name = m_spelled.emplace_back(QuorIniFile::ToUtf8(header.Name()));
-    const auto [at, isNew] = m_sections.try_emplace(name, Section{header.Here(), 0, 0});
-    return isNew ? &at->second : nullptr;
+    if (m_entries.size() * 2 >= m_slots.size())
+        Grow();
+    const std::uint64_t hash = HashOf(name);
+    const std::size_t slot = SlotOf(name, hash);
+    if (m_slots[slot] != 0)
+        return nullptr;
+    m_entries.push_back({name, hash, {header.Here(), 0, 0}});
+    m_slots[slot] = static_cast<std::uint32_t>(m_entries.size());
+    return &m_entries.back().section;
 }
 
 const SectionIndex::Section* SectionIndex::Find(std::wstring_view name) const {
-    const auto found = m_sections.find(QuorIniFile::ToUtf8(name));
-    return found == m_sections.end() ? nullptr : &found->second;
+    if (m_entries.empty())
+        return nullptr;
+    const std::string wanted = QuorIniFile::ToUtf8(name);
+    const std::size_t slot = SlotOf(wanted, HashOf(wanted));
+    return m_slots[slot] == 0 ? nullptr : &m_entries[m_slots[slot] - 1].section;
 }
 
 } // namespace QuorProbeFile

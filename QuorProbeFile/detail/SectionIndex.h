@@ -7,12 +7,13 @@
 #include <deque>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <vector>
 
 namespace QuorProbeFile {
 
 /// The sections that a walk through a file has passed, by their names in any case of ASCII letters. It looks
-/// at the text itself and lives as long as the walk.
+/// at the text itself and lives as long as the walk. (A table of its own: with hundreds of thousands of
+/// sections the nodes of a standard one take longer than the walk.)
 class SectionIndex {
 public:
     struct Section {
@@ -21,21 +22,26 @@ public:
         std::uint32_t malformed = 0;         ///< how many lines are no keys
     };
 
-    /// Adds the section whose header the walk is at; null when there is one of that name already.
+    /// Adds the section whose header the walk is at; null when there is one of that name already. The
+    /// reference lives until the next one is added.
     Section* Add(const QuorIniFile::IniLines& header);
     /// Null when there is none of that name.
     [[nodiscard]] const Section* Find(std::wstring_view name) const;
-    [[nodiscard]] bool IsEmpty() const { return m_sections.empty(); }
+    [[nodiscard]] bool IsEmpty() const { return m_entries.empty(); }
 
 private:
-    struct Hash {
-        std::size_t operator()(std::string_view name) const;
+    struct Entry {
+        std::string_view name;
+        std::uint64_t hash;
+        Section section;
     };
-    struct Equal {
-        bool operator()(std::string_view a, std::string_view b) const;
-    };
-    std::unordered_map<std::string_view, Section, Hash, Equal> m_sections;
-    std::deque<std::string> m_spelled; // names outside ASCII, which may be spelled in two ways, in one
+    /// The slot in which the name is, or would be.
+    [[nodiscard]] std::size_t SlotOf(std::string_view name, std::uint64_t hash) const;
+    void Grow();
+
+    std::vector<Entry> m_entries;
+    std::vector<std::uint32_t> m_slots; // numbers of entries, from 1; 0 is free
+    std::deque<std::string> m_spelled;  // names outside ASCII, which may be spelled in two ways, in one
 };
 
 } // namespace QuorProbeFile

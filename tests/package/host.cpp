@@ -3,6 +3,7 @@
 
 #include <QuorConversions/core/CQuorConversion.h>
 #include <QuorConversions/rtd/CQuorCVD.h>
+#include <QuorProbeFile/QuorProbeFile.h>
 
 #include <string>
 
@@ -13,15 +14,13 @@ using namespace QuorConversions;
 namespace {
 
 int KeepProbe(const std::wstring& file) {
-    std::shared_ptr<INIFile> none;
-
     CQuorConversion probe;
     probe.SetConversionType(CONV_CVD);
     SettingsAs<CQuorCVD>(probe)->SetCoefficients(CVD_R0, 100.0123);
-    probe.WriteToFile(none, file, L"Probe 1");
+    probe.WriteToFile(file, L"Probe 1");
 
     CQuorConversion again;
-    if (!again.ReadFromFile(none, file, L"Probe 1"))
+    if (!again.ReadFromFile(file, L"Probe 1"))
         return 1;
     try {
         (void)SettingsAs<CQuorCVD>(again)->Coefficients(4);
@@ -33,6 +32,22 @@ int KeepProbe(const std::wstring& file) {
     return SettingsAs<CQuorCVD>(again)->Coefficients(CVD_R0) == 100.0123 ? 0 : 1;
 }
 
+int KeepFile(const std::wstring& path) {
+    QuorProbeFile::ProbeFile file(path);
+    CQuorConversion probe;
+    if (!file.Read(L"Probe 1", probe).IsWhole() || !file.Check().empty())
+        return 1;
+    file.Write(L"Probe 2", probe);
+    try {
+        file.Rename(L"Probe 2", L"Probe 1");
+        return 1;
+    } catch (const QuorProbeFile::ProbeFileError& error) { // crosses a border, too
+        if (error.Code() != QuorProbeFile::PROBE_NAME_IS_TAKEN)
+            return 1;
+    }
+    return file.Probes().size() == 2 && file.Probes()[1].section == L"Probe 2" ? 0 : 1;
+}
+
 struct Task {
     std::wstring file;
     int result = 1;
@@ -40,7 +55,7 @@ struct Task {
 
 void* Run(void* argument) {
     Task& task = *static_cast<Task*>(argument);
-    task.result = KeepProbe(task.file);
+    task.result = KeepProbe(task.file) == 0 && KeepFile(task.file) == 0 ? 0 : 1;
     return nullptr;
 }
 
