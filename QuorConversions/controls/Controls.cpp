@@ -21,6 +21,20 @@ void TextBox::SetSelection(std::size_t start, std::size_t length) {
     Notify();
 }
 
+void TextBox::ReplaceSelection(std::wstring_view text) {
+    m_text.replace(m_selStart, m_selLength, text);
+    m_selStart += text.size();
+    m_selLength = 0;
+    Notify();
+}
+
+void TextBox::SetAdvice(std::wstring value) {
+    if (value == m_advice)
+        return;
+    m_advice = std::move(value);
+    Notify();
+}
+
 void DropDownList::Clear() {
     m_items.clear();
     m_listIndex = -1;

@@ -31,10 +31,17 @@ public:
     [[nodiscard]] std::size_t SelLength() const { return m_selLength; }
     /// Cut to the text.
     void SetSelection(std::size_t start, std::size_t length);
+    /// Puts `text` in the place of the selection; the cursor stands behind it.
+    void ReplaceSelection(std::wstring_view text);
+    /// What the user is told of the text before it is stored: "Not a number: 0 would be stored". Empty
+    /// mostly; it changes nothing.
+    [[nodiscard]] const std::wstring& Advice() const { return m_advice; }
+    void SetAdvice(std::wstring value);
 
 private:
     friend class DialogInput;
     std::wstring m_text;
+    std::wstring m_advice;
     std::size_t m_selStart = 0;
     std::size_t m_selLength = 0;
 };

@@ -48,6 +48,18 @@ void Dialog::FocusNext(bool backwards) {
     }
 }
 
+const TextBox* Dialog::AdvisedBox() const {
+    const auto advises = [](const Control* control) {
+        return control && control->Kind() == ControlKind::TextBox && control->IsShown() &&
+               !static_cast<const TextBox*>(control)->Advice().empty();
+    };
+    if (advises(m_active))
+        return static_cast<const TextBox*>(m_active);
+    const auto first = std::find_if(m_controls.begin(), m_controls.end(),
+                                    [&](const auto& control) { return advises(control.get()); });
+    return first == m_controls.end() ? nullptr : static_cast<const TextBox*>(first->get());
+}
+
 void Dialog::Hide() {
     m_open = false;
     if (m_listener)
@@ -100,8 +112,16 @@ std::int16_t DialogInput::KeyPress(std::int16_t keyAscii) {
 void DialogInput::Edit(TextBox& box, std::wstring text, std::size_t selStart, std::size_t selLength) {
     if (!box.IsUsable() || !m_dialog.IsOpen())
         return;
+    const bool changes = text != box.Text();
     box.SetText(std::move(text));
     box.SetSelection(selStart, selLength);
+    if (changes)
+        m_dialog.OnEdit(box);
+}
+
+void DialogInput::Paste(TextBox& box, const std::wstring& text) {
+    if (m_dialog.IsOpen() && m_dialog.SetFocus(box))
+        m_dialog.OnPaste(box, text);
 }
 
 void DialogInput::Escape() {

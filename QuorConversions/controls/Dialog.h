@@ -52,6 +52,10 @@ public:
     /// The button that the Escape key presses; null when there is none. No button answers the Enter key.
     [[nodiscard]] const PushButton* CancelButton() const { return m_cancelButton; }
 
+    /// The box whose advice is to be shown: the one that has the focus, when it has any, or else the first
+    /// one on the screen; null when there is no advice.
+    [[nodiscard]] const TextBox* AdvisedBox() const;
+
     /// Where the window stands, in the toolkit's units; nothing known at first. A toolkit keeps them up to
     /// date.
     struct Placement {
@@ -111,6 +115,11 @@ protected:
     virtual void OnLostFocus(Control& /*control*/) {}
     /// `keyAscii` may be replaced; 0 swallows the key.
     virtual void OnKeyPress(TextBox& /*box*/, std::int16_t& /*keyAscii*/) {}
+    /// The user has changed the text of a box.
+    virtual void OnEdit(TextBox& /*box*/) {}
+    /// A text comes into a box from the clipboard, or is dropped on it: by itself, in the place of the
+    /// selection.
+    virtual void OnPaste(TextBox& box, const std::wstring& text) { box.ReplaceSelection(text); }
     /// The user closes the window by its frame.
     virtual void OnClose() { Hide(); }
 
@@ -154,6 +163,9 @@ public:
     [[nodiscard]] std::int16_t KeyPress(std::int16_t keyAscii);
     /// The text or the selection of a box is what the user has made it.
     void Edit(TextBox& box, std::wstring text, std::size_t selStart, std::size_t selLength);
+    /// A text is pasted into a box, or dropped on it, which gets the focus. The box decides what becomes of
+    /// it, and may fill the boxes behind it, too.
+    void Paste(TextBox& box, const std::wstring& text);
     /// The Escape key.
     void Escape();
     /// The window's own close box.

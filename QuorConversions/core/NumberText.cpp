@@ -72,6 +72,8 @@ double ParseLeadingNumber(std::wstring_view text) {
     return value;
 }
 
+std::size_t LeadingNumberLength(std::wstring_view text) { return Read(text).length; }
+
 std::optional<double> ParseWholeNumber(std::wstring_view text) {
     const auto [value, length] = Read(text);
     const bool whole = length > 0 && text.find_first_not_of(blanks, length) == std::wstring_view::npos;

@@ -2,6 +2,7 @@
 
 #include "QuorConversions/Export.h"
 
+#include <cstddef>
 #include <optional>
 #include <string_view>
 
@@ -15,6 +16,10 @@ namespace QuorConversions {
 /// is not part of it: "1e" is 1. A number too small for a double is 0 with its sign. Raises QuorError 6
 /// "Overflow" for one that is too large.
 [[nodiscard]] QUORCONVERSIONS_EXPORT double ParseLeadingNumber(std::wstring_view text);
+
+/// How many characters of `text` the number takes that it begins with, with the blanks in front of it; 0 when
+/// it begins with none. No size is too large here.
+[[nodiscard]] QUORCONVERSIONS_EXPORT std::size_t LeadingNumberLength(std::wstring_view text);
 
 /// The number that `text` is, with nothing but blanks around it. Nothing for any other text, and for a number
 /// that is too large.

@@ -5,6 +5,7 @@
 #include "QuorConversions/core/detail/modEditing.h"
 #include "QuorConversions/core/modHelp.h"
 #include "QuorConversions/core/modMessages.h"
+#include "QuorConversions/dialogs/Advice.h"
 
 #include <algorithm>
 #include <charconv>
@@ -97,6 +98,7 @@ SettingsDialog::Field& SettingsDialog::AddField(Label& label, TextBox& box, std:
 
 void SettingsDialog::ShowValue(const Field& field) const {
     field.box.SetText(FormatValue(field.get(), field.format(), UserSeparators(*m_platform)));
+    Advise(field);
 }
 
 void SettingsDialog::StoreValue(const Field& field) const {
@@ -227,22 +229,122 @@ void SettingsDialog::OnGotFocus(Control& control) {
 }
 
 void SettingsDialog::OnLostFocus(Control& control) {
-    const auto field = std::find_if(m_fields.begin(), m_fields.end(),
-                                    [&](const Field& candidate) { return &candidate.box == &control; });
-    if (field == m_fields.end() || !control.Enabled())
+    const Field* const field = FieldOf(control);
+    if (!field || !control.Enabled())
         return; // nobody can have typed into a disabled box: what it shows is the object's
     try {
         const std::wstring format = field->format();
         const auto number = ParseWholeNumber(PointText(field->box.Text()));
         if (number && !IsGeneralFormat(format))
             field->box.SetText(FormatValue(*number, format, UserSeparators(*m_platform)));
+        if (number && !IsGeneralFormat(format))
+            Advise(*field);
     } catch (...) { // a row that the object refuses by now keeps the text that was typed
     }
 }
 
-void SettingsDialog::OnKeyPress(TextBox& /*box*/, std::int16_t& keyAscii) {
+void SettingsDialog::OnKeyPress(TextBox& box, std::int16_t& keyAscii) {
+    const std::int16_t pressed = keyAscii;
     FilterNumericKeyExp(keyAscii, GetDecimalSeparator(*m_platform));
+    if (pressed == L',' && keyAscii == 0) {
+        m_separatorMissing = &box;
+        m_textBeforeSeparator = box.Text().substr(0, box.SelStart());
+        box.SetAdvice(AdviceOnSeparator(UserSeparators(*m_platform)));
+    }
     EnterToTab(keyAscii, *this, nullptr, false);
+}
+
+const SettingsDialog::Field* SettingsDialog::FieldOf(const Control& control) const {
+    const auto field = std::find_if(m_fields.begin(), m_fields.end(),
+                                    [&](const Field& candidate) { return &candidate.box == &control; });
+    return field == m_fields.end() ? nullptr : &*field;
+}
+
+void SettingsDialog::Advise(const Field& field) const {
+    if (!m_settings.AllowEdit())
+        return; // nothing will be stored
+    const NumberSeparators separators = UserSeparators(*m_platform);
+    const std::wstring format = field.format();
+    const std::wstring& text = field.box.Text();
+    if (text != FormatValue(field.get(), format, separators))
+        field.box.SetAdvice(
+            AdviceOnText(text, &field.box == ActiveControl() ? format : std::wstring{}, separators));
+    else if (IsGeneralFormat(format))
+        field.box.SetAdvice({}); // it stays as it is, NaN too
+    else
+        field.box.SetAdvice(AdviceOnShownValue(field.get(), text, separators));
+}
+
+void SettingsDialog::OnEdit(TextBox& box) {
+    const Field* const field = FieldOf(box);
+    if (!field)
+        return;
+    const std::wstring& separator = GetDecimalSeparator(*m_platform);
+    const bool mayMiss = m_separatorMissing == &box && box.Text().find(separator) == std::wstring::npos &&
+                         !box.Text().empty() && box.Text().starts_with(m_textBeforeSeparator);
+    if (mayMiss)
+        return; // what was told of it still holds
+    m_separatorMissing = nullptr;
+    try {
+        Advise(*field);
+    } catch (...) { // an object that refuses the row by now has nothing to tell of it
+        box.SetAdvice({});
+    }
+}
+
+void SettingsDialog::OnPaste(TextBox& box, const std::wstring& text) {
+    const PastedCells cells = SplitIntoCells(text);
+    if (!FieldOf(box))
+        Dialog::OnPaste(box, text);
+    else if (cells.size() == 1 && cells.front().size() == 1)
+        PasteNumber(box, cells.front().front());
+    else if (!cells.empty())
+        PasteCells(box, cells);
+}
+
+void SettingsDialog::PasteNumber(TextBox& box, std::wstring_view text) {
+    const std::wstring& separator = GetDecimalSeparator(*m_platform);
+    const PastedNumber pasted = NumberFromPaste(text, separator);
+    if (!pasted.number)
+        return box.SetAdvice(AdviceOnRefusedPaste(text, pasted.refusal));
+    const std::wstring before = box.Text().substr(0, box.SelStart());
+    const std::wstring behind = box.Text().substr(box.SelStart() + box.SelLength());
+    const std::wstring joined = before + *pasted.number + behind;
+    // Into a part of a number that is selected, or behind a sign that was typed. Nowhere else: two numbers
+    // side by side would be a third one.
+    const bool isNumber = LeadingNumberLength(PointText(joined)) == joined.size();
+    const bool isBehindSign = behind.empty() && (before == L"-" || before == L"+") && isNumber;
+    if (box.SelLength() > 0 && !isNumber)
+        return box.SetAdvice(AdviceOnRefusedPaste(joined, PasteRefusal::NoNumber));
+    if (box.SelLength() == 0 && !isBehindSign)
+        box.SetSelection(0, box.Text().size());
+    PutPasted(box, pasted);
+}
+
+void SettingsDialog::PutPasted(TextBox& box, const PastedNumber& pasted) {
+    box.ReplaceSelection(*pasted.number);
+    m_separatorMissing = nullptr;
+    OnEdit(box);
+    if (pasted.couldGroup && box.Advice().empty())
+        box.SetAdvice(AdviceOnPasted(*pasted.number));
+}
+
+void SettingsDialog::PasteCells(TextBox& box, const PastedCells& cells) {
+    std::vector<PastedNumber> numbers;
+    for (const auto& line : cells)
+        for (const std::wstring_view cell : line) {
+            numbers.push_back(NumberFromPaste(cell, GetDecimalSeparator(*m_platform)));
+            if (!numbers.back().number)
+                return box.SetAdvice(AdviceOnRefusedPaste(cell, numbers.back().refusal));
+        }
+    const auto boxes = BoxesFor(cells, box);
+    if (!boxes)
+        return box.SetAdvice(AdviceOnNoRoom(numbers.size()));
+    for (std::size_t i = 0; i < boxes->size(); ++i) {
+        TextBox& target = *(*boxes)[i];
+        target.SetSelection(0, target.Text().size());
+        PutPasted(target, numbers[i]);
+    }
 }
 
 std::wstring SettingsDialog::PointText(const std::wstring& text) const {

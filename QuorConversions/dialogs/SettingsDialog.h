@@ -1,8 +1,10 @@
 #pragma once
 
 #include "QuorConversions/controls/Dialog.h"
+#include "QuorConversions/core/NumberFromPaste.h"
 #include "QuorConversions/core/SettingsObject.h"
 #include "QuorConversions/core/detail/SettingsEditor.h"
+#include "QuorConversions/dialogs/PastedCells.h"
 
 #include <deque>
 #include <functional>
@@ -93,6 +95,8 @@ protected:
     void OnGotFocus(Control& control) override;
     void OnLostFocus(Control& control) override;
     void OnKeyPress(TextBox& box, std::int16_t& keyAscii) override;
+    void OnEdit(TextBox& box) override;
+    void OnPaste(TextBox& box, const std::wstring& text) override;
 
 private:
     enum OKCancelHelp : std::size_t { OK, Cancel, Help };
@@ -102,6 +106,14 @@ private:
     /// Gathers, then validates.
     [[nodiscard]] bool Accept();
     void LoadAll(bool first);
+    /// The field that a box belongs to; null for another control.
+    [[nodiscard]] const Field* FieldOf(const Control& control) const;
+    /// Tells what would be stored of the text of a box.
+    void Advise(const Field& field) const;
+    void PasteNumber(TextBox& box, std::wstring_view text);
+    void PasteCells(TextBox& box, const PastedCells& cells);
+    /// Puts a number into the place of the selection.
+    void PutPasted(TextBox& box, const PastedNumber& pasted);
     void RestorePlacement();
     void StorePlacement() const;
     void ReportError(EStringId context) const;
@@ -114,6 +126,10 @@ private:
     std::vector<PushButton*> m_openSaveAs;
     std::vector<PushButton*> m_okCancelHelp;
     std::deque<Field> m_fields;
+    /// The box in which a decimal separator of another country was swallowed, and the text in front of it: as
+    /// long as the text begins so, the separator may be missing.
+    const TextBox* m_separatorMissing = nullptr;
+    std::wstring m_textBeforeSeparator;
     bool m_cancelled = false;
     bool m_activated = false;
     bool m_loading = false;

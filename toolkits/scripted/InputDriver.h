@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 
 namespace QuorConversions::Scripted {
 
@@ -22,6 +23,8 @@ public:
     virtual void SelectAll() = 0;
     /// Presses a key that has a character code.
     virtual void Press(std::int16_t keyAscii) = 0;
+    /// Copies the text elsewhere and pastes it into the box that has the focus.
+    virtual void Paste(const std::wstring& text) = 0;
     virtual void Tab(bool backwards) = 0;
     virtual void Escape() = 0;
     virtual void Click(PushButton& button) = 0;
@@ -41,6 +44,7 @@ public:
     void GoTo(Control& control) override { m_input.Focus(control); }
     void SelectAll() override;
     void Press(std::int16_t keyAscii) override;
+    void Paste(const std::wstring& text) override;
     void Tab(bool backwards) override { m_input.Tab(backwards); }
     void Escape() override { m_input.Escape(); }
     void Click(PushButton& button) override { m_input.Click(button); }

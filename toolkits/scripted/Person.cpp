@@ -3,6 +3,7 @@
 #include "QuorConversions/controls/ControlNames.h"
 #include "QuorIniFile/Utf8.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace QuorConversions::Scripted {
@@ -30,6 +31,8 @@ std::wstring Drawn(const Control& control) {
     switch (control.Kind()) {
     case ControlKind::TextBox:
         text = L"[" + TextOf(control) + L"]";
+        if (const std::wstring& advice = static_cast<const TextBox&>(control).Advice(); !advice.empty())
+            text += L" ! " + advice;
         break;
     case ControlKind::DropDownList:
         text = L"[" + TextOf(control) + L" v]";
@@ -115,6 +118,13 @@ void Person::Type(std::wstring_view box, std::wstring_view text) {
     TypeHere(text);
 }
 
+void Person::Paste(std::wstring_view box, const std::wstring& text) {
+    auto& target = Find<TextBox>(box, ControlKind::TextBox, L"text box");
+    OnOpenDialog().GoTo(target);
+    OnOpenDialog().SelectAll();
+    OnOpenDialog().Paste(text);
+}
+
 void Person::TypeHere(std::wstring_view text) {
     for (const wchar_t character : text)
         if (static_cast<std::uint32_t>(character) <= 0x7FFF) // no key has a greater code
@@ -148,6 +158,20 @@ void Person::Click(std::wstring_view button) {
 }
 
 std::wstring Person::Reads(std::wstring_view control) const { return TextOf(Find(control)); }
+
+std::wstring Person::Advice(std::wstring_view box) const {
+    const Control& control = Find(box);
+    if (control.Kind() != ControlKind::TextBox)
+        throw CannotDo(L"\"" + std::wstring(box) + L"\" is no text box");
+    return static_cast<const TextBox&>(control).Advice();
+}
+
+bool Person::SeesAdvice(std::wstring_view advice) const {
+    return std::any_of(m_dialog.Controls().begin(), m_dialog.Controls().end(), [&](const auto& control) {
+        return control->Kind() == ControlKind::TextBox && control->IsShown() &&
+               static_cast<const TextBox&>(*control).Advice() == advice;
+    });
+}
 
 std::wstring Person::Focused() const {
     return m_dialog.ActiveControl() ? m_dialog.ActiveControl()->Name() : std::wstring{};

@@ -30,6 +30,10 @@ public:
     void Type(std::wstring_view box, std::wstring_view text);
     /// Types at the place of the selection of the box that has the focus.
     void TypeHere(std::wstring_view text);
+    /// Goes to a text box, which selects its text, and pastes what was copied elsewhere.
+    void Paste(std::wstring_view box, const std::wstring& text);
+    /// Pastes at the place of the selection of the box that has the focus.
+    void PasteHere(const std::wstring& text) { OnOpenDialog().Paste(text); }
     /// Presses a key that has a character code, 13 for Enter, 8 for Backspace.
     void Press(std::int16_t keyAscii) { OnOpenDialog().Press(keyAscii); }
     void Tab(bool backwards = false) { OnOpenDialog().Tab(backwards); }
@@ -51,7 +55,12 @@ public:
     [[nodiscard]] std::wstring Reads(std::wstring_view control) const;
     /// The name in the code of the control that has the focus; empty for none.
     [[nodiscard]] std::wstring Focused() const;
-    /// The whole dialog as text: its title, and a line a row with what stands in it. Disabled controls stand
+    /// What the dialog advises of the text of a box; empty for nothing.
+    [[nodiscard]] std::wstring Advice(std::wstring_view box) const;
+    /// Whether the dialog gives this advice of any box that is shown.
+    [[nodiscard]] bool SeesAdvice(std::wstring_view advice) const;
+    /// The whole dialog as text: its title, and a line a row with what stands in it; advice stands behind its
+    /// box, after "!". Disabled controls stand
     /// in parentheses; what is hidden is listed behind, by name. Control characters of what stands there,
     /// from a file perhaps, are escaped: a row stays a line, and the text can be printed on a terminal.
     [[nodiscard]] std::wstring Screen() const;

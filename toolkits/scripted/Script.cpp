@@ -30,6 +30,21 @@ std::pair<std::wstring, std::wstring> SplitName(const Person& person, const std:
     return {best, std::wstring(Trimmed(std::wstring_view(rest).substr(best.size())))};
 }
 
+/// A text with the tab, line end or backslash for each escape.
+std::wstring Unescaped(std::wstring_view text) {
+    std::wstring result;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const wchar_t next = at + 1 < text.size() ? text[at + 1] : L'\0';
+        if (text[at] != L'\\' || (next != L't' && next != L'n' && next != L'\\')) {
+            result += text[at];
+            continue;
+        }
+        result += next == L't' ? L'\t' : next == L'n' ? L'\n' : L'\\';
+        ++at;
+    }
+    return result;
+}
+
 } // namespace
 
 ScriptError::ScriptError(std::size_t lineNumber, const std::wstring& what)
@@ -56,6 +71,14 @@ const Script::Verb* Script::FindVerb(const std::wstring& name) {
              const auto [box, text] = SplitName(stage.person, rest);
              stage.person.Type(box, text);
          }},
+        {L"paste", true,
+         [](const Verb::Stage& stage, const std::wstring& rest) {
+             const auto into = rest.rfind(L" into ");
+             if (into == std::wstring::npos)
+                 throw CannotDo(L"\"paste\" does not say into which box");
+             stage.person.Paste(Trimmed(std::wstring_view(rest).substr(into + 6)),
+                                Unescaped(std::wstring_view(rest).substr(0, into)));
+         }},
         {L"choose", true,
          [](const Verb::Stage& stage, const std::wstring& rest) {
              const auto [list, item] = SplitName(stage.person, rest);
@@ -78,7 +101,14 @@ const Script::Verb* Script::FindVerb(const std::wstring& name) {
         {L"nofile", false,
          [](const Verb::Stage& stage, const std::wstring&) { stage.platform.CancelFile(); }},
         {L"expect", true,
-         [](const Verb::Stage& stage, const std::wstring& rest) { stage.platform.ExpectMessage(rest); }},
+         [](const Verb::Stage& stage, const std::wstring& rest) {
+             constexpr std::wstring_view advice = L"advice ";
+             if (!rest.starts_with(advice))
+                 return stage.platform.ExpectMessage(rest);
+             const std::wstring text(Trimmed(std::wstring_view(rest).substr(advice.size())));
+             if (!stage.person.SeesAdvice(text))
+                 throw CannotDo(L"there is no advice \"" + text + L"\"");
+         }},
         {L"show", false,
          [](const Verb::Stage& stage, const std::wstring&) { stage.print(stage.person.Screen()); }},
     };

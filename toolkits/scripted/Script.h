@@ -19,6 +19,8 @@ struct ScriptError : std::runtime_error {
 /// What a person does in one dialog, as text, one command a line:
 ///
 ///     type LABEL TEXT      go to a box and type over it        type R0 100.0123
+///     paste TEXT into LABEL   go to a box and paste over it    paste -2.35 x 10^-4 into A
+///                             with \t and \n for tabs and line ends, \\ for a backslash
 ///     choose LABEL ITEM    choose an item of a list            choose Type K
 ///     page TAB             turn to a page                      page High Range
 ///     click BUTTON         click a button                      click OK
@@ -27,6 +29,7 @@ struct ScriptError : std::runtime_error {
 ///     file PATH            the next file dialog gets this path
 ///     nofile               the next file dialog is cancelled
 ///     expect TEXT          the next message says this
+///     expect advice TEXT   a box is marked with this advice now
 ///     show                 print the dialog
 ///
 /// Labels are what Person knows them by. Blank lines and lines that begin with "#" mean nothing.

@@ -7,6 +7,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
 #include <QEventLoop>
@@ -202,6 +203,11 @@ void QtInputDriver::Press(std::int16_t keyAscii) {
             return Key(named.key, named.modifiers);
     QTest::sendKeyEvent(QTest::Click, Focused(), Qt::Key_unknown, QString(QChar(keyAscii)), Qt::NoModifier);
     Look();
+}
+
+void QtInputDriver::Paste(const std::wstring& text) {
+    QApplication::clipboard()->setText(ToQt(text));
+    Key(Qt::Key_V, Qt::ControlModifier);
 }
 
 void QtInputDriver::Tab(bool backwards) {

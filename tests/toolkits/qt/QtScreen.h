@@ -27,6 +27,7 @@ public:
     void GoTo(QuorConversions::Control& control) override;
     void SelectAll() override;
     void Press(std::int16_t keyAscii) override;
+    void Paste(const std::wstring& text) override;
     void Tab(bool backwards) override;
     void Escape() override;
     void Click(QuorConversions::PushButton& button) override;

@@ -543,6 +543,46 @@
         <source>A record could not be written whole, so nothing was saved</source>
         <translation>Ein Datensatz konnte nicht vollständig geschrieben werden; deshalb wurde nichts gespeichert</translation>
     </message>
+    <message>
+        <source>Not a number: 0 would be stored</source>
+        <translation>Keine Zahl: 0 würde gespeichert</translation>
+    </message>
+    <message>
+        <source>Only ~ of ~ would be stored</source>
+        <translation>Nur ~ von ~ würde gespeichert</translation>
+    </message>
+    <message>
+        <source>The decimal separator here is the point</source>
+        <translation>Das Dezimaltrennzeichen ist hier der Punkt</translation>
+    </message>
+    <message>
+        <source>The decimal separator here is ~</source>
+        <translation>Das Dezimaltrennzeichen ist hier ~</translation>
+    </message>
+    <message>
+        <source>~ would be stored for ~</source>
+        <translation>~ würde gespeichert statt ~</translation>
+    </message>
+    <message>
+        <source>~ is too large to be stored</source>
+        <translation>~ ist zu groß und kann nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>Pasted as ~</source>
+        <translation>Eingefügt als ~</translation>
+    </message>
+    <message>
+        <source>Nothing pasted: ~ can be read in two ways</source>
+        <translation>Nichts eingefügt: ~ kann auf zwei Arten gelesen werden</translation>
+    </message>
+    <message>
+        <source>Nothing pasted: ~ is not a number</source>
+        <translation>Nichts eingefügt: ~ ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>Nothing pasted: there is no room for ~ numbers</source>
+        <translation>Nichts eingefügt: Für ~ Zahlen ist kein Platz</translation>
+    </message>
 </context>
 <context>
     <name>HelpWindow</name>

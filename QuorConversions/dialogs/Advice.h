@@ -1,0 +1,29 @@
+#pragma once
+
+#include "QuorConversions/core/NumberFromPaste.h"
+#include "QuorConversions/core/ValueFormatter.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace QuorConversions {
+
+// What a person is told of a number in a box before it is stored. Empty text where nothing is to be told.
+
+/// Of a text in a box. `format` is the value format that the text gets when the box is left; empty for none.
+[[nodiscard]] std::wstring AdviceOnText(const std::wstring& text, std::wstring_view format,
+                                        const NumberSeparators& separators);
+/// Of `text` as a format shows `value`, which nobody has changed.
+[[nodiscard]] std::wstring AdviceOnShownValue(double value, const std::wstring& text,
+                                              const NumberSeparators& separators);
+/// Of a key that was swallowed, though it is a decimal separator in other countries.
+[[nodiscard]] std::wstring AdviceOnSeparator(const NumberSeparators& separators);
+/// Of a text that was not pasted.
+[[nodiscard]] std::wstring AdviceOnRefusedPaste(std::wstring_view text, PasteRefusal refusal);
+/// Of cells that were not pasted.
+[[nodiscard]] std::wstring AdviceOnNoRoom(std::size_t cells);
+/// Of a number whose decimal separator could have grouped.
+[[nodiscard]] std::wstring AdviceOnPasted(const std::wstring& number);
+
+} // namespace QuorConversions

@@ -1,0 +1,81 @@
+#include "QuorConversions/dialogs/PastedCells.h"
+
+#include <algorithm>
+
+namespace QuorConversions {
+namespace {
+
+constexpr std::wstring_view lineEnds = L"\n\u0085\u2028\u2029\r";
+
+/// Takes what stands in front of the next of `dividers`, and the divider; CR and LF are one.
+std::wstring_view TakeUpTo(std::wstring_view& text, std::wstring_view dividers) {
+    const auto end = text.find_first_of(dividers);
+    const std::wstring_view part = text.substr(0, end);
+    if (end == std::wstring_view::npos)
+        text = {};
+    else
+        text.remove_prefix(end + (text.substr(end).starts_with(L"\r\n") ? 2 : 1));
+    return part;
+}
+
+using BoxRow = std::vector<TextBox*>;
+
+/// The boxes that can be edited, row by row, from the row of `first` to the end of its list or grid.
+std::vector<BoxRow> RowsFrom(const TextBox& first) {
+    std::vector<BoxRow> rows;
+    for (const Frame::Row& controls : static_cast<const Frame*>(first.Parent())->Rows()) {
+        const bool begins = std::find(controls.begin(), controls.end(), &first) != controls.end();
+        const bool isShown = std::any_of(controls.begin(), controls.end(),
+                                         [](const Control* c) { return c && c->IsShown(); });
+        if ((rows.empty() && !begins) || !isShown)
+            continue;
+        BoxRow boxes;
+        for (Control* const control : controls)
+            if (control && control->Kind() == ControlKind::TextBox && control->IsUsable())
+                boxes.push_back(static_cast<TextBox*>(control));
+        if (!rows.empty() && boxes.size() != rows.front().size())
+            break;
+        rows.push_back(std::move(boxes));
+    }
+    return rows;
+}
+
+} // namespace
+
+PastedCells SplitIntoCells(std::wstring_view text) {
+    constexpr std::wstring_view edges = L" \t\n\u0085\u2028\u2029\r";
+    const auto begin = text.find_first_not_of(edges);
+    if (begin == std::wstring_view::npos)
+        return {};
+    text = text.substr(begin, text.find_last_not_of(edges) - begin + 1);
+    PastedCells cells;
+    while (!text.empty()) {
+        std::wstring_view line = TakeUpTo(text, lineEnds);
+        auto& row = cells.emplace_back();
+        do // an empty line is an empty cell
+            row.push_back(TakeUpTo(line, L"\t"));
+        while (!line.empty());
+    }
+    return cells;
+}
+
+std::optional<std::vector<TextBox*>> BoxesFor(const PastedCells& cells, const TextBox& first) {
+    if (!first.Parent())
+        return std::nullopt;
+    const std::vector<BoxRow> rows = RowsFrom(first);
+    const auto firstInRow = std::find(rows.front().begin(), rows.front().end(), &first);
+    const bool isGrid = rows.front().size() > 1;
+    const auto column = static_cast<std::size_t>(firstInRow - rows.front().begin());
+    std::vector<TextBox*> boxes;
+    for (std::size_t line = 0; line < cells.size(); ++line)
+        for (std::size_t cell = 0; cell < cells[line].size(); ++cell) {
+            const std::size_t row = isGrid ? line : boxes.size();
+            const std::size_t place = isGrid ? column + cell : 0;
+            if (row >= rows.size() || place >= rows[row].size())
+                return std::nullopt;
+            boxes.push_back(rows[row][place]);
+        }
+    return boxes;
+}
+
+} // namespace QuorConversions

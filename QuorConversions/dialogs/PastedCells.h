@@ -1,0 +1,25 @@
+#pragma once
+
+#include "QuorConversions/controls/Controls.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace QuorConversions {
+
+/// The cells of a text: lines, each divided at tabs.
+using PastedCells = std::vector<std::vector<std::wstring_view>>;
+
+/// Splits a text at tabs and line ends only; those at its edges divide nothing. The cells live as long as
+/// `text`.
+[[nodiscard]] PastedCells SplitIntoCells(std::wstring_view text);
+
+/// The boxes that several cells go into, the cells one line after the other, when the first one goes into
+/// `first`. In a grid a cell goes as far to the right and down as it stands in the text; in a list of single
+/// boxes each cell goes into the next box. Rows that are hidden do not count; the list or grid ends where a
+/// row has another number of boxes. Nothing when there is no room.
+[[nodiscard]] std::optional<std::vector<TextBox*>> BoxesFor(const PastedCells& cells, const TextBox& first);
+
+} // namespace QuorConversions
