@@ -124,10 +124,9 @@ void DialogInput::Paste(TextBox& box, const std::wstring& text) {
         m_dialog.OnPaste(box, text);
 }
 
-void DialogInput::Escape() {
-    if (const PushButton* const cancel = m_dialog.CancelButton();
-        cancel && m_dialog.IsOpen() && cancel->IsUsable())
-        m_dialog.OnClick(const_cast<PushButton&>(*cancel)); // NOLINT: the dialog's own button
+void DialogInput::Press(const PushButton* button) {
+    if (button && m_dialog.IsOpen() && button->IsUsable())
+        m_dialog.OnClick(const_cast<PushButton&>(*button)); // NOLINT: the dialog's own button
 }
 
 void DialogInput::Close() {

@@ -56,6 +56,9 @@ public:
     /// one on the screen; null when there is no advice.
     [[nodiscard]] const TextBox* AdvisedBox() const;
 
+    /// The button that the F1 key presses; null when there is none.
+    [[nodiscard]] const PushButton* HelpButton() const { return m_helpButton; }
+
     /// Where the window stands, in the toolkit's units; nothing known at first. A toolkit keeps them up to
     /// date.
     struct Placement {
@@ -103,6 +106,7 @@ protected:
     }
     void AddColumn(const Frame& frame) { m_columns.push_back(&frame); }
     void SetCancelButton(const PushButton& button) { m_cancelButton = &button; }
+    void SetHelpButton(const PushButton& button) { m_helpButton = &button; }
     /// Ends the modal loop.
     void Hide();
     /// What the dialog's own code hands to the toolkit that runs it.
@@ -137,6 +141,7 @@ private:
     std::vector<std::unique_ptr<Control>> m_controls;
     std::vector<const Frame*> m_columns;
     const PushButton* m_cancelButton = nullptr;
+    const PushButton* m_helpButton = nullptr;
     Control* m_active = nullptr;
     std::optional<Placement> m_place;
     std::int32_t m_windowHandle = 0;
@@ -167,13 +172,18 @@ public:
     /// it, and may fill the boxes behind it, too.
     void Paste(TextBox& box, const std::wstring& text);
     /// The Escape key.
-    void Escape();
+    void Escape() { Press(m_dialog.CancelButton()); }
+    /// The F1 key.
+    void Help() { Press(m_dialog.HelpButton()); }
     /// The window's own close box.
     void Close();
 
 private:
     friend class Dialog;
     explicit DialogInput(Dialog& dialog) : m_dialog(dialog) {}
+
+    /// Presses a button by its key, which leaves the focus where it is.
+    void Press(const PushButton* button);
 
     Dialog& m_dialog;
 };

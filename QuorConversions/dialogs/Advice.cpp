@@ -78,7 +78,7 @@ std::wstring AdviceOnSeparator(const NumberSeparators& separators) {
 
 std::wstring AdviceOnRefusedPaste(std::wstring_view text, PasteRefusal refusal) {
     return Filled(refusal == PasteRefusal::TwoReadings ? IDS_PASTE_HAS_TWO_READINGS : IDS_PASTE_IS_NO_NUMBER,
-                  text);
+                  text.empty() ? L"\"\"" : text);
 }
 
 std::wstring AdviceOnNoRoom(std::size_t cells) {

@@ -25,8 +25,8 @@ std::vector<BoxRow> RowsFrom(const TextBox& first) {
     std::vector<BoxRow> rows;
     for (const Frame::Row& controls : static_cast<const Frame*>(first.Parent())->Rows()) {
         const bool begins = std::find(controls.begin(), controls.end(), &first) != controls.end();
-        const bool isShown = std::any_of(controls.begin(), controls.end(),
-                                         [](const Control* c) { return c && c->IsShown(); });
+        const bool isShown =
+            std::any_of(controls.begin(), controls.end(), [](const Control* c) { return c && c->IsShown(); });
         if ((rows.empty() && !begins) || !isShown)
             continue;
         BoxRow boxes;
@@ -52,9 +52,10 @@ PastedCells SplitIntoCells(std::wstring_view text) {
     while (!text.empty()) {
         std::wstring_view line = TakeUpTo(text, lineEnds);
         auto& row = cells.emplace_back();
-        do // an empty line is an empty cell
+        for (bool last = false; !last;) { // an empty line is an empty cell
+            last = line.find(L'\t') == std::wstring_view::npos;
             row.push_back(TakeUpTo(line, L"\t"));
-        while (!line.empty());
+        }
     }
     return cells;
 }

@@ -48,9 +48,9 @@ SettingsDialog::SettingsDialog(SettingsObject& settings, std::shared_ptr<Platfor
 }
 
 bool SettingsDialog::Run() {
-    // The buttons come last, so that they are last in tab order.
-    m_openSaveAs = AddArray<PushButton>(L"cmdOpenSaveAs", 2);
+    // The buttons come last, so that they are last in tab order, in the order in which they stand.
     m_okCancelHelp = AddArray<PushButton>(L"cmdOKCancelHelp", 3);
+    m_openSaveAs = AddArray<PushButton>(L"cmdOpenSaveAs", 2);
     auto& buttons = Add<Frame>(L"framButtons");
     for (PushButton* const button : m_okCancelHelp)
         buttons.AddRow({button});
@@ -58,6 +58,7 @@ bool SettingsDialog::Run() {
         buttons.AddRow({button});
     AddColumn(buttons);
     SetCancelButton(*m_okCancelHelp[Cancel]);
+    SetHelpButton(*m_okCancelHelp[Help]);
     SetCaptions();
 
     SetTitle(m_settings.GetName() + L" " + TableText(IDS_SETTINGS_WORD));

@@ -4,6 +4,7 @@
 #include "QuorConversions/qt/QtText.h"
 #include "toolkits/qt/TextBoxWidget.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QGridLayout>
@@ -17,6 +18,7 @@
 #include <QScrollArea>
 #include <QSignalBlocker>
 #include <QTabBar>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -93,8 +95,21 @@ void QtDialog::Build() {
     m_area = new FittingScrollArea(this);
     m_content = new QWidget(m_area->viewport()); // where it stays: moving all that stands in it takes time
     auto* const columns = new QHBoxLayout(m_content);
+    auto* const first = new QVBoxLayout;
+    columns->addLayout(first, 1);
     for (const Frame* const frame : m_dialog.Columns())
-        columns->addWidget(MakeFrame(*frame), frame == m_dialog.Columns().front() ? 1 : 0);
+        if (frame == m_dialog.Columns().front())
+            first->addWidget(MakeFrame(*frame), 1);
+        else
+            columns->addWidget(MakeFrame(*frame));
+    // A line that is always there, so that the rows do not move when it says something.
+    m_advice = new QLabel(m_content);
+    m_advice->setObjectName(QStringLiteral("advice"));
+    m_advice->setTextFormat(Qt::PlainText);
+    m_advice->setWordWrap(true);
+    m_advice->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+    m_advice->setMinimumHeight(m_advice->fontMetrics().height());
+    first->addWidget(m_advice);
     NameViews();
     for (const auto& control : m_dialog.Controls())
         if (const auto view = m_views.find(control.get()); view != m_views.end())
@@ -111,6 +126,22 @@ void QtDialog::Build() {
 
     if (m_dialog.ActiveControl())
         OnFocusMoved(m_dialog.ActiveControl());
+    ShowAdvice();
+}
+
+void QtDialog::ShowAdvice() {
+    QString text;
+    if (const TextBox* const box = m_dialog.AdvisedBox()) {
+        text = ToQt(box->Advice());
+        for (const ControlName& name : ControlNames(m_dialog))
+            if (name.control == box)
+                text = ToQt(name.name + L": ") + text;
+    }
+    if (text == m_advice->text())
+        return;
+    m_advice->setText(text);
+    QAccessibleEvent said(m_advice, QAccessible::Alert); // a screen reader says it at once
+    QAccessible::updateAccessibility(&said);
 }
 
 QWidget* QtDialog::MakeFrame(const Frame& frame) {
@@ -222,17 +253,27 @@ QtDialog::View QtDialog::MakeTextBox(TextBox& box) {
             Report([&] { counts = m_input.KeyPress(keyAscii); });
             return counts;
         },
+        [this, &box](const QString& text) {
+            m_pasting = true;
+            Report([&] { m_input.Paste(box, FromQt(text)); });
+            m_pasting = false;
+        },
         m_content);
     const auto report = [this, &box, widget] { ReportEdit(box, *widget); };
     connect(widget, &QLineEdit::textChanged, this, report);
     connect(widget, &QLineEdit::cursorPositionChanged, this, report);
     connect(widget, &QLineEdit::selectionChanged, this, report);
     return {widget, [this, widget, &box] {
+                widget->ShowAdvice(ToQt(box.Advice()));
                 if (m_reporting == &box)
                     return;
                 const QSignalBlocker silence(widget);
-                if (const QString text = ToQt(box.Text()); widget->text() != text)
-                    widget->setText(text);
+                if (const QString text = ToQt(box.Text()); widget->text() != text) {
+                    if (m_pasting)
+                        widget->ReplaceText(text);
+                    else
+                        widget->setText(text);
+                }
                 const int start = PlaceInQt(box.Text(), box.SelStart());
                 const int end = PlaceInQt(box.Text(), box.SelStart() + box.SelLength());
                 if (start == end) {
@@ -285,6 +326,7 @@ QtDialog::View QtDialog::MakeTabs(TabStrip& tabs) {
                     if (tab >= widget->count())
                         widget->addTab(ToQt(model.caption));
                     widget->setTabVisible(tab, model.present);
+                    widget->setTabEnabled(tab, model.present); // else keys and the wheel go there
                 }
                 widget->setCurrentIndex(static_cast<int>(tabs.Selected()));
                 widget->updateGeometry(); // while it is hidden, it does not tell by itself
@@ -374,6 +416,8 @@ void QtDialog::reject() {
 void QtDialog::keyPressEvent(QKeyEvent* event) {
     if (IsEnter(*event))
         event->accept(); // there is no default button
+    else if (event->matches(QKeySequence::HelpContents))
+        Report([&] { m_input.Help(); });
     else
         QDialog::keyPressEvent(event);
 }
@@ -439,13 +483,15 @@ void QtDialog::OnControlChanged(const Control& control) {
     view->second.follow();
     if (control.Kind() == ControlKind::Label)
         NameViews();
+    ShowAdvice();
 }
 
 void QtDialog::OnFocusMoved(const Control* focused) {
     QWidget* const widget = focused ? m_views.at(focused).widget : nullptr;
-    if (widget && !widget->hasFocus())
-        widget->setFocus(Qt::OtherFocusReason);
+    if (widget && !widget->hasFocus()) // with this reason, every style shows where the focus is
+        widget->setFocus(Qt::TabFocusReason);
     ScrollToFocus();
+    ShowAdvice();
 }
 
 void QtDialog::OnTitleChanged() { setWindowTitle(ToQt(m_dialog.Title())); }

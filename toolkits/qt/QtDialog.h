@@ -9,6 +9,7 @@
 #include <unordered_map>
 
 class QGridLayout;
+class QLabel;
 class QLineEdit;
 class QScrollArea;
 
@@ -51,6 +52,8 @@ private:
     View MakeList(DropDownList& list);
     View MakeTabs(TabStrip& tabs);
     void ReportEdit(TextBox& box, const QLineEdit& widget);
+    /// Says in the line below the boxes what the model advises.
+    void ShowAdvice();
     /// Gives labels the boxes that they name, and boxes the names that a screen reader says.
     void NameViews();
     [[nodiscard]] Control* ControlOf(const QObject* widget) const;
@@ -81,6 +84,8 @@ private:
     std::unordered_map<const Control*, View> m_views;
     std::unordered_map<const QObject*, Control*> m_controls;
     const Control* m_reporting = nullptr; // whose widget is ahead of its control for a moment
+    bool m_pasting = false;
+    QLabel* m_advice = nullptr;
     QPoint m_shownAt;
     std::exception_ptr m_failure;
 };

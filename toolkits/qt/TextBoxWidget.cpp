@@ -1,7 +1,14 @@
 #include "toolkits/qt/TextBoxWidget.h"
 
+#include <QAction>
+#include <QContextMenuEvent>
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QPainter>
+#include <QPolygonF>
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <QtMath>
@@ -13,6 +20,7 @@ namespace {
 
 constexpr std::int16_t backspaceKey = 8;
 constexpr std::int16_t enterKey = 13;
+constexpr std::int16_t pasteKey = 22;
 constexpr std::int16_t noSuchKey = -1;
 
 /// Keys that stand for what they do, in whatever combination the system has for it.
@@ -21,8 +29,8 @@ const struct {
     std::int16_t keyAscii;
     void (QLineEdit::*perform)();
 } editingKeys[] = {
-    {QKeySequence::Copy, 3, nullptr}, // copying is const
-    {QKeySequence::Paste, 22, &QLineEdit::paste},
+    {QKeySequence::Copy, 3, nullptr},         // copying is const
+    {QKeySequence::Paste, pasteKey, nullptr}, // it asks what is to be pasted
     {QKeySequence::Cut, 24, &QLineEdit::cut},
     {QKeySequence::Undo, 26, &QLineEdit::undo},
 };
@@ -60,8 +68,8 @@ std::int16_t KeyAsciiOf(const QKeyEvent& event) {
     return character <= 0x7FFF ? static_cast<std::int16_t>(character) : noSuchKey;
 }
 
-TextBoxWidget::TextBoxWidget(KeyFilter filter, QWidget* parent)
-    : QLineEdit(parent), m_filter(std::move(filter)) {
+TextBoxWidget::TextBoxWidget(KeyFilter filter, PasteHandler paste, QWidget* parent)
+    : QLineEdit(parent), m_filter(std::move(filter)), m_paste(std::move(paste)) {
     setLayoutDirection(Qt::LeftToRight);
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     Measure();
@@ -97,7 +105,12 @@ void TextBoxWidget::keyPressEvent(QKeyEvent* event) {
     const std::int16_t counts = pressed == noSuchKey ? std::int16_t{0} : m_filter(pressed);
     if (counts == 0 || counts == enterKey) // an Enter that nobody took does nothing to a line of text
         return;
-    if (counts == pressed)
+    // X11 has a key for the text that is selected elsewhere, too.
+    const bool fromSelection =
+        event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier) && event->key() == Qt::Key_Insert;
+    if (counts == pasteKey && fromSelection)
+        PasteFrom(QClipboard::Selection);
+    else if (counts == pressed && counts != pasteKey)
         QLineEdit::keyPressEvent(event);
     else
         Perform(counts);
@@ -108,6 +121,8 @@ void TextBoxWidget::Perform(std::int16_t keyAscii) {
         if (row.keyAscii == keyAscii) {
             if (row.perform)
                 (this->*row.perform)();
+            else if (keyAscii == pasteKey)
+                PasteFrom(QClipboard::Clipboard);
             else
                 copy();
             return;
@@ -136,6 +151,78 @@ void TextBoxWidget::mousePressEvent(QMouseEvent* event) {
 void TextBoxWidget::mouseMoveEvent(QMouseEvent* event) {
     if (!m_clickSelectsAll) // also where the hand trembles
         QLineEdit::mouseMoveEvent(event);
+}
+
+void TextBoxWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::MiddleButton)
+        return QLineEdit::mouseReleaseEvent(event);
+    event->accept();
+    if (QGuiApplication::clipboard()->supportsSelection())
+        PasteFrom(QClipboard::Selection);
+}
+
+void TextBoxWidget::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu* const menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    static constexpr const char* caption = "&Paste"; // Qt's own text, in Qt's own translation
+    for (QAction* const action : menu->actions())
+        if (action->text().startsWith(QLineEdit::tr(caption))) {
+            disconnect(action, nullptr, this, nullptr);
+            connect(action, &QAction::triggered, this, [this] { PasteFrom(QClipboard::Clipboard); });
+        }
+    menu->popup(event->globalPos());
+}
+
+void TextBoxWidget::dropEvent(QDropEvent* event) {
+    const QString text = event->mimeData()->text();
+    if (isReadOnly() || text.isEmpty())
+        return QLineEdit::dropEvent(event);
+    QDragLeaveEvent leaves; // takes away the cursor that showed the place
+    dragLeaveEvent(&leaves);
+    event->setDropAction(Qt::CopyAction); // what is not taken must not vanish where it came from
+    event->accept();
+    Paste(text);
+}
+
+void TextBoxWidget::PasteFrom(QClipboard::Mode clipboard) {
+    Paste(QGuiApplication::clipboard()->text(clipboard));
+}
+
+void TextBoxWidget::Paste(const QString& text) {
+    if (!isReadOnly() && !text.isEmpty())
+        m_paste(text);
+}
+
+void TextBoxWidget::ReplaceText(const QString& text) {
+    selectAll();
+    insert(text);
+    home(false); // a step of its own: what is typed next is another one
+    end(false);
+}
+
+void TextBoxWidget::ShowAdvice(const QString& advice) {
+    if (advice == accessibleDescription())
+        return;
+    setAccessibleDescription(advice);
+    setToolTip(advice);
+    update();
+}
+
+void TextBoxWidget::paintEvent(QPaintEvent* event) {
+    QLineEdit::paintEvent(event);
+    if (accessibleDescription().isEmpty())
+        return;
+    // A corner and a line: an icon would take the room of the longest number.
+    const bool isDark = palette().color(QPalette::Base).lightness() < 128;
+    const QRectF inside = QRectF(rect()).adjusted(2, 2, -2, -2);
+    const qreal corner = inside.height() / 2;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(isDark ? QColor(0xFF, 0xB0, 0x00) : QColor(0xB3, 0x47, 0x00));
+    painter.drawPolygon(QPolygonF(
+        {inside.topLeft(), inside.topLeft() + QPointF(corner, 0), inside.topLeft() + QPointF(0, corner)}));
+    painter.drawRect(QRectF(inside.left(), inside.bottom() - 2, inside.width(), 2));
 }
 
 } // namespace QuorConversions::QtToolkit

@@ -27,6 +27,8 @@ public:
     virtual void Paste(const std::wstring& text) = 0;
     virtual void Tab(bool backwards) = 0;
     virtual void Escape() = 0;
+    /// Presses F1.
+    virtual void Help() = 0;
     virtual void Click(PushButton& button) = 0;
     virtual void Choose(DropDownList& list, std::int32_t index) = 0;
     virtual void SelectTab(TabStrip& tabs, std::size_t tab) = 0;
@@ -47,6 +49,7 @@ public:
     void Paste(const std::wstring& text) override;
     void Tab(bool backwards) override { m_input.Tab(backwards); }
     void Escape() override { m_input.Escape(); }
+    void Help() override { m_input.Help(); }
     void Click(PushButton& button) override { m_input.Click(button); }
     void Choose(DropDownList& list, std::int32_t index) override { m_input.Choose(list, index); }
     void SelectTab(TabStrip& tabs, std::size_t tab) override { m_input.SelectTab(tabs, tab); }

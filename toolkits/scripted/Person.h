@@ -38,6 +38,8 @@ public:
     void Press(std::int16_t keyAscii) { OnOpenDialog().Press(keyAscii); }
     void Tab(bool backwards = false) { OnOpenDialog().Tab(backwards); }
     void Escape() { OnOpenDialog().Escape(); }
+    /// Presses F1.
+    void Help() { OnOpenDialog().Help(); }
     /// Goes to a control.
     void GoTo(std::wstring_view control);
     /// Chooses the item with that text.

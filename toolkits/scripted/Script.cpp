@@ -95,6 +95,7 @@ const Script::Verb* Script::FindVerb(const std::wstring& name) {
         {L"tab", false, [](const Verb::Stage& stage, const std::wstring&) { stage.person.Tab(); }},
         {L"backtab", false, [](const Verb::Stage& stage, const std::wstring&) { stage.person.Tab(true); }},
         {L"escape", false, [](const Verb::Stage& stage, const std::wstring&) { stage.person.Escape(); }},
+        {L"help", false, [](const Verb::Stage& stage, const std::wstring&) { stage.person.Help(); }},
         {L"close", false, [](const Verb::Stage& stage, const std::wstring&) { stage.person.Close(); }},
         {L"file", true,
          [](const Verb::Stage& stage, const std::wstring& rest) { stage.platform.ChooseFile(rest); }},

@@ -25,7 +25,7 @@ struct ScriptError : std::runtime_error {
 ///     page TAB             turn to a page                      page High Range
 ///     click BUTTON         click a button                      click OK
 ///     key TEXT             type where the focus is             key 1e-3
-///     enter, tab, backtab, escape, close
+///     enter, tab, backtab, escape, help, close
 ///     file PATH            the next file dialog gets this path
 ///     nofile               the next file dialog is cancelled
 ///     expect TEXT          the next message says this

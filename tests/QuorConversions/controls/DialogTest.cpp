@@ -34,6 +34,7 @@ private:
     void OnClick(Control& control) override { events.push_back(L"click " + control.Name()); }
     void OnGotFocus(Control& control) override { events.push_back(L"got " + control.Name()); }
     void OnLostFocus(Control& control) override { events.push_back(L"lost " + control.Name()); }
+    void OnEdit(TextBox& box) override { events.push_back(L"edit " + box.Name()); }
     void OnKeyPress(TextBox& box, std::int16_t& keyAscii) override {
         events.push_back(L"key " + box.Name());
         if (typed != 0)
@@ -332,4 +333,59 @@ TEST_F(DialogTest, TellsItsListenerWhatMayBeAnother) {
     dialog.SetListener(nullptr);
     dialog.SetTitle(L"y");
     EXPECT_EQ(told(), Texts{});
+}
+
+// Pasting, and what is advised
+
+TEST_F(DialogTest, PutsAPastedTextInThePlaceOfTheSelection) {
+    dialog.one.SetText(L"probe 1");
+    EXPECT_TRUE(dialog.SetFocus(dialog.one));
+    dialog.one.SetSelection(0, 5);
+    user.Paste(dialog.one, L"bath\n");
+    EXPECT_EQ(dialog.one.Text(), L"bath\n 1");
+    EXPECT_EQ(dialog.one.SelStart(), 5U);
+    EXPECT_EQ(dialog.one.SelLength(), 0U);
+}
+
+TEST_F(DialogTest, BringsTheFocusToTheBoxThatATextIsDroppedOn) {
+    EXPECT_TRUE(dialog.SetFocus(dialog.one));
+    user.Paste(dialog.two, L"5");
+    EXPECT_EQ(dialog.ActiveControl(), &dialog.two);
+    EXPECT_EQ(dialog.two.Text(), L"5");
+}
+
+TEST_F(DialogTest, PastesNothingWhereNothingCanBeTyped) {
+    dialog.one.SetEnabled(false);
+    dialog.two.SetVisible(false);
+    user.Paste(dialog.one, L"5");
+    user.Paste(dialog.two, L"5");
+    EXPECT_EQ(dialog.one.Text() + dialog.two.Text(), L"");
+}
+
+TEST_F(DialogTest, TellsAnEditOfTheTextButNotOfTheSelection) {
+    user.Edit(dialog.one, L"5", 1, 0);
+    user.Edit(dialog.one, L"5", 0, 1);
+    EXPECT_EQ(Events(), Texts{L"edit txtOne"});
+}
+
+TEST_F(DialogTest, AdvisesOfTheBoxWithTheFocusFirst) {
+    EXPECT_EQ(dialog.AdvisedBox(), nullptr);
+    dialog.one.SetAdvice(L"one");
+    dialog.two.SetAdvice(L"two");
+    EXPECT_EQ(dialog.AdvisedBox(), &dialog.one);
+    EXPECT_TRUE(dialog.SetFocus(dialog.two));
+    EXPECT_EQ(dialog.AdvisedBox(), &dialog.two);
+    EXPECT_TRUE(dialog.SetFocus(dialog.ok));
+    EXPECT_EQ(dialog.AdvisedBox(), &dialog.one);
+    dialog.one.SetVisible(false);
+    EXPECT_EQ(dialog.AdvisedBox(), &dialog.two);
+}
+
+TEST_F(DialogTest, TellsAdviceOnlyWhenItIsAnotherOne) {
+    Follower follower;
+    dialog.SetListener(&follower);
+    dialog.one.SetAdvice(L"one");
+    dialog.one.SetAdvice(L"one");
+    EXPECT_EQ(follower.told, Texts{L"txtOne"});
+    dialog.SetListener(nullptr);
 }

@@ -126,8 +126,8 @@ TYPED_TEST(CoefficientDialogTest, TabsThroughTheShownRowsInTheirOrder) {
         Texts expected;
         for (std::size_t i = 0; i < TypeParam::rows; ++i)
             expected.push_back(Element(L"txtCoefficients", i));
-        for (const wchar_t* const button : {L"cmdOpenSaveAs(0)", L"cmdOpenSaveAs(1)", L"cmdOKCancelHelp(0)",
-                                            L"cmdOKCancelHelp(1)", L"cmdOKCancelHelp(2)"})
+        for (const wchar_t* const button : {L"cmdOKCancelHelp(0)", L"cmdOKCancelHelp(1)",
+                                            L"cmdOKCancelHelp(2)", L"cmdOpenSaveAs(0)", L"cmdOpenSaveAs(1)"})
             expected.emplace_back(button);
         EXPECT_EQ(order, expected);
         person.Click(L"Cancel");

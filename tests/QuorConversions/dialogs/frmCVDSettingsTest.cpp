@@ -129,7 +129,7 @@ TEST_F(frmCVDSettingsTest, HidesTheRowsThatTheObjectDoesNotHave) {
     EditAndTake([](Person& person) {
         EXPECT_EQ(Visible(person, L"lblCoefficients"), (Texts{L"R0:", L"ALPHA:"}));
         EXPECT_EQ(Visible(person, L"txtCoefficients"), (Texts{L"100", L"0.1"}));
-        EXPECT_EQ(TabOrder(person)[2], L"cmdOpenSaveAs(0)");
+        EXPECT_EQ(TabOrder(person)[2], L"cmdOKCancelHelp(0)");
         person.Type(L"ALPHA", L"0.2");
     });
     EXPECT_EQ(Values(), (std::vector<double>{100, 0.2}));

@@ -46,8 +46,8 @@ TEST_F(frmIPTS68SettingsTest, OffersTheScaleAboveTheCoefficients) {
         EXPECT_EQ(
             TabOrder(person),
             (Texts{L"cboScale", L"txtCoefficients(0)", L"txtCoefficients(1)", L"txtCoefficients(2)",
-                   L"txtCoefficients(3)", L"txtCoefficients(4)", L"cmdOpenSaveAs(0)", L"cmdOpenSaveAs(1)",
-                   L"cmdOKCancelHelp(0)", L"cmdOKCancelHelp(1)", L"cmdOKCancelHelp(2)"}));
+                   L"txtCoefficients(3)", L"txtCoefficients(4)", L"cmdOKCancelHelp(0)", L"cmdOKCancelHelp(1)",
+                   L"cmdOKCancelHelp(2)", L"cmdOpenSaveAs(0)", L"cmdOpenSaveAs(1)"}));
         person.Click(L"Cancel");
     });
 }

@@ -100,13 +100,13 @@ TEST_F(frmITS90SettingsTest, TabsOverTheShownPageOnly) {
     Edit([](Person& person) {
         EXPECT_EQ(TabOrder(person),
                   (Texts{L"txtRTPW", L"tabRange", L"cboLowRange", L"txtLowCoefficient(0)",
-                         L"txtLowCoefficient(1)", L"cmdOpenSaveAs(0)", L"cmdOpenSaveAs(1)",
-                         L"cmdOKCancelHelp(0)", L"cmdOKCancelHelp(1)", L"cmdOKCancelHelp(2)"}));
+                         L"txtLowCoefficient(1)", L"cmdOKCancelHelp(0)", L"cmdOKCancelHelp(1)",
+                         L"cmdOKCancelHelp(2)", L"cmdOpenSaveAs(0)", L"cmdOpenSaveAs(1)"}));
         person.TurnTo(L"High Range");
         EXPECT_EQ(TabOrder(person),
                   (Texts{L"tabRange", L"cboHighRange", L"txtHighCoefficient(0)", L"txtHighCoefficient(1)",
-                         L"txtHighCoefficient(2)", L"cmdOpenSaveAs(0)", L"cmdOpenSaveAs(1)",
-                         L"cmdOKCancelHelp(0)", L"cmdOKCancelHelp(1)", L"cmdOKCancelHelp(2)", L"txtRTPW"}));
+                         L"txtHighCoefficient(2)", L"cmdOKCancelHelp(0)", L"cmdOKCancelHelp(1)",
+                         L"cmdOKCancelHelp(2)", L"cmdOpenSaveAs(0)", L"cmdOpenSaveAs(1)", L"txtRTPW"}));
         person.Click(L"Cancel");
     });
 }

@@ -62,8 +62,8 @@ TEST_F(frmTCTableSettingsTest, TabsRowByRow) {
     Edit([](Person& person) {
         EXPECT_EQ(TabOrder(person),
                   (Texts{L"cboNumPoints", L"txtTemperature(0)", L"txtVoltage(0)", L"txtTemperature(1)",
-                         L"txtVoltage(1)", L"cmdOpenSaveAs(0)", L"cmdOpenSaveAs(1)", L"cmdOKCancelHelp(0)",
-                         L"cmdOKCancelHelp(1)", L"cmdOKCancelHelp(2)"}));
+                         L"txtVoltage(1)", L"cmdOKCancelHelp(0)", L"cmdOKCancelHelp(1)",
+                         L"cmdOKCancelHelp(2)", L"cmdOpenSaveAs(0)", L"cmdOpenSaveAs(1)"}));
         person.Click(L"Cancel");
     });
 }

@@ -61,8 +61,8 @@ TEST_F(frmTCTypeXSettingsTest, TabsFromTheTypeOverDCCoefficientsToThePoints) {
         EXPECT_EQ(TabOrder(person),
                   (Texts{L"cboTCType", L"txtCoefficients(0)", L"txtCoefficients(1)", L"txtTemperature(0)",
                          L"txtOffset(0)", L"txtTemperature(1)", L"txtOffset(1)", L"txtTemperature(2)",
-                         L"txtOffset(2)", L"cmdOpenSaveAs(0)", L"cmdOpenSaveAs(1)", L"cmdOKCancelHelp(0)",
-                         L"cmdOKCancelHelp(1)", L"cmdOKCancelHelp(2)"}));
+                         L"txtOffset(2)", L"cmdOKCancelHelp(0)", L"cmdOKCancelHelp(1)", L"cmdOKCancelHelp(2)",
+                         L"cmdOpenSaveAs(0)", L"cmdOpenSaveAs(1)"}));
         person.Click(L"Cancel");
     });
 }
@@ -253,8 +253,8 @@ TEST_F(frmTCTypeXSettingsTest, KeepsDisabledPointsOutOfTheTabOrder) {
     settings->SetTCType(TCTYPE_K);
     Edit([](Person& person) {
         EXPECT_EQ(TabOrder(person), (Texts{L"cboTCType", L"txtTemperature(0)", L"txtOffset(0)",
-                                           L"cmdOpenSaveAs(0)", L"cmdOpenSaveAs(1)", L"cmdOKCancelHelp(0)",
-                                           L"cmdOKCancelHelp(1)", L"cmdOKCancelHelp(2)"}));
+                                           L"cmdOKCancelHelp(0)", L"cmdOKCancelHelp(1)",
+                                           L"cmdOKCancelHelp(2)", L"cmdOpenSaveAs(0)", L"cmdOpenSaveAs(1)"}));
         person.Click(L"Cancel");
     });
 }

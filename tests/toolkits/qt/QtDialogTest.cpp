@@ -26,6 +26,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <map>
 #include <stdexcept>
 
 using namespace QuorConversions;
@@ -424,6 +425,91 @@ TEST_F(QtDialogTest, BringsWhatIsPastedAndDroppedToTheModel) {
     });
 }
 
+TEST_F(QtDialogTest, ShowsTheAdviceOfABoxInItAndBelowTheBoxes) {
+    Run([&] {
+        const auto& line = *window->findChild<QLabel*>(QStringLiteral("advice"));
+        EXPECT_EQ(line.text(), QString());
+        const int top = Box(dialog.r0).mapTo(window, QPoint()).y();
+        dialog.r0.SetAdvice(L"Only 1 of 1E would be stored");
+        EXPECT_EQ(line.text(), QStringLiteral("R0: Only 1 of 1E would be stored"));
+        EXPECT_EQ(Box(dialog.r0).accessibleDescription(), QStringLiteral("Only 1 of 1E would be stored"));
+        dialog.name.SetAdvice(L"Not a name");
+        EXPECT_EQ(line.text(), QStringLiteral("Name: Not a name")) << "of the box with the focus";
+        Press(Qt::Key_Tab);
+        EXPECT_EQ(line.text(), QStringLiteral("R0: Only 1 of 1E would be stored"));
+        LetLayOut();
+        EXPECT_EQ(Box(dialog.r0).mapTo(window, QPoint()).y(), top) << "the rows stay where they are";
+        dialog.r0.SetAdvice({});
+        dialog.name.SetAdvice({});
+        EXPECT_EQ(line.text(), QString());
+    });
+}
+
+TEST_F(QtDialogTest, ShowsAdviceThatComesWhileTheUserTypes) {
+    dialog.onEdit = [&](TextBox& box) { box.SetAdvice(L"of " + box.Text()); };
+    Run([&] {
+        Type(QStringLiteral("1"));
+        EXPECT_EQ(Box(dialog.name).accessibleDescription(), QStringLiteral("of 1"));
+    });
+}
+
+TEST_F(QtDialogTest, UndoTakesBackWhatAPasteHasDoneToEveryBox) {
+    dialog.onPaste = [&](TextBox& box, const std::wstring& text) {
+        box.SetSelection(0, box.Text().size());
+        box.ReplaceSelection(text);
+        dialog.r0.SetSelection(0, dialog.r0.Text().size());
+        dialog.r0.ReplaceSelection(L"also");
+    };
+    dialog.name.SetText(L"a");
+    dialog.r0.SetText(L"b");
+    QApplication::clipboard()->setText(QStringLiteral("pasted"));
+    Run([&] {
+        Press(Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(dialog.name.Text(), L"pasted");
+        EXPECT_EQ(dialog.r0.Text(), L"also");
+        ExpectShowsTheModel(*window, dialog);
+        Press(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(dialog.name.Text(), L"a");
+        Press(Qt::Key_Tab);
+        Press(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(dialog.r0.Text(), L"b");
+    });
+}
+
+TEST_F(QtDialogTest, PressesHelpByF1WhereverTheFocusIs) {
+    dialog.SetHelpButton(dialog.more);
+    Run([&] {
+        for (Control* const control :
+             std::initializer_list<Control*>{&dialog.name, &dialog.kind, &dialog.tabs, &dialog.ok}) {
+            GoTo(*control);
+            dialog.events.clear();
+            Press(Qt::Key_F1);
+            EXPECT_TRUE(SawEvent(L"click cmdMore"));
+            EXPECT_EQ(dialog.ActiveControl(), control);
+        }
+    });
+}
+
+TEST_F(QtDialogTest, ShowsWhereTheFocusIsThatTheTabKeyBrings) {
+    dialog.kind.SetListIndex(0);
+    Run([&] {
+        std::map<const Control*, QImage> without;
+        for (const Control* const control :
+             {static_cast<const Control*>(&dialog.kind), static_cast<const Control*>(&dialog.tabs),
+              static_cast<const Control*>(&dialog.ok)})
+            without[control] = Shows(*control).grab().toImage();
+        for (int tabs = 0; tabs < 12; ++tabs) {
+            Press(Qt::Key_Tab);
+            if (const auto found = without.find(dialog.ActiveControl()); found != without.end()) {
+                EXPECT_NE(Shows(*found->first).grab().toImage(), found->second)
+                    << testing::PrintToString(found->first->Name());
+                without.erase(found);
+            }
+        }
+        EXPECT_TRUE(without.empty());
+    });
+}
+
 // The mouse
 
 TEST_F(QtDialogTest, TurnsNoListAndNoTabWithTheWheelThatHasNoFocus) {
@@ -541,6 +627,21 @@ TEST_F(QtDialogTest, TakesTheItemThatIsChosenByMouseAlsoTheSameOneAgain) {
         EXPECT_EQ(dialog.kind.ListIndex(), 2);
         EXPECT_EQ(std::count(dialog.events.begin(), dialog.events.end(), L"click cboKind"), 2);
         EXPECT_EQ(Focused(), L"cboKind");
+    });
+}
+
+TEST_F(QtDialogTest, TurnsToNoTabThatIsTakenOutByKeysNorByTheWheel) {
+    dialog.tabs.RemoveTab(1);
+    dialog.tabs.RemoveTab(2);
+    Run([&] {
+        GoTo(dialog.tabs);
+        Press(Qt::Key_Right);
+        EXPECT_EQ(dialog.tabs.Selected(), 0U);
+        ExpectShowsTheModel(*window, dialog);
+        TurnWheelOver(dialog.tabs);
+        ExpectShowsTheModel(*window, dialog);
+        Press(Qt::Key_End);
+        ExpectShowsTheModel(*window, dialog);
     });
 }
 

@@ -98,6 +98,7 @@ void ExpectShows(const QWidget& widget, const Control& control) {
         const auto& model = dynamic_cast<const TextBox&>(control);
         EXPECT_EQ(box->text(), ToQt(model.Text()));
         EXPECT_EQ(FromQt(box->selectedText()).size(), model.SelLength());
+        EXPECT_EQ(box->accessibleDescription(), ToQt(model.Advice()));
     }
     if (const auto* const list = qobject_cast<const QComboBox*>(&widget)) {
         const auto& model = dynamic_cast<const DropDownList&>(control);
@@ -215,6 +216,8 @@ void QtInputDriver::Tab(bool backwards) {
 }
 
 void QtInputDriver::Escape() { Key(Qt::Key_Escape); }
+
+void QtInputDriver::Help() { Key(Qt::Key_F1); }
 
 void QtInputDriver::Click(PushButton& button) {
     Activate();

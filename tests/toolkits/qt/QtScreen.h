@@ -30,6 +30,7 @@ public:
     void Paste(const std::wstring& text) override;
     void Tab(bool backwards) override;
     void Escape() override;
+    void Help() override;
     void Click(QuorConversions::PushButton& button) override;
     void Choose(QuorConversions::DropDownList& list, std::int32_t index) override;
     void SelectTab(QuorConversions::TabStrip& tabs, std::size_t tab) override;

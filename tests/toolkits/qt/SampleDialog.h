@@ -66,6 +66,7 @@ public:
         platform.RunDialog(*this, input);
     }
     using Dialog::Hide;
+    using Dialog::SetHelpButton;
 
     std::vector<std::wstring> events; ///< "click cmdOK", "got txtName", "close"
     std::function<void(Control&)> onClick = [](Control&) {};
@@ -73,6 +74,10 @@ public:
     std::function<void(Control&)> onLostFocus = [](Control&) {};
     std::function<void(std::int16_t&)> onKeyPress = [](std::int16_t&) {};
     std::function<void()> onActivate = [] {};
+    std::function<void(TextBox&)> onEdit = [](TextBox&) {};
+    std::function<void(TextBox&, const std::wstring&)> onPaste = [](TextBox& box, const std::wstring& text) {
+        box.ReplaceSelection(text);
+    };
     std::function<void()> onClose = [this] { Hide(); };
 
     Frame& probe = Add<Frame>(L"framProbe");
@@ -133,6 +138,8 @@ private:
         }
         onKeyPress(keyAscii);
     }
+    void OnEdit(TextBox& box) override { onEdit(box); }
+    void OnPaste(TextBox& box, const std::wstring& text) override { onPaste(box, text); }
     void OnClose() override {
         events.emplace_back(L"close");
         onClose();

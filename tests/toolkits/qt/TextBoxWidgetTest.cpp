@@ -2,11 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QTest>
 
@@ -101,10 +104,15 @@ protected:
     }
 
     std::vector<std::int16_t> asked;
+    std::vector<std::string> pasted;
     std::function<std::int16_t(std::int16_t)> answer = [](std::int16_t keyAscii) { return keyAscii; };
     TextBoxWidget box{[this](std::int16_t keyAscii) {
                           asked.push_back(keyAscii);
                           return answer(keyAscii);
+                      },
+                      [this](const QString& text) {
+                          pasted.push_back(text.toStdString());
+                          box.ReplaceText(text);
                       },
                       nullptr};
 };
@@ -173,9 +181,10 @@ TEST_F(TextBoxWidgetTest, AsksNobodyForACharacterThatNoKeyCanHaveAndTypesNothing
 TEST_F(TextBoxWidgetTest, CopiesPastesCutsUndoesAndDeletesBackwards) {
     QTest::keyClicks(&box, QStringLiteral("17"));
     QTest::keyClick(&box, Qt::Key_V, control);
-    EXPECT_EQ(Text(), "172.5");
+    EXPECT_EQ(Text(), "2.5");
     QTest::keyClick(&box, Qt::Key_Z, control);
     EXPECT_EQ(Text(), "17");
+    QTest::keyClick(&box, Qt::Key_End);
     QTest::keyClick(&box, Qt::Key_Backspace);
     EXPECT_EQ(Text(), "1");
     box.selectAll();
@@ -257,6 +266,58 @@ TEST_F(TextBoxWidgetTest, TakesATextThatIsDroppedOnIt) {
     QDropEvent drops(middle, Qt::CopyAction, &text, Qt::LeftButton, none);
     QApplication::sendEvent(&box, &drops);
     EXPECT_EQ(Text(), "99.9746");
+}
+
+TEST_F(TextBoxWidgetTest, AsksWhatBecomesOfATextFromKeysMenuAndDrops) {
+    QTest::keyClick(&box, Qt::Key_V, control);
+    QTest::keyClick(&box, Qt::Key_Insert, shift);
+    QContextMenuEvent asksForMenu(QContextMenuEvent::Mouse, {5, 5}, box.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&box, &asksForMenu);
+    auto* const menu = box.findChild<QMenu*>();
+    ASSERT_NE(menu, nullptr);
+    for (QAction* const action : menu->actions())
+        if (action->text().startsWith(QStringLiteral("&Paste")))
+            action->trigger();
+    menu->close();
+    QMimeData text;
+    text.setText(QStringLiteral("99.9746"));
+    QDragEnterEvent enters(box.rect().center(), Qt::MoveAction, &text, Qt::LeftButton, none);
+    QApplication::sendEvent(&box, &enters);
+    QDropEvent drops(box.rect().center(), Qt::CopyAction | Qt::MoveAction, &text, Qt::LeftButton, none);
+    drops.setDropAction(Qt::MoveAction);
+    QApplication::sendEvent(&box, &drops);
+    EXPECT_EQ(drops.dropAction(), Qt::CopyAction) << "a refused text must not vanish where it came from";
+    EXPECT_EQ(pasted, (std::vector<std::string>{"2.5", "2.5", "2.5", "99.9746"}));
+}
+
+TEST_F(TextBoxWidgetTest, TakesTheTextSelectedElsewhereWithTheMiddleButton) {
+    if (!QApplication::clipboard()->supportsSelection())
+        GTEST_SKIP() << "this screen has no selection beside its clipboard";
+    QApplication::clipboard()->setText(QStringLiteral("7.5"), QClipboard::Selection);
+    QTest::mouseClick(&box, Qt::MiddleButton);
+    EXPECT_EQ(pasted, std::vector<std::string>{"7.5"});
+}
+
+TEST_F(TextBoxWidgetTest, UndoTakesBackAPasteAndNothingElse) {
+    QTest::keyClicks(&box, QStringLiteral("17"));
+    QTest::keyClick(&box, Qt::Key_V, control);
+    QTest::keyClicks(&box, QStringLiteral("3"));
+    EXPECT_EQ(Text(), "2.53");
+    QTest::keyClick(&box, Qt::Key_Z, control);
+    EXPECT_EQ(Text(), "2.5");
+    QTest::keyClick(&box, Qt::Key_Z, control);
+    EXPECT_EQ(Text(), "17");
+}
+
+TEST_F(TextBoxWidgetTest, MarksItselfAndTellsWhy) {
+    const QImage before = box.grab().toImage();
+    box.ShowAdvice(QStringLiteral("Not a number: 0 would be stored"));
+    EXPECT_NE(box.grab().toImage(), before);
+    EXPECT_EQ(box.toolTip(), QStringLiteral("Not a number: 0 would be stored"));
+    EXPECT_EQ(box.accessibleDescription(), QStringLiteral("Not a number: 0 would be stored"));
+    box.ShowAdvice({});
+    EXPECT_EQ(box.grab().toImage(), before);
+    EXPECT_EQ(box.toolTip(), QString());
 }
 
 TEST_F(TextBoxWidgetTest, IsWideEnoughForTheLongestNumberInAnyFont) {

@@ -160,6 +160,32 @@ TEST_F(ScriptTest, EndsAtWhatAPersonCannotDo) {
     }
 }
 
+TEST_F(ScriptTest, PastesATextIntoABox) {
+    EXPECT_TRUE(Edit(L"paste -2.35 x 10^-4 into R0\npaste 1\\n2\\t3 into ALPHA\nclick OK"));
+    EXPECT_EQ(platform->Complaints(), Texts{});
+    EXPECT_EQ(cvd->Coefficients(0), -2.35e-4);
+    EXPECT_EQ(cvd->Coefficients(1), 1);
+    EXPECT_EQ(cvd->Coefficients(2), 2);
+    EXPECT_EQ(cvd->Coefficients(3), 3);
+}
+
+TEST_F(ScriptTest, SaysWhereAPasteNamesNoBox) {
+    EXPECT_FALSE(Edit(L"paste 5\nescape"));
+    EXPECT_EQ(platform->Complaints().at(0), L"\"paste\" does not say into which box");
+}
+
+TEST_F(ScriptTest, ExpectsAdvice) {
+    EXPECT_FALSE(Edit(L"paste 100,012 into R0\n"
+                      L"expect advice Nothing pasted: 100,012 can be read in two ways\nescape"));
+    EXPECT_EQ(platform->Complaints(), Texts{});
+}
+
+TEST_F(ScriptTest, EndsAtAnAdviceThatIsNotThere) {
+    EXPECT_FALSE(Edit(L"expect advice Boo\nclick OK"));
+    EXPECT_EQ(platform->Complaints().at(0), L"there is no advice \"Boo\"");
+    EXPECT_EQ(platform->Complaints().at(1), L"in line 1: expect advice Boo");
+}
+
 TEST_F(ScriptTest, DoesNothingOnAClickOnADisabledButtonAndSaysSo) {
     cvd->SetAllowEdit(false);
     EXPECT_FALSE(Edit(L"click OK"));
@@ -190,10 +216,11 @@ TEST_F(ScriptTest, RefusesUnknownCommandsWithTheNumberOfTheLine) {
 }
 
 TEST_F(ScriptTest, RefusesCommandsWithTooMuchOrTooLittle) {
-    for (const wchar_t* const verb : {L"type", L"choose", L"page", L"click", L"key", L"file", L"expect"})
+    for (const wchar_t* const verb :
+         {L"type", L"choose", L"page", L"click", L"key", L"file", L"expect", L"paste"})
         EXPECT_EQ(Refused(std::wstring(verb) + L" "), L"line 1: \"" + std::wstring(verb) + L"\" needs more");
     for (const wchar_t* const verb :
-         {L"enter", L"tab", L"backtab", L"escape", L"close", L"nofile", L"show"}) {
+         {L"enter", L"tab", L"backtab", L"escape", L"help", L"close", L"nofile", L"show"}) {
         EXPECT_EQ(Refused(verb), L"");
         EXPECT_EQ(Refused(std::wstring(verb) + L" x"),
                   L"line 1: \"" + std::wstring(verb) + L"\" stands alone");
