@@ -13,6 +13,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -52,6 +53,24 @@ void ShowOrHide(QWidget& widget, const Control& control) {
     if (widget.isHidden() == control.Visible())
         widget.setVisible(control.Visible());
 }
+
+/// Over the edge of the button, list or tabs that have the focus: what the style draws is hardly seen on a
+/// dark screen.
+class FocusRing final : public QWidget {
+public:
+    explicit FocusRing(QWidget* parent) : QWidget(parent) {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        hide();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 3, 3);
+    }
+};
 
 /// As large as what stands in it, where the screen has room for that.
 class FittingScrollArea final : public QScrollArea {
@@ -110,6 +129,7 @@ void QtDialog::Build() {
     m_advice->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
     m_advice->setMinimumHeight(m_advice->fontMetrics().height());
     first->addWidget(m_advice);
+    m_ring = new FocusRing(m_content);
     NameViews();
     for (const auto& control : m_dialog.Controls())
         if (const auto view = m_views.find(control.get()); view != m_views.end())
@@ -370,6 +390,9 @@ bool QtDialog::eventFilter(QObject* watched, QEvent* event) {
     Control* const control = ControlOf(watched);
     if (!control)
         return QDialog::eventFilter(watched, event);
+    if ((event->type() == QEvent::Move || event->type() == QEvent::Resize) &&
+        control == m_dialog.ActiveControl() && m_ring->isVisible())
+        PutRingOn(static_cast<QWidget*>(watched));
     if (event->type() == QEvent::FocusIn)
         Report([&] { m_input.Focus(*control); });
     if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
@@ -490,8 +513,19 @@ void QtDialog::OnFocusMoved(const Control* focused) {
     QWidget* const widget = focused ? m_views.at(focused).widget : nullptr;
     if (widget && !widget->hasFocus()) // with this reason, every style shows where the focus is
         widget->setFocus(Qt::TabFocusReason);
+    PutRingOn(focused && focused->Kind() != ControlKind::TextBox ? widget : nullptr);
     ScrollToFocus();
     ShowAdvice();
+}
+
+void QtDialog::PutRingOn(QWidget* widget) {
+    m_ring->setVisible(widget);
+    if (!widget)
+        return;
+    m_ring->setParent(widget->parentWidget()); // where it moves along
+    m_ring->setGeometry(widget->geometry());
+    m_ring->show();
+    m_ring->raise();
 }
 
 void QtDialog::OnTitleChanged() { setWindowTitle(ToQt(m_dialog.Title())); }

@@ -71,6 +71,8 @@ private:
     /// The part of the screen that the window may take.
     [[nodiscard]] QRect Room() const;
     void ScrollToFocus();
+    /// Shows the ring around a widget that has the focus; null for none.
+    void PutRingOn(QWidget* widget);
 
     void OnControlChanged(const Control& control) override;
     void OnFocusMoved(const Control* focused) override;
@@ -86,6 +88,7 @@ private:
     const Control* m_reporting = nullptr; // whose widget is ahead of its control for a moment
     bool m_pasting = false;
     QLabel* m_advice = nullptr;
+    QWidget* m_ring = nullptr; // shows which control has the focus
     QPoint m_shownAt;
     std::exception_ptr m_failure;
 };

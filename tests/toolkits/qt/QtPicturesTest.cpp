@@ -101,15 +101,21 @@ void ExpectWellDrawn(const QWidget& window, const Dialog& dialog) {
     EXPECT_GT(controls.size(), 5U);
 }
 
-class QtPicturesTest : public testing::TestWithParam<Support::Look> {};
+class QtPicturesTest : public testing::TestWithParam<Support::Look> {
+protected:
+    static QString Folder() {
+        QString folder = QStringLiteral("pictures/") + qEnvironmentVariable("QT_SCALE_FACTOR", "1") +
+                         QLatin1Char('/') + QLatin1String(GetParam().name);
+        EXPECT_TRUE(QDir().mkpath(folder));
+        return folder;
+    }
+};
 
 } // namespace
 
 TEST_P(QtPicturesTest, EveryDialogShowsAllItsTextsAndNoTwoControlsOverlap) {
     const Dressed dressed(GetParam());
-    const QString folder = QStringLiteral("pictures/") + qEnvironmentVariable("QT_SCALE_FACTOR", "1") +
-                           QLatin1Char('/') + QLatin1String(GetParam().name);
-    ASSERT_TRUE(QDir().mkpath(folder));
+    const QString folder = Folder();
     for (const auto& settingsClass : settingsClasses) {
         SCOPED_TRACE(testing::PrintToString(settingsClass));
         const auto platform = std::make_shared<Scripted::ScriptedPlatform>(Support::TestedScreen());
@@ -142,6 +148,41 @@ TEST_P(QtPicturesTest, EveryDialogShowsAllItsTextsAndNoTwoControlsOverlap) {
         EXPECT_FALSE(settings->Edit());
         EXPECT_TRUE(platform->NothingLeft()) << testing::PrintToString(platform->Complaints());
     }
+}
+
+TEST_P(QtPicturesTest, AdviceAndFocusAreSeenAndTakeNoRoomFromTheRows) {
+    const Dressed dressed(GetParam());
+    const QString folder = Folder();
+    const auto platform = std::make_shared<Scripted::ScriptedPlatform>(Support::TestedScreen());
+    platform->SetDecimalSeparator(FromQt(QLocale().decimalPoint()));
+    const auto settings = Support::NewSettings<CQuorITS90>(CONV_ITS90, platform);
+    settings->LowRange()->SetRange(ITS90_RANGE_4);
+    settings->SetRTPW(25.48317);
+    settings->SetRTPWFormat(L"0.00");
+    platform->InDialog([&](Person& person) {
+        QWidget& window = *QApplication::activeModalWidget();
+        const auto take = [&](const char* name) {
+            LetLayOut();
+            ExpectWellDrawn(window, person.Sees());
+            EXPECT_TRUE(window.grab().save(folder + QLatin1Char('/') + QLatin1String(name) + ".png"));
+        };
+        take("advice-of-a-format");
+        const auto& line = *window.findChild<QLabel*>(QStringLiteral("advice"));
+        EXPECT_FALSE(line.text().isEmpty());
+        EXPECT_LE(line.heightForWidth(line.width()), line.height()) << "its lines are cut";
+        person.GoTo(L"tabRange");
+        take("focus-on-tabs");
+        person.GoTo(L"cboLowRange");
+        take("focus-on-list");
+        person.Paste(L"txtLowCoefficient(0)", L"-1.23E-4 \u00B1 0.02");
+        EXPECT_FALSE(person.Advice(L"txtLowCoefficient(0)").empty());
+        take("advice-on-a-paste");
+        person.GoTo(L"cmdOKCancelHelp(0)");
+        take("focus-on-button");
+        person.Escape();
+    });
+    EXPECT_FALSE(settings->Edit());
+    EXPECT_TRUE(platform->NothingLeft()) << testing::PrintToString(platform->Complaints());
 }
 
 INSTANTIATE_TEST_SUITE_P(Looks, QtPicturesTest, testing::ValuesIn(Support::looks),
