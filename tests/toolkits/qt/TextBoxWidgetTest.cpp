@@ -290,12 +290,21 @@ TEST_F(TextBoxWidgetTest, AsksWhatBecomesOfATextFromKeysMenuAndDrops) {
     EXPECT_EQ(pasted, (std::vector<std::string>{"2.5", "2.5", "2.5", "99.9746"}));
 }
 
-TEST_F(TextBoxWidgetTest, TakesTheTextSelectedElsewhereWithTheMiddleButton) {
+// Needs no window manager, so that it can be tried on an X server alone: DISPLAY=:9 QT_QPA_PLATFORM=xcb.
+TEST(TextBoxWidgetSelection, TakesTheTextSelectedElsewhereWithTheMiddleButton) {
     if (!QApplication::clipboard()->supportsSelection())
         GTEST_SKIP() << "this screen has no selection beside its clipboard";
+    std::vector<std::string> pasted;
+    TextBoxWidget box([](std::int16_t keyAscii) { return keyAscii; },
+                      [&](const QString& text) { pasted.push_back(text.toStdString()); }, nullptr);
+    box.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&box));
     QApplication::clipboard()->setText(QStringLiteral("7.5"), QClipboard::Selection);
     QTest::mouseClick(&box, Qt::MiddleButton);
     EXPECT_EQ(pasted, std::vector<std::string>{"7.5"});
+    EXPECT_EQ(box.text(), QString()) << "what becomes of it is not the box's to say";
+    QTest::keyClick(&box, Qt::Key_Insert, control | shift);
+    EXPECT_EQ(pasted, (std::vector<std::string>{"7.5", "7.5"}));
 }
 
 TEST_F(TextBoxWidgetTest, UndoTakesBackAPasteAndNothingElse) {
