@@ -19,6 +19,7 @@
 // and what a platform of its own needs to draw dialogs, to word messages and to show help.
 #include "QuorConversions/controls/ControlNames.h"
 #include "QuorConversions/controls/Dialog.h"
+#include "QuorConversions/core/NumberFromPaste.h"
 #include "QuorConversions/core/NumberText.h"
 #include "QuorConversions/core/ValueFormatter.h"
 #include "QuorConversions/core/modHelp.h"

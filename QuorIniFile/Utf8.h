@@ -15,6 +15,9 @@ namespace QuorIniFile {
 /// `bytes` as text, or nothing when they are not valid UTF-8.
 [[nodiscard]] QUORINIFILE_EXPORT std::optional<std::wstring> FromUtf8(std::string_view bytes);
 
+/// The text that `bytes` of a file or an argument spell: UTF-8 where they are valid, else Latin-1.
+[[nodiscard]] QUORINIFILE_EXPORT std::wstring DecodeBytes(std::string_view bytes);
+
 /// `text` with escapes for what a terminal would obey or a log would take for a new line: control characters,
 /// line separators, marks of direction, characters that nobody sees, and what is no Unicode character. They
 /// look like those in the values of files: "\n", "\r", "\t", else "\u{1B}". Everything else stays,

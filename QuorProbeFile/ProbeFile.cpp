@@ -113,7 +113,7 @@ void ProbeFile::Survey() {
             m_lostSections.push_back(header.Number());
         else if (isFirst && hasType)
             m_probes.push_back({header.Name(), header.Number(), type, false});
-        else if (isFirst && standAlone && SameName(header.Name(), *standAlone))
+        else if (isFirst && standAlone && EqualFolded(header.Name(), *standAlone))
             m_probes.push_back({header.Name(), header.Number(), {}, true});
     };
     while (lines.Next()) {
@@ -165,7 +165,7 @@ std::optional<ProbeEntry> ProbeFile::Find(std::wstring_view section) {
     const bool isAscii = bytes.size() == section.size();
     const auto isHeader = [&] {
         return lines.Is(IniLines::Kind::Header) &&
-               (isAscii ? lines.HasName(bytes) : SameName(lines.Name(), section));
+               (isAscii ? lines.HasName(bytes) : EqualFolded(lines.Name(), section));
     };
     while (lines.NextHeader() && !isHeader()) {
     }
@@ -223,7 +223,7 @@ std::optional<ProbeEntry> ProbeFile::Locate(std::wstring_view section) {
         return probe;
     }
     const auto standAlone = StandAloneSection(m_path);
-    if (!standAlone || !SameName(*standAlone, section))
+    if (!standAlone || !EqualFolded(*standAlone, section))
         return std::nullopt;
     probe.standAlone = true;
     return probe;
@@ -284,11 +284,11 @@ void ProbeFile::RequireName(std::wstring_view name, std::wstring_view except) {
     if (!IniStore::CanNameSection(name))
         throw Error(PROBE_BAD_NAME, name);
     for (const std::wstring_view owner : PossibleOwners(name)) {
-        if (!SameName(owner, except) && Locate(owner))
+        if (!EqualFolded(owner, except) && Locate(owner))
             throw Error(PROBE_NAME_OF_SETTINGS, name, owner);
     }
     const std::wstring settings = SettingsSection(name);
-    if (HasSection(settings) && !SameName(name, except))
+    if (HasSection(settings) && !EqualFolded(name, except))
         throw Error(PROBE_SETTINGS_ARE_TAKEN, name, settings);
 }
 
@@ -326,7 +326,7 @@ void ProbeFile::WriteOne(const ProbeToWrite& probe) {
     }
     const auto standAlone = StandAloneSection(m_path);
     const bool isStandAlone =
-        present ? present->standAlone : standAlone && SameName(*standAlone, probe.section);
+        present ? present->standAlone : standAlone && EqualFolded(*standAlone, probe.section);
     if (isStandAlone) {
         // Types share sections, not extensions: a PT100 would fit into a "cvd" file, and then be no valid
         // one.
@@ -380,11 +380,11 @@ void ProbeFile::Write(const std::vector<ProbeToWrite>& probes) {
 void ProbeFile::Rename(std::wstring_view section, std::wstring_view name) {
     Edit([&] {
         static_cast<void>(Require(section));
-        if (!SameName(section, name) && HasSection(name))
+        if (!EqualFolded(section, name) && HasSection(name))
             throw Error(PROBE_NAME_IS_TAKEN, name);
         RequireName(name, section);
         MoveSections([&](ProbeMove& move) {
-            if (SameName(move.section, section))
+            if (EqualFolded(move.section, section))
                 move.name = name;
         });
     });
@@ -393,7 +393,7 @@ void ProbeFile::Rename(std::wstring_view section, std::wstring_view name) {
 void ProbeFile::Remove(std::wstring_view section) {
     Edit([&] {
         static_cast<void>(Require(section));
-        MoveSections([&](ProbeMove& move) { move.isRemoved = SameName(move.section, section); });
+        MoveSections([&](ProbeMove& move) { move.isRemoved = EqualFolded(move.section, section); });
     });
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "QuorConversions/core/RecordNames.h"
+#include "QuorIniFile/AsciiCase.h"
 #include "QuorProbeFile/Export.h"
 
 #include <optional>
@@ -10,15 +12,12 @@
 // How the sections and keys of records are called.
 namespace QuorProbeFile {
 
-/// `text` with ASCII capitals made small.
-[[nodiscard]] QUORPROBEFILE_EXPORT std::wstring Folded(std::wstring text);
-/// Whether two names mean one section or key: they are the same in any case of ASCII letters.
-[[nodiscard]] QUORPROBEFILE_EXPORT bool SameName(std::wstring_view a, std::wstring_view b);
+// Two names mean one section or key when they are the same in any case of ASCII letters.
+using QuorIniFile::EqualFolded;
+using QuorIniFile::Folded;
 
-/// What stands between the name of a section and that of a record nested in it.
-inline constexpr std::wstring_view nestedMark = L" - ";
-/// What follows the name of a probe in that of the section of its settings.
-inline constexpr std::wstring_view settingsMark = L" - Settings";
+using QuorConversions::nestedMark;
+using QuorConversions::settingsMark;
 
 /// The section in which a probe of a host keeps its settings: "P - Settings".
 [[nodiscard]] QUORPROBEFILE_EXPORT std::wstring SettingsSection(std::wstring_view probe);

@@ -39,7 +39,7 @@ void RecordImage::SetSection(std::wstring_view section) {
 }
 
 void RecordImage::Write(std::wstring_view key, Value value) {
-    if (key == L"Version")
+    if (key == QuorConversions::versionKey)
         return;
     std::wstring path = m_prefix + std::wstring(key);
     if (const auto [at, isNew] = m_byPath.emplace(Folded(path), m_entries.size()); isNew)

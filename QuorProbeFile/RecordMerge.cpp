@@ -6,6 +6,7 @@
 
 namespace QuorProbeFile {
 
+using QuorConversions::conversionTypeKey, QuorConversions::versionKey;
 using QuorIniFile::INIFile;
 
 namespace {

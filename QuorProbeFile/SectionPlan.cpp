@@ -133,7 +133,7 @@ void ApplyPlan(QuorIniFile::IniStore& store, const SectionPlan& plan) {
     // Probes may change names among each other: a name that another one waits for is given up first.
     std::unordered_set<std::wstring> wanted;
     for (const auto& [from, to] : plan.renamed) {
-        if (!SameName(from, to))
+        if (!EqualFolded(from, to))
             wanted.insert(Folded(to));
     }
     std::vector<std::pair<std::wstring, std::wstring>> renamed = plan.renamed;

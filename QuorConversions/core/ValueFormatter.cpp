@@ -55,8 +55,8 @@ std::size_t ExponentLength(std::wstring_view text) {
     return length == 2 ? 1 : length;
 }
 
-/// Hands the pieces of the first section of `format` to `take`, like places together, and literals without
-/// their quotes. Returns the sections that follow.
+/// InputDriver the pieces of the first section of `format` to `take`, like places together, and literals
+/// without their quotes. Returns the sections that follow.
 template <class Take>
 std::wstring_view ReadSection(std::wstring_view format, Take take) {
     unsigned seen = 0;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "QuorIniFile/Utf8.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -124,9 +126,6 @@ private:
 /// Latin-1. Single values and names are always read as UTF-8 where they are valid, else as Latin-1.
 enum class IniEncoding : std::uint8_t { Utf8, Latin1 };
 [[nodiscard]] IniEncoding EncodingOf(std::string_view text);
-
-/// The text that `bytes` spell: UTF-8 where they are valid, else Latin-1.
-[[nodiscard]] std::wstring DecodeBytes(std::string_view bytes);
 
 /// `name` as look-ups take it (UTF-8), or nothing when no bytes of a file can spell it.
 [[nodiscard]] std::optional<std::string> NameToFind(std::wstring_view name);

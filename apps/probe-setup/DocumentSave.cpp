@@ -186,7 +186,8 @@ void DocumentSave::SpellNewNames(IniStore& store) const {
         for (const std::wstring& section : store.Sections()) {
             const std::wstring spelled =
                 probe.name + section.substr(std::min(section.size(), probe.name.size()));
-            if ((SameName(section, probe.name) || HoldsSettingsOf(section, probe.name)) && section != spelled)
+            if ((EqualFolded(section, probe.name) || HoldsSettingsOf(section, probe.name)) &&
+                section != spelled)
                 store.RenameSection(section, spelled);
         }
     }

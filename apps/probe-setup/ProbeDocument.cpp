@@ -2,7 +2,6 @@
 
 #include "QuorConversions/core/modPaths.h"
 #include "QuorConversions/core/modStrings.h"
-#include "QuorIniFile/IniError.h"
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeTypes.h"
 #include "QuorProbeFile/RecordImage.h"
@@ -199,7 +198,7 @@ bool ProbeDocument::IsChanged(std::size_t probe) const { return m_probes[probe].
 
 std::optional<std::size_t> ProbeDocument::Find(std::wstring_view name) const {
     const auto found = std::find_if(m_probes.begin(), m_probes.end(),
-                                    [&](const ListedProbe& entry) { return SameName(entry.name, name); });
+                                    [&](const ListedProbe& entry) { return EqualFolded(entry.name, name); });
     if (found == m_probes.end())
         return std::nullopt;
     return static_cast<std::size_t>(found - m_probes.begin());
@@ -214,7 +213,7 @@ NameProblem ProbeDocument::CheckName(std::wstring_view name, std::optional<std::
         if (i == except)
             continue;
         const std::wstring& other = m_probes[i].name;
-        if (SameName(name, other))
+        if (EqualFolded(name, other))
             return NameProblem::ProbeExists;
         if (HoldsSettingsOf(name, other))
             return NameProblem::IsSettingsOfProbe;
@@ -222,7 +221,7 @@ NameProblem ProbeDocument::CheckName(std::wstring_view name, std::optional<std::
             return NameProblem::SettingsSectionExists;
     }
     for (const std::wstring& section : m_foreign) {
-        if (SameName(name, section))
+        if (EqualFolded(name, section))
             return NameProblem::SectionExists;
         if (HoldsSettingsOf(section, name))
             return NameProblem::SettingsSectionExists;

@@ -1,9 +1,6 @@
 #include "apps/quorconv/Commands.h"
 
 #include "QuorIniFile/Utf8.h"
-#include "QuorIniFile/detail/IniDisk.h"
-#include "QuorIniFile/detail/IniError.h"
-#include "QuorIniFile/detail/IniFormat.h"
 #include "QuorProbeFile/ProbeFile.h"
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeTypes.h"
@@ -16,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <fstream>
 #include <iostream>
 #include <iterator>
 #include <utility>
@@ -52,7 +50,7 @@ bool IsCompletedBy(const ReadOutcome& outcome, const std::wstring& settings,
                    return true;
                return IsOfKey(problem) &&
                       std::any_of(assignments.begin(), assignments.end(), [&](const Assignment& a) {
-                          return SameName(a.key, PathOf(settings, problem.section, problem.key));
+                          return EqualFolded(a.key, PathOf(settings, problem.section, problem.key));
                       });
            });
 }
@@ -268,10 +266,11 @@ void EditProbe(const std::wstring& path, const std::wstring& section, const std:
     Probe probe = ReadEditableProbe(file, section);
     std::wstring commands = show ? L"show\n" : L"";
     if (scriptPath) {
-        const auto script = QuorIniFile::ReadBytes(*scriptPath);
+        std::ifstream script(ToUtf8(*scriptPath), std::ios::binary);
         if (!script)
-            throw QuorIniFile::FileError(QuorIniFile::ERR_FILE_NOT_FOUND, *scriptPath);
-        commands += QuorIniFile::DecodeBytes(script->bytes);
+            throw Problem{L"File not found: " + *scriptPath};
+        const std::string bytes{std::istreambuf_iterator<char>(script), {}};
+        commands += QuorIniFile::DecodeBytes(bytes);
     } else {
         commands += L"escape";
     }

@@ -2,7 +2,6 @@
 
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
-#include "QuorIniFile/detail/IniFormat.h"
 #include "QuorProbeFile/ProbeFileError.h"
 #include "apps/quorconv/Commands.h"
 

@@ -34,7 +34,7 @@ void ModelInputDriver::Press(std::int16_t keyAscii) {
     m_input.Edit(*box, std::move(text), at, 0);
 }
 
-void ModelHands::Paste(const std::wstring& text) {
+void ModelInputDriver::Paste(const std::wstring& text) {
     if (TextBox* const box = ActiveBox())
         m_input.Paste(*box, text);
 }
