@@ -29,5 +29,10 @@ template <class Character>
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                       [](wchar_t x, wchar_t y) { return Small(x) == Small(y); });
 }
+/// The same for ASCII and a text.
+[[nodiscard]] inline bool EqualFolded(std::string_view a, std::wstring_view b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char x, wchar_t y) { return static_cast<wchar_t>(Small(x)) == Small(y); });
+}
 
 } // namespace QuorIniFile

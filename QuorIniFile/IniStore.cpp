@@ -1,10 +1,10 @@
 #include "QuorIniFile/IniStore.h"
 
 #include "QuorIniFile/detail/IniDisk.h"
-#include "QuorIniFile/detail/IniDocument.h"
 #include "QuorIniFile/detail/IniEncodedText.h"
 #include "QuorIniFile/detail/IniError.h"
 #include "QuorIniFile/detail/IniFormat.h"
+#include "QuorIniFile/detail/IniText.h"
 #include "QuorIniFile/detail/IniValue.h"
 #include "QuorIniFile/detail/Unicode.h"
 
@@ -57,7 +57,7 @@ public:
         if (!m_isAbandoned)
             Save();
         ++m_textNumber;
-        m_document.reset();
+        m_text.reset();
         m_file = std::move(file);
     }
     [[nodiscard]] const std::wstring& FileName() const { return m_file.Text(); }
@@ -66,18 +66,15 @@ public:
     void SetSection(std::wstring_view section) {
         if (section == m_section)
             return;
-        const auto name = NameToFind(section, m_spare);
         m_section = section; // nothing has changed should this fail
-        std::swap(m_sectionBytes, m_spare);
-        m_hasSectionName = name.has_value();
         m_number.reset();
     }
     [[nodiscard]] const std::wstring& Section() const { return m_section; }
 
-    /// The key line of the selected section, or nothing. Raises 53 when there is no file.
-    std::optional<IniLine> Read(std::wstring_view key) {
+    /// The bytes behind a key of the selected section, or nothing. Raises 53 when there is no file.
+    std::optional<std::string_view> Read(std::wstring_view key) {
         LoadExisting();
-        return Find(NameToFind(key, m_keyBytes)).line;
+        return FindValue(key);
     }
 
     /// Puts a number or flag behind `key`, unless `same(plain)` says that it stands there already.
@@ -89,53 +86,52 @@ public:
         m_value.comment.clear();
         if (!comment.empty())
             m_value.comment = FormatComment(comment, EncodingFor(comment));
-        const auto name = NameToFind(key, m_keyBytes);
-        const IniDocument::Key present = Find(name);
-        if (present.line) {
-            const std::string_view plain = SplitComment(present.line->value).plain;
+        const auto present = FindValue(key);
+        if (present) {
+            const std::string_view plain = SplitComment(*present).plain;
             if (same(plain))
                 m_value.bytes = plain;
         }
-        Put(key, name, present);
+        Put(key, present.has_value());
     }
 
     void WriteText(std::wstring_view key, std::wstring_view text) {
         Load();
-        const auto name = NameToFind(key, m_keyBytes);
-        const IniDocument::Key present = Find(name);
+        const auto present = FindValue(key);
         m_value.isText = true;
         m_value.comment.clear();
-        if (present.line && DecodeText(present.line->value) == text)
-            m_value.bytes = SplitTextComment(present.line->value).plain;
+        if (present && DecodeText(*present) == text)
+            m_value.bytes = SplitTextComment(*present).plain;
         else
             m_value.bytes = EncodeText(text, EncodingFor(text));
-        Put(key, name, present);
+        Put(key, present.has_value());
     }
 
     [[nodiscard]] std::vector<std::wstring> Sections() {
         LoadExisting();
         std::vector<std::wstring> names;
-        for (const std::string_view name : m_document->SectionNames())
+        for (const std::string_view name : m_text->SectionNames())
             names.push_back(DecodeBytes(name));
         return names;
     }
 
     [[nodiscard]] std::vector<IniWarning> Warnings() {
         LoadExisting();
-        return WarningsOf(m_document->BaseText());
+        return WarningsOf(m_text->BaseText());
     }
 
     [[nodiscard]] bool HasSection(std::wstring_view name) {
         LoadExisting();
-        return FindSection(name).has_value();
+        return m_text->FindSection(name).has_value();
     }
 
     [[nodiscard]] std::string_view PresentText() {
         LoadExisting();
-        if (!m_document->Changed())
-            return m_document->BaseText();
         if (m_composed != m_textNumber) {
-            m_present = m_document->Text();
+            auto merged = m_text->Changed() ? m_text->Merged() : std::nullopt;
+            if (!merged)
+                return m_text->Whole();
+            m_present = *std::move(merged);
             m_composed = m_textNumber;
         }
         return m_present;
@@ -161,7 +157,7 @@ public:
 
     void SaveAs(std::wstring_view fileName) {
         if (m_isEditing)
-            throw FileError(ERR_PATH_FILE_ACCESS, FileName(), L"An edit of it has not ended");
+            throw FileError(ERR_PATH_FILE_ACCESS, FileName(), INI_CAUSE_EDIT_NOT_ENDED);
         if (m_isAbandoned)
             throw NotWritten();
         const IniFileName target = IniFileName::Absolute(fileName, m_files);
@@ -177,38 +173,36 @@ public:
         UntilSaved([&] { return TryReplace(target, bytes.Bytes(), stamp); });
         if (isOwn) {
             m_hasFailed = false;
-            Adopt({IniDocument(text), m_encoding, stamp});
+            Adopt({IniText(text), m_encoding, stamp});
         }
     }
 
     void RemoveSection(std::wstring_view name) {
         Load();
-        const auto section = FindSection(name);
+        const auto section = m_text->FindSection(name);
         if (!section)
             return;
-        m_document->RemoveSection(*section);
+        m_text->RemoveSection(*section);
         SectionsChanged();
     }
 
     void RenameSection(std::wstring_view from, std::wstring_view to) {
         Load();
-        const auto section = FindSection(from);
+        const auto section = m_text->FindSection(from);
         if (!section)
             throw ErrorAbout(from, INI_CAUSE_NO_SUCH_SECTION);
-        std::string bytes;
-        std::string buffer;
-        const std::string_view spelling = SpellNew(to, NameToFind(to, bytes), buffer, sectionNames);
-        const auto holder = FindSection(to);
+        SpellNew(to, m_spelling, sectionNames);
+        const auto holder = m_text->FindSection(to);
         if (holder && holder != section)
             throw ErrorAbout(to, INI_CAUSE_SECTION_EXISTS);
-        if (!m_document->RenameSection(*section, spelling))
+        if (!m_text->RenameSection(*section, m_spelling))
             throw ErrorAbout(to, sectionNames.refusal);
         SectionsChanged();
     }
 
     void Discard() {
         ++m_textNumber;
-        m_document.reset();
+        m_text.reset();
         m_hasFailed = false;
         m_isAbandoned = false;
         m_number.reset();
@@ -252,10 +246,10 @@ public:
 
     /// Nothing of the object changes unless all has gone well.
     void Save() {
-        if (!m_document || !m_document->Written())
+        if (!m_text || !m_text->Written())
             return;
-        if (!m_document->Changed() && !FileChanged()) {
-            m_document->ForgetWrites();
+        if (!m_text->Changed() && !FileChanged()) {
+            m_text->Settle();
             return;
         }
         m_hasFailed = true;
@@ -270,7 +264,7 @@ public:
     }
 
     bool FileChanged() {
-        if (!m_document)
+        if (!m_text)
             return false;
         const IniStamp now = StampOf(m_file, m_files);
         if (now.exists != m_stamp.exists)
@@ -284,17 +278,17 @@ public:
     }
 
     void Reload() {
-        if (!m_document)
+        if (!m_text)
             return;
-        FileDocument file = LoadFile();
-        ApplyChangesTo(file.document);
+        FileText file = LoadFile();
+        ApplyChangesTo(file.text);
         Adopt(std::move(file));
     }
 
 private:
-    /// A document, and how the file that it was read from spells it.
-    struct FileDocument {
-        IniDocument document;
+    /// A text, and how the file that it was read from spells it.
+    struct FileText {
+        IniText text;
         IniFileEncoding encoding = IniFileEncoding::Bytes;
         IniStamp stamp = {};
     };
@@ -303,11 +297,7 @@ private:
     /// selected before, and forgets what was written unless all of it has been saved.
     class Attempt {
     public:
-        explicit Attempt(Session& session)
-            : m_session(session),
-              m_section(session.m_section),
-              m_sectionBytes(session.m_sectionBytes),
-              m_hasSectionName(session.m_hasSectionName) {
+        explicit Attempt(Session& session) : m_session(session), m_section(session.m_section) {
             m_session.m_isEditing = true;
         }
         Attempt(const Attempt&) = delete;
@@ -318,8 +308,6 @@ private:
             m_session.m_holds = 0;
             m_session.m_isEditing = false;
             m_session.m_section.swap(m_section);
-            m_session.m_sectionBytes.swap(m_sectionBytes);
-            m_session.m_hasSectionName = m_hasSectionName;
             m_session.m_number.reset();
         }
         void Saved() { m_isSaved = true; }
@@ -327,8 +315,6 @@ private:
     private:
         Session& m_session;
         std::wstring m_section;
-        std::string m_sectionBytes;
-        bool m_hasSectionName;
         bool m_isSaved = false;
     };
 
@@ -361,7 +347,7 @@ private:
     /// anything.
     std::optional<QuorError> TryEdit(const std::function<void()>& edit) {
         IniReplacement replacement(m_file, m_files);
-        std::optional<FileDocument> file;
+        std::optional<FileText> file;
         if (!IsLoaded(replacement))
             file = LoadFile();
         Attempt attempt(*this);
@@ -372,8 +358,8 @@ private:
         edit();
         if (m_isAbandoned)
             throw NotWritten();
-        if (m_document && m_document->Written()) {
-            if (auto setback = SaveInto(replacement, *m_document, m_encoding))
+        if (m_text && m_text->Written()) {
+            if (auto setback = SaveInto(replacement, *m_text, m_encoding))
                 return setback;
         }
         attempt.Saved();
@@ -393,13 +379,13 @@ private:
     /// Whether the file that is to be replaced is the one that was loaded, upon which nothing was written: it
     /// need not be loaded and indexed again.
     [[nodiscard]] bool IsLoaded(const IniReplacement& replacement) const {
-        return m_document && !m_document->Written() && m_stamp.exists && replacement.Stamp().exists &&
+        return m_text && !m_text->Written() && m_stamp.exists && replacement.Stamp().exists &&
                replacement.Has(Loaded().Bytes());
     }
 
     void Load() {
         // A file that was not there may have come since, as long as we have nothing to say about it.
-        if (m_document && (m_stamp.exists || m_document->Changed()))
+        if (m_text && (m_stamp.exists || m_text->Changed()))
             return;
         if (FileName().empty())
             throw FileError(ERR_BAD_FILE_NAME, FileName());
@@ -408,36 +394,36 @@ private:
 
     void LoadExisting() {
         Load();
-        if (!m_stamp.exists && !m_document->Changed())
+        if (!m_stamp.exists && !m_text->Changed())
             throw FileError(ERR_FILE_NOT_FOUND, FileName());
     }
 
-    /// The file as it is now; an empty document when there is none.
-    [[nodiscard]] FileDocument LoadFile() const {
+    /// The file as it is now; an empty text when there is none.
+    [[nodiscard]] FileText LoadFile() const {
         std::optional<IniFileBytes> file = ReadBytes(m_file, m_files);
-        return file ? Decode(std::move(file->bytes), file->stamp) : FileDocument();
+        return file ? Decode(std::move(file->bytes), file->stamp) : FileText();
     }
 
-    [[nodiscard]] FileDocument Decode(std::string bytes, const IniStamp& stamp) const {
+    [[nodiscard]] FileText Decode(std::string bytes, const IniStamp& stamp) const {
         IniDecodedText decoded = DecodeFile(std::move(bytes), FileName());
-        return {IniDocument(std::move(decoded.text)), decoded.encoding, stamp};
+        return {IniText(std::move(decoded.text)), decoded.encoding, stamp};
     }
 
     /// The bytes of the file as it was loaded.
-    [[nodiscard]] IniEncodedText Loaded() const { return {m_document->BaseText(), m_encoding}; }
+    [[nodiscard]] IniEncodedText Loaded() const { return {m_text->BaseText(), m_encoding}; }
 
-    void Adopt(FileDocument file) noexcept {
-        static_assert(std::is_nothrow_move_assignable_v<IniDocument>);
+    void Adopt(FileText file) noexcept {
+        static_assert(std::is_nothrow_move_assignable_v<IniText>);
         ++m_textNumber;
-        m_document = std::move(file.document);
+        m_text = std::move(file.text);
         m_number.reset();
         m_encoding = file.encoding;
         m_stamp = file.stamp;
     }
 
     /// Raises what stands in the way of a change there.
-    void ApplyChangesTo(IniDocument& other) const {
-        const std::optional<IniConflict> conflict = m_document->ApplyChangesTo(other);
+    void ApplyChangesTo(IniText& other) {
+        const std::optional<IniConflict> conflict = m_text->ApplyChangesTo(other);
         if (!conflict)
             return;
         throw ErrorAbout(DecodeBytes(conflict->section), conflict->kind == IniConflict::Kind::NameIsTaken
@@ -449,54 +435,60 @@ private:
     std::optional<QuorError> TrySave() {
         IniReplacement replacement(m_file, m_files);
         if (replacement.Has(Loaded().Bytes()))
-            return SaveInto(replacement, *m_document, m_encoding);
+            return SaveInto(replacement, *m_text, m_encoding);
         // What somebody else has made of the file, and our changes to it.
-        FileDocument theirs;
+        FileText theirs;
         try {
             theirs = Decode(replacement.Bytes(), replacement.Stamp());
-            ApplyChangesTo(theirs.document);
+            ApplyChangesTo(theirs.text);
         } catch (const QuorError&) {
             if (StampOf(m_file, m_files) == replacement.Stamp())
                 throw;
             // It was half written.
             return FileError(ERR_PERMISSION_DENIED, FileName(), INI_CAUSE_KEEPS_WRITING);
         }
-        return SaveInto(replacement, theirs.document, theirs.encoding);
+        return SaveInto(replacement, theirs.text, theirs.encoding);
     }
 
-    /// Puts the text of `changed`, which was made from what stands in the file in that encoding, in its
-    /// place. What has come in between, if anything.
-    std::optional<QuorError> SaveInto(IniReplacement& replacement, const IniDocument& changed,
+    /// Puts what `changed`, which was made from what stands in the file in that encoding, says with its
+    /// changes in its place. What has come in between, if anything.
+    std::optional<QuorError> SaveInto(IniReplacement& replacement, IniText& changed,
                                       IniFileEncoding encoding) {
-        // The document of the new text is made before the file, so that nothing can fail after that.
-        IniDocument saved(changed.Changed() ? changed.Text() : std::string(changed.BaseText()));
-        if (!changed.Changed()) {
+        // All that can fail is done before the file is replaced.
+        std::optional<IniText> merged;
+        if (auto text = changed.Merged())
+            merged.emplace(*std::move(text));
+        const std::string_view text = merged ? merged->BaseText() : changed.Whole();
+        std::optional<IniStamp> stamp;
+        if (changed.Changed()) {
+            // A file of one NUL is no UTF-16, and becomes it with what follows: nobody could load that.
+            RequireDecodable(text, encoding, FileName());
+            const IniEncodedText bytes(text, encoding);
+            const IniEncodedText read(changed.BaseText(), encoding);
+            stamp = replacement.Commit(bytes.Bytes(), read.Bytes());
+            if (!stamp)
+                return replacement.Setback();
+        } else {
             // Whoever wrote it, what we say is saved has to outlive a power cut.
             replacement.Flush();
-            Adopt({std::move(saved), encoding, replacement.Stamp()});
-            return std::nullopt;
+            stamp = replacement.Stamp();
         }
-        // A file of one NUL is no UTF-16, and becomes it with what follows: nobody could load that.
-        RequireDecodable(saved.BaseText(), encoding, FileName());
-        const IniEncodedText bytes(saved.BaseText(), encoding);
-        const IniEncodedText read(changed.BaseText(), encoding);
-        const std::optional<IniStamp> stamp = replacement.Commit(bytes.Bytes(), read.Bytes());
-        if (!stamp)
-            return replacement.Setback();
-        Adopt({std::move(saved), encoding, *stamp});
+        if (!merged)
+            changed.Settle();
+        if (merged)
+            Adopt({*std::move(merged), encoding, *stamp});
+        else if (&changed != &*m_text)
+            Adopt({std::move(changed), encoding, *stamp});
+        m_number.reset();
+        m_encoding = encoding;
+        m_stamp = *stamp;
         return std::nullopt;
     }
 
-    /// The number of the selected section. It is looked up once and remembered.
-    std::optional<IniDocument::Section> Number() {
-        if (!m_number && m_hasSectionName)
-            m_number = m_document->FindSection(m_sectionBytes);
-        return m_number;
-    }
-
-    [[nodiscard]] std::optional<IniDocument::Section> FindSection(std::wstring_view name) const {
-        const std::optional<std::string> wanted = NameToFind(name);
-        return wanted ? m_document->FindSection(*wanted) : std::nullopt;
+    std::optional<std::string_view> FindValue(std::wstring_view key) {
+        if (!m_number) // it is looked up once and remembered
+            m_number = m_text->FindSection(m_section);
+        return m_number ? m_text->FindValue(*m_number, key) : std::nullopt;
     }
 
     void SectionsChanged() {
@@ -507,48 +499,38 @@ private:
             Save();
     }
 
-    IniDocument::Key Find(const std::optional<std::string_view>& key) {
-        const auto section = Number();
-        return section && key ? m_document->Look(*section, *key) : IniDocument::Key();
-    }
-
-    /// Puts m_value behind a key.
-    void Put(std::wstring_view key, const std::optional<std::string_view>& name,
-             const IniDocument::Key& present) {
-        std::string_view spelling;
-        if (!present.line) {
-            // Both names are checked before anything is changed.
-            spelling = SpellNew(key, name, m_spare, keyNames);
-            if (!m_number) {
-                std::string buffer;
-                const std::optional<std::string_view> section =
-                    m_hasSectionName ? std::optional<std::string_view>(m_sectionBytes) : std::nullopt;
-                m_number = m_document->AddSection(SpellNew(m_section, section, buffer, sectionNames));
-            }
-        }
+    /// Puts m_value behind a key, which is there or not.
+    void Put(std::wstring_view key, bool isThere) {
+        // Both names are checked before anything is changed.
+        if (!isThere)
+            SpellNew(key, m_spelling, keyNames);
         ++m_textNumber;
-        m_document->Write(*m_number, *name, present, spelling, m_value);
+        if (m_number) {
+            m_text->Write(*m_number, key, m_spelling, m_value);
+        } else {
+            SpellNew(m_section, m_sectionSpelling, sectionNames);
+            m_number = m_text->AddSection(m_sectionSpelling, key, m_spelling, m_value);
+        }
         m_hasFailed = false;
         if (!IsHeld())
             Save();
     }
 
     /// How `text` is to be written. ASCII is the same in every file, whose bytes need no look then.
-    [[nodiscard]] IniEncoding EncodingFor(std::wstring_view text) const {
-        return IsAscii(text) ? IniEncoding::Utf8 : m_document->Encoding();
+    [[nodiscard]] IniEncoding EncodingFor(std::wstring_view text) {
+        return IsAscii(text) ? IniEncoding::Utf8 : m_text->Encoding();
     }
 
-    /// How a new name is to be written. `bytes` are the name as look-ups take it; `buffer` holds the answer
-    /// when that is another.
-    [[nodiscard]] std::string_view SpellNew(std::wstring_view name, std::optional<std::string_view> bytes,
-                                            std::string& buffer, const NameRule& rule) const {
-        if (bytes && !IsAscii(*bytes)) {
-            if (auto spelling = NameToWrite(name, m_document->Encoding()))
-                bytes = buffer = *std::move(spelling);
+    /// Puts the bytes of a new name into `spelling`.
+    void SpellNew(std::wstring_view name, std::string& spelling, const NameRule& rule) {
+        if (!CopyAscii(name, spelling)) { // as nearly all are
+            auto bytes = NameToWrite(name, m_text->Encoding());
+            if (!bytes)
+                throw ErrorAbout(name, rule.refusal);
+            spelling = *std::move(bytes);
         }
-        if (!bytes || !rule.readsBack(*bytes))
+        if (!rule.readsBack(spelling))
             throw ErrorAbout(name, rule.refusal);
-        return *bytes;
     }
 
     /// An error about a section or key of the file, by name.
@@ -559,21 +541,19 @@ private:
     IniFileSystem& m_files;
     IniFileName m_file;
     std::wstring m_section;
-    std::string m_sectionBytes;                   // the section as look-ups take it,
-    bool m_hasSectionName = true;                 // unless no file can hold it
-    std::optional<IniDocument> m_document;        // nothing until the file is loaded
-    IniStamp m_stamp;                             // of the file that the document was read from
-    std::optional<IniDocument::Section> m_number; // of the selected section, once it was found
-    std::uint64_t m_textNumber = 1;               // counts whatever may have changed the text
-    std::string m_present;                        // the text with all changes,
-    std::uint64_t m_composed = 0;                 // as it was under that number
-    bool m_hasFailed = false;                     // a save of all that is written
+    std::optional<IniText> m_text;            // nothing until the file is loaded
+    IniStamp m_stamp;                         // of the file that the text was read from
+    std::optional<IniText::Section> m_number; // of the selected section, once it was found
+    std::uint64_t m_textNumber = 1;           // counts whatever may have changed the text
+    std::string m_present;                    // the text with all changes, where it stands nowhere else,
+    std::uint64_t m_composed = 0;             // as it was under that number
+    bool m_hasFailed = false;                 // a save of all that is written
     std::size_t m_holds = 0;
     bool m_isAbandoned = false; // what is held is part of a record, and must not be saved
     bool m_isEditing = false;   // an edit holds all that is written, until it ends
-    IniFileEncoding m_encoding = IniFileEncoding::Bytes; // of the file that the document was read from
+    IniFileEncoding m_encoding = IniFileEncoding::Bytes; // of the file that the text was read from
     // Made anew with each call; kept, because making them needs memory.
-    std::string m_keyBytes, m_spare;
+    std::string m_spelling, m_sectionSpelling;
     IniNewValue m_value;
 };
 
@@ -595,22 +575,22 @@ std::wstring_view IniStore::Section() const { return m_session->Section(); }
 
 bool IniStore::ReadBoolean(std::wstring_view key, bool& value) {
     const auto line = m_session->Read(key);
-    return line && Assign(value, ParseBoolean(SplitComment(line->value).plain));
+    return line && Assign(value, ParseBoolean(SplitComment(*line).plain));
 }
 
 bool IniStore::ReadDouble(std::wstring_view key, double& value) {
     const auto line = m_session->Read(key);
-    return line && Assign(value, ParseDouble(SplitComment(line->value).plain));
+    return line && Assign(value, ParseDouble(SplitComment(*line).plain));
 }
 
 bool IniStore::ReadInteger(std::wstring_view key, std::int16_t& value) {
     const auto line = m_session->Read(key);
-    return line && Assign(value, ParseInteger(SplitComment(line->value).plain));
+    return line && Assign(value, ParseInteger(SplitComment(*line).plain));
 }
 
 bool IniStore::ReadString(std::wstring_view key, std::wstring& value) {
     const auto line = m_session->Read(key);
-    return line && Assign(value, std::optional(DecodeText(line->value)));
+    return line && Assign(value, std::optional(DecodeText(*line)));
 }
 
 void IniStore::WriteBoolean(std::wstring_view key, bool value) {

@@ -2,9 +2,10 @@
 // index, names in any case, and what a value spells can be spelled again.
 
 #include "QuorIniFile/QuorError.h"
-#include "QuorIniFile/detail/IniDocument.h"
+#include "QuorIniFile/Utf8.h"
 #include "QuorIniFile/detail/IniEncodedText.h"
 #include "QuorIniFile/detail/IniFormat.h"
+#include "QuorIniFile/detail/IniText.h"
 #include "QuorIniFile/detail/IniValue.h"
 #include "QuorIniFile/detail/Unicode.h"
 #include "fuzz/Claim.h"
@@ -96,8 +97,9 @@ void ExpectTheSameBytesAgain(std::string_view bytes) {
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text = Fuzz::Bytes(data, size);
     const PlainIni plain(text);
-    const IniDocument document{std::string(text)};
-    Claim(document.Text() == text && !document.Changed(), "a text that nobody changes stays as it is");
+    IniText indexed{std::string(text)};
+    Claim(indexed.Whole() == text && !indexed.Merged() && !indexed.Changed(),
+          "a text that nobody changes stays as it is");
 
     IniWalker walker(text);
     for (const PlainIni::Line& line : plain.Lines()) {
@@ -115,17 +117,17 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     for (const auto& [place, number] : plain.Keys()) {
         const PlainIni::Line& line = plain.Lines()[number];
         for (const bool capitals : {false, true}) {
-            const auto section = NameToFind(capitals ? Capitals(place.first) : place.first);
-            const auto key = NameToFind(capitals ? Capitals(place.second) : place.second);
-            Claim(section && key, "a name that stands in a file can be asked for");
-            const auto index = document.FindSection(*section);
-            const auto found = index ? document.FindKey(*index, *key) : std::nullopt;
-            Claim(found && found->value == line.parsed.value && found->name == line.parsed.name,
+            const auto section = indexed.FindSection(capitals ? Capitals(place.first) : place.first);
+            const auto value =
+                section ? indexed.FindValue(*section, capitals ? Capitals(place.second) : place.second)
+                        : std::nullopt;
+            Claim(value == line.parsed.value &&
+                      value->data() - indexed.Whole().data() == line.parsed.value.data() - text.data(),
                   "the first key of its name in the first section of its name is found");
         }
     }
-    if (const auto section = document.FindSection("A"))
-        Claim(document.FindKey(*section, "x").has_value() == plain.Value({L"a", L"x"}).has_value(),
+    if (const auto section = indexed.FindSection(L"A"))
+        Claim(indexed.FindValue(*section, L"x").has_value() == plain.Value({L"a", L"x"}).has_value(),
               "a key that is not there is not found");
     if (const auto wide = FromUtf8(text))
         Claim(ToUtf8(*wide) == text, "UTF-8 comes back byte for byte");

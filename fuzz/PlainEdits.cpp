@@ -134,7 +134,8 @@ void PlainEdits::Write(const Edit& edit) {
     if (!Has(edit.section)) {
         std::vector<Section*> old;
         for (Section& section : m_sections) {
-            if (section.called == Folded(edit.section))
+            if (!section.isNew &&
+                section.called == Folded(edit.section)) // a new one that was removed is gone
                 old.push_back(&section);
         }
         if (old.empty()) {

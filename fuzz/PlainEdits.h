@@ -1,6 +1,6 @@
 #pragma once
 
-#include "QuorIniFile/detail/IniDocument.h"
+#include "QuorIniFile/detail/IniText.h"
 #include "fuzz/Edits.h"
 #include "fuzz/PlainIni.h"
 

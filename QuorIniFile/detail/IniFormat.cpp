@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace QuorIniFile {
 namespace {
@@ -193,15 +194,8 @@ std::wstring DecodeBytes(std::string_view bytes) {
 }
 
 std::optional<std::string> NameToFind(std::wstring_view name) {
-    std::string bytes;
-    return NameToFind(name, bytes) ? std::optional(std::move(bytes)) : std::nullopt;
-}
-
-std::optional<std::string_view> NameToFind(std::wstring_view name, std::string& buffer) {
-    if (CopyAscii(name, buffer)) // as nearly all are
-        return buffer;
-    buffer = ToUtf8(name);
-    return FromUtf8(buffer) == name ? std::optional<std::string_view>(buffer) : std::nullopt;
+    std::string bytes = ToUtf8(name);
+    return IsAscii(name) || FromUtf8(bytes) == name ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 std::optional<std::string> NameToWrite(std::wstring_view name, IniEncoding encoding) {
@@ -241,6 +235,24 @@ bool AreOneName(std::string_view name, std::string_view wanted) {
         return false;
     std::string buffer;
     return EqualFolded(CanonicalName(name, buffer), wanted);
+}
+
+bool AreOneName(std::string_view name, std::wstring_view wanted) {
+    // No character has more units than bytes, nor a unit more than four bytes: of a short and a very long
+    // name nobody looks at the long one.
+    constexpr std::size_t mostBytes = 4;
+    if (wanted.size() > name.size() || name.size() / mostBytes > wanted.size())
+        return false;
+    if (wanted.empty())
+        return name.empty();
+    // The first character tells most names apart, whatever the encoding of the rest.
+    const bool isAscii = IsAscii(name.substr(0, 1));
+    if (isAscii != IsAscii(wanted.substr(0, 1)) ||
+        (isAscii && Small(static_cast<wchar_t>(name.front())) != Small(wanted.front())))
+        return false;
+    if (IsAscii(name))
+        return EqualFolded(name, wanted);
+    return EqualFolded(std::wstring_view(DecodeBytes(name)), wanted);
 }
 
 bool IsSectionName(std::string_view name) {

@@ -129,8 +129,6 @@ enum class IniEncoding : std::uint8_t { Utf8, Latin1 };
 
 /// `name` as look-ups take it (UTF-8), or nothing when no bytes of a file can spell it.
 [[nodiscard]] std::optional<std::string> NameToFind(std::wstring_view name);
-/// The same in a string of the caller's, which may be used again for the next name.
-[[nodiscard]] std::optional<std::string_view> NameToFind(std::wstring_view name, std::string& buffer);
 
 /// The bytes that spell `name` in a file of that encoding, or nothing when none reads back as `name`.
 /// A character that Latin-1 lacks makes the name UTF-8, because a name knows no escapes.
@@ -145,6 +143,18 @@ enum class IniEncoding : std::uint8_t { Utf8, Latin1 };
 [[nodiscard]] bool AreOneName(std::string_view name, std::string_view wanted);
 [[nodiscard]] inline bool SameName(std::string_view name, std::string_view wanted) {
     return name == wanted || AreOneName(name, wanted); // as it stands, nearly always
+}
+
+/// The same for a name as a host gives it. One that no bytes of a file can spell is never meant.
+[[nodiscard]] bool AreOneName(std::string_view name, std::wstring_view wanted);
+[[nodiscard]] inline bool SameName(std::string_view name, std::wstring_view wanted) {
+    std::size_t at = 0;
+    if (name.size() == wanted.size()) {
+        while (at < name.size() && static_cast<unsigned char>(name[at]) < 0x80 && wanted[at] == name[at])
+            ++at;
+    }
+    const bool isSpelledSo = at == name.size() && at == wanted.size();
+    return isSpelledSo || AreOneName(name, wanted); // as it stands, nearly always
 }
 
 /// Whether a new header or key line with that name would read back as that very name.

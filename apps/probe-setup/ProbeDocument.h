@@ -1,7 +1,7 @@
 #pragma once
 
 #include "QuorConversions/core/CQuorConversion.h"
-#include "QuorIniFile/IniFileSystem.h"
+#include "QuorIniFile/detail/IniFileSystem.h"
 #include "QuorProbeFile/ProbeFile.h"
 #include "QuorRegistryII/Registry.h"
 #include "apps/probe-setup/DocumentError.h"

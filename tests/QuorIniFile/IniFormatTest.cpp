@@ -187,6 +187,12 @@ TEST(IniFormat, NamesAreTheSameWhateverTheCaseOfTheirAsciiLetters) {
     EXPECT_FALSE(SameName("NumCoefficient", *NameToFind(L"NumCoefficients")));
     EXPECT_FALSE(SameName("{R0", *NameToFind(L"[R0")));
     EXPECT_FALSE(SameName("\xC3\x84", *NameToFind(L"\u00E4"))) << "only ASCII letters have no case";
+
+    EXPECT_TRUE(SameName("numCOEFFICIENTS", L"NumCoefficients"));
+    EXPECT_FALSE(SameName("NumCoefficient", L"NumCoefficients"));
+    EXPECT_FALSE(SameName("{R0", L"[R0"));
+    EXPECT_FALSE(SameName("\xC3\x84", L"\u00E4"));
+    EXPECT_FALSE(SameName("", L"\u00E4"));
 }
 
 TEST(IniFormat, ANameIsFoundInUtf8AndInLatin1) {
@@ -194,6 +200,11 @@ TEST(IniFormat, ANameIsFoundInUtf8AndInLatin1) {
     EXPECT_TRUE(SameName("K\xC3\xB6ln", wanted));
     EXPECT_TRUE(SameName("k\xF6LN", wanted));
     EXPECT_FALSE(SameName("Koln", wanted));
+    for (const std::string name : {"K\xC3\xB6ln", "k\xF6LN"})
+        EXPECT_TRUE(SameName(name, L"K\u00F6ln"));
+    EXPECT_FALSE(SameName("Koln", L"K\u00F6ln"));
+    EXPECT_FALSE(SameName("\xC3\xB6", L"\u00C3\u00B6")) << "what is valid UTF-8 is no Latin-1";
+    EXPECT_TRUE(SameName("\xF0\x9D\x84\x9E", L"\U0001D11E")) << "one character of one unit or two";
     std::string buffer;
     EXPECT_EQ(CanonicalName("K\xF6ln", buffer), "K\xC3\xB6ln");
     EXPECT_EQ(CanonicalName("K\xC3\xB6ln", buffer), "K\xC3\xB6ln");

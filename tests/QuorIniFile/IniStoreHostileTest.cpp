@@ -3,7 +3,7 @@
 #include "QuorIniFile/IniStore.h"
 
 #include "QuorIniFile/QuorError.h"
-#include "QuorIniFile/detail/IniDocument.h"
+#include "QuorIniFile/detail/IniText.h"
 #include "tests/support/InterceptedFiles.h"
 #include "tests/support/TempFolder.h"
 
@@ -310,13 +310,13 @@ TEST_F(IniStoreHostile, ManyHeldRenamesOfSectionsThatAreGoneTakeTimeInProportion
         std::string text;
         for (int i = 0; i < count; ++i)
             text += "[S" + std::to_string(i) + "]\n";
-        IniDocument ours(text);
+        IniText ours(text);
         for (int i = 0; i < count; ++i)
-            EXPECT_TRUE(ours.RenameSection(ours.FindSection("S" + std::to_string(i)).value(),
+            EXPECT_TRUE(ours.RenameSection(ours.FindSection(L"S" + std::to_wstring(i)).value(),
                                            "A new name " + std::to_string(i)));
         double best = std::numeric_limits<double>::infinity();
         for (int round = 0; round < 3; ++round) {
-            IniDocument theirs("[A]\nx=1\n");
+            IniText theirs("[A]\nx=1\n");
             const std::clock_t start = std::clock();
             EXPECT_FALSE(ours.ApplyChangesTo(theirs));
             best = std::min(best, static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);

@@ -1,0 +1,961 @@
+#include "QuorIniFile/detail/IniText.h"
+
+#include "QuorIniFile/detail/IniValue.h"
+#include "QuorIniFile/detail/Unicode.h"
+
+#include <algorithm>
+#include <iterator>
+#include <new>
+#include <utility>
+
+namespace QuorIniFile {
+namespace {
+
+/// A section with more keys has an index of them.
+constexpr std::size_t few = 32;
+
+/// The keys of a section with more bytes are kept, because reading them again is worth avoiding.
+constexpr std::size_t shortSection = 4096;
+
+/// The tag of a name that may be spelled in several ways.
+constexpr std::uint32_t anyTag = 0;
+
+/// A number, seldom the same, that names have in common when they differ in the case of ASCII letters only:
+/// looking at it first saves looking at most names.
+template <class Unit>
+std::uint32_t TagOf(std::basic_string_view<Unit> name) {
+    if (name.empty())
+        return 1;
+    constexpr std::uint32_t small = 0x20; // the bit in which capital and small letters differ
+    const auto first = static_cast<std::uint32_t>(name.front()) | small;
+    const auto last = static_cast<std::uint32_t>(name.back()) | small;
+    return static_cast<std::uint32_t>(name.size() << 16U) ^ (first << 8U) ^ last;
+}
+
+/// Whether two names as they stand in a text are the same one.
+bool AreAlike(std::string_view a, std::string_view b) {
+    std::string buffer;
+    return a == b || SameName(a, CanonicalName(b, buffer));
+}
+
+std::uint64_t HashInText(std::string_view name) {
+    std::string buffer;
+    return HashName(CanonicalName(name, buffer));
+}
+
+// Lines of a text.
+
+bool IsHeader(IniLineKind kind) { return kind == IniLineKind::Section || kind == IniLineKind::BrokenSection; }
+
+/// The next '[' at the start of a line. Headers are rare: looking for their bracket is quicker than looking
+/// at every line.
+std::size_t FindHeader(std::string_view text, std::size_t from) {
+    const std::size_t start = MarkLength(text);
+    for (std::size_t at = std::max(from, start); (at = text.find('[', at)) != npos; ++at) {
+        std::size_t line = at;
+        while (line > start && (text[line - 1] == ' ' || text[line - 1] == '\t'))
+            --line;
+        if (line == start || text[line - 1] == '\n')
+            return at;
+    }
+    return npos;
+}
+
+struct HeaderCut {
+    IniLine header;
+    std::size_t next = 0; // where the line behind it starts
+};
+
+/// The header line that starts at a '['. Nearly all have their line end right behind the ']', or no ']' at
+/// all: one look at each character tells.
+HeaderCut CutHeader(std::string_view text, std::size_t at) {
+    std::size_t end = at + 1;
+    while (end < text.size() && text[end] != ']' && text[end] != '\n')
+        ++end;
+    if (end < text.size() && text[end] == '\n')
+        return {{IniLineKind::BrokenSection, {}, {}}, end + 1};
+    if (end + 1 < text.size() && text[end + 1] == '\n')
+        return {{IniLineKind::Section, text.substr(at + 1, end - at - 1), {}}, end + 2};
+    const IniCut cut = CutLine(text, at);
+    return {ClassifyLine(cut.line), cut.next};
+}
+
+IniLineKind KindAt(std::string_view text, std::size_t line) {
+    return ClassifyLine(CutLine(text, line).line).kind;
+}
+
+/// Where the line that holds a place starts.
+std::size_t LineStart(std::string_view text, std::size_t at) {
+    const std::size_t opening = MarkLength(text);
+    while (at > opening && text[at - 1] != '\n')
+        --at;
+    return at;
+}
+
+/// Where the line above a line starts; the line itself when it is the first.
+std::size_t LineAbove(std::string_view text, std::size_t line) {
+    return line > MarkLength(text) ? LineStart(text, line - 1) : line;
+}
+
+/// Where the lines of that kind end that start at `line`.
+std::size_t EndOfAll(IniLineKind kind, std::string_view text, std::size_t line, std::size_t end) {
+    while (line < end && KindAt(text, line) == kind)
+        line = CutLine(text, line).next;
+    return line;
+}
+
+/// Where the comments start that touch a header from above, unless they open the text.
+std::size_t StartWithComments(std::string_view text, std::size_t header) {
+    const std::size_t line = LineStart(text, header);
+    std::size_t start = line;
+    while (start > MarkLength(text) && KindAt(text, LineAbove(text, start)) == IniLineKind::Comment)
+        start = LineAbove(text, start);
+    return start > MarkLength(text) ? start : line;
+}
+
+/// Where the keys of a body end, with the comments that touch the last one.
+std::size_t EndOfKeys(std::string_view text, std::size_t start, std::size_t end) {
+    std::size_t behind = start; // the last line that is a key, or was meant to be one
+    for (std::size_t at = start; at < end;) {
+        const IniCut cut = CutLine(text, at);
+        const IniLine line = ClassifyLine(cut.line);
+        at = cut.next;
+        if (line.kind != IniLineKind::Blank && line.kind != IniLineKind::Comment)
+            behind = at;
+    }
+    return EndOfAll(IniLineKind::Comment, text, behind, end);
+}
+
+/// Where a new key stands: below the last value, with the lines that continue it. `start` is its key line; in
+/// a section without one the first line.
+std::size_t BehindLastValue(std::string_view text, std::size_t start) {
+    std::size_t behind = start;
+    IniContinuation continuation;
+    for (std::size_t at = start; at < text.size();) {
+        const IniCut cut = CutLine(text, at);
+        const IniLine line = ClassifyLine(cut.line);
+        if (IsHeader(line.kind))
+            break;
+        at = cut.next;
+        if (continuation.IsPartOfValue(cut.line, line.kind))
+            behind = at;
+    }
+    return behind;
+}
+
+// The end of a text that is being put together. `start` is the length of its byte-order mark.
+
+std::string_view LineEndOf(std::string_view text) {
+    const std::size_t end = text.rfind('\n');
+    return end != npos && end > 0 && text[end - 1] == '\r' ? "\r\n" : "\n";
+}
+
+/// Adds a line with the line end of the line before, and tells where it starts. A text whose last line has no
+/// end stays one.
+std::size_t AppendLine(std::string& text, std::size_t start, std::string_view line) {
+    const std::string_view end = LineEndOf(text);
+    if (text.size() > start && text.back() != '\n') {
+        // A last CR belongs to the value before it: LF alone would make both a line end.
+        text.append(text.back() == '\r' ? "\r\n" : end).append(line);
+        return text.size() - line.size();
+    }
+    text.append(line).append(end);
+    return text.size() - line.size() - end.size();
+}
+
+// What was spelled for another text is spelled anew for this one, which may have another encoding.
+
+std::string NameFor(IniText& text, std::string_view name) {
+    if (IsAscii(name))
+        return std::string(name);
+    return NameToWrite(DecodeBytes(name), text.Encoding()).value_or(std::string(name));
+}
+
+std::string TextFor(IniText& text, const IniCommentedValue& value) {
+    // Quotes that only told it from a comment may not be needed there.
+    return IsAscii(value.plain) && value.comment.empty()
+               ? std::string(value.plain)
+               : EncodeText(DecodeText(value.plain), text.Encoding());
+}
+
+std::string CommentFor(IniText& text, std::string_view comment, IniEncoding encoding) {
+    return IsAscii(comment) || encoding == text.Encoding()
+               ? std::string(comment)
+               : FormatComment(DecodeBytes(comment.substr(1)), text.Encoding());
+}
+
+} // namespace
+
+IniText::IniText(std::string text) : m_text(std::move(text)), m_base(m_text.size()) {}
+
+IniEncoding IniText::Encoding() {
+    if (!m_encoding)
+        m_encoding = EncodingOf(BaseText());
+    return *m_encoding;
+}
+
+// Sections -------------------------------------------------------------------------------------------------
+
+/// Gives the next header that matters a number. False when there is none.
+bool IniText::ReadOn() {
+    for (;;) {
+        const std::size_t at = FindHeader(m_text, m_next);
+        if (at == npos) {
+            m_next = m_text.size();
+            return false;
+        }
+        const auto number = static_cast<Section>(m_headers.size());
+        if (at >= none || number == none) // a file that is loaded is not that large
+            throw std::bad_alloc();
+        const auto [line, next] = CutHeader(m_text, at);
+        Header header{static_cast<std::uint32_t>(at + 1), none, none, false};
+        if (line.kind == IniLineKind::Section)
+            header.nameLength = static_cast<std::uint32_t>(line.name.size());
+        const bool counts = !IsOneOfMany(header);
+        if (counts)
+            m_headers.push_back(header);
+        m_next = next;
+        if (counts)
+            return true;
+    }
+}
+
+/// Indexes the names of all sections that have a number.
+void IniText::Index() {
+    for (; m_indexed < m_headers.size(); ++m_indexed) {
+        Header& header = m_headers[m_indexed];
+        if (header.nameLength == none)
+            continue;
+        const auto number = static_cast<Section>(m_indexed);
+        const std::string_view name = NameInText(number);
+        const std::uint64_t hash = HashInText(name);
+        const auto first =
+            m_names.Find(hash, [&](Section other) { return AreAlike(NameInText(other), name); });
+        if (!first)
+            m_names.Add(hash, number);
+        else if (NameInText(*first) != name)
+            m_headers[*first].hasOtherSpellings = true;
+        header.first = first.value_or(number);
+    }
+}
+
+void IniText::ReadAllHeaders() {
+    while (ReadOn())
+        ;
+    Index();
+}
+
+/// Whether nobody can find the section of that header, nor the one before it, whose end it marks: both have
+/// no name, or that of the one before them.
+bool IniText::IsOneOfMany(const Header& header) const {
+    const auto isAlike = [&](const Header& other) {
+        return other.nameLength == header.nameLength &&
+               (header.nameLength == none ||
+                std::string_view(m_text).substr(other.name, other.nameLength) ==
+                    std::string_view(m_text).substr(header.name, header.nameLength));
+    };
+    const std::size_t count = m_headers.size();
+    if (header.nameLength == none)
+        return count > 0 && isAlike(m_headers[count - 1]);
+    return count > 1 && isAlike(m_headers[count - 1]) && isAlike(m_headers[count - 2]);
+}
+
+std::string_view IniText::NameInText(Section section) const {
+    return std::string_view(m_text).substr(m_headers[section].name, m_headers[section].nameLength);
+}
+
+/// The name as it stands now.
+std::string_view IniText::Name(Section section) const {
+    const Edit* const edit = EditOf(section);
+    return edit ? std::string_view(edit->name) : NameInText(section);
+}
+
+const IniText::Edit* IniText::EditOf(Section section) const {
+    if (m_edits.empty()) // as almost always
+        return nullptr;
+    const auto edit = m_edits.find(section);
+    return edit == m_edits.end() ? nullptr : &edit->second;
+}
+
+/// Whether the text has no keys that count for the section.
+bool IniText::IsRemoved(Section section) const {
+    const Edit* const edit = EditOf(section);
+    return edit && edit->isRemoved;
+}
+
+/// Whether the text with all changes has the section.
+bool IniText::IsThere(Section section) const {
+    if (!IsRemoved(section))
+        return true;
+    const auto kept = m_kept.find(section);
+    return kept != m_kept.end() && !kept->second.list.empty();
+}
+
+bool IniText::IsFound(Section section, std::wstring_view name) const {
+    return m_headers[section].first == section && SameName(Name(section), name) && IsThere(section);
+}
+
+std::optional<IniText::Section> IniText::FindSection(std::wstring_view name) {
+    Index();
+    // Hosts walk through their files: the next section is the likeliest one.
+    const Section next = m_asked + 1;
+    if (next == m_headers.size() && ReadOn())
+        Index();
+    if (next < m_headers.size() && IsFound(next, name))
+        return m_asked = next;
+    const auto known =
+        m_names.Find(HashName(name), [&](Section section) { return SameName(Name(section), name); });
+    if (known && !IsThere(*known))
+        return std::nullopt;
+    if (known)
+        return m_asked = *known;
+    for (auto section = static_cast<Section>(m_headers.size()); ReadOn(); ++section) {
+        if (m_headers[section].nameLength != none && SameName(NameInText(section), name))
+            return m_asked = section;
+    }
+    return std::nullopt;
+}
+
+/// The section that was given that name last and has it still, whether it is there or was removed.
+std::optional<IniText::Section> IniText::FindNamed(std::string_view canonicalName) const {
+    return m_names.Find(HashName(canonicalName),
+                        [&](Section section) { return SameName(Name(section), canonicalName); });
+}
+
+/// Takes a name back from a section; a removed one that had it before has it again.
+void IniText::GiveUpName(std::string_view canonicalName, Section section) noexcept {
+    const std::uint64_t hash = HashName(canonicalName);
+    m_names.Remove(hash, section);
+    const auto hidden = m_hidden.find(section);
+    if (hidden == m_hidden.end() || hidden->second == none)
+        return;
+    m_names.Add(hash, hidden->second); // into the place that was left
+    hidden->second = none;
+}
+
+/// Makes the text as long as it was, without what was added since.
+void IniText::TakeBack(std::size_t length) noexcept {
+    m_text.resize(length);
+    for (; !m_headers.empty() && m_headers.back().name > length; m_headers.pop_back()) {
+        const auto section = static_cast<Section>(m_headers.size() - 1);
+        m_kept.erase(section);
+        m_edits.erase(section);
+        m_hidden.erase(section);
+    }
+    while (!m_starts.empty() && m_starts.back() >= length)
+        m_starts.pop_back();
+    while (!m_texts.empty() && m_texts.back() >= length)
+        m_texts.pop_back();
+    if (m_starts.empty())
+        m_firstAdded = none;
+    m_indexed = std::min(m_indexed, m_headers.size());
+    m_next = length;
+    m_asked = none;
+    m_keysOf = none;
+}
+
+IniText::Section IniText::AddSection(std::string_view name, std::wstring_view key, std::string_view spelling,
+                                     const IniNewValue& value) {
+    ReadAllHeaders();
+    std::string buffer;
+    const std::string_view canonical = CanonicalName(name, buffer);
+    const auto removed = m_edits.empty() ? std::nullopt : FindNamed(canonical);
+    if (removed) {
+        Write(*removed, key, spelling, value);
+        return *removed;
+    }
+    const std::size_t start = m_text.size();
+    const auto section = static_cast<Section>(m_headers.size());
+    if (start + name.size() >= none || section == none)
+        throw std::bad_alloc();
+    m_names.Reserve(1);
+    try {
+        // The blank line is added even where the text ends in one, so that the removal of the section knows
+        // how many lines were added.
+        const std::size_t mark = MarkLength(m_text);
+        const std::string_view blank = start > mark ? LineEndOf(m_text) : std::string_view();
+        m_line.assign(blank).append(1, '[').append(name).append(1, ']');
+        const std::size_t bracket = AppendLine(m_text, mark, m_line) + blank.size();
+        m_headers.push_back({static_cast<std::uint32_t>(bracket + 1), static_cast<std::uint32_t>(name.size()),
+                             section, false});
+        m_starts.push_back(start);
+        if (m_firstAdded == none)
+            m_firstAdded = section;
+        m_next = m_text.size();
+        ReadKeys(section);
+        AppendKey(m_keys, spelling, value);
+    } catch (...) {
+        TakeBack(start);
+        throw;
+    }
+    m_names.Add(HashName(canonical), section);
+    m_indexed = m_headers.size();
+    m_isWritten = true;
+    return section;
+}
+
+std::vector<std::string_view> IniText::SectionNames() {
+    ReadAllHeaders();
+    std::vector<std::string_view> names;
+    for (Section section = 0; section < m_headers.size(); ++section) {
+        if (m_headers[section].first == section && IsThere(section))
+            names.push_back(Name(section));
+    }
+    return names;
+}
+
+void IniText::RemoveSection(Section section) {
+    ReadAllHeaders();
+    std::string buffer;
+    const std::string_view name = CanonicalName(Name(section), buffer);
+    if (!IsAdded(section))
+        m_moves.push_back({std::string(name), std::nullopt});
+    try {
+        m_edits.try_emplace(section, Edit{false, std::string(Name(section))}).first->second.isRemoved = true;
+    } catch (...) {
+        if (!IsAdded(section))
+            m_moves.pop_back();
+        throw;
+    }
+    m_isWritten = true;
+    const auto kept = m_kept.find(section);
+    if (kept != m_kept.end()) {
+        const Keys& keys = kept->second;
+        m_differing -= static_cast<std::size_t>(std::count_if(
+            keys.list.begin(), keys.list.end(), [&](const Key& key) { return Differs(section, keys, key); }));
+        m_kept.erase(kept);
+    }
+    m_keysOf = none;
+    if (!IsAdded(section))
+        return;
+    GiveUpName(name, section);
+    while (!m_starts.empty() && IsRemoved(static_cast<Section>(m_headers.size() - 1)))
+        TakeBack(m_starts.back());
+}
+
+bool IniText::RenameSection(Section section, std::string_view name) {
+    // What stands behind the name in a header does not matter: a name reads back in each header or in none.
+    if (!IsSectionName(name))
+        return false;
+    ReadAllHeaders();
+    std::string spelling(name);
+    std::string fromBuffer;
+    std::string toBuffer;
+    const std::string from(CanonicalName(Name(section), fromBuffer));
+    const std::string_view to = CanonicalName(name, toBuffer);
+    const auto removed = FindNamed(to);
+    m_names.Reserve(1);
+    m_hidden.try_emplace(section, none);
+    if (!IsAdded(section))
+        m_moves.push_back({from, spelling});
+    try {
+        m_edits.try_emplace(section, Edit{false, std::string(Name(section))});
+    } catch (...) {
+        if (!IsAdded(section))
+            m_moves.pop_back();
+        throw;
+    }
+    // Nothing can fail from here on.
+    m_isWritten = true;
+    Edit& edit = m_edits.find(section)->second;
+    edit.name = std::move(spelling);
+    if (!SameName(from, to)) {
+        GiveUpName(from, section);
+        if (removed) {
+            m_names.Remove(HashName(to), *removed);
+            m_hidden.find(section)->second = *removed;
+        }
+        m_names.Add(HashName(to), section);
+    }
+    if (!edit.isRemoved && edit.name == NameInText(section) && !m_headers[section].hasOtherSpellings)
+        m_edits.erase(section);
+    return true;
+}
+
+// Keys -----------------------------------------------------------------------------------------------------
+
+/// The text in which a section ends: what was added is no part of those that were read.
+std::string_view IniText::TextUpTo(Section section) const { return IsAdded(section) ? m_text : BaseText(); }
+
+/// Where the line behind the header starts.
+std::size_t IniText::Begin(Section section) const {
+    return CutLine(TextUpTo(section), m_headers[section].name).next;
+}
+
+IniText::Keys& IniText::KeysOf(Section section) {
+    if (m_keysOf == section)
+        return m_keys;
+    if (!m_kept.empty()) {
+        const auto kept = m_kept.find(section);
+        if (kept != m_kept.end())
+            return kept->second;
+    }
+    ReadKeys(section);
+    return m_keys.length > shortSection || m_keys.isIndexed ? KeepKeysOf(section) : m_keys;
+}
+
+IniText::Keys& IniText::KeepKeysOf(Section section) {
+    Keys& keys = KeysOf(section);
+    if (m_keysOf != section)
+        return keys;
+    Keys& kept = m_kept[section];
+    kept = std::exchange(m_keys, {});
+    m_keysOf = none;
+    return kept;
+}
+
+/// Finds the keys of a section in the text.
+void IniText::ReadKeys(Section section) {
+    m_keysOf = none;
+    m_keys.list.clear();
+    m_keys.lines.clear();
+    m_keys.written = 0;
+    if (std::exchange(m_keys.isIndexed, false))
+        m_keys.names = {};
+    const std::string_view text = TextUpTo(section);
+    const std::size_t begin = Begin(section);
+    const std::size_t end = IsRemoved(section) ? begin : text.size();
+    std::size_t at = begin;
+    m_keys.last = begin;
+    while (at < end) {
+        if (text[at] == '\n') { // as there may be millions
+            ++at;
+            continue;
+        }
+        const IniCut cut = CutLine(text, at);
+        const IniLine line = ClassifyLine(cut.line);
+        if (IsHeader(line.kind))
+            break;
+        if (line.kind == IniLineKind::Key) {
+            Key key = KeyIn(cut.line, line);
+            key.start = static_cast<std::uint32_t>(at);
+            m_keys.last = at;
+            if (IsAdded(section)) {
+                key.written = ++m_keys.written;
+                key.isText = std::binary_search(m_texts.begin(), m_texts.end(), at);
+                key.hasComment = !key.isText;
+            }
+            AddKey(m_keys, key, false);
+        }
+        at = cut.next;
+    }
+    m_keys.length = at - begin;
+    m_next = std::max(m_next, at); // no header stands before it
+    m_keysOf = section;
+}
+
+/// Where names and values stand in a key line.
+IniText::Key IniText::KeyIn(std::string_view line, const IniLine& parsed) {
+    if (line.size() >= none)
+        throw std::bad_alloc();
+    const auto offset = [line](std::string_view part) {
+        return static_cast<std::uint32_t>(part.data() - line.data());
+    };
+    Key key;
+    key.name = offset(parsed.name);
+    key.nameLength = static_cast<std::uint32_t>(parsed.name.size());
+    key.value = offset(parsed.value);
+    key.valueLength = static_cast<std::uint32_t>(parsed.value.size());
+    key.tag = IsAscii(parsed.name) ? TagOf(parsed.name) : anyTag;
+    return key;
+}
+
+/// The index of the names of many keys: the first of each name.
+void IniText::IndexKeys(Keys& keys) const {
+    keys.names.Clear();
+    for (std::uint32_t number = 0; number < keys.list.size(); ++number) {
+        const std::string_view name = NameOf(keys, keys.list[number]);
+        if (!FindIndexed(keys, name, HashInText(name)))
+            keys.names.Add(HashInText(name), number);
+    }
+    keys.isIndexed = true;
+}
+
+std::optional<std::uint32_t> IniText::FindIndexed(const Keys& keys, std::string_view name,
+                                                  std::uint64_t hash) const {
+    return keys.names.Find(
+        hash, [&](std::uint32_t other) { return AreAlike(NameOf(keys, keys.list[other]), name); });
+}
+
+/// Adds a key whose line can be read already. Of many keys the ones that are not the first of their name are
+/// left out; few are all kept.
+void IniText::AddKey(Keys& keys, const Key& key, bool isFirst) const {
+    if (keys.list.size() < few) {
+        keys.list.push_back(key);
+        return;
+    }
+    const std::string_view name = NameOf(keys, key);
+    if (!isFirst && name == NameOf(keys, keys.list.back())) // as in a file of one name
+        return;
+    if (!keys.isIndexed)
+        IndexKeys(keys);
+    const std::uint64_t hash = HashInText(name);
+    if (!isFirst && FindIndexed(keys, name, hash))
+        return;
+    if (keys.list.size() == none)
+        throw std::bad_alloc();
+    keys.names.Reserve(1);
+    keys.list.push_back(key);
+    keys.names.Add(hash, static_cast<std::uint32_t>(keys.list.size() - 1));
+}
+
+/// The start of the bytes of a line as it is now.
+const char* IniText::BytesOf(const Keys& keys, const Key& key) const {
+    return key.own == none ? m_text.data() + key.start : keys.lines[key.own].data();
+}
+
+std::string_view IniText::NameOf(const Keys& keys, const Key& key) const {
+    return {BytesOf(keys, key) + key.name, key.nameLength};
+}
+
+std::string_view IniText::ValueOf(const Keys& keys, const Key& key) const {
+    return {BytesOf(keys, key) + key.value, key.valueLength};
+}
+
+/// The first key of that name; null for none.
+IniText::Key* IniText::FindKey(Keys& keys, std::wstring_view name) const {
+    if (keys.isIndexed) {
+        const auto number = keys.names.Find(
+            HashName(name), [&](std::uint32_t key) { return SameName(NameOf(keys, keys.list[key]), name); });
+        return number ? &keys.list[*number] : nullptr;
+    }
+    const std::uint32_t tag = TagOf(name);
+    for (Key& key : keys.list) {
+        if ((key.tag == tag || key.tag == anyTag) && SameName(NameOf(keys, key), name))
+            return &key;
+    }
+    return nullptr;
+}
+
+std::optional<std::string_view> IniText::FindValue(Section section, std::wstring_view key) {
+    Keys& keys = KeysOf(section);
+    const Key* const found = FindKey(keys, key);
+    return found ? std::optional(ValueOf(keys, *found)) : std::nullopt;
+}
+
+/// A key line as it stands in the text.
+std::string_view IniText::LineInText(Section section, const Key& key) const {
+    return CutLine(TextUpTo(section), key.start).line;
+}
+
+/// Whether a line is to be another one than in the text.
+bool IniText::Differs(Section section, const Keys& keys, const Key& key) const {
+    return key.own != none && (key.start == none || keys.lines[key.own] != LineInText(section, key));
+}
+
+void IniText::Write(Section section, std::wstring_view key, std::string_view spelling,
+                    const IniNewValue& value) {
+    Keys& keys = KeysOf(section);
+    Key* const present = FindKey(keys, key);
+    if (present)
+        Rewrite(section, KeepKeysOf(section), *present, value); // which stays where it is
+    else if (IsAdded(section) && section + std::size_t{1} == m_headers.size() && keys.lines.empty())
+        AppendKey(keys, spelling, value);
+    else
+        InsertKey(KeepKeysOf(section), spelling, value);
+    m_isWritten = true;
+}
+
+void IniText::Rewrite(Section section, Keys& keys, Key& key, const IniNewValue& value) {
+    const bool differed = Differs(section, keys, key);
+    const std::string_view old = key.own == none ? LineInText(section, key) : keys.lines[key.own];
+    std::string line = RewriteLine(old, value);
+    Key rewritten = KeyIn(line, ClassifyLine(line));
+    rewritten.start = key.start;
+    rewritten.own = key.own;
+    rewritten.written = key.written != 0 ? key.written : keys.written + 1;
+    rewritten.isText = value.isText;
+    rewritten.hasComment = !value.isText && (key.hasComment || !value.comment.empty());
+    if (key.own != none) {
+        keys.lines[key.own] = std::move(line);
+    } else if (line != old) {
+        rewritten.own = static_cast<std::uint32_t>(keys.lines.size());
+        keys.lines.push_back(std::move(line));
+    }
+    key = rewritten;
+    keys.written = std::max(keys.written, key.written);
+    m_differing -= differed ? 1 : 0;
+    m_differing += Differs(section, keys, key) ? 1 : 0;
+}
+
+/// Adds a key behind the last one of its section, for the next save.
+void IniText::InsertKey(Keys& keys, std::string_view spelling, const IniNewValue& value) {
+    Key key = ComposeLine(keys, spelling, value);
+    key.start = none;
+    key.own = static_cast<std::uint32_t>(keys.lines.size());
+    keys.lines.push_back(m_line);
+    try {
+        AddKey(keys, key, true);
+    } catch (...) {
+        keys.lines.pop_back();
+        throw;
+    }
+    ++keys.written;
+    ++m_differing;
+}
+
+/// Makes the line of a new key.
+IniText::Key IniText::ComposeLine(const Keys& keys, std::string_view spelling, const IniNewValue& value) {
+    m_line.assign(spelling).append(1, '=').append(value.bytes);
+    if (!value.comment.empty())
+        m_line.append(1, ' ').append(value.comment);
+    Key key = KeyIn(m_line, {IniLineKind::Key, std::string_view(m_line).substr(0, spelling.size()),
+                             std::string_view(m_line).substr(spelling.size() + 1)});
+    key.written = keys.written + 1;
+    key.isText = value.isText;
+    key.hasComment = !value.isText;
+    return key;
+}
+
+/// Adds a key at the end of the text, which is that of its section.
+void IniText::AppendKey(Keys& keys, std::string_view spelling, const IniNewValue& value) {
+    const std::size_t length = m_text.size();
+    try {
+        Key key = ComposeLine(keys, spelling, value);
+        const std::size_t start = AppendLine(m_text, MarkLength(m_text), m_line);
+        if (start >= none)
+            throw std::bad_alloc();
+        key.start = static_cast<std::uint32_t>(start);
+        if (value.isText)
+            m_texts.push_back(key.start);
+        AddKey(keys, key, true);
+        ++keys.written;
+        m_next = m_text.size();
+    } catch (...) {
+        TakeBack(length);
+        throw;
+    }
+}
+
+// Saving and merging ---------------------------------------------------------------------------------------
+
+/// The headers of the text as it was read.
+std::vector<IniText::Place> IniText::Places() const {
+    std::vector<Place> places;
+    std::size_t known = 0;
+    for (std::size_t at = 0; (at = FindHeader(BaseText(), at)) != npos; at = places.back().next) {
+        while (known + 1 < m_headers.size() && m_headers[known + 1].name <= at + 1)
+            ++known;
+        places.push_back({at, CutHeader(BaseText(), at).next, m_headers[known].first});
+    }
+    return places;
+}
+
+/// What all changes but additions at the end make of the text, in its order; what is added stands before
+/// what is removed in the same place.
+std::vector<IniText::Patch> IniText::Patches() const {
+    std::vector<Patch> patches;
+    for (const auto& [section, keys] : m_kept) {
+        std::size_t place = npos;
+        for (const Key& key : keys.list) {
+            if (key.own == none)
+                continue;
+            if (key.start != none) {
+                patches.push_back(
+                    {key.start, key.start + LineInText(section, key).size(), keys.lines[key.own], false});
+                continue;
+            }
+            if (place == npos)
+                place = IsRemoved(section) ? keys.last : BehindLastValue(TextUpTo(section), keys.last);
+            patches.push_back({place, place, keys.lines[key.own], true});
+        }
+    }
+    if (!m_edits.empty())
+        AddEdits(patches);
+    const auto isBefore = [](const Patch& a, const Patch& b) {
+        return a.start != b.start ? a.start < b.start : a.isLine && !b.isLine;
+    };
+    if (!std::is_sorted(patches.begin(), patches.end(), isBefore))
+        std::stable_sort(patches.begin(), patches.end(), isBefore);
+    // The blank line above a section that goes may be that of a value: it stays above a new key.
+    for (std::size_t number = 0; number + 1 < patches.size(); ++number) {
+        if (patches[number + 1].isLine && patches[number + 1].start < patches[number].end) {
+            patches[number].start = patches[number + 1].start;
+            std::swap(patches[number], patches[number + 1]);
+        }
+    }
+    return patches;
+}
+
+/// What removals and new names make of the text.
+void IniText::AddEdits(std::vector<Patch>& patches) const {
+    const auto rename = [&](std::size_t name, std::size_t length, const Edit& edit) {
+        if (std::string_view(m_text).substr(name, length) != edit.name)
+            patches.push_back({name, name + length, edit.name, false});
+    };
+    for (const auto& [section, edit] : m_edits) {
+        if (!IsAdded(section))
+            continue;
+        const Header& header = m_headers[section];
+        if (edit.isRemoved) // another one follows
+            patches.push_back({header.name - 1U, m_headers[section + 1].name - 1U, {}, false});
+        else
+            rename(header.name, header.nameLength, edit);
+    }
+
+    const std::string_view text = BaseText();
+    const std::vector<Place> places = Places();
+    Patch removed; // where extents touch, they are one
+    const auto endRemoved = [&] {
+        if (removed.start < removed.end)
+            patches.push_back(removed);
+    };
+    for (std::size_t number = 0; number < places.size(); ++number) {
+        const Place& place = places[number];
+        const Edit* const edit = place.section == none ? nullptr : EditOf(place.section);
+        if (!edit)
+            continue;
+        const bool isKept =
+            !edit->isRemoved || (place.start + 1 == m_headers[place.section].name && IsThere(place.section));
+        if (isKept)
+            rename(place.start + 1, CutHeader(text, place.start).header.name.size(), *edit);
+        if (!edit->isRemoved)
+            continue;
+        const std::size_t end =
+            number + 1 < places.size() ? StartWithComments(text, places[number + 1].start) : text.size();
+        Patch gone;
+        gone.start = isKept ? place.next : StartWithComments(text, place.start);
+        gone.end = EndOfKeys(text, place.next, end);
+        if (!isKept)
+            gone.end = EndOfAll(IniLineKind::Blank, text, gone.end, end);
+        if (gone.start <= removed.end && removed.start < removed.end) {
+            removed.end = std::max(removed.end, gone.end);
+            continue;
+        }
+        endRemoved();
+        removed = gone;
+    }
+    // At the end of the text one blank line goes along, which stands there since the last section was added.
+    if (removed.start < removed.end && removed.end == text.size()) {
+        const std::size_t above = LineAbove(text, removed.start);
+        if (KindAt(text, above) == IniLineKind::Blank)
+            removed.start = above;
+    }
+    endRemoved();
+}
+
+std::optional<std::string> IniText::Merged() const {
+    if (m_differing == 0 && m_edits.empty())
+        return std::nullopt;
+    const std::vector<Patch> patches = Patches();
+    std::size_t size = m_text.size();
+    for (const Patch& patch : patches)
+        size += patch.bytes.size() + 2; // with a line end
+    std::string text;
+    text.reserve(size);
+    const std::size_t mark = MarkLength(m_text);
+    auto patch = patches.begin();
+    const auto copy = [&](std::size_t from, std::size_t to) {
+        for (; patch != patches.end() && patch->end <= to; ++patch) {
+            text.append(m_text, from, patch->start - from);
+            if (patch->isLine)
+                AppendLine(text, mark, patch->bytes);
+            else
+                text.append(patch->bytes);
+            from = patch->end;
+        }
+        text.append(m_text, from, to - from);
+    };
+    copy(0, m_base);
+    // A text whose last line has no end stays one, also when that line was removed.
+    if (!m_edits.empty() && m_base > mark && m_text[m_base - 1] != '\n' && text.ends_with('\n'))
+        text.erase(text.size() - LineEndOf(text).size());
+    if (m_starts.empty())
+        return text;
+    // The first section of a text has no blank line above.
+    const bool isFirst = text.size() <= mark;
+    copy(isFirst ? m_headers[m_firstAdded].name - 1U : m_base, m_text.size());
+    return text;
+}
+
+void IniText::Settle() noexcept {
+    m_base = m_text.size();
+    m_firstAdded = none;
+    m_starts.clear();
+    m_texts.clear();
+    m_keysOf = none;
+    m_kept.clear();
+    m_hidden.clear();
+    m_moves.clear();
+    m_isWritten = false;
+}
+
+/// Whether each key that a section has in the text was written, so that its changes are all of it.
+bool IniText::IsWrittenWhole(Keys& keys) const {
+    return std::all_of(keys.list.begin(), keys.list.end(), [&](const Key& key) {
+        return key.written != 0 || FindKey(keys, DecodeBytes(NameOf(keys, key)))->written != 0;
+    });
+}
+
+std::optional<IniConflict> IniText::ApplyChangesTo(IniText& other) {
+    const bool isEmpty = other.BaseText().find_first_not_of(" \t\r\n", MarkLength(other.BaseText())) == npos;
+    if (auto conflict = ApplyMovesTo(other))
+        return conflict;
+    std::vector<Section> sections;
+    for (const auto& [section, keys] : m_kept) {
+        if (!IsAdded(section))
+            sections.push_back(section);
+    }
+    std::sort(sections.begin(), sections.end());
+    for (Section section = m_firstAdded; section < m_headers.size(); ++section) {
+        if (IsThere(section))
+            sections.push_back(section);
+    }
+    for (const Section section : sections) {
+        Keys& keys = KeysOf(section);
+        std::vector<Key> written;
+        std::copy_if(keys.list.begin(), keys.list.end(), std::back_inserter(written),
+                     [](const Key& key) { return key.written != 0; });
+        std::sort(written.begin(), written.end(),
+                  [](const Key& a, const Key& b) { return a.written < b.written; });
+        std::optional<Section> there = other.FindSection(DecodeBytes(Name(section)));
+        for (const Key& key : written) {
+            // Some of its keys without the others would be half a section.
+            if (!there && !isEmpty && !IsWrittenWhole(keys))
+                return IniConflict{IniConflict::Kind::SectionIsGone, std::string(NameInText(section))};
+            const std::string_view bytes = ValueOf(keys, key);
+            const IniCommentedValue parts = key.isText ? SplitTextComment(bytes) : SplitComment(bytes);
+            IniNewValue value{key.isText ? TextFor(other, parts) : std::string(parts.plain), key.isText, {}};
+            if (key.hasComment)
+                value.comment = CommentFor(other, parts.comment, Encoding());
+            const std::wstring name = DecodeBytes(NameOf(keys, key));
+            const std::string spelling = NameFor(other, NameOf(keys, key));
+            if (there)
+                other.Write(*there, name, spelling, value);
+            else
+                there = other.AddSection(NameFor(other, Name(section)), name, spelling, value);
+        }
+    }
+    return std::nullopt;
+}
+
+/// The removals and renamings alone.
+std::optional<IniConflict> IniText::ApplyMovesTo(IniText& other) const {
+    // Names that sections have here which are gone there. What has such a name there is somebody else's.
+    IniNameSet gone;
+    for (const Move& move : m_moves) {
+        const auto known = gone.find(move.from);
+        const bool isGone = known != gone.end();
+        if (isGone)
+            gone.erase(known);
+        const std::optional<Section> section =
+            isGone ? std::nullopt : other.FindSection(DecodeBytes(move.from));
+        if (!section) {
+            std::string buffer;
+            if (move.to)
+                gone.emplace(CanonicalName(*move.to, buffer));
+            continue;
+        }
+        if (!move.to) {
+            other.RemoveSection(*section);
+            continue;
+        }
+        std::string name = NameFor(other, *move.to);
+        const std::optional<Section> holder = other.FindSection(DecodeBytes(name));
+        if ((holder && holder != section) || !other.RenameSection(*section, name))
+            return IniConflict{IniConflict::Kind::NameIsTaken, std::move(name)};
+    }
+    return std::nullopt;
+}
+
+} // namespace QuorIniFile
