@@ -43,9 +43,10 @@ struct PastedNumber {
 ///                  exponent behind the number
 ///     exponents    E-3 e-3 D-3; 10^-3 10**-3 and 10 with superscript digits, also without a sign; 10-3 and
 ///                  10 -3, only with a sign; the 10 behind one of: U+00D7 U+00B7 U+22C5 U+2219 x *
-///     units        of those that do not scale, behind a blank or directly; kelvin only behind a blank
+///     units        those that do not scale, behind a blank or directly; K, K-1 and those that begin with
+///                  "1/" only behind a blank: "5K" may be five thousand
 ///     names        in front, up to "=" or ":", that say nothing of a factor, a scaling unit, a sign or a
-///                  function: "R0 =", "A[7]:", "R(0 °C) ="
+///                  function: "R0 =", "A[7]:"
 ///     digits       0 to 9 and the full-width ones
 ///
 /// Everything else refuses: uncertainties, brackets, fractions, trailing signs, other digits, control

@@ -43,7 +43,7 @@ std::vector<BoxRow> RowsFrom(const TextBox& first) {
 } // namespace
 
 PastedCells SplitIntoCells(std::wstring_view text) {
-    constexpr std::wstring_view edges = L" \t\n\u0085\u2028\u2029\r";
+    constexpr std::wstring_view edges = L"\t\n\u0085\u2028\u2029\r \u00A0\u2009\u200B\u202F\uFEFF";
     const auto begin = text.find_first_not_of(edges);
     if (begin == std::wstring_view::npos)
         return {};

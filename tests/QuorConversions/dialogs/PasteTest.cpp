@@ -143,6 +143,8 @@ TEST_F(PasteTest, SeveralLinesFillTheBoxesOfAListFromThereOn) {
         person.Paste(L"ALPHA", L"0.0039\r\n1,6E0\r\n\u22120.2\r\n");
         EXPECT_EQ(Boxes(person), (Texts{L"100", L"0.0039", L"1.6E0", L"-0.2"}));
         EXPECT_EQ(person.Focused(), L"txtCoefficients(1)");
+        person.Paste(L"R0", L"\uFEFF\n7\n\u00A0\n");
+        EXPECT_EQ(person.Reads(L"R0"), L"7") << "blank lines at the edges are no cells";
         person.Paste(L"R0", L"1\t2\n3\t4");
         EXPECT_EQ(Boxes(person), (Texts{L"1", L"2", L"3", L"4"}));
         person.Click(L"Cancel");

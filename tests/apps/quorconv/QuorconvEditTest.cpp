@@ -55,6 +55,21 @@ TEST_F(QuorconvEditTest, WritesWhatWasTypedAndAcceptedAndNothingElse) {
     EXPECT_EQ(folder.Read("host.ini"), Replaced(before, "=100.0\n", "=100.0123\n"));
 }
 
+TEST_F(QuorconvEditTest, WritesTheNumberThatAPasteMeans) {
+    ExpectFine(Playing("paste R0 = 1 234.5 \u03A9 into R0\nclick OK\n"));
+    EXPECT_EQ(folder.Read("host.ini"), Replaced(before, "=100.0\n", "=1234.5\n"));
+}
+
+TEST_F(QuorconvEditTest, PrintsAndExpectsWhatTheDialogAdvises) {
+    const std::string advice = "Nothing pasted: 100,012 can be read in two ways";
+    ExpectFine(Playing("paste 100,012 into R0\nexpect advice " + advice + "\nshow\nescape"),
+               Replaced(shown, "[100]", "[100] ! " + advice));
+    ExpectGoneWrong("expect advice Not a number: 0 would be stored\nescape",
+                    "  there is no advice \"Not a number: 0 would be stored\"\n"
+                    "  in line 1: expect advice Not a number: 0 would be stored\n"
+                    "  the dialog \"Callendar-Van Dusen Settings\" was left open\n");
+}
+
 TEST_F(QuorconvEditTest, WritesNothingThatWasCancelled) {
     for (const std::string leave : {"click Cancel", "escape"})
         ExpectFine(Playing("type R0 100.0123\n" + leave));
