@@ -103,9 +103,24 @@ TEST_F(PasteTest, OKStoresTheVeryNumberThatWasPasted) {
 
 TEST_F(PasteTest, ANumberTakesThePlaceOfThePartThatIsSelected) {
     Edit([](Person& person) {
+        auto& box = dynamic_cast<TextBox&>(*person.Sees().Find(L"txtCoefficients(0)"));
+        person.Type(L"R0", L"100.01");
+        box.SetSelection(1, 2);
+        person.PasteHere(L"2 ohm");
+        EXPECT_EQ(person.Reads(L"R0"), L"12.01");
+        box.SetSelection(1, 1);
+        person.PasteHere(L"2.5");
+        EXPECT_EQ(person.Reads(L"R0"), L"12.01");
+        EXPECT_EQ(person.Advice(L"R0"), L"Nothing pasted: 12.5.01 is not a number");
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(PasteTest, ANumberTakesThePlaceOfTheWholeTextWhereNothingIsSelected) {
+    Edit([](Person& person) {
         person.Type(L"R0", L"100.0");
         person.PasteHere(L"25.5");
-        EXPECT_EQ(person.Reads(L"R0"), L"25.5") << "where nothing is selected, of the whole text";
+        EXPECT_EQ(person.Reads(L"R0"), L"25.5");
         person.Type(L"R0", L"-");
         person.PasteHere(L"25.5");
         EXPECT_EQ(person.Reads(L"R0"), L"-25.5") << "but a sign that was typed stays";
