@@ -1,12 +1,14 @@
 #include "QuorProbeFile/RecordMerge.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorProbeFile/ProbeNames.h"
 
 #include <utility>
 
 namespace QuorProbeFile {
 
-using QuorConversions::conversionTypeKey, QuorConversions::versionKey;
+using QuorConversions::conversionTypeKey;
+using QuorConversions::versionKey;
 using QuorIniFile::INIFile;
 
 namespace {

@@ -1,6 +1,7 @@
 #include "apps/probe-setup/DocumentSave.h"
 
 #include "QuorConversions/core/CQuorConversion.h"
+#include "QuorConversions/core/modMessages.h"
 #include "QuorConversions/platform/HeadlessPlatform.h"
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ReadLog.h"
@@ -34,7 +35,7 @@ void WriteRecord(const std::shared_ptr<INIFile>& iniFile, const ListedProbe& pro
     try {
         probe.content.conversion->WriteOrRaise(iniFile, section);
     } catch (const QuorError& error) {
-        throw DocumentError{Failure::CannotWrite, path, {probe.name, error.Description()}};
+        throw DocumentError{Failure::CannotWrite, path, {probe.name, DescriptionOf(error)}};
     }
 }
 

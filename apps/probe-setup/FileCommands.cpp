@@ -1,12 +1,12 @@
 #include "apps/probe-setup/FileCommands.h"
 
+#include "QuorConversions/qt/QtPlatform.h"
+#include "QuorConversions/qt/QtText.h"
 #include "QuorProbeFile/ProbeTypes.h"
 #include "apps/probe-setup/MessageBox.h"
 #include "apps/probe-setup/ProbeList.h"
 #include "apps/probe-setup/RecentFiles.h"
 #include "apps/probe-setup/Wording.h"
-#include "toolkits/qt/QtPlatform.h"
-#include "toolkits/qt/QtText.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,10 +1,10 @@
 #include "apps/probe-setup/ProbeDialog.h"
 
 #include "QuorConversions/core/modStrings.h"
+#include "QuorConversions/qt/QtText.h"
 #include "QuorProbeFile/ProbeTypes.h"
 #include "apps/probe-setup/TypeTexts.h"
 #include "apps/probe-setup/Wording.h"
-#include "toolkits/qt/QtText.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>

@@ -345,7 +345,7 @@ std::optional<std::wstring> ProbeDocument::Export(std::size_t probe, std::int32_
     const QuietPlatform::Quiet quiet(*m_platform);
     const bool chosen = settings->SaveFileAs(hwnd, fileName);
     if (!quiet.Messages().empty())
-        throw DocumentError{Failure::CannotWrite, fileName, {Name(probe), quiet.Messages().front()}};
+        throw DocumentError{Failure::CannotWrite, fileName, {Name(probe), quiet.Messages().front().text}};
     return chosen ? std::optional(fileName) : std::nullopt;
 }
 

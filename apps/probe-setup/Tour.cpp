@@ -1,11 +1,11 @@
 #include "apps/probe-setup/Tour.h"
 
-#include "QuorIniFile/IniFormat.h"
+#include "QuorConversions/qt/QtSession.h"
+#include "QuorConversions/qt/QtText.h"
 #include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/detail/IniFormat.h"
 #include "QuorProbeFile/ProbeTypes.h"
 #include "apps/probe-setup/MainWindow.h"
-#include "toolkits/qt/QtSession.h"
-#include "toolkits/qt/QtText.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,13 +1,13 @@
 #include "apps/probe-setup/MainWindow.h"
 
+#include "QuorConversions/qt/QtText.h"
+#include "QuorConversions/qt/Translations.h"
 #include "QuorProbeFile/ProbeTypes.h"
 #include "apps/probe-setup/ProbeTableModel.h"
 #include "apps/probe-setup/TypeTexts.h"
 #include "tests/apps/probe-setup/HostFile.h"
 #include "tests/apps/probe-setup/MemoryRegistry.h"
 #include "tests/toolkits/qt/QtScreen.h"
-#include "toolkits/qt/QtText.h"
-#include "toolkits/qt/Translations.h"
 
 #include <gtest/gtest.h>
 
@@ -24,6 +24,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QStatusBar>
 #include <QTest>
 #include <QTextDocumentFragment>
@@ -509,6 +510,22 @@ TEST_F(MainWindowTest, ASaveThatFailsNamesTheFileAndKeepsTheWindowOpen) {
     EXPECT_TRUE(text.contains(Path("host.ini"))) << text.toStdString();
     EXPECT_TRUE(window->isWindowModified());
     EXPECT_EQ(File(), host);
+}
+
+TEST_F(MainWindowTest, ASaveThatFailsIsToldInTheLanguageOfTheUser) {
+    EditR0();
+    ASSERT_EQ(::chmod(folder.Path("host.ini").c_str(), 0444), 0);
+    QtToolkit::InstallTranslations(QLocale(QLocale::German));
+    const auto english = qScopeGuard([] { QtToolkit::InstallTranslations(QLocale::c()); });
+    QString text;
+    WhenShown<QMessageBox>([&](QMessageBox& question) {
+        WillAnswer(QMessageBox::Ok, &text);
+        QTest::mouseClick(question.button(QMessageBox::Save), Qt::LeftButton);
+    });
+    EXPECT_FALSE(window->close());
+    EXPECT_TRUE(
+        text.endsWith("|Zugriff verweigert: " + Path("host.ini") + ": Die Datei ist schreibgesch\u00FCtzt"))
+        << text.toStdString();
 }
 
 TEST_F(MainWindowTest, AReadOnlyFileOpensReadOnly) {

