@@ -83,14 +83,13 @@ bool Exists(const ProbeFile& file) {
     }
 }
 
-/// A file that is not there, for a text that is saved as `path`: that one, or one beside it.
+/// A file beside `path` that is not there, for a text that is saved as `path` whatever stands in that one.
 std::unique_ptr<ProbeFile> FileThatDoesNotExist(const std::wstring& path, QuorIniFile::IniFileSystem& files) {
-    std::wstring name = path;
     for (int number = 1;; ++number) {
-        auto file = std::make_unique<ProbeFile>(name, files, ProbeFile::Opening::OrNew);
+        auto file = std::make_unique<ProbeFile>(path + L"." + std::to_wstring(number), files,
+                                                ProbeFile::Opening::OrNew);
         if (!Exists(*file))
             return file;
-        name = path + L"." + std::to_wstring(number);
     }
 }
 

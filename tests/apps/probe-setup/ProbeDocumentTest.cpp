@@ -269,6 +269,29 @@ TEST_F(ProbeDocumentTest, ANewDocumentIsSavedAsAFileOfItsOwn) {
               Replaced(Replaced(folder.Read("host2.ini"), "Köln", "Bonn"), "Köln", "Bonn"));
 }
 
+TEST_F(ProbeDocumentTest, ANewDocumentTakesThePlaceOfWhateverStandsThere) {
+    folder.Write("new.ini", std::string("\xFF\xFE[\0A", 5)); // nothing that could be read
+    folder.Write("new.ini.1", "[Other]\nConversionType=2\n");
+    document.Add(L"Köln", CONV_OHMS);
+    document.SaveCopyAs(folder.Name("new.ini"));
+    EXPECT_EQ(folder.Read("new.ini"), "[Köln]\nVersion=1.0\nConversionType=10\n");
+    EXPECT_EQ(folder.Read("new.ini.1"), "[Other]\nConversionType=2\n");
+    EXPECT_FALSE(fs::exists(folder.Path("new.ini.2")));
+}
+
+TEST_F(ProbeDocumentTest, ANewDocumentThatCannotBeSavedNamesTheFileThatTheUserHasNamed) {
+    document.Add(L"Köln", CONV_OHMS);
+    try {
+        document.SaveCopyAs(folder.Name("no folder/new.ini"));
+        ADD_FAILURE() << "nothing was raised";
+    } catch (const QuorError& error) {
+        EXPECT_EQ(error.Number(), 76);
+        EXPECT_EQ(error.Cause()->fileName, folder.Name("no folder/new.ini"));
+    }
+    EXPECT_EQ(document.Path(), L"");
+    EXPECT_TRUE(document.Changed());
+}
+
 TEST_F(ProbeDocumentTest, ARenamedProbeTakesItsSettingsAlongAndNothingElseChanges) {
     const std::string ranges =
         host + "\n; low\n[Probe 1 - Settings - Low Range] ; kept\nx=1\n[Probe 10]\nx=1\n";
