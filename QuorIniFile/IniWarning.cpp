@@ -5,6 +5,7 @@
 #include "QuorIniFile/detail/Unicode.h"
 
 #include <algorithm>
+#include <deque>
 #include <utility>
 
 namespace QuorIniFile {
@@ -50,8 +51,10 @@ private:
 
     void ReadHeader(std::string_view name) {
         std::string buffer;
-        const auto [first, isFirst] =
-            m_sections.try_emplace(std::string(CanonicalName(name, buffer)), Header{name, m_walker.Number()});
+        std::string_view canonical = CanonicalName(name, buffer);
+        if (canonical.data() != name.data())
+            canonical = m_spelled.emplace_back(canonical);
+        const auto [first, isFirst] = m_sections.try_emplace(canonical, Header{name, m_walker.Number()});
         BeginSection(DecodeBytes(name), isFirst);
         if (isFirst)
             return;
@@ -102,12 +105,13 @@ private:
 
     IniWalker m_walker;
     std::vector<IniWarning> m_warnings;
-    IniNameMap<Header> m_sections;  // the first header of each name
-    std::vector<Header> m_fewKeys;  // of the section: the first key of each name, with its line;
-    IniNameMap<std::size_t> m_keys; // where there are many, or some outside ASCII, all of them
-    std::wstring m_section;         // the name in the last header
-    bool m_hasHeader = false;       // above the line
-    bool m_isRead = false;          // the section: its header is the first of its name
+    std::unordered_map<std::string_view, Header, IniNameHash, IniNameEqual> m_sections; // by name, the first
+    std::deque<std::string> m_spelled; // names of sections that the text spells in another way
+    std::vector<Header> m_fewKeys;     // of the section: the first key of each name, with its line;
+    IniNameMap<std::size_t> m_keys;    // where there are many, or some outside ASCII, all of them
+    std::wstring m_section;            // the name in the last header
+    bool m_hasHeader = false;          // above the line
+    bool m_isRead = false;             // the section: its header is the first of its name
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "QuorProbeFile/ProbeFile.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorConversions/core/modPaths.h"
 #include "QuorIniFile/IniLines.h"
 #include "QuorIniFile/Utf8.h"
@@ -25,9 +26,6 @@ using QuorIniFile::IniWarning;
 using QuorIniFile::IniWarningKind;
 
 namespace {
-
-constexpr std::string_view typeKey = "ConversionType";
-constexpr const wchar_t* wideTypeKey = L"ConversionType";
 
 /// The type as messages name it: its enumerator, or the code of one that is none.
 std::wstring TypeName(std::int32_t code) {
@@ -102,6 +100,7 @@ void ProbeFile::Survey() {
     if (!exists)
         return;
     const auto standAlone = StandAloneSection(m_path);
+    const std::string typeKey = QuorIniFile::ToUtf8(conversionTypeKey);
     SectionIndex sections;
     IniLines lines = m_store->Lines();
     IniLines header = lines; // of the section that is walked through
@@ -216,9 +215,9 @@ std::optional<ProbeEntry> ProbeFile::Locate(std::wstring_view section) {
     m_store->SetSection(section);
     ProbeEntry probe{std::wstring(section), 0, {}, false};
     std::wstring text;
-    if (m_store->ReadString(wideTypeKey, text)) {
+    if (m_store->ReadString(conversionTypeKey, text)) {
         std::int16_t code = 0;
-        if (m_store->ReadInteger(wideTypeKey, code))
+        if (m_store->ReadInteger(conversionTypeKey, code))
             probe.type = EQuorConversionType{code};
         return probe;
     }
@@ -242,7 +241,7 @@ ReadOutcome ProbeFile::Read(std::wstring_view section, CQuorConversion& conversi
     if (!probe.standAlone && !probe.type) {
         std::wstring text;
         m_store->SetSection(section);
-        static_cast<void>(m_store->ReadString(wideTypeKey, text));
+        static_cast<void>(m_store->ReadString(conversionTypeKey, text));
         throw Error(PROBE_TYPE_UNREADABLE, section, text);
     }
     const RecordReading reading(m_store, m_path, probe);

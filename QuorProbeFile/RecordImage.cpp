@@ -1,5 +1,6 @@
 #include "QuorProbeFile/RecordImage.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorProbeFile/ProbeNames.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 #include "QuorProbeFile/detail/FileCheck.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorIniFile/IniLines.h"
 #include "QuorIniFile/Utf8.h"
 #include "QuorProbeFile/ProbeNames.h"
@@ -15,6 +16,7 @@
 
 namespace QuorProbeFile {
 
+using QuorConversions::versionKey;
 using QuorIniFile::IniLeftover;
 using QuorIniFile::IniLines;
 using QuorIniFile::IniStore;
@@ -145,7 +147,8 @@ private:
                 return;
             }
             const std::wstring key = Folded(line.Name());
-            if (isLookedThrough && key != L"version" && !known.contains(key) && seen.insert(key).second)
+            if (isLookedThrough && !EqualFolded(key, versionKey) && !known.contains(key) &&
+                seen.insert(key).second)
                 Report({PROBLEM_UNKNOWN_KEY, line.Number(), name, line.Name(),
                         L"unknown key: a record of this type and size does not hold it"});
         });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorIniFile/INIFile.h"
 #include "QuorProbeFile/ReadLog.h"
 
@@ -40,7 +41,7 @@ public:
         Compare(key, value);
     }
     void WriteString(std::wstring_view key, std::wstring_view value) override {
-        if (key != L"Version") // nobody reads it
+        if (key != QuorConversions::versionKey) // nobody reads it
             Compare(key, std::wstring(value));
     }
 

@@ -1,5 +1,7 @@
 #include "QuorProbeFile/detail/RecordProblems.h"
 
+#include "QuorConversions/core/RecordNames.h"
+#include "QuorIniFile/Utf8.h"
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeTypes.h"
 #include "QuorProbeFile/RecordImage.h"
@@ -37,6 +39,7 @@ ProbeProblem ProblemAt(const ReadLog::Read& read, const ProbeEntry& entry, LineP
 const SectionIndex::Section* LinePlaces::Section(std::wstring_view section) {
     if (m_sections.IsEmpty()) {
         Lines lines = m_store.Lines();
+        const std::string version = QuorIniFile::ToUtf8(QuorConversions::versionKey);
         SectionIndex::Section* present = nullptr; // that which is read
         while (lines.Next()) {
             if (lines.Is(Lines::Kind::Header))
@@ -45,7 +48,7 @@ const SectionIndex::Section* LinePlaces::Section(std::wstring_view section) {
                 present = nullptr;
             else if (present && lines.Is(Lines::Kind::Malformed))
                 ++present->malformed;
-            else if (present && !lines.HasName("Version"))
+            else if (present && !lines.HasName(version))
                 ++present->keys;
         }
     }

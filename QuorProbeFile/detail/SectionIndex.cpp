@@ -1,5 +1,6 @@
 #include "QuorProbeFile/detail/SectionIndex.h"
 
+#include "QuorIniFile/AsciiCase.h"
 #include "QuorIniFile/Utf8.h"
 
 #include <algorithm>
@@ -7,18 +8,11 @@
 namespace QuorProbeFile {
 namespace {
 
-char Fold(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
 std::uint64_t HashOf(std::string_view name) {
     std::uint64_t hash = 0xCBF29CE484222325U;
     for (const char c : name)
-        hash = (hash ^ static_cast<unsigned char>(Fold(c))) * 0x100000001B3U;
+        hash = (hash ^ static_cast<unsigned char>(QuorIniFile::Small(c))) * 0x100000001B3U;
     return hash ^ hash >> 32U;
-}
-
-bool AreOneName(std::string_view a, std::string_view b) {
-    return a == b || std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                                [](char x, char y) { return Fold(x) == Fold(y); });
 }
 
 } // namespace
@@ -28,7 +22,7 @@ std::size_t SectionIndex::SlotOf(std::string_view name, std::uint64_t hash) cons
     std::size_t slot = hash & last;
     for (; m_slots[slot] != 0; slot = (slot + 1) & last) {
         const Entry& entry = m_entries[m_slots[slot] - 1];
-        if (entry.hash == hash && AreOneName(entry.name, name))
+        if (entry.hash == hash && (entry.name == name || QuorIniFile::EqualFolded(entry.name, name)))
             break;
     }
     return slot;

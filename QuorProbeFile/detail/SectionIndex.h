@@ -22,8 +22,7 @@ public:
         std::uint32_t malformed = 0;         ///< how many lines are no keys
     };
 
-    /// Adds the section whose header the walk is at; null when there is one of that name already. The
-    /// reference lives until the next one is added.
+    /// Adds the section whose header the walk is at; null when there is one of that name already.
     Section* Add(const QuorIniFile::IniLines& header);
     /// Null when there is none of that name.
     [[nodiscard]] const Section* Find(std::wstring_view name) const;
@@ -39,7 +38,7 @@ private:
     [[nodiscard]] std::size_t SlotOf(std::string_view name, std::uint64_t hash) const;
     void Grow();
 
-    std::vector<Entry> m_entries;
+    std::deque<Entry> m_entries;        // which never moves: it may be a third of the file
     std::vector<std::uint32_t> m_slots; // numbers of entries, from 1; 0 is free
     std::deque<std::string> m_spelled;  // names outside ASCII, which may be spelled in two ways, in one
 };
