@@ -760,8 +760,10 @@ std::vector<IniText::Patch> IniText::Patches() const {
             patches.push_back({place, place, keys.lines[key.own], true});
         }
     }
-    if (!m_edits.empty())
-        AddEdits(patches);
+    if (!m_edits.empty()) {
+        AddEditsOfRead(patches);
+        AddEditsOfAdded(patches);
+    }
     const auto isBefore = [](const Patch& a, const Patch& b) {
         return a.start != b.start ? a.start < b.start : a.isLine && !b.isLine;
     };
@@ -777,29 +779,31 @@ std::vector<IniText::Patch> IniText::Patches() const {
     return patches;
 }
 
-/// What removals and new names make of the text.
-void IniText::AddEdits(std::vector<Patch>& patches) const {
-    const auto rename = [&](std::size_t name, std::size_t length, const Edit& edit) {
-        if (std::string_view(m_text).substr(name, length) != edit.name)
-            patches.push_back({name, name + length, edit.name, false});
-    };
-    for (const auto& [section, edit] : m_edits) {
-        if (!IsAdded(section))
-            continue;
-        const Header& header = m_headers[section];
-        if (edit.isRemoved) // another one follows
-            patches.push_back({header.name - 1U, m_headers[section + 1].name - 1U, {}, false});
-        else
-            rename(header.name, header.nameLength, edit);
-    }
+void IniText::AddRenaming(std::vector<Patch>& patches, std::size_t name, std::size_t length,
+                          const Edit& edit) const {
+    if (std::string_view(m_text).substr(name, length) != edit.name)
+        patches.push_back({name, name + length, edit.name, false});
+}
 
+/// What goes with a removed section, of which another place than the first is never kept.
+IniText::Patch IniText::RemovalOf(const std::vector<Place>& places, std::size_t number, bool isKept) const {
+    const std::string_view text = BaseText();
+    const Place& place = places[number];
+    const std::size_t end =
+        number + 1 < places.size() ? StartWithComments(text, places[number + 1].start) : text.size();
+    Patch gone;
+    gone.start = isKept ? place.next : StartWithComments(text, place.start);
+    gone.end = EndOfKeys(text, place.next, end);
+    if (!isKept)
+        gone.end = EndOfAll(IniLineKind::Blank, text, gone.end, end);
+    return gone;
+}
+
+/// What removals and new names make of the text as it was read.
+void IniText::AddEditsOfRead(std::vector<Patch>& patches) const {
     const std::string_view text = BaseText();
     const std::vector<Place> places = Places();
-    Patch removed; // where extents touch, they are one
-    const auto endRemoved = [&] {
-        if (removed.start < removed.end)
-            patches.push_back(removed);
-    };
+    std::vector<Patch> removed; // where extents touch, they are one
     for (std::size_t number = 0; number < places.size(); ++number) {
         const Place& place = places[number];
         const Edit* const edit = place.section == none ? nullptr : EditOf(place.section);
@@ -808,30 +812,35 @@ void IniText::AddEdits(std::vector<Patch>& patches) const {
         const bool isKept =
             !edit->isRemoved || (place.start + 1 == m_headers[place.section].name && IsThere(place.section));
         if (isKept)
-            rename(place.start + 1, CutHeader(text, place.start).header.name.size(), *edit);
+            AddRenaming(patches, place.start + 1, CutHeader(text, place.start).header.name.size(), *edit);
         if (!edit->isRemoved)
             continue;
-        const std::size_t end =
-            number + 1 < places.size() ? StartWithComments(text, places[number + 1].start) : text.size();
-        Patch gone;
-        gone.start = isKept ? place.next : StartWithComments(text, place.start);
-        gone.end = EndOfKeys(text, place.next, end);
-        if (!isKept)
-            gone.end = EndOfAll(IniLineKind::Blank, text, gone.end, end);
-        if (gone.start <= removed.end && removed.start < removed.end) {
-            removed.end = std::max(removed.end, gone.end);
-            continue;
-        }
-        endRemoved();
-        removed = gone;
+        const Patch gone = RemovalOf(places, number, isKept);
+        if (!removed.empty() && gone.start <= removed.back().end)
+            removed.back().end = std::max(removed.back().end, gone.end);
+        else if (gone.start < gone.end)
+            removed.push_back(gone);
     }
     // At the end of the text one blank line goes along, which stands there since the last section was added.
-    if (removed.start < removed.end && removed.end == text.size()) {
-        const std::size_t above = LineAbove(text, removed.start);
+    if (!removed.empty() && removed.back().end == text.size()) {
+        const std::size_t above = LineAbove(text, removed.back().start);
         if (KindAt(text, above) == IniLineKind::Blank)
-            removed.start = above;
+            removed.back().start = above;
     }
-    endRemoved();
+    patches.insert(patches.end(), removed.begin(), removed.end());
+}
+
+/// The same for the sections that were added.
+void IniText::AddEditsOfAdded(std::vector<Patch>& patches) const {
+    for (const auto& [section, edit] : m_edits) {
+        if (!IsAdded(section))
+            continue;
+        const Header& header = m_headers[section];
+        if (edit.isRemoved) // another one follows
+            patches.push_back({header.name - 1U, m_headers[section + 1].name - 1U, {}, false});
+        else
+            AddRenaming(patches, header.name, header.nameLength, edit);
+    }
 }
 
 std::optional<std::string> IniText::Merged() const {
@@ -887,10 +896,8 @@ bool IniText::IsWrittenWhole(Keys& keys) const {
     });
 }
 
-std::optional<IniConflict> IniText::ApplyChangesTo(IniText& other) {
-    const bool isEmpty = other.BaseText().find_first_not_of(" \t\r\n", MarkLength(other.BaseText())) == npos;
-    if (auto conflict = ApplyMovesTo(other))
-        return conflict;
+/// The sections in which something may have been written, in their order.
+std::vector<IniText::Section> IniText::SectionsThatMayBeWritten() const {
     std::vector<Section> sections;
     for (const auto& [section, keys] : m_kept) {
         if (!IsAdded(section))
@@ -901,15 +908,27 @@ std::optional<IniConflict> IniText::ApplyChangesTo(IniText& other) {
         if (IsThere(section))
             sections.push_back(section);
     }
-    for (const Section section : sections) {
+    return sections;
+}
+
+/// The keys that were written, in the order of that.
+std::vector<IniText::Key> IniText::WrittenKeys(const Keys& keys) {
+    std::vector<Key> written;
+    std::copy_if(keys.list.begin(), keys.list.end(), std::back_inserter(written),
+                 [](const Key& key) { return key.written != 0; });
+    std::sort(written.begin(), written.end(),
+              [](const Key& a, const Key& b) { return a.written < b.written; });
+    return written;
+}
+
+std::optional<IniConflict> IniText::ApplyChangesTo(IniText& other) {
+    const bool isEmpty = other.BaseText().find_first_not_of(" \t\r\n", MarkLength(other.BaseText())) == npos;
+    if (auto conflict = ApplyMovesTo(other))
+        return conflict;
+    for (const Section section : SectionsThatMayBeWritten()) {
         Keys& keys = KeysOf(section);
-        std::vector<Key> written;
-        std::copy_if(keys.list.begin(), keys.list.end(), std::back_inserter(written),
-                     [](const Key& key) { return key.written != 0; });
-        std::sort(written.begin(), written.end(),
-                  [](const Key& a, const Key& b) { return a.written < b.written; });
         std::optional<Section> there = other.FindSection(DecodeBytes(Name(section)));
-        for (const Key& key : written) {
+        for (const Key& key : WrittenKeys(keys)) {
             // Some of its keys without the others would be half a section.
             if (!there && !isEmpty && !IsWrittenWhole(keys))
                 return IniConflict{IniConflict::Kind::SectionIsGone, std::string(NameInText(section))};

@@ -187,7 +187,13 @@ private:
     // Saving and merging.
     [[nodiscard]] std::vector<Place> Places() const;
     [[nodiscard]] std::vector<Patch> Patches() const;
-    void AddEdits(std::vector<Patch>& patches) const;
+    void AddRenaming(std::vector<Patch>& patches, std::size_t name, std::size_t length,
+                     const Edit& edit) const;
+    [[nodiscard]] Patch RemovalOf(const std::vector<Place>& places, std::size_t number, bool isKept) const;
+    void AddEditsOfRead(std::vector<Patch>& patches) const;
+    void AddEditsOfAdded(std::vector<Patch>& patches) const;
+    [[nodiscard]] std::vector<Section> SectionsThatMayBeWritten() const;
+    [[nodiscard]] static std::vector<Key> WrittenKeys(const Keys& keys);
     [[nodiscard]] bool IsWrittenWhole(Keys& keys) const;
     [[nodiscard]] std::optional<IniConflict> ApplyMovesTo(IniText& other) const;
 

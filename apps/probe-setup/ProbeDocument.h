@@ -167,10 +167,10 @@ private:
     [[nodiscard]] ProbeContent ContentOf(std::shared_ptr<QuorConversions::CQuorConversion> conversion);
     [[nodiscard]] std::uint32_t NumberOf(const std::wstring& name);
     [[nodiscard]] std::wstring NameOf(const QuorConversions::CQuorConversion& conversion) const;
-    const ReadProblems& Load(ListedProbe& probe);
+    const ReadProblems& Load(ListedProbe& entry);
     /// Raises DocumentError unless all of the probe is in its conversion, so that it can be written
     /// elsewhere.
-    void RequireWhole(ListedProbe& probe);
+    void RequireWhole(ListedProbe& entry);
 
     std::size_t Append(StepKind kind, std::wstring name, ProbeContent content);
     void Do(Step step);
