@@ -1,7 +1,10 @@
 #pragma once
 
+#include "QuorIniFile/Export.h"
+
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace QuorIniFile {
@@ -21,5 +24,15 @@ struct IniCause {
     std::wstring fileName;            ///< the file, as the caller has named it
     std::vector<std::wstring> values; ///< names, paths and the like, one for each "~" of the cause's text
 };
+
+/// The description of an error in other words than those of IniTexts.def, such as another language's:
+/// `standardText` says what its number means, `causeText`, which may be empty, its cause.
+[[nodiscard]] QUORINIFILE_EXPORT std::wstring Describe(std::wstring_view standardText,
+                                                       std::wstring_view causeText, const IniCause& cause);
+
+/// `text` with each "~" filled in, from left to right, by the next of `values`, as it stands. Surplus values
+/// are ignored; a "~" for which no value is left becomes empty text.
+[[nodiscard]] QUORINIFILE_EXPORT std::wstring FillTildes(std::wstring_view text,
+                                                         const std::vector<std::wstring>& values);
 
 } // namespace QuorIniFile

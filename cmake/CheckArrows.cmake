@@ -64,6 +64,12 @@ foreach(top IN ITEMS QuorIniFile QuorRegistryII QuorConversions QuorProbeFile to
             if(header MATCHES "/Export\\.h$") # generated; it stands at the root of each library for all its folders
                 continue()
             endif()
+            if(header MATCHES "^(Quor[A-Za-z]+)/(.*/)?(detail|dialogs)/")
+                set(library ${CMAKE_MATCH_1})
+                if(NOT source MATCHES "^${library}/")
+                    list(APPEND problems "${source}: includes ${header}, which is internal to its library")
+                endif()
+            endif()
             if(to AND NOT to STREQUAL from AND NOT level_of_${to} LESS level_of_${from})
                 list(APPEND problems "${source}: includes ${header}, which stands beside or above it")
             endif()

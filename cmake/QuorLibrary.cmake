@@ -77,6 +77,6 @@ function(quor_exports name namespace)
     local: *;
 };
 ]])
-    target_link_options(${name} PRIVATE LINKER:--version-script=${map})
+    target_link_options(${name} PRIVATE LINKER:--version-script=${map} LINKER:-z,defs)
     set_target_properties(${name} PROPERTIES LINK_DEPENDS ${map})
 endfunction()

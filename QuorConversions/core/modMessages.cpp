@@ -1,8 +1,8 @@
 #include "QuorConversions/core/modMessages.h"
 
 #include "QuorConversions/core/detail/BusyPointer.h"
+#include "QuorIniFile/IniCause.h"
 #include "QuorIniFile/Utf8.h"
-#include "QuorIniFile/detail/IniError.h"
 
 #include <new>
 

@@ -1,6 +1,6 @@
 #include "QuorConversions/core/modStrings.h"
 
-#include "QuorIniFile/detail/IniError.h"
+#include "QuorIniFile/IniCause.h"
 
 #include <vector>
 

@@ -35,31 +35,20 @@ std::wstring_view FindText(std::int32_t number, const NumberedText (&texts)[size
     return found != std::end(texts) ? found->text : otherwise;
 }
 
-QuorError ErrorOf(std::int32_t number, IniCause cause) {
-    std::wstring description =
-        Describe(FindText(number, standardTexts, L"Error"), FindText(cause.code, causeTexts, L""), cause);
-    return {number, L"QuorIniFile", std::move(description), std::move(cause)};
-}
-
 } // namespace
 
 QuorError FileError(EErrorNumber number, std::wstring_view fileName, EIniCause cause,
                     std::vector<std::wstring> values) {
-    return ErrorOf(number, {cause, std::wstring(fileName), std::move(values)});
+    IniCause all{cause, std::wstring(fileName), std::move(values)};
+    std::wstring description =
+        Describe(FindText(number, standardTexts, L"Error"), FindText(cause, causeTexts, L""), all);
+    return {number, L"QuorIniFile", std::move(description), std::move(all)};
 }
 
 QuorError FileError(EErrorNumber number, std::wstring_view fileName, std::wstring_view words) {
     if (words.empty())
         return FileError(number, fileName, INI_CAUSE_NONE);
     return FileError(number, fileName, INI_CAUSE_SYSTEM, {std::wstring(words)});
-}
-
-QuorError WithFileName(const QuorError& error, std::wstring_view fileName) {
-    if (!error.Cause())
-        return error;
-    IniCause cause = *error.Cause();
-    cause.fileName = fileName;
-    return ErrorOf(error.Number(), std::move(cause));
 }
 
 std::wstring Describe(std::wstring_view standardText, std::wstring_view causeText, const IniCause& cause) {

@@ -18,17 +18,4 @@ namespace QuorIniFile {
 [[nodiscard]] QuorError FileError(EErrorNumber number, std::wstring_view fileName,
                                   std::wstring_view words = {});
 
-/// The same error about another file, for a program that has worked on a copy. An error without a cause comes
-/// back as it is.
-[[nodiscard]] QuorError WithFileName(const QuorError& error, std::wstring_view fileName);
-
-/// The description of an error in other words than those of IniTexts.def: `standardText` says what its number
-/// means, `causeText`, which may be empty, its cause.
-[[nodiscard]] std::wstring Describe(std::wstring_view standardText, std::wstring_view causeText,
-                                    const IniCause& cause);
-
-/// `text` with each "~" filled in, from left to right, by the next of `values`, as it stands. Surplus values
-/// are ignored; a "~" for which no value is left becomes empty text.
-[[nodiscard]] std::wstring FillTildes(std::wstring_view text, const std::vector<std::wstring>& values);
-
 } // namespace QuorIniFile

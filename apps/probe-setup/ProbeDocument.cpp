@@ -83,16 +83,6 @@ bool Exists(const ProbeFile& file) {
     }
 }
 
-/// A file beside `path` that is not there, for a text that is saved as `path` whatever stands in that one.
-std::unique_ptr<ProbeFile> FileThatDoesNotExist(const std::wstring& path, QuorIniFile::IniFileSystem& files) {
-    for (int number = 1;; ++number) {
-        auto file = std::make_unique<ProbeFile>(path + L"." + std::to_wstring(number), files,
-                                                ProbeFile::Opening::OrNew);
-        if (!Exists(*file))
-            return file;
-    }
-}
-
 /// Reads a probe. Of a record that its class gives up the file gives the default values; here those that were
 /// reached are shown, because a save must not write defaults over them.
 ReadProblems ReadInto(CQuorConversion& conversion, ProbeFile& file, const std::wstring& section) {
@@ -123,16 +113,33 @@ private:
 } // namespace
 
 ProbeDocument::ProbeDocument(std::shared_ptr<Platform> platform,
+                             std::shared_ptr<QuorRegistryII::Registry> registry)
+    : m_platform(std::make_shared<QuietPlatform>(std::move(platform))), m_registry(std::move(registry)) {}
+
+ProbeDocument::ProbeDocument(std::shared_ptr<Platform> platform,
                              std::shared_ptr<QuorRegistryII::Registry> registry,
                              QuorIniFile::IniFileSystem& files)
-    : m_platform(std::make_shared<QuietPlatform>(std::move(platform))),
-      m_registry(std::move(registry)),
-      m_files(files) {}
+    : ProbeDocument(std::move(platform), std::move(registry)) {
+    m_files = &files;
+}
+
+std::unique_ptr<ProbeFile> ProbeDocument::FileAt(const std::wstring& path, Opening opening) const {
+    return m_files ? std::make_unique<ProbeFile>(path, *m_files, opening)
+                   : std::make_unique<ProbeFile>(path, opening);
+}
+
+std::unique_ptr<ProbeFile> ProbeDocument::FileThatDoesNotExist(const std::wstring& path) const {
+    for (int number = 1;; ++number) {
+        auto file = FileAt(path + L"." + std::to_wstring(number), Opening::OrNew);
+        if (!Exists(*file))
+            return file;
+    }
+}
 
 // The list and the file
 
 void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
-    auto file = std::make_unique<ProbeFile>(path, m_files);
+    auto file = FileAt(path);
     const std::vector<ProbeEntry>& probes = file->Probes();
     if (const auto line = probes.empty() ? LineOfNoIniFile(file->Store()->Lines()) : std::nullopt)
         throw DocumentError{Failure::NoSettingsFile, path, {std::to_wstring(*line)}};
@@ -372,11 +379,11 @@ std::size_t ProbeDocument::Import(const std::wstring& path) {
     const auto section = StandAloneSection(path);
     if (!section)
         throw DocumentError{Failure::NoStandAloneFile, path, {}};
-    ProbeFile file(path, m_files);
-    if (!file.Find(*section))
+    const auto file = FileAt(path);
+    if (!file->Find(*section))
         throw DocumentError{Failure::UnreadableRecord, path, {L"[" + *section + L"]"}};
     auto conversion = NewConversion();
-    if (const ReadProblems problems = ProblemsOf(file.Read(*section, *conversion)); !problems.IsEmpty())
+    if (const ReadProblems problems = ProblemsOf(file->Read(*section, *conversion)); !problems.IsEmpty())
         throw DocumentError{Failure::UnreadableRecord, path, problems.Lines()};
     const std::wstring name = GetFileNamePart(path);
     return Append(StepKind::Import, FreeName(name.substr(0, name.rfind(L'.'))),
@@ -499,7 +506,7 @@ bool ProbeDocument::Changed() const {
 
 void ProbeDocument::Save(const OthersChanges& replaced) {
     // What was read stays in m_file, whatever becomes of this save.
-    auto file = std::make_unique<ProbeFile>(m_path, m_files);
+    auto file = FileAt(m_path);
     bool othersWrote = false;
     file->Edit([&] {
         // A file that is gone is not made anew: it would hold nothing but what has changed.
@@ -546,9 +553,7 @@ void ProbeDocument::Settle() {
 
 void ProbeDocument::SaveCopyAs(const std::wstring& path, const OthersChanges& replaced) {
     const bool isOwn = m_file && m_file->Store()->IsOwnFile(path);
-    const auto file = m_path.empty()
-                          ? FileThatDoesNotExist(path, m_files)
-                          : std::make_unique<ProbeFile>(m_path, m_files, ProbeFile::Opening::OrNew);
+    const auto file = m_path.empty() ? FileThatDoesNotExist(path) : FileAt(m_path, Opening::OrNew);
     const bool exists = Exists(*file);
     if (isOwn && exists) {
         Save(replaced);
@@ -569,7 +574,7 @@ void ProbeDocument::SaveCopyAs(const std::wstring& path, const OthersChanges& re
     }
     if (!m_path.empty() && !isOwn)
         return;
-    m_file = std::make_unique<ProbeFile>(path, m_files);
+    m_file = FileAt(path);
     m_path = path;
     m_isReadOnly = false;
     m_foreign.clear(); // nothing but probes stands in it

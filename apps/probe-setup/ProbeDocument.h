@@ -1,7 +1,6 @@
 #pragma once
 
 #include "QuorConversions/core/CQuorConversion.h"
-#include "QuorIniFile/detail/IniFileSystem.h"
 #include "QuorProbeFile/ProbeFile.h"
 #include "QuorRegistryII/Registry.h"
 #include "apps/probe-setup/DocumentError.h"
@@ -46,11 +45,12 @@ public:
     using Progress = std::function<void(double)>;
 
     /// The conversions speak to the user through `platform` and keep the places of their dialogs in
-    /// `registry`, which may be null. Its stores work on `files`, which must outlive the document. The
-    /// document is empty and has no file.
+    /// `registry`, which may be null. The document is empty and has no file.
     explicit ProbeDocument(std::shared_ptr<QuorConversions::Platform> platform,
-                           std::shared_ptr<QuorRegistryII::Registry> registry = nullptr,
-                           QuorIniFile::IniFileSystem& files = QuorIniFile::IniFileSystem::System());
+                           std::shared_ptr<QuorRegistryII::Registry> registry = nullptr);
+    /// The same on other files, which must outlive the document: those of a test.
+    ProbeDocument(std::shared_ptr<QuorConversions::Platform> platform,
+                  std::shared_ptr<QuorRegistryII::Registry> registry, QuorIniFile::IniFileSystem& files);
 
     /// Takes the probes of a file in place of what was there. Raises QuorError, and leaves all as it was,
     /// when the file cannot be read, and DocumentError when it is no settings file.
@@ -176,6 +176,13 @@ private:
     void Do(Step step);
     void Toggle(Step& step);
 
+    using Opening = QuorProbeFile::ProbeFile::Opening;
+    [[nodiscard]] std::unique_ptr<QuorProbeFile::ProbeFile> FileAt(const std::wstring& path,
+                                                                   Opening opening = Opening::Existing) const;
+    /// A file beside `path` that is not there, for a text that is saved as `path` whatever stands in that
+    /// one.
+    [[nodiscard]] std::unique_ptr<QuorProbeFile::ProbeFile>
+    FileThatDoesNotExist(const std::wstring& path) const;
     /// Writes all probes into an empty file.
     void WriteAll(const QuorProbeFile::ProbeFile& file);
     [[nodiscard]] std::vector<const ListedProbe*> RemovedProbes() const;
@@ -186,7 +193,7 @@ private:
 
     std::shared_ptr<QuietPlatform> m_platform;
     std::shared_ptr<QuorRegistryII::Registry> m_registry;
-    QuorIniFile::IniFileSystem& m_files;
+    QuorIniFile::IniFileSystem* m_files = nullptr; // null: those of this computer
     std::wstring m_path;
     bool m_isReadOnly = false;
     std::unique_ptr<QuorProbeFile::ProbeFile> m_file; // as it was last read or saved; never written to

@@ -3,7 +3,6 @@
 #include "QuorConversions/qt/QtSession.h"
 #include "QuorConversions/qt/QtText.h"
 #include "QuorIniFile/Utf8.h"
-#include "QuorIniFile/detail/IniFormat.h"
 #include "QuorProbeFile/ProbeTypes.h"
 #include "apps/probe-setup/MainWindow.h"
 

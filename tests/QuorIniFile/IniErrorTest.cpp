@@ -112,19 +112,6 @@ TEST(IniError, EveryCauseKeepsItsNumberAndItsText) {
     EXPECT_EQ(known, all);
 }
 
-TEST(IniError, CanBeToldOfAnotherFile) {
-    const QuorError copy =
-        FileError(ERR_PERMISSION_DENIED, L"/tmp/copy.ini", INI_CAUSE_KEEPS_REMOVING, {L"/tmp/copy.ini.lock"});
-    const QuorError error = WithFileName(copy, L"host.ini");
-    EXPECT_EQ(error.Number(), 70);
-    EXPECT_EQ(error.Description(),
-              L"Permission denied: host.ini: Another program keeps removing /tmp/copy.ini.lock");
-    EXPECT_EQ(error.Cause()->fileName, L"host.ini");
-    EXPECT_EQ(error.Cause()->code, INI_CAUSE_KEEPS_REMOVING);
-    const QuorError other{429, L"Host", L"/tmp/copy.ini is none of ours"};
-    EXPECT_EQ(WithFileName(other, L"host.ini").Description(), L"/tmp/copy.ini is none of ours");
-}
-
 TEST(IniError, ValuesStandAsTheyAreInTheirPlaces) {
     EXPECT_EQ(FillTildes(L"~ of ~.", {L" a|b ", L"~"}), L" a|b  of ~.");
     EXPECT_EQ(FillTildes(L"~ of ~.", {L"a", L"b", L"c"}), L"a of b.");

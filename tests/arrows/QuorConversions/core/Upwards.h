@@ -1,3 +1,4 @@
-// Never compiled: the check of the includes has to complain about both lines.
+// Never compiled: the check of the includes has to complain about each line.
 #include "QuorConversions/dialogs/Above.h"
+#include "QuorIniFile/detail/Internal.h"
 #include <QString>
