@@ -15,7 +15,7 @@ set(storeys
     "QuorConversions"
     "QuorProbeFile"
     "QuorConversions/qt" # what the Qt toolkit has for hosts
-    "toolkits/scripted|toolkits/qt"
+    "component|toolkits/scripted|toolkits/qt"
     "apps/quorconv|apps/probe-setup")
 set(toolkit_header "^(Q[A-Z][A-Za-z]*|Qt[A-Za-z]*/.*|gtk/.*|wx/.*|windows\\.h)$")
 
@@ -46,7 +46,7 @@ endfunction()
 
 set(problems "")
 set(checked 0)
-foreach(top IN ITEMS QuorIniFile QuorRegistryII QuorConversions QuorProbeFile toolkits apps)
+foreach(top IN ITEMS QuorIniFile QuorRegistryII QuorConversions QuorProbeFile component toolkits apps)
     file(GLOB_RECURSE sources RELATIVE ${ROOT} ${ROOT}/${top}/*.h ${ROOT}/${top}/*.cpp ${ROOT}/${top}/*.def)
     foreach(source IN LISTS sources)
         math(EXPR checked "${checked} + 1")

@@ -56,17 +56,7 @@ endfunction()
 # What a library of this project shares with the others: its version, and that it exports what stands in
 # `namespace` and is marked for it, but no template of the standard library that it has filled in.
 function(quor_exports name namespace)
-    set_target_properties(${name} PROPERTIES
-        VERSION ${PROJECT_VERSION}
-        SOVERSION ${PROJECT_VERSION_MAJOR}
-        POSITION_INDEPENDENT_CODE ON)
-    if(NOT BUILD_SHARED_LIBS)
-        string(TOUPPER ${name} upper)
-        target_compile_definitions(${name} PUBLIC ${upper}_STATIC_DEFINE)
-        return()
-    endif()
-    set(map ${CMAKE_CURRENT_BINARY_DIR}/${name}.map)
-    file(CONFIGURE OUTPUT ${map} @ONLY CONTENT [[{
+    string(CONFIGURE [[{
     global: extern "C++" {
         @namespace@::*;
         typeinfo?for?@namespace@::*;
@@ -76,7 +66,28 @@ function(quor_exports name namespace)
     };
     local: *;
 };
-]])
+]] map @ONLY)
+    quor_version_script(${name} "${map}")
+endfunction()
+
+# The same for a library of C functions: it exports those whose names begin with `prefix`, and nothing else.
+function(quor_exports_c name prefix)
+    quor_version_script(${name} "{\n    global: ${prefix}*;\n    local: *;\n};\n")
+endfunction()
+
+function(quor_version_script name content)
+    set_target_properties(${name} PROPERTIES
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR}
+        POSITION_INDEPENDENT_CODE ON)
+    get_target_property(type ${name} TYPE)
+    if(NOT type STREQUAL SHARED_LIBRARY)
+        string(TOUPPER ${name} upper)
+        target_compile_definitions(${name} PUBLIC ${upper}_STATIC_DEFINE)
+        return()
+    endif()
+    set(map ${CMAKE_CURRENT_BINARY_DIR}/${name}.map)
+    file(CONFIGURE OUTPUT ${map} @ONLY CONTENT "${content}")
     target_link_options(${name} PRIVATE LINKER:--version-script=${map} LINKER:-z,defs)
     set_target_properties(${name} PROPERTIES LINK_DEPENDS ${map})
 endfunction()
