@@ -22,3 +22,14 @@ install(FILES
     ${PROJECT_BINARY_DIR}/QuorConversionsConfig.cmake
     ${PROJECT_BINARY_DIR}/QuorConversionsConfigVersion.cmake
     DESTINATION ${package_dir})
+
+# For hosts in C, which have no CMake: pkg-config quor. Wherever the folder is moved, the libraries stand beside it.
+file(RELATIVE_PATH up /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+set(libs -lquor)
+set(cflags "")
+if(NOT BUILD_SHARED_LIBS)
+    set(libs "-lquor -lQuorConversions -lQuorRegistryII -lQuorIniFile -lstdc++ -lm")
+    set(cflags " -DQUORCOMPONENT_STATIC_DEFINE")
+endif()
+configure_file(cmake/quor.pc.in ${PROJECT_BINARY_DIR}/quor.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/quor.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

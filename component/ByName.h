@@ -11,6 +11,7 @@
 
 // From values with a kind to the arguments of a typed function, and back. Each kind of parameter loads a
 // value, passes what the function takes, and stores what came out.
+// NOLINTBEGIN(cppcoreguidelines-pro-type-union-access): the values of C are a union with its kind beside it
 namespace QuorConversions::Component {
 
 [[nodiscard]] inline std::int32_t WrongKind() noexcept {
@@ -176,7 +177,7 @@ struct InOutObject : InObject {
         given.owned = value != 0 ? 1 : 0;
         given.as.object = value;
     }
-    void Drop() noexcept {
+    void Drop() const noexcept {
         if (isLent)
             quor_release(before);
     }
@@ -277,3 +278,4 @@ std::int32_t MakeByName(quor_value* args, std::int32_t n, quor_object* object) {
 }
 
 } // namespace QuorConversions::Component
+// NOLINTEND(cppcoreguidelines-pro-type-union-access)

@@ -66,9 +66,11 @@ void Out(quor_object* result, const std::shared_ptr<T>& object) {
 }
 
 template <class... Class>
-[[nodiscard]] quor_object GiveSettings(const std::shared_ptr<SettingsObject>& settings, Classes<Class...>) {
+[[nodiscard]] quor_object GiveSettings(const std::shared_ptr<SettingsObject>& settings,
+                                       Classes<Class...> /*those that there are*/) {
     quor_object handle = 0;
-    const std::type_info& type = typeid(*settings);
+    const SettingsObject& object = *settings;
+    const std::type_info& type = typeid(object);
     static_cast<void>(
         ((type == typeid(Class) &&
           (handle = HandleTable::Instance().Give(std::static_pointer_cast<Class>(settings)), true)) ||

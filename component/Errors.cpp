@@ -17,8 +17,10 @@ struct ErrorOfThread {
     std::uint64_t count = 0; ///< how many there were
 };
 
+// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables): each thread has its own
 thread_local ErrorOfThread lastError;
 thread_local HostCall* currentCall = nullptr;
+// NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
 
 void Keep(std::int32_t number, std::string source, std::string description, std::string helpFile,
           std::int32_t helpContext) noexcept {

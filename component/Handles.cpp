@@ -32,7 +32,7 @@ HandleTable::~HandleTable() {
 }
 
 HandleTable& HandleTable::Instance() {
-    static HandleTable& table = *new HandleTable; // NOLINT(cppcoreguidelines-owning-memory): never destroyed
+    static HandleTable& table = *new HandleTable; // NOLINT: the one of the process, never destroyed
     return table;
 }
 

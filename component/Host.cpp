@@ -110,7 +110,9 @@ void HostPlatform::ShowMessage(const MessageRequest& request) {
         HeadlessPlatform::ShowMessage(request);
         return;
     }
-    const TextForHost text(request.text), title(request.title), helpFile(request.helpFile);
+    const TextForHost text(request.text);
+    const TextForHost title(request.title);
+    const TextForHost helpFile(request.helpFile);
     const quor_message message{text.Get(), title.Get(), helpFile.Get(), request.helpContext, request.icon};
     CallHost(platformSource, m_host->show_message, m_host.User(), &message);
 }
@@ -118,13 +120,20 @@ void HostPlatform::ShowMessage(const MessageRequest& request) {
 std::optional<std::wstring> HostPlatform::AskForFile(const FileRequest& request) {
     if (!m_host->ask_for_file)
         return HeadlessPlatform::AskForFile(request);
-    const TextForHost title(request.title), filter(request.filter), extension(request.defaultExtension),
-        fileName(request.fileName), folder(request.folder);
-    const quor_file_request asked{
-        title.Get(),     filter.Get(),
-        extension.Get(), fileName.Get(),
-        folder.Get(),    request.kind == FileDialogKind::Open ? FILE_DIALOG_OPEN : FILE_DIALOG_SAVE,
-        request.owner,   request.flags};
+    const TextForHost title(request.title);
+    const TextForHost filter(request.filter);
+    const TextForHost extension(request.defaultExtension);
+    const TextForHost fileName(request.fileName);
+    const TextForHost folder(request.folder);
+    quor_file_request asked{};
+    asked.title = title.Get();
+    asked.filter = filter.Get();
+    asked.default_extension = extension.Get();
+    asked.file_name = fileName.Get();
+    asked.folder = folder.Get();
+    asked.kind = request.kind == FileDialogKind::Open ? FILE_DIALOG_OPEN : FILE_DIALOG_SAVE;
+    asked.owner = request.owner;
+    asked.flags = request.flags;
     return AnswerOf(platformSource, m_host->ask_for_file, m_host.User(), &asked);
 }
 

@@ -116,10 +116,12 @@ const char* quor_version(void) { return QUOR_VERSION; }
 void quor_value_clear(quor_value* value) {
     if (!value)
         return;
+    // NOLINTBEGIN(cppcoreguidelines-pro-type-union-access): its kind says which it is
     if (value->owned != 0 && value->kind == QUOR_TEXT)
         quor_text_free(&value->as.text);
     if (value->owned != 0 && value->kind == QUOR_OBJECT && value->as.object != 0)
         static_cast<void>(quor_release(value->as.object));
+    // NOLINTEND(cppcoreguidelines-pro-type-union-access)
     *value = quor_value{};
 }
 

@@ -1,0 +1,109 @@
+/* A host in C: reads a probe of a host's file, changes its R0, lets somebody edit it, saves it, and handles an error.
+ * Usage: host FILE PROBE. The probe is a Callendar-Van Dusen one; it has R0 = 100.0123 ohms afterwards. */
+#include <quor.h>
+
+#include <stdio.h>
+#include <stdlib.h>
+
+/* Every function returns 0 or the number of an error, of which the thread knows more. */
+static void must(int32_t code) {
+    quor_error error;
+    if (code == 0)
+        return;
+    quor_last_error(&error);
+    fprintf(stderr, "error %d: %s (%s)\n", (int)error.number, error.description.bytes, error.source.bytes);
+    exit(1);
+}
+
+/* The user is told. */
+static int32_t show_message(void* user, const quor_message* message) {
+    (void)user;
+    printf("%s: %s\n", message->title.bytes, message->text.bytes);
+    return 0;
+}
+
+static void click(quor_object dialog, const char* name) {
+    quor_object button;
+    must(quor_dialog_FindControl(dialog, quor_text_of(name), &button));
+    must(quor_dialog_Click(dialog, button));
+    must(quor_release(button));
+}
+
+/* Goes to a box and types over what is in it. Keys that no number has are swallowed. */
+static void type(quor_object dialog, const char* name, const char* keys) {
+    char text[32] = "";
+    int32_t length = 0;
+    quor_object box;
+    must(quor_dialog_FindControl(dialog, quor_text_of(name), &box));
+    must(quor_dialog_Focus(dialog, box));
+    for (; *keys != '\0' && length < 31; ++keys) {
+        int16_t key;
+        must(quor_dialog_KeyPress(dialog, (int16_t)*keys, &key));
+        if (key != 0)
+            text[length++] = (char)key;
+        text[length] = '\0';
+        must(quor_dialog_EditText(dialog, box, quor_text_of(text), length, 0));
+    }
+    must(quor_release(box));
+}
+
+/* A person written down; a host with a screen draws the dialog here and reports what its user does. */
+static int32_t run_dialog(void* user, quor_object dialog) {
+    quor_text title;
+    (void)user;
+    must(quor_dialog_Activate(dialog));
+    must(quor_dialog_get_Title(dialog, &title));
+    printf("dialog %s\n", title.bytes);
+    quor_text_free(&title);
+    type(dialog, "txtCoefficients(0)", "100.0123");
+    click(dialog, "cmdOKCancelHelp(0)");
+    return 0;
+}
+
+int main(int argc, char** argv) {
+    const quor_platform_functions functions = {
+        .size = sizeof functions, .run_dialog = run_dialog, .show_message = show_message};
+    quor_object platform, probe, settings;
+    const char* class_name;
+    int16_t complete, accepted, changed;
+    double r0;
+
+    if (argc != 3) {
+        fprintf(stderr, "usage: host FILE PROBE\n");
+        return 2;
+    }
+    must(quor_platform_from_host(&functions, NULL, &platform));
+    must(quor_conversion_create(platform, &probe));
+    must(quor_conversion_ReadFromFile(probe, NULL, quor_text_of(argv[1]), quor_text_of(argv[2]), &complete));
+    if (!complete)
+        return 1; /* the user was told */
+    must(quor_conversion_put_Changed(probe, 0));
+
+    must(quor_conversion_get_Settings(probe, &settings));
+    must(quor_class_of(settings, &class_name));
+    must(quor_cvd_get_Coefficients(settings, QUOR_CVD_R0, &r0));
+    printf("%s, R0 = %.17g ohms\n", class_name, r0);
+
+    must(quor_cvd_put_Coefficients(settings, QUOR_CVD_R0, r0 + 0.001));
+    must(quor_conversion_Edit(probe, &accepted));
+    if (!accepted)
+        return 1;
+
+    /* There is no fifth coefficient. */
+    if (quor_cvd_get_Coefficients(settings, QUOR_CVD_BETA + 1, &r0) == QUOR_ERROR_INDEX) {
+        quor_error error;
+        must(quor_last_error(&error));
+        printf("0x%08X %s: %s\n", (unsigned)error.number, error.source.bytes, error.description.bytes);
+    }
+
+    must(quor_conversion_get_Changed(probe, &changed));
+    if (changed)
+        must(quor_conversion_WriteToFile(probe, NULL, quor_text_of(argv[1]), quor_text_of(argv[2])));
+    must(quor_cvd_get_Coefficients(settings, QUOR_CVD_R0, &r0));
+    printf("saved, R0 = %.17g ohms\n", r0);
+
+    must(quor_release(settings));
+    must(quor_release(probe));
+    must(quor_release(platform));
+    return 0;
+}
