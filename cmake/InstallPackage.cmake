@@ -1,5 +1,6 @@
 # The CMake package. find_package(QuorConversions) gives QuorConversions::QuorConversions,
-# QuorConversions::QuorProbeFile, QuorConversions::QuorIniFile and QuorConversions::QuorRegistryII; with COMPONENTS Qt also
+# QuorConversions::QuorProbeFile, QuorConversions::QuorIniFile, QuorConversions::QuorRegistryII and, for hosts in C,
+# QuorConversions::Component; with COMPONENTS Qt also
 # QuorConversions::QtToolkit, and only then it looks for Qt.
 include(CMakePackageConfigHelpers)
 
