@@ -19,7 +19,7 @@
  *     indices 32. An enumeration takes any value of 32 bits. A name function takes -2 for the current value.
  *  6. A handle is used in one thread at a time, and objects that hold each other (a conversion, its settings, their
  *     ranges, a registry, a platform) count as one. Objects that do not know each other are free in any two threads.
- *     quor_add_ref, quor_release and quor_last_error are free in all.
+ *     The help file is one for the process. quor_add_ref, quor_release and quor_last_error are free in all.
  *  7. What a host offers is a table of functions and a pointer `user` for it. Its first field is its size, so that
  *     tables can grow; a function that is NULL does what its comment says. A function returns 0 or the number of an
  *     error, which travels through the library as if it were its own; quor_set_error gives it words. It gives a text
@@ -50,6 +50,8 @@
 #ifdef __cplusplus
 extern "C" {
 #endif
+
+typedef int16_t quor_bool; /* True is -1 */
 
 /* ---- Texts ------------------------------------------------------------------------------------------------------ */
 
@@ -111,7 +113,7 @@ typedef uint64_t quor_object;
 
 QUOR_API int32_t quor_add_ref(quor_object object);
 QUOR_API int32_t quor_release(quor_object object);
-/* The name of the class ("CQuorCVD"); the library's, for ever. */
+/* The name of the class, "CQuorCVD" say for settings; the library's, for ever. */
 QUOR_API int32_t quor_class_of(quor_object object, const char** class_name);
 /* How many handles are in use in this process: 0 once a host has given all back. */
 QUOR_API int32_t quor_handle_count(int32_t* count);
@@ -127,7 +129,7 @@ typedef struct quor_value {
     int32_t kind;
     int32_t owned; /* not 0: its text or reference was given out by the library, and quor_value_clear gives it back */
     union {
-        int16_t boolean;
+        quor_bool boolean;
         int16_t int16;
         int32_t int32;
         double number;
@@ -232,11 +234,11 @@ typedef struct quor_inifile_functions {
     int32_t (*get_file_name)(void* user); /* answers it */
     int32_t (*put_section)(void* user, quor_text section);
     int32_t (*get_section)(void* user); /* answers it */
-    int32_t (*read_boolean)(void* user, quor_text key, int16_t* value, int16_t* found);
-    int32_t (*read_double)(void* user, quor_text key, double* value, int16_t* found);
-    int32_t (*read_integer)(void* user, quor_text key, int16_t* value, int16_t* found);
-    int32_t (*read_string)(void* user, quor_text key, int16_t* found); /* answers the text */
-    int32_t (*write_boolean)(void* user, quor_text key, int16_t value);
+    int32_t (*read_boolean)(void* user, quor_text key, quor_bool* value, quor_bool* found);
+    int32_t (*read_double)(void* user, quor_text key, double* value, quor_bool* found);
+    int32_t (*read_integer)(void* user, quor_text key, int16_t* value, quor_bool* found);
+    int32_t (*read_string)(void* user, quor_text key, quor_bool* found); /* answers the text */
+    int32_t (*write_boolean)(void* user, quor_text key, quor_bool value);
     int32_t (*write_double)(void* user, quor_text key, double value, quor_text comment);
     int32_t (*write_integer)(void* user, quor_text key, int16_t value, quor_text comment);
     int32_t (*write_string)(void* user, quor_text key, quor_text value);
@@ -249,7 +251,7 @@ typedef struct quor_inifile_functions {
 typedef struct quor_registry_functions {
     size_t size; /* sizeof(quor_registry_functions) */
     void (*destroyed)(void* user);
-    int32_t (*read_value)(void* user, quor_text section, quor_text name, int16_t* found); /* answers the text */
+    int32_t (*read_value)(void* user, quor_text section, quor_text name, quor_bool* found); /* answers the text */
     int32_t (*write_value)(void* user, quor_text section, quor_text name, quor_text value);
 } quor_registry_functions;
 
@@ -274,28 +276,28 @@ QUOR_API int32_t quor_list_control_from_host(const quor_list_control_functions* 
 
 typedef int32_t quor_EQuorConversionType;
 enum {
-    QUOR_CONV_NONE = -1,
-    QUOR_CONV_ITS90 = 0,
-    QUOR_CONV_IPTS68 = 1,
-    QUOR_CONV_CVD = 2,
-    QUOR_CONV_HTPRT = 3,
-    QUOR_CONV_POLYNOMIAL = 4,
-    QUOR_CONV_THERMISTORT_R = 5,
-    QUOR_CONV_THERMISTORR_T = 6,
-    QUOR_CONV_TCPOLYNOMIAL = 7,
-    QUOR_CONV_TCTABLE = 8,
-    QUOR_CONV_TCTYPEX = 9,
+    QUOR_CONV_NONE = -1, /* settings: none, as those below that name no class */
+    QUOR_CONV_ITS90 = 0, /* settings: CQuorITS90 */
+    QUOR_CONV_IPTS68 = 1, /* settings: CQuorIPTS68 */
+    QUOR_CONV_CVD = 2, /* settings: CQuorCVD */
+    QUOR_CONV_HTPRT = 3, /* settings: CQuorHTPRT */
+    QUOR_CONV_POLYNOMIAL = 4, /* settings: CQuorPolynomial */
+    QUOR_CONV_THERMISTORT_R = 5, /* settings: CQuorThermistor, T(R) */
+    QUOR_CONV_THERMISTORR_T = 6, /* settings: CQuorThermistor, R(T) */
+    QUOR_CONV_TCPOLYNOMIAL = 7, /* settings: CQuorTCPolynomial */
+    QUOR_CONV_TCTABLE = 8, /* settings: CQuorTCTable */
+    QUOR_CONV_TCTYPEX = 9, /* settings: CQuorTCTypeX, of type K at first */
     QUOR_CONV_OHMS = 10,
     QUOR_CONV_VOLTS = 11,
     QUOR_CONV_IEC751 = 12,
     QUOR_CONV_YSI400 = 13,
-    QUOR_CONV_WT90 = 14,
+    QUOR_CONV_WT90 = 14, /* settings: CQuorWT90 */
     QUOR_CONV_RATIO = 15,
-    QUOR_CONV_PT100 = 16, /* has no settings object */
-    QUOR_CONV_ITSSR5 = 17,
+    QUOR_CONV_PT100 = 16, /* settings: none; CONV_PT100R0 has some */
+    QUOR_CONV_ITSSR5 = 17, /* settings: CQuorITS90, in range 5 */
     QUOR_CONV_THERMISTOR_OHMS = 18,
-    QUOR_CONV_PT100R0 = 19, /* has a CQuorPT100 */
-    QUOR_CONV_TCTYPEPOLY = 20
+    QUOR_CONV_PT100R0 = 19, /* settings: CQuorPT100 */
+    QUOR_CONV_TCTYPEPOLY = 20 /* settings: CQuorTCTypePoly, of type E at first */
 };
 
 typedef int32_t quor_EITS90RangeNumber;
@@ -516,8 +518,8 @@ enum {
 
 QUOR_API int32_t quor_conversion_create(quor_object platform, quor_object* result);
 /* Whether dialogs may change values; True at first. */
-QUOR_API int32_t quor_conversion_get_AllowEdit(quor_object conversion, int16_t* result);
-QUOR_API int32_t quor_conversion_put_AllowEdit(quor_object conversion, int16_t value);
+QUOR_API int32_t quor_conversion_get_AllowEdit(quor_object conversion, quor_bool* result);
+QUOR_API int32_t quor_conversion_put_AllowEdit(quor_object conversion, quor_bool value);
 /* The help file of the whole library in this process, not of this object. */
 QUOR_API int32_t quor_conversion_get_HelpFile(quor_object conversion, quor_text* result);
 QUOR_API int32_t quor_conversion_put_HelpFile(quor_object conversion, quor_text value);
@@ -526,8 +528,8 @@ QUOR_API int32_t quor_conversion_SetRegistry(quor_object conversion, quor_object
 /* The registry that was set; none at first. */
 QUOR_API int32_t quor_conversion_get_Registry(quor_object conversion, quor_object* result);
 /* Whether a value has been changed since a host last cleared the flag. No save clears it. */
-QUOR_API int32_t quor_conversion_get_Changed(quor_object conversion, int16_t* result);
-QUOR_API int32_t quor_conversion_put_Changed(quor_object conversion, int16_t value);
+QUOR_API int32_t quor_conversion_get_Changed(quor_object conversion, quor_bool* result);
+QUOR_API int32_t quor_conversion_put_Changed(quor_object conversion, quor_bool value);
 /* The folder in which file dialogs start; empty at first. */
 QUOR_API int32_t quor_conversion_get_FilePath(quor_object conversion, quor_text* result);
 QUOR_API int32_t quor_conversion_put_FilePath(quor_object conversion, quor_text value);
@@ -539,26 +541,26 @@ QUOR_API int32_t quor_conversion_put_ConversionType(quor_object conversion, quor
 /* The name of a conversion type, "<unknown>" for a code without one. -2: of the settings object. */
 QUOR_API int32_t quor_conversion_ConversionName(quor_object conversion, int32_t Value, quor_text* result);
 /* Shows the settings dialog. False when the user cancelled, or it failed, which was reported. */
-QUOR_API int32_t quor_conversion_Edit(quor_object conversion, int16_t* result);
+QUOR_API int32_t quor_conversion_Edit(quor_object conversion, quor_bool* result);
 /* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
 QUOR_API int32_t quor_conversion_WriteToFile(quor_object conversion, quor_object* INIFile, quor_text fname,
                                              quor_text secname);
-/* Reads the record. True when every key was found; otherwise the user is told. */
+/* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_conversion_ReadFromFile(quor_object conversion, quor_object* INIFile, quor_text fname,
-                                              quor_text secname, int16_t* result);
+                                              quor_text secname, quor_bool* result);
 
 /* CQuorITS90 */
 
 /* Whether dialogs may change values; True at first. */
-QUOR_API int32_t quor_its90_get_AllowEdit(quor_object its90, int16_t* result);
-QUOR_API int32_t quor_its90_put_AllowEdit(quor_object its90, int16_t value);
+QUOR_API int32_t quor_its90_get_AllowEdit(quor_object its90, quor_bool* result);
+QUOR_API int32_t quor_its90_put_AllowEdit(quor_object its90, quor_bool value);
 /* Keeps a reference to the host's registry, which may be none. */
 QUOR_API int32_t quor_its90_SetRegistry(quor_object its90, quor_object* vData);
 /* The registry that was set; none at first. */
 QUOR_API int32_t quor_its90_get_Registry(quor_object its90, quor_object* result);
 /* Whether a value has been changed since a host last cleared the flag. No save clears it. */
-QUOR_API int32_t quor_its90_get_Changed(quor_object its90, int16_t* result);
-QUOR_API int32_t quor_its90_put_Changed(quor_object its90, int16_t value);
+QUOR_API int32_t quor_its90_get_Changed(quor_object its90, quor_bool* result);
+QUOR_API int32_t quor_its90_put_Changed(quor_object its90, quor_bool value);
 /* The folder in which file dialogs start; empty at first. */
 QUOR_API int32_t quor_its90_get_FilePath(quor_object its90, quor_text* result);
 QUOR_API int32_t quor_its90_put_FilePath(quor_object its90, quor_text value);
@@ -573,39 +575,39 @@ QUOR_API int32_t quor_its90_put_RTPW(quor_object its90, double value);
 QUOR_API int32_t quor_its90_get_RTPWFormat(quor_object its90, quor_text* result);
 QUOR_API int32_t quor_its90_put_RTPWFormat(quor_object its90, quor_text value);
 /* Shows the settings dialog. False when the user cancelled, or it failed, which was reported. */
-QUOR_API int32_t quor_its90_Edit(quor_object its90, int16_t* result);
+QUOR_API int32_t quor_its90_Edit(quor_object its90, quor_bool* result);
 /* The display name. */
 QUOR_API int32_t quor_its90_GetName(quor_object its90, quor_text* result);
 /* Reads the settings file Filename, or the one that the user chooses. False when cancelled. */
 QUOR_API int32_t quor_its90_OpenFile(quor_object its90, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                     int16_t* result);
+                                     quor_bool* result);
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_its90_SaveFileAs(quor_object its90, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                       int16_t* result);
+                                       quor_bool* result);
 /* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
 QUOR_API int32_t quor_its90_WriteToFile(quor_object its90, quor_object* INIFile, quor_text fname, quor_text secname);
-/* Reads the record. True when every key was found; otherwise the user is told. */
+/* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_its90_ReadFromFile(quor_object its90, quor_object* INIFile, quor_text fname, quor_text secname,
-                                         int16_t* result);
+                                         quor_bool* result);
 
 /* CQuorITS90LowRange */
 
 /* Whether the dialog's labels carry the range number; True at first. Never a change. */
-QUOR_API int32_t quor_its90_low_range_get_ShowCoefRange(quor_object its90_low_range, int16_t* result);
-QUOR_API int32_t quor_its90_low_range_put_ShowCoefRange(quor_object its90_low_range, int16_t value);
+QUOR_API int32_t quor_its90_low_range_get_ShowCoefRange(quor_object its90_low_range, quor_bool* result);
+QUOR_API int32_t quor_its90_low_range_put_ShowCoefRange(quor_object its90_low_range, quor_bool value);
 /* Whether the dialog lets the user pick another range; True at first. Never a change. */
-QUOR_API int32_t quor_its90_low_range_get_AllowChangeRange(quor_object its90_low_range, int16_t* result);
-QUOR_API int32_t quor_its90_low_range_put_AllowChangeRange(quor_object its90_low_range, int16_t value);
+QUOR_API int32_t quor_its90_low_range_get_AllowChangeRange(quor_object its90_low_range, quor_bool* result);
+QUOR_API int32_t quor_its90_low_range_put_AllowChangeRange(quor_object its90_low_range, quor_bool value);
 /* Keeps a reference to the host's registry, which may be none. */
 QUOR_API int32_t quor_its90_low_range_SetRegistry(quor_object its90_low_range, quor_object* vData);
 /* The registry that was set; none at first. */
 QUOR_API int32_t quor_its90_low_range_get_Registry(quor_object its90_low_range, quor_object* result);
 /* Whether a value has been changed since a host last cleared the flag. No save clears it. */
-QUOR_API int32_t quor_its90_low_range_get_Changed(quor_object its90_low_range, int16_t* result);
-QUOR_API int32_t quor_its90_low_range_put_Changed(quor_object its90_low_range, int16_t value);
+QUOR_API int32_t quor_its90_low_range_get_Changed(quor_object its90_low_range, quor_bool* result);
+QUOR_API int32_t quor_its90_low_range_put_Changed(quor_object its90_low_range, quor_bool value);
 /* True at first. False selects the first range that is of this side alone. */
-QUOR_API int32_t quor_its90_low_range_get_RangeEnabled(quor_object its90_low_range, int16_t* result);
-QUOR_API int32_t quor_its90_low_range_put_RangeEnabled(quor_object its90_low_range, int16_t value);
+QUOR_API int32_t quor_its90_low_range_get_RangeEnabled(quor_object its90_low_range, quor_bool* result);
+QUOR_API int32_t quor_its90_low_range_put_RangeEnabled(quor_object its90_low_range, quor_bool value);
 /* The name of a range of this side, empty for any other value. -2: of the current one. */
 QUOR_API int32_t quor_its90_low_range_RangeName(quor_object its90_low_range, int32_t vData, quor_text* result);
 /* How many coefficients there are. */
@@ -632,28 +634,28 @@ QUOR_API int32_t quor_its90_low_range_FillRangeCombo(quor_object its90_low_range
 /* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
 QUOR_API int32_t quor_its90_low_range_WriteToFile(quor_object its90_low_range, quor_object* INIFile, quor_text fname,
                                                   quor_text secname);
-/* Reads the record. True when every key was found; otherwise the user is told. */
+/* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_its90_low_range_ReadFromFile(quor_object its90_low_range, quor_object* INIFile, quor_text fname,
-                                                   quor_text secname, int16_t* result);
+                                                   quor_text secname, quor_bool* result);
 
 /* CQuorITS90HighRange */
 
 /* Whether the dialog's labels carry the range number; True at first. Never a change. */
-QUOR_API int32_t quor_its90_high_range_get_ShowCoefRange(quor_object its90_high_range, int16_t* result);
-QUOR_API int32_t quor_its90_high_range_put_ShowCoefRange(quor_object its90_high_range, int16_t value);
+QUOR_API int32_t quor_its90_high_range_get_ShowCoefRange(quor_object its90_high_range, quor_bool* result);
+QUOR_API int32_t quor_its90_high_range_put_ShowCoefRange(quor_object its90_high_range, quor_bool value);
 /* Whether the dialog lets the user pick another range; True at first. Never a change. */
-QUOR_API int32_t quor_its90_high_range_get_AllowChangeRange(quor_object its90_high_range, int16_t* result);
-QUOR_API int32_t quor_its90_high_range_put_AllowChangeRange(quor_object its90_high_range, int16_t value);
+QUOR_API int32_t quor_its90_high_range_get_AllowChangeRange(quor_object its90_high_range, quor_bool* result);
+QUOR_API int32_t quor_its90_high_range_put_AllowChangeRange(quor_object its90_high_range, quor_bool value);
 /* Keeps a reference to the host's registry, which may be none. */
 QUOR_API int32_t quor_its90_high_range_SetRegistry(quor_object its90_high_range, quor_object* vData);
 /* The registry that was set; none at first. */
 QUOR_API int32_t quor_its90_high_range_get_Registry(quor_object its90_high_range, quor_object* result);
 /* Whether a value has been changed since a host last cleared the flag. No save clears it. */
-QUOR_API int32_t quor_its90_high_range_get_Changed(quor_object its90_high_range, int16_t* result);
-QUOR_API int32_t quor_its90_high_range_put_Changed(quor_object its90_high_range, int16_t value);
+QUOR_API int32_t quor_its90_high_range_get_Changed(quor_object its90_high_range, quor_bool* result);
+QUOR_API int32_t quor_its90_high_range_put_Changed(quor_object its90_high_range, quor_bool value);
 /* True at first. False selects the first range that is of this side alone. */
-QUOR_API int32_t quor_its90_high_range_get_RangeEnabled(quor_object its90_high_range, int16_t* result);
-QUOR_API int32_t quor_its90_high_range_put_RangeEnabled(quor_object its90_high_range, int16_t value);
+QUOR_API int32_t quor_its90_high_range_get_RangeEnabled(quor_object its90_high_range, quor_bool* result);
+QUOR_API int32_t quor_its90_high_range_put_RangeEnabled(quor_object its90_high_range, quor_bool value);
 /* The name of a range of this side, empty for any other value. -2: of the current one. */
 QUOR_API int32_t quor_its90_high_range_RangeName(quor_object its90_high_range, int32_t vData, quor_text* result);
 /* How many coefficients there are. */
@@ -680,28 +682,28 @@ QUOR_API int32_t quor_its90_high_range_FillRangeCombo(quor_object its90_high_ran
 /* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
 QUOR_API int32_t quor_its90_high_range_WriteToFile(quor_object its90_high_range, quor_object* INIFile,
                                                    quor_text fname, quor_text secname);
-/* Reads the record. True when every key was found; otherwise the user is told. */
+/* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_its90_high_range_ReadFromFile(quor_object its90_high_range, quor_object* INIFile,
-                                                    quor_text fname, quor_text secname, int16_t* result);
+                                                    quor_text fname, quor_text secname, quor_bool* result);
 
 /* CQuorIPTS68 */
 
 /* Whether dialogs may change values; True at first. */
-QUOR_API int32_t quor_ipts68_get_AllowEdit(quor_object ipts68, int16_t* result);
-QUOR_API int32_t quor_ipts68_put_AllowEdit(quor_object ipts68, int16_t value);
+QUOR_API int32_t quor_ipts68_get_AllowEdit(quor_object ipts68, quor_bool* result);
+QUOR_API int32_t quor_ipts68_put_AllowEdit(quor_object ipts68, quor_bool value);
 /* Keeps a reference to the host's registry, which may be none. */
 QUOR_API int32_t quor_ipts68_SetRegistry(quor_object ipts68, quor_object* vData);
 /* The registry that was set; none at first. */
 QUOR_API int32_t quor_ipts68_get_Registry(quor_object ipts68, quor_object* result);
 /* Whether a value has been changed since a host last cleared the flag. No save clears it. */
-QUOR_API int32_t quor_ipts68_get_Changed(quor_object ipts68, int16_t* result);
-QUOR_API int32_t quor_ipts68_put_Changed(quor_object ipts68, int16_t value);
+QUOR_API int32_t quor_ipts68_get_Changed(quor_object ipts68, quor_bool* result);
+QUOR_API int32_t quor_ipts68_put_Changed(quor_object ipts68, quor_bool value);
 /* The folder in which file dialogs start; empty at first. */
 QUOR_API int32_t quor_ipts68_get_FilePath(quor_object ipts68, quor_text* result);
 QUOR_API int32_t quor_ipts68_put_FilePath(quor_object ipts68, quor_text value);
 /* Whether the dialog offers the choice of the scale; False at first. Never a change. */
-QUOR_API int32_t quor_ipts68_get_ScaleEnabled(quor_object ipts68, int16_t* result);
-QUOR_API int32_t quor_ipts68_put_ScaleEnabled(quor_object ipts68, int16_t value);
+QUOR_API int32_t quor_ipts68_get_ScaleEnabled(quor_object ipts68, quor_bool* result);
+QUOR_API int32_t quor_ipts68_put_ScaleEnabled(quor_object ipts68, quor_bool value);
 /* How many coefficients there are. */
 QUOR_API int32_t quor_ipts68_get_NumCoefficients(quor_object ipts68, int16_t* result);
 /* The temperature scale of the instrument; SCALE_ITS90 at first. Any value is stored. */
@@ -718,34 +720,34 @@ QUOR_API int32_t quor_ipts68_put_ValueFormat(quor_object ipts68, quor_EIPTS68Coe
 /* Fills a list with the two scales, each with its value as item data. */
 QUOR_API int32_t quor_ipts68_FillScaleCombo(quor_object ipts68, quor_object ctrl);
 /* Shows the settings dialog. False when the user cancelled, or it failed, which was reported. */
-QUOR_API int32_t quor_ipts68_Edit(quor_object ipts68, int16_t* result);
+QUOR_API int32_t quor_ipts68_Edit(quor_object ipts68, quor_bool* result);
 /* The display name. */
 QUOR_API int32_t quor_ipts68_GetName(quor_object ipts68, quor_text* result);
 /* Reads the settings file Filename, or the one that the user chooses. False when cancelled. */
 QUOR_API int32_t quor_ipts68_OpenFile(quor_object ipts68, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                      int16_t* result);
+                                      quor_bool* result);
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_ipts68_SaveFileAs(quor_object ipts68, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                        int16_t* result);
+                                        quor_bool* result);
 /* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
 QUOR_API int32_t quor_ipts68_WriteToFile(quor_object ipts68, quor_object* INIFile, quor_text fname,
                                          quor_text secname);
-/* Reads the record. True when every key was found; otherwise the user is told. */
+/* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_ipts68_ReadFromFile(quor_object ipts68, quor_object* INIFile, quor_text fname,
-                                          quor_text secname, int16_t* result);
+                                          quor_text secname, quor_bool* result);
 
 /* CQuorCVD */
 
 /* Whether dialogs may change values; True at first. */
-QUOR_API int32_t quor_cvd_get_AllowEdit(quor_object cvd, int16_t* result);
-QUOR_API int32_t quor_cvd_put_AllowEdit(quor_object cvd, int16_t value);
+QUOR_API int32_t quor_cvd_get_AllowEdit(quor_object cvd, quor_bool* result);
+QUOR_API int32_t quor_cvd_put_AllowEdit(quor_object cvd, quor_bool value);
 /* Keeps a reference to the host's registry, which may be none. */
 QUOR_API int32_t quor_cvd_SetRegistry(quor_object cvd, quor_object* vData);
 /* The registry that was set; none at first. */
 QUOR_API int32_t quor_cvd_get_Registry(quor_object cvd, quor_object* result);
 /* Whether a value has been changed since a host last cleared the flag. No save clears it. */
-QUOR_API int32_t quor_cvd_get_Changed(quor_object cvd, int16_t* result);
-QUOR_API int32_t quor_cvd_put_Changed(quor_object cvd, int16_t value);
+QUOR_API int32_t quor_cvd_get_Changed(quor_object cvd, quor_bool* result);
+QUOR_API int32_t quor_cvd_put_Changed(quor_object cvd, quor_bool value);
 /* 4 at first. A negative value refuses every index until a valid one is set. */
 QUOR_API int32_t quor_cvd_get_NumCoefficients(quor_object cvd, int16_t* result);
 QUOR_API int32_t quor_cvd_put_NumCoefficients(quor_object cvd, int16_t value);
@@ -753,15 +755,15 @@ QUOR_API int32_t quor_cvd_put_NumCoefficients(quor_object cvd, int16_t value);
 QUOR_API int32_t quor_cvd_get_Coefficients(quor_object cvd, quor_ECVDCoefficients Index, double* result);
 QUOR_API int32_t quor_cvd_put_Coefficients(quor_object cvd, quor_ECVDCoefficients Index, double value);
 /* Whether the coefficients are those of the polynomial form. Never a change. */
-QUOR_API int32_t quor_cvd_get_UsePolynomial(quor_object cvd, int16_t* result);
-QUOR_API int32_t quor_cvd_put_UsePolynomial(quor_object cvd, int16_t value);
+QUOR_API int32_t quor_cvd_get_UsePolynomial(quor_object cvd, quor_bool* result);
+QUOR_API int32_t quor_cvd_put_UsePolynomial(quor_object cvd, quor_bool value);
 /* How the dialog shows a coefficient. Never a change. */
 QUOR_API int32_t quor_cvd_get_ValueFormat(quor_object cvd, quor_ECVDCoefficients Index, quor_text* result);
 QUOR_API int32_t quor_cvd_put_ValueFormat(quor_object cvd, quor_ECVDCoefficients Index, quor_text value);
 /* How many coefficients the class knows. */
 QUOR_API int32_t quor_cvd_MaxCoefficients(quor_object cvd, int16_t* result);
 /* Shows the settings dialog. False when the user cancelled, or it failed, which was reported. */
-QUOR_API int32_t quor_cvd_Edit(quor_object cvd, int16_t* result);
+QUOR_API int32_t quor_cvd_Edit(quor_object cvd, quor_bool* result);
 /* The display name. */
 QUOR_API int32_t quor_cvd_GetName(quor_object cvd, quor_text* result);
 /* The folder in which file dialogs start; empty at first. */
@@ -769,29 +771,29 @@ QUOR_API int32_t quor_cvd_get_FilePath(quor_object cvd, quor_text* result);
 QUOR_API int32_t quor_cvd_put_FilePath(quor_object cvd, quor_text value);
 /* Reads the settings file Filename, or the one that the user chooses. False when cancelled. */
 QUOR_API int32_t quor_cvd_OpenFile(quor_object cvd, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                   int16_t* result);
+                                   quor_bool* result);
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_cvd_SaveFileAs(quor_object cvd, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                     int16_t* result);
+                                     quor_bool* result);
 /* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
 QUOR_API int32_t quor_cvd_WriteToFile(quor_object cvd, quor_object* INIFile, quor_text fname, quor_text secname);
-/* Reads the record. True when every key was found; otherwise the user is told. */
+/* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_cvd_ReadFromFile(quor_object cvd, quor_object* INIFile, quor_text fname, quor_text secname,
-                                       int16_t* result);
+                                       quor_bool* result);
 
 /* CQuorPT100 */
 
 QUOR_API int32_t quor_pt100_create(quor_object platform, quor_object* result);
 /* Whether dialogs may change values; True at first. */
-QUOR_API int32_t quor_pt100_get_AllowEdit(quor_object pt100, int16_t* result);
-QUOR_API int32_t quor_pt100_put_AllowEdit(quor_object pt100, int16_t value);
+QUOR_API int32_t quor_pt100_get_AllowEdit(quor_object pt100, quor_bool* result);
+QUOR_API int32_t quor_pt100_put_AllowEdit(quor_object pt100, quor_bool value);
 /* Keeps a reference to the host's registry, which may be none. */
 QUOR_API int32_t quor_pt100_SetRegistry(quor_object pt100, quor_object* vData);
 /* The registry that was set; none at first. */
 QUOR_API int32_t quor_pt100_get_Registry(quor_object pt100, quor_object* result);
 /* Whether a value has been changed since a host last cleared the flag. No save clears it. */
-QUOR_API int32_t quor_pt100_get_Changed(quor_object pt100, int16_t* result);
-QUOR_API int32_t quor_pt100_put_Changed(quor_object pt100, int16_t value);
+QUOR_API int32_t quor_pt100_get_Changed(quor_object pt100, quor_bool* result);
+QUOR_API int32_t quor_pt100_put_Changed(quor_object pt100, quor_bool value);
 /* 1 at first. A negative value refuses every index until a valid one is set. */
 QUOR_API int32_t quor_pt100_get_NumCoefficients(quor_object pt100, int16_t* result);
 QUOR_API int32_t quor_pt100_put_NumCoefficients(quor_object pt100, int16_t value);
@@ -804,7 +806,7 @@ QUOR_API int32_t quor_pt100_put_ValueFormat(quor_object pt100, quor_EPT100Coeffi
 /* How many coefficients the class knows. */
 QUOR_API int32_t quor_pt100_MaxCoefficients(quor_object pt100, int16_t* result);
 /* Shows the settings dialog. False when the user cancelled, or it failed, which was reported. */
-QUOR_API int32_t quor_pt100_Edit(quor_object pt100, int16_t* result);
+QUOR_API int32_t quor_pt100_Edit(quor_object pt100, quor_bool* result);
 /* The display name. */
 QUOR_API int32_t quor_pt100_GetName(quor_object pt100, quor_text* result);
 /* The folder in which file dialogs start; empty at first. */
@@ -812,28 +814,28 @@ QUOR_API int32_t quor_pt100_get_FilePath(quor_object pt100, quor_text* result);
 QUOR_API int32_t quor_pt100_put_FilePath(quor_object pt100, quor_text value);
 /* Reads the settings file Filename, or the one that the user chooses. False when cancelled. */
 QUOR_API int32_t quor_pt100_OpenFile(quor_object pt100, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                     int16_t* result);
+                                     quor_bool* result);
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_pt100_SaveFileAs(quor_object pt100, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                       int16_t* result);
+                                       quor_bool* result);
 /* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
 QUOR_API int32_t quor_pt100_WriteToFile(quor_object pt100, quor_object* INIFile, quor_text fname, quor_text secname);
-/* Reads the record. True when every key was found; otherwise the user is told. */
+/* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_pt100_ReadFromFile(quor_object pt100, quor_object* INIFile, quor_text fname, quor_text secname,
-                                         int16_t* result);
+                                         quor_bool* result);
 
 /* CQuorHTPRT */
 
 /* Whether dialogs may change values; True at first. */
-QUOR_API int32_t quor_htprt_get_AllowEdit(quor_object htprt, int16_t* result);
-QUOR_API int32_t quor_htprt_put_AllowEdit(quor_object htprt, int16_t value);
+QUOR_API int32_t quor_htprt_get_AllowEdit(quor_object htprt, quor_bool* result);
+QUOR_API int32_t quor_htprt_put_AllowEdit(quor_object htprt, quor_bool value);
 /* Keeps a reference to the host's registry, which may be none. */
 QUOR_API int32_t quor_htprt_SetRegistry(quor_object htprt, quor_object* vData);
 /* The registry that was set; none at first. */
 QUOR_API int32_t quor_htprt_get_Registry(quor_object htprt, quor_object* result);
 /* Whether a value has been changed since a host last cleared the flag. No save clears it. */
-QUOR_API int32_t quor_htprt_get_Changed(quor_object htprt, int16_t* result);
-QUOR_API int32_t quor_htprt_put_Changed(quor_object htprt, int16_t value);
+QUOR_API int32_t quor_htprt_get_Changed(quor_object htprt, quor_bool* result);
+QUOR_API int32_t quor_htprt_put_Changed(quor_object htprt, quor_bool value);
 /* The folder in which file dialogs start; empty at first. */
 QUOR_API int32_t quor_htprt_get_FilePath(quor_object htprt, quor_text* result);
 QUOR_API int32_t quor_htprt_put_FilePath(quor_object htprt, quor_text value);
@@ -846,33 +848,33 @@ QUOR_API int32_t quor_htprt_put_Coefficients(quor_object htprt, quor_EHTPRTCoeff
 QUOR_API int32_t quor_htprt_get_ValueFormat(quor_object htprt, quor_EHTPRTCoefficients Index, quor_text* result);
 QUOR_API int32_t quor_htprt_put_ValueFormat(quor_object htprt, quor_EHTPRTCoefficients Index, quor_text value);
 /* Shows the settings dialog. False when the user cancelled, or it failed, which was reported. */
-QUOR_API int32_t quor_htprt_Edit(quor_object htprt, int16_t* result);
+QUOR_API int32_t quor_htprt_Edit(quor_object htprt, quor_bool* result);
 /* The display name. */
 QUOR_API int32_t quor_htprt_GetName(quor_object htprt, quor_text* result);
 /* Reads the settings file Filename, or the one that the user chooses. False when cancelled. */
 QUOR_API int32_t quor_htprt_OpenFile(quor_object htprt, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                     int16_t* result);
+                                     quor_bool* result);
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_htprt_SaveFileAs(quor_object htprt, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                       int16_t* result);
+                                       quor_bool* result);
 /* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
 QUOR_API int32_t quor_htprt_WriteToFile(quor_object htprt, quor_object* INIFile, quor_text fname, quor_text secname);
-/* Reads the record. True when every key was found; otherwise the user is told. */
+/* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_htprt_ReadFromFile(quor_object htprt, quor_object* INIFile, quor_text fname, quor_text secname,
-                                         int16_t* result);
+                                         quor_bool* result);
 
 /* CQuorWT90 */
 
 /* Whether dialogs may change values; True at first. */
-QUOR_API int32_t quor_wt90_get_AllowEdit(quor_object wt90, int16_t* result);
-QUOR_API int32_t quor_wt90_put_AllowEdit(quor_object wt90, int16_t value);
+QUOR_API int32_t quor_wt90_get_AllowEdit(quor_object wt90, quor_bool* result);
+QUOR_API int32_t quor_wt90_put_AllowEdit(quor_object wt90, quor_bool value);
 /* Keeps a reference to the host's registry, which may be none. */
 QUOR_API int32_t quor_wt90_SetRegistry(quor_object wt90, quor_object* vData);
 /* The registry that was set; none at first. */
 QUOR_API int32_t quor_wt90_get_Registry(quor_object wt90, quor_object* result);
 /* Whether a value has been changed since a host last cleared the flag. No save clears it. */
-QUOR_API int32_t quor_wt90_get_Changed(quor_object wt90, int16_t* result);
-QUOR_API int32_t quor_wt90_put_Changed(quor_object wt90, int16_t value);
+QUOR_API int32_t quor_wt90_get_Changed(quor_object wt90, quor_bool* result);
+QUOR_API int32_t quor_wt90_put_Changed(quor_object wt90, quor_bool value);
 /* The folder in which file dialogs start; empty at first. */
 QUOR_API int32_t quor_wt90_get_FilePath(quor_object wt90, quor_text* result);
 QUOR_API int32_t quor_wt90_put_FilePath(quor_object wt90, quor_text value);
@@ -883,33 +885,33 @@ QUOR_API int32_t quor_wt90_put_RTPW(quor_object wt90, double value);
 QUOR_API int32_t quor_wt90_get_RTPWFormat(quor_object wt90, quor_text* result);
 QUOR_API int32_t quor_wt90_put_RTPWFormat(quor_object wt90, quor_text value);
 /* Shows the settings dialog. False when the user cancelled, or it failed, which was reported. */
-QUOR_API int32_t quor_wt90_Edit(quor_object wt90, int16_t* result);
+QUOR_API int32_t quor_wt90_Edit(quor_object wt90, quor_bool* result);
 /* The display name. */
 QUOR_API int32_t quor_wt90_GetName(quor_object wt90, quor_text* result);
 /* Reads the settings file Filename, or the one that the user chooses. False when cancelled. */
 QUOR_API int32_t quor_wt90_OpenFile(quor_object wt90, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                    int16_t* result);
+                                    quor_bool* result);
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_wt90_SaveFileAs(quor_object wt90, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                      int16_t* result);
+                                      quor_bool* result);
 /* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
 QUOR_API int32_t quor_wt90_WriteToFile(quor_object wt90, quor_object* INIFile, quor_text fname, quor_text secname);
-/* Reads the record. True when every key was found; otherwise the user is told. */
+/* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_wt90_ReadFromFile(quor_object wt90, quor_object* INIFile, quor_text fname, quor_text secname,
-                                        int16_t* result);
+                                        quor_bool* result);
 
 /* CQuorThermistor */
 
 /* Whether dialogs may change values; True at first. */
-QUOR_API int32_t quor_thermistor_get_AllowEdit(quor_object thermistor, int16_t* result);
-QUOR_API int32_t quor_thermistor_put_AllowEdit(quor_object thermistor, int16_t value);
+QUOR_API int32_t quor_thermistor_get_AllowEdit(quor_object thermistor, quor_bool* result);
+QUOR_API int32_t quor_thermistor_put_AllowEdit(quor_object thermistor, quor_bool value);
 /* Keeps a reference to the host's registry, which may be none. */
 QUOR_API int32_t quor_thermistor_SetRegistry(quor_object thermistor, quor_object* vData);
 /* The registry that was set; none at first. */
 QUOR_API int32_t quor_thermistor_get_Registry(quor_object thermistor, quor_object* result);
 /* Whether a value has been changed since a host last cleared the flag. No save clears it. */
-QUOR_API int32_t quor_thermistor_get_Changed(quor_object thermistor, int16_t* result);
-QUOR_API int32_t quor_thermistor_put_Changed(quor_object thermistor, int16_t value);
+QUOR_API int32_t quor_thermistor_get_Changed(quor_object thermistor, quor_bool* result);
+QUOR_API int32_t quor_thermistor_put_Changed(quor_object thermistor, quor_bool value);
 /* The folder in which file dialogs start; empty at first. */
 QUOR_API int32_t quor_thermistor_get_FilePath(quor_object thermistor, quor_text* result);
 QUOR_API int32_t quor_thermistor_put_FilePath(quor_object thermistor, quor_text value);
@@ -929,34 +931,34 @@ QUOR_API int32_t quor_thermistor_put_Coefficients(quor_object thermistor, quor_E
 QUOR_API int32_t quor_thermistor_get_ValueFormat(quor_object thermistor, quor_text* result);
 QUOR_API int32_t quor_thermistor_put_ValueFormat(quor_object thermistor, quor_text value);
 /* Shows the settings dialog. False when the user cancelled, or it failed, which was reported. */
-QUOR_API int32_t quor_thermistor_Edit(quor_object thermistor, int16_t* result);
+QUOR_API int32_t quor_thermistor_Edit(quor_object thermistor, quor_bool* result);
 /* The display name. */
 QUOR_API int32_t quor_thermistor_GetName(quor_object thermistor, quor_text* result);
 /* Reads the settings file Filename, or the one that the user chooses. False when cancelled. */
 QUOR_API int32_t quor_thermistor_OpenFile(quor_object thermistor, int32_t hwnd, quor_text Filename,
-                                          quor_text* Filename_out, int16_t* result);
+                                          quor_text* Filename_out, quor_bool* result);
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_thermistor_SaveFileAs(quor_object thermistor, int32_t hwnd, quor_text Filename,
-                                            quor_text* Filename_out, int16_t* result);
+                                            quor_text* Filename_out, quor_bool* result);
 /* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
 QUOR_API int32_t quor_thermistor_WriteToFile(quor_object thermistor, quor_object* INIFile, quor_text fname,
                                              quor_text secname);
-/* Reads the record. True when every key was found; otherwise the user is told. */
+/* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_thermistor_ReadFromFile(quor_object thermistor, quor_object* INIFile, quor_text fname,
-                                              quor_text secname, int16_t* result);
+                                              quor_text secname, quor_bool* result);
 
 /* CQuorPolynomial */
 
 /* Whether dialogs may change values; True at first. */
-QUOR_API int32_t quor_polynomial_get_AllowEdit(quor_object polynomial, int16_t* result);
-QUOR_API int32_t quor_polynomial_put_AllowEdit(quor_object polynomial, int16_t value);
+QUOR_API int32_t quor_polynomial_get_AllowEdit(quor_object polynomial, quor_bool* result);
+QUOR_API int32_t quor_polynomial_put_AllowEdit(quor_object polynomial, quor_bool value);
 /* Keeps a reference to the host's registry, which may be none. */
 QUOR_API int32_t quor_polynomial_SetRegistry(quor_object polynomial, quor_object* vData);
 /* The registry that was set; none at first. */
 QUOR_API int32_t quor_polynomial_get_Registry(quor_object polynomial, quor_object* result);
 /* Whether a value has been changed since a host last cleared the flag. No save clears it. */
-QUOR_API int32_t quor_polynomial_get_Changed(quor_object polynomial, int16_t* result);
-QUOR_API int32_t quor_polynomial_put_Changed(quor_object polynomial, int16_t value);
+QUOR_API int32_t quor_polynomial_get_Changed(quor_object polynomial, quor_bool* result);
+QUOR_API int32_t quor_polynomial_put_Changed(quor_object polynomial, quor_bool value);
 /* The folder in which file dialogs start; empty at first. */
 QUOR_API int32_t quor_polynomial_get_FilePath(quor_object polynomial, quor_text* result);
 QUOR_API int32_t quor_polynomial_put_FilePath(quor_object polynomial, quor_text value);
@@ -978,21 +980,21 @@ QUOR_API int32_t quor_polynomial_get_Coefficients(quor_object polynomial, quor_E
 QUOR_API int32_t quor_polynomial_put_ValueFormat(quor_object polynomial, quor_text value);
 QUOR_API int32_t quor_polynomial_get_ValueFormat(quor_object polynomial, quor_text* result);
 /* Shows the settings dialog. False when the user cancelled, or it failed, which was reported. */
-QUOR_API int32_t quor_polynomial_Edit(quor_object polynomial, int16_t* result);
+QUOR_API int32_t quor_polynomial_Edit(quor_object polynomial, quor_bool* result);
 /* The display name. */
 QUOR_API int32_t quor_polynomial_GetName(quor_object polynomial, quor_text* result);
 /* Reads the settings file Filename, or the one that the user chooses. False when cancelled. */
 QUOR_API int32_t quor_polynomial_OpenFile(quor_object polynomial, int32_t hwnd, quor_text Filename,
-                                          quor_text* Filename_out, int16_t* result);
+                                          quor_text* Filename_out, quor_bool* result);
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_polynomial_SaveFileAs(quor_object polynomial, int32_t hwnd, quor_text Filename,
-                                            quor_text* Filename_out, int16_t* result);
+                                            quor_text* Filename_out, quor_bool* result);
 /* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
 QUOR_API int32_t quor_polynomial_WriteToFile(quor_object polynomial, quor_object* INIFile, quor_text fname,
                                              quor_text secname);
-/* Reads the record. True when every key was found; otherwise the user is told. */
+/* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_polynomial_ReadFromFile(quor_object polynomial, quor_object* INIFile, quor_text fname,
-                                              quor_text secname, int16_t* result);
+                                              quor_text secname, quor_bool* result);
 /* What the dialog's labels begin with: "A" gives "A0", "A1" and so on. Never a change. */
 QUOR_API int32_t quor_polynomial_put_CoefficientLabelPrefix(quor_object polynomial, quor_text value);
 QUOR_API int32_t quor_polynomial_get_CoefficientLabelPrefix(quor_object polynomial, quor_text* result);
@@ -1006,18 +1008,18 @@ QUOR_API int32_t quor_tc_polynomial_put_mV25CFormat(quor_object tc_polynomial, q
 QUOR_API int32_t quor_tc_polynomial_get_mV25C(quor_object tc_polynomial, double* result);
 QUOR_API int32_t quor_tc_polynomial_put_mV25C(quor_object tc_polynomial, double value);
 /* Whether the dialog shows mV25C; False at first. Never a change. */
-QUOR_API int32_t quor_tc_polynomial_get_ShowmV25C(quor_object tc_polynomial, int16_t* result);
-QUOR_API int32_t quor_tc_polynomial_put_ShowmV25C(quor_object tc_polynomial, int16_t value);
+QUOR_API int32_t quor_tc_polynomial_get_ShowmV25C(quor_object tc_polynomial, quor_bool* result);
+QUOR_API int32_t quor_tc_polynomial_put_ShowmV25C(quor_object tc_polynomial, quor_bool value);
 /* Whether dialogs may change values; True at first. */
-QUOR_API int32_t quor_tc_polynomial_get_AllowEdit(quor_object tc_polynomial, int16_t* result);
-QUOR_API int32_t quor_tc_polynomial_put_AllowEdit(quor_object tc_polynomial, int16_t value);
+QUOR_API int32_t quor_tc_polynomial_get_AllowEdit(quor_object tc_polynomial, quor_bool* result);
+QUOR_API int32_t quor_tc_polynomial_put_AllowEdit(quor_object tc_polynomial, quor_bool value);
 /* Keeps a reference to the host's registry, which may be none. */
 QUOR_API int32_t quor_tc_polynomial_SetRegistry(quor_object tc_polynomial, quor_object* vData);
 /* The registry that was set; none at first. */
 QUOR_API int32_t quor_tc_polynomial_get_Registry(quor_object tc_polynomial, quor_object* result);
 /* Whether a value has been changed since a host last cleared the flag. No save clears it. */
-QUOR_API int32_t quor_tc_polynomial_get_Changed(quor_object tc_polynomial, int16_t* result);
-QUOR_API int32_t quor_tc_polynomial_put_Changed(quor_object tc_polynomial, int16_t value);
+QUOR_API int32_t quor_tc_polynomial_get_Changed(quor_object tc_polynomial, quor_bool* result);
+QUOR_API int32_t quor_tc_polynomial_put_Changed(quor_object tc_polynomial, quor_bool value);
 /* The folder in which file dialogs start; empty at first. */
 QUOR_API int32_t quor_tc_polynomial_get_FilePath(quor_object tc_polynomial, quor_text* result);
 QUOR_API int32_t quor_tc_polynomial_put_FilePath(quor_object tc_polynomial, quor_text value);
@@ -1033,34 +1035,34 @@ QUOR_API int32_t quor_tc_polynomial_put_Coefficients(quor_object tc_polynomial, 
 QUOR_API int32_t quor_tc_polynomial_get_ValueFormat(quor_object tc_polynomial, quor_text* result);
 QUOR_API int32_t quor_tc_polynomial_put_ValueFormat(quor_object tc_polynomial, quor_text value);
 /* Shows the settings dialog. False when the user cancelled, or it failed, which was reported. */
-QUOR_API int32_t quor_tc_polynomial_Edit(quor_object tc_polynomial, int16_t* result);
+QUOR_API int32_t quor_tc_polynomial_Edit(quor_object tc_polynomial, quor_bool* result);
 /* The display name. */
 QUOR_API int32_t quor_tc_polynomial_GetName(quor_object tc_polynomial, quor_text* result);
 /* Reads the settings file Filename, or the one that the user chooses. False when cancelled. */
 QUOR_API int32_t quor_tc_polynomial_OpenFile(quor_object tc_polynomial, int32_t hwnd, quor_text Filename,
-                                             quor_text* Filename_out, int16_t* result);
+                                             quor_text* Filename_out, quor_bool* result);
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_tc_polynomial_SaveFileAs(quor_object tc_polynomial, int32_t hwnd, quor_text Filename,
-                                               quor_text* Filename_out, int16_t* result);
+                                               quor_text* Filename_out, quor_bool* result);
 /* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
 QUOR_API int32_t quor_tc_polynomial_WriteToFile(quor_object tc_polynomial, quor_object* INIFile, quor_text fname,
                                                 quor_text secname);
-/* Reads the record. True when every key was found; otherwise the user is told. */
+/* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_tc_polynomial_ReadFromFile(quor_object tc_polynomial, quor_object* INIFile, quor_text fname,
-                                                 quor_text secname, int16_t* result);
+                                                 quor_text secname, quor_bool* result);
 
 /* CQuorTCTable */
 
 /* Whether dialogs may change values; True at first. */
-QUOR_API int32_t quor_tc_table_get_AllowEdit(quor_object tc_table, int16_t* result);
-QUOR_API int32_t quor_tc_table_put_AllowEdit(quor_object tc_table, int16_t value);
+QUOR_API int32_t quor_tc_table_get_AllowEdit(quor_object tc_table, quor_bool* result);
+QUOR_API int32_t quor_tc_table_put_AllowEdit(quor_object tc_table, quor_bool value);
 /* Keeps a reference to the host's registry, which may be none. */
 QUOR_API int32_t quor_tc_table_SetRegistry(quor_object tc_table, quor_object* vData);
 /* The registry that was set; none at first. */
 QUOR_API int32_t quor_tc_table_get_Registry(quor_object tc_table, quor_object* result);
 /* Whether a value has been changed since a host last cleared the flag. No save clears it. */
-QUOR_API int32_t quor_tc_table_get_Changed(quor_object tc_table, int16_t* result);
-QUOR_API int32_t quor_tc_table_put_Changed(quor_object tc_table, int16_t value);
+QUOR_API int32_t quor_tc_table_get_Changed(quor_object tc_table, quor_bool* result);
+QUOR_API int32_t quor_tc_table_put_Changed(quor_object tc_table, quor_bool value);
 /* The folder in which file dialogs start; empty at first. */
 QUOR_API int32_t quor_tc_table_get_FilePath(quor_object tc_table, quor_text* result);
 QUOR_API int32_t quor_tc_table_put_FilePath(quor_object tc_table, quor_text value);
@@ -1087,39 +1089,39 @@ QUOR_API int32_t quor_tc_table_put_TempScale(quor_object tc_table, quor_text val
 QUOR_API int32_t quor_tc_table_get_VoltageScale(quor_object tc_table, quor_text* result);
 QUOR_API int32_t quor_tc_table_put_VoltageScale(quor_object tc_table, quor_text value);
 /* Shows the settings dialog. False when the user cancelled, or it failed, which was reported. */
-QUOR_API int32_t quor_tc_table_Edit(quor_object tc_table, int16_t* result);
+QUOR_API int32_t quor_tc_table_Edit(quor_object tc_table, quor_bool* result);
 /* The display name. */
 QUOR_API int32_t quor_tc_table_GetName(quor_object tc_table, quor_text* result);
 /* Fills a list with the counts that can be chosen, each with its number as item data. */
 QUOR_API int32_t quor_tc_table_FillPointsCombo(quor_object tc_table, quor_object ctrl);
 /* Reads the settings file Filename, or the one that the user chooses. False when cancelled. */
 QUOR_API int32_t quor_tc_table_OpenFile(quor_object tc_table, int32_t hwnd, quor_text Filename,
-                                        quor_text* Filename_out, int16_t* result);
+                                        quor_text* Filename_out, quor_bool* result);
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_tc_table_SaveFileAs(quor_object tc_table, int32_t hwnd, quor_text Filename,
-                                          quor_text* Filename_out, int16_t* result);
+                                          quor_text* Filename_out, quor_bool* result);
 /* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
 QUOR_API int32_t quor_tc_table_WriteToFile(quor_object tc_table, quor_object* INIFile, quor_text fname,
                                            quor_text secname);
-/* Reads the record. True when every key was found; otherwise the user is told. */
+/* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_tc_table_ReadFromFile(quor_object tc_table, quor_object* INIFile, quor_text fname,
-                                            quor_text secname, int16_t* result);
+                                            quor_text secname, quor_bool* result);
 
 /* CQuorTCTypeX */
 
 /* Whether the dialog shows the DC coefficients; True at first. Never a change. */
-QUOR_API int32_t quor_tc_typex_get_ShowDCCoefs(quor_object tc_typex, int16_t* result);
-QUOR_API int32_t quor_tc_typex_put_ShowDCCoefs(quor_object tc_typex, int16_t value);
+QUOR_API int32_t quor_tc_typex_get_ShowDCCoefs(quor_object tc_typex, quor_bool* result);
+QUOR_API int32_t quor_tc_typex_put_ShowDCCoefs(quor_object tc_typex, quor_bool value);
 /* Whether dialogs may change values; True at first. */
-QUOR_API int32_t quor_tc_typex_get_AllowEdit(quor_object tc_typex, int16_t* result);
-QUOR_API int32_t quor_tc_typex_put_AllowEdit(quor_object tc_typex, int16_t value);
+QUOR_API int32_t quor_tc_typex_get_AllowEdit(quor_object tc_typex, quor_bool* result);
+QUOR_API int32_t quor_tc_typex_put_AllowEdit(quor_object tc_typex, quor_bool value);
 /* Keeps a reference to the host's registry, which may be none. */
 QUOR_API int32_t quor_tc_typex_SetRegistry(quor_object tc_typex, quor_object* vData);
 /* The registry that was set; none at first. */
 QUOR_API int32_t quor_tc_typex_get_Registry(quor_object tc_typex, quor_object* result);
 /* Whether a value has been changed since a host last cleared the flag. No save clears it. */
-QUOR_API int32_t quor_tc_typex_get_Changed(quor_object tc_typex, int16_t* result);
-QUOR_API int32_t quor_tc_typex_put_Changed(quor_object tc_typex, int16_t value);
+QUOR_API int32_t quor_tc_typex_get_Changed(quor_object tc_typex, quor_bool* result);
+QUOR_API int32_t quor_tc_typex_put_Changed(quor_object tc_typex, quor_bool value);
 /* The unit text beside temperatures; it converts nothing. */
 QUOR_API int32_t quor_tc_typex_get_TempScale(quor_object tc_typex, quor_text* result);
 QUOR_API int32_t quor_tc_typex_put_TempScale(quor_object tc_typex, quor_text value);
@@ -1160,37 +1162,37 @@ QUOR_API int32_t quor_tc_typex_put_ValueFormat(quor_object tc_typex, quor_text v
 QUOR_API int32_t quor_tc_typex_get_OffsetFormat(quor_object tc_typex, quor_text* result);
 QUOR_API int32_t quor_tc_typex_put_OffsetFormat(quor_object tc_typex, quor_text value);
 /* Shows the settings dialog. False when the user cancelled, or it failed, which was reported. */
-QUOR_API int32_t quor_tc_typex_Edit(quor_object tc_typex, int16_t* result);
+QUOR_API int32_t quor_tc_typex_Edit(quor_object tc_typex, quor_bool* result);
 /* The plain name of a type. -2: of the current one, behind "TC Type ". */
 QUOR_API int32_t quor_tc_typex_GetName(quor_object tc_typex, int32_t tc, quor_text* result);
 /* Fills a list with the counts that can be chosen, each with its number as item data. */
 QUOR_API int32_t quor_tc_typex_FillPointsCombo(quor_object tc_typex, quor_object ctrl);
 /* Reads the settings file Filename, or the one that the user chooses. False when cancelled. */
 QUOR_API int32_t quor_tc_typex_OpenFile(quor_object tc_typex, int32_t hwnd, quor_text Filename,
-                                        quor_text* Filename_out, int16_t* result);
+                                        quor_text* Filename_out, quor_bool* result);
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_tc_typex_SaveFileAs(quor_object tc_typex, int32_t hwnd, quor_text Filename,
-                                          quor_text* Filename_out, int16_t* result);
+                                          quor_text* Filename_out, quor_bool* result);
 /* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
 QUOR_API int32_t quor_tc_typex_WriteToFile(quor_object tc_typex, quor_object* INIFile, quor_text fname,
                                            quor_text secname);
-/* Reads the record. True when every key was found; otherwise the user is told. */
+/* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_tc_typex_ReadFromFile(quor_object tc_typex, quor_object* INIFile, quor_text fname,
-                                            quor_text secname, int16_t* result);
+                                            quor_text secname, quor_bool* result);
 
 /* CQuorTCTypePoly */
 
 QUOR_API int32_t quor_tc_typepoly_create(quor_object platform, quor_object* result);
 /* Whether dialogs may change values; True at first. */
-QUOR_API int32_t quor_tc_typepoly_get_AllowEdit(quor_object tc_typepoly, int16_t* result);
-QUOR_API int32_t quor_tc_typepoly_put_AllowEdit(quor_object tc_typepoly, int16_t value);
+QUOR_API int32_t quor_tc_typepoly_get_AllowEdit(quor_object tc_typepoly, quor_bool* result);
+QUOR_API int32_t quor_tc_typepoly_put_AllowEdit(quor_object tc_typepoly, quor_bool value);
 /* Keeps a reference to the host's registry, which may be none. */
 QUOR_API int32_t quor_tc_typepoly_SetRegistry(quor_object tc_typepoly, quor_object* vData);
 /* The registry that was set; none at first. */
 QUOR_API int32_t quor_tc_typepoly_get_Registry(quor_object tc_typepoly, quor_object* result);
 /* Whether a value has been changed since a host last cleared the flag. No save clears it. */
-QUOR_API int32_t quor_tc_typepoly_get_Changed(quor_object tc_typepoly, int16_t* result);
-QUOR_API int32_t quor_tc_typepoly_put_Changed(quor_object tc_typepoly, int16_t value);
+QUOR_API int32_t quor_tc_typepoly_get_Changed(quor_object tc_typepoly, quor_bool* result);
+QUOR_API int32_t quor_tc_typepoly_put_Changed(quor_object tc_typepoly, quor_bool value);
 /* The folder in which file dialogs start; empty at first. */
 QUOR_API int32_t quor_tc_typepoly_get_FilePath(quor_object tc_typepoly, quor_text* result);
 QUOR_API int32_t quor_tc_typepoly_put_FilePath(quor_object tc_typepoly, quor_text value);
@@ -1213,21 +1215,21 @@ QUOR_API int32_t quor_tc_typepoly_GetTCTypeName(quor_object tc_typepoly, int32_t
 /* Fills a list with the types that have names, each with its value as item data. */
 QUOR_API int32_t quor_tc_typepoly_FillTCTypeNameCombo(quor_object tc_typepoly, quor_object ctrl);
 /* Shows the settings dialog. False when the user cancelled, or it failed, which was reported. */
-QUOR_API int32_t quor_tc_typepoly_Edit(quor_object tc_typepoly, int16_t* result);
+QUOR_API int32_t quor_tc_typepoly_Edit(quor_object tc_typepoly, quor_bool* result);
 /* The plain name of a type. -2: of the current one, behind "TC Type ". */
 QUOR_API int32_t quor_tc_typepoly_GetName(quor_object tc_typepoly, int32_t tc, quor_text* result);
 /* Reads the settings file Filename, or the one that the user chooses. False when cancelled. */
 QUOR_API int32_t quor_tc_typepoly_OpenFile(quor_object tc_typepoly, int32_t hwnd, quor_text Filename,
-                                           quor_text* Filename_out, int16_t* result);
+                                           quor_text* Filename_out, quor_bool* result);
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_tc_typepoly_SaveFileAs(quor_object tc_typepoly, int32_t hwnd, quor_text Filename,
-                                             quor_text* Filename_out, int16_t* result);
+                                             quor_text* Filename_out, quor_bool* result);
 /* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
 QUOR_API int32_t quor_tc_typepoly_WriteToFile(quor_object tc_typepoly, quor_object* INIFile, quor_text fname,
                                               quor_text secname);
-/* Reads the record. True when every key was found; otherwise the user is told. */
+/* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_tc_typepoly_ReadFromFile(quor_object tc_typepoly, quor_object* INIFile, quor_text fname,
-                                               quor_text secname, int16_t* result);
+                                               quor_text secname, quor_bool* result);
 
 /* INIFile. An INI file: the built-in store, or what a host offers (quor_inifile_from_host). */
 
@@ -1239,16 +1241,16 @@ QUOR_API int32_t quor_inifile_get_FileName(quor_object inifile, quor_text* resul
 QUOR_API int32_t quor_inifile_put_Section(quor_object inifile, quor_text value);
 QUOR_API int32_t quor_inifile_get_Section(quor_object inifile, quor_text* result);
 /* True when the key was found, with a value of that kind, which Value is then. */
-QUOR_API int32_t quor_inifile_ReadBoolean(quor_object inifile, quor_text Key, int16_t* Value, int16_t* result);
+QUOR_API int32_t quor_inifile_ReadBoolean(quor_object inifile, quor_text Key, quor_bool* Value, quor_bool* result);
 /* True when the key was found, with a value of that kind, which Value is then. */
-QUOR_API int32_t quor_inifile_ReadDouble(quor_object inifile, quor_text Key, double* Value, int16_t* result);
+QUOR_API int32_t quor_inifile_ReadDouble(quor_object inifile, quor_text Key, double* Value, quor_bool* result);
 /* True when the key was found, with a value of that kind, which Value is then. */
-QUOR_API int32_t quor_inifile_ReadInteger(quor_object inifile, quor_text Key, int16_t* Value, int16_t* result);
+QUOR_API int32_t quor_inifile_ReadInteger(quor_object inifile, quor_text Key, int16_t* Value, quor_bool* result);
 /* True when the key was found; Value is its text then. */
 QUOR_API int32_t quor_inifile_ReadString(quor_object inifile, quor_text Key, quor_text Value, quor_text* Value_out,
-                                         int16_t* result);
+                                         quor_bool* result);
 /* Writes a value under a key. */
-QUOR_API int32_t quor_inifile_WriteBoolean(quor_object inifile, quor_text Key, int16_t Value);
+QUOR_API int32_t quor_inifile_WriteBoolean(quor_object inifile, quor_text Key, quor_bool Value);
 /* Writes a value under a key. A Comment stands behind it in the file. */
 QUOR_API int32_t quor_inifile_WriteDouble(quor_object inifile, quor_text Key, double Value, quor_text Comment);
 /* Writes a value under a key. A Comment stands behind it in the file. */
@@ -1268,7 +1270,7 @@ QUOR_API int32_t quor_inifile_Abandon(quor_object inifile);
 QUOR_API int32_t quor_registry_create(quor_text application, quor_text folder, quor_object* result);
 /* True when the value was found; Value is its text then. */
 QUOR_API int32_t quor_registry_ReadValue(quor_object registry, quor_text Section, quor_text Name, quor_text Value,
-                                         quor_text* Value_out, int16_t* result);
+                                         quor_text* Value_out, quor_bool* result);
 /* Keeps a value for later runs. */
 QUOR_API int32_t quor_registry_WriteValue(quor_object registry, quor_text Section, quor_text Name, quor_text Value);
 
@@ -1307,7 +1309,7 @@ QUOR_API int32_t quor_dialog_get_CancelButton(quor_object dialog, quor_object* r
 QUOR_API int32_t quor_dialog_get_WindowHandle(quor_object dialog, int32_t* result);
 QUOR_API int32_t quor_dialog_put_WindowHandle(quor_object dialog, int32_t value);
 /* Whether it is known where the window stands. */
-QUOR_API int32_t quor_dialog_get_HasPlace(quor_object dialog, int16_t* result);
+QUOR_API int32_t quor_dialog_get_HasPlace(quor_object dialog, quor_bool* result);
 /* Where the window stands, in units of whoever shows it; 0 when it is not known. */
 QUOR_API int32_t quor_dialog_get_Left(quor_object dialog, int32_t* result);
 /* Where the window stands, in units of whoever shows it; 0 when it is not known. */
@@ -1315,7 +1317,7 @@ QUOR_API int32_t quor_dialog_get_Top(quor_object dialog, int32_t* result);
 /* Tells where the window stands now. */
 QUOR_API int32_t quor_dialog_SetPlace(quor_object dialog, int32_t Left, int32_t Top);
 /* False when the dialog was left: the run is to end. */
-QUOR_API int32_t quor_dialog_get_IsOpen(quor_object dialog, int16_t* result);
+QUOR_API int32_t quor_dialog_get_IsOpen(quor_object dialog, quor_bool* result);
 /* The control that has the focus; none before the first one has got it. */
 QUOR_API int32_t quor_dialog_get_ActiveControl(quor_object dialog, quor_object* result);
 /* The window has become the active one. Say it once the window is shown. */
@@ -1329,7 +1331,7 @@ QUOR_API int32_t quor_dialog_SelectTab(quor_object dialog, quor_object Tabs, int
 /* The user went to a control. */
 QUOR_API int32_t quor_dialog_Focus(quor_object dialog, quor_object Control);
 /* The Tab key, with Shift when Backwards. */
-QUOR_API int32_t quor_dialog_PressTab(quor_object dialog, int16_t Backwards);
+QUOR_API int32_t quor_dialog_PressTab(quor_object dialog, quor_bool Backwards);
 /* A key was pressed in the box that has the focus. The key that counts: another one, or 0 for none. */
 QUOR_API int32_t quor_dialog_KeyPress(quor_object dialog, int16_t KeyAscii, int16_t* result);
 /* Text and selection of a box are what the user has made them. Counted in characters (code points). */
@@ -1349,13 +1351,13 @@ QUOR_API int32_t quor_control_get_Kind(quor_object control, quor_EControlKind* r
 /* What stands on the control; "&" marks the access key that follows it. */
 QUOR_API int32_t quor_control_get_Caption(quor_object control, quor_text* result);
 /* Whether the control is enabled. */
-QUOR_API int32_t quor_control_get_Enabled(quor_object control, int16_t* result);
+QUOR_API int32_t quor_control_get_Enabled(quor_object control, quor_bool* result);
 /* The control's own flag: also True on a page that is not shown. */
-QUOR_API int32_t quor_control_get_Visible(quor_object control, int16_t* result);
+QUOR_API int32_t quor_control_get_Visible(quor_object control, quor_bool* result);
 /* Whether the control and the frames around it are visible. */
-QUOR_API int32_t quor_control_get_IsShown(quor_object control, int16_t* result);
+QUOR_API int32_t quor_control_get_IsShown(quor_object control, quor_bool* result);
 /* Whether the user can act on it. */
-QUOR_API int32_t quor_control_get_IsUsable(quor_object control, int16_t* result);
+QUOR_API int32_t quor_control_get_IsUsable(quor_object control, quor_bool* result);
 /* The frame around it; none for a control that stands in the dialog itself. */
 QUOR_API int32_t quor_control_get_Parent(quor_object control, quor_object* result);
 /* The text of a text box. */
@@ -1383,7 +1385,7 @@ QUOR_API int32_t quor_control_get_TabCount(quor_object control, int32_t* result)
 /* The caption of a tab, from 0. */
 QUOR_API int32_t quor_control_get_TabCaption(quor_object control, int32_t Index, quor_text* result);
 /* False for a tab that was taken out. */
-QUOR_API int32_t quor_control_get_TabPresent(quor_object control, int32_t Index, int16_t* result);
+QUOR_API int32_t quor_control_get_TabPresent(quor_object control, int32_t Index, quor_bool* result);
 /* The selected tab, from 0. */
 QUOR_API int32_t quor_control_get_SelectedTab(quor_object control, int32_t* result);
 

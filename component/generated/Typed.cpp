@@ -170,11 +170,11 @@ int32_t quor_conversion_create(quor_object platform, quor_object* result) {
     return Guarded([&] { Out(result, std::shared_ptr<CQuorConversion>(std::make_shared<CQuorConversion>(AnyOrNone<Platform>(platform)))); });
 }
 
-int32_t quor_conversion_get_AllowEdit(quor_object conversion, int16_t* result) {
+int32_t quor_conversion_get_AllowEdit(quor_object conversion, quor_bool* result) {
     return Call<CQuorConversion>(conversion, [&](auto& it) { Out(result, it.AllowEdit()); });
 }
 
-int32_t quor_conversion_put_AllowEdit(quor_object conversion, int16_t value) {
+int32_t quor_conversion_put_AllowEdit(quor_object conversion, quor_bool value) {
     return Call<CQuorConversion>(conversion, [&](auto& it) { it.SetAllowEdit(value != 0); });
 }
 
@@ -198,11 +198,11 @@ int32_t quor_conversion_get_Registry(quor_object conversion, quor_object* result
     return Call<CQuorConversion>(conversion, [&](auto& it) { Out(result, it.Registry()); });
 }
 
-int32_t quor_conversion_get_Changed(quor_object conversion, int16_t* result) {
+int32_t quor_conversion_get_Changed(quor_object conversion, quor_bool* result) {
     return Call<CQuorConversion>(conversion, [&](auto& it) { Out(result, it.Changed()); });
 }
 
-int32_t quor_conversion_put_Changed(quor_object conversion, int16_t value) {
+int32_t quor_conversion_put_Changed(quor_object conversion, quor_bool value) {
     return Call<CQuorConversion>(conversion, [&](auto& it) { it.SetChanged(value != 0); });
 }
 
@@ -230,7 +230,7 @@ int32_t quor_conversion_ConversionName(quor_object conversion, int32_t Value, qu
     return Call<CQuorConversion>(conversion, [&](auto& it) { Out(result, it.ConversionName(Value)); });
 }
 
-int32_t quor_conversion_Edit(quor_object conversion, int16_t* result) {
+int32_t quor_conversion_Edit(quor_object conversion, quor_bool* result) {
     return Call<CQuorConversion>(conversion, [&](auto& it) { Out(result, it.Edit()); });
 }
 
@@ -244,7 +244,7 @@ int32_t quor_conversion_WriteToFile(quor_object conversion, quor_object* INIFile
 }
 
 int32_t quor_conversion_ReadFromFile(quor_object conversion, quor_object* INIFile, quor_text fname, quor_text secname,
-                                     int16_t* result) {
+                                     quor_bool* result) {
     return Call<CQuorConversion>(conversion, [&](auto& it) {
         InOutReference<QuorIniFile::INIFile> INIFile_reference(INIFile);
         const auto given = it.ReadFromFile(INIFile_reference.Pointer(), Wide(fname), Wide(secname));
@@ -253,11 +253,11 @@ int32_t quor_conversion_ReadFromFile(quor_object conversion, quor_object* INIFil
     });
 }
 
-int32_t quor_its90_get_AllowEdit(quor_object its90, int16_t* result) {
+int32_t quor_its90_get_AllowEdit(quor_object its90, quor_bool* result) {
     return Call<CQuorITS90>(its90, [&](auto& it) { Out(result, it.AllowEdit()); });
 }
 
-int32_t quor_its90_put_AllowEdit(quor_object its90, int16_t value) {
+int32_t quor_its90_put_AllowEdit(quor_object its90, quor_bool value) {
     return Call<CQuorITS90>(its90, [&](auto& it) { it.SetAllowEdit(value != 0); });
 }
 
@@ -273,11 +273,11 @@ int32_t quor_its90_get_Registry(quor_object its90, quor_object* result) {
     return Call<CQuorITS90>(its90, [&](auto& it) { Out(result, it.Registry()); });
 }
 
-int32_t quor_its90_get_Changed(quor_object its90, int16_t* result) {
+int32_t quor_its90_get_Changed(quor_object its90, quor_bool* result) {
     return Call<CQuorITS90>(its90, [&](auto& it) { Out(result, it.Changed()); });
 }
 
-int32_t quor_its90_put_Changed(quor_object its90, int16_t value) {
+int32_t quor_its90_put_Changed(quor_object its90, quor_bool value) {
     return Call<CQuorITS90>(its90, [&](auto& it) { it.SetChanged(value != 0); });
 }
 
@@ -313,7 +313,7 @@ int32_t quor_its90_put_RTPWFormat(quor_object its90, quor_text value) {
     return Call<CQuorITS90>(its90, [&](auto& it) { it.SetRTPWFormat(Wide(value)); });
 }
 
-int32_t quor_its90_Edit(quor_object its90, int16_t* result) {
+int32_t quor_its90_Edit(quor_object its90, quor_bool* result) {
     return Call<CQuorITS90>(its90, [&](auto& it) { Out(result, it.Edit()); });
 }
 
@@ -322,7 +322,7 @@ int32_t quor_its90_GetName(quor_object its90, quor_text* result) {
 }
 
 int32_t quor_its90_OpenFile(quor_object its90, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                            int16_t* result) {
+                            quor_bool* result) {
     return Call<CQuorITS90>(its90, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.OpenFile(hwnd, Filename_text);
@@ -332,7 +332,7 @@ int32_t quor_its90_OpenFile(quor_object its90, int32_t hwnd, quor_text Filename,
 }
 
 int32_t quor_its90_SaveFileAs(quor_object its90, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                              int16_t* result) {
+                              quor_bool* result) {
     return Call<CQuorITS90>(its90, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.SaveFileAs(hwnd, Filename_text);
@@ -350,7 +350,7 @@ int32_t quor_its90_WriteToFile(quor_object its90, quor_object* INIFile, quor_tex
 }
 
 int32_t quor_its90_ReadFromFile(quor_object its90, quor_object* INIFile, quor_text fname, quor_text secname,
-                                int16_t* result) {
+                                quor_bool* result) {
     return Call<CQuorITS90>(its90, [&](auto& it) {
         InOutReference<QuorIniFile::INIFile> INIFile_reference(INIFile);
         const auto given = it.ReadFromFile(INIFile_reference.Pointer(), Wide(fname), Wide(secname));
@@ -359,19 +359,19 @@ int32_t quor_its90_ReadFromFile(quor_object its90, quor_object* INIFile, quor_te
     });
 }
 
-int32_t quor_its90_low_range_get_ShowCoefRange(quor_object its90_low_range, int16_t* result) {
+int32_t quor_its90_low_range_get_ShowCoefRange(quor_object its90_low_range, quor_bool* result) {
     return Call<CQuorITS90LowRange>(its90_low_range, [&](auto& it) { Out(result, it.ShowCoefRange()); });
 }
 
-int32_t quor_its90_low_range_put_ShowCoefRange(quor_object its90_low_range, int16_t value) {
+int32_t quor_its90_low_range_put_ShowCoefRange(quor_object its90_low_range, quor_bool value) {
     return Call<CQuorITS90LowRange>(its90_low_range, [&](auto& it) { it.SetShowCoefRange(value != 0); });
 }
 
-int32_t quor_its90_low_range_get_AllowChangeRange(quor_object its90_low_range, int16_t* result) {
+int32_t quor_its90_low_range_get_AllowChangeRange(quor_object its90_low_range, quor_bool* result) {
     return Call<CQuorITS90LowRange>(its90_low_range, [&](auto& it) { Out(result, it.AllowChangeRange()); });
 }
 
-int32_t quor_its90_low_range_put_AllowChangeRange(quor_object its90_low_range, int16_t value) {
+int32_t quor_its90_low_range_put_AllowChangeRange(quor_object its90_low_range, quor_bool value) {
     return Call<CQuorITS90LowRange>(its90_low_range, [&](auto& it) { it.SetAllowChangeRange(value != 0); });
 }
 
@@ -387,19 +387,19 @@ int32_t quor_its90_low_range_get_Registry(quor_object its90_low_range, quor_obje
     return Call<CQuorITS90LowRange>(its90_low_range, [&](auto& it) { Out(result, it.Registry()); });
 }
 
-int32_t quor_its90_low_range_get_Changed(quor_object its90_low_range, int16_t* result) {
+int32_t quor_its90_low_range_get_Changed(quor_object its90_low_range, quor_bool* result) {
     return Call<CQuorITS90LowRange>(its90_low_range, [&](auto& it) { Out(result, it.Changed()); });
 }
 
-int32_t quor_its90_low_range_put_Changed(quor_object its90_low_range, int16_t value) {
+int32_t quor_its90_low_range_put_Changed(quor_object its90_low_range, quor_bool value) {
     return Call<CQuorITS90LowRange>(its90_low_range, [&](auto& it) { it.SetChanged(value != 0); });
 }
 
-int32_t quor_its90_low_range_get_RangeEnabled(quor_object its90_low_range, int16_t* result) {
+int32_t quor_its90_low_range_get_RangeEnabled(quor_object its90_low_range, quor_bool* result) {
     return Call<CQuorITS90LowRange>(its90_low_range, [&](auto& it) { Out(result, it.RangeEnabled()); });
 }
 
-int32_t quor_its90_low_range_put_RangeEnabled(quor_object its90_low_range, int16_t value) {
+int32_t quor_its90_low_range_put_RangeEnabled(quor_object its90_low_range, quor_bool value) {
     return Call<CQuorITS90LowRange>(its90_low_range, [&](auto& it) { it.SetRangeEnabled(value != 0); });
 }
 
@@ -467,7 +467,7 @@ int32_t quor_its90_low_range_WriteToFile(quor_object its90_low_range, quor_objec
 }
 
 int32_t quor_its90_low_range_ReadFromFile(quor_object its90_low_range, quor_object* INIFile, quor_text fname,
-                                          quor_text secname, int16_t* result) {
+                                          quor_text secname, quor_bool* result) {
     return Call<CQuorITS90LowRange>(its90_low_range, [&](auto& it) {
         InOutReference<QuorIniFile::INIFile> INIFile_reference(INIFile);
         const auto given = it.ReadFromFile(INIFile_reference.Pointer(), Wide(fname), Wide(secname));
@@ -476,19 +476,19 @@ int32_t quor_its90_low_range_ReadFromFile(quor_object its90_low_range, quor_obje
     });
 }
 
-int32_t quor_its90_high_range_get_ShowCoefRange(quor_object its90_high_range, int16_t* result) {
+int32_t quor_its90_high_range_get_ShowCoefRange(quor_object its90_high_range, quor_bool* result) {
     return Call<CQuorITS90HighRange>(its90_high_range, [&](auto& it) { Out(result, it.ShowCoefRange()); });
 }
 
-int32_t quor_its90_high_range_put_ShowCoefRange(quor_object its90_high_range, int16_t value) {
+int32_t quor_its90_high_range_put_ShowCoefRange(quor_object its90_high_range, quor_bool value) {
     return Call<CQuorITS90HighRange>(its90_high_range, [&](auto& it) { it.SetShowCoefRange(value != 0); });
 }
 
-int32_t quor_its90_high_range_get_AllowChangeRange(quor_object its90_high_range, int16_t* result) {
+int32_t quor_its90_high_range_get_AllowChangeRange(quor_object its90_high_range, quor_bool* result) {
     return Call<CQuorITS90HighRange>(its90_high_range, [&](auto& it) { Out(result, it.AllowChangeRange()); });
 }
 
-int32_t quor_its90_high_range_put_AllowChangeRange(quor_object its90_high_range, int16_t value) {
+int32_t quor_its90_high_range_put_AllowChangeRange(quor_object its90_high_range, quor_bool value) {
     return Call<CQuorITS90HighRange>(its90_high_range, [&](auto& it) { it.SetAllowChangeRange(value != 0); });
 }
 
@@ -504,19 +504,19 @@ int32_t quor_its90_high_range_get_Registry(quor_object its90_high_range, quor_ob
     return Call<CQuorITS90HighRange>(its90_high_range, [&](auto& it) { Out(result, it.Registry()); });
 }
 
-int32_t quor_its90_high_range_get_Changed(quor_object its90_high_range, int16_t* result) {
+int32_t quor_its90_high_range_get_Changed(quor_object its90_high_range, quor_bool* result) {
     return Call<CQuorITS90HighRange>(its90_high_range, [&](auto& it) { Out(result, it.Changed()); });
 }
 
-int32_t quor_its90_high_range_put_Changed(quor_object its90_high_range, int16_t value) {
+int32_t quor_its90_high_range_put_Changed(quor_object its90_high_range, quor_bool value) {
     return Call<CQuorITS90HighRange>(its90_high_range, [&](auto& it) { it.SetChanged(value != 0); });
 }
 
-int32_t quor_its90_high_range_get_RangeEnabled(quor_object its90_high_range, int16_t* result) {
+int32_t quor_its90_high_range_get_RangeEnabled(quor_object its90_high_range, quor_bool* result) {
     return Call<CQuorITS90HighRange>(its90_high_range, [&](auto& it) { Out(result, it.RangeEnabled()); });
 }
 
-int32_t quor_its90_high_range_put_RangeEnabled(quor_object its90_high_range, int16_t value) {
+int32_t quor_its90_high_range_put_RangeEnabled(quor_object its90_high_range, quor_bool value) {
     return Call<CQuorITS90HighRange>(its90_high_range, [&](auto& it) { it.SetRangeEnabled(value != 0); });
 }
 
@@ -584,7 +584,7 @@ int32_t quor_its90_high_range_WriteToFile(quor_object its90_high_range, quor_obj
 }
 
 int32_t quor_its90_high_range_ReadFromFile(quor_object its90_high_range, quor_object* INIFile, quor_text fname,
-                                           quor_text secname, int16_t* result) {
+                                           quor_text secname, quor_bool* result) {
     return Call<CQuorITS90HighRange>(its90_high_range, [&](auto& it) {
         InOutReference<QuorIniFile::INIFile> INIFile_reference(INIFile);
         const auto given = it.ReadFromFile(INIFile_reference.Pointer(), Wide(fname), Wide(secname));
@@ -593,11 +593,11 @@ int32_t quor_its90_high_range_ReadFromFile(quor_object its90_high_range, quor_ob
     });
 }
 
-int32_t quor_ipts68_get_AllowEdit(quor_object ipts68, int16_t* result) {
+int32_t quor_ipts68_get_AllowEdit(quor_object ipts68, quor_bool* result) {
     return Call<CQuorIPTS68>(ipts68, [&](auto& it) { Out(result, it.AllowEdit()); });
 }
 
-int32_t quor_ipts68_put_AllowEdit(quor_object ipts68, int16_t value) {
+int32_t quor_ipts68_put_AllowEdit(quor_object ipts68, quor_bool value) {
     return Call<CQuorIPTS68>(ipts68, [&](auto& it) { it.SetAllowEdit(value != 0); });
 }
 
@@ -613,11 +613,11 @@ int32_t quor_ipts68_get_Registry(quor_object ipts68, quor_object* result) {
     return Call<CQuorIPTS68>(ipts68, [&](auto& it) { Out(result, it.Registry()); });
 }
 
-int32_t quor_ipts68_get_Changed(quor_object ipts68, int16_t* result) {
+int32_t quor_ipts68_get_Changed(quor_object ipts68, quor_bool* result) {
     return Call<CQuorIPTS68>(ipts68, [&](auto& it) { Out(result, it.Changed()); });
 }
 
-int32_t quor_ipts68_put_Changed(quor_object ipts68, int16_t value) {
+int32_t quor_ipts68_put_Changed(quor_object ipts68, quor_bool value) {
     return Call<CQuorIPTS68>(ipts68, [&](auto& it) { it.SetChanged(value != 0); });
 }
 
@@ -629,11 +629,11 @@ int32_t quor_ipts68_put_FilePath(quor_object ipts68, quor_text value) {
     return Call<CQuorIPTS68>(ipts68, [&](auto& it) { it.SetFilePath(Wide(value)); });
 }
 
-int32_t quor_ipts68_get_ScaleEnabled(quor_object ipts68, int16_t* result) {
+int32_t quor_ipts68_get_ScaleEnabled(quor_object ipts68, quor_bool* result) {
     return Call<CQuorIPTS68>(ipts68, [&](auto& it) { Out(result, it.ScaleEnabled()); });
 }
 
-int32_t quor_ipts68_put_ScaleEnabled(quor_object ipts68, int16_t value) {
+int32_t quor_ipts68_put_ScaleEnabled(quor_object ipts68, quor_bool value) {
     return Call<CQuorIPTS68>(ipts68, [&](auto& it) { it.SetScaleEnabled(value != 0); });
 }
 
@@ -673,7 +673,7 @@ int32_t quor_ipts68_FillScaleCombo(quor_object ipts68, quor_object ctrl) {
     return Call<CQuorIPTS68>(ipts68, [&](auto& it) { it.FillScaleCombo(*Reference<ListControl>(ctrl)); });
 }
 
-int32_t quor_ipts68_Edit(quor_object ipts68, int16_t* result) {
+int32_t quor_ipts68_Edit(quor_object ipts68, quor_bool* result) {
     return Call<CQuorIPTS68>(ipts68, [&](auto& it) { Out(result, it.Edit()); });
 }
 
@@ -682,7 +682,7 @@ int32_t quor_ipts68_GetName(quor_object ipts68, quor_text* result) {
 }
 
 int32_t quor_ipts68_OpenFile(quor_object ipts68, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                             int16_t* result) {
+                             quor_bool* result) {
     return Call<CQuorIPTS68>(ipts68, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.OpenFile(hwnd, Filename_text);
@@ -692,7 +692,7 @@ int32_t quor_ipts68_OpenFile(quor_object ipts68, int32_t hwnd, quor_text Filenam
 }
 
 int32_t quor_ipts68_SaveFileAs(quor_object ipts68, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                               int16_t* result) {
+                               quor_bool* result) {
     return Call<CQuorIPTS68>(ipts68, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.SaveFileAs(hwnd, Filename_text);
@@ -710,7 +710,7 @@ int32_t quor_ipts68_WriteToFile(quor_object ipts68, quor_object* INIFile, quor_t
 }
 
 int32_t quor_ipts68_ReadFromFile(quor_object ipts68, quor_object* INIFile, quor_text fname, quor_text secname,
-                                 int16_t* result) {
+                                 quor_bool* result) {
     return Call<CQuorIPTS68>(ipts68, [&](auto& it) {
         InOutReference<QuorIniFile::INIFile> INIFile_reference(INIFile);
         const auto given = it.ReadFromFile(INIFile_reference.Pointer(), Wide(fname), Wide(secname));
@@ -719,11 +719,11 @@ int32_t quor_ipts68_ReadFromFile(quor_object ipts68, quor_object* INIFile, quor_
     });
 }
 
-int32_t quor_cvd_get_AllowEdit(quor_object cvd, int16_t* result) {
+int32_t quor_cvd_get_AllowEdit(quor_object cvd, quor_bool* result) {
     return Call<CQuorCVD>(cvd, [&](auto& it) { Out(result, it.AllowEdit()); });
 }
 
-int32_t quor_cvd_put_AllowEdit(quor_object cvd, int16_t value) {
+int32_t quor_cvd_put_AllowEdit(quor_object cvd, quor_bool value) {
     return Call<CQuorCVD>(cvd, [&](auto& it) { it.SetAllowEdit(value != 0); });
 }
 
@@ -739,11 +739,11 @@ int32_t quor_cvd_get_Registry(quor_object cvd, quor_object* result) {
     return Call<CQuorCVD>(cvd, [&](auto& it) { Out(result, it.Registry()); });
 }
 
-int32_t quor_cvd_get_Changed(quor_object cvd, int16_t* result) {
+int32_t quor_cvd_get_Changed(quor_object cvd, quor_bool* result) {
     return Call<CQuorCVD>(cvd, [&](auto& it) { Out(result, it.Changed()); });
 }
 
-int32_t quor_cvd_put_Changed(quor_object cvd, int16_t value) {
+int32_t quor_cvd_put_Changed(quor_object cvd, quor_bool value) {
     return Call<CQuorCVD>(cvd, [&](auto& it) { it.SetChanged(value != 0); });
 }
 
@@ -763,11 +763,11 @@ int32_t quor_cvd_put_Coefficients(quor_object cvd, quor_ECVDCoefficients Index, 
     return Call<CQuorCVD>(cvd, [&](auto& it) { it.SetCoefficients(static_cast<ECVDCoefficients>(Index), value); });
 }
 
-int32_t quor_cvd_get_UsePolynomial(quor_object cvd, int16_t* result) {
+int32_t quor_cvd_get_UsePolynomial(quor_object cvd, quor_bool* result) {
     return Call<CQuorCVD>(cvd, [&](auto& it) { Out(result, it.UsePolynomial()); });
 }
 
-int32_t quor_cvd_put_UsePolynomial(quor_object cvd, int16_t value) {
+int32_t quor_cvd_put_UsePolynomial(quor_object cvd, quor_bool value) {
     return Call<CQuorCVD>(cvd, [&](auto& it) { it.SetUsePolynomial(value != 0); });
 }
 
@@ -783,7 +783,7 @@ int32_t quor_cvd_MaxCoefficients(quor_object cvd, int16_t* result) {
     return Call<CQuorCVD>(cvd, [&](auto& it) { Out(result, it.MaxCoefficients()); });
 }
 
-int32_t quor_cvd_Edit(quor_object cvd, int16_t* result) {
+int32_t quor_cvd_Edit(quor_object cvd, quor_bool* result) {
     return Call<CQuorCVD>(cvd, [&](auto& it) { Out(result, it.Edit()); });
 }
 
@@ -800,7 +800,7 @@ int32_t quor_cvd_put_FilePath(quor_object cvd, quor_text value) {
 }
 
 int32_t quor_cvd_OpenFile(quor_object cvd, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                          int16_t* result) {
+                          quor_bool* result) {
     return Call<CQuorCVD>(cvd, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.OpenFile(hwnd, Filename_text);
@@ -810,7 +810,7 @@ int32_t quor_cvd_OpenFile(quor_object cvd, int32_t hwnd, quor_text Filename, quo
 }
 
 int32_t quor_cvd_SaveFileAs(quor_object cvd, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                            int16_t* result) {
+                            quor_bool* result) {
     return Call<CQuorCVD>(cvd, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.SaveFileAs(hwnd, Filename_text);
@@ -828,7 +828,7 @@ int32_t quor_cvd_WriteToFile(quor_object cvd, quor_object* INIFile, quor_text fn
 }
 
 int32_t quor_cvd_ReadFromFile(quor_object cvd, quor_object* INIFile, quor_text fname, quor_text secname,
-                              int16_t* result) {
+                              quor_bool* result) {
     return Call<CQuorCVD>(cvd, [&](auto& it) {
         InOutReference<QuorIniFile::INIFile> INIFile_reference(INIFile);
         const auto given = it.ReadFromFile(INIFile_reference.Pointer(), Wide(fname), Wide(secname));
@@ -841,11 +841,11 @@ int32_t quor_pt100_create(quor_object platform, quor_object* result) {
     return Guarded([&] { Out(result, std::shared_ptr<CQuorPT100>(std::make_shared<CQuorPT100>(AnyOrNone<Platform>(platform)))); });
 }
 
-int32_t quor_pt100_get_AllowEdit(quor_object pt100, int16_t* result) {
+int32_t quor_pt100_get_AllowEdit(quor_object pt100, quor_bool* result) {
     return Call<CQuorPT100>(pt100, [&](auto& it) { Out(result, it.AllowEdit()); });
 }
 
-int32_t quor_pt100_put_AllowEdit(quor_object pt100, int16_t value) {
+int32_t quor_pt100_put_AllowEdit(quor_object pt100, quor_bool value) {
     return Call<CQuorPT100>(pt100, [&](auto& it) { it.SetAllowEdit(value != 0); });
 }
 
@@ -861,11 +861,11 @@ int32_t quor_pt100_get_Registry(quor_object pt100, quor_object* result) {
     return Call<CQuorPT100>(pt100, [&](auto& it) { Out(result, it.Registry()); });
 }
 
-int32_t quor_pt100_get_Changed(quor_object pt100, int16_t* result) {
+int32_t quor_pt100_get_Changed(quor_object pt100, quor_bool* result) {
     return Call<CQuorPT100>(pt100, [&](auto& it) { Out(result, it.Changed()); });
 }
 
-int32_t quor_pt100_put_Changed(quor_object pt100, int16_t value) {
+int32_t quor_pt100_put_Changed(quor_object pt100, quor_bool value) {
     return Call<CQuorPT100>(pt100, [&](auto& it) { it.SetChanged(value != 0); });
 }
 
@@ -897,7 +897,7 @@ int32_t quor_pt100_MaxCoefficients(quor_object pt100, int16_t* result) {
     return Call<CQuorPT100>(pt100, [&](auto& it) { Out(result, it.MaxCoefficients()); });
 }
 
-int32_t quor_pt100_Edit(quor_object pt100, int16_t* result) {
+int32_t quor_pt100_Edit(quor_object pt100, quor_bool* result) {
     return Call<CQuorPT100>(pt100, [&](auto& it) { Out(result, it.Edit()); });
 }
 
@@ -914,7 +914,7 @@ int32_t quor_pt100_put_FilePath(quor_object pt100, quor_text value) {
 }
 
 int32_t quor_pt100_OpenFile(quor_object pt100, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                            int16_t* result) {
+                            quor_bool* result) {
     return Call<CQuorPT100>(pt100, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.OpenFile(hwnd, Filename_text);
@@ -924,7 +924,7 @@ int32_t quor_pt100_OpenFile(quor_object pt100, int32_t hwnd, quor_text Filename,
 }
 
 int32_t quor_pt100_SaveFileAs(quor_object pt100, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                              int16_t* result) {
+                              quor_bool* result) {
     return Call<CQuorPT100>(pt100, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.SaveFileAs(hwnd, Filename_text);
@@ -942,7 +942,7 @@ int32_t quor_pt100_WriteToFile(quor_object pt100, quor_object* INIFile, quor_tex
 }
 
 int32_t quor_pt100_ReadFromFile(quor_object pt100, quor_object* INIFile, quor_text fname, quor_text secname,
-                                int16_t* result) {
+                                quor_bool* result) {
     return Call<CQuorPT100>(pt100, [&](auto& it) {
         InOutReference<QuorIniFile::INIFile> INIFile_reference(INIFile);
         const auto given = it.ReadFromFile(INIFile_reference.Pointer(), Wide(fname), Wide(secname));
@@ -951,11 +951,11 @@ int32_t quor_pt100_ReadFromFile(quor_object pt100, quor_object* INIFile, quor_te
     });
 }
 
-int32_t quor_htprt_get_AllowEdit(quor_object htprt, int16_t* result) {
+int32_t quor_htprt_get_AllowEdit(quor_object htprt, quor_bool* result) {
     return Call<CQuorHTPRT>(htprt, [&](auto& it) { Out(result, it.AllowEdit()); });
 }
 
-int32_t quor_htprt_put_AllowEdit(quor_object htprt, int16_t value) {
+int32_t quor_htprt_put_AllowEdit(quor_object htprt, quor_bool value) {
     return Call<CQuorHTPRT>(htprt, [&](auto& it) { it.SetAllowEdit(value != 0); });
 }
 
@@ -971,11 +971,11 @@ int32_t quor_htprt_get_Registry(quor_object htprt, quor_object* result) {
     return Call<CQuorHTPRT>(htprt, [&](auto& it) { Out(result, it.Registry()); });
 }
 
-int32_t quor_htprt_get_Changed(quor_object htprt, int16_t* result) {
+int32_t quor_htprt_get_Changed(quor_object htprt, quor_bool* result) {
     return Call<CQuorHTPRT>(htprt, [&](auto& it) { Out(result, it.Changed()); });
 }
 
-int32_t quor_htprt_put_Changed(quor_object htprt, int16_t value) {
+int32_t quor_htprt_put_Changed(quor_object htprt, quor_bool value) {
     return Call<CQuorHTPRT>(htprt, [&](auto& it) { it.SetChanged(value != 0); });
 }
 
@@ -1007,7 +1007,7 @@ int32_t quor_htprt_put_ValueFormat(quor_object htprt, quor_EHTPRTCoefficients In
     return Call<CQuorHTPRT>(htprt, [&](auto& it) { it.SetValueFormat(static_cast<EHTPRTCoefficients>(Index), Wide(value)); });
 }
 
-int32_t quor_htprt_Edit(quor_object htprt, int16_t* result) {
+int32_t quor_htprt_Edit(quor_object htprt, quor_bool* result) {
     return Call<CQuorHTPRT>(htprt, [&](auto& it) { Out(result, it.Edit()); });
 }
 
@@ -1016,7 +1016,7 @@ int32_t quor_htprt_GetName(quor_object htprt, quor_text* result) {
 }
 
 int32_t quor_htprt_OpenFile(quor_object htprt, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                            int16_t* result) {
+                            quor_bool* result) {
     return Call<CQuorHTPRT>(htprt, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.OpenFile(hwnd, Filename_text);
@@ -1026,7 +1026,7 @@ int32_t quor_htprt_OpenFile(quor_object htprt, int32_t hwnd, quor_text Filename,
 }
 
 int32_t quor_htprt_SaveFileAs(quor_object htprt, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                              int16_t* result) {
+                              quor_bool* result) {
     return Call<CQuorHTPRT>(htprt, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.SaveFileAs(hwnd, Filename_text);
@@ -1044,7 +1044,7 @@ int32_t quor_htprt_WriteToFile(quor_object htprt, quor_object* INIFile, quor_tex
 }
 
 int32_t quor_htprt_ReadFromFile(quor_object htprt, quor_object* INIFile, quor_text fname, quor_text secname,
-                                int16_t* result) {
+                                quor_bool* result) {
     return Call<CQuorHTPRT>(htprt, [&](auto& it) {
         InOutReference<QuorIniFile::INIFile> INIFile_reference(INIFile);
         const auto given = it.ReadFromFile(INIFile_reference.Pointer(), Wide(fname), Wide(secname));
@@ -1053,11 +1053,11 @@ int32_t quor_htprt_ReadFromFile(quor_object htprt, quor_object* INIFile, quor_te
     });
 }
 
-int32_t quor_wt90_get_AllowEdit(quor_object wt90, int16_t* result) {
+int32_t quor_wt90_get_AllowEdit(quor_object wt90, quor_bool* result) {
     return Call<CQuorWT90>(wt90, [&](auto& it) { Out(result, it.AllowEdit()); });
 }
 
-int32_t quor_wt90_put_AllowEdit(quor_object wt90, int16_t value) {
+int32_t quor_wt90_put_AllowEdit(quor_object wt90, quor_bool value) {
     return Call<CQuorWT90>(wt90, [&](auto& it) { it.SetAllowEdit(value != 0); });
 }
 
@@ -1073,11 +1073,11 @@ int32_t quor_wt90_get_Registry(quor_object wt90, quor_object* result) {
     return Call<CQuorWT90>(wt90, [&](auto& it) { Out(result, it.Registry()); });
 }
 
-int32_t quor_wt90_get_Changed(quor_object wt90, int16_t* result) {
+int32_t quor_wt90_get_Changed(quor_object wt90, quor_bool* result) {
     return Call<CQuorWT90>(wt90, [&](auto& it) { Out(result, it.Changed()); });
 }
 
-int32_t quor_wt90_put_Changed(quor_object wt90, int16_t value) {
+int32_t quor_wt90_put_Changed(quor_object wt90, quor_bool value) {
     return Call<CQuorWT90>(wt90, [&](auto& it) { it.SetChanged(value != 0); });
 }
 
@@ -1105,7 +1105,7 @@ int32_t quor_wt90_put_RTPWFormat(quor_object wt90, quor_text value) {
     return Call<CQuorWT90>(wt90, [&](auto& it) { it.SetRTPWFormat(Wide(value)); });
 }
 
-int32_t quor_wt90_Edit(quor_object wt90, int16_t* result) {
+int32_t quor_wt90_Edit(quor_object wt90, quor_bool* result) {
     return Call<CQuorWT90>(wt90, [&](auto& it) { Out(result, it.Edit()); });
 }
 
@@ -1114,7 +1114,7 @@ int32_t quor_wt90_GetName(quor_object wt90, quor_text* result) {
 }
 
 int32_t quor_wt90_OpenFile(quor_object wt90, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                           int16_t* result) {
+                           quor_bool* result) {
     return Call<CQuorWT90>(wt90, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.OpenFile(hwnd, Filename_text);
@@ -1124,7 +1124,7 @@ int32_t quor_wt90_OpenFile(quor_object wt90, int32_t hwnd, quor_text Filename, q
 }
 
 int32_t quor_wt90_SaveFileAs(quor_object wt90, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                             int16_t* result) {
+                             quor_bool* result) {
     return Call<CQuorWT90>(wt90, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.SaveFileAs(hwnd, Filename_text);
@@ -1142,7 +1142,7 @@ int32_t quor_wt90_WriteToFile(quor_object wt90, quor_object* INIFile, quor_text 
 }
 
 int32_t quor_wt90_ReadFromFile(quor_object wt90, quor_object* INIFile, quor_text fname, quor_text secname,
-                               int16_t* result) {
+                               quor_bool* result) {
     return Call<CQuorWT90>(wt90, [&](auto& it) {
         InOutReference<QuorIniFile::INIFile> INIFile_reference(INIFile);
         const auto given = it.ReadFromFile(INIFile_reference.Pointer(), Wide(fname), Wide(secname));
@@ -1151,11 +1151,11 @@ int32_t quor_wt90_ReadFromFile(quor_object wt90, quor_object* INIFile, quor_text
     });
 }
 
-int32_t quor_thermistor_get_AllowEdit(quor_object thermistor, int16_t* result) {
+int32_t quor_thermistor_get_AllowEdit(quor_object thermistor, quor_bool* result) {
     return Call<CQuorThermistor>(thermistor, [&](auto& it) { Out(result, it.AllowEdit()); });
 }
 
-int32_t quor_thermistor_put_AllowEdit(quor_object thermistor, int16_t value) {
+int32_t quor_thermistor_put_AllowEdit(quor_object thermistor, quor_bool value) {
     return Call<CQuorThermistor>(thermistor, [&](auto& it) { it.SetAllowEdit(value != 0); });
 }
 
@@ -1171,11 +1171,11 @@ int32_t quor_thermistor_get_Registry(quor_object thermistor, quor_object* result
     return Call<CQuorThermistor>(thermistor, [&](auto& it) { Out(result, it.Registry()); });
 }
 
-int32_t quor_thermistor_get_Changed(quor_object thermistor, int16_t* result) {
+int32_t quor_thermistor_get_Changed(quor_object thermistor, quor_bool* result) {
     return Call<CQuorThermistor>(thermistor, [&](auto& it) { Out(result, it.Changed()); });
 }
 
-int32_t quor_thermistor_put_Changed(quor_object thermistor, int16_t value) {
+int32_t quor_thermistor_put_Changed(quor_object thermistor, quor_bool value) {
     return Call<CQuorThermistor>(thermistor, [&](auto& it) { it.SetChanged(value != 0); });
 }
 
@@ -1219,7 +1219,7 @@ int32_t quor_thermistor_put_ValueFormat(quor_object thermistor, quor_text value)
     return Call<CQuorThermistor>(thermistor, [&](auto& it) { it.SetValueFormat(Wide(value)); });
 }
 
-int32_t quor_thermistor_Edit(quor_object thermistor, int16_t* result) {
+int32_t quor_thermistor_Edit(quor_object thermistor, quor_bool* result) {
     return Call<CQuorThermistor>(thermistor, [&](auto& it) { Out(result, it.Edit()); });
 }
 
@@ -1228,7 +1228,7 @@ int32_t quor_thermistor_GetName(quor_object thermistor, quor_text* result) {
 }
 
 int32_t quor_thermistor_OpenFile(quor_object thermistor, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                 int16_t* result) {
+                                 quor_bool* result) {
     return Call<CQuorThermistor>(thermistor, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.OpenFile(hwnd, Filename_text);
@@ -1238,7 +1238,7 @@ int32_t quor_thermistor_OpenFile(quor_object thermistor, int32_t hwnd, quor_text
 }
 
 int32_t quor_thermistor_SaveFileAs(quor_object thermistor, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                   int16_t* result) {
+                                   quor_bool* result) {
     return Call<CQuorThermistor>(thermistor, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.SaveFileAs(hwnd, Filename_text);
@@ -1257,7 +1257,7 @@ int32_t quor_thermistor_WriteToFile(quor_object thermistor, quor_object* INIFile
 }
 
 int32_t quor_thermistor_ReadFromFile(quor_object thermistor, quor_object* INIFile, quor_text fname, quor_text secname,
-                                     int16_t* result) {
+                                     quor_bool* result) {
     return Call<CQuorThermistor>(thermistor, [&](auto& it) {
         InOutReference<QuorIniFile::INIFile> INIFile_reference(INIFile);
         const auto given = it.ReadFromFile(INIFile_reference.Pointer(), Wide(fname), Wide(secname));
@@ -1266,11 +1266,11 @@ int32_t quor_thermistor_ReadFromFile(quor_object thermistor, quor_object* INIFil
     });
 }
 
-int32_t quor_polynomial_get_AllowEdit(quor_object polynomial, int16_t* result) {
+int32_t quor_polynomial_get_AllowEdit(quor_object polynomial, quor_bool* result) {
     return Call<CQuorPolynomial>(polynomial, [&](auto& it) { Out(result, it.AllowEdit()); });
 }
 
-int32_t quor_polynomial_put_AllowEdit(quor_object polynomial, int16_t value) {
+int32_t quor_polynomial_put_AllowEdit(quor_object polynomial, quor_bool value) {
     return Call<CQuorPolynomial>(polynomial, [&](auto& it) { it.SetAllowEdit(value != 0); });
 }
 
@@ -1286,11 +1286,11 @@ int32_t quor_polynomial_get_Registry(quor_object polynomial, quor_object* result
     return Call<CQuorPolynomial>(polynomial, [&](auto& it) { Out(result, it.Registry()); });
 }
 
-int32_t quor_polynomial_get_Changed(quor_object polynomial, int16_t* result) {
+int32_t quor_polynomial_get_Changed(quor_object polynomial, quor_bool* result) {
     return Call<CQuorPolynomial>(polynomial, [&](auto& it) { Out(result, it.Changed()); });
 }
 
-int32_t quor_polynomial_put_Changed(quor_object polynomial, int16_t value) {
+int32_t quor_polynomial_put_Changed(quor_object polynomial, quor_bool value) {
     return Call<CQuorPolynomial>(polynomial, [&](auto& it) { it.SetChanged(value != 0); });
 }
 
@@ -1338,7 +1338,7 @@ int32_t quor_polynomial_get_ValueFormat(quor_object polynomial, quor_text* resul
     return Call<CQuorPolynomial>(polynomial, [&](auto& it) { Out(result, it.ValueFormat()); });
 }
 
-int32_t quor_polynomial_Edit(quor_object polynomial, int16_t* result) {
+int32_t quor_polynomial_Edit(quor_object polynomial, quor_bool* result) {
     return Call<CQuorPolynomial>(polynomial, [&](auto& it) { Out(result, it.Edit()); });
 }
 
@@ -1347,7 +1347,7 @@ int32_t quor_polynomial_GetName(quor_object polynomial, quor_text* result) {
 }
 
 int32_t quor_polynomial_OpenFile(quor_object polynomial, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                 int16_t* result) {
+                                 quor_bool* result) {
     return Call<CQuorPolynomial>(polynomial, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.OpenFile(hwnd, Filename_text);
@@ -1357,7 +1357,7 @@ int32_t quor_polynomial_OpenFile(quor_object polynomial, int32_t hwnd, quor_text
 }
 
 int32_t quor_polynomial_SaveFileAs(quor_object polynomial, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                   int16_t* result) {
+                                   quor_bool* result) {
     return Call<CQuorPolynomial>(polynomial, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.SaveFileAs(hwnd, Filename_text);
@@ -1376,7 +1376,7 @@ int32_t quor_polynomial_WriteToFile(quor_object polynomial, quor_object* INIFile
 }
 
 int32_t quor_polynomial_ReadFromFile(quor_object polynomial, quor_object* INIFile, quor_text fname, quor_text secname,
-                                     int16_t* result) {
+                                     quor_bool* result) {
     return Call<CQuorPolynomial>(polynomial, [&](auto& it) {
         InOutReference<QuorIniFile::INIFile> INIFile_reference(INIFile);
         const auto given = it.ReadFromFile(INIFile_reference.Pointer(), Wide(fname), Wide(secname));
@@ -1409,19 +1409,19 @@ int32_t quor_tc_polynomial_put_mV25C(quor_object tc_polynomial, double value) {
     return Call<CQuorTCPolynomial>(tc_polynomial, [&](auto& it) { it.SetmV25C(value); });
 }
 
-int32_t quor_tc_polynomial_get_ShowmV25C(quor_object tc_polynomial, int16_t* result) {
+int32_t quor_tc_polynomial_get_ShowmV25C(quor_object tc_polynomial, quor_bool* result) {
     return Call<CQuorTCPolynomial>(tc_polynomial, [&](auto& it) { Out(result, it.ShowmV25C()); });
 }
 
-int32_t quor_tc_polynomial_put_ShowmV25C(quor_object tc_polynomial, int16_t value) {
+int32_t quor_tc_polynomial_put_ShowmV25C(quor_object tc_polynomial, quor_bool value) {
     return Call<CQuorTCPolynomial>(tc_polynomial, [&](auto& it) { it.SetShowmV25C(value != 0); });
 }
 
-int32_t quor_tc_polynomial_get_AllowEdit(quor_object tc_polynomial, int16_t* result) {
+int32_t quor_tc_polynomial_get_AllowEdit(quor_object tc_polynomial, quor_bool* result) {
     return Call<CQuorTCPolynomial>(tc_polynomial, [&](auto& it) { Out(result, it.AllowEdit()); });
 }
 
-int32_t quor_tc_polynomial_put_AllowEdit(quor_object tc_polynomial, int16_t value) {
+int32_t quor_tc_polynomial_put_AllowEdit(quor_object tc_polynomial, quor_bool value) {
     return Call<CQuorTCPolynomial>(tc_polynomial, [&](auto& it) { it.SetAllowEdit(value != 0); });
 }
 
@@ -1437,11 +1437,11 @@ int32_t quor_tc_polynomial_get_Registry(quor_object tc_polynomial, quor_object* 
     return Call<CQuorTCPolynomial>(tc_polynomial, [&](auto& it) { Out(result, it.Registry()); });
 }
 
-int32_t quor_tc_polynomial_get_Changed(quor_object tc_polynomial, int16_t* result) {
+int32_t quor_tc_polynomial_get_Changed(quor_object tc_polynomial, quor_bool* result) {
     return Call<CQuorTCPolynomial>(tc_polynomial, [&](auto& it) { Out(result, it.Changed()); });
 }
 
-int32_t quor_tc_polynomial_put_Changed(quor_object tc_polynomial, int16_t value) {
+int32_t quor_tc_polynomial_put_Changed(quor_object tc_polynomial, quor_bool value) {
     return Call<CQuorTCPolynomial>(tc_polynomial, [&](auto& it) { it.SetChanged(value != 0); });
 }
 
@@ -1479,7 +1479,7 @@ int32_t quor_tc_polynomial_put_ValueFormat(quor_object tc_polynomial, quor_text 
     return Call<CQuorTCPolynomial>(tc_polynomial, [&](auto& it) { it.SetValueFormat(Wide(value)); });
 }
 
-int32_t quor_tc_polynomial_Edit(quor_object tc_polynomial, int16_t* result) {
+int32_t quor_tc_polynomial_Edit(quor_object tc_polynomial, quor_bool* result) {
     return Call<CQuorTCPolynomial>(tc_polynomial, [&](auto& it) { Out(result, it.Edit()); });
 }
 
@@ -1488,7 +1488,7 @@ int32_t quor_tc_polynomial_GetName(quor_object tc_polynomial, quor_text* result)
 }
 
 int32_t quor_tc_polynomial_OpenFile(quor_object tc_polynomial, int32_t hwnd, quor_text Filename,
-                                    quor_text* Filename_out, int16_t* result) {
+                                    quor_text* Filename_out, quor_bool* result) {
     return Call<CQuorTCPolynomial>(tc_polynomial, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.OpenFile(hwnd, Filename_text);
@@ -1498,7 +1498,7 @@ int32_t quor_tc_polynomial_OpenFile(quor_object tc_polynomial, int32_t hwnd, quo
 }
 
 int32_t quor_tc_polynomial_SaveFileAs(quor_object tc_polynomial, int32_t hwnd, quor_text Filename,
-                                      quor_text* Filename_out, int16_t* result) {
+                                      quor_text* Filename_out, quor_bool* result) {
     return Call<CQuorTCPolynomial>(tc_polynomial, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.SaveFileAs(hwnd, Filename_text);
@@ -1517,7 +1517,7 @@ int32_t quor_tc_polynomial_WriteToFile(quor_object tc_polynomial, quor_object* I
 }
 
 int32_t quor_tc_polynomial_ReadFromFile(quor_object tc_polynomial, quor_object* INIFile, quor_text fname,
-                                        quor_text secname, int16_t* result) {
+                                        quor_text secname, quor_bool* result) {
     return Call<CQuorTCPolynomial>(tc_polynomial, [&](auto& it) {
         InOutReference<QuorIniFile::INIFile> INIFile_reference(INIFile);
         const auto given = it.ReadFromFile(INIFile_reference.Pointer(), Wide(fname), Wide(secname));
@@ -1526,11 +1526,11 @@ int32_t quor_tc_polynomial_ReadFromFile(quor_object tc_polynomial, quor_object* 
     });
 }
 
-int32_t quor_tc_table_get_AllowEdit(quor_object tc_table, int16_t* result) {
+int32_t quor_tc_table_get_AllowEdit(quor_object tc_table, quor_bool* result) {
     return Call<CQuorTCTable>(tc_table, [&](auto& it) { Out(result, it.AllowEdit()); });
 }
 
-int32_t quor_tc_table_put_AllowEdit(quor_object tc_table, int16_t value) {
+int32_t quor_tc_table_put_AllowEdit(quor_object tc_table, quor_bool value) {
     return Call<CQuorTCTable>(tc_table, [&](auto& it) { it.SetAllowEdit(value != 0); });
 }
 
@@ -1546,11 +1546,11 @@ int32_t quor_tc_table_get_Registry(quor_object tc_table, quor_object* result) {
     return Call<CQuorTCTable>(tc_table, [&](auto& it) { Out(result, it.Registry()); });
 }
 
-int32_t quor_tc_table_get_Changed(quor_object tc_table, int16_t* result) {
+int32_t quor_tc_table_get_Changed(quor_object tc_table, quor_bool* result) {
     return Call<CQuorTCTable>(tc_table, [&](auto& it) { Out(result, it.Changed()); });
 }
 
-int32_t quor_tc_table_put_Changed(quor_object tc_table, int16_t value) {
+int32_t quor_tc_table_put_Changed(quor_object tc_table, quor_bool value) {
     return Call<CQuorTCTable>(tc_table, [&](auto& it) { it.SetChanged(value != 0); });
 }
 
@@ -1618,7 +1618,7 @@ int32_t quor_tc_table_put_VoltageScale(quor_object tc_table, quor_text value) {
     return Call<CQuorTCTable>(tc_table, [&](auto& it) { it.SetVoltageScale(Wide(value)); });
 }
 
-int32_t quor_tc_table_Edit(quor_object tc_table, int16_t* result) {
+int32_t quor_tc_table_Edit(quor_object tc_table, quor_bool* result) {
     return Call<CQuorTCTable>(tc_table, [&](auto& it) { Out(result, it.Edit()); });
 }
 
@@ -1631,7 +1631,7 @@ int32_t quor_tc_table_FillPointsCombo(quor_object tc_table, quor_object ctrl) {
 }
 
 int32_t quor_tc_table_OpenFile(quor_object tc_table, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                               int16_t* result) {
+                               quor_bool* result) {
     return Call<CQuorTCTable>(tc_table, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.OpenFile(hwnd, Filename_text);
@@ -1641,7 +1641,7 @@ int32_t quor_tc_table_OpenFile(quor_object tc_table, int32_t hwnd, quor_text Fil
 }
 
 int32_t quor_tc_table_SaveFileAs(quor_object tc_table, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                 int16_t* result) {
+                                 quor_bool* result) {
     return Call<CQuorTCTable>(tc_table, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.SaveFileAs(hwnd, Filename_text);
@@ -1659,7 +1659,7 @@ int32_t quor_tc_table_WriteToFile(quor_object tc_table, quor_object* INIFile, qu
 }
 
 int32_t quor_tc_table_ReadFromFile(quor_object tc_table, quor_object* INIFile, quor_text fname, quor_text secname,
-                                   int16_t* result) {
+                                   quor_bool* result) {
     return Call<CQuorTCTable>(tc_table, [&](auto& it) {
         InOutReference<QuorIniFile::INIFile> INIFile_reference(INIFile);
         const auto given = it.ReadFromFile(INIFile_reference.Pointer(), Wide(fname), Wide(secname));
@@ -1668,19 +1668,19 @@ int32_t quor_tc_table_ReadFromFile(quor_object tc_table, quor_object* INIFile, q
     });
 }
 
-int32_t quor_tc_typex_get_ShowDCCoefs(quor_object tc_typex, int16_t* result) {
+int32_t quor_tc_typex_get_ShowDCCoefs(quor_object tc_typex, quor_bool* result) {
     return Call<CQuorTCTypeX>(tc_typex, [&](auto& it) { Out(result, it.ShowDCCoefs()); });
 }
 
-int32_t quor_tc_typex_put_ShowDCCoefs(quor_object tc_typex, int16_t value) {
+int32_t quor_tc_typex_put_ShowDCCoefs(quor_object tc_typex, quor_bool value) {
     return Call<CQuorTCTypeX>(tc_typex, [&](auto& it) { it.SetShowDCCoefs(value != 0); });
 }
 
-int32_t quor_tc_typex_get_AllowEdit(quor_object tc_typex, int16_t* result) {
+int32_t quor_tc_typex_get_AllowEdit(quor_object tc_typex, quor_bool* result) {
     return Call<CQuorTCTypeX>(tc_typex, [&](auto& it) { Out(result, it.AllowEdit()); });
 }
 
-int32_t quor_tc_typex_put_AllowEdit(quor_object tc_typex, int16_t value) {
+int32_t quor_tc_typex_put_AllowEdit(quor_object tc_typex, quor_bool value) {
     return Call<CQuorTCTypeX>(tc_typex, [&](auto& it) { it.SetAllowEdit(value != 0); });
 }
 
@@ -1696,11 +1696,11 @@ int32_t quor_tc_typex_get_Registry(quor_object tc_typex, quor_object* result) {
     return Call<CQuorTCTypeX>(tc_typex, [&](auto& it) { Out(result, it.Registry()); });
 }
 
-int32_t quor_tc_typex_get_Changed(quor_object tc_typex, int16_t* result) {
+int32_t quor_tc_typex_get_Changed(quor_object tc_typex, quor_bool* result) {
     return Call<CQuorTCTypeX>(tc_typex, [&](auto& it) { Out(result, it.Changed()); });
 }
 
-int32_t quor_tc_typex_put_Changed(quor_object tc_typex, int16_t value) {
+int32_t quor_tc_typex_put_Changed(quor_object tc_typex, quor_bool value) {
     return Call<CQuorTCTypeX>(tc_typex, [&](auto& it) { it.SetChanged(value != 0); });
 }
 
@@ -1800,7 +1800,7 @@ int32_t quor_tc_typex_put_OffsetFormat(quor_object tc_typex, quor_text value) {
     return Call<CQuorTCTypeX>(tc_typex, [&](auto& it) { it.SetOffsetFormat(Wide(value)); });
 }
 
-int32_t quor_tc_typex_Edit(quor_object tc_typex, int16_t* result) {
+int32_t quor_tc_typex_Edit(quor_object tc_typex, quor_bool* result) {
     return Call<CQuorTCTypeX>(tc_typex, [&](auto& it) { Out(result, it.Edit()); });
 }
 
@@ -1813,7 +1813,7 @@ int32_t quor_tc_typex_FillPointsCombo(quor_object tc_typex, quor_object ctrl) {
 }
 
 int32_t quor_tc_typex_OpenFile(quor_object tc_typex, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                               int16_t* result) {
+                               quor_bool* result) {
     return Call<CQuorTCTypeX>(tc_typex, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.OpenFile(hwnd, Filename_text);
@@ -1823,7 +1823,7 @@ int32_t quor_tc_typex_OpenFile(quor_object tc_typex, int32_t hwnd, quor_text Fil
 }
 
 int32_t quor_tc_typex_SaveFileAs(quor_object tc_typex, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                 int16_t* result) {
+                                 quor_bool* result) {
     return Call<CQuorTCTypeX>(tc_typex, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.SaveFileAs(hwnd, Filename_text);
@@ -1841,7 +1841,7 @@ int32_t quor_tc_typex_WriteToFile(quor_object tc_typex, quor_object* INIFile, qu
 }
 
 int32_t quor_tc_typex_ReadFromFile(quor_object tc_typex, quor_object* INIFile, quor_text fname, quor_text secname,
-                                   int16_t* result) {
+                                   quor_bool* result) {
     return Call<CQuorTCTypeX>(tc_typex, [&](auto& it) {
         InOutReference<QuorIniFile::INIFile> INIFile_reference(INIFile);
         const auto given = it.ReadFromFile(INIFile_reference.Pointer(), Wide(fname), Wide(secname));
@@ -1854,11 +1854,11 @@ int32_t quor_tc_typepoly_create(quor_object platform, quor_object* result) {
     return Guarded([&] { Out(result, std::shared_ptr<CQuorTCTypePoly>(std::make_shared<CQuorTCTypePoly>(AnyOrNone<Platform>(platform)))); });
 }
 
-int32_t quor_tc_typepoly_get_AllowEdit(quor_object tc_typepoly, int16_t* result) {
+int32_t quor_tc_typepoly_get_AllowEdit(quor_object tc_typepoly, quor_bool* result) {
     return Call<CQuorTCTypePoly>(tc_typepoly, [&](auto& it) { Out(result, it.AllowEdit()); });
 }
 
-int32_t quor_tc_typepoly_put_AllowEdit(quor_object tc_typepoly, int16_t value) {
+int32_t quor_tc_typepoly_put_AllowEdit(quor_object tc_typepoly, quor_bool value) {
     return Call<CQuorTCTypePoly>(tc_typepoly, [&](auto& it) { it.SetAllowEdit(value != 0); });
 }
 
@@ -1874,11 +1874,11 @@ int32_t quor_tc_typepoly_get_Registry(quor_object tc_typepoly, quor_object* resu
     return Call<CQuorTCTypePoly>(tc_typepoly, [&](auto& it) { Out(result, it.Registry()); });
 }
 
-int32_t quor_tc_typepoly_get_Changed(quor_object tc_typepoly, int16_t* result) {
+int32_t quor_tc_typepoly_get_Changed(quor_object tc_typepoly, quor_bool* result) {
     return Call<CQuorTCTypePoly>(tc_typepoly, [&](auto& it) { Out(result, it.Changed()); });
 }
 
-int32_t quor_tc_typepoly_put_Changed(quor_object tc_typepoly, int16_t value) {
+int32_t quor_tc_typepoly_put_Changed(quor_object tc_typepoly, quor_bool value) {
     return Call<CQuorTCTypePoly>(tc_typepoly, [&](auto& it) { it.SetChanged(value != 0); });
 }
 
@@ -1932,7 +1932,7 @@ int32_t quor_tc_typepoly_FillTCTypeNameCombo(quor_object tc_typepoly, quor_objec
     return Call<CQuorTCTypePoly>(tc_typepoly, [&](auto& it) { it.FillTCTypeNameCombo(*Reference<ListControl>(ctrl)); });
 }
 
-int32_t quor_tc_typepoly_Edit(quor_object tc_typepoly, int16_t* result) {
+int32_t quor_tc_typepoly_Edit(quor_object tc_typepoly, quor_bool* result) {
     return Call<CQuorTCTypePoly>(tc_typepoly, [&](auto& it) { Out(result, it.Edit()); });
 }
 
@@ -1941,7 +1941,7 @@ int32_t quor_tc_typepoly_GetName(quor_object tc_typepoly, int32_t tc, quor_text*
 }
 
 int32_t quor_tc_typepoly_OpenFile(quor_object tc_typepoly, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
-                                  int16_t* result) {
+                                  quor_bool* result) {
     return Call<CQuorTCTypePoly>(tc_typepoly, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.OpenFile(hwnd, Filename_text);
@@ -1951,7 +1951,7 @@ int32_t quor_tc_typepoly_OpenFile(quor_object tc_typepoly, int32_t hwnd, quor_te
 }
 
 int32_t quor_tc_typepoly_SaveFileAs(quor_object tc_typepoly, int32_t hwnd, quor_text Filename,
-                                    quor_text* Filename_out, int16_t* result) {
+                                    quor_text* Filename_out, quor_bool* result) {
     return Call<CQuorTCTypePoly>(tc_typepoly, [&](auto& it) {
         std::wstring Filename_text = Wide(Filename);
         const auto given = it.SaveFileAs(hwnd, Filename_text);
@@ -1970,7 +1970,7 @@ int32_t quor_tc_typepoly_WriteToFile(quor_object tc_typepoly, quor_object* INIFi
 }
 
 int32_t quor_tc_typepoly_ReadFromFile(quor_object tc_typepoly, quor_object* INIFile, quor_text fname,
-                                      quor_text secname, int16_t* result) {
+                                      quor_text secname, quor_bool* result) {
     return Call<CQuorTCTypePoly>(tc_typepoly, [&](auto& it) {
         InOutReference<QuorIniFile::INIFile> INIFile_reference(INIFile);
         const auto given = it.ReadFromFile(INIFile_reference.Pointer(), Wide(fname), Wide(secname));
@@ -1999,7 +1999,7 @@ int32_t quor_inifile_get_Section(quor_object inifile, quor_text* result) {
     return Call<QuorIniFile::INIFile>(inifile, [&](auto& it) { Out(result, SectionOf(it)); });
 }
 
-int32_t quor_inifile_ReadBoolean(quor_object inifile, quor_text Key, int16_t* Value, int16_t* result) {
+int32_t quor_inifile_ReadBoolean(quor_object inifile, quor_text Key, quor_bool* Value, quor_bool* result) {
     return Call<QuorIniFile::INIFile>(inifile, [&](auto& it) {
         bool Value_flag = *Needed(Value) != 0;
         const auto given = it.ReadBoolean(Wide(Key), Value_flag);
@@ -2008,16 +2008,16 @@ int32_t quor_inifile_ReadBoolean(quor_object inifile, quor_text Key, int16_t* Va
     });
 }
 
-int32_t quor_inifile_ReadDouble(quor_object inifile, quor_text Key, double* Value, int16_t* result) {
+int32_t quor_inifile_ReadDouble(quor_object inifile, quor_text Key, double* Value, quor_bool* result) {
     return Call<QuorIniFile::INIFile>(inifile, [&](auto& it) { Out(result, it.ReadDouble(Wide(Key), *Needed(Value))); });
 }
 
-int32_t quor_inifile_ReadInteger(quor_object inifile, quor_text Key, int16_t* Value, int16_t* result) {
+int32_t quor_inifile_ReadInteger(quor_object inifile, quor_text Key, int16_t* Value, quor_bool* result) {
     return Call<QuorIniFile::INIFile>(inifile, [&](auto& it) { Out(result, it.ReadInteger(Wide(Key), *Needed(Value))); });
 }
 
 int32_t quor_inifile_ReadString(quor_object inifile, quor_text Key, quor_text Value, quor_text* Value_out,
-                                int16_t* result) {
+                                quor_bool* result) {
     return Call<QuorIniFile::INIFile>(inifile, [&](auto& it) {
         std::wstring Value_text = Wide(Value);
         const auto given = it.ReadString(Wide(Key), Value_text);
@@ -2026,7 +2026,7 @@ int32_t quor_inifile_ReadString(quor_object inifile, quor_text Key, quor_text Va
     });
 }
 
-int32_t quor_inifile_WriteBoolean(quor_object inifile, quor_text Key, int16_t Value) {
+int32_t quor_inifile_WriteBoolean(quor_object inifile, quor_text Key, quor_bool Value) {
     return Call<QuorIniFile::INIFile>(inifile, [&](auto& it) { it.WriteBoolean(Wide(Key), Value != 0); });
 }
 
@@ -2059,7 +2059,7 @@ int32_t quor_registry_create(quor_text application, quor_text folder, quor_objec
 }
 
 int32_t quor_registry_ReadValue(quor_object registry, quor_text Section, quor_text Name, quor_text Value,
-                                quor_text* Value_out, int16_t* result) {
+                                quor_text* Value_out, quor_bool* result) {
     return Call<QuorRegistryII::Registry>(registry, [&](auto& it) {
         std::wstring Value_text = Wide(Value);
         const auto given = it.ReadValue(Wide(Section), Wide(Name), Value_text);
@@ -2132,7 +2132,7 @@ int32_t quor_dialog_put_WindowHandle(quor_object dialog, int32_t value) {
     return Call<DialogFace>(dialog, [&](auto& it) { it.SetWindowHandle(value); });
 }
 
-int32_t quor_dialog_get_HasPlace(quor_object dialog, int16_t* result) {
+int32_t quor_dialog_get_HasPlace(quor_object dialog, quor_bool* result) {
     return Call<DialogFace>(dialog, [&](auto& it) { Out(result, it.HasPlace()); });
 }
 
@@ -2148,7 +2148,7 @@ int32_t quor_dialog_SetPlace(quor_object dialog, int32_t Left, int32_t Top) {
     return Call<DialogFace>(dialog, [&](auto& it) { it.SetPlace(Left, Top); });
 }
 
-int32_t quor_dialog_get_IsOpen(quor_object dialog, int16_t* result) {
+int32_t quor_dialog_get_IsOpen(quor_object dialog, quor_bool* result) {
     return Call<DialogFace>(dialog, [&](auto& it) { Out(result, it.IsOpen()); });
 }
 
@@ -2176,7 +2176,7 @@ int32_t quor_dialog_Focus(quor_object dialog, quor_object Control) {
     return Call<DialogFace>(dialog, [&](auto& it) { it.Focus(*Reference<ControlFace>(Control)); });
 }
 
-int32_t quor_dialog_PressTab(quor_object dialog, int16_t Backwards) {
+int32_t quor_dialog_PressTab(quor_object dialog, quor_bool Backwards) {
     return Call<DialogFace>(dialog, [&](auto& it) { it.PressTab(Backwards != 0); });
 }
 
@@ -2209,19 +2209,19 @@ int32_t quor_control_get_Caption(quor_object control, quor_text* result) {
     return Call<ControlFace>(control, [&](auto& it) { Out(result, it.Caption()); });
 }
 
-int32_t quor_control_get_Enabled(quor_object control, int16_t* result) {
+int32_t quor_control_get_Enabled(quor_object control, quor_bool* result) {
     return Call<ControlFace>(control, [&](auto& it) { Out(result, it.Enabled()); });
 }
 
-int32_t quor_control_get_Visible(quor_object control, int16_t* result) {
+int32_t quor_control_get_Visible(quor_object control, quor_bool* result) {
     return Call<ControlFace>(control, [&](auto& it) { Out(result, it.Visible()); });
 }
 
-int32_t quor_control_get_IsShown(quor_object control, int16_t* result) {
+int32_t quor_control_get_IsShown(quor_object control, quor_bool* result) {
     return Call<ControlFace>(control, [&](auto& it) { Out(result, it.IsShown()); });
 }
 
-int32_t quor_control_get_IsUsable(quor_object control, int16_t* result) {
+int32_t quor_control_get_IsUsable(quor_object control, quor_bool* result) {
     return Call<ControlFace>(control, [&](auto& it) { Out(result, it.IsUsable()); });
 }
 
@@ -2277,7 +2277,7 @@ int32_t quor_control_get_TabCaption(quor_object control, int32_t Index, quor_tex
     return Call<ControlFace>(control, [&](auto& it) { Out(result, it.TabCaption(Index)); });
 }
 
-int32_t quor_control_get_TabPresent(quor_object control, int32_t Index, int16_t* result) {
+int32_t quor_control_get_TabPresent(quor_object control, int32_t Index, quor_bool* result) {
     return Call<ControlFace>(control, [&](auto& it) { Out(result, it.TabPresent(Index)); });
 }
 

@@ -65,7 +65,7 @@ int main(int argc, char** argv) {
         .size = sizeof functions, .run_dialog = run_dialog, .show_message = show_message};
     quor_object platform, probe, settings;
     const char* class_name;
-    int16_t complete, accepted, changed;
+    quor_bool complete, accepted, changed;
     double r0;
 
     if (argc != 3) {

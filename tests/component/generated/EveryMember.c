@@ -4,7 +4,7 @@
 
 void every_member_of_conversion(quor_object object) {
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -74,7 +74,7 @@ void every_member_of_conversion(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -166,7 +166,7 @@ void every_member_of_conversion(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -193,7 +193,7 @@ void every_member_of_conversion(quor_object object) {
     }
     {
         quor_object INIFile = sample_INIFile;
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_OBJECT; args[0].as.object = sample_INIFile;
@@ -211,7 +211,7 @@ void every_member_of_conversion(quor_object object) {
 
 void every_member_of_its90(quor_object object) {
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -258,7 +258,7 @@ void every_member_of_its90(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -372,7 +372,7 @@ void every_member_of_its90(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -396,7 +396,7 @@ void every_member_of_its90(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -412,7 +412,7 @@ void every_member_of_its90(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -443,7 +443,7 @@ void every_member_of_its90(quor_object object) {
     }
     {
         quor_object INIFile = sample_INIFile;
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_OBJECT; args[0].as.object = sample_INIFile;
@@ -461,7 +461,7 @@ void every_member_of_its90(quor_object object) {
 
 void every_member_of_its90_low_range(quor_object object) {
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -483,7 +483,7 @@ void every_member_of_its90_low_range(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -530,7 +530,7 @@ void every_member_of_its90_low_range(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -552,7 +552,7 @@ void every_member_of_its90_low_range(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -738,7 +738,7 @@ void every_member_of_its90_low_range(quor_object object) {
     }
     {
         quor_object INIFile = sample_INIFile;
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_OBJECT; args[0].as.object = sample_INIFile;
@@ -756,7 +756,7 @@ void every_member_of_its90_low_range(quor_object object) {
 
 void every_member_of_its90_high_range(quor_object object) {
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -778,7 +778,7 @@ void every_member_of_its90_high_range(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -825,7 +825,7 @@ void every_member_of_its90_high_range(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -847,7 +847,7 @@ void every_member_of_its90_high_range(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -1033,7 +1033,7 @@ void every_member_of_its90_high_range(quor_object object) {
     }
     {
         quor_object INIFile = sample_INIFile;
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_OBJECT; args[0].as.object = sample_INIFile;
@@ -1051,7 +1051,7 @@ void every_member_of_its90_high_range(quor_object object) {
 
 void every_member_of_ipts68(quor_object object) {
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -1098,7 +1098,7 @@ void every_member_of_ipts68(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -1143,7 +1143,7 @@ void every_member_of_ipts68(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -1271,7 +1271,7 @@ void every_member_of_ipts68(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -1295,7 +1295,7 @@ void every_member_of_ipts68(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -1311,7 +1311,7 @@ void every_member_of_ipts68(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -1342,7 +1342,7 @@ void every_member_of_ipts68(quor_object object) {
     }
     {
         quor_object INIFile = sample_INIFile;
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_OBJECT; args[0].as.object = sample_INIFile;
@@ -1360,7 +1360,7 @@ void every_member_of_ipts68(quor_object object) {
 
 void every_member_of_cvd(quor_object object) {
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -1407,7 +1407,7 @@ void every_member_of_cvd(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -1475,7 +1475,7 @@ void every_member_of_cvd(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -1533,7 +1533,7 @@ void every_member_of_cvd(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -1580,7 +1580,7 @@ void every_member_of_cvd(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -1596,7 +1596,7 @@ void every_member_of_cvd(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -1627,7 +1627,7 @@ void every_member_of_cvd(quor_object object) {
     }
     {
         quor_object INIFile = sample_INIFile;
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_OBJECT; args[0].as.object = sample_INIFile;
@@ -1645,7 +1645,7 @@ void every_member_of_cvd(quor_object object) {
 
 void every_member_of_pt100(quor_object object) {
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -1692,7 +1692,7 @@ void every_member_of_pt100(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -1796,7 +1796,7 @@ void every_member_of_pt100(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -1843,7 +1843,7 @@ void every_member_of_pt100(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -1859,7 +1859,7 @@ void every_member_of_pt100(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -1890,7 +1890,7 @@ void every_member_of_pt100(quor_object object) {
     }
     {
         quor_object INIFile = sample_INIFile;
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_OBJECT; args[0].as.object = sample_INIFile;
@@ -1908,7 +1908,7 @@ void every_member_of_pt100(quor_object object) {
 
 void every_member_of_htprt(quor_object object) {
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -1955,7 +1955,7 @@ void every_member_of_htprt(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -2060,7 +2060,7 @@ void every_member_of_htprt(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -2084,7 +2084,7 @@ void every_member_of_htprt(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -2100,7 +2100,7 @@ void every_member_of_htprt(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -2131,7 +2131,7 @@ void every_member_of_htprt(quor_object object) {
     }
     {
         quor_object INIFile = sample_INIFile;
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_OBJECT; args[0].as.object = sample_INIFile;
@@ -2149,7 +2149,7 @@ void every_member_of_htprt(quor_object object) {
 
 void every_member_of_wt90(quor_object object) {
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -2196,7 +2196,7 @@ void every_member_of_wt90(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -2286,7 +2286,7 @@ void every_member_of_wt90(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -2310,7 +2310,7 @@ void every_member_of_wt90(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -2326,7 +2326,7 @@ void every_member_of_wt90(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -2357,7 +2357,7 @@ void every_member_of_wt90(quor_object object) {
     }
     {
         quor_object INIFile = sample_INIFile;
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_OBJECT; args[0].as.object = sample_INIFile;
@@ -2375,7 +2375,7 @@ void every_member_of_wt90(quor_object object) {
 
 void every_member_of_thermistor(quor_object object) {
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -2422,7 +2422,7 @@ void every_member_of_thermistor(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -2560,7 +2560,7 @@ void every_member_of_thermistor(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -2584,7 +2584,7 @@ void every_member_of_thermistor(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -2600,7 +2600,7 @@ void every_member_of_thermistor(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -2631,7 +2631,7 @@ void every_member_of_thermistor(quor_object object) {
     }
     {
         quor_object INIFile = sample_INIFile;
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_OBJECT; args[0].as.object = sample_INIFile;
@@ -2649,7 +2649,7 @@ void every_member_of_thermistor(quor_object object) {
 
 void every_member_of_polynomial(quor_object object) {
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -2696,7 +2696,7 @@ void every_member_of_polynomial(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -2843,7 +2843,7 @@ void every_member_of_polynomial(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -2867,7 +2867,7 @@ void every_member_of_polynomial(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -2883,7 +2883,7 @@ void every_member_of_polynomial(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -2914,7 +2914,7 @@ void every_member_of_polynomial(quor_object object) {
     }
     {
         quor_object INIFile = sample_INIFile;
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_OBJECT; args[0].as.object = sample_INIFile;
@@ -3000,7 +3000,7 @@ void every_member_of_tc_polynomial(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -3022,7 +3022,7 @@ void every_member_of_tc_polynomial(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -3069,7 +3069,7 @@ void every_member_of_tc_polynomial(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -3183,7 +3183,7 @@ void every_member_of_tc_polynomial(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -3207,7 +3207,7 @@ void every_member_of_tc_polynomial(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -3223,7 +3223,7 @@ void every_member_of_tc_polynomial(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -3254,7 +3254,7 @@ void every_member_of_tc_polynomial(quor_object object) {
     }
     {
         quor_object INIFile = sample_INIFile;
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_OBJECT; args[0].as.object = sample_INIFile;
@@ -3272,7 +3272,7 @@ void every_member_of_tc_polynomial(quor_object object) {
 
 void every_member_of_tc_table(quor_object object) {
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -3319,7 +3319,7 @@ void every_member_of_tc_table(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -3526,7 +3526,7 @@ void every_member_of_tc_table(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -3561,7 +3561,7 @@ void every_member_of_tc_table(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -3577,7 +3577,7 @@ void every_member_of_tc_table(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -3608,7 +3608,7 @@ void every_member_of_tc_table(quor_object object) {
     }
     {
         quor_object INIFile = sample_INIFile;
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_OBJECT; args[0].as.object = sample_INIFile;
@@ -3626,7 +3626,7 @@ void every_member_of_tc_table(quor_object object) {
 
 void every_member_of_tc_typex(quor_object object) {
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -3648,7 +3648,7 @@ void every_member_of_tc_typex(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -3695,7 +3695,7 @@ void every_member_of_tc_typex(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -3995,7 +3995,7 @@ void every_member_of_tc_typex(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -4031,7 +4031,7 @@ void every_member_of_tc_typex(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -4047,7 +4047,7 @@ void every_member_of_tc_typex(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -4078,7 +4078,7 @@ void every_member_of_tc_typex(quor_object object) {
     }
     {
         quor_object INIFile = sample_INIFile;
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_OBJECT; args[0].as.object = sample_INIFile;
@@ -4096,7 +4096,7 @@ void every_member_of_tc_typex(quor_object object) {
 
 void every_member_of_tc_typepoly(quor_object object) {
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -4143,7 +4143,7 @@ void every_member_of_tc_typepoly(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -4303,7 +4303,7 @@ void every_member_of_tc_typepoly(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -4328,7 +4328,7 @@ void every_member_of_tc_typepoly(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -4344,7 +4344,7 @@ void every_member_of_tc_typepoly(quor_object object) {
     }
     {
         quor_text Filename_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = -2;
@@ -4375,7 +4375,7 @@ void every_member_of_tc_typepoly(quor_object object) {
     }
     {
         quor_object INIFile = sample_INIFile;
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_OBJECT; args[0].as.object = sample_INIFile;
@@ -4439,8 +4439,8 @@ void every_member_of_inifile(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t Value = -1;
-        int16_t typed = 0;
+        quor_bool Value = -1;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_TEXT; args[0].as.text = quor_text_of("sample");
@@ -4455,7 +4455,7 @@ void every_member_of_inifile(quor_object object) {
     }
     {
         double Value = 2.5;
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_TEXT; args[0].as.text = quor_text_of("sample");
@@ -4470,7 +4470,7 @@ void every_member_of_inifile(quor_object object) {
     }
     {
         int16_t Value = 2;
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_TEXT; args[0].as.text = quor_text_of("sample");
@@ -4485,7 +4485,7 @@ void every_member_of_inifile(quor_object object) {
     }
     {
         quor_text Value_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_TEXT; args[0].as.text = quor_text_of("sample");
@@ -4584,7 +4584,7 @@ void every_member_of_inifile(quor_object object) {
 void every_member_of_registry(quor_object object) {
     {
         quor_text Value_out = {NULL, 0};
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_TEXT; args[0].as.text = quor_text_of("sample");
@@ -4793,7 +4793,7 @@ void every_member_of_dialog(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -4838,7 +4838,7 @@ void every_member_of_dialog(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -5012,7 +5012,7 @@ void every_member_of_control(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -5023,7 +5023,7 @@ void every_member_of_control(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -5034,7 +5034,7 @@ void every_member_of_control(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -5045,7 +5045,7 @@ void every_member_of_control(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         before_call();
@@ -5210,7 +5210,7 @@ void every_member_of_control(quor_object object) {
         quor_value_clear(&result);
     }
     {
-        int16_t typed = 0;
+        quor_bool typed = 0;
         quor_value args[5] = {{0}};
         quor_value result = {0};
         args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
