@@ -327,18 +327,29 @@ private:
     int m_destroyed = 0;
 };
 
-/// The files of the built-in stores stand in a folder of their own.
-struct Folder {
-    Folder() { std::filesystem::current_path(folder.Path()); }
-    TempFolder folder;
+/// The files of the built-in stores stand in a folder of their own while an input is played.
+class InFolder {
+public:
+    explicit InFolder(const std::filesystem::path& folder) : m_before(std::filesystem::current_path()) {
+        std::filesystem::current_path(folder);
+    }
+    InFolder(const InFolder&) = delete;
+    InFolder& operator=(const InFolder&) = delete;
+    ~InFolder() {
+        for (const auto& left : std::filesystem::directory_iterator("."))
+            std::filesystem::remove_all(left);
+        std::filesystem::current_path(m_before);
+    }
+
+private:
+    std::filesystem::path m_before;
 };
 
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const Folder folder;
+    static const TempFolder folder;
+    const InFolder here(folder.Path());
     Host(data, size).Play();
-    for (const auto& left : std::filesystem::directory_iterator(folder.folder.Path()))
-        std::filesystem::remove_all(left);
     return 0;
 }
