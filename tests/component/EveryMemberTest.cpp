@@ -126,6 +126,11 @@ TEST(EveryMember, IsCalledByItsTypedFunctionAndByNameAndGivesTheSame) {
             settings(QUOR_CONV_TCTABLE, every_member_of_tc_table);
             settings(QUOR_CONV_TCTYPEX, every_member_of_tc_typex);
             settings(QUOR_CONV_TCTYPEPOLY, every_member_of_tc_typepoly);
+            Handle pt100, typePoly;
+            ASSERT_EQ(quor_pt100_create(platform, &pt100), 0);
+            ASSERT_EQ(quor_tc_typepoly_create(platform, &typePoly), 0);
+            every_member_of_pt100(pt100);
+            every_member_of_tc_typepoly(typePoly);
 
             const Handle conversion = Conversion(QUOR_CONV_ITS90, platform);
             const Handle its90 = SettingsOf(conversion);

@@ -2,7 +2,9 @@
 
 #include "tests/component/Component.h"
 
+#include <algorithm>
 #include <array>
+#include <limits>
 #include <random>
 #include <thread>
 
@@ -80,6 +82,42 @@ TEST_F(Handles, OneObjectHasOneHandleHoweverItIsGivenOut) {
     ASSERT_EQ(quor_invoke(settings, id, QUOR_GET, nullptr, 0, &byName), 0);
     EXPECT_EQ(byName.as.object, low);
     quor_value_clear(&byName);
+}
+
+TEST_F(Handles, OfSettingsAreOfTheClassOfTheirType) {
+    const std::vector<std::pair<quor_EQuorConversionType, std::string>> classes{
+        {QUOR_CONV_NONE, ""},
+        {QUOR_CONV_ITS90, "CQuorITS90"},
+        {QUOR_CONV_IPTS68, "CQuorIPTS68"},
+        {QUOR_CONV_CVD, "CQuorCVD"},
+        {QUOR_CONV_HTPRT, "CQuorHTPRT"},
+        {QUOR_CONV_POLYNOMIAL, "CQuorPolynomial"},
+        {QUOR_CONV_THERMISTORT_R, "CQuorThermistor"},
+        {QUOR_CONV_THERMISTORR_T, "CQuorThermistor"},
+        {QUOR_CONV_TCPOLYNOMIAL, "CQuorTCPolynomial"},
+        {QUOR_CONV_TCTABLE, "CQuorTCTable"},
+        {QUOR_CONV_TCTYPEX, "CQuorTCTypeX"},
+        {QUOR_CONV_OHMS, ""},
+        {QUOR_CONV_VOLTS, ""},
+        {QUOR_CONV_IEC751, ""},
+        {QUOR_CONV_YSI400, ""},
+        {QUOR_CONV_WT90, "CQuorWT90"},
+        {QUOR_CONV_RATIO, ""},
+        {QUOR_CONV_PT100, ""},
+        {QUOR_CONV_ITSSR5, "CQuorITS90"},
+        {QUOR_CONV_THERMISTOR_OHMS, ""},
+        {QUOR_CONV_PT100R0, "CQuorPT100"},
+        {QUOR_CONV_TCTYPEPOLY, "CQuorTCTypePoly"},
+        {21, ""},
+        {std::numeric_limits<std::int32_t>::min(), ""}};
+    for (const auto& [type, expected] : classes) {
+        const Handle settings = SettingsOf(Conversion(type));
+        const char* name = "";
+        if (settings != 0) {
+            ASSERT_EQ(quor_class_of(settings, &name), 0);
+        }
+        EXPECT_EQ(name, expected) << type;
+    }
 }
 
 TEST_F(Handles, ARegistryThatWasHandedInComesBackAsItself) {
