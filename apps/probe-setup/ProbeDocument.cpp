@@ -113,15 +113,11 @@ private:
 } // namespace
 
 ProbeDocument::ProbeDocument(std::shared_ptr<Platform> platform,
-                             std::shared_ptr<QuorRegistryII::Registry> registry)
-    : m_platform(std::make_shared<QuietPlatform>(std::move(platform))), m_registry(std::move(registry)) {}
-
-ProbeDocument::ProbeDocument(std::shared_ptr<Platform> platform,
                              std::shared_ptr<QuorRegistryII::Registry> registry,
-                             QuorIniFile::IniFileSystem& files)
-    : ProbeDocument(std::move(platform), std::move(registry)) {
-    m_files = &files;
-}
+                             QuorIniFile::IniFileSystem* files)
+    : m_platform(std::make_shared<QuietPlatform>(std::move(platform))),
+      m_registry(std::move(registry)),
+      m_files(files) {}
 
 std::unique_ptr<ProbeFile> ProbeDocument::FileAt(const std::wstring& path, Opening opening) const {
     return m_files ? std::make_unique<ProbeFile>(path, *m_files, opening)

@@ -45,12 +45,11 @@ public:
     using Progress = std::function<void(double)>;
 
     /// The conversions speak to the user through `platform` and keep the places of their dialogs in
-    /// `registry`, which may be null. The document is empty and has no file.
+    /// `registry`, which may be null. The files are those of this computer, or those of a test, which must
+    /// outlive the document. The document is empty and has no file.
     explicit ProbeDocument(std::shared_ptr<QuorConversions::Platform> platform,
-                           std::shared_ptr<QuorRegistryII::Registry> registry = nullptr);
-    /// The same on other files, which must outlive the document: those of a test.
-    ProbeDocument(std::shared_ptr<QuorConversions::Platform> platform,
-                  std::shared_ptr<QuorRegistryII::Registry> registry, QuorIniFile::IniFileSystem& files);
+                           std::shared_ptr<QuorRegistryII::Registry> registry = nullptr,
+                           QuorIniFile::IniFileSystem* files = nullptr);
 
     /// Takes the probes of a file in place of what was there. Raises QuorError, and leaves all as it was,
     /// when the file cannot be read, and DocumentError when it is no settings file.
@@ -193,7 +192,7 @@ private:
 
     std::shared_ptr<QuietPlatform> m_platform;
     std::shared_ptr<QuorRegistryII::Registry> m_registry;
-    QuorIniFile::IniFileSystem* m_files = nullptr; // null: those of this computer
+    QuorIniFile::IniFileSystem* m_files; // null: those of this computer
     std::wstring m_path;
     bool m_isReadOnly = false;
     std::unique_ptr<QuorProbeFile::ProbeFile> m_file; // as it was last read or saved; never written to

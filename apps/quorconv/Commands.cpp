@@ -59,15 +59,19 @@ bool IsCompletedBy(const ReadOutcome& outcome, const std::wstring& settings,
 /// `completion` gives.
 Probe ReadProbe(ProbeFile& file, const std::wstring& section,
                 const std::vector<Assignment>& completion = {}) {
-    const auto present = file.Find(section); // as the file spells it
-    Probe probe(present ? present->section : section);
-    const ReadOutcome outcome = file.Read(probe.Section(), probe.Conversion());
-    const std::wstring settings =
-        outcome.probe.standAlone ? probe.Section() : SettingsSection(probe.Section());
+    Probe probe(section);
+    const ReadOutcome outcome = file.Read(section, probe.Conversion());
+    const std::wstring settings = outcome.probe.standAlone ? section : SettingsSection(section);
     if (!IsCompletedBy(outcome, settings, completion))
-        throw Problem{Place(file.Path(), probe.Section()) + L": the record cannot be read",
+        throw Problem{Place(file.Path(), section) + L": the record cannot be read",
                       Reasons(outcome.messages, outcome.problems)};
     return probe;
+}
+
+/// `section` as the file spells it. To be asked for one probe: it is looked up from the start of the file.
+std::wstring SpelledInFile(ProbeFile& file, const std::wstring& section) {
+    const auto present = file.Find(section);
+    return present ? present->section : section;
 }
 
 std::wstring TellConflict(const std::wstring& file, const RecordConflict& conflict) {
@@ -198,7 +202,7 @@ void ShowProbes(const std::wstring& path, const std::wstring* section, bool asJs
     ProbeFile file(path);
     std::vector<std::wstring> sections;
     if (section)
-        sections = {*section};
+        sections = {SpelledInFile(file, *section)};
     else
         for (const ProbeEntry& probe : file.Probes())
             sections.push_back(probe.section);
@@ -237,7 +241,7 @@ void SetValues(const std::wstring& path, const std::wstring& section,
                const std::vector<Assignment>& assignments) {
     ProbeFile file(path);
     file.Edit([&] {
-        Probe probe = ReadProbe(file, section, assignments);
+        Probe probe = ReadProbe(file, SpelledInFile(file, section), assignments);
         Assign(probe, path, assignments);
         WriteChanges(probe, file, file);
     });
@@ -246,7 +250,7 @@ void SetValues(const std::wstring& path, const std::wstring& section,
 namespace {
 
 Probe ReadEditableProbe(ProbeFile& file, const std::wstring& section) {
-    Probe probe = ReadProbe(file, section);
+    Probe probe = ReadProbe(file, SpelledInFile(file, section));
     if (!probe.Settings())
         throw Problem{Place(file.Path(), section) + L": " + probe.TypeName() + L" has no settings"};
     return probe;

@@ -105,7 +105,7 @@ protected:
 
     std::shared_ptr<Scripted::ScriptedPlatform> screen = std::make_shared<Scripted::ScriptedPlatform>();
     Support::InterceptedFiles files;
-    ProbeDocument document{screen, nullptr, files};
+    ProbeDocument document{screen, nullptr, &files};
 };
 
 } // namespace
