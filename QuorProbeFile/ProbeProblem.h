@@ -6,8 +6,9 @@
 
 namespace QuorProbeFile {
 
-/// What can be wrong with a probe's record, or with the file around it. Hosts keep these numbers: they are
-/// only added to.
+/// What can be wrong with a probe's record, or with the file around it; from 101 on warnings, of records that
+/// can be read and whose values can hardly be meant (ProbeWarning.h). Hosts keep these numbers: they are only
+/// added to.
 enum EProbeProblem : std::int32_t {
     PROBLEM_SECTION_MISSING = 1,
     PROBLEM_KEY_MISSING = 2,
@@ -23,6 +24,27 @@ enum EProbeProblem : std::int32_t {
     PROBLEM_MALFORMED_LINE = 12,    ///< no key=value
     PROBLEM_KEPT_FILE = 13,         ///< beside the file: what another program had put in its place
     PROBLEM_INTERRUPTED_SAVE = 14,  ///< beside the file: what an interrupted save has left
+
+    WARNING_R0_NOT_POSITIVE = 101,
+    WARNING_RTPW_NOT_POSITIVE = 102,
+    WARNING_NOT_FINITE = 103, ///< NaN or infinity
+    WARNING_COEFFICIENTS_ALL_ZERO = 104,
+    WARNING_TEMPERATURES_NOT_INCREASING = 105,
+    WARNING_RANGE_DOES_NOT_FIT = 106, ///< coefficients that the ITS-90 range does not have are not 0
+    WARNING_ALPHA_SIZE = 107,
+    WARNING_DELTA_SIZE = 108,
+    WARNING_BETA_SIZE = 109,
+    WARNING_CVD_A_SIZE = 110,
+    WARNING_CVD_B_SIZE = 111,
+    WARNING_CVD_C_SIZE = 112,
+    WARNING_A4_SIZE = 113,
+    WARNING_C4_SIZE = 114,
+    WARNING_DEVIATION_A_SIZE = 115,
+    WARNING_DEVIATION_SIZE = 116, ///< b, c, d and c1 to c5 of the ITS-90
+    WARNING_THERMISTOR_A0_SIZE = 117,
+    WARNING_THERMISTOR_A1_SIZE = 118,
+    WARNING_THERMISTOR_A3_SIZE = 119,
+    WARNING_THERMISTOR_B1_SIZE = 120,
 };
 
 /// One problem, and where it is.
@@ -32,6 +54,7 @@ struct ProbeProblem {
     std::wstring section; ///< empty where it has no name
     std::wstring key;     ///< empty where the problem is not that of one key
     std::wstring text;    ///< what is wrong, for a person, without the place: "the key is missing"
+    [[nodiscard]] bool IsWarning() const { return kind >= WARNING_R0_NOT_POSITIVE; }
     friend bool operator==(const ProbeProblem&, const ProbeProblem&) = default;
 };
 

@@ -7,6 +7,7 @@
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeProblem.h"
 #include "QuorProbeFile/ProbeTypes.h"
+#include "QuorProbeFile/ProbeWarning.h"
 #include "QuorProbeFile/ReadLog.h"
 #include "QuorProbeFile/RecordImage.h"
 #include "QuorProbeFile/RecordMerge.h"

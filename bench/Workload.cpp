@@ -9,10 +9,12 @@ namespace Bench {
 
 Workload::Workload(std::size_t probes) : m_coefficients(probes) {
     std::mt19937_64 random(20261121);
-    std::uniform_real_distribution<double> coefficient(-1000.0, 1000.0);
+    // R0, ALPHA, DELTA and BETA as probes have them: a check finds nothing to tell.
+    constexpr Coefficients usual{100.0, 3.85055E-3, 1.499786, 0.1086338};
+    std::uniform_real_distribution<double> deviation(0.999, 1.001);
     for (Coefficients& coefficients : m_coefficients)
-        for (double& value : coefficients)
-            value = coefficient(random);
+        for (std::size_t i = 0; i < usual.size(); ++i)
+            coefficients[i] = usual[i] * deviation(random);
 }
 
 std::string Workload::Section(std::size_t probe) { return "Probe " + std::to_string(probe); }

@@ -23,7 +23,9 @@ inline constexpr const wchar_t* thermocouplePolynomialSection = L"Thermocouple P
 inline constexpr const wchar_t* versionKey = L"Version";
 inline constexpr const wchar_t* conversionTypeKey = L"ConversionType";
 inline constexpr const wchar_t* coefficientsKey = L"Coefficients"; // indexed
+inline constexpr const wchar_t* rangeKey = L"Range";
 inline constexpr const wchar_t* rtpwKey = L"RTPW";
 inline constexpr const wchar_t* tcTypeKey = L"TCType";
+inline constexpr const wchar_t* temperaturesKey = L"Temperatures"; // indexed
 
 } // namespace QuorConversions

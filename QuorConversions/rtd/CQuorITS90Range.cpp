@@ -6,11 +6,6 @@
 #include <algorithm>
 
 namespace QuorConversions {
-namespace {
-
-constexpr const wchar_t* rangeKey = L"Range";
-
-} // namespace
 
 CQuorITS90Range::CQuorITS90Range(std::shared_ptr<Platform> platform, const Side& side)
     : QuorObject(std::move(platform), side.className),

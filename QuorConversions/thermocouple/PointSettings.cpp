@@ -1,12 +1,12 @@
 #include "QuorConversions/thermocouple/PointSettings.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorConversions/core/detail/Record.h"
 
 namespace QuorConversions {
 namespace {
 
 constexpr const wchar_t* numPointsKey = L"NumPoints";
-constexpr const wchar_t* temperaturesKey = L"Temperatures";
 
 } // namespace
 

@@ -3,11 +3,13 @@
 #include "QuorConversions/core/RecordNames.h"
 #include "QuorIniFile/IniLines.h"
 #include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/ValueText.h"
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeTypes.h"
 #include "QuorProbeFile/detail/RecordComparison.h"
 #include "QuorProbeFile/detail/RecordProblems.h"
 #include "QuorProbeFile/detail/RecordReading.h"
+#include "QuorProbeFile/detail/RecordWarnings.h"
 
 #include <algorithm>
 #include <map>
@@ -57,8 +59,10 @@ public:
 
     void CheckRecord(const std::wstring& path, const ProbeEntry& probe) {
         const RecordReading reading(m_store, path, probe);
-        if (IsRight(reading, probe))
+        if (IsRight(reading, probe)) {
+            Warn(reading, probe);
             return;
+        }
         bool isLookedThrough =
             reading.HasType(); // the library has asked for each key that the record can have
         for (ProbeProblem& problem : ProblemsOf(reading, probe, m_places)) {
@@ -70,6 +74,8 @@ public:
             isLookedThrough = isLookedThrough && !IsGivenUpAfter(problem);
             Report(std::move(problem));
         }
+        if (isLookedThrough)
+            Warn(reading, probe);
         CheckSections(reading, probe, isLookedThrough);
     }
 
@@ -93,6 +99,11 @@ public:
     }
 
 private:
+    void Warn(const RecordReading& reading, const ProbeEntry& probe) {
+        for (RecordWarning& warning : WarningsOf(reading))
+            Report(ProblemAt(*warning.read, probe, m_places, warning.kind, std::move(warning.text)));
+    }
+
     /// Whether the library may have asked for no more keys of the record.
     [[nodiscard]] static bool IsGivenUpAfter(const ProbeProblem& problem) {
         return problem.kind == PROBLEM_UNKNOWN_TYPE || problem.kind == PROBLEM_RECORD_REFUSED ||
@@ -135,6 +146,28 @@ private:
         for (const auto& [name, keys] : known)
             if (const auto* const section = m_places.Section(name))
                 CheckSection(*section, keys, isLookedThrough);
+        for (const ReadLog::Read& read : reading.Reads())
+            if (isLookedThrough && read.found && read.key == QuorConversions::rangeKey)
+                CheckRange(read, probe, known[Folded(read.section)]);
+    }
+
+    /// Whether coefficients stand below an ITS-90 range that it does not have: the wrong range, most likely.
+    void CheckRange(const ReadLog::Read& range, const ProbeEntry& probe,
+                    const std::set<std::wstring>& known) {
+        std::wstring surplus;
+        std::set<std::wstring> seen;
+        m_places.ForEachLine(*m_places.Section(range.section), [&](const IniLines& line) {
+            const std::wstring key = line.Is(IniLines::Kind::Key) ? Folded(line.Name()) : std::wstring{};
+            if (!key.starts_with(Folded(QuorConversions::coefficientsKey)) || known.contains(key) ||
+                !seen.insert(key).second)
+                return;
+            if (const auto value = QuorIniFile::DoubleOf(line.Value()); value && *value != 0.0)
+                surplus += (surplus.empty() ? L"" : L", ") + line.Name();
+        });
+        if (!surplus.empty())
+            Report(ProblemAt(range, probe, m_places, WARNING_RANGE_DOES_NOT_FIT,
+                             L"range " + ToText(range.value) +
+                                 L" does not have these coefficients, which are not 0: " + surplus));
     }
 
     void CheckSection(const SectionIndex::Section& section, const std::set<std::wstring>& known,

@@ -27,14 +27,13 @@ std::wstring WhatIsNoComment(const Value& kind, const std::wstring& text) {
                               : L"; a comment begins with \";\" after a blank";
 }
 
-/// A problem with a key that was read.
+} // namespace
+
 ProbeProblem ProblemAt(const ReadLog::Read& read, const ProbeEntry& entry, LinePlaces& places,
                        EProbeProblem kind, std::wstring text) {
     const LinePlaces::Key* const key = places.Find(read.section, read.key);
     return {kind, key ? key->line : entry.line, read.section, read.key, std::move(text)};
 }
-
-} // namespace
 
 const SectionIndex::Section* LinePlaces::Section(std::wstring_view section) {
     if (m_sections.IsEmpty()) {

@@ -52,6 +52,10 @@ private:
     std::unordered_map<std::wstring, Key> m_keys; // of it, by folded name
 };
 
+/// A problem with a key that was read.
+[[nodiscard]] ProbeProblem ProblemAt(const ReadLog::Read& read, const ProbeEntry& entry, LinePlaces& places,
+                                     EProbeProblem kind, std::wstring text);
+
 /// What a key that was not found, or whose value could not be read, is told with.
 [[nodiscard]] ProbeProblem ProblemOf(const ReadLog::Read& read, const ProbeEntry& entry, LinePlaces& places);
 

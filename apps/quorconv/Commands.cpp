@@ -4,6 +4,7 @@
 #include "QuorProbeFile/ProbeFile.h"
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeTypes.h"
+#include "QuorProbeFile/ProbeWarning.h"
 #include "QuorProbeFile/RecordImage.h"
 #include "QuorProbeFile/RecordMerge.h"
 #include "apps/quorconv/Probe.h"
@@ -323,19 +324,32 @@ std::vector<std::wstring> Reasons(const std::vector<std::wstring>& messages,
     return reasons;
 }
 
-bool CheckFiles(const std::vector<std::wstring>& files) {
+namespace {
+
+void PrintProblem(const std::wstring& file, const ProbeProblem& problem, const ProbeWarning* warning) {
+    if (problem.line == 0) { // beside the file
+        std::cout << ToPrintable(file + L": " + problem.text) << '\n';
+        return;
+    }
+    std::cout << ToPrintable(file) << ':' << problem.line << ": " << (warning ? "warning: " : "")
+              << ToPrintable(L"[" + problem.section + L"] " +
+                             (problem.key.empty() ? L"" : problem.key + L": ") + problem.text +
+                             (warning ? L" [" + warning->id + L"]" : L""))
+              << '\n';
+}
+
+} // namespace
+
+bool CheckFiles(const std::vector<std::wstring>& files, const WarningChoice& warnings) {
     bool fine = true;
     for (const std::wstring& file : files) {
         try {
             for (const ProbeProblem& problem : ProbeFile(file).Check()) {
-                fine = false;
-                if (problem.line == 0) // beside the file
-                    std::cout << ToPrintable(file + L": " + problem.text) << '\n';
-                else
-                    std::cout << ToPrintable(file) << ':' << problem.line << ": "
-                              << ToPrintable(L"[" + problem.section + L"] " +
-                                             (problem.key.empty() ? L"" : problem.key + L": ") + problem.text)
-                              << '\n';
+                const ProbeWarning* const warning = FindWarning(problem.kind);
+                if (warning && warnings.ignored.contains(warning->id))
+                    continue;
+                fine = fine && warning && !warnings.isStrict;
+                PrintProblem(file, problem, warning);
             }
         } catch (const QuorIniFile::QuorError& error) {
             std::cout << ToPrintable(file) << ": " << ToPrintable(error.Description()) << '\n';

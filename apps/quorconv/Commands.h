@@ -4,6 +4,7 @@
 #include "QuorProbeFile/ProbeProblem.h"
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -45,7 +46,13 @@ void EditProbeOn(const std::shared_ptr<QuorConversions::Platform>& platform, con
 /// Why a record cannot be read: what the library has said, and the keys.
 [[nodiscard]] std::vector<std::wstring> Reasons(const std::vector<std::wstring>& messages,
                                                 const std::vector<QuorProbeFile::ProbeProblem>& problems);
-/// Prints each problem of each file as "file:line: [section] key: what is wrong"; true when there is none.
-[[nodiscard]] bool CheckFiles(const std::vector<std::wstring>& files);
+/// What a check makes of warnings (ProbeWarning.h).
+struct WarningChoice {
+    bool isStrict = false;          ///< they count as problems
+    std::set<std::wstring> ignored; ///< the ids of those that are not told
+};
+/// Prints each problem of each file as "file:line: [section] key: what is wrong", warnings with their ids;
+/// true when there is no problem but warnings, or with `isStrict` nothing at all.
+[[nodiscard]] bool CheckFiles(const std::vector<std::wstring>& files, const WarningChoice& warnings);
 
 } // namespace quorconv

@@ -3,6 +3,7 @@
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"
 #include "QuorProbeFile/ProbeFileError.h"
+#include "QuorProbeFile/ProbeWarning.h"
 #include "apps/quorconv/Commands.h"
 
 #ifdef QUORCONV_HAS_WINDOWS
@@ -148,11 +149,19 @@ public:
         copy->add_option("TO-FILE", m_toFile, "The file to copy to")->required();
         copy->add_option("TO-SECTION", m_toSection, "The section to copy to")->required();
 
-        auto* check = Add(
-            "check", "Check every probe of the files; each problem is a line FILE:LINE: [SECTION] KEY: ...",
-            "quorconv check laboratory.ini *.cvd",
-            [this] { return quorconv::CheckFiles(Wide(m_files)) ? fine : problemFound; });
+        auto* check =
+            Add("check",
+                "Check every probe of the files; each problem is a line FILE:LINE: [SECTION] KEY: ...,\n"
+                "each value that can hardly be meant FILE:LINE: warning: ... [ID]",
+                "quorconv check laboratory.ini *.cvd",
+                [this] { return quorconv::CheckFiles(Wide(m_files), Warnings()) ? fine : problemFound; });
         check->add_option("FILE", m_files, "The files")->required();
+        check->add_flag("--strict", m_isStrict, "End with 1 for a warning, too");
+        check
+            ->add_option("--ignore", m_ignored,
+                         "Do not tell the warnings of that ID; may stand several times")
+            ->type_name("ID")
+            ->allow_extra_args(false);
     }
 
     int Run(int argc, const char* const* argv) {
@@ -176,6 +185,17 @@ private:
     void AddFile(CLI::App* command) { command->add_option("FILE", m_file, "The INI file")->required(); }
     void AddSection(CLI::App* command) {
         command->add_option("SECTION", m_section, "The section of the probe")->required();
+    }
+
+    /// What the command line says of warnings.
+    [[nodiscard]] quorconv::WarningChoice Warnings() const {
+        quorconv::WarningChoice choice{m_isStrict, {}};
+        for (const std::wstring& id : Wide(m_ignored)) {
+            if (!QuorProbeFile::FindWarning(id))
+                throw UsageError("there is no warning \"" + ToPrintable(id) + "\"");
+            choice.ignored.insert(id);
+        }
+        return choice;
     }
 
     [[nodiscard]] ExitCode EditOnTheScreen() const {
@@ -204,8 +224,10 @@ private:
     std::string m_toSection;
     std::vector<std::string> m_assignments;
     std::vector<std::string> m_files;
+    std::vector<std::string> m_ignored;
     std::string m_script;
     bool m_asJson = false;
+    bool m_isStrict = false;
     bool m_show = false;
     CLI::Option* m_hasSection = nullptr;
 };

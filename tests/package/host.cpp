@@ -17,6 +17,8 @@ int KeepProbe(const std::wstring& file) {
     CQuorConversion probe;
     probe.SetConversionType(CONV_CVD);
     SettingsAs<CQuorCVD>(probe)->SetCoefficients(CVD_R0, 100.0123);
+    SettingsAs<CQuorCVD>(probe)->SetCoefficients(CVD_ALPHA, 3.85055E-3);
+    SettingsAs<CQuorCVD>(probe)->SetCoefficients(CVD_DELTA, 1.499786);
     probe.WriteToFile(file, L"Probe 1");
 
     CQuorConversion again;

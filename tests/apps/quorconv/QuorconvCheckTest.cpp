@@ -115,10 +115,10 @@ const BadFile badFiles[] = {
      "host.ini:4: [A - Settings] NumCoefficients: the value -5 is not accepted\n"},
     {"a value that would be ignored silently is told",
      "[A]\nConversionType=8\n[A - Settings]\nNumPoints=11\n" //
-     "Temperatures0=0\nVoltages0=0\nTemperatures1=0\nVoltages1=0\nTemperatures2=0\nVoltages2=0\n"
-     "Temperatures3=0\nVoltages3=0\nTemperatures4=0\nVoltages4=0\nTemperatures5=0\nVoltages5=0\n"
-     "Temperatures6=0\nVoltages6=0\nTemperatures7=0\nVoltages7=0\nTemperatures8=0\nVoltages8=0\n"
-     "Temperatures9=0\nVoltages9=0\n",
+     "Temperatures0=0\nVoltages0=0\nTemperatures1=1\nVoltages1=0\nTemperatures2=2\nVoltages2=0\n"
+     "Temperatures3=3\nVoltages3=0\nTemperatures4=4\nVoltages4=0\nTemperatures5=5\nVoltages5=0\n"
+     "Temperatures6=6\nVoltages6=0\nTemperatures7=7\nVoltages7=0\nTemperatures8=8\nVoltages8=0\n"
+     "Temperatures9=9\nVoltages9=0\n",
      "host.ini:4: [A - Settings] NumPoints: the value 11 is not accepted; 10 would be used\n"},
     {"the other thermistor direction is told",
      "[A]\nConversionType=6\n[A - Settings]\nConvType=0\nNumCoefficients=0\n",
@@ -148,9 +148,10 @@ TEST_F(QuorconvTest, ChecksEachRecordAndTellsFileLineSectionAndKey) {
 }
 
 TEST_F(QuorconvTest, ChecksARecordOfTheGreatestCountAndALongSection) {
-    std::string file = "[A]\nConversionType=2\n[A - Settings]\nNumCoefficients=32767\nUsePolynomial=False\n";
-    for (int i = 0; i < 32766; ++i) // the last one is missing
-        file += "Coefficients" + std::to_string(i) + "=1\n";
+    std::string file = "[A]\nConversionType=2\n[A - Settings]\nNumCoefficients=32767\nUsePolynomial=False\n"
+                       "Coefficients0=100\nCoefficients1=3.85055E-3\nCoefficients2=1.499786\n";
+    for (int i = 3; i < 32766; ++i) // the last one is missing
+        file += "Coefficients" + std::to_string(i) + "=0\n";
     file += "[B]\nConversionType=10\nlast=1\n";
     for (int i = 0; i < 32767; ++i)
         file += "last" + std::to_string(i % 10) + "=1\n";
@@ -173,4 +174,48 @@ TEST_F(QuorconvTest, ChecksEveryFileAndGoesOnAfterABadOne) {
               "b.w90:1: [W(T90)] the section is missing\n"
               "c.w90: Path/File access error: c.w90: The file is UTF-16 text with an odd number of bytes\n"
               "missing.w90: File not found: missing.w90\n");
+}
+
+namespace {
+
+constexpr const char* hardlyMeant =
+    "[A]\nConversionType=2\n[A - Settings]\nNumCoefficients=4\nUsePolynomial=True\n"
+    "Coefficients0=0\nCoefficients1=0.39083\nCoefficients2=-5.775E-7\n"
+    "Coefficients3=0\n";
+constexpr const char* r0Warning =
+    "host.ini:6: warning: [A - Settings] Coefficients0: R0 is 0; limit: above 0 [r0-not-positive]\n";
+constexpr const char* aWarning =
+    "host.ini:7: warning: [A - Settings] Coefficients1: A is 0.39083; limit: 0.0037 to "
+    "0.0041 [cvd-a-size]\n";
+
+} // namespace
+
+TEST_F(QuorconvTest, WarnsOfValuesThatCanHardlyBeMeantAndEndsWell) {
+    folder.Write("host.ini", hardlyMeant);
+    ExpectFine({"check", "host.ini"}, std::string(r0Warning) + aWarning);
+}
+
+TEST_F(QuorconvTest, AStrictCheckEndsWithOneForAWarning) {
+    folder.Write("host.ini", hardlyMeant);
+    folder.Write("good.w90", "[W(T90)]\nRTPW=25.5\n");
+    const Outcome run = Quorconv({"check", "--strict", "host.ini", "good.w90"});
+    EXPECT_EQ(run.code, 1);
+    EXPECT_EQ(run.out, std::string(r0Warning) + aWarning);
+    EXPECT_EQ(run.err, "");
+    ExpectFine({"check", "--strict", "good.w90"});
+}
+
+TEST_F(QuorconvTest, IgnoresTheWarningsOfAnIdAndNothingElse) {
+    folder.Write("host.ini", hardlyMeant);
+    ExpectFine({"check", "--ignore", "cvd-a-size", "host.ini"}, r0Warning);
+    ExpectFine({"check", "host.ini", "--strict", "--ignore", "cvd-a-size", "--ignore", "r0-not-positive"});
+    folder.Write("bad.w90", "[W(T90)]\nRTPW=x\n");
+    const Outcome run = Quorconv({"check", "--ignore=rtpw-not-positive", "bad.w90"});
+    EXPECT_EQ(run.code, 1);
+    EXPECT_EQ(run.out, "bad.w90:2: [W(T90)] RTPW: \"x\" is not a number\n");
+}
+
+TEST_F(QuorconvTest, RefusesToIgnoreWhatIsNoWarning) {
+    folder.Write("host.ini", hardlyMeant);
+    ExpectRefused({"check", "host.ini", "--ignore", "r0"}, "quorconv: there is no warning \"r0\"\n", 2);
 }

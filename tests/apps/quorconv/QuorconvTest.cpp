@@ -298,7 +298,7 @@ TEST_F(QuorconvTest, MakesNoStandAloneFileOfATypeThatHasAnotherExtension) {
                   "quorconv: a.ttp: [Thermocouple Polynomial]: in a file of this kind the section is not for "
                   "CONV_TCPOLYNOMIAL\n");
     EXPECT_EQ(folder.Files(), (std::vector<std::string>{".err", ".out", "host.ini"}));
-    ExpectFine({"new", "a.cvd", "Probe 1", "pt1"});
+    ExpectFine({"new", "a.cvd", "Probe 1", "pt1", "Coefficients0=100"});
     ExpectFine({"check", "a.cvd"});
 }
 
