@@ -166,10 +166,11 @@ private:
         return rule.kind == WARNING_R0_NOT_POSITIVE || rule.kind == WARNING_RTPW_NOT_POSITIVE;
     }
 
-    /// Whether it is a coefficient, and no resistance; the DC coefficients are those of a few types of
-    /// thermocouples alone.
+    /// Whether it is a coefficient of an equation: neither a resistance, nor a DC coefficient, which only a
+    /// few types of thermocouples have, nor what a PT100 carries along behind its R0.
     [[nodiscard]] bool IsOfEquation(const ReadLog::Read& read, const Judged* rule) const {
-        return m_type != CONV_TCTYPEX && IsIndexed(read, coefficients) && !(rule && IsResistance(*rule));
+        return m_type != CONV_TCTYPEX && m_type != CONV_PT100R0 && IsIndexed(read, coefficients) &&
+               !(rule && IsResistance(*rule));
     }
 
     /// Whether nothing but 0 was entered as coefficients.

@@ -192,7 +192,8 @@ private:
         quorconv::WarningChoice choice{m_isStrict, {}};
         for (const std::wstring& id : Wide(m_ignored)) {
             if (!QuorProbeFile::FindWarning(id))
-                throw UsageError("there is no warning \"" + ToPrintable(id) + "\"");
+                throw UsageError("there is no warning \"" + ToPrintable(id) +
+                                 "\"; each ends with its id in brackets");
             choice.ignored.insert(id);
         }
         return choice;

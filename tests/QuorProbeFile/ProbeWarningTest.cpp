@@ -105,6 +105,7 @@ TEST_F(ProbeWarningTest, CoefficientsAreNotAllZero) {
               (Texts{L"6 Coefficients1 104 all coefficients are 0"}));
     EXPECT_EQ(Told(Record(19, "NumCoefficients=1\nCoefficients0=100\n")), Texts{})
         << "R0 is all that it needs";
+    EXPECT_EQ(Told(Record(19, "NumCoefficients=2\nCoefficients0=100\nCoefficients1=0\n")), Texts{});
     EXPECT_EQ(Told(Its90("Range=8\nCoefficients0=0\nCoefficients1=0\n",
                          "Range=4\nCoefficients0=-1E-4\nCoefficients1=0\n")),
               Texts{L"7 Coefficients0 104 all coefficients are 0"})

@@ -217,5 +217,6 @@ TEST_F(QuorconvTest, IgnoresTheWarningsOfAnIdAndNothingElse) {
 
 TEST_F(QuorconvTest, RefusesToIgnoreWhatIsNoWarning) {
     folder.Write("host.ini", hardlyMeant);
-    ExpectRefused({"check", "host.ini", "--ignore", "r0"}, "quorconv: there is no warning \"r0\"\n", 2);
+    ExpectRefused({"check", "host.ini", "--ignore", "r0"},
+                  "quorconv: there is no warning \"r0\"; each ends with its id in brackets\n", 2);
 }
