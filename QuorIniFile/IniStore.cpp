@@ -61,7 +61,11 @@ public:
         m_file = std::move(file);
     }
     [[nodiscard]] const std::wstring& FileName() const { return m_file.Text(); }
-    void MakeFolder() const { MakeFolderOf(m_file, m_files); }
+    void MakeFolder() const {
+        if (FileName().empty())
+            throw FileError(ERR_BAD_FILE_NAME, FileName());
+        MakeFolderOf(m_file, m_files);
+    }
 
     void SetSection(std::wstring_view section) {
         if (section == m_section)

@@ -68,7 +68,8 @@ public:
     void SetFileName(std::wstring_view fileName) override;
     [[nodiscard]] std::wstring_view FileName() const;
     /// Creates the folder of the file, and those above it, where they are missing. What is created is for the
-    /// user alone. Raises 70 or 75 where that is not possible.
+    /// user alone. Raises 52 without a file name, 76 where a file stands in the place of a folder, 70 or 75
+    /// where it is not possible for another reason.
     void MakeFolder();
     /// Without a call the section without a name is selected.
     void SetSection(std::wstring_view section) override;
@@ -99,8 +100,8 @@ public:
     /// The lines of the text as it is now, with what was written, from a line on that an earlier walk through
     /// the same text has passed. Raises 53 when there is no file.
     [[nodiscard]] IniLines Lines(const IniLines::Place& from = {});
-    /// Another number whenever the text may have become another one since: a file was loaded or saved,
-    /// something was written or discarded. For those who keep what Lines has told.
+    /// Another number whenever the text may have become another one: something was written or discarded, or
+    /// the text of another program was loaded. For those who keep what Lines has told.
     [[nodiscard]] std::uint64_t TextNumber() const;
     /// Removes a section with its header, the comments that touch the header from above, and its body down to
     /// the last key and the comments that touch that one. Comments that stand apart stay, and so do those

@@ -413,8 +413,13 @@ void MakeFolderOf(const IniFileName& fileName, IniFileSystem& files) {
     fs::path made;
     for (const fs::path& part : fs::path(fileName.Path()).parent_path()) {
         made /= part;
-        const int error = Uninterrupted([&] { return files.MakeFolder(made.string()); });
-        if (error != 0 && error != EEXIST)
+        int error = Uninterrupted([&] { return files.MakeFolder(made.string()); });
+        if (error == EEXIST) { // a folder, or a link to one?
+            const auto there = Uninterrupted([&] { return files.StatusAt(made.string()); });
+            error =
+                there.error == 0 && there.value.kind != IniFileStatus::Kind::Folder ? ENOTDIR : there.error;
+        }
+        if (error != 0)
             Raise(error, fileName.Text(), Purpose::Write);
     }
 }

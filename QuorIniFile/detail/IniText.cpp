@@ -211,7 +211,7 @@ bool IniText::ReadOn() {
         Header header{static_cast<std::uint32_t>(at + 1), none, none, false};
         if (line.kind == IniLineKind::Section)
             header.nameLength = static_cast<std::uint32_t>(line.name.size());
-        const bool counts = !IsOneOfMany(header);
+        const bool counts = !IsRedundant(header);
         if (counts)
             m_headers.push_back(header);
         m_next = next;
@@ -247,7 +247,7 @@ void IniText::ReadAllHeaders() {
 
 /// Whether nobody can find the section of that header, nor the one before it, whose end it marks: both have
 /// no name, or that of the one before them.
-bool IniText::IsOneOfMany(const Header& header) const {
+bool IniText::IsRedundant(const Header& header) const {
     const auto isAlike = [&](const Header& other) {
         return other.nameLength == header.nameLength &&
                (header.nameLength == none ||
@@ -366,7 +366,8 @@ IniText::Section IniText::AddSection(std::string_view name, std::wstring_view ke
     }
     const std::size_t start = m_text.size();
     const auto section = static_cast<Section>(m_headers.size());
-    if (start + name.size() >= none || section == none)
+    constexpr std::size_t lineEndsAndBrackets = 6;
+    if (start + name.size() + lineEndsAndBrackets >= none || section == none)
         throw std::bad_alloc();
     m_names.Reserve(1);
     try {

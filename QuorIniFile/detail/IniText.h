@@ -149,7 +149,7 @@ private:
     [[nodiscard]] bool ReadOn();
     void Index();
     void ReadAllHeaders();
-    [[nodiscard]] bool IsOneOfMany(const Header& header) const;
+    [[nodiscard]] bool IsRedundant(const Header& header) const;
     [[nodiscard]] std::string_view NameInText(Section section) const;
     [[nodiscard]] std::string_view Name(Section section) const;
     [[nodiscard]] bool IsAdded(Section section) const { return section >= m_firstAdded; }

@@ -38,6 +38,19 @@ QuorError RaisedBy(const Action& action) {
 
 } // namespace
 
+TEST_F(IniStoreTest, MakesTheFolderOfItsFileOnRequest) {
+    IniStore fresh;
+    EXPECT_EQ(RaisedBy([&] { fresh.MakeFolder(); }).Number(), 52) << "without a file name";
+    fresh.SetFileName(folder.Name("new/probes/a.ini"));
+    fresh.SetSection(L"A");
+    EXPECT_EQ(RaisedBy([&] { fresh.WriteString(L"x", L"1"); }).Number(), 76) << "a write makes no folder";
+    fresh.MakeFolder();
+    fresh.WriteString(L"x", L"1");
+    EXPECT_EQ(folder.Read("new/probes/a.ini"), "[A]\nx=1\n");
+    fresh.MakeFolder();
+    EXPECT_EQ(folder.Read("new/probes/a.ini"), "[A]\nx=1\n") << "a folder that is there stays";
+}
+
 TEST_F(IniStoreTest, ValuesOfEveryKindComeBack) {
     store.WriteString(L"Version", L"1.0");
     store.WriteInteger(L"NumCoefficients", 4, L"");

@@ -407,4 +407,5 @@ TEST(IniDisk, FoldersAreMadeForTheUserAlone) {
     EXPECT_EQ(ModeOf(folder.Path("a")), 0755U) << "what is there stays as it is";
     folder.Write("file", "");
     EXPECT_EQ(RaisedBy([&] { makeFolderOf(folder.Name("file/a/probes.ini")); }).Number(), 76);
+    EXPECT_EQ(RaisedBy([&] { makeFolderOf(folder.Name("file/probes.ini")); }).Number(), 76);
 }
