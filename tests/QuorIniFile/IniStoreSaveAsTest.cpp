@@ -99,6 +99,22 @@ TEST_F(IniStoreSaveAs, AFailureLeavesTheOtherFileAndTheTextAsTheyWere) {
     EXPECT_EQ(folder.Files(), std::vector<std::string>{"a.ini"});
 }
 
+TEST_F(IniStoreSaveAs, InAnEditAndAfterAnAbandonedRecordNothingIsSaved) {
+    store.Edit([&] {
+        store.SetSection(L"A");
+        store.WriteInteger(L"x", 3, L"");
+        EXPECT_EQ(ErrorOf([&] { store.SaveAs(folder.Name("b.ini")); }), ERR_PATH_FILE_ACCESS);
+    });
+    EXPECT_EQ(folder.Read("a.ini"), "; mine\n[A]\nx=3\n") << "the edit itself goes on";
+    store.Hold();
+    store.Hold();
+    store.WriteInteger(L"x", 4, L"");
+    store.Abandon();
+    EXPECT_EQ(ErrorOf([&] { store.SaveAs(folder.Name("b.ini")); }), ERR_PATH_FILE_ACCESS);
+    EXPECT_EQ(ErrorOf([&] { store.Release(); }), ERR_PATH_FILE_ACCESS);
+    EXPECT_EQ(folder.Files(), std::vector<std::string>{"a.ini"});
+}
+
 TEST_F(IniStoreSaveAs, TellsItsOwnFileThroughLinksAndNotAnotherHardLink) {
     fs::create_symlink("a.ini", folder.Path("link.ini"));
     fs::create_hard_link(folder.Path("a.ini"), folder.Path("hard.ini"));
