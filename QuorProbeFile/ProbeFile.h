@@ -98,8 +98,8 @@ public:
     /// All that is wrong with the probes of the file, and with the file around them: what is missing or
     /// cannot be read, what the settings objects refuse or take for another value, what stands twice, what no
     /// record holds, and what saves have left beside the file; and warnings of values that can be read and
-    /// hardly be meant (ProbeProblem::IsWarning). In the order of the lines; what stands beside the file comes
-    /// last. Each section that is missing is told once.
+    /// hardly be meant (ProbeProblem::IsWarning). In the order of the lines; what stands beside the file
+    /// comes last. Each section that is missing is told once.
     [[nodiscard]] std::vector<ProbeProblem> Check();
 
     /// Writes a probe into a section, which is added when it is not there. Of a probe that stands there only
