@@ -1,6 +1,9 @@
 #pragma once
 
+#include "QuorIniFile/Export.h"
+
 #include <algorithm>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -34,5 +37,9 @@ template <class Character>
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                       [](char x, wchar_t y) { return static_cast<wchar_t>(Small(x)) == Small(y); });
 }
+
+/// The hash of a name in ASCII or UTF-8, the same for names that differ in the case of ASCII letters only. It
+/// is keyed anew in every process, so that no file can be made whose names all collide.
+[[nodiscard]] QUORINIFILE_EXPORT std::uint64_t HashName(std::string_view name);
 
 } // namespace QuorIniFile

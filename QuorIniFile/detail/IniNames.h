@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QuorIniFile/AsciiCase.h"
 #include "QuorIniFile/detail/IniFormat.h"
 
 #include <cstddef>
@@ -14,10 +15,7 @@
 // Hash tables of names of sections and keys. The case of ASCII letters does not matter.
 namespace QuorIniFile {
 
-/// The hash of a name, as CanonicalName spells it; the same for names that differ in the case of ASCII
-/// letters only. It is keyed anew in every process, so that no file can be made whose names all collide.
-[[nodiscard]] std::uint64_t HashName(std::string_view name);
-/// The same for a name as a host gives it.
+/// The hash of a name as a host gives it. (AsciiCase.h has that of one as CanonicalName spells it.)
 [[nodiscard]] std::uint64_t HashName(std::wstring_view name);
 
 struct IniNameHash {

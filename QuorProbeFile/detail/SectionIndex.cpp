@@ -6,16 +6,6 @@
 #include <algorithm>
 
 namespace QuorProbeFile {
-namespace {
-
-std::uint64_t HashOf(std::string_view name) {
-    std::uint64_t hash = 0xCBF29CE484222325U;
-    for (const char c : name)
-        hash = (hash ^ static_cast<unsigned char>(QuorIniFile::Small(c))) * 0x100000001B3U;
-    return hash ^ hash >> 32U;
-}
-
-} // namespace
 
 std::size_t SectionIndex::SlotOf(std::string_view name, std::uint64_t hash) const {
     const std::size_t last = m_slots.size() - 1;
@@ -47,7 +37,7 @@ SectionIndex::Section* SectionIndex::Add(const QuorIniFile::IniLines& header) {
         name = m_spelled.emplace_back(QuorIniFile::ToUtf8(header.Name()));
     if (m_entries.size() * 2 >= m_slots.size())
         Grow();
-    const std::uint64_t hash = HashOf(name);
+    const std::uint64_t hash = QuorIniFile::HashName(name);
     const std::size_t slot = SlotOf(name, hash);
     if (m_slots[slot] != 0)
         return nullptr;
@@ -60,7 +50,7 @@ const SectionIndex::Section* SectionIndex::Find(std::wstring_view name) const {
     if (m_entries.empty())
         return nullptr;
     const std::string wanted = QuorIniFile::ToUtf8(name);
-    const std::size_t slot = SlotOf(wanted, HashOf(wanted));
+    const std::size_t slot = SlotOf(wanted, QuorIniFile::HashName(wanted));
     return m_slots[slot] == 0 ? nullptr : &m_entries[m_slots[slot] - 1].section;
 }
 

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -44,6 +46,23 @@ constexpr const char* hostFile = "; the laboratory's file\n"
                                  "[Q - Settings]\n"
                                  "Version=1.0\n"
                                  "RTPW=25.5\n";
+
+/// Headers whose names share the low bits of their FNV-1a hashes, so that all of them begin to look for a
+/// place among the first 4096 of a table of 2^17.
+std::string HeadersWithCollidingHashes(std::size_t count) {
+    std::string headers;
+    for (std::uint32_t number = 0; count > 0; ++number) {
+        const std::string name = "h" + std::to_string(number);
+        std::uint64_t hash = 0xCBF29CE484222325U;
+        for (const char c : name)
+            hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
+        if (((hash ^ hash >> 32U) & 0x1FFFFU) < 4096) {
+            headers += "[" + name + "]\n";
+            --count;
+        }
+    }
+    return headers;
+}
 
 std::string Replaced(std::string text, const std::string& from, const std::string& to) {
     const auto at = text.find(from);
@@ -123,6 +142,14 @@ TEST_F(ProbeFileTest, TellsLostSectionsAndThoseThatStandTwice) {
     EXPECT_EQ(duplicates[0].section, L"B");
     EXPECT_EQ(duplicates[0].line, 7U);
     EXPECT_EQ(duplicates[0].first, 5U);
+}
+
+TEST_F(ProbeFileTest, SectionNamesThatWereChosenToCollideAreSurveyedAsFastAsOthers) {
+    Host(HeadersWithCollidingHashes(40000) + "[P]\nConversionType=10\n");
+    ProbeFile file(Path());
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(file.Probes(), (std::vector<ProbeEntry>{{L"P", 40001, CONV_OHMS, false}}));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
 }
 
 TEST_F(ProbeFileTest, ReadsAProbeIntoAConversionThatCountsAsUnchanged) {
