@@ -9,6 +9,7 @@
 #include "QuorProbeFile/RecordImage.h"
 #include "QuorProbeFile/SectionPlan.h"
 #include "QuorProbeFile/detail/FileCheck.h"
+#include "QuorProbeFile/detail/KeptValues.h"
 #include "QuorProbeFile/detail/RecordProblems.h"
 #include "QuorProbeFile/detail/RecordReading.h"
 #include "QuorProbeFile/detail/SectionIndex.h"
@@ -62,6 +63,18 @@ bool WhereThereIsAFile(const Look& look) {
     }
 }
 
+/// Selects the section again that is selected now, when it goes.
+class SelectedSection {
+public:
+    explicit SelectedSection(IniStore& store) : m_store(store), m_section(store.Section()) {}
+    SelectedSection(const SelectedSection&) = delete;
+    SelectedSection& operator=(const SelectedSection&) = delete;
+    ~SelectedSection() { m_store.SetSection(m_section); } // the store has had room for the name
+private:
+    IniStore& m_store;
+    std::wstring m_section;
+};
+
 } // namespace
 
 ProbeFile::ProbeFile(std::wstring_view path, Opening opening)
@@ -99,6 +112,7 @@ void ProbeFile::Survey() {
     m_lostSections.clear();
     if (!exists)
         return;
+    const SelectedSection selected(*m_store);
     const auto standAlone = StandAloneSection(m_path);
     const std::string typeKey = QuorIniFile::ToUtf8(conversionTypeKey);
     SectionIndex sections;
@@ -155,6 +169,7 @@ const std::vector<std::size_t>& ProbeFile::LostSections() {
 }
 
 std::optional<ProbeEntry> ProbeFile::Find(std::wstring_view section) {
+    const SelectedSection selected(*m_store);
     auto probe = Locate(section);
     if (!probe)
         return std::nullopt;
@@ -171,13 +186,14 @@ std::optional<ProbeEntry> ProbeFile::Find(std::wstring_view section) {
     probe->section = lines.Name();
     probe->line = lines.Number();
     if (probe->standAlone)
-        probe->type = RecordReading(m_store, m_path, *probe).Conversion().ConversionType();
+        probe->type = RequireType(*probe);
     return probe;
 }
 
 std::wstring ProbeFile::ConversionName(const ProbeEntry& probe) {
     if (!probe.type)
         return {};
+    const SelectedSection selected(*m_store);
     if (probe.standAlone || IsNamedByItsValues(*probe.type)) {
         const RecordReading reading(m_store, m_path, probe);
         return NameOf(reading.Conversion());
@@ -236,14 +252,23 @@ ProbeEntry ProbeFile::Require(std::wstring_view section) {
 
 // Reading
 
+/// The type of a probe that Require has found.
+EQuorConversionType ProbeFile::RequireType(const ProbeEntry& probe) {
+    if (probe.standAlone)
+        return RecordReading(m_store, m_path, probe).Conversion().ConversionType();
+    if (probe.type)
+        return *probe.type;
+    std::wstring text;
+    m_store->SetSection(probe.section);
+    static_cast<void>(m_store->ReadString(conversionTypeKey, text));
+    throw Error(PROBE_TYPE_UNREADABLE, probe.section, text);
+}
+
 ReadOutcome ProbeFile::Read(std::wstring_view section, CQuorConversion& conversion) {
+    const SelectedSection selected(*m_store);
     ProbeEntry probe = Require(section);
-    if (!probe.standAlone && !probe.type) {
-        std::wstring text;
-        m_store->SetSection(section);
-        static_cast<void>(m_store->ReadString(conversionTypeKey, text));
-        throw Error(PROBE_TYPE_UNREADABLE, section, text);
-    }
+    if (!probe.standAlone)
+        static_cast<void>(RequireType(probe));
     const RecordReading reading(m_store, m_path, probe);
     probe.type = reading.Conversion().ConversionType();
     ReadOutcome outcome;
@@ -269,6 +294,7 @@ ReadOutcome ProbeFile::Read(std::wstring_view section, CQuorConversion& conversi
 }
 
 std::vector<ProbeProblem> ProbeFile::Check() {
+    const SelectedSection selected(*m_store);
     std::vector<ProbeProblem> problems;
     WhereThereIsAFile([&] { problems = CheckFile(m_store, m_path, Probes(), LostSections()); });
     return problems;
@@ -278,7 +304,22 @@ std::vector<ProbeProblem> ProbeFile::Check() {
 
 void ProbeFile::Edit(const std::function<void()>& edit) { m_store->Edit(edit); }
 
-void ProbeFile::RequireName(std::wstring_view name, std::wstring_view except) {
+/// The sections of the probe `except` do not count.
+ProbeFile::OwnersOfSettings ProbeFile::FindOwnersOfSettings(std::wstring_view except) {
+    OwnersOfSettings owners;
+    WhereThereIsAFile([&] {
+        for (const std::wstring& section : m_store->Sections()) {
+            if (EqualFolded(section, except) || HoldsSettingsOf(section, except))
+                continue;
+            for (const std::wstring_view owner : PossibleOwners(section))
+                owners.emplace(Folded(std::wstring(owner)), section);
+        }
+    });
+    return owners;
+}
+
+void ProbeFile::RequireName(std::wstring_view name, std::wstring_view except,
+                            const OwnersOfSettings& owners) {
     // A name that no section can have is refused by the store as well, but it cannot tell which one it was.
     if (!IniStore::CanNameSection(name))
         throw Error(PROBE_BAD_NAME, name);
@@ -286,16 +327,15 @@ void ProbeFile::RequireName(std::wstring_view name, std::wstring_view except) {
         if (!EqualFolded(owner, except) && Locate(owner))
             throw Error(PROBE_NAME_OF_SETTINGS, name, owner);
     }
-    const std::wstring settings = SettingsSection(name);
-    if (HasSection(settings) && !EqualFolded(name, except))
-        throw Error(PROBE_SETTINGS_ARE_TAKEN, name, settings);
+    if (const auto taken = owners.find(Folded(std::wstring(name))); taken != owners.end())
+        throw Error(PROBE_SETTINGS_ARE_TAKEN, name, taken->second);
 }
 
 void ProbeFile::MoveSections(const std::function<void(ProbeMove&)>& move) {
     std::vector<ProbeMove> moves;
     moves.reserve(Probes().size());
     for (const ProbeEntry& probe : Probes())
-        move(moves.emplace_back(ProbeMove{probe.section, probe.section}));
+        move(moves.emplace_back(ProbeMove{probe.section, probe.section, false, false, probe.standAlone}));
     std::optional<SharedSection> shared;
     const SectionPlan plan = PlanSections(m_store->Sections(), moves, shared);
     if (shared)
@@ -303,12 +343,12 @@ void ProbeFile::MoveSections(const std::function<void(ProbeMove&)>& move) {
     ApplyPlan(*m_store, plan);
 }
 
-/// The settings that stand in the file go where they are those of another type.
+/// The settings that stand in the file go where they are those of another type, or nobody knows of which.
 void ProbeFile::RemoveOldSettings(const std::vector<ProbeToWrite>& probes) {
     std::unordered_set<std::wstring> changing;
     for (const ProbeToWrite& probe : probes) {
         const auto present = Locate(probe.section);
-        if (present && present->type && *present->type != probe.conversion->ConversionType())
+        if (present && !present->standAlone && present->type != probe.conversion->ConversionType())
             changing.insert(Folded(probe.section));
     }
     if (!changing.empty())
@@ -321,7 +361,11 @@ void ProbeFile::WriteOne(const ProbeToWrite& probe) {
     if (!present) {
         if (HasSection(probe.section))
             throw Error(PROBE_SECTION_OF_HOST, probe.section);
-        RequireName(probe.section, {});
+        if (m_ownersText != m_store->TextNumber()) {
+            m_owners = FindOwnersOfSettings({});
+            m_ownersText = m_store->TextNumber();
+        }
+        RequireName(probe.section, {}, m_owners);
     }
     const auto standAlone = StandAloneSection(m_path);
     const bool isStandAlone =
@@ -333,7 +377,15 @@ void ProbeFile::WriteOne(const ProbeToWrite& probe) {
         if (!info || info->extension != Folded(GetExtensionPart(m_path)))
             throw Error(PROBE_DOES_NOT_FIT_FILE, probe.section, TypeName(type));
     }
+    const bool ownersAreKnown = m_ownersText == m_store->TextNumber();
     WriteRecord(m_store, probe.section, *probe.conversion, isStandAlone);
+    if (!ownersAreKnown)
+        return;
+    // A host that writes thousands of new ones in one edit has no time to look at all sections for each.
+    const std::wstring settings = SettingsSection(probe.section);
+    for (const std::wstring_view owner : PossibleOwners(settings))
+        m_owners.emplace(Folded(std::wstring(owner)), probe.section);
+    m_ownersText = m_store->TextNumber();
 }
 
 void ProbeFile::WriteRecord(const std::shared_ptr<INIFile>& to, std::wstring_view section,
@@ -345,17 +397,25 @@ void ProbeFile::WriteRecord(const std::shared_ptr<INIFile>& to, std::wstring_vie
         else
             conversion.WriteOrRaise(to, name);
     } catch (const QuorError& error) {
+        if (error.Cause()) // it is the store's, which has told the file
+            throw;
         throw ProbeFileError(m_path, name, error);
     }
 }
 
 std::vector<RecordConflict> ProbeFile::WriteChanges(std::wstring_view section,
                                                     const CQuorConversion& conversion, ProbeFile& before) {
+    // What was read is kept before the edit begins: `before` may be this object, whose store loads the file
+    // anew then.
+    const SelectedSection selected(*before.m_store);
+    const ProbeEntry probe = before.Require(section);
+    if (const auto type = before.RequireType(probe); type != conversion.ConversionType())
+        throw Error(PROBE_OF_ANOTHER_TYPE, section, TypeName(type));
+    const auto read = std::make_shared<KeptValues>(before.m_store);
+    WriteRecord(read, section, conversion, probe.standAlone);
     std::vector<RecordConflict> conflicts;
     Edit([&] {
-        const ProbeEntry probe = before.Require(section);
-        const auto merge =
-            std::make_shared<RecordMerge>(before.m_store, probe.section, m_store, probe.section);
+        const auto merge = std::make_shared<RecordMerge>(read, probe.section, m_store, probe.section);
         WriteRecord(merge, section, conversion, probe.standAlone);
         conflicts = merge->Conflicts();
         if (conflicts.empty())
@@ -369,6 +429,11 @@ void ProbeFile::Write(std::wstring_view section, const CQuorConversion& conversi
 }
 
 void ProbeFile::Write(const std::vector<ProbeToWrite>& probes) {
+    std::unordered_set<std::wstring> written;
+    for (const ProbeToWrite& probe : probes) {
+        if (!written.insert(Folded(probe.section)).second)
+            throw Error(PROBE_NAME_IS_TAKEN, probe.section);
+    }
     Edit([&] {
         RemoveOldSettings(probes);
         for (const ProbeToWrite& probe : probes)
@@ -378,10 +443,13 @@ void ProbeFile::Write(const std::vector<ProbeToWrite>& probes) {
 
 void ProbeFile::Rename(std::wstring_view section, std::wstring_view name) {
     Edit([&] {
-        static_cast<void>(Require(section));
+        const ProbeEntry probe = Require(section);
         if (!EqualFolded(section, name) && HasSection(name))
             throw Error(PROBE_NAME_IS_TAKEN, name);
-        RequireName(name, section);
+        RequireName(name, section, FindOwnersOfSettings(section));
+        const auto standAlone = StandAloneSection(m_path);
+        if (probe.standAlone || (standAlone && !EqualFolded(section, name) && EqualFolded(*standAlone, name)))
+            throw Error(PROBE_DOES_NOT_FIT_FILE, name, section);
         MoveSections([&](ProbeMove& move) {
             if (EqualFolded(move.section, section))
                 move.name = name;
@@ -411,10 +479,10 @@ void ProbeFile::CopyFrom(ProbeFile& source, std::wstring_view section, std::wstr
     Edit([&] {
         auto present = Locate(toSection);
         if (present && present->standAlone)
-            present->type = RecordReading(m_store, m_path, *present).Conversion().ConversionType();
+            present->type = RequireType(*present);
         if (present && present->type != conversion.ConversionType())
             throw Error(PROBE_OF_ANOTHER_TYPE, toSection, present->type ? TypeName(*present->type) : L"?");
-        WriteOne({std::wstring(toSection), &conversion});
+        Write(toSection, conversion);
     });
 }
 

@@ -48,7 +48,8 @@ struct ProbeToWrite {
 ///
 /// Names of sections are the same in any case of ASCII letters. Where a section stands twice the first one
 /// counts. A section is a probe's record when it has the key "ConversionType", and in a stand-alone settings
-/// file when it has the name that its type gives it.
+/// file when it has the name that its type gives it. Calls that only read leave the section that is selected
+/// in Store() as it is.
 ///
 /// What cannot be done with a probe is raised as ProbeFileError, failures of the file as the QuorError of the
 /// store (IniStore.h): the file itself, its folder, the disk. A lack of memory is std::bad_alloc.
@@ -91,8 +92,11 @@ public:
     /// told, key by key; nothing of it is shown to the user. Changed of the conversion is False afterwards:
     /// what was read is no change.
     ///
-    /// Raises PROBE_NO_SUCH_SECTION, PROBE_NO_RECORD, PROBE_TYPE_UNREADABLE and PROBE_UNKNOWN_TYPE, and
-    /// leaves the conversion as it was.
+    /// A type that is the code of no conversion is told as a problem, and the conversion gets that type,
+    /// which has no settings.
+    ///
+    /// Raises PROBE_NO_SUCH_SECTION, PROBE_NO_RECORD and PROBE_TYPE_UNREADABLE, and leaves the conversion as
+    /// it was.
     [[nodiscard]] ReadOutcome Read(std::wstring_view section, QuorConversions::CQuorConversion& conversion);
 
     /// All that is wrong with the probes of the file, and with the file around them: what is missing or
@@ -103,35 +107,41 @@ public:
     [[nodiscard]] std::vector<ProbeProblem> Check();
 
     /// Writes a probe into a section, which is added when it is not there. Of a probe that stands there only
-    /// the lines of values that differ change; when that one is of another type its settings go first.
+    /// the lines of values that differ change; when that one is of another type, or of one that cannot be
+    /// read, its settings go first.
     ///
     /// Raises PROBE_SECTION_OF_HOST for a section that is there and is no record, PROBE_BAD_NAME,
     /// PROBE_NAME_OF_SETTINGS and PROBE_SETTINGS_ARE_TAKEN for a new one, PROBE_DOES_NOT_FIT_FILE,
-    /// PROBE_SECTION_IS_SHARED, and PROBE_CANNOT_BE_WRITTEN when the conversion refuses it. Changed of the
-    /// conversion stays as it is.
+    /// PROBE_SECTION_IS_SHARED, and PROBE_CANNOT_BE_WRITTEN when the conversion itself refuses it. Changed of
+    /// the conversion stays as it is.
     void Write(std::wstring_view section, const QuorConversions::CQuorConversion& conversion);
     /// Writes many, durable together: all of them, or when one cannot be written none, and the error names
-    /// its section.
+    /// its section. Raises PROBE_NAME_IS_TAKEN when two of them have one section.
     void Write(const std::vector<ProbeToWrite>& probes);
 
     /// Writes of a probe the keys that have got other values since it was read from `before` - this object,
     /// or another one on the same file - and nothing else: what other programs have written about it
     /// meanwhile stays. Keys that they have changed too, to other values, are returned, and nothing is
-    /// written then. Raises PROBE_NO_SUCH_SECTION and PROBE_NO_RECORD for a section that is no record in
-    /// `before`, and PROBE_CANNOT_BE_WRITTEN.
+    /// written then. What counts as read is the text that `before` holds when this is called. Raises
+    /// PROBE_NO_SUCH_SECTION, PROBE_NO_RECORD and PROBE_TYPE_UNREADABLE as Read of `before` does,
+    /// PROBE_OF_ANOTHER_TYPE when the conversion is of another type than the record in `before`, which only
+    /// Write can replace, and PROBE_CANNOT_BE_WRITTEN.
     [[nodiscard]] std::vector<RecordConflict> WriteChanges(std::wstring_view section,
                                                            const QuorConversions::CQuorConversion& conversion,
                                                            ProbeFile& before);
 
     /// Gives a probe another name, and so the sections of its settings. The same in another case of letters
-    /// is another name, too. Raises as Read and Write do, and PROBE_NAME_IS_TAKEN.
+    /// is another name, too. Raises as Read and Write do, and PROBE_NAME_IS_TAKEN; the record of a
+    /// stand-alone settings file keeps its name, and no other probe gets that (PROBE_DOES_NOT_FIT_FILE).
     void Rename(std::wstring_view section, std::wstring_view name);
-    /// Removes a probe with the sections of its settings. Comments that stand apart stay. Raises
-    /// PROBE_NO_SUCH_SECTION, PROBE_NO_RECORD and PROBE_SECTION_IS_SHARED.
+    /// Removes a probe with the sections of its settings, or those that are nested in a stand-alone one.
+    /// Comments that stand apart stay. Raises PROBE_NO_SUCH_SECTION, PROBE_NO_RECORD and
+    /// PROBE_SECTION_IS_SHARED.
     void Remove(std::wstring_view section);
     /// Writes the values of a probe into another section of this file, or of a probe of another file, as it
-    /// is there now. Into a new one, or over a probe of the same type; PROBE_OF_ANOTHER_TYPE for any other
-    /// one. Raises PROBE_INCOMPLETE for a record that cannot be read wholly, and what Read and Write raise.
+    /// was loaded. Into a new one, or over a probe of the same type; PROBE_OF_ANOTHER_TYPE for any other
+    /// one. Raises PROBE_INCOMPLETE for a record that cannot be read wholly, PROBE_UNKNOWN_TYPE for one whose
+    /// type is the code of no conversion, and what Read and Write raise.
     void Copy(std::wstring_view section, std::wstring_view toSection);
     void CopyFrom(ProbeFile& source, std::wstring_view section, std::wstring_view toSection);
 
@@ -152,6 +162,9 @@ public:
     [[nodiscard]] const std::shared_ptr<QuorIniFile::IniStore>& Store() const { return m_store; }
 
 private:
+    /// The folded names of probes whose settings would stand in sections that are there, each with the first.
+    using OwnersOfSettings = std::unordered_map<std::wstring, std::wstring>;
+
     void Load(std::wstring_view path, Opening opening);
     void Survey();
     [[nodiscard]] bool HasSection(std::wstring_view section);
@@ -159,7 +172,9 @@ private:
     [[nodiscard]] ProbeEntry Require(std::wstring_view section);
     [[nodiscard]] ProbeFileError Error(EProbeFileError code, std::wstring_view section,
                                        std::wstring_view other = {}) const;
-    void RequireName(std::wstring_view name, std::wstring_view except);
+    [[nodiscard]] QuorConversions::EQuorConversionType RequireType(const ProbeEntry& probe);
+    void RequireName(std::wstring_view name, std::wstring_view except, const OwnersOfSettings& owners);
+    [[nodiscard]] OwnersOfSettings FindOwnersOfSettings(std::wstring_view except);
     void MoveSections(const std::function<void(ProbeMove&)>& move);
     void RemoveOldSettings(const std::vector<ProbeToWrite>& probes);
     void WriteOne(const ProbeToWrite& probe);
@@ -172,6 +187,8 @@ private:
     std::vector<ProbeEntry> m_probes;
     std::unordered_map<std::int32_t, std::wstring> m_typeNames; // of types that were asked for
     std::vector<std::size_t> m_lostSections;
+    OwnersOfSettings m_owners;      // of all sections
+    std::uint64_t m_ownersText = 0; // the number of the text that they are of
 };
 
 } // namespace QuorProbeFile

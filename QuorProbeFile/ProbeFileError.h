@@ -19,12 +19,13 @@ enum EProbeFileError : std::int32_t {
     PROBE_UNKNOWN_TYPE = 4,       ///< its type is the code of no conversion; `Other()` is the code
     PROBE_INCOMPLETE = 5,         ///< it cannot be read wholly; see Problems()
     PROBE_BAD_NAME = 6,           ///< no section can have the name
-    PROBE_NAME_IS_TAKEN = 7,      ///< another section has the name
+    PROBE_NAME_IS_TAKEN = 7,      ///< another section has the name, or another probe of one Write
     PROBE_NAME_OF_SETTINGS = 8,   ///< a probe, `Other()`, keeps its settings in a section of that name
     PROBE_SETTINGS_ARE_TAKEN = 9, ///< the settings would stand in `Other()`, a section that is there already
     PROBE_SECTION_IS_SHARED = 10, ///< a section would go or move with the probe that `Other()` needs, too
     PROBE_OF_ANOTHER_TYPE = 11,   ///< a probe of another type, `Other()`, stands in the section
-    PROBE_DOES_NOT_FIT_FILE = 12, ///< a stand-alone settings file of this kind holds no such type, `Other()`
+    PROBE_DOES_NOT_FIT_FILE = 12, ///< the section is that of a stand-alone settings file, which is not for
+                                  ///< the type, or for the probe that is to be renamed, `Other()`
     PROBE_SECTION_OF_HOST = 14,   ///< no probe can be written into a section that is there and is no record
     PROBE_CANNOT_BE_WRITTEN = 13, ///< see Cause()
 };

@@ -2,6 +2,7 @@
 
 #include "QuorConversions/core/RecordNames.h"
 #include "QuorProbeFile/ProbeNames.h"
+#include "QuorProbeFile/detail/KeptValues.h"
 
 #include <utility>
 
@@ -12,26 +13,6 @@ using QuorConversions::versionKey;
 using QuorIniFile::INIFile;
 
 namespace {
-
-/// The value of a key of the selected section, of the kind of `kind`, or its text when it is none of that
-/// kind; nothing when there is no such key.
-std::optional<Value> Look(INIFile& file, const std::wstring& key, const Value& kind) {
-    struct Visitor {
-        INIFile& file;
-        const std::wstring& key;
-        bool operator()(std::wstring& value) const { return file.ReadString(key, value); }
-        bool operator()(std::int16_t& value) const { return file.ReadInteger(key, value); }
-        bool operator()(double& value) const { return file.ReadDouble(key, value); }
-        bool operator()(bool& value) const { return file.ReadBoolean(key, value); }
-    };
-    Value value = kind;
-    if (std::visit(Visitor{file, key}, value))
-        return value;
-    std::wstring text;
-    if (file.ReadString(key, text))
-        return text;
-    return std::nullopt;
-}
 
 bool Same(const std::optional<Value>& a, const std::optional<Value>& b) {
     return a && b ? SameValue(*a, *b) : a.has_value() == b.has_value();
@@ -56,9 +37,9 @@ void RecordMerge::Take(std::wstring_view key, Value ours) {
     // Both sections are selected each time: the two may be one object. The names of nested sections begin
     // with that of the record, which it may have got since.
     m_before->SetSection(m_sectionBefore + m_section.substr(m_recordSection.size()));
-    const std::optional<Value> read = Look(*m_before, change.key, change.value);
+    const std::optional<Value> read = ReadValue(*m_before, change.key, change.value);
     m_file->SetSection(m_section);
-    const std::optional<Value> theirs = Look(*m_file, change.key, change.value);
+    const std::optional<Value> theirs = ReadValue(*m_file, change.key, change.value);
     const bool theyChanged = !Same(read, theirs);
     const bool weChanged = !Same(read, change.value);
     if (theyChanged && key != versionKey) {

@@ -15,6 +15,12 @@ bool IsRenamed(const ProbeMove& probe) { return !probe.isRemoved && probe.name !
 
 bool Moves(const ProbeMove& probe) { return probe.isRemoved || IsRenamed(probe); }
 
+/// Whether a section is a nested one of a stand-alone record: "ITS-90 - High Range".
+bool IsNestedIn(std::wstring_view section, std::wstring_view record) {
+    return section.size() > record.size() && EqualFolded(section.substr(0, record.size()), record) &&
+           section.substr(record.size()).starts_with(nestedMark);
+}
+
 /// A probe to which a section belongs, with its name in that of the section.
 struct Owner {
     std::size_t probe;
@@ -24,8 +30,11 @@ struct Owner {
 class Planner {
 public:
     explicit Planner(const std::vector<ProbeMove>& probes) : m_probes(probes) {
-        for (std::size_t i = 0; i < probes.size(); ++i)
+        for (std::size_t i = 0; i < probes.size(); ++i) {
             m_byName.emplace(Folded(probes[i].section), i);
+            if (probes[i].standAlone)
+                m_standAlone = i;
+        }
     }
 
     /// False when the section is shared.
@@ -34,6 +43,8 @@ public:
         FindOwner(section);
         for (const std::wstring_view name : PossibleOwners(section))
             FindOwner(name);
+        if (m_standAlone && IsNestedIn(section, m_probes[*m_standAlone].section))
+            m_owners.push_back({*m_standAlone, m_probes[*m_standAlone].section.size()});
         if (const auto shared = Disagreement(section)) {
             m_shared = shared;
             return false;
@@ -82,7 +93,8 @@ private:
 
     const std::vector<ProbeMove>& m_probes;
     std::unordered_map<std::wstring, std::size_t> m_byName;
-    std::vector<Owner> m_owners; // of one section
+    std::optional<std::size_t> m_standAlone; // the only probe whose own section holds its settings
+    std::vector<Owner> m_owners;             // of one section
     std::optional<SharedSection> m_shared;
 };
 

@@ -20,6 +20,7 @@ struct ProbeMove {
     std::wstring name;        ///< under which it is to stand; `section` for one that keeps its name
     bool isRemoved = false;   ///< it goes, with its settings
     bool changesType = false; ///< the settings that stand in the file are those of another conversion, and go
+    bool standAlone = false;  ///< it holds its settings itself, and has sections that are nested in it
 };
 
 /// What is to become of the sections of a file before anything is written into them. ApplyPlan does it in
@@ -39,7 +40,8 @@ struct SharedSection {
 };
 
 /// Which sections of a file follow its probes: the sections of their own, those of their settings ("P -
-/// Settings") and what is nested there ("P - Settings - Low Range"). `sections` are the names of all sections
+/// Settings") and what is nested there ("P - Settings - Low Range"; "ITS-90 - Low Range" of a stand-alone
+/// one, of which a file has one at most). `sections` are the names of all sections
 /// of the file, `probes` all its probes, those included that stay as they are. When a section would have to
 /// follow one probe and stay with another, that is told in `shared` and nothing is planned.
 [[nodiscard]] QUORPROBEFILE_EXPORT SectionPlan PlanSections(const std::vector<std::wstring>& sections,

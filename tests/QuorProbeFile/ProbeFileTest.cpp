@@ -5,11 +5,13 @@
 #include "QuorConversions/rtd/CQuorWT90.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorProbeFile/ProbeTypes.h"
+#include "tests/support/InterceptedFiles.h"
 #include "tests/support/TempFolder.h"
 #include "toolkits/scripted/ScriptedPlatform.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
@@ -152,6 +154,34 @@ TEST_F(ProbeFileTest, SectionNamesThatWereChosenToCollideAreSurveyedAsFastAsOthe
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
 }
 
+TEST_F(ProbeFileTest, WhatOnlyReadsLeavesTheSelectedSectionAsItWas) {
+    Host(Replaced(hostFile, "RTPW=25.5\n", ""));
+    folder.Write("a.w90", "[W(T90)]\nRTPW=24.5\n[Host]\nx=1\n");
+    for (const wchar_t* const name : {L"host.ini", L"a.w90"}) {
+        ProbeFile file(folder.Name(std::filesystem::path(name).string()));
+        const auto isStill = [&](const wchar_t* call) {
+            EXPECT_EQ(file.Store()->Section(), L"Host") << call;
+            file.Store()->SetSection(L"Host");
+        };
+        file.Store()->SetSection(L"Host");
+        const std::vector<ProbeEntry> probes = file.Probes();
+        isStill(L"Probes");
+        CQuorConversion conversion;
+        for (const ProbeEntry& probe : probes) {
+            EXPECT_EQ(file.Find(probe.section), probe);
+            isStill(L"Find");
+            EXPECT_NE(file.ConversionName(probe), L"");
+            isStill(L"ConversionName");
+            static_cast<void>(file.Read(probe.section, conversion));
+            isStill(L"Read");
+        }
+        EXPECT_EQ(ErrorOf([&] { (void)file.Read(L"Z", conversion); }), L"1 [Z] ");
+        isStill(L"a Read that fails");
+        static_cast<void>(file.Check());
+        isStill(L"Check");
+    }
+}
+
 TEST_F(ProbeFileTest, ReadsAProbeIntoAConversionThatCountsAsUnchanged) {
     Host(hostFile);
     ProbeFile file(Path());
@@ -245,6 +275,15 @@ TEST_F(ProbeFileTest, AProbeOfAnotherTypeTakesThePlaceOfTheOldSettings) {
     EXPECT_EQ(file.Find(L"P")->type, CONV_WT90);
 }
 
+TEST_F(ProbeFileTest, AProbeTakesThePlaceOfSettingsWhoseTypeCannotBeRead) {
+    Host("[R]\nConversionType=two\n[R - Settings]\nCoefficients0=100\n[R - Settings - Low Range]\nx=1\n");
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    conversion.SetConversionType(CONV_WT90);
+    file.Write(L"R", conversion);
+    EXPECT_EQ(File(), "[R]\nConversionType=14\nVersion=1.0\n[R - Settings]\nVersion=1.0\nRTPW=0\n");
+}
+
 TEST_F(ProbeFileTest, CreatesAFileWithTheFirstProbe) {
     EXPECT_THROW(ProbeFile file(Path()), QuorError);
     ProbeFile file(Path(), ProbeFile::Opening::OrNew);
@@ -282,6 +321,70 @@ TEST_F(ProbeFileTest, WritesManyTogetherOrNone) {
                           "\n[A]\nVersion=1.0\nConversionType=10\n\n[B]\nVersion=1.0\nConversionType=10\n");
 }
 
+TEST_F(ProbeFileTest, WritesNoTwoProbesIntoOneSection) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    CQuorConversion a;
+    a.SetConversionType(CONV_OHMS);
+    CQuorConversion b;
+    b.SetConversionType(CONV_WT90);
+    EXPECT_EQ(ErrorOf([&] { file.Write({{L"New", &a}, {L"new", &b}}); }), L"7 [new] ");
+    EXPECT_EQ(ErrorOf([&] { file.Write({{L"P", &a}, {L"P", &a}}); }), L"7 [P] ");
+    EXPECT_EQ(File(), hostFile);
+}
+
+TEST_F(ProbeFileTest, TakesOverNoSettingsThatHaveLostTheirProbe) {
+    const std::string text = std::string(hostFile) + "[X - Settings - Low Range]\nNumCoefficients=2\n";
+    Host(text);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    conversion.SetConversionType(CONV_OHMS);
+    EXPECT_EQ(ErrorOf([&] { file.Write(L"x", conversion); }), L"9 [x] X - Settings - Low Range");
+    EXPECT_EQ(ErrorOf([&] { file.Rename(L"P", L"X"); }), L"9 [X] X - Settings - Low Range");
+    EXPECT_EQ(ErrorOf([&] { file.Copy(L"P", L"X"); }), L"9 [X] X - Settings - Low Range");
+    EXPECT_EQ(ErrorOf([&] {
+                  file.Write({{L"Y - Settings - Z", &conversion}, {L"Y", &conversion}});
+              }),
+              L"9 [Y] Y - Settings - Z");
+    EXPECT_EQ(File(), text);
+}
+
+TEST_F(ProbeFileTest, AProbeMayBeRenamedToTheNameThatItsOwnSectionLooksLikeSettingsOf) {
+    Host("[X - Settings - A]\nConversionType=14\n[X - Settings - A - Settings]\nRTPW=25.5\n");
+    ProbeFile file(Path());
+    file.Rename(L"X - Settings - A", L"X");
+    EXPECT_EQ(File(), "[X]\nConversionType=14\n[X - Settings]\nRTPW=25.5\n");
+}
+
+TEST_F(ProbeFileTest, AFailureOfTheFileIsRaisedAsTheStoreRaisesIt) {
+    Host(hostFile);
+    Support::InterceptedFiles files;
+    ProbeFile file(Path(), files);
+    CQuorConversion conversion;
+    ASSERT_TRUE(file.Read(L"P", conversion).IsWhole());
+    SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_R0, 100.5);
+    ProbeFile before(Path());
+    ASSERT_EQ(before.Probes().size(), 2U);
+    const auto numberOf = [](const auto& call) {
+        try {
+            call();
+            return 0;
+        } catch (const ProbeFileError& error) {
+            return -static_cast<int>(error.Code());
+        } catch (const QuorError& error) {
+            return static_cast<int>(error.Number());
+        }
+    };
+    files.onCall = [](std::string_view call) { return call == "Write" ? ENOSPC : 0; };
+    EXPECT_EQ(numberOf([&] { file.Write(L"P", conversion); }), QuorIniFile::ERR_DISK_FULL);
+    EXPECT_EQ(File(), hostFile);
+    files.onCall = [](std::string_view) { return 0; };
+    std::filesystem::remove(folder.Path("host.ini"));
+    EXPECT_EQ(numberOf([&] { static_cast<void>(file.WriteChanges(L"P", conversion, before)); }),
+              QuorIniFile::ERR_FILE_NOT_FOUND);
+    EXPECT_FALSE(std::filesystem::exists(folder.Path("host.ini")));
+}
+
 TEST_F(ProbeFileTest, WritesIntoNoSectionThatIsAnotherOnes) {
     Host(std::string(hostFile) + "[New - Settings]\nx=1\n");
     ProbeFile file(Path());
@@ -302,6 +405,36 @@ TEST_F(ProbeFileTest, AStandAloneFileTakesItsOwnTypeAlone) {
     conversion.SetConversionType(CONV_WT90);
     file.Write(L"W(T90)", conversion);
     EXPECT_EQ(folder.Read("a.w90"), "[W(T90)]\nVersion=1.0\nRTPW=0\n");
+}
+
+TEST_F(ProbeFileTest, AStandAloneRecordIsRemovedWithItsRanges) {
+    const std::string text = "; certificate 17\n[ITS-90]\nVersion=1.0\n[ITS-90 - High Range]\nx=1\n"
+                             "[its-90 - Low Range]\ny=1\n[ITS-90 notes]\nz=1\n";
+    folder.Write("prt.i90", text);
+    ProbeFile file(folder.Name("prt.i90"));
+    file.Remove(L"ITS-90");
+    EXPECT_EQ(folder.Read("prt.i90"), "; certificate 17\n[ITS-90 notes]\nz=1\n");
+}
+
+TEST_F(ProbeFileTest, AStandAloneRecordTakesNoProbeOfAHostAlong) {
+    const std::string text = "[ITS-90]\nVersion=1.0\n[ITS-90 - B]\nConversionType=10\n";
+    folder.Write("prt.i90", text);
+    ProbeFile file(folder.Name("prt.i90"));
+    EXPECT_EQ(ErrorOf([&] { file.Remove(L"ITS-90"); }), L"10 [ITS-90] ITS-90 - B");
+    EXPECT_EQ(folder.Read("prt.i90"), text);
+}
+
+TEST_F(ProbeFileTest, AStandAloneRecordKeepsItsNameAndNoOtherProbeGetsIt) {
+    const std::string text = "[ITS-90]\nVersion=1.0\n[ITS-90 - High Range]\nx=1\n";
+    folder.Write("prt.i90", text);
+    ProbeFile file(folder.Name("prt.i90"));
+    EXPECT_EQ(ErrorOf([&] { file.Rename(L"ITS-90", L"Foo"); }), L"12 [Foo] ITS-90");
+    EXPECT_EQ(folder.Read("prt.i90"), text);
+    const std::string host = "[R]\nConversionType=10\n";
+    folder.Write("host.i90", host);
+    ProbeFile other(folder.Name("host.i90"));
+    EXPECT_EQ(ErrorOf([&] { other.Rename(L"R", L"its-90"); }), L"12 [its-90] R");
+    EXPECT_EQ(folder.Read("host.i90"), host);
 }
 
 TEST_F(ProbeFileTest, RenamesAProbeWithItsSettings) {
@@ -393,6 +526,52 @@ TEST_F(ProbeFileTest, WritesChangesIntoWhatOthersHaveWrittenAndTellsConflicts) {
     EXPECT_EQ(conflicts[0].theirs, Value(1.6));
     EXPECT_EQ(conflicts[0].ours, Value(1.7));
     EXPECT_EQ(File(), Replaced(theirs, "100.0 ;", "100.5 ;"));
+}
+
+TEST_F(ProbeFileTest, ChangesOfAProbeThatWasReadFromTheSameObjectKeepWhatOthersHaveSaved) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    ASSERT_TRUE(file.Read(L"P", conversion).IsWhole());
+    SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_R0, 100.5);
+    const std::string theirs = Replaced(hostFile, "Coefficients2=1.5", "Coefficients2=1.6");
+    Host(theirs);
+    EXPECT_TRUE(file.WriteChanges(L"P", conversion, file).empty());
+    EXPECT_EQ(File(), Replaced(theirs, "100.0 ;", "100.5 ;"));
+}
+
+TEST_F(ProbeFileTest, AKeyThatOthersHaveChangedSinceTheSameObjectReadItIsAConflict) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    ASSERT_TRUE(file.Read(L"P", conversion).IsWhole());
+    SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_DELTA, 1.7);
+    const std::string theirs = Replaced(hostFile, "Coefficients2=1.5", "Coefficients2=1.6");
+    Host(theirs);
+    const auto conflicts = file.WriteChanges(L"P", conversion, file);
+    ASSERT_EQ(conflicts.size(), 1U);
+    EXPECT_EQ(conflicts[0].section, L"P - Settings");
+    EXPECT_EQ(conflicts[0].key, L"Coefficients2");
+    EXPECT_EQ(conflicts[0].read, Value(1.5));
+    EXPECT_EQ(conflicts[0].theirs, Value(1.6));
+    EXPECT_EQ(conflicts[0].ours, Value(1.7));
+    EXPECT_EQ(File(), theirs);
+}
+
+TEST_F(ProbeFileTest, ChangesOfAnotherTypeThanWasReadAreRefused) {
+    const std::string text = std::string(hostFile) + "[R]\nConversionType=two\n";
+    Host(text);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    conversion.SetConversionType(CONV_WT90);
+    const auto write = [&](const wchar_t* section) {
+        return ErrorOf([&] { static_cast<void>(file.WriteChanges(section, conversion, file)); });
+    };
+    EXPECT_EQ(write(L"P"), L"11 [P] CONV_CVD");
+    EXPECT_EQ(write(L"R"), L"3 [R] two");
+    EXPECT_EQ(write(L"Z"), L"1 [Z] ");
+    EXPECT_EQ(write(L"Instrument"), L"2 [Instrument] ");
+    EXPECT_EQ(File(), text);
 }
 
 TEST_F(ProbeFileTest, WritesUponWhatAnotherProgramHasSavedMeanwhile) {
