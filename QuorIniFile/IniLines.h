@@ -17,7 +17,8 @@ namespace QuorIniFile {
 ///         if (lines.Is(IniLines::Kind::Key))
 ///             use(lines.Number(), lines.Name(), lines.Value());
 /// It looks at the text of the store that made it, and lives until that store is next written to, saved,
-/// edited, discarded, reloaded or given another file. It tells what stands in the lines: a key that stands twice is told twice.
+/// edited, discarded, reloaded or given another file. It tells what stands in the lines: a key that stands
+/// twice is told twice.
 class QUORINIFILE_EXPORT IniLines {
 public:
     /// What a line is.
