@@ -348,7 +348,7 @@ void ProbeFile::RemoveOldSettings(const std::vector<ProbeToWrite>& probes) {
     std::unordered_set<std::wstring> changing;
     for (const ProbeToWrite& probe : probes) {
         const auto present = Locate(probe.section);
-        if (present && !present->standAlone && present->type != probe.conversion->ConversionType())
+        if (present && !present->standAlone && present->type != probe.conversion.ConversionType())
             changing.insert(Folded(probe.section));
     }
     if (!changing.empty())
@@ -356,7 +356,7 @@ void ProbeFile::RemoveOldSettings(const std::vector<ProbeToWrite>& probes) {
 }
 
 void ProbeFile::WriteOne(const ProbeToWrite& probe) {
-    const EQuorConversionType type = probe.conversion->ConversionType();
+    const EQuorConversionType type = probe.conversion.ConversionType();
     const auto present = Locate(probe.section);
     if (!present) {
         if (HasSection(probe.section))
@@ -378,7 +378,7 @@ void ProbeFile::WriteOne(const ProbeToWrite& probe) {
             throw Error(PROBE_DOES_NOT_FIT_FILE, probe.section, TypeName(type));
     }
     const bool ownersAreKnown = m_ownersText == m_store->TextNumber();
-    WriteRecord(m_store, probe.section, *probe.conversion, isStandAlone);
+    WriteRecord(m_store, probe.section, probe.conversion, isStandAlone);
     if (!ownersAreKnown)
         return;
     // A host that writes thousands of new ones in one edit has no time to look at all sections for each.
@@ -425,7 +425,7 @@ std::vector<RecordConflict> ProbeFile::WriteChanges(std::wstring_view section,
 }
 
 void ProbeFile::Write(std::wstring_view section, const CQuorConversion& conversion) {
-    Write({{std::wstring(section), &conversion}});
+    Write(std::vector<ProbeToWrite>{{std::wstring(section), conversion}});
 }
 
 void ProbeFile::Write(const std::vector<ProbeToWrite>& probes) {

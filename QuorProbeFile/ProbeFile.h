@@ -35,7 +35,7 @@ struct ReadOutcome {
 /// A probe that is to be written: the section of its record, and its conversion.
 struct ProbeToWrite {
     std::wstring section;
-    const QuorConversions::CQuorConversion* conversion;
+    const QuorConversions::CQuorConversion& conversion;
 };
 
 /// The probes of a host's file, or the one of a stand-alone settings file ("prt-1188.cvd"): what is there,

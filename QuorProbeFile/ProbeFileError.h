@@ -26,8 +26,8 @@ enum EProbeFileError : std::int32_t {
     PROBE_OF_ANOTHER_TYPE = 11,   ///< a probe of another type, `Other()`, stands in the section
     PROBE_DOES_NOT_FIT_FILE = 12, ///< the section is that of a stand-alone settings file, which is not for
                                   ///< the type, or for the probe that is to be renamed, `Other()`
-    PROBE_SECTION_OF_HOST = 14,   ///< no probe can be written into a section that is there and is no record
     PROBE_CANNOT_BE_WRITTEN = 13, ///< see Cause()
+    PROBE_SECTION_OF_HOST = 14,   ///< no probe can be written into a section that is there and is no record
 };
 
 /// A ProbeFile cannot do what it is asked. Failures of the file itself are raised as the store raises them.

@@ -305,7 +305,7 @@ TEST_F(ProbeFileTest, WritesManyTogetherOrNone) {
     CQuorConversion bad;
     bad.SetConversionType(EQuorConversionType{40000}); // no file holds such a code
     try {
-        file.Write({{L"A", &good}, {L"B", &bad}});
+        file.Write({{L"A", good}, {L"B", bad}});
         FAIL() << "nothing was raised";
     } catch (const ProbeFileError& error) {
         EXPECT_EQ(error.Code(), PROBE_CANNOT_BE_WRITTEN);
@@ -316,7 +316,7 @@ TEST_F(ProbeFileTest, WritesManyTogetherOrNone) {
         EXPECT_EQ(error.Description(), Path() + L": [B]: the record cannot be written: Overflow");
     }
     EXPECT_EQ(File(), hostFile);
-    file.Write({{L"A", &good}, {L"B", &good}});
+    file.Write({{L"A", good}, {L"B", good}});
     EXPECT_EQ(File(), std::string(hostFile) +
                           "\n[A]\nVersion=1.0\nConversionType=10\n\n[B]\nVersion=1.0\nConversionType=10\n");
 }
@@ -328,8 +328,8 @@ TEST_F(ProbeFileTest, WritesNoTwoProbesIntoOneSection) {
     a.SetConversionType(CONV_OHMS);
     CQuorConversion b;
     b.SetConversionType(CONV_WT90);
-    EXPECT_EQ(ErrorOf([&] { file.Write({{L"New", &a}, {L"new", &b}}); }), L"7 [new] ");
-    EXPECT_EQ(ErrorOf([&] { file.Write({{L"P", &a}, {L"P", &a}}); }), L"7 [P] ");
+    EXPECT_EQ(ErrorOf([&] { file.Write({{L"New", a}, {L"new", b}}); }), L"7 [new] ");
+    EXPECT_EQ(ErrorOf([&] { file.Write({{L"P", a}, {L"P", a}}); }), L"7 [P] ");
     EXPECT_EQ(File(), hostFile);
 }
 
@@ -343,7 +343,7 @@ TEST_F(ProbeFileTest, TakesOverNoSettingsThatHaveLostTheirProbe) {
     EXPECT_EQ(ErrorOf([&] { file.Rename(L"P", L"X"); }), L"9 [X] X - Settings - Low Range");
     EXPECT_EQ(ErrorOf([&] { file.Copy(L"P", L"X"); }), L"9 [X] X - Settings - Low Range");
     EXPECT_EQ(ErrorOf([&] {
-                  file.Write({{L"Y - Settings - Z", &conversion}, {L"Y", &conversion}});
+                  file.Write({{L"Y - Settings - Z", conversion}, {L"Y", conversion}});
               }),
               L"9 [Y] Y - Settings - Z");
     EXPECT_EQ(File(), text);
