@@ -1,19 +1,26 @@
-# The CMake package. find_package(QuorConversions) gives QuorConversions::QuorConversions,
-# QuorConversions::QuorProbeFile, QuorConversions::QuorIniFile, QuorConversions::QuorRegistryII and, for hosts in C,
-# QuorConversions::Component; with COMPONENTS Qt also
-# QuorConversions::QtToolkit, and only then it looks for Qt.
+# What is installed beside the libraries and programs: the CMake package, the pkg-config ones, licence and samples.
+#
+# find_package(QuorConversions) gives QuorConversions::QuorConversions, QuorConversions::QuorProbeFile,
+# QuorConversions::QuorIniFile, QuorConversions::QuorRegistryII and, for hosts in C, QuorConversions::Component; with
+# COMPONENTS Qt also QuorConversions::QtToolkit, and only then it looks for Qt.
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/QuorConversions)
-install(EXPORT QuorConversionsTargets NAMESPACE QuorConversions:: DESTINATION ${package_dir})
-set(qt_components Widgets)
-if(TARGET QtToolkit)
-    install(EXPORT QuorConversionsQtTargets NAMESPACE QuorConversions:: DESTINATION ${package_dir})
-    if(NOT BUILD_SHARED_LIBS)
-        list(APPEND qt_components Help) # the host links what the archive needs
+set(kinds Static)
+if(BUILD_SHARED_LIBS)
+    set(kinds Shared)
+    if(QUOR_BUILD_ARCHIVES)
+        list(APPEND kinds Static)
     endif()
 endif()
-list(JOIN qt_components " " qt_components)
+foreach(kind IN LISTS kinds)
+    install(EXPORT QuorConversions${kind}Targets NAMESPACE QuorConversions:: DESTINATION ${package_dir}
+        COMPONENT Development)
+    if(TARGET QtToolkit)
+        install(EXPORT QuorConversionsQt${kind}Targets NAMESPACE QuorConversions:: DESTINATION ${package_dir}
+            COMPONENT Development)
+    endif()
+endforeach()
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/QuorConversionsConfigVersion.cmake
     COMPATIBILITY SameMajorVersion)
 configure_package_config_file(cmake/QuorConversionsConfig.cmake.in
@@ -22,15 +29,25 @@ configure_package_config_file(cmake/QuorConversionsConfig.cmake.in
 install(FILES
     ${PROJECT_BINARY_DIR}/QuorConversionsConfig.cmake
     ${PROJECT_BINARY_DIR}/QuorConversionsConfigVersion.cmake
-    DESTINATION ${package_dir})
+    DESTINATION ${package_dir} COMPONENT Development)
 
-# For hosts in C, which have no CMake: pkg-config quor. Wherever the folder is moved, the libraries stand beside it.
+# For hosts without CMake: pkg-config quor (C) and quorconversions (C++). Wherever the folder is moved, the libraries
+# stand beside it.
 file(RELATIVE_PATH up /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
-set(libs -lquor)
+set(private .private) # what a shared library brings itself
+set(runtime "")
 set(cflags "")
 if(NOT BUILD_SHARED_LIBS)
-    set(libs "-lquor -lQuorConversions -lQuorRegistryII -lQuorIniFile -lstdc++ -lm")
+    set(private "")
+    set(runtime " -lstdc++ -lm")
     set(cflags " -DQUORCOMPONENT_STATIC_DEFINE")
 endif()
-configure_file(cmake/quor.pc.in ${PROJECT_BINARY_DIR}/quor.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/quor.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+foreach(package IN ITEMS quor quorconversions)
+    configure_file(cmake/${package}.pc.in ${PROJECT_BINARY_DIR}/${package}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${package}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+        COMPONENT Development)
+endforeach()
+
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Development)
+install(DIRECTORY samples/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples COMPONENT Development
+    PATTERN .gitattributes EXCLUDE)

@@ -52,9 +52,52 @@ function(quor_library name)
     target_link_libraries(${name} PUBLIC ${arg_DEPENDS} PRIVATE $<BUILD_INTERFACE:quor_options>)
     quor_precompile(${name})
     quor_exports(${name} ${name})
-    install(TARGETS ${name} EXPORT QuorConversionsTargets
-        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
-        FILE_SET generated DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+    quor_install(${name} DEPENDS ${arg_DEPENDS})
+endfunction()
+
+# quor_install(NAME [EXPORT set] [DEPENDS lib...] [LIBS lib...])
+# Installs a library with its headers as one of the CMake package's, and, where QUOR_BUILD_ARCHIVES asks for it, beside
+# the shared one a static one of the same objects. DEPENDS are libraries of this project that it needs, LIBS those of
+# others. The package has one file of targets a set and kind: a host that asks for static libraries gets those.
+function(quor_install name)
+    if(NOT QUOR_INSTALL)
+        return()
+    endif()
+    cmake_parse_arguments(arg "" "EXPORT" "DEPENDS;LIBS" ${ARGN})
+    get_target_property(type ${name} TYPE)
+    set(kind Static)
+    if(type STREQUAL SHARED_LIBRARY)
+        set(kind Shared)
+    endif()
+    get_target_property(sets ${name} INTERFACE_HEADER_SETS)
+    set(file_sets "")
+    foreach(set IN LISTS sets)
+        list(APPEND file_sets FILE_SET ${set} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT Development)
+    endforeach()
+    install(TARGETS ${name} EXPORT QuorConversions${arg_EXPORT}${kind}Targets
+        RUNTIME COMPONENT Runtime
+        LIBRARY COMPONENT Runtime NAMELINK_COMPONENT Development
+        ARCHIVE COMPONENT Development
+        ${file_sets})
+
+    if(NOT QUOR_BUILD_ARCHIVES OR kind STREQUAL Static)
+        return()
+    endif()
+    set(archive ${name}Archive)
+    add_library(${archive} STATIC $<TARGET_OBJECTS:${name}>)
+    foreach(property IN ITEMS OUTPUT_NAME EXPORT_NAME)
+        get_target_property(value ${name} ${property})
+        if(NOT value)
+            set(value ${name})
+        endif()
+        set_target_properties(${archive} PROPERTIES ${property} ${value})
+    endforeach()
+    list(TRANSFORM arg_DEPENDS APPEND Archive)
+    target_link_libraries(${archive} INTERFACE ${arg_DEPENDS} ${arg_LIBS})
+    target_compile_features(${archive} INTERFACE cxx_std_20)
+    target_include_directories(${archive} INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+    set_target_properties(${archive} PROPERTIES LINKER_LANGUAGE CXX)
+    install(TARGETS ${archive} EXPORT QuorConversions${arg_EXPORT}StaticTargets ARCHIVE COMPONENT Development)
 endfunction()
 
 # What a library of this project shares with the others: its version, and that it exports what stands in
