@@ -51,3 +51,15 @@ endforeach()
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Development)
 install(DIRECTORY samples/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples COMPONENT Development
     PATTERN .gitattributes EXCLUDE)
+
+# What a desktop knows of the window: its place in the menu, its icon, its description, and the files that it opens.
+if(TARGET probe-setup)
+    set(desktop packaging/desktop)
+    install(FILES ${desktop}/probe-setup.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT Window)
+    install(FILES ${desktop}/com.quorscientific.ProbeSetup.metainfo.xml
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT Window)
+    install(FILES ${desktop}/probe-setup.mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages
+        RENAME probe-setup.xml COMPONENT Window)
+    install(FILES ${desktop}/probe-setup.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps
+        COMPONENT Window)
+endif()
