@@ -10,7 +10,11 @@ set(CMAKE_INSTALL_RPATH $ORIGIN $ORIGIN/../${CMAKE_INSTALL_LIBDIR})
 add_library(quor_options INTERFACE)
 target_compile_features(quor_options INTERFACE cxx_std_20)
 target_compile_options(quor_options INTERFACE
-    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Werror)
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast)
+# Warnings are errors for those who work on this project, not for those who build it with compilers of their own.
+if(PROJECT_IS_TOP_LEVEL AND NOT DEFINED CMAKE_COMPILE_WARNING_AS_ERROR)
+    set(CMAKE_COMPILE_WARNING_AS_ERROR ON)
+endif()
 if(QUOR_SANITIZE OR QUOR_FUZZ)
     # What a host builds has every check. The tests' own code goes without those that look at each access, a third of
     # its compilation: AddressSanitizer looks at the same accesses.
