@@ -157,6 +157,7 @@ public:
     /// its folder. A symbolic link is followed.
     [[nodiscard]] bool IsReadOnly() const;
     /// Whether a save to `fileName` would be a save of the own file, whichever links lead there.
+    /// Raises when the system does not tell.
     [[nodiscard]] bool IsOwnFile(std::wstring_view fileName) const;
     /// What saves of the file have left beside it, as paths from where the name of the file starts. Of
     /// interrupted saves nothing as long as a save is under way, or where nobody can tell (a file system

@@ -388,18 +388,21 @@ bool HasBytes(const IniFileName& fileName, std::string_view bytes, IniFileSystem
 bool IsSamePlace(const IniFileName& a, const IniFileName& b, IniFileSystem& files) {
     const fs::path one = FollowLinks(fs::path(a.Path()), {files, a.Text()});
     const fs::path other = FollowLinks(fs::path(b.Path()), {files, b.Text()});
-    const auto statusOf = [&files](const std::string& path) {
-        return Uninterrupted([&] { return files.StatusAt(path); });
+    // An answer that is not known is no "no": the one file would be overwritten as another one.
+    const auto statusOf = [&files](const std::string& path, const IniFileName& name) {
+        const auto status = Uninterrupted([&] { return files.StatusAt(path); });
+        if (status.error != 0 && status.error != ENOENT)
+            Raise(status.error, name.Text(), Purpose::Write);
+        return status;
     };
     const auto isOne = [](const IniResult<IniFileStatus>& x, const IniResult<IniFileStatus>& y) {
-        return x.error == 0 && y.error == 0 && x.value.device == y.value.device &&
-               x.value.inode == y.value.inode;
+        return x.error == 0 && y.error == 0 && FileId(x.value) == FileId(y.value);
     };
-    if (one.filename() == other.filename() && isOne(statusOf(FolderOf(one)), statusOf(FolderOf(other))))
+    if (one.filename() == other.filename() && isOne(statusOf(FolderOf(one), a), statusOf(FolderOf(other), b)))
         return true;
     // Where the case of letters makes no difference, one file answers to two spellings of its only name.
-    const auto file = statusOf(one.string());
-    return file.value.links == 1 && isOne(file, statusOf(other.string()));
+    const auto file = statusOf(one.string(), a);
+    return file.value.links == 1 && isOne(file, statusOf(other.string(), b));
 }
 
 bool IsReadOnly(const IniFileName& fileName, IniFileSystem& files) {

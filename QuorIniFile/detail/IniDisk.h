@@ -88,7 +88,8 @@ struct IniFileBytes {
                             IniFileSystem& files = IniFileSystem::System());
 
 /// Whether a save to the one name is a save to the other: both lead, through all links, to one place, whether
-/// there is a file or not. Of two hard links each is a place of its own, because a save parts them.
+/// there is a file or not. Of two hard links each is a place of its own, because a save parts them. Raises
+/// when the system does not tell.
 [[nodiscard]] bool IsSamePlace(const IniFileName& a, const IniFileName& b,
                                IniFileSystem& files = IniFileSystem::System());
 

@@ -170,6 +170,51 @@ TEST(IniStoreFaults, EveryCallOfASaveIntoUtf16ThatFailsIsAnErrorAndLeavesTheOldF
     EXPECT_GT(at, 20U) << "the calls of a read and a save";
 }
 
+TEST(IniStoreFaults, EveryCallOfASaveAsThatFailsIsAnErrorAndLeavesTheOtherFileOrTheNewOne) {
+    const std::string other = "; other\n[C]\n";
+    for (const bool exists : {true, false}) {
+        for (const bool lasting : {false, true}) {
+            std::size_t at = 0;
+            for (bool reached = true; reached; ++at) {
+                FaultyRun run(true);
+                if (exists)
+                    run.folder.Write("b.ini", other);
+                run.store.Hold();
+                run.Save();
+                Fault fault{at, ENOSPC, lasting};
+                run.files.onCall = std::ref(fault);
+                std::int32_t number = 0;
+                try {
+                    run.store.SaveAs(run.folder.Name("b.ini"));
+                } catch (const QuorError& error) {
+                    number = error.Number();
+                    const bool isOfOwn =
+                        error.Description().find(run.folder.Name("a.ini")) != std::wstring::npos;
+                    EXPECT_TRUE(isOfOwn ||
+                                error.Description().find(run.folder.Name("b.ini")) != std::wstring::npos);
+                }
+                reached = fault.WasReached();
+                const std::string where = fault.name + ", call " + std::to_string(at);
+                ASSERT_EQ(number, reached && !fault.isDurable ? 61 : 0) << where;
+                EXPECT_EQ(run.files.openFiles, 0) << where;
+                const bool isThere = fs::exists(run.folder.Path("b.ini"));
+                const bool isNew = isThere && run.folder.Read("b.ini") == newText;
+                const bool isOld = isThere ? exists && run.folder.Read("b.ini") == other : !exists;
+                EXPECT_TRUE(isNew || (isOld && number != 0)) << where;
+
+                run.files.onCall = [](std::string_view) { return 0; };
+                run.store.SaveAs(run.folder.Name("b.ini"));
+                EXPECT_EQ(run.folder.Read("b.ini"), newText) << where;
+                EXPECT_TRUE(run.IsOld()) << "what is held stays held: " << where;
+                run.store.Release();
+                EXPECT_TRUE(run.IsNew()) << where;
+                EXPECT_EQ(run.folder.Files(), (Names{"a.ini", "b.ini"})) << where;
+            }
+            EXPECT_GT(at, 10U) << "the calls of a save";
+        }
+    }
+}
+
 TEST(IniStoreFaults, AProgramThatTakesNoLockMayTurnTheFileIntoUtf16AtAnyCallAndItsKeysSurvive) {
     const std::string theirs = Utf16Le(u"\uFEFF; \u2126\n[A]\nx=1\n[B]\ny=5\n");
     const std::string both = Utf16Le(u"\uFEFF; \u2126\n[A]\nx=2\n[B]\ny=5\n");

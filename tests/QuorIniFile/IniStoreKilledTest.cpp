@@ -107,6 +107,22 @@ void EditX(const std::wstring& file) {
     });
 }
 
+constexpr const char* ownText = "; own\n[A]\nz=1\n";
+constexpr const char* ownTextHeld = "; own\n[A]\nz=2\n";
+
+void PrepareOwn(const TempFolder& folder) { folder.Write("own.ini", ownText); }
+
+/// Saves the text of "own.ini" beside `file`, with what is held for it, as `file`.
+void SaveOwnAs(const std::wstring& file) {
+    IniStore store;
+    store.SetFileName((fs::path(file).parent_path() / "own.ini").wstring());
+    store.Hold();
+    store.SetSection(L"A");
+    store.WriteInteger(L"z", 2, L"");
+    store.SaveAs(file);
+    store.Discard();
+}
+
 /// Kills a save of "a.ini" at each system call. `target` is the file behind that name, `before` its text.
 void KillEverywhere(const std::function<void(const TempFolder&)>& prepare, const std::string& target,
                     const std::optional<std::string>& before, const std::string& after,
@@ -126,6 +142,9 @@ void KillEverywhere(const std::function<void(const TempFolder&)>& prepare, const
             text = folder.Read(target);
         ASSERT_TRUE(text == after || (text == before && end == End::Stopped)) << "stop " << stops;
         leftovers += HasLeftovers(folder) ? 1 : 0;
+        if (fs::exists(folder.Path("own.ini"))) {
+            EXPECT_EQ(folder.Read("own.ini"), ownText) << "stop " << stops;
+        }
 
         InterceptedFiles next;
         Save(next, folder.Name("a.ini"), L"y", 3);
@@ -251,6 +270,19 @@ TEST(IniStoreKilled, AtEverySystemCallAnotherProcessMayTakeItsLockAndSaveAndNoth
 TEST(IniStoreKilled, AtEverySystemCallOfAnEditTheOldFileOrTheNewOneIsThere) {
     KillEverywhere([](const TempFolder& folder) { folder.Write("a.ini", oldText); }, "a.ini", oldText,
                    newText, EditX);
+}
+
+TEST(IniStoreKilled, AtEverySystemCallOfASaveAsTheOtherFileIsTheOldOneOrTheNewOne) {
+    KillEverywhere(
+        [](const TempFolder& folder) {
+            PrepareOwn(folder);
+            folder.Write("a.ini", oldText);
+        },
+        "a.ini", oldText, ownTextHeld, SaveOwnAs);
+}
+
+TEST(IniStoreKilled, AtEverySystemCallOfASaveAsANewFileThereIsNoneOrACompleteOne) {
+    KillEverywhere(PrepareOwn, "a.ini", std::nullopt, ownTextHeld, SaveOwnAs);
 }
 
 TEST(IniStoreKilled, EverySystemCallThatFailsIsAnErrorWithTheOldFileOrAnInterruptionWithTheNewOne) {

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
@@ -34,8 +35,22 @@ void Write(IniFileSystem& files, const wchar_t* key, std::int16_t value) {
     store.WriteInteger(key, value, L"");
 }
 
-/// Cuts the power at each call of a save that turns `before` into `after`.
-void CutEverywhere(const Files& before, const std::string& after) {
+void WriteX(IniFileSystem& files) { Write(files, L"x", 2); }
+
+/// Saves what "own.ini" says, with what is held for it, as "a.ini".
+void SaveOwnAs(IniFileSystem& files) {
+    IniStore store(files);
+    store.SetFileName(L"/laboratory/own.ini");
+    store.Hold();
+    store.SetSection(L"A");
+    store.WriteInteger(L"x", 2, L"");
+    store.SaveAs(L"/laboratory/a.ini");
+    store.Discard();
+}
+
+/// Cuts the power at each call of a save that turns `before` into `after`, and leaves other files alone.
+void CutEverywhere(const Files& before, const std::string& after,
+                   const std::function<void(IniFileSystem&)>& save = WriteX) {
     std::size_t states = 0;
     bool finished = false;
     for (std::size_t at = 0; !finished; ++at) {
@@ -51,7 +66,7 @@ void CutEverywhere(const Files& before, const std::string& after) {
             return isDark ? EIO : 0;
         };
         try {
-            Write(files, L"x", 2);
+            save(files);
             finished = true;
         } catch (const PowerCut&) {
         }
@@ -66,12 +81,18 @@ void CutEverywhere(const Files& before, const std::string& after) {
             ASSERT_TRUE(isNew || (isOld && !finished)) << "call " << at;
 
             SimulatedDisk next(left);
-            Write(next, L"x", 2);
+            save(next);
             Write(next, L"y", 3);
             Files now = next.Now();
             EXPECT_EQ(now.at(path), after + "y=3\n") << "call " << at;
             // What the next save does not remove, because its lock file is lost, can be found.
             now.erase(path);
+            for (const auto& [name, bytes] : before) {
+                if (name != path) {
+                    EXPECT_EQ(now.at(name), bytes) << "call " << at;
+                    now.erase(name);
+                }
+            }
             std::vector<std::string> abandoned;
             for (const auto& [name, bytes] : now)
                 abandoned.push_back(name);
@@ -93,6 +114,15 @@ TEST(IniStorePowerCut, LeavesTheOldFileOrTheCompleteNewOne) {
 }
 
 TEST(IniStorePowerCut, LeavesNoFileOrTheCompleteFirstOne) { CutEverywhere({}, "[A]\nx=2\n"); }
+
+TEST(IniStorePowerCut, LeavesOfASaveAsTheOldFileOrTheCompleteNewOne) {
+    CutEverywhere(Files{{path, "; other\n[A]\n"}, {"/laboratory/own.ini", "; own\n[A]\nx=1\n"}},
+                  "; own\n[A]\nx=2\n", SaveOwnAs);
+}
+
+TEST(IniStorePowerCut, LeavesOfASaveAsANewFileNoFileOrACompleteOne) {
+    CutEverywhere(Files{{"/laboratory/own.ini", "; own\n[A]\nx=1\n"}}, "; own\n[A]\nx=2\n", SaveOwnAs);
+}
 
 TEST(IniStorePowerCut, AfterAFolderThatCouldNotBeFlushedTheNextSaveMakesItDurable) {
     SimulatedDisk disk(Files{{path, "[A]\nx=1\n"}});
