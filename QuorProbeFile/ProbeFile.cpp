@@ -158,6 +158,15 @@ void ProbeFile::Survey() {
     m_surveyed = m_store->TextNumber();
 }
 
+/// Where sections and keys stand in the text as it is now.
+LinePlaces& ProbeFile::Places() {
+    if (!m_places || m_placesText != m_store->TextNumber()) {
+        m_places = std::make_unique<LinePlaces>(*m_store);
+        m_placesText = m_store->TextNumber();
+    }
+    return *m_places;
+}
+
 const std::vector<ProbeEntry>& ProbeFile::Probes() {
     Survey();
     return m_probes;
@@ -272,7 +281,7 @@ ReadOutcome ProbeFile::Read(std::wstring_view section, CQuorConversion& conversi
     const RecordReading reading(m_store, m_path, probe);
     probe.type = reading.Conversion().ConversionType();
     ReadOutcome outcome;
-    LinePlaces places(*m_store);
+    LinePlaces& places = Places();
     outcome.problems = ProblemsOf(reading, probe, places);
     if (!outcome.problems.empty()) {
         probe.line = places.Section(probe.section)->header.number;

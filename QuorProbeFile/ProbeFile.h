@@ -20,6 +20,7 @@
 
 namespace QuorProbeFile {
 
+class LinePlaces;
 struct ProbeMove;
 
 /// What came of reading a probe. Nothing is wrong when there are neither problems nor messages.
@@ -167,6 +168,7 @@ private:
 
     void Load(std::wstring_view path, Opening opening);
     void Survey();
+    [[nodiscard]] LinePlaces& Places();
     [[nodiscard]] bool HasSection(std::wstring_view section);
     [[nodiscard]] std::optional<ProbeEntry> Locate(std::wstring_view section);
     [[nodiscard]] ProbeEntry Require(std::wstring_view section);
@@ -187,8 +189,10 @@ private:
     std::vector<ProbeEntry> m_probes;
     std::unordered_map<std::int32_t, std::wstring> m_typeNames; // of types that were asked for
     std::vector<std::size_t> m_lostSections;
-    OwnersOfSettings m_owners;      // of all sections
-    std::uint64_t m_ownersText = 0; // the number of the text that they are of
+    std::unique_ptr<LinePlaces> m_places; // once a record was not whole
+    std::uint64_t m_placesText = 0;       // the number of the text that they are of
+    OwnersOfSettings m_owners;            // of all sections
+    std::uint64_t m_ownersText = 0;       // the number of the text that they are of
 };
 
 } // namespace QuorProbeFile

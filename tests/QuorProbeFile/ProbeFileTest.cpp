@@ -11,10 +11,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstdint>
+#include <ctime>
 #include <filesystem>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
@@ -152,6 +155,32 @@ TEST_F(ProbeFileTest, SectionNamesThatWereChosenToCollideAreSurveyedAsFastAsOthe
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(file.Probes(), (std::vector<ProbeEntry>{{L"P", 40001, CONV_OHMS, false}}));
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+}
+
+TEST_F(ProbeFileTest, ReadingOneProbeAfterTheOtherTakesTimeInProportion) {
+    const auto time = [this](int count, const std::string& settings) {
+        std::string text;
+        for (int i = 0; i < count; ++i) {
+            const std::string name = "P" + std::to_string(i);
+            text.append("[").append(name).append("]\nConversionType=14\n");
+            text.append("[").append(name).append(" - Settings]\n").append(settings);
+        }
+        Host(text);
+        double best = std::numeric_limits<double>::infinity();
+        for (int round = 0; round < 3; ++round) {
+            ProbeFile file(Path());
+            CQuorConversion conversion;
+            std::size_t problems = 0;
+            const std::clock_t start = std::clock();
+            for (const ProbeEntry& probe : file.Probes())
+                problems += file.Read(probe.section, conversion).problems.size();
+            best = std::min(best, static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
+            EXPECT_EQ(problems, settings == "RTPW=25.5\n" ? 0U : static_cast<std::size_t>(count));
+        }
+        return best;
+    };
+    for (const std::string settings : {"RTPW=25.5\n", "RTPW=25,5\n", "Rtpv=25.5\n"})
+        EXPECT_LT(time(2000, settings), 10 * time(500, settings)) << settings;
 }
 
 TEST_F(ProbeFileTest, WhatOnlyReadsLeavesTheSelectedSectionAsItWas) {
