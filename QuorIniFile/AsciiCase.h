@@ -41,5 +41,7 @@ template <class Character>
 /// The hash of a name in ASCII or UTF-8, the same for names that differ in the case of ASCII letters only. It
 /// is keyed anew in every process, so that no file can be made whose names all collide.
 [[nodiscard]] QUORINIFILE_EXPORT std::uint64_t HashName(std::string_view name);
+/// The same for a name as a host gives it.
+[[nodiscard]] QUORINIFILE_EXPORT std::uint64_t HashName(std::wstring_view name);
 
 } // namespace QuorIniFile

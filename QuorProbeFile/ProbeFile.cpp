@@ -15,7 +15,6 @@
 #include "QuorProbeFile/detail/SectionIndex.h"
 
 #include <algorithm>
-#include <unordered_set>
 #include <utility>
 
 namespace QuorProbeFile {
@@ -314,30 +313,23 @@ std::vector<ProbeProblem> ProbeFile::Check() {
 void ProbeFile::Edit(const std::function<void()>& edit) { m_store->Edit(edit); }
 
 /// The sections of the probe `except` do not count.
-ProbeFile::OwnersOfSettings ProbeFile::FindOwnersOfSettings(std::wstring_view except) {
-    OwnersOfSettings owners;
+TakenNames ProbeFile::NamesBut(std::wstring_view except) {
+    TakenNames names;
     WhereThereIsAFile([&] {
         for (const std::wstring& section : m_store->Sections()) {
-            if (EqualFolded(section, except) || HoldsSettingsOf(section, except))
-                continue;
-            for (const std::wstring_view owner : PossibleOwners(section))
-                owners.emplace(Folded(std::wstring(owner)), section);
+            if (!EqualFolded(section, except) && !HoldsSettingsOf(section, except))
+                names.Add(section);
         }
     });
-    return owners;
+    return names;
 }
 
-void ProbeFile::RequireName(std::wstring_view name, std::wstring_view except,
-                            const OwnersOfSettings& owners) {
-    // A name that no section can have is refused by the store as well, but it cannot tell which one it was.
-    if (!IniStore::CanNameSection(name))
-        throw Error(PROBE_BAD_NAME, name);
-    for (const std::wstring_view owner : PossibleOwners(name)) {
-        if (!EqualFolded(owner, except) && Locate(owner))
-            throw Error(PROBE_NAME_OF_SETTINGS, name, owner);
-    }
-    if (const auto taken = owners.find(Folded(std::wstring(name))); taken != owners.end())
-        throw Error(PROBE_SETTINGS_ARE_TAKEN, name, taken->second);
+void ProbeFile::RequireName(std::wstring_view name, std::wstring_view except, const TakenNames& names) {
+    const auto isProbe = [&](std::wstring_view owner) {
+        return !EqualFolded(owner, except) && Locate(owner).has_value();
+    };
+    if (const auto obstacle = names.ObstacleTo(name, isProbe))
+        throw Error(obstacle->code, name, obstacle->other);
 }
 
 void ProbeFile::MoveSections(const std::function<void(ProbeMove&)>& move) {
@@ -354,14 +346,14 @@ void ProbeFile::MoveSections(const std::function<void(ProbeMove&)>& move) {
 
 /// The settings that stand in the file go where they are those of another type, or nobody knows of which.
 void ProbeFile::RemoveOldSettings(const std::vector<ProbeToWrite>& probes) {
-    std::unordered_set<std::wstring> changing;
+    NameSet changing;
     for (const ProbeToWrite& probe : probes) {
         const auto present = Locate(probe.section);
         if (present && !present->standAlone && present->type != probe.conversion.ConversionType())
-            changing.insert(Folded(probe.section));
+            changing.insert(probe.section);
     }
     if (!changing.empty())
-        MoveSections([&](ProbeMove& move) { move.changesType = changing.contains(Folded(move.section)); });
+        MoveSections([&](ProbeMove& move) { move.changesType = changing.contains(move.section); });
 }
 
 void ProbeFile::WriteOne(const ProbeToWrite& probe) {
@@ -370,11 +362,11 @@ void ProbeFile::WriteOne(const ProbeToWrite& probe) {
     if (!present) {
         if (HasSection(probe.section))
             throw Error(PROBE_SECTION_OF_HOST, probe.section);
-        if (m_ownersText != m_store->TextNumber()) {
-            m_owners = FindOwnersOfSettings({});
-            m_ownersText = m_store->TextNumber();
+        if (m_namesText != m_store->TextNumber()) {
+            m_names = NamesBut({});
+            m_namesText = m_store->TextNumber();
         }
-        RequireName(probe.section, {}, m_owners);
+        RequireName(probe.section, {}, m_names);
     }
     const auto standAlone = StandAloneSection(m_path);
     const bool isStandAlone =
@@ -386,15 +378,15 @@ void ProbeFile::WriteOne(const ProbeToWrite& probe) {
         if (!info || info->extension != Folded(GetExtensionPart(m_path)))
             throw Error(PROBE_DOES_NOT_FIT_FILE, probe.section, TypeName(type));
     }
-    const bool ownersAreKnown = m_ownersText == m_store->TextNumber();
+    const bool namesAreKnown = m_namesText == m_store->TextNumber();
     WriteRecord(m_store, probe.section, probe.conversion, isStandAlone);
-    if (!ownersAreKnown)
+    if (!namesAreKnown)
         return;
     // A host that writes thousands of new ones in one edit has no time to look at all sections for each.
-    const std::wstring settings = SettingsSection(probe.section);
-    for (const std::wstring_view owner : PossibleOwners(settings))
-        m_owners.emplace(Folded(std::wstring(owner)), probe.section);
-    m_ownersText = m_store->TextNumber();
+    m_names.Add(probe.section);
+    if (const std::wstring settings = SettingsSection(probe.section); HasSection(settings))
+        m_names.Add(settings);
+    m_namesText = m_store->TextNumber();
 }
 
 void ProbeFile::WriteRecord(const std::shared_ptr<INIFile>& to, std::wstring_view section,
@@ -438,9 +430,9 @@ void ProbeFile::Write(std::wstring_view section, const CQuorConversion& conversi
 }
 
 void ProbeFile::Write(const std::vector<ProbeToWrite>& probes) {
-    std::unordered_set<std::wstring> written;
+    NameSet written;
     for (const ProbeToWrite& probe : probes) {
-        if (!written.insert(Folded(probe.section)).second)
+        if (!written.insert(probe.section).second)
             throw Error(PROBE_NAME_IS_TAKEN, probe.section);
     }
     Edit([&] {
@@ -453,9 +445,7 @@ void ProbeFile::Write(const std::vector<ProbeToWrite>& probes) {
 void ProbeFile::Rename(std::wstring_view section, std::wstring_view name) {
     Edit([&] {
         const ProbeEntry probe = Require(section);
-        if (!EqualFolded(section, name) && HasSection(name))
-            throw Error(PROBE_NAME_IS_TAKEN, name);
-        RequireName(name, section, FindOwnersOfSettings(section));
+        RequireName(name, section, NamesBut(section));
         const auto standAlone = StandAloneSection(m_path);
         if (probe.standAlone || (standAlone && !EqualFolded(section, name) && EqualFolded(*standAlone, name)))
             throw Error(PROBE_DOES_NOT_FIT_FILE, name, section);

@@ -7,6 +7,7 @@
 #include "QuorProbeFile/ProbeFileError.h"
 #include "QuorProbeFile/ProbeProblem.h"
 #include "QuorProbeFile/RecordMerge.h"
+#include "QuorProbeFile/TakenNames.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -163,9 +164,6 @@ public:
     [[nodiscard]] const std::shared_ptr<QuorIniFile::IniStore>& Store() const { return m_store; }
 
 private:
-    /// The folded names of probes whose settings would stand in sections that are there, each with the first.
-    using OwnersOfSettings = std::unordered_map<std::wstring, std::wstring>;
-
     void Load(std::wstring_view path, Opening opening);
     void Survey();
     [[nodiscard]] LinePlaces& Places();
@@ -175,8 +173,8 @@ private:
     [[nodiscard]] ProbeFileError Error(EProbeFileError code, std::wstring_view section,
                                        std::wstring_view other = {}) const;
     [[nodiscard]] QuorConversions::EQuorConversionType RequireType(const ProbeEntry& probe);
-    void RequireName(std::wstring_view name, std::wstring_view except, const OwnersOfSettings& owners);
-    [[nodiscard]] OwnersOfSettings FindOwnersOfSettings(std::wstring_view except);
+    [[nodiscard]] TakenNames NamesBut(std::wstring_view except);
+    void RequireName(std::wstring_view name, std::wstring_view except, const TakenNames& names);
     void MoveSections(const std::function<void(ProbeMove&)>& move);
     void RemoveOldSettings(const std::vector<ProbeToWrite>& probes);
     void WriteOne(const ProbeToWrite& probe);
@@ -191,8 +189,8 @@ private:
     std::vector<std::size_t> m_lostSections;
     std::unique_ptr<LinePlaces> m_places; // once a record was not whole
     std::uint64_t m_placesText = 0;       // the number of the text that they are of
-    OwnersOfSettings m_owners;            // of all sections
-    std::uint64_t m_ownersText = 0;       // the number of the text that they are of
+    TakenNames m_names;                   // of all sections
+    std::uint64_t m_namesText = 0;        // the number of the text that they are of
 };
 
 } // namespace QuorProbeFile

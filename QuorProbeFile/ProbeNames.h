@@ -4,9 +4,12 @@
 #include "QuorIniFile/AsciiCase.h"
 #include "QuorProbeFile/Export.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 // How the sections and keys of records are called.
@@ -15,6 +18,19 @@ namespace QuorProbeFile {
 // Two names mean one section or key when they are the same in any case of ASCII letters.
 using QuorIniFile::EqualFolded;
 using QuorIniFile::Folded;
+
+struct NameHash {
+    using is_transparent = void;
+    std::size_t operator()(std::wstring_view name) const { return QuorIniFile::HashName(name); }
+};
+struct NameEqual {
+    using is_transparent = void;
+    bool operator()(std::wstring_view a, std::wstring_view b) const { return EqualFolded(a, b); }
+};
+/// Tables of names, which no file can make slow: see HashName.
+template <class Value>
+using NameMap = std::unordered_map<std::wstring, Value, NameHash, NameEqual>;
+using NameSet = std::unordered_set<std::wstring, NameHash, NameEqual>;
 
 using QuorConversions::nestedMark;
 using QuorConversions::settingsMark;

@@ -13,3 +13,4 @@
 #include "QuorProbeFile/RecordMerge.h"
 #include "QuorProbeFile/RecordValue.h"
 #include "QuorProbeFile/SectionPlan.h"
+#include "QuorProbeFile/TakenNames.h"

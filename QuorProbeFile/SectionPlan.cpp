@@ -5,8 +5,6 @@
 
 #include <algorithm>
 #include <string_view>
-#include <unordered_map>
-#include <unordered_set>
 
 namespace QuorProbeFile {
 namespace {
@@ -31,7 +29,7 @@ class Planner {
 public:
     explicit Planner(const std::vector<ProbeMove>& probes) : m_probes(probes) {
         for (std::size_t i = 0; i < probes.size(); ++i) {
-            m_byName.emplace(Folded(probes[i].section), i);
+            m_byName.emplace(probes[i].section, i);
             if (probes[i].standAlone)
                 m_standAlone = i;
         }
@@ -59,7 +57,7 @@ public:
 
 private:
     void FindOwner(std::wstring_view name) {
-        if (const auto found = m_byName.find(Folded(std::wstring(name))); found != m_byName.end())
+        if (const auto found = m_byName.find(name); found != m_byName.end())
             m_owners.push_back({found->second, name.size()});
     }
 
@@ -92,7 +90,7 @@ private:
     }
 
     const std::vector<ProbeMove>& m_probes;
-    std::unordered_map<std::wstring, std::size_t> m_byName;
+    NameMap<std::size_t> m_byName;
     std::optional<std::size_t> m_standAlone; // the only probe whose own section holds its settings
     std::vector<Owner> m_owners;             // of one section
     std::optional<SharedSection> m_shared;
@@ -106,7 +104,7 @@ public:
     [[nodiscard]] std::wstring Next() {
         if (m_taken.empty()) {
             for (std::wstring& section : m_store.Sections())
-                m_taken.insert(Folded(std::move(section)));
+                m_taken.insert(std::move(section));
         }
         std::wstring name;
         do
@@ -117,7 +115,7 @@ public:
 
 private:
     QuorIniFile::IniStore& m_store;
-    std::unordered_set<std::wstring> m_taken;
+    NameSet m_taken;
     std::size_t m_number = 0;
 };
 
@@ -143,15 +141,15 @@ void ApplyPlan(QuorIniFile::IniStore& store, const SectionPlan& plan) {
     for (const std::wstring& section : plan.removed)
         store.RemoveSection(section);
     // Probes may change names among each other: a name that another one waits for is given up first.
-    std::unordered_set<std::wstring> wanted;
+    NameSet wanted;
     for (const auto& [from, to] : plan.renamed) {
         if (!EqualFolded(from, to))
-            wanted.insert(Folded(to));
+            wanted.insert(to);
     }
     std::vector<std::pair<std::wstring, std::wstring>> renamed = plan.renamed;
     FreeNames names(store);
     for (auto& [from, to] : renamed) {
-        if (!wanted.contains(Folded(from)))
+        if (!wanted.contains(from))
             continue;
         const std::wstring between = names.Next();
         store.RenameSection(from, between);

@@ -15,9 +15,6 @@
 // Hash tables of names of sections and keys. The case of ASCII letters does not matter.
 namespace QuorIniFile {
 
-/// The hash of a name as a host gives it. (AsciiCase.h has that of one as CanonicalName spells it.)
-[[nodiscard]] std::uint64_t HashName(std::wstring_view name);
-
 struct IniNameHash {
     using is_transparent = void;
     std::size_t operator()(std::string_view name) const { return HashName(name); }

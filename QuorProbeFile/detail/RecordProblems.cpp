@@ -67,10 +67,10 @@ const LinePlaces::Key* LinePlaces::Find(const std::wstring& section, const std::
         if (const auto* const found = Section(section))
             ForEachLine(*found, [this](const Lines& line) {
                 if (line.Is(Lines::Kind::Key))
-                    m_keys.try_emplace(Folded(line.Name()), Key{line.Number(), line.Value()});
+                    m_keys.try_emplace(line.Name(), Key{line.Number(), line.Value()});
             });
     }
-    const auto found = m_keys.find(Folded(key));
+    const auto found = m_keys.find(key);
     return found == m_keys.end() ? nullptr : &found->second;
 }
 

@@ -3,6 +3,7 @@
 #include "QuorIniFile/IniLines.h"
 #include "QuorIniFile/IniStore.h"
 #include "QuorProbeFile/ProbeEntry.h"
+#include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeProblem.h"
 #include "QuorProbeFile/ReadLog.h"
 #include "QuorProbeFile/detail/RecordReading.h"
@@ -12,7 +13,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace QuorProbeFile {
@@ -48,8 +48,8 @@ public:
 private:
     QuorIniFile::IniStore& m_store;
     SectionIndex m_sections;
-    std::optional<std::wstring> m_section;        // the one that was asked for keys last
-    std::unordered_map<std::wstring, Key> m_keys; // of it, by folded name
+    std::optional<std::wstring> m_section; // the one that was asked for keys last
+    NameMap<Key> m_keys;                   // of it
 };
 
 /// A problem with a key that was read.

@@ -6,6 +6,7 @@
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ReadLog.h"
 #include "QuorProbeFile/SectionPlan.h"
+#include "QuorProbeFile/TakenNames.h"
 #include "apps/probe-setup/QuietPlatform.h"
 
 #include <algorithm>
@@ -49,7 +50,7 @@ DocumentSave::DocumentSave(ProbeFile& before, const std::vector<ListedProbe>& pr
       m_removed(std::move(removed)),
       m_requireWhole(std::move(requireWhole)) {}
 
-bool DocumentSave::WriteInto(const ProbeFile& file, const OthersChanges& replaced) const {
+bool DocumentSave::WriteInto(ProbeFile& file, const OthersChanges& replaced) const {
     const bool othersWrote = m_before.Changed();
     std::unordered_set<const ListedProbe*> gone;
     if (othersWrote)
@@ -69,25 +70,17 @@ void DocumentSave::WriteWhole(const ProbeFile& file, const ListedProbe& probe) {
     WriteRecord(file.Store(), probe, probe.name, file.Path());
 }
 
-std::unordered_set<const ListedProbe*> DocumentSave::CheckForConflicts(const ProbeFile& file,
+std::unordered_set<const ListedProbe*> DocumentSave::CheckForConflicts(ProbeFile& file,
                                                                        const OthersChanges& replaced) const {
-    std::unordered_set<std::wstring> sections;
-    std::unordered_set<std::wstring> taken; // and by whose settings
-    for (const std::wstring& section : file.Store()->Sections()) {
-        sections.insert(Folded(section));
-        for (const std::wstring_view owner : PossibleOwners(section))
-            taken.insert(Folded(std::wstring(owner)));
-    }
-    taken.insert(sections.begin(), sections.end());
-    RequireFreeNames(taken);
-
+    RequireFreeNames(file);
+    IniStore& store = *file.Store();
     std::vector<std::wstring> changed;
     std::vector<RecordConflict> conflicts;
     std::unordered_set<const ListedProbe*> gone;
     for (const ListedProbe& probe : m_probes) {
         if (probe.isNew || !probe.IsChanged())
             continue;
-        if (!sections.contains(Folded(probe.Section()))) {
+        if (!store.HasSection(probe.Section())) {
             gone.insert(&probe);
             changed.push_back(probe.name);
         } else if (probe.IsMerged()) {
@@ -98,7 +91,7 @@ std::unordered_set<const ListedProbe*> DocumentSave::CheckForConflicts(const Pro
         } // what is only renamed keeps the values that stand there
     }
     for (const ListedProbe* const probe : m_removed) {
-        if (sections.contains(Folded(probe->Section())) && !IsSameRecord(file, probe->Section()))
+        if (store.HasSection(probe->Section()) && !IsSameRecord(file, probe->Section()))
             changed.push_back(probe->name);
     }
     const auto isAgreed = [](const auto& agreed) {
@@ -116,19 +109,26 @@ std::unordered_set<const ListedProbe*> DocumentSave::CheckForConflicts(const Pro
     return gone;
 }
 
-void DocumentSave::RequireFreeNames(const std::unordered_set<std::wstring>& taken) const {
-    std::unordered_set<std::wstring> ours; // sections in which our probes stood when the file was read
+void DocumentSave::RequireFreeNames(ProbeFile& file) const {
+    NameSet ours; // sections in which our probes stood when the file was read
     for (const ListedProbe& probe : m_probes) {
         if (!probe.isNew)
-            ours.insert(Folded(probe.Section()));
+            ours.insert(probe.Section());
     }
     for (const ListedProbe* const probe : m_removed)
-        ours.insert(Folded(probe->Section()));
+        ours.insert(probe->Section());
+    const auto isOurs = [&](std::wstring_view section) { return ours.contains(section); };
+    TakenNames taken;
+    for (const std::wstring& section : file.Store()->Sections()) {
+        const auto owners = PossibleOwners(section);
+        if (!isOurs(section) && std::none_of(owners.begin(), owners.end(), isOurs))
+            taken.Add(section);
+    }
+    const auto isTheirs = [&](std::wstring_view section) {
+        return !isOurs(section) && file.Find(section).has_value();
+    };
     for (const ListedProbe& probe : m_probes) {
-        if (!probe.isNew && !probe.IsRenamed())
-            continue;
-        const std::wstring name = Folded(probe.name);
-        if (!ours.contains(name) && taken.contains(name))
+        if ((probe.isNew || probe.IsRenamed()) && taken.ObstacleTo(probe.name, isTheirs))
             throw DocumentError{Failure::NameIsTaken, m_before.Path(), {probe.name}};
     }
 }
@@ -178,11 +178,11 @@ void DocumentSave::WriteMerged(const ProbeFile& file, const ListedProbe& probe) 
 }
 
 void DocumentSave::SpellNewNames(IniStore& store) const {
-    std::unordered_set<std::wstring> removed;
+    NameSet removed;
     for (const ListedProbe* const probe : m_removed)
-        removed.insert(Folded(probe->Section()));
+        removed.insert(probe->Section());
     for (const ListedProbe& probe : m_probes) {
-        if (!probe.isNew || !removed.contains(Folded(probe.name)))
+        if (!probe.isNew || !removed.contains(probe.name))
             continue;
         for (const std::wstring& section : store.Sections()) {
             const std::wstring spelled =

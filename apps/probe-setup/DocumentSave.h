@@ -29,7 +29,7 @@ public:
     /// written into the file. Raises DocumentError when a section would go that belongs to another probe too,
     /// when a record is refused by its class, and when what others have written is in the way and is not
     /// among `replaced`.
-    [[nodiscard]] bool WriteInto(const QuorProbeFile::ProbeFile& file, const OthersChanges& replaced) const;
+    [[nodiscard]] bool WriteInto(QuorProbeFile::ProbeFile& file, const OthersChanges& replaced) const;
 
     /// Writes one probe, with all its values. Raises DocumentError when its class refuses the record.
     static void WriteWhole(const QuorProbeFile::ProbeFile& file, const ListedProbe& probe);
@@ -38,9 +38,10 @@ private:
     /// Raises DocumentError when what was done cannot be joined with what others have written into `file`.
     /// Returns the changed probes that are gone there.
     [[nodiscard]] std::unordered_set<const ListedProbe*>
-    CheckForConflicts(const QuorProbeFile::ProbeFile& file, const OthersChanges& replaced) const;
-    /// Raises DocumentError when a probe would get a name that is `taken` in the file, and was not by ours.
-    void RequireFreeNames(const std::unordered_set<std::wstring>& taken) const;
+    CheckForConflicts(QuorProbeFile::ProbeFile& file, const OthersChanges& replaced) const;
+    /// Raises DocumentError when a probe would get a name that it cannot have in `file`, beside what others
+    /// have there.
+    void RequireFreeNames(QuorProbeFile::ProbeFile& file) const;
     /// Whether what the library reads of a probe is the same in the file as it was.
     [[nodiscard]] bool IsSameRecord(const QuorProbeFile::ProbeFile& file, const std::wstring& section) const;
     /// Removes and renames sections before anything is written into them.

@@ -142,7 +142,7 @@ void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
 
     std::vector<ListedProbe> entries;
     entries.reserve(probes.size());
-    std::unordered_set<std::wstring> ours;
+    NameSet ours;
     std::unordered_map<std::int32_t, std::uint32_t> names; // of types
     for (const ProbeEntry& probe : probes) {
         if (probe.standAlone)
@@ -158,7 +158,7 @@ void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
                 name->second = NumberOf(file->ConversionName(probe));
             entry.content.name = name->second;
         }
-        ours.insert(Folded(entry.name));
+        ours.insert(entry.name);
         entries.push_back(std::move(entry));
         constexpr std::size_t now = 1024;
         if (progress && entries.size() % now == 0)
@@ -168,9 +168,9 @@ void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
     std::vector<std::wstring> foreign;
     for (std::wstring& section : file->Store()->Sections()) {
         const std::vector<std::wstring_view> owners = PossibleOwners(section);
-        if (!ours.contains(Folded(section)) &&
+        if (!ours.contains(section) &&
             std::none_of(owners.begin(), owners.end(),
-                         [&](std::wstring_view owner) { return ours.contains(Folded(std::wstring(owner))); }))
+                         [&](std::wstring_view owner) { return ours.contains(owner); }))
             foreign.push_back(std::move(section));
     }
 
@@ -530,7 +530,7 @@ void ProbeDocument::WriteAll(const ProbeFile& file) {
     }
 }
 
-bool ProbeDocument::WriteChanges(const ProbeFile& file, const OthersChanges& replaced) {
+bool ProbeDocument::WriteChanges(ProbeFile& file, const OthersChanges& replaced) {
     const auto requireWhole = [this](std::size_t probe) { RequireWhole(m_probes[probe]); };
     return DocumentSave(*m_file, m_probes, RemovedProbes(), requireWhole).WriteInto(file, replaced);
 }

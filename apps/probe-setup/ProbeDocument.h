@@ -187,7 +187,7 @@ private:
     [[nodiscard]] std::vector<const ListedProbe*> RemovedProbes() const;
     /// Writes what was done into the file as it is now, within an edit or in memory. Returns whether another
     /// program has written into it.
-    [[nodiscard]] bool WriteChanges(const QuorProbeFile::ProbeFile& file, const OthersChanges& replaced);
+    [[nodiscard]] bool WriteChanges(QuorProbeFile::ProbeFile& file, const OthersChanges& replaced);
     void Settle();
 
     std::shared_ptr<QuietPlatform> m_platform;

@@ -506,6 +506,13 @@ TEST_F(ProbeDocumentTest, ANameThatAnotherProgramHasUsedMeanwhileIsNotOverwritte
     document.Rename(2, L"Probe 4");
     EXPECT_EQ(ErrorOf([&] { document.Save(); }).details, Texts{L"Probe 4"}) << "it would get their settings";
     EXPECT_EQ(File(), leftover);
+    const std::string probe = theirs + "[Probe 5]\nVersion=1.0\nConversionType=10\n";
+    folder.Write("host.ini", probe);
+    document.Rename(2, L"Probe 5 - Settings");
+    EXPECT_EQ(ErrorOf([&] { document.Save(); }).details, Texts{L"Probe 5 - Settings"})
+        << "it would stand where theirs may get its settings";
+    EXPECT_EQ(File(), probe);
+    document.Rename(2, L"Probe 4");
     folder.Write("host.ini", theirs);
     document.Save();
     EXPECT_EQ(File(), theirs + "\n[Probe 4]\nVersion=1.0\nConversionType=10\n");

@@ -1,0 +1,28 @@
+#include "QuorProbeFile/TakenNames.h"
+
+#include "QuorIniFile/IniStore.h"
+
+namespace QuorProbeFile {
+
+void TakenNames::Add(const std::wstring& section) {
+    m_sections.insert(section);
+    for (const std::wstring_view probe : PossibleOwners(section))
+        m_settings.emplace(probe, section);
+}
+
+std::optional<TakenNames::Obstacle>
+TakenNames::ObstacleTo(std::wstring_view name, const std::function<bool(std::wstring_view)>& isProbe) const {
+    if (!QuorIniFile::IniStore::CanNameSection(name))
+        return Obstacle{PROBE_BAD_NAME, {}};
+    if (m_sections.contains(name))
+        return Obstacle{PROBE_NAME_IS_TAKEN, {}};
+    for (const std::wstring_view probe : PossibleOwners(name)) {
+        if (isProbe(probe))
+            return Obstacle{PROBE_NAME_OF_SETTINGS, std::wstring(probe)};
+    }
+    if (const auto settings = m_settings.find(name); settings != m_settings.end())
+        return Obstacle{PROBE_SETTINGS_ARE_TAKEN, settings->second};
+    return std::nullopt;
+}
+
+} // namespace QuorProbeFile
