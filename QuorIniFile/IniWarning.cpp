@@ -39,6 +39,11 @@ public:
             case IniLineKind::Comment:
                 break;
             }
+            if (HidesLines()) {
+                Warn(IniWarningKind::LineEndsInCr, {}, 0);
+                if (line.kind == IniLineKind::Section) // the name may be all of the file
+                    m_warnings.back().section.clear();
+            }
         }
         return std::move(m_warnings);
     }
@@ -48,6 +53,18 @@ private:
         std::string_view name; // as it stands in the text
         std::size_t line = 0;
     };
+
+    /// Whether what stands behind a carriage return in the line looks like a line that is to be read.
+    [[nodiscard]] bool HidesLines() const {
+        std::string_view rest = m_walker.Bytes();
+        for (std::size_t end = rest.find('\r'); end != npos; end = rest.find('\r')) {
+            rest.remove_prefix(end + 1);
+            const IniLineKind kind = ClassifyLine(rest.substr(0, rest.find('\r'))).kind;
+            if (kind == IniLineKind::Section || kind == IniLineKind::Key)
+                return true;
+        }
+        return false;
+    }
 
     void ReadHeader(std::string_view name) {
         std::string buffer;

@@ -18,6 +18,7 @@ enum class IniWarningKind : std::int32_t {
     UnclosedHeader = 3,   // a header without "]": no key below it is read, down to the next header
     MalformedLine = 4,    // no header, no key=value, no comment, not blank
     KeyAboveSections = 5, // a key above the first header, which nobody can read
+    LineEndsInCr = 6, // a header or key behind a carriage return alone, which ends no line: nobody reads it
 };
 
 /// A line of an INI file in which something may be wrong.
@@ -26,7 +27,8 @@ struct IniWarning {
     std::size_t line = 0;  // from 1
     std::size_t first = 0; // of a duplicate: the line of the one that is read; else 0
     /// The name in the header above the line; of a duplicate section the name in the header that is read.
-    /// Empty above the first header, and where the header has no "]".
+    /// Empty above the first header, where the header has no "]", and where a line that is a header ends in a
+    /// carriage return alone.
     std::wstring section;
     std::wstring key; // as it stands in the line; empty where the line is no key
 

@@ -24,6 +24,7 @@ enum EProbeProblem : std::int32_t {
     PROBLEM_MALFORMED_LINE = 12,    ///< no key=value
     PROBLEM_KEPT_FILE = 13,         ///< beside the file: what another program had put in its place
     PROBLEM_INTERRUPTED_SAVE = 14,  ///< beside the file: what an interrupted save has left
+    PROBLEM_LINE_ENDS_IN_CR = 15,   ///< a header or key behind a carriage return alone, which nobody reads
 
     WARNING_R0_NOT_POSITIVE = 101,
     WARNING_RTPW_NOT_POSITIVE = 102,

@@ -178,7 +178,8 @@ bool IniWalker::Next() {
     if (m_next >= m_text.size())
         return false;
     const IniCut cut = CutLine(m_text, m_next);
-    m_line = ClassifyLine(cut.line);
+    m_bytes = cut.line;
+    m_line = ClassifyLine(m_bytes);
     m_next = cut.next;
     ++m_number;
     return true;

@@ -114,11 +114,14 @@ public:
     /// The number of the line, from 1.
     [[nodiscard]] std::size_t Number() const { return m_number; }
     [[nodiscard]] const IniLine& Line() const { return m_line; }
+    /// All of the line, without its end.
+    [[nodiscard]] std::string_view Bytes() const { return m_bytes; }
 
 private:
     std::string_view m_text;
     std::size_t m_next;
     std::size_t m_number = 0;
+    std::string_view m_bytes;
     IniLine m_line;
 };
 

@@ -43,9 +43,14 @@ public:
 
     void Report(ProbeProblem problem) { m_problems.push_back(std::move(problem)); }
 
-    /// Keys and sections that stand twice, the host's own too: who reads them sees the first.
-    void CheckRepetitions() {
+    /// Keys and sections that nobody reads, the host's own too: those that stand twice, of which the first is
+    /// read, and those of lines that end in a carriage return alone.
+    void CheckHiddenLines() {
         for (const IniWarning& warning : m_store->Warnings()) {
+            if (warning.kind == IniWarningKind::LineEndsInCr)
+                Report({PROBLEM_LINE_ENDS_IN_CR, warning.line, warning.section, warning.key,
+                        L"the line goes on behind a carriage return (CR), and what stands there is not read; "
+                        L"a line ends in a line feed (LF or CR LF)"});
             const bool isKey = warning.kind == IniWarningKind::DuplicateKey;
             if (!isKey && warning.kind != IniWarningKind::DuplicateSection)
                 continue;
@@ -207,7 +212,7 @@ std::vector<ProbeProblem> CheckFile(const std::shared_ptr<IniStore>& store, cons
                       {},
                       {},
                       L"the header has no \"]\"; nobody can read the record below it"});
-    check.CheckRepetitions();
+    check.CheckHiddenLines();
     for (const ProbeEntry& probe : probes)
         check.CheckRecord(path, probe);
     return check.Take();

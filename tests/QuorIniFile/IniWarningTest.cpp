@@ -72,6 +72,17 @@ TEST(IniWarning, KeysAboveTheFirstHeaderAreTold) {
         (Warnings{{Kind::KeyAboveSections, 1, 0, L"", L"x"}, {Kind::KeyAboveSections, 3, 0, L"", L"x"}}));
 }
 
+TEST(IniWarning, HeadersAndKeysBehindACarriageReturnAloneAreTold) {
+    EXPECT_EQ(WarningsOf("[A]\rx=1\r[B]\rx=2\r"), (Warnings{{Kind::LineEndsInCr, 1, 0, L"", L""}}));
+    EXPECT_EQ(WarningsOf("; about\rx=1"), (Warnings{{Kind::LineEndsInCr, 1, 0, L"", L""}}));
+    EXPECT_EQ(WarningsOf("[A]\r\nx=1\ry=2\r\nx=3\n"),
+              (Warnings{{Kind::LineEndsInCr, 2, 0, L"A", L""}, {Kind::DuplicateKey, 3, 2, L"A", L"x"}}));
+}
+
+TEST(IniWarning, ACarriageReturnInATextIsNoLineEndAndIsNotTold) {
+    EXPECT_EQ(WarningsOf("[A]\r\nx=one\rtwo\r\n; a\rb\ny=\r\r\n"), Warnings{});
+}
+
 TEST(IniWarning, NamesAreComparedAsTheyAreReadInWhateverEncodingTheyStand) {
     EXPECT_EQ(WarningsOf("[K\xF6ln]\nW\xE4rme=1\nw\xC3\xA4rme=2\n[k\xC3\xB6ln]\n"),
               (Warnings{{Kind::DuplicateKey, 3, 2, L"Köln", L"wärme"},

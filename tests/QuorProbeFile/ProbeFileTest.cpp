@@ -313,6 +313,17 @@ TEST_F(ProbeFileTest, AProbeTakesThePlaceOfSettingsWhoseTypeCannotBeRead) {
     EXPECT_EQ(File(), "[R]\nConversionType=14\nVersion=1.0\n[R - Settings]\nVersion=1.0\nRTPW=0\n");
 }
 
+TEST_F(ProbeFileTest, AFileWhoseLinesEndInACarriageReturnAloneIsToldByACheckAndStays) {
+    const std::string text = "; Rig 4\r[P]\rConversionType=10\r";
+    Host(text);
+    ProbeFile file(Path());
+    EXPECT_TRUE(file.Probes().empty());
+    EXPECT_EQ(Told(file.Check()),
+              Texts{L"1 []  15 the line goes on behind a carriage return (CR), and what stands there is not "
+                    L"read; a line ends in a line feed (LF or CR LF)"});
+    EXPECT_EQ(File(), text);
+}
+
 TEST_F(ProbeFileTest, CreatesAFileWithTheFirstProbe) {
     EXPECT_THROW(ProbeFile file(Path()), QuorError);
     ProbeFile file(Path(), ProbeFile::Opening::OrNew);
