@@ -54,14 +54,19 @@ private:
         std::size_t line = 0;
     };
 
-    /// Whether what stands behind a carriage return in the line looks like a line that is to be read.
+    /// Whether a carriage return in the line stands between what looks like a line and one that is to be
+    /// read.
     [[nodiscard]] bool HidesLines() const {
         std::string_view rest = m_walker.Bytes();
-        for (std::size_t end = rest.find('\r'); end != npos; end = rest.find('\r')) {
-            rest.remove_prefix(end + 1);
-            const IniLineKind kind = ClassifyLine(rest.substr(0, rest.find('\r'))).kind;
-            if (kind == IniLineKind::Section || kind == IniLineKind::Key)
+        bool isBehindLine = false;
+        for (std::size_t end = rest.find('\r'); end != npos || isBehindLine; end = rest.find('\r')) {
+            const IniLineKind kind = ClassifyLine(rest.substr(0, end)).kind;
+            if (isBehindLine && (kind == IniLineKind::Section || kind == IniLineKind::Key))
                 return true;
+            if (end == npos)
+                return false;
+            isBehindLine = kind != IniLineKind::Malformed && kind != IniLineKind::BrokenSection;
+            rest.remove_prefix(end + 1);
         }
         return false;
     }

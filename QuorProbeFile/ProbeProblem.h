@@ -46,6 +46,7 @@ enum EProbeProblem : std::int32_t {
     WARNING_THERMISTOR_A1_SIZE = 118,
     WARNING_THERMISTOR_A3_SIZE = 119,
     WARNING_THERMISTOR_B1_SIZE = 120,
+    WARNING_COUNT_DOES_NOT_FIT = 121, ///< values beside a count that it leaves out are not 0
 };
 
 /// One problem, and where it is.

@@ -79,6 +79,10 @@ const std::vector<ProbeWarning>& Warnings() {
              L"Steinhart and Hart (1968): about 1E-7; ten times that"),
         Size(WARNING_THERMISTOR_B1_SIZE, L"thermistor-b1-size", L"B1 of thermistor R(T), in K", 1000.0,
              12000.0, L"IEC 60539-1: about B, of 2000 K to 6000 K, half to twice that"),
+        {WARNING_COUNT_DOES_NOT_FIT, L"count-does-not-fit",
+         L"coefficients and points beside a count, or an order, that leaves them out", L"absent or 0",
+         L"a record that has got a smaller count keeps those that it had; a count that was mistyped leaves "
+         L"out what was meant"},
     };
     return warnings;
 }

@@ -4,11 +4,6 @@
 #include "QuorConversions/core/detail/Record.h"
 
 namespace QuorConversions {
-namespace {
-
-constexpr const wchar_t* countKey = L"NumCoefficients";
-
-} // namespace
 
 CoefficientSettings::CoefficientSettings(std::shared_ptr<Platform> platform, const SettingsTraits& traits,
                                          std::int32_t highestIndex)
@@ -29,11 +24,11 @@ void CoefficientSettings::SetNumCoefficients(std::int16_t value) {
 }
 
 void CoefficientSettings::WriteCount(RecordWriter& record) const {
-    record.Integer(countKey, NumCoefficients());
+    record.Integer(numCoefficientsKey, NumCoefficients());
 }
 
 std::int16_t CoefficientSettings::ReadCount(RecordReader& record) const {
-    return record.Count(countKey, NumCoefficients());
+    return record.Count(numCoefficientsKey, NumCoefficients());
 }
 
 void CoefficientSettings::WriteCoefficients(RecordWriter& record) const {

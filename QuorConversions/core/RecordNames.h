@@ -23,9 +23,14 @@ inline constexpr const wchar_t* thermocouplePolynomialSection = L"Thermocouple P
 inline constexpr const wchar_t* versionKey = L"Version";
 inline constexpr const wchar_t* conversionTypeKey = L"ConversionType";
 inline constexpr const wchar_t* coefficientsKey = L"Coefficients"; // indexed
+inline constexpr const wchar_t* numCoefficientsKey = L"NumCoefficients";
+inline constexpr const wchar_t* numPointsKey = L"NumPoints";
+inline constexpr const wchar_t* offsetsKey = L"Offsets"; // indexed
+inline constexpr const wchar_t* orderKey = L"Order";
 inline constexpr const wchar_t* rangeKey = L"Range";
 inline constexpr const wchar_t* rtpwKey = L"RTPW";
 inline constexpr const wchar_t* tcTypeKey = L"TCType";
 inline constexpr const wchar_t* temperaturesKey = L"Temperatures"; // indexed
+inline constexpr const wchar_t* voltagesKey = L"Voltages";         // indexed
 
 } // namespace QuorConversions

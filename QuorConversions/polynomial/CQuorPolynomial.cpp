@@ -1,12 +1,12 @@
 #include "QuorConversions/polynomial/CQuorPolynomial.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorConversions/core/detail/Record.h"
 
 namespace QuorConversions {
 namespace {
 
 constexpr SettingsTraits polynomialTraits{L"CQuorPolynomial", IDS_POLYNOMIAL, L"ply", L"Polynomial"};
-constexpr const wchar_t* orderKey = L"Order";
 
 } // namespace
 

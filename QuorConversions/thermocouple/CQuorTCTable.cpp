@@ -1,5 +1,7 @@
 #include "QuorConversions/thermocouple/CQuorTCTable.h"
 
+#include "QuorConversions/core/RecordNames.h"
+
 namespace QuorConversions {
 namespace {
 
@@ -8,7 +10,7 @@ constexpr SettingsTraits tcTableTraits{L"CQuorTCTable", IDS_TC_TABLE, L"tct", L"
 } // namespace
 
 CQuorTCTable::CQuorTCTable(CreationKey /*key*/, std::shared_ptr<Platform> platform)
-    : PointSettings(std::move(platform), tcTableTraits, TCTABLE_T10 + 1, L"Voltages", L"mV") {}
+    : PointSettings(std::move(platform), tcTableTraits, TCTABLE_T10 + 1, voltagesKey, L"mV") {}
 
 void CQuorTCTable::WriteRecord(RecordWriter& record) const {
     WriteNumPoints(record);

@@ -17,7 +17,7 @@ constexpr TCTypeCatalogue typesWithPoints{
 } // namespace
 
 CQuorTCTypeX::CQuorTCTypeX(CreationKey /*key*/, std::shared_ptr<Platform> platform)
-    : PointSettings(std::move(platform), tcTypeXTraits, TCTYPEX_T3 + 1, L"Offsets", L"\u00B0C"),
+    : PointSettings(std::move(platform), tcTypeXTraits, TCTYPEX_T3 + 1, offsetsKey, L"\u00B0C"),
       m_coefficients(tcTypeXTraits.className, TCTYPEX_DC2) {
     m_coefficients.Resize(TCTYPEX_DC2 + 1);
 }

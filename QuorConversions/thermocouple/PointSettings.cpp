@@ -4,11 +4,6 @@
 #include "QuorConversions/core/detail/Record.h"
 
 namespace QuorConversions {
-namespace {
-
-constexpr const wchar_t* numPointsKey = L"NumPoints";
-
-} // namespace
 
 PointSettings::PointSettings(std::shared_ptr<Platform> platform, const SettingsTraits& traits,
                              std::int16_t maxPoints, const wchar_t* valuesKey, const wchar_t* valueScale)

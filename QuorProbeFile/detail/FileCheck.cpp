@@ -12,13 +12,23 @@
 #include "QuorProbeFile/detail/RecordWarnings.h"
 
 #include <algorithm>
+#include <array>
+#include <iterator>
 #include <map>
 #include <set>
 #include <utility>
 
 namespace QuorProbeFile {
 
+using QuorConversions::coefficientsKey;
+using QuorConversions::numCoefficientsKey;
+using QuorConversions::numPointsKey;
+using QuorConversions::offsetsKey;
+using QuorConversions::orderKey;
+using QuorConversions::rangeKey;
+using QuorConversions::temperaturesKey;
 using QuorConversions::versionKey;
+using QuorConversions::voltagesKey;
 using QuorIniFile::IniLeftover;
 using QuorIniFile::IniLines;
 using QuorIniFile::IniStore;
@@ -36,6 +46,49 @@ std::wstring PathText(const std::string& path) {
                    [](char c) { return static_cast<wchar_t>(static_cast<unsigned char>(c)); });
     return text;
 }
+
+/// A key that says how many indexed values stand beside it. A record that is written with fewer leaves the
+/// others in the file, as every program that writes records does: they are no mistake.
+struct CountKey {
+    const wchar_t* name;
+    std::array<std::wstring_view, 3> indexed;
+    EProbeProblem warning;
+};
+constexpr CountKey countKeys[] = {
+    {numCoefficientsKey, {coefficientsKey}, WARNING_COUNT_DOES_NOT_FIT},
+    {numPointsKey, {temperaturesKey, offsetsKey, voltagesKey}, WARNING_COUNT_DOES_NOT_FIT},
+    {orderKey, {coefficientsKey}, WARNING_COUNT_DOES_NOT_FIT},
+    {rangeKey, {coefficientsKey}, WARNING_RANGE_DOES_NOT_FIT},
+};
+
+const CountKey* FindCountKey(const std::wstring& name) {
+    const auto* const found = std::find_if(std::begin(countKeys), std::end(countKeys),
+                                           [&name](const CountKey& count) { return name == count.name; });
+    return found == std::end(countKeys) ? nullptr : found;
+}
+
+/// Whether a key is that of a value which `count` counts: its name and an index.
+bool IsCounted(const CountKey& count, std::wstring_view key) {
+    return std::any_of(count.indexed.begin(), count.indexed.end(), [key](std::wstring_view name) {
+        if (name.empty() || key.size() <= name.size() || !EqualFolded(key.substr(0, name.size()), name))
+            return false;
+        const std::wstring_view index = key.substr(name.size());
+        return index.find_first_not_of(L"0123456789") == std::wstring_view::npos &&
+               (index.size() == 1 || index.front() != L'0');
+    });
+}
+
+/// What the library has asked for in a section.
+struct AskedKeys {
+    std::set<std::wstring> names; // folded
+    std::vector<const CountKey*> counts;
+
+    [[nodiscard]] bool Explain(const std::wstring& key) const {
+        return names.contains(key) || EqualFolded(key, versionKey) ||
+               std::any_of(counts.begin(), counts.end(),
+                           [&key](const CountKey* count) { return IsCounted(*count, key); });
+    }
+};
 
 class FileCheck {
 public:
@@ -142,41 +195,50 @@ private:
 
     /// Keys that no record of this type has, and lines that are no keys.
     void CheckSections(const RecordReading& reading, const ProbeEntry& probe, bool isLookedThrough) {
-        std::map<std::wstring, std::set<std::wstring>> known;
+        std::map<std::wstring, AskedKeys> known;
         known[Folded(probe.section)];
         if (reading.Settings())
             known[Folded(probe.standAlone ? probe.section : SettingsSection(probe.section))];
-        for (const ReadLog::Read& read : reading.Reads())
-            known[Folded(read.section)].insert(Folded(read.key));
+        for (const ReadLog::Read& read : reading.Reads()) {
+            AskedKeys& keys = known[Folded(read.section)];
+            keys.names.insert(Folded(read.key));
+            if (const CountKey* const count = FindCountKey(read.key))
+                keys.counts.push_back(count);
+        }
         for (const auto& [name, keys] : known)
             if (const auto* const section = m_places.Section(name))
                 CheckSection(*section, keys, isLookedThrough);
-        for (const ReadLog::Read& read : reading.Reads())
-            if (isLookedThrough && read.found && read.key == QuorConversions::rangeKey)
-                CheckRange(read, probe, known[Folded(read.section)]);
+        for (const ReadLog::Read& read : reading.Reads()) {
+            const CountKey* const count = isLookedThrough && read.found ? FindCountKey(read.key) : nullptr;
+            if (count)
+                CheckCount(*count, read, probe, known[Folded(read.section)]);
+        }
     }
 
-    /// Whether coefficients stand below an ITS-90 range that it does not have: the wrong range, most likely.
-    void CheckRange(const ReadLog::Read& range, const ProbeEntry& probe,
-                    const std::set<std::wstring>& known) {
+    /// Whether values that are not 0 stand beside a count or an ITS-90 range that leaves them out: the wrong
+    /// count or range, most likely.
+    void CheckCount(const CountKey& count, const ReadLog::Read& read, const ProbeEntry& probe,
+                    const AskedKeys& known) {
         std::wstring surplus;
         std::set<std::wstring> seen;
-        m_places.ForEachLine(*m_places.Section(range.section), [&](const IniLines& line) {
+        m_places.ForEachLine(*m_places.Section(read.section), [&](const IniLines& line) {
             const std::wstring key = line.Is(IniLines::Kind::Key) ? Folded(line.Name()) : std::wstring{};
-            if (!key.starts_with(Folded(QuorConversions::coefficientsKey)) || known.contains(key) ||
-                !seen.insert(key).second)
+            if (!IsCounted(count, key) || known.names.contains(key) || !seen.insert(key).second)
                 return;
             if (const auto value = QuorIniFile::DoubleOf(line.Value()); value && *value != 0.0)
                 surplus += (surplus.empty() ? L"" : L", ") + line.Name();
         });
-        if (!surplus.empty())
-            Report(ProblemAt(range, probe, m_places, WARNING_RANGE_DOES_NOT_FIT,
-                             L"range " + ToText(range.value) +
-                                 L" does not have these coefficients, which are not 0: " + surplus));
+        if (surplus.empty())
+            return;
+        const std::wstring value = ToText(read.value);
+        Report(ProblemAt(read, probe, m_places, count.warning,
+                         count.warning == WARNING_RANGE_DOES_NOT_FIT
+                             ? L"range " + value + L" does not have these coefficients, which are not 0: " +
+                                   surplus
+                             : value + L" leaves out these values, which are not 0: " + surplus));
     }
 
-    void CheckSection(const SectionIndex::Section& section, const std::set<std::wstring>& known,
-                      bool isLookedThrough) {
+    void CheckSection(const SectionIndex::Section& section, const AskedKeys& known, bool isLookedThrough) {
         const std::wstring name = m_places.NameOf(section);
         std::set<std::wstring> seen;
         m_places.ForEachLine(section, [&](const IniLines& line) {
@@ -185,8 +247,7 @@ private:
                 return;
             }
             const std::wstring key = Folded(line.Name());
-            if (isLookedThrough && !EqualFolded(key, versionKey) && !known.contains(key) &&
-                seen.insert(key).second)
+            if (isLookedThrough && !known.Explain(key) && seen.insert(key).second)
                 Report({PROBLEM_UNKNOWN_KEY, line.Number(), name, line.Name(),
                         L"unknown key: a record of this type and size does not hold it"});
         });

@@ -80,7 +80,7 @@ TEST(IniWarning, HeadersAndKeysBehindACarriageReturnAloneAreTold) {
 }
 
 TEST(IniWarning, ACarriageReturnInATextIsNoLineEndAndIsNotTold) {
-    EXPECT_EQ(WarningsOf("[A]\r\nx=one\rtwo\r\n; a\rb\ny=\r\r\n"), Warnings{});
+    EXPECT_EQ(WarningsOf("[A]\r\nx=one\rtwo\r\n; a\rb\ny=\r\r\nz\rz=1\n"), Warnings{});
 }
 
 TEST(IniWarning, NamesAreComparedAsTheyAreReadInWhateverEncodingTheyStand) {

@@ -1,5 +1,6 @@
 #include "QuorProbeFile/ProbeFile.h"
 
+#include "QuorConversions/polynomial/CQuorPolynomial.h"
 #include "QuorConversions/rtd/CQuorCVD.h"
 #include "QuorConversions/rtd/CQuorITS90.h"
 #include "QuorConversions/rtd/CQuorWT90.h"
@@ -322,6 +323,26 @@ TEST_F(ProbeFileTest, AFileWhoseLinesEndInACarriageReturnAloneIsToldByACheckAndS
               Texts{L"1 []  15 the line goes on behind a carriage return (CR), and what stands there is not "
                     L"read; a line ends in a line feed (LF or CR LF)"});
     EXPECT_EQ(File(), text);
+}
+
+TEST_F(ProbeFileTest, ARecordThatIsWrittenWithFewerCoefficientsKeepsTheOthersAndIsInOrder) {
+    ProbeFile file(Path(), ProbeFile::Opening::OrNew);
+    CQuorConversion conversion;
+    conversion.SetConversionType(CONV_POLYNOMIAL);
+    const auto polynomial = SettingsAs<CQuorPolynomial>(conversion);
+    polynomial->SetOrder(6);
+    polynomial->SetCoefficients(1, 1.0);
+    polynomial->SetCoefficients(5, 0.25);
+    file.Write(L"P", conversion);
+    polynomial->SetOrder(4);
+    file.Write(L"P", conversion);
+    EXPECT_EQ(File(), "[P]\nVersion=1.0\nConversionType=4\n\n[P - Settings]\nVersion=1.0\nOrder=4\n"
+                      "Coefficients0=0\nCoefficients1=1\nCoefficients2=0\nCoefficients3=0\n"
+                      "Coefficients4=0\nCoefficients5=0.25\nCoefficients6=0\n");
+    const auto problems = file.Check();
+    EXPECT_EQ(Told(problems), Texts{L"7 [P - Settings] Order 121 4 leaves out these values, which are not 0: "
+                                    L"Coefficients5"});
+    EXPECT_TRUE(problems.front().IsWarning());
 }
 
 TEST_F(ProbeFileTest, CreatesAFileWithTheFirstProbe) {

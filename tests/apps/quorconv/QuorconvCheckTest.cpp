@@ -81,10 +81,6 @@ const BadFile badFiles[] = {
      "[Host]\nColour=red\n[A]\nConversionType=14\nColour=red\n[A - Settings]\nRTPW=25.5\nRTWP=25.6\n",
      "host.ini:5: [A] Colour: unknown key: a record of this type and size does not hold it\n"
      "host.ini:8: [A - Settings] RTWP: unknown key: a record of this type and size does not hold it\n"},
-    {"surplus coefficients are told",
-     "[A]\nConversionType=19\n[A - Settings]\nNumCoefficients=1\nCoefficients0=100\nCoefficients1=7\n",
-     "host.ini:6: [A - Settings] Coefficients1: unknown key: a record of this type and size does not hold "
-     "it\n"},
     {"keys and sections that stand twice are told with the line that counts",
      "[A]\nConversionType=14\n[A - Settings]\nRTPW=25.5\nrtpw=25.6\n[a - settings]\nRTPW=1\n",
      "host.ini:5: [A - Settings] rtpw: the key stands twice; the one in line 4 is read\n"
@@ -193,6 +189,14 @@ constexpr const char* aWarning =
 TEST_F(QuorconvTest, WarnsOfValuesThatCanHardlyBeMeantAndEndsWell) {
     folder.Write("host.ini", hardlyMeant);
     ExpectFine({"check", "host.ini"}, std::string(r0Warning) + aWarning);
+}
+
+TEST_F(QuorconvTest, WarnsOfCoefficientsThatACountLeavesOut) {
+    folder.Write("host.ini", "[A]\nConversionType=19\n[A - Settings]\nNumCoefficients=1\nCoefficients0=100\n"
+                             "Coefficients1=7\n");
+    ExpectFine({"check", "host.ini"},
+               "host.ini:4: warning: [A - Settings] NumCoefficients: 1 leaves out these "
+               "values, which are not 0: Coefficients1 [count-does-not-fit]\n");
 }
 
 TEST_F(QuorconvTest, AStrictCheckEndsWithOneForAWarning) {
