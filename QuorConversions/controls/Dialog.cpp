@@ -48,16 +48,23 @@ void Dialog::FocusNext(bool backwards) {
     }
 }
 
-const TextBox* Dialog::AdvisedBox() const {
-    const auto advises = [](const Control* control) {
-        return control && control->Kind() == ControlKind::TextBox && control->IsShown() &&
-               !static_cast<const TextBox*>(control)->Advice().empty();
-    };
-    if (advises(m_active))
-        return static_cast<const TextBox*>(m_active);
-    const auto first = std::find_if(m_controls.begin(), m_controls.end(),
-                                    [&](const auto& control) { return advises(control.get()); });
-    return first == m_controls.end() ? nullptr : static_cast<const TextBox*>(first->get());
+std::vector<const TextBox*> Dialog::AdvisedBoxes() const {
+    const TextBox* shown = nullptr;
+    std::vector<const TextBox*> hidden;
+    for (const auto& control : m_controls) {
+        if (control->Kind() != ControlKind::TextBox)
+            continue;
+        const auto* const box = static_cast<const TextBox*>(control.get());
+        if (box->Advice().empty())
+            continue;
+        if (!box->IsShown())
+            hidden.push_back(box);
+        else if (!shown || box == m_active)
+            shown = box;
+    }
+    if (shown)
+        hidden.insert(hidden.begin(), shown);
+    return hidden;
 }
 
 void Dialog::Hide() {
@@ -120,7 +127,7 @@ void DialogInput::Edit(TextBox& box, std::wstring text, std::size_t selStart, st
 }
 
 void DialogInput::Paste(TextBox& box, const std::wstring& text) {
-    if (m_dialog.IsOpen() && m_dialog.SetFocus(box))
+    if (m_dialog.IsOpen() && !text.empty() && m_dialog.SetFocus(box))
         m_dialog.OnPaste(box, text);
 }
 

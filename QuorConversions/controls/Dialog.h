@@ -52,9 +52,9 @@ public:
     /// The button that the Escape key presses; null when there is none. No button answers the Enter key.
     [[nodiscard]] const PushButton* CancelButton() const { return m_cancelButton; }
 
-    /// The box whose advice is to be shown: the one that has the focus, when it has any, or else the first
-    /// one on the screen; null when there is no advice.
-    [[nodiscard]] const TextBox* AdvisedBox() const;
+    /// The boxes whose advice is to be shown: of those on the screen, which are marked, the one that has the
+    /// focus, when it has any, or else the first one; and all that are hidden, or on another page.
+    [[nodiscard]] std::vector<const TextBox*> AdvisedBoxes() const;
 
     /// The button that the F1 key presses; null when there is none.
     [[nodiscard]] const PushButton* HelpButton() const { return m_helpButton; }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <iterator>
 #include <utility>
+#include <vector>
 
 namespace QuorConversions {
 namespace {
@@ -41,44 +42,32 @@ constexpr struct {
 /// The units that do not scale, after Normalized.
 constexpr struct {
     Text text;
+    PastedUnit unit;
     bool alsoDirectly; ///< not only behind a blank
 } units[] = {
-    {L"\u03A9", true},
-    {L"ohm", true},
-    {L"ohms", true},
-    {L"Ohm", true},
-    {L"Ohms", true},
-    {L"\u00B0C", true},
-    {L"K", false},
-    {L"mV", true},
-    {L"mV/\u00B0C", true},
-    {L"mV/K", true},
-    {L"1/\u00B0C", false},
-    {L"1/K", false}, // directly, the 1 would be a digit of the number
-    {L"\u00B0C\u207B\u00B9", true},
-    {L"K\u207B\u00B9", true},
-    {L"\u00B0C\u207B\u00B2", true},
-    {L"K\u207B\u00B2", true},
-    {L"\u00B0C\u207B\u00B3", true},
-    {L"K\u207B\u00B3", true},
-    {L"\u00B0C\u207B\u2074", true},
-    {L"K\u207B\u2074", true},
-    {L"\u00B0C-1", true},
-    {L"K-1", false},
-    {L"\u00B0C-2", true},
-    {L"K-2", false},
-    {L"\u00B0C-3", true},
-    {L"K-3", false},
-    {L"\u00B0C-4", true},
-    {L"K-4", false},
-    {L"\u00B0C\u22121", true},
-    {L"K\u22121", false},
-    {L"\u00B0C\u22122", true},
-    {L"K\u22122", false},
-    {L"\u00B0C\u22123", true},
-    {L"K\u22123", false},
-    {L"\u00B0C\u22124", true},
-    {L"K\u22124", false},
+    {L"\u03A9", PastedUnit::Ohm, true},
+    {L"ohm", PastedUnit::Ohm, true},
+    {L"ohms", PastedUnit::Ohm, true},
+    {L"Ohm", PastedUnit::Ohm, true},
+    {L"Ohms", PastedUnit::Ohm, true},
+    {L"\u00B0C", PastedUnit::Celsius, true},
+    {L"K", PastedUnit::Kelvin, false}, // "5K" may be five thousand
+    {L"mV", PastedUnit::Millivolt, true},
+    {L"mV/\u00B0C", PastedUnit::MillivoltPerDegree, true},
+    {L"mV/K", PastedUnit::MillivoltPerDegree, true},
+    {L"1/\u00B0C", PastedUnit::PerDegree, false},
+    {L"1/K", PastedUnit::PerDegree, false}, // directly, the 1 would be a digit of the number
+};
+
+/// The powers that a degree stands in, behind "\u00B0C" or "K".
+constexpr struct {
+    Text power;
+    PastedUnit unit;
+} powersOfDegrees[] = {
+    {L"-1", PastedUnit::PerDegree},
+    {L"-2", PastedUnit::PerDegree2},
+    {L"-3", PastedUnit::PerDegree3},
+    {L"-4", PastedUnit::PerDegree4},
 };
 
 /// Words that make of a name more than a name, in small letters: scaling units, factors, signs.
@@ -88,8 +77,12 @@ constexpr Text tellingWords[] = {
     L"ppm",  L"ppb",   L"times", L"per",   L"minus",   L"plus",  L"negative", L"inverse", L"reciprocal",
     L"lg",   L"ld",    L"lb",    L"sin",   L"cos",     L"tan",   L"abs",
 };
-/// What the names of functions begin with, also where the argument follows without a bracket: "lnR".
-constexpr Text functions[] = {L"ln", L"log", L"exp", L"sqrt", L"arc"};
+/// What the names of functions begin with, also where the argument follows without a bracket: "lnR"; and
+/// what scaling units begin with: "milliohms".
+constexpr Text tellingBeginnings[] = {L"ln",   L"log",   L"exp",   L"sqrt", L"arc",
+                                      L"kilo", L"milli", L"micro", L"mega", L"nano"};
+/// What is a prefix of a unit where it stands in brackets by itself: "R0 (k)".
+constexpr Text prefixesInBrackets[] = {L"k", L"m", L"\u03BC", L"u", L"n", L"g"};
 
 bool IsDigit(wchar_t c) { return allDigits.find(c) != Text::npos; }
 bool AreDigits(Text text) { return text.find_first_not_of(allDigits) == Text::npos; }
@@ -172,7 +165,7 @@ std::wstring SignText(wchar_t sign) {
     return sign == L'+' || sign == L'\u207A' ? L"+" : L"-";
 }
 
-PastedNumber Refused(PasteRefusal refusal) { return {std::nullopt, refusal, false}; }
+PastedNumber Refused(PasteRefusal refusal) { return {std::nullopt, refusal, false, {}, PastedUnit::None}; }
 
 /// Digits that stand in groups of three, divided by `divider`; nothing for any other text.
 std::optional<std::wstring> JoinGroups(Text text, wchar_t divider, bool beforePoint) {
@@ -235,7 +228,32 @@ PastedNumber ReadMantissa(Text text, wchar_t separator, bool hasExponent) {
     const auto fraction = JoinDigits(behind, L" ", false);
     if (!whole || !fraction || whole->size() + fraction->size() == 0)
         return Refused(PasteRefusal::NoNumber);
-    return {hasDecimal ? *whole + separator + *fraction : *whole, PasteRefusal::None, couldGroup};
+    const bool isInColumns = text.find(blank) != Text::npos; // "100 200" may be two numbers
+    return {hasDecimal ? *whole + separator + *fraction : *whole,
+            PasteRefusal::None,
+            couldGroup || isInColumns,
+            {},
+            PastedUnit::None};
+}
+
+/// The power in front of the reader, its sign and digits, where it is written as one: raised, or behind "^"
+/// or
+/// "**", also in brackets. An empty text where such a power begins and is none; nothing where none begins.
+std::optional<std::wstring> ReadPower(Reader& reader) {
+    if (reader.Take(L'^') || reader.Take(L"**")) {
+        const wchar_t open = reader.TakeOneOf(L"({");
+        const wchar_t sign = reader.TakeOneOf(signs);
+        const Text digits = reader.TakeAllOf(allDigits);
+        const bool isWhole = !digits.empty() && (open == 0 || reader.Take(open == L'(' ? L')' : L'}'));
+        return isWhole ? SignText(sign) + std::wstring(digits) : std::wstring{};
+    }
+    const wchar_t sign = reader.TakeOneOf(L"\u207B\u207A");
+    std::wstring digits;
+    for (const wchar_t c : reader.TakeAllOf(superscripts))
+        digits += allDigits[superscripts.find(c)];
+    if (sign == 0 && digits.empty())
+        return std::nullopt;
+    return digits.empty() ? std::wstring{} : SignText(sign) + digits;
 }
 
 /// The exponent in front of the reader, as "E" with its sign and digits, or an empty text for none; nothing
@@ -246,36 +264,32 @@ struct Exponent {
 };
 
 Exponent ReadExponent(Reader& reader) {
-    const auto written = [](wchar_t sign, Text power) {
-        return power.empty() ? Exponent{{}, PasteRefusal::NoNumber}
-                             : Exponent{L"E" + SignText(sign) + std::wstring(power)};
+    const auto written = [](const std::wstring& power) {
+        return power.empty() ? Exponent{{}, PasteRefusal::NoNumber} : Exponent{L"E" + power};
+    };
+    const auto signedDigits = [&reader](wchar_t sign) {
+        const Text digits = reader.TakeAllOf(allDigits);
+        return digits.empty() ? std::wstring{} : SignText(sign) + std::wstring(digits);
     };
     const bool behindBlank = reader.TakeBlanks();
     if (reader.TakeOneOf(L"eEdD")) {
         const wchar_t sign = reader.TakeOneOf(signs);
-        return written(sign, behindBlank && sign == 0 ? Text{} : reader.TakeAllOf(allDigits));
+        return written(behindBlank && sign == 0 ? std::wstring{} : signedDigits(sign));
     }
     if (!reader.TakeOneOf(timesSigns))
         return {};
     reader.TakeBlanks();
     if (!reader.Take(L"10"))
         return {{}, PasteRefusal::NoNumber};
-    if (reader.Take(L'^') || reader.Take(L"**")) {
-        const wchar_t sign = reader.TakeOneOf(signs);
-        return written(sign, reader.TakeAllOf(allDigits));
-    }
     const bool blankBehindTen = reader.TakeBlanks();
-    const wchar_t raisedSign = reader.TakeOneOf(L"\u207B\u207A");
-    std::wstring raised;
-    for (const wchar_t c : reader.TakeAllOf(superscripts))
-        raised += allDigits[superscripts.find(c)];
-    if (raisedSign != 0 || !raised.empty())
-        return written(raisedSign, blankBehindTen && raisedSign == 0 ? Text{} : Text(raised));
+    const bool raisedUnsigned = !reader.rest.empty() && superscripts.find(reader.rest.front()) != Text::npos;
+    if (const auto power = ReadPower(reader)) // "10 2" with a raised 2 may be ten, and a footnote
+        return written(blankBehindTen && raisedUnsigned ? std::wstring{} : *power);
     const wchar_t sign = reader.TakeOneOf(signs);
-    const Text power = reader.TakeAllOf(allDigits);
+    const std::wstring power = signedDigits(sign);
     if (sign == 0 && !power.empty()) // the power, or more digits of the factor
         return {{}, PasteRefusal::TwoReadings};
-    return written(sign, power);
+    return written(power);
 }
 
 /// A number and nothing else.
@@ -304,28 +318,66 @@ PastedNumber ReadNumber(Text text, wchar_t separator, bool behindEquals) {
     return result;
 }
 
+/// A unit that ends a text.
+struct UnitFound {
+    PastedUnit unit = PastedUnit::None;
+    std::size_t at = 0; ///< where it begins
+    bool alsoDirectly = false;
+};
+
+/// What `tail`, which stands behind the sign of a unit, makes of it; nothing where it belongs to no unit.
+std::optional<UnitFound> WithPower(PastedUnit unit, Text tail, bool alsoDirectly) {
+    if (tail.empty())
+        return UnitFound{unit, 0, alsoDirectly};
+    if (unit != PastedUnit::Celsius && unit != PastedUnit::Kelvin)
+        return std::nullopt;
+    Reader reader{tail};
+    const auto raised = ReadPower(reader);
+    const wchar_t sign = raised ? L'\0' : reader.TakeOneOf(signs);
+    const std::wstring power = raised ? *raised : SignText(sign) + std::wstring(reader.rest);
+    for (const auto& row : powersOfDegrees)
+        if (row.power == power && (!raised || reader.rest.empty()))
+            return UnitFound{row.unit, 0, alsoDirectly || raised};
+    return std::nullopt;
+}
+
+/// The units that a text may end with: of "mV/K" both that and "K".
+std::vector<UnitFound> UnitsAtEnd(Text text) {
+    std::vector<UnitFound> found;
+    for (const auto& row : units)
+        if (const auto at = text.rfind(row.text); at != Text::npos)
+            if (auto unit = WithPower(row.unit, text.substr(at + row.text.size()), row.alsoDirectly)) {
+                unit->at = at;
+                found.push_back(*unit);
+            }
+    return found;
+}
+
+/// The unit that the whole text is.
+PastedUnit WholeUnit(Text text) {
+    for (const UnitFound& found : UnitsAtEnd(text))
+        if (found.at == 0)
+            return found.unit;
+    return PastedUnit::None;
+}
+
 /// A number with or without a unit behind it.
 PastedNumber ReadQuantity(Text text, wchar_t separator, bool behindEquals) {
     PastedNumber result = ReadNumber(text, separator, behindEquals);
-    for (const auto& unit : units) {
-        if (result.number || !text.ends_with(unit.text) || text.size() == unit.text.size())
-            continue;
-        const Text number = text.substr(0, text.size() - unit.text.size());
-        if (const bool behindBlank = IsBlank(number.back()); behindBlank || unit.alsoDirectly)
-            result =
-                ReadNumber(number.substr(0, number.size() - (behindBlank ? 1 : 0)), separator, behindEquals);
-        if (result.refusal == PasteRefusal::TwoReadings)
+    for (const UnitFound& found : UnitsAtEnd(text)) {
+        if (result.number || result.refusal == PasteRefusal::TwoReadings || found.at == 0)
             break;
+        const Text number = text.substr(0, found.at);
+        const bool behindBlank = IsBlank(number.back());
+        if (!behindBlank && !found.alsoDirectly)
+            continue;
+        result = ReadNumber(number.substr(0, number.size() - (behindBlank ? 1 : 0)), separator, behindEquals);
+        result.unit = found.unit;
     }
     return result;
 }
 
 // Names
-
-bool IsUnit(Text text) {
-    return std::any_of(std::begin(units), std::end(units),
-                       [text](const auto& unit) { return unit.text == text; });
-}
 
 bool IsLetter(wchar_t c) {
     return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z') ||
@@ -353,44 +405,67 @@ bool IsPlainWord(Text word, bool first) {
     const bool isFactor = !first && (letters == L"x" || (letters == L"e" && !number.empty()));
     return number.size() <= 2 && !isFactor &&
            std::find(std::begin(tellingWords), std::end(tellingWords), letters) == std::end(tellingWords) &&
-           std::none_of(std::begin(functions), std::end(functions),
-                        [&](Text function) { return letters.starts_with(function); });
+           std::none_of(std::begin(tellingBeginnings), std::end(tellingBeginnings),
+                        [&](Text beginning) { return letters.starts_with(beginning); });
 }
 
-/// What may stand in the brackets of a name: an index, a unit, or a temperature.
-bool IsPlainInBrackets(Text text) {
-    if (IsUnit(text) || (AreDigits(text) && !text.empty() && text.size() <= 2))
-        return true;
-    const auto number = text.find_last_of(L"0123456789");
-    if (number == Text::npos || text.find_first_not_of(L"0123456789.,") <= number)
-        return false;
-    const Text unit = Trimmed(text.substr(number + 1), L" ");
-    return unit == L"\u00B0C" || unit == L"K";
-}
-
-/// Whether a name says nothing of a factor, a scaling unit, a sign or a function.
-bool IsPlainName(Text name) {
-    name = Trimmed(name, edges);
-    if (name.empty())
-        return true;
-    if (const auto slash = name.find(L'/');
-        slash != Text::npos && IsUnit(Trimmed(name.substr(slash + 1), edges)))
-        name = Trimmed(name.substr(0, slash), edges);
-    for (const auto& [open, close] : {std::pair(L'(', L')'), std::pair(L'[', L']')}) {
-        const auto at = name.find(open);
-        if (at == Text::npos || at == 0 || name.back() != close)
-            continue;
-        if (!IsPlainInBrackets(name.substr(at + 1, name.size() - at - 2)))
+/// Whether words say nothing of a factor, a scaling unit, a sign or a function.
+bool ArePlainWords(Text words, bool beginName) {
+    for (bool first = beginName; !words.empty(); first = false) {
+        const auto end = std::min(words.find_first_of(L" \u2003"), words.size());
+        if (!IsPlainWord(words.substr(0, end), first))
             return false;
-        name = Trimmed(name.substr(0, at), edges);
-    }
-    for (bool first = true; !name.empty(); first = false) {
-        const auto end = std::min(name.find_first_of(L" \u2003"), name.size());
-        if (!IsPlainWord(name.substr(0, end), first))
-            return false;
-        name.remove_prefix(std::min(end + 1, name.size()));
+        words.remove_prefix(std::min(end + 1, words.size()));
     }
     return true;
+}
+
+/// What may stand in the brackets of a name, beside a unit: an index, a temperature, or a word that names a
+/// state: "R(TPW)", "R(H2O)", "W(Ga)". A letter that scales a unit is none.
+bool IsPlainInBrackets(Text text) {
+    if (AreDigits(text) && !text.empty() && text.size() <= 2)
+        return true;
+    const auto number = text.find_last_of(L"0123456789");
+    if (number != Text::npos && text.find_first_not_of(L"0123456789.,") > number) {
+        const PastedUnit unit = WholeUnit(Trimmed(text.substr(number + 1), L" "));
+        return unit == PastedUnit::Celsius || unit == PastedUnit::Kelvin;
+    }
+    std::wstring small(text);
+    for (wchar_t& c : small)
+        c = c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c;
+    const bool isPrefix = std::find(std::begin(prefixesInBrackets), std::end(prefixesInBrackets), small) !=
+                          std::end(prefixesInBrackets);
+    return !text.empty() && !isPrefix &&
+           (text == L"H2O" || text == L"H\u2082O" || ArePlainWords(text, false));
+}
+
+/// What stands in front of a number, as far as it says nothing of a factor, a scaling unit, a sign or a
+/// function. The unit is the one that it names: "R0/ohm", "R0 [ohm]".
+struct Name {
+    std::wstring text;
+    PastedUnit unit = PastedUnit::None;
+};
+
+std::optional<Name> ReadName(Text name) {
+    name = Trimmed(name, edges);
+    Name result{std::wstring(name)};
+    if (const auto slash = name.find(L'/'); slash != Text::npos) {
+        result.unit = WholeUnit(Trimmed(name.substr(slash + 1), edges));
+        if (result.unit != PastedUnit::None)
+            name = Trimmed(name.substr(0, slash), edges);
+    }
+    while (name.ends_with(L')') || name.ends_with(L']')) {
+        const auto open = name.rfind(name.back() == L')' ? L'(' : L'[');
+        if (open == Text::npos || open == 0)
+            return std::nullopt;
+        const Text inside = name.substr(open + 1, name.size() - open - 2);
+        if (const PastedUnit unit = WholeUnit(inside); unit != PastedUnit::None)
+            result.unit = unit;
+        else if (!IsPlainInBrackets(inside))
+            return std::nullopt;
+        name = Trimmed(name.substr(0, open), edges);
+    }
+    return ArePlainWords(name, true) ? std::optional(result) : std::nullopt;
 }
 
 } // namespace
@@ -399,13 +474,26 @@ PastedNumber NumberFromPaste(std::wstring_view text, std::wstring_view separator
     const std::wstring normalized = Normalized(text);
     Text quantity = Trimmed(normalized, edges);
     bool behindEquals = false;
+    std::optional<Name> name = Name{};
     if (const auto end = quantity.find_last_of(L"=:"); end != Text::npos) {
-        if (!IsPlainName(quantity.substr(0, end)))
+        name = ReadName(quantity.substr(0, end));
+        if (!name)
             return Refused(PasteRefusal::NoNumber);
         behindEquals = quantity[end] == L'=';
         quantity = Trimmed(quantity.substr(end + 1), L" \u2003");
     }
-    return ReadQuantity(quantity, separator.front(), behindEquals);
+    PastedNumber result = ReadQuantity(quantity, separator.front(), behindEquals);
+    if (!result.number)
+        return Refused(result.refusal);
+    result.name = std::move(name->text);
+    if (result.unit == PastedUnit::None)
+        result.unit = name->unit;
+    return result;
+}
+
+PastedUnit UnitFromPaste(std::wstring_view text) {
+    const std::wstring normalized = Normalized(text);
+    return WholeUnit(Trimmed(normalized, edges));
 }
 
 } // namespace QuorConversions

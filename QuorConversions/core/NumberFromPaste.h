@@ -15,6 +15,21 @@ enum class PasteRefusal {
     TwoReadings ///< it can be read as two different numbers: "100,012", "- 5", "3 x 104"
 };
 
+/// A unit behind a number, or in its name. Those of one quantity are one, but for the two that have another
+/// zero: degrees Celsius and kelvins. Powers of a degree are the same in both.
+enum class PastedUnit {
+    None, ///< none is written
+    Ohm,
+    Celsius,
+    Kelvin,
+    Millivolt,
+    MillivoltPerDegree,
+    PerDegree,
+    PerDegree2,
+    PerDegree3,
+    PerDegree4,
+};
+
 /// What a text from the clipboard means.
 struct PastedNumber {
     /// The number with the user's decimal separator and an exponent behind "E", which ParseWholeNumber reads
@@ -22,9 +37,13 @@ struct PastedNumber {
     /// added, lost or rounded, and the size is not judged ("1E400").
     std::optional<std::wstring> number;
     PasteRefusal refusal = PasteRefusal::None;
-    /// Whether the sign that was read as the decimal separator stands where it could have grouped thousands:
-    /// "10.000". The user is to be told what was read.
-    bool couldGroup = false;
+    /// Whether the user is to be told what was read: the sign that was read as the decimal separator stands
+    /// where it could have grouped thousands ("10.000"), or blanks divide digits, as they divide columns
+    /// ("100 200").
+    bool isToBeTold = false;
+    /// What stands in front of it, as it is written, without "=" or ":"; empty for nothing.
+    std::wstring name;
+    PastedUnit unit = PastedUnit::None;
 };
 
 /// The number that a person means who copies `text` from a certificate, a PDF or a web page; `separator` is
@@ -41,17 +60,22 @@ struct PastedNumber {
 ///                  comma that is the user's, or that cannot group: with other than three digits behind it,
 ///                  with 0, none or more than three digits before it, or with one digit before it and an
 ///                  exponent behind the number
-///     exponents    E-3 e-3 D-3; 10^-3 10**-3 and 10 with superscript digits, also without a sign; 10-3 and
-///                  10 -3, only with a sign; the 10 behind one of: U+00D7 U+00B7 U+22C5 U+2219 x *
+///     exponents    E-3 e-3 D-3; 10^-3 10**-3 10^(-3) 10^{-3} and 10 with superscript digits, also without a
+///                  sign; 10-3 and 10 -3, only with a sign; the 10 behind one of: U+00D7 U+00B7 U+22C5 U+2219
+///                  x *
 ///     units        those that do not scale, behind a blank or directly; K, K-1 and those that begin with
-///                  "1/" only behind a blank: "5K" may be five thousand
+///                  "1/" only behind a blank: "5K" may be five thousand. Degrees and kelvins in the powers -1
+///                  to -4, in the writings of exponents
 ///     names        in front, up to "=" or ":", that say nothing of a factor, a scaling unit, a sign or a
-///                  function: "R0 =", "A[7]:"
+///                  function: "R0 =", "A[7]:", "R(TPW) =". Whose name it is, is the caller's to judge
 ///     digits       0 to 9 and the full-width ones
 ///
 /// Everything else refuses: uncertainties, brackets, fractions, trailing signs, other digits, control
 /// characters, soft hyphens.
 [[nodiscard]] QUORCONVERSIONS_EXPORT PastedNumber NumberFromPaste(std::wstring_view text,
                                                                   std::wstring_view separator);
+
+/// The unit that a text is, "mV" or "K^-1"; None for any other text.
+[[nodiscard]] QUORCONVERSIONS_EXPORT PastedUnit UnitFromPaste(std::wstring_view text);
 
 } // namespace QuorConversions

@@ -87,4 +87,14 @@ std::wstring AdviceOnNoRoom(std::size_t cells) {
 
 std::wstring AdviceOnPasted(const std::wstring& number) { return Filled(IDS_PASTED_AS, number); }
 
+std::wstring AdviceOnPastedFrom(std::wstring_view text) {
+    const auto first = text.find_first_not_of(L" \u00A0\uFEFF");
+    const auto last = text.find_last_not_of(L" \u00A0\uFEFF");
+    return Filled(IDS_PASTED_FROM, text.substr(first, last - first + 1));
+}
+
+std::wstring JoinAdvice(const std::wstring& first, const std::wstring& second) {
+    return first.empty() || second.empty() ? first + second : first + L". " + second;
+}
+
 } // namespace QuorConversions

@@ -23,7 +23,11 @@ namespace QuorConversions {
 [[nodiscard]] std::wstring AdviceOnRefusedPaste(std::wstring_view text, PasteRefusal refusal);
 /// Of cells that were not pasted.
 [[nodiscard]] std::wstring AdviceOnNoRoom(std::size_t cells);
-/// Of a number whose decimal separator could have grouped.
+/// Of a number that was read from a text with another reading.
 [[nodiscard]] std::wstring AdviceOnPasted(const std::wstring& number);
+/// Of a number that the text says to be of something else than the box: "B = -5.775E-7", "25.5 mV".
+[[nodiscard]] std::wstring AdviceOnPastedFrom(std::wstring_view text);
+/// Both; either may be empty.
+[[nodiscard]] std::wstring JoinAdvice(const std::wstring& first, const std::wstring& second);
 
 } // namespace QuorConversions

@@ -49,6 +49,12 @@ protected:
         for (const EStringId name : names)
             m_rows[first++]->label.SetCaption(TableText(name) + L":");
     }
+    /// The units of the first rows, as far as they are known.
+    void SetUnits(std::initializer_list<PastedUnit> units) {
+        std::size_t row = 0;
+        for (const PastedUnit unit : units)
+            m_rows[row++]->unit = unit;
+    }
     /// Labels all rows: prefix, index and ":".
     void NumberRows(const std::wstring& prefix) {
         for (std::size_t row = 0; row < m_rows.size(); ++row)

@@ -1,11 +1,13 @@
 #include "QuorConversions/dialogs/SettingsDialog.h"
 
+#include "QuorConversions/controls/ControlNames.h"
 #include "QuorConversions/core/NumberText.h"
 #include "QuorConversions/core/ValueFormatter.h"
 #include "QuorConversions/core/detail/modEditing.h"
 #include "QuorConversions/core/modHelp.h"
 #include "QuorConversions/core/modMessages.h"
 #include "QuorConversions/dialogs/Advice.h"
+#include "QuorConversions/dialogs/PastedNames.h"
 
 #include <algorithm>
 #include <charconv>
@@ -84,11 +86,13 @@ void SettingsDialog::LoadControls() {
 
 SettingsDialog::Field& SettingsDialog::AddField(std::wstring labelName, std::wstring boxName,
                                                 std::function<double()> get, std::function<void(double)> set,
-                                                std::function<std::wstring()> format) {
+                                                std::function<std::wstring()> format, PastedUnit unit) {
     auto& label = Add<Label>(std::move(labelName));
     auto& box = Add<TextBox>(std::move(boxName));
     m_frame.AddRow({&label, &box});
-    return AddField(label, box, std::move(get), std::move(set), std::move(format));
+    Field& field = AddField(label, box, std::move(get), std::move(set), std::move(format));
+    field.unit = unit;
+    return field;
 }
 
 SettingsDialog::Field& SettingsDialog::AddField(Label& label, TextBox& box, std::function<double()> get,
@@ -97,7 +101,8 @@ SettingsDialog::Field& SettingsDialog::AddField(Label& label, TextBox& box, std:
     return m_fields.emplace_back(Field{label, box, std::move(get), std::move(set), std::move(format)});
 }
 
-void SettingsDialog::ShowValue(const Field& field) const {
+void SettingsDialog::ShowValue(const Field& field) {
+    m_pasteNotes.erase(&field.box);
     field.box.SetText(FormatValue(field.get(), field.format(), UserSeparators(*m_platform)));
     Advise(field);
 }
@@ -134,9 +139,10 @@ bool SettingsDialog::StoreChoice(const Choice& choice) {
     return true;
 }
 
-void SettingsDialog::SetVisible(const Field& field, bool visible) {
+void SettingsDialog::SetVisible(const Field& field, bool visible) const {
     field.label.SetVisible(visible);
     field.box.SetVisible(visible);
+    AdviseIfItCan(field);
 }
 
 void SettingsDialog::AllowEditing(std::initializer_list<Control*> controls) const {
@@ -262,18 +268,26 @@ const SettingsDialog::Field* SettingsDialog::FieldOf(const Control& control) con
 }
 
 void SettingsDialog::Advise(const Field& field) const {
-    if (!m_settings.AllowEdit())
-        return; // nothing will be stored
+    if (!m_settings.AllowEdit() || !IsGathered(field))
+        return field.box.SetAdvice({}); // nothing will be stored
     const NumberSeparators separators = UserSeparators(*m_platform);
     const std::wstring format = field.format();
     const std::wstring& text = field.box.Text();
+    std::wstring advice;
     if (text != FormatValue(field.get(), format, separators))
-        field.box.SetAdvice(
-            AdviceOnText(text, &field.box == ActiveControl() ? format : std::wstring{}, separators));
-    else if (IsGeneralFormat(format))
-        field.box.SetAdvice({}); // it stays as it is, NaN too
-    else
-        field.box.SetAdvice(AdviceOnShownValue(field.get(), text, separators));
+        advice = AdviceOnText(text, &field.box == ActiveControl() ? format : std::wstring{}, separators);
+    else if (!IsGeneralFormat(format)) // without a format it stays as it is, NaN too
+        advice = AdviceOnShownValue(field.get(), text, separators);
+    const auto note = m_pasteNotes.find(&field.box);
+    field.box.SetAdvice(note == m_pasteNotes.end() ? advice : JoinAdvice(advice, note->second));
+}
+
+void SettingsDialog::AdviseIfItCan(const Field& field) const {
+    try {
+        Advise(field);
+    } catch (...) { // an object that refuses the row by now has nothing to tell of it
+        field.box.SetAdvice({});
+    }
 }
 
 void SettingsDialog::OnEdit(TextBox& box) {
@@ -286,11 +300,8 @@ void SettingsDialog::OnEdit(TextBox& box) {
     if (mayMiss)
         return; // what was told of it still holds
     m_separatorMissing = nullptr;
-    try {
-        Advise(*field);
-    } catch (...) { // an object that refuses the row by now has nothing to tell of it
-        box.SetAdvice({});
-    }
+    m_pasteNotes.erase(&box);
+    AdviseIfItCan(*field);
 }
 
 void SettingsDialog::OnPaste(TextBox& box, const std::wstring& text) {
@@ -299,7 +310,9 @@ void SettingsDialog::OnPaste(TextBox& box, const std::wstring& text) {
         Dialog::OnPaste(box, text);
     else if (cells.size() == 1 && cells.front().size() == 1)
         PasteNumber(box, cells.front().front());
-    else if (!cells.empty())
+    else if (cells.empty())
+        box.SetAdvice(AdviceOnRefusedPaste({}, PasteRefusal::NoNumber));
+    else
         PasteCells(box, cells);
 }
 
@@ -319,21 +332,48 @@ void SettingsDialog::PasteNumber(TextBox& box, std::wstring_view text) {
         return box.SetAdvice(AdviceOnRefusedPaste(joined, PasteRefusal::NoNumber));
     if (box.SelLength() == 0 && !isBehindSign)
         box.SetSelection(0, box.Text().size());
-    PutPasted(box, pasted);
+    PutPasted(box, pasted, text);
 }
 
-void SettingsDialog::PutPasted(TextBox& box, const PastedNumber& pasted) {
+void SettingsDialog::PutPasted(TextBox& box, const PastedNumber& pasted, std::wstring_view text) {
     box.ReplaceSelection(*pasted.number);
     m_separatorMissing = nullptr;
-    OnEdit(box);
-    if (pasted.couldGroup && box.Advice().empty())
-        box.SetAdvice(AdviceOnPasted(*pasted.number));
+    m_pasteNotes.erase(&box);
+    if (IsOfAnother(box, pasted))
+        m_pasteNotes[&box] = AdviceOnPastedFrom(text);
+    else if (pasted.isToBeTold)
+        m_pasteNotes[&box] = AdviceOnPasted(*pasted.number);
+    AdviseIfItCan(*FieldOf(box));
+}
+
+bool SettingsDialog::IsOfAnother(const TextBox& box, const PastedNumber& pasted) const {
+    const std::vector<ControlName> names = ControlNames(*this);
+    const auto own =
+        std::find_if(names.begin(), names.end(), [&](const ControlName& n) { return n.control == &box; });
+    if (own == names.end())
+        return false;
+    // A unit on the screen that is none of those that are read, as "mK", is another one, too.
+    const PastedUnit unit = own->units.empty() ? FieldOf(box)->unit : UnitFromPaste(own->units);
+    const bool unitIsKnown = !own->units.empty() || unit != PastedUnit::None;
+    if (pasted.unit != PastedUnit::None && unitIsKnown && pasted.unit != unit)
+        return true;
+    if (pasted.name.empty() || IsNameOf(own->name, pasted.name))
+        return false;
+    // "a" is "A[7]" where there is no other A.
+    const std::wstring letter = own->name.substr(0, own->name.find(L'['));
+    const auto isOneOfThem = [&](const ControlName& n) {
+        return n.control->Parent() == box.Parent() && n.control->IsShown() &&
+               n.name.starts_with(letter + L"[");
+    };
+    return !IsNameOf(letter, pasted.name) || std::count_if(names.begin(), names.end(), isOneOfThem) != 1;
 }
 
 void SettingsDialog::PasteCells(TextBox& box, const PastedCells& cells) {
     std::vector<PastedNumber> numbers;
+    std::vector<std::wstring_view> texts;
     for (const auto& line : cells)
         for (const std::wstring_view cell : line) {
+            texts.push_back(cell);
             numbers.push_back(NumberFromPaste(cell, GetDecimalSeparator(*m_platform)));
             if (!numbers.back().number)
                 return box.SetAdvice(AdviceOnRefusedPaste(cell, numbers.back().refusal));
@@ -344,7 +384,7 @@ void SettingsDialog::PasteCells(TextBox& box, const PastedCells& cells) {
     for (std::size_t i = 0; i < boxes->size(); ++i) {
         TextBox& target = *(*boxes)[i];
         target.SetSelection(0, target.Text().size());
-        PutPasted(target, numbers[i]);
+        PutPasted(target, numbers[i], texts[i]);
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include <deque>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -31,6 +32,7 @@ protected:
         std::function<double()> get;
         std::function<void(double)> set;
         std::function<std::wstring()> format;
+        PastedUnit unit = PastedUnit::None; ///< None where it has none, or is not known
     };
     /// A choice of the object, and the list that offers it.
     struct Choice {
@@ -60,13 +62,15 @@ protected:
     /// An item of a list was selected, or a tab.
     virtual void OnChoice(Control& /*control*/) {}
 
-    /// Adds a label and a box in a row of their own.
+    /// Adds a label and a box in a row of their own. `unit` is that of the value, where it has one that is
+    /// known.
     Field& AddField(std::wstring labelName, std::wstring boxName, std::function<double()> get,
-                    std::function<void(double)> set, std::function<std::wstring()> format);
+                    std::function<void(double)> set, std::function<std::wstring()> format,
+                    PastedUnit unit = PastedUnit::None);
     Field& AddField(Label& label, TextBox& box, std::function<double()> get, std::function<void(double)> set,
                     std::function<std::wstring()> format);
     /// The value in the format of its field.
-    void ShowValue(const Field& field) const;
+    void ShowValue(const Field& field);
     /// The leading number of the text, or 0, stored in the object.
     void StoreValue(const Field& field) const;
     /// Adds a label and a list in a row of their own.
@@ -78,7 +82,9 @@ protected:
     /// Stores what is selected. False when nothing is.
     [[nodiscard]] static bool StoreChoice(const Choice& choice);
     /// Shows or hides the controls of a field.
-    static void SetVisible(const Field& field, bool visible);
+    void SetVisible(const Field& field, bool visible) const;
+    /// Whether OK stores what the box of the field shows.
+    [[nodiscard]] virtual bool IsGathered(const Field& field) const { return field.box.Visible(); }
     /// Enables controls when the object may be edited.
     void AllowEditing(std::initializer_list<Control*> controls) const;
 
@@ -110,10 +116,14 @@ private:
     [[nodiscard]] const Field* FieldOf(const Control& control) const;
     /// Tells what would be stored of the text of a box.
     void Advise(const Field& field) const;
+    /// The same, quietly where the object refuses the row by now.
+    void AdviseIfItCan(const Field& field) const;
     void PasteNumber(TextBox& box, std::wstring_view text);
     void PasteCells(TextBox& box, const PastedCells& cells);
     /// Puts a number into the place of the selection.
-    void PutPasted(TextBox& box, const PastedNumber& pasted);
+    void PutPasted(TextBox& box, const PastedNumber& pasted, std::wstring_view text);
+    /// Whether the text itself says that the number is meant for another box.
+    [[nodiscard]] bool IsOfAnother(const TextBox& box, const PastedNumber& pasted) const;
     void RestorePlacement();
     void StorePlacement() const;
     void ReportError(EStringId context) const;
@@ -126,6 +136,8 @@ private:
     std::vector<PushButton*> m_openSaveAs;
     std::vector<PushButton*> m_okCancelHelp;
     std::deque<Field> m_fields;
+    /// What is told of a number that was pasted, until it is changed.
+    std::map<const TextBox*, std::wstring> m_pasteNotes;
     /// The box in which a decimal separator of another country was swallowed, and the text in front of it: as
     /// long as the text begins so, the separator may be missing.
     const TextBox* m_separatorMissing = nullptr;

@@ -5,6 +5,7 @@ namespace QuorConversions {
 frmCVDSettings::frmCVDSettings(CQuorCVD& settings, std::shared_ptr<Platform> platform)
     : CoefficientDialog(settings, std::move(platform), L"frmCVDSettings", 10100) {
     AddRows(CVD_BETA + 1);
+    SetUnits({PastedUnit::Ohm, PastedUnit::PerDegree});
 }
 
 void frmCVDSettings::SetCaptions() {
@@ -13,8 +14,10 @@ void frmCVDSettings::SetCaptions() {
 }
 
 void frmCVDSettings::PrepareControls() {
-    if (Object().UsePolynomial())
-        LabelRows({IDS_A, IDS_B, IDS_C}, CVD_ALPHA);
+    if (!Object().UsePolynomial())
+        return;
+    LabelRows({IDS_A, IDS_B, IDS_C}, CVD_ALPHA);
+    SetUnits({PastedUnit::Ohm, PastedUnit::PerDegree, PastedUnit::PerDegree2, PastedUnit::PerDegree4});
 }
 
 bool frmCVDSettings::ValidateSettings() {

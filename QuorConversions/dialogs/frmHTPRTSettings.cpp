@@ -5,6 +5,7 @@ namespace QuorConversions {
 frmHTPRTSettings::frmHTPRTSettings(CQuorHTPRT& settings, std::shared_ptr<Platform> platform)
     : CoefficientDialog(settings, std::move(platform), L"frmHTPRTSettings", 10113) {
     AddRows(HTPRT_B + 1);
+    SetUnits({PastedUnit::Ohm});
 }
 
 void frmHTPRTSettings::SetCaptions() {

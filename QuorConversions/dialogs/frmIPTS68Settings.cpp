@@ -9,6 +9,7 @@ frmIPTS68Settings::frmIPTS68Settings(CQuorIPTS68& settings, std::shared_ptr<Plat
         [this] { return Object().IPTS68Scale(); },
         [this](std::int32_t scale) { Object().SetIPTS68Scale(EIPTS68Scale{scale}); });
     AddRows(IPTS68_C4 + 1);
+    SetUnits({PastedUnit::Ohm, PastedUnit::PerDegree});
 }
 
 void frmIPTS68Settings::SetCaptions() {

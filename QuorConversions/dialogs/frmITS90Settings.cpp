@@ -18,7 +18,8 @@ frmITS90Settings::frmITS90Settings(CQuorITS90& settings, std::shared_ptr<Platfor
       m_object(settings),
       m_rtpw(AddField(
           L"lblRTPW", L"txtRTPW", [this] { return m_object.RTPW(); },
-          [this](double value) { m_object.SetRTPW(value); }, [this] { return m_object.RTPWFormat(); })),
+          [this](double value) { m_object.SetRTPW(value); }, [this] { return m_object.RTPWFormat(); },
+          PastedUnit::Ohm)),
       m_tabs(Add<TabStrip>(L"tabRange")),
       m_low(MakePage(*settings.LowRange(), lowTab, L"Low", ITS90_LOW_C5 + 1)),
       m_high(MakePage(*settings.HighRange(), highTab, L"High", ITS90_HIGH_D + 1)),
@@ -85,6 +86,13 @@ void frmITS90Settings::ShowPageOf(Control& control) {
     for (const auto tab : {lowTab, highTab})
         if (control.Parent() == (tab == lowTab ? &m_low.frame : &m_high.frame))
             m_tabs.Select(tab);
+}
+
+bool frmITS90Settings::IsGathered(const Field& field) const {
+    for (const Page* const page : {&m_low, &m_high})
+        if (field.box.Parent() == &page->frame && !page->range.RangeEnabled())
+            return false;
+    return SettingsDialog::IsGathered(field);
 }
 
 void frmITS90Settings::LoadControls() {

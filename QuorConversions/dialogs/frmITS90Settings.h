@@ -28,6 +28,7 @@ private:
     bool ValidateSettings() override;
     void OnChoice(Control& control) override;
     void ShowPageOf(Control& control) override;
+    [[nodiscard]] bool IsGathered(const Field& field) const override;
 
     [[nodiscard]] Page MakePage(CQuorITS90Range& range, std::size_t number, const std::wstring& side,
                                 std::size_t rows);

@@ -7,7 +7,8 @@ frmTCPolynomialSettings::frmTCPolynomialSettings(CQuorTCPolynomial& settings,
     : CoefficientDialog(settings, std::move(platform), L"frmTCPolynomialSettings", 10115) {
     m_mV25C = &AddField(
         L"lblmv25C", L"txtmv25C", [this] { return Object().mV25C(); },
-        [this](double value) { Object().SetmV25C(value); }, [this] { return Object().mV25CFormat(); });
+        [this](double value) { Object().SetmV25C(value); }, [this] { return Object().mV25CFormat(); },
+        PastedUnit::Millivolt);
     AddRows(TC_POLY_C15 + 1);
 }
 

@@ -36,9 +36,11 @@ void frmTCTableSettings::UpdatePointRows() {
     const std::int32_t count = m_numPoints.list.SelectedData(0);
     for (std::size_t i = 0; i < Rows().size(); ++i) {
         const PointRow& row = Rows()[i];
-        for (Control* const control : std::initializer_list<Control*>{
-                 &row.point, &row.temperature.box, &row.tempUnits, &row.second.box, &row.secondUnits})
-            control->SetVisible(static_cast<std::int32_t>(i) < count);
+        const bool isPoint = static_cast<std::int32_t>(i) < count;
+        SetVisible(row.temperature, isPoint);
+        SetVisible(row.second, isPoint);
+        row.tempUnits.SetVisible(isPoint);
+        row.secondUnits.SetVisible(isPoint);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "QuorConversions/dialogs/frmTCTypeXSettings.h"
 
+#include <algorithm>
+
 namespace QuorConversions {
 
 frmTCTypeXSettings::frmTCTypeXSettings(CQuorTCTypeX& settings, std::shared_ptr<Platform> platform)
@@ -56,6 +58,10 @@ bool frmTCTypeXSettings::GatherSettings() {
 
 bool frmTCTypeXSettings::ValidateSettings() {
     return m_type.list.HasSelection() || Refuse(IDS_SELECT_TC_TYPE, &m_type.list);
+}
+
+bool frmTCTypeXSettings::IsGathered(const Field& field) const {
+    return std::find(m_dc.begin(), m_dc.end(), &field) != m_dc.end() || PointDialog::IsGathered(field);
 }
 
 void frmTCTypeXSettings::OnChoice(Control& /*control*/) { UpdateDCRows(); }

@@ -19,6 +19,7 @@ private:
     bool GatherSettings() override;
     bool ValidateSettings() override;
     void OnChoice(Control& control) override;
+    [[nodiscard]] bool IsGathered(const Field& field) const override;
     /// Shows the DC coefficients where the selected type uses them and the object shows them.
     void UpdateDCRows();
 

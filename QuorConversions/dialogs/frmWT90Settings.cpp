@@ -7,7 +7,8 @@ frmWT90Settings::frmWT90Settings(CQuorWT90& settings, std::shared_ptr<Platform> 
       m_object(settings),
       m_rtpw(AddField(
           L"lblRTPW", L"txtRTPW", [this] { return m_object.RTPW(); },
-          [this](double value) { m_object.SetRTPW(value); }, [this] { return m_object.RTPWFormat(); })) {}
+          [this](double value) { m_object.SetRTPW(value); }, [this] { return m_object.RTPWFormat(); },
+          PastedUnit::Ohm)) {}
 
 void frmWT90Settings::SetCaptions() {
     m_rtpw.label.SetCaption(TableText(IDS_RTPW) + L":");

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "QuorIniFile/Utf8.h"
+
 #include <algorithm>
 #include <functional>
 #include <string>
@@ -10,6 +12,7 @@ namespace Support {
 enum PasteOutcome {
     isNumber,   ///< `number` is pasted
     isTold,     ///< `number` is pasted, and the user is told what was read
+    isForeign,  ///< `number` is pasted; that it is no R0 in ohms is told where it is pasted as one
     isNoNumber, ///< nothing is pasted
     isTwofold,  ///< nothing is pasted: there are two readings
 };
@@ -61,10 +64,10 @@ inline const PasteRow pasteRows[] = {
     {L"- 2.5", both, isTwofold},
     {L"\u2013 2.5", both, isTwofold},
     {L"-\u00A02.5", both, isTwofold},
-    {L"A4 = - 2.5", both, isNumber, L"-2.5"},
-    {L"A4 = \u2013 2.5", both, isNumber, L"-2.5"},
+    {L"A4 = - 2.5", both, isForeign, L"-2.5"},
+    {L"A4 = \u2013 2.5", both, isForeign, L"-2.5"},
     {L"A4: - 2.5", both, isTwofold},
-    {L"A4: -2.5", both, isNumber, L"-2.5"},
+    {L"A4: -2.5", both, isForeign, L"-2.5"},
     {L"--2.5", both, isNoNumber},
     {L"+-2.5", both, isNoNumber},
     {L"2.5-", both, isNoNumber},
@@ -87,20 +90,24 @@ inline const PasteRow pasteRows[] = {
     {L"\t2.5\r\n", both, isNumber, L"2.5"},
     {L"\u2028\u00852.5\u2029", both, isNumber, L"2.5"},
     {L"\uFEFF2.5\u200B", both, isNumber, L"2.5"},
-    {L"1 234.5", both, isNumber, L"1234.5"},
-    {L"1\u00A0234.5", both, isNumber, L"1234.5"},
-    {L"1\u2009234\u202F567", both, isNumber, L"1234567"},
+    {L"1 234.5", both, isTold, L"1234.5"},
+    {L"1\u00A0234.5", both, isTold, L"1234.5"},
+    {L"1\u2009234\u202F567", both, isTold, L"1234567"},
     {L"1\u16802\u2003", both, isNoNumber},
-    {L"1\u2007234.5", both, isNumber, L"1234.5"},
-    {L"1\u205F234.5", both, isNumber, L"1234.5"},
-    {L"1\u3000234.5", both, isNumber, L"1234.5"},
-    {L"1\u200B234.5", both, isNumber, L"1234.5"},
-    {L"1\uFEFF234.5", both, isNumber, L"1234.5"},
-    {L"1 \u200B234.5", both, isNumber, L"1234.5"},
-    {L"0.003 908 3", both, isNumber, L"0.0039083"},
-    {L"0.003 908 31", both, isNumber, L"0.00390831"},
-    {L"1 234.567 89", both, isNumber, L"1234.56789"},
-    {L"1234.567 89", both, isNumber, L"1234.56789"},
+    {L"1\u2007234.5", both, isTold, L"1234.5"},
+    {L"1\u205F234.5", both, isTold, L"1234.5"},
+    {L"1\u3000234.5", both, isTold, L"1234.5"},
+    {L"1\u200B234.5", both, isTold, L"1234.5"},
+    {L"1\uFEFF234.5", both, isTold, L"1234.5"},
+    {L"1 \u200B234.5", both, isTold, L"1234.5"},
+    {L"0.003 908 3", both, isTold, L"0.0039083"},
+    {L"0.003 908 31", both, isTold, L"0.00390831"},
+    {L"1 234.567 89", both, isTold, L"1234.56789"},
+    {L"1234.567 89", both, isTold, L"1234.56789"},
+    {L"100 200", both, isTold, L"100200"},
+    {L"R0 = 100 200", both, isTold, L"100200"},
+    {L"1 100.012", both, isTold, L"1100.012"}, // or the number of a row, and a value
+    {L"100.012 1", both, isTold, L"100.0121"}, // or a value, and a footnote
     {L"1  234.5", both, isTwofold},
     {L"1\t234.5", both, isNoNumber},
     {L"1\n234.5", both, isNoNumber},
@@ -152,8 +159,8 @@ inline const PasteRow pasteRows[] = {
     {L"0,00385", L".", isNumber, L"0.00385"},
     {L"25,48317", L".", isNumber, L"25.48317"},
     {L"1234,567", L".", isNumber, L"1234.567"},
-    {L"1 234,567", L".", isNumber, L"1234.567"},
-    {L"1,234 567", L".", isNumber, L"1.234567"},
+    {L"1 234,567", L".", isTold, L"1234.567"},
+    {L"1,234 567", L".", isTold, L"1.234567"},
     {L"-5,775E-7", L".", isNumber, L"-5.775E-7"},
     {L"-5,775 \u00D7 10\u207B\u2077", L".", isNumber, L"-5.775E-7"},
     {L"-57,755E-7", L".", isTwofold},
@@ -202,7 +209,22 @@ inline const PasteRow pasteRows[] = {
     {L"3.9083 10-3", both, isNoNumber},
     {L"10^-3", both, isNoNumber},
     {L"10\u207B\u00B3", both, isNoNumber},
-    {L"3.9083 \u00D7 10^(-3)", both, isNoNumber},
+    {L"3.9083 \u00D7 10^(-3)", both, isNumber, L"3.9083E-3"},
+    {L"3.9083\u00D710^(\u22123)", both, isNumber, L"3.9083E-3"},
+    {L"3.9083 x 10^{-3}", both, isNumber, L"3.9083E-3"},
+    {L"3.9083 \u00B7 10^{\u22123}", both, isNumber, L"3.9083E-3"},
+    {L"3.9083*10**(-3)", both, isNumber, L"3.9083E-3"},
+    {L"3.9083 x 10^(3)", both, isNumber, L"3.9083E3"},
+    {L"3.9083 x 10^(+12)", both, isNumber, L"3.9083E+12"},
+    {L"3.9083 x 10 ^-3", both, isNumber, L"3.9083E-3"},
+    {L"3.9083 x 10^(-3", both, isNoNumber},
+    {L"3.9083 x 10^(-3}", both, isNoNumber},
+    {L"3.9083 x 10^-3)", both, isNoNumber},
+    {L"3.9083 x 10(-3)", both, isNoNumber},
+    {L"3.9083 x 10^()", both, isNoNumber},
+    {L"3.9083 x 10^(- 3)", both, isNoNumber},
+    {L"3.9083 x 10^-3.5", both, isNoNumber},
+    {L"3.9083 x 10 \u00B2", both, isNoNumber}, // or ten, and a footnote
     {L"\uFF13.\uFF19\uFF10", both, isNumber, L"3.90"},
     {L"3.9 \u00D7 \uFF11\uFF10\u207B\u00B3", both, isNumber, L"3.9E-3"},
     {L"1E400", both, isNumber, L"1E400"},
@@ -213,29 +235,48 @@ inline const PasteRow pasteRows[] = {
     {L"100.01 \u2126", both, isNumber, L"100.01"},
     {L"100.01 ohm", both, isNumber, L"100.01"},
     {L"100.01ohms", both, isNumber, L"100.01"},
-    {L"-38.8344 \u00B0C", both, isNumber, L"-38.8344"},
-    {L"-38.8344\u2103", both, isNumber, L"-38.8344"},
-    {L"273.16 K", both, isNumber, L"273.16"},
+    {L"-38.8344 \u00B0C", both, isForeign, L"-38.8344"},
+    {L"-38.8344\u2103", both, isForeign, L"-38.8344"},
+    {L"273.16 K", both, isForeign, L"273.16"},
     {L"273.16K", both, isNoNumber},
-    {L"10.5 mV", both, isNumber, L"10.5"},
-    {L"0.0405 mV/\u00B0C", both, isNumber, L"0.0405"},
-    {L"0.0405 mV/K", both, isNumber, L"0.0405"},
-    {L"3.9083E-3 1/\u00B0C", both, isNumber, L"3.9083E-3"},
+    {L"10.5 mV", both, isForeign, L"10.5"},
+    {L"0.0405 mV/\u00B0C", both, isForeign, L"0.0405"},
+    {L"0.0405 mV/K", both, isForeign, L"0.0405"},
+    {L"3.9083E-3 1/\u00B0C", both, isForeign, L"3.9083E-3"},
     {L"3.9083E-31/\u00B0C", both, isNoNumber},
-    {L"3.9083E-3 1/K", both, isNumber, L"3.9083E-3"},
-    {L"3.9083 1/\u00B0C", both, isNumber, L"3.9083"},
-    {L"3.9083E-3 \u00B0C\u207B\u00B9", both, isNumber, L"3.9083E-3"},
-    {L"-5.775E-7 \u00B0C\u207B\u00B2", both, isNumber, L"-5.775E-7"},
-    {L"-5.775E-7\u00B0C\u207B\u00B3", both, isNumber, L"-5.775E-7"},
-    {L"-4.183E-12 \u2103\u207B\u2074", both, isNumber, L"-4.183E-12"},
-    {L"3.9083E-3 \u00B0C-1", both, isNumber, L"3.9083E-3"},
-    {L"3.9083E-3 \u00B0C\u22121", both, isNumber, L"3.9083E-3"},
-    {L"3.9083E-3 K\u207B\u00B9", both, isNumber, L"3.9083E-3"},
-    {L"3.9083E-3K\u207B\u00B9", both, isNumber, L"3.9083E-3"},
-    {L"3.9083E-3 K-1", both, isNumber, L"3.9083E-3"},
+    {L"3.9083E-3 1/K", both, isForeign, L"3.9083E-3"},
+    {L"3.9083 1/\u00B0C", both, isForeign, L"3.9083"},
+    {L"3.9083E-3 \u00B0C\u207B\u00B9", both, isForeign, L"3.9083E-3"},
+    {L"-5.775E-7 \u00B0C\u207B\u00B2", both, isForeign, L"-5.775E-7"},
+    {L"-5.775E-7\u00B0C\u207B\u00B3", both, isForeign, L"-5.775E-7"},
+    {L"-4.183E-12 \u2103\u207B\u2074", both, isForeign, L"-4.183E-12"},
+    {L"3.9083E-3 \u00B0C-1", both, isForeign, L"3.9083E-3"},
+    {L"3.9083E-3 \u00B0C\u22121", both, isForeign, L"3.9083E-3"},
+    {L"3.9083E-3 K\u207B\u00B9", both, isForeign, L"3.9083E-3"},
+    {L"3.9083E-3K\u207B\u00B9", both, isForeign, L"3.9083E-3"},
+    {L"3.9083E-3 K-1", both, isForeign, L"3.9083E-3"},
     {L"3.9083E-3K-1", both, isNoNumber},
-    {L"3.9083 \u00D7 10\u207B\u00B3 \u00B0C\u207B\u00B9", both, isNumber, L"3.9083E-3"},
-    {L"1 234.5 \u03A9", both, isNumber, L"1234.5"},
+    {L"3.9083E-3 K^-1", both, isForeign, L"3.9083E-3"},
+    {L"3.9083E-3K^-1", both, isForeign, L"3.9083E-3"},
+    {L"3.9083E-3 K^\u22121", both, isForeign, L"3.9083E-3"},
+    {L"3.9083E-3 K**-1", both, isForeign, L"3.9083E-3"},
+    {L"3.9083E-3 K^(-1)", both, isForeign, L"3.9083E-3"},
+    {L"3.9083E-3 K^{-1}", both, isForeign, L"3.9083E-3"},
+    {L"-5.775E-7 \u2103^-2", both, isForeign, L"-5.775E-7"},
+    {L"-5.775E-7 K\u22122", both, isForeign, L"-5.775E-7"},
+    {L"-4.183E-12 \u00B0C^-4", both, isForeign, L"-4.183E-12"},
+    {L"-4.183E-12\u00B0C^{\u22124}", both, isForeign, L"-4.183E-12"},
+    {L"3.9083E-3 K^1", both, isNoNumber},
+    {L"3.9083E-3 K\u00B9", both, isNoNumber}, // a footnote
+    {L"3.9083E-3 K^-5", both, isNoNumber},
+    {L"3.9083E-3 K^-11", both, isNoNumber},
+    {L"3.9083E-3 K^- 1", both, isNoNumber},
+    {L"3.9083E-3 K+1", both, isNoNumber},
+    {L"100.01 \u03A9^-1", both, isNoNumber},
+    {L"100.01 \u03A9\u00B9", both, isNoNumber}, // a footnote
+    {L"25.5 mV\u207B\u00B9", both, isNoNumber},
+    {L"3.9083 \u00D7 10\u207B\u00B3 \u00B0C\u207B\u00B9", both, isForeign, L"3.9083E-3"},
+    {L"1 234.5 \u03A9", both, isTold, L"1234.5"},
     {L"5 k\u03A9", both, isNoNumber},
     {L"5k\u03A9", both, isNoNumber},
     {L"5 mK", both, isNoNumber},
@@ -252,17 +293,28 @@ inline const PasteRow pasteRows[] = {
     {L"R0 = 100.01 \u03A9", both, isNumber, L"100.01"},
     {L"R0=100.01", both, isNumber, L"100.01"},
     {L"R\u2080 = 100.01", both, isNumber, L"100.01"},
-    {L"ALPHA: 0.00385", both, isNumber, L"0.00385"},
-    {L"\u03B1 = 0.00385", both, isNumber, L"0.00385"},
-    {L"A[7]: -1.5E-4", both, isNumber, L"-1.5E-4"},
-    {L"a(4) = 1.5", both, isNumber, L"1.5"},
+    {L"ALPHA: 0.00385", both, isForeign, L"0.00385"},
+    {L"\u03B1 = 0.00385", both, isForeign, L"0.00385"},
+    {L"A[7]: -1.5E-4", both, isForeign, L"-1.5E-4"},
+    {L"a(4) = 1.5", both, isForeign, L"1.5"},
+    {L"R(TPW) = 25.5", both, isForeign, L"25.5"},
+    {L"R(H2O): 25.5", both, isForeign, L"25.5"},
+    {L"R(H\u2082O) = 25.5", both, isForeign, L"25.5"},
+    {L"W(Ga) = 1.11813", both, isForeign, L"1.11813"},
+    {L"R(TPW)/\u03A9 = 25.5", both, isForeign, L"25.5"},
+    {L"R(TPW) [\u03A9] = 25.5", both, isForeign, L"25.5"},
+    {L"R(TPW) (ohm) = 25.5", both, isForeign, L"25.5"},
+    {L"R(273.16 K) = 25.5", both, isForeign, L"25.5"},
+    {L"R(0,01 \u00B0C) = 25.5", both, isForeign, L"25.5"},
+    {L"A [K^-1] = 3.9083E-3", both, isForeign, L"3.9083E-3"},
+    {L"A (\u00B0C\u207B\u00B9): 3.9083E-3", both, isForeign, L"3.9083E-3"},
     {L"R(0 \u00B0C) = 100.01", both, isNumber, L"100.01"},
-    {L"R(0.01 \u00B0C) = 25.5", both, isNumber, L"25.5"},
+    {L"R(0.01 \u00B0C) = 25.5", both, isForeign, L"25.5"},
     {L"R0/\u03A9 = 100.01", both, isNumber, L"100.01"},
     {L"R0 [\u03A9]: 100.01", both, isNumber, L"100.01"},
-    {L"Temperature 2: 100.01", both, isNumber, L"100.01"},
-    {L"Coefficient A = 3.9E-3", both, isNumber, L"3.9E-3"},
-    {L"C15 = 3.9E-3", both, isNumber, L"3.9E-3"},
+    {L"Temperature 2: 100.01", both, isForeign, L"100.01"},
+    {L"Coefficient A = 3.9E-3", both, isForeign, L"3.9E-3"},
+    {L"C15 = 3.9E-3", both, isForeign, L"3.9E-3"},
     {L"= 100.01", both, isNumber, L"100.01"},
     {L"R0 =", both, isNoNumber},
     {L"A\u00B710\u00B3 = 3.9083", both, isNoNumber},
@@ -274,6 +326,25 @@ inline const PasteRow pasteRows[] = {
     {L"1000 A = 3.9083", both, isNoNumber},
     {L"R0/k\u03A9 = 0.1", both, isNoNumber},
     {L"R0 (k\u03A9) = 0.1", both, isNoNumber},
+    {L"R0 (k) = 0.1", both, isNoNumber},
+    {L"R0 (M) = 0.1", both, isNoNumber},
+    {L"R0 (kohm) = 0.1", both, isNoNumber},
+    {L"R0 in milliohms: 0.1", both, isNoNumber},
+    {L"R(TPW) (k\u03A9) = 0.1", both, isNoNumber},
+    {L"R(TPW)/k\u03A9 = 0.1", both, isNoNumber},
+    {L"R(TPW)\u00B710\u00B3 = 0.1", both, isNoNumber},
+    {L"A (x10) = 3.9083", both, isNoNumber},
+    {L"A (E3) = 3.9083", both, isNoNumber},
+    {L"A (10^3) = 3.9083", both, isNoNumber},
+    {L"A (0.001) = 3.9083", both, isNoNumber},
+    {L"A (-3) = 3.9083", both, isNoNumber},
+    {L"A (1000) = 3.9083", both, isNoNumber},
+    {L"A () = 3.9083", both, isNoNumber},
+    {L"A) = 3.9083", both, isNoNumber},
+    {L"(A) = 3.9083", both, isNoNumber},
+    {L"ln(R(TPW)) = 3.2", both, isNoNumber},
+    {L"R(ln T) = 3.2", both, isNoNumber},
+    {L"exp(R) = 3.2", both, isNoNumber},
     {L"R0 k\u03A9: 0.1", both, isNoNumber},
     {L"U [\u00B5V] = 0.1", both, isNoNumber},
     {L"U \u00B5V = 0.1", both, isNoNumber},
@@ -306,6 +377,29 @@ inline const PasteRow pasteRows[] = {
     {L"1.5; 2.5", both, isNoNumber},
     {L"100\uFF0E5", both, isNoNumber},
 };
+
+inline bool IsTaken(const PasteRow& row) {
+    return row.outcome == isNumber || row.outcome == isTold || row.outcome == isForeign;
+}
+
+/// What a box is expected to advise into which the text of a row is pasted: one that stands alone, R0, in
+/// ohms.
+inline std::wstring ExpectedAdvice(const PasteRow& row, const std::wstring& number) {
+    if (!IsTaken(row)) {
+        std::wstring text = row.text;
+        const auto first = text.find_first_not_of(L" \t\r\n");
+        text = first == std::wstring::npos ? L"" : text.substr(first);
+        if (text.find_first_of(L"\t\n") != std::wstring::npos)
+            return L"Nothing pasted: there is no room for 2 numbers";
+        return L"Nothing pasted: " + (text.empty() ? L"\"\"" : QuorIniFile::EscapeControls(text)) +
+               (row.outcome == isTwofold ? L" can be read in two ways" : L" is not a number");
+    }
+    return number == L"1E400"         ? L"1E400 is too large to be stored"
+           : number == L"1E-400"      ? L"0 would be stored for 1E-400"
+           : row.outcome == isTold    ? L"Pasted as " + number
+           : row.outcome == isForeign ? L"Pasted from " + std::wstring(row.text)
+                                      : L"";
+}
 
 /// Every row under every separator that it holds for, with the number as it is then.
 inline void ForEachPaste(

@@ -150,13 +150,12 @@ void QtDialog::Build() {
 }
 
 void QtDialog::ShowAdvice() {
-    QString text;
-    if (const TextBox* const box = m_dialog.AdvisedBox()) {
-        text = ToQt(box->Advice());
+    QStringList lines;
+    for (const TextBox* const box : m_dialog.AdvisedBoxes())
         for (const ControlName& name : ControlNames(m_dialog))
             if (name.control == box)
-                text = ToQt(name.name + L": ") + text;
-    }
+                lines += ToQt(name.name + L": " + box->Advice());
+    const QString text = lines.join(QChar::LineFeed);
     if (text == m_advice->text())
         return;
     m_advice->setText(text);

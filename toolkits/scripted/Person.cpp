@@ -168,7 +168,7 @@ std::wstring Person::Advice(std::wstring_view box) const {
 
 bool Person::SeesAdvice(std::wstring_view advice) const {
     return std::any_of(m_dialog.Controls().begin(), m_dialog.Controls().end(), [&](const auto& control) {
-        return control->Kind() == ControlKind::TextBox && control->IsShown() &&
+        return control->Kind() == ControlKind::TextBox &&
                static_cast<const TextBox&>(*control).Advice() == advice;
     });
 }
@@ -181,6 +181,10 @@ std::wstring Person::Screen() const {
     std::wstring screen = EscapeControls(m_dialog.Title()) + L"\n";
     for (const Frame* const column : m_dialog.Columns())
         DrawFrame(*column, L"", screen);
+    for (const TextBox* const box : m_dialog.AdvisedBoxes())
+        for (const ControlName& named : ControlNames(m_dialog))
+            if (named.control == box && !box->IsShown()) // the others stand beside their boxes
+                screen += EscapeControls(L"! " + named.name + L": " + box->Advice()) + L"\n";
     std::wstring hidden;
     for (const auto& control : m_dialog.Controls())
         if (!control->Visible())

@@ -59,7 +59,7 @@ public:
     [[nodiscard]] std::wstring Focused() const;
     /// What the dialog advises of the text of a box; empty for nothing.
     [[nodiscard]] std::wstring Advice(std::wstring_view box) const;
-    /// Whether the dialog gives this advice of any box that is shown.
+    /// Whether the dialog gives this advice of any box.
     [[nodiscard]] bool SeesAdvice(std::wstring_view advice) const;
     /// The whole dialog as text: its title, and a line a row with what stands in it; advice stands behind its
     /// box, after "!". Disabled controls stand

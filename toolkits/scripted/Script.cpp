@@ -3,6 +3,7 @@
 #include "QuorIniFile/Utf8.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
 #include <utility>
 
@@ -30,17 +31,39 @@ std::pair<std::wstring, std::wstring> SplitName(const Person& person, const std:
     return {best, std::wstring(Trimmed(std::wstring_view(rest).substr(best.size())))};
 }
 
-/// A text with the tab, line end or backslash for each escape.
+constexpr struct {
+    std::wstring_view written;
+    wchar_t meaning;
+} escapes[] = {{L"\\t", L'\t'}, {L"\\n", L'\n'}, {L"\\r", L'\r'}, {L"\\\\", L'\\'}};
+
+/// The character that `text` begins to name by its number, as "\u{A0}", and the length of that; 0 for none.
+std::pair<wchar_t, std::size_t> NumberedCharacter(std::wstring_view text) {
+    constexpr std::wstring_view hexDigits = L"0123456789ABCDEF";
+    if (!text.starts_with(L"\\u{"))
+        return {};
+    std::uint32_t number = 0;
+    for (std::size_t at = 3; at < text.size() && at < 10; ++at) {
+        if (text[at] == L'}')
+            return {static_cast<wchar_t>(number), at > 3 && number <= 0x10FFFF ? at + 1 : 0};
+        const auto digit = hexDigits.find(text[at]);
+        if (digit == std::wstring_view::npos)
+            break;
+        number = number * 16 + static_cast<std::uint32_t>(digit);
+    }
+    return {};
+}
+
+/// A text with the character for each escape: \t, \n, \r, \\ and \u{A0}.
 std::wstring Unescaped(std::wstring_view text) {
     std::wstring result;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const wchar_t next = at + 1 < text.size() ? text[at + 1] : L'\0';
-        if (text[at] != L'\\' || (next != L't' && next != L'n' && next != L'\\')) {
-            result += text[at];
-            continue;
-        }
-        result += next == L't' ? L'\t' : next == L'n' ? L'\n' : L'\\';
-        ++at;
+    while (!text.empty()) {
+        const auto* const escape =
+            std::find_if(std::begin(escapes), std::end(escapes),
+                         [text](const auto& e) { return text.starts_with(e.written); });
+        const auto [character, length] = NumberedCharacter(text);
+        result += escape != std::end(escapes) ? escape->meaning : length > 0 ? character : text.front();
+        text.remove_prefix(escape != std::end(escapes) ? escape->written.size()
+                                                       : std::max<std::size_t>(length, 1));
     }
     return result;
 }

@@ -369,16 +369,17 @@ TEST_F(DialogTest, TellsAnEditOfTheTextButNotOfTheSelection) {
 }
 
 TEST_F(DialogTest, AdvisesOfTheBoxWithTheFocusFirst) {
-    EXPECT_EQ(dialog.AdvisedBox(), nullptr);
+    using Boxes = std::vector<const TextBox*>;
+    EXPECT_EQ(dialog.AdvisedBoxes(), Boxes{});
     dialog.one.SetAdvice(L"one");
     dialog.two.SetAdvice(L"two");
-    EXPECT_EQ(dialog.AdvisedBox(), &dialog.one);
+    EXPECT_EQ(dialog.AdvisedBoxes(), Boxes{&dialog.one});
     EXPECT_TRUE(dialog.SetFocus(dialog.two));
-    EXPECT_EQ(dialog.AdvisedBox(), &dialog.two);
+    EXPECT_EQ(dialog.AdvisedBoxes(), Boxes{&dialog.two});
     EXPECT_TRUE(dialog.SetFocus(dialog.ok));
-    EXPECT_EQ(dialog.AdvisedBox(), &dialog.one);
+    EXPECT_EQ(dialog.AdvisedBoxes(), Boxes{&dialog.one});
     dialog.one.SetVisible(false);
-    EXPECT_EQ(dialog.AdvisedBox(), &dialog.two);
+    EXPECT_EQ(dialog.AdvisedBoxes(), (Boxes{&dialog.two, &dialog.one})) << "a hidden one is not marked";
 }
 
 TEST_F(DialogTest, TellsAdviceOnlyWhenItIsAnotherOne) {

@@ -38,9 +38,9 @@ TEST(NumberFromPaste, ReadsWhatAPersonMeansOrRefuses) {
     ForEachPaste([](const PasteRow& row, const std::wstring& separator, const std::wstring& number) {
         SCOPED_TRACE(ToUtf8(L"\"" + std::wstring(row.text) + L"\" under \"" + separator + L"\""));
         const PastedNumber pasted = NumberFromPaste(row.text, separator);
-        const bool taken = row.outcome == Support::isNumber || row.outcome == Support::isTold;
+        const bool taken = Support::IsTaken(row);
         EXPECT_EQ(pasted.number, taken ? std::optional(number) : std::nullopt);
-        EXPECT_EQ(pasted.couldGroup, row.outcome == Support::isTold);
+        EXPECT_EQ(pasted.isToBeTold, row.outcome == Support::isTold);
         EXPECT_EQ(pasted.refusal, row.outcome == Support::isNoNumber  ? PasteRefusal::NoNumber
                                   : row.outcome == Support::isTwofold ? PasteRefusal::TwoReadings
                                                                       : PasteRefusal::None);

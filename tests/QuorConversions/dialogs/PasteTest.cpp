@@ -1,12 +1,15 @@
 // What a paste does to the boxes of the dialogs, and what a person is told before values are stored.
 
 #include "QuorConversions/rtd/CQuorCVD.h"
+#include "QuorConversions/rtd/CQuorITS90.h"
 #include "QuorConversions/thermocouple/CQuorTCTable.h"
 #include "tests/support/DecimalSeparator.h"
 #include "tests/support/DialogTest.h"
 #include "tests/support/PasteRows.h"
 
 #include <limits>
+#include <tuple>
+#include <utility>
 
 using namespace QuorConversions;
 using namespace Support;
@@ -45,47 +48,40 @@ protected:
     }
 };
 
-bool IsOneCell(const PasteRow& row) {
-    const std::wstring text = row.text;
-    const auto first = text.find_first_not_of(L" \t\r\n\u0085\u2028\u2029");
-    return first != std::wstring::npos && text.find_first_of(L"\t\r\n\u0085\u2028\u2029", first) >
-                                              text.find_last_not_of(L" \t\r\n\u0085\u2028\u2029");
-}
+/// R0 alone.
+class PastedRowsTest : public DialogTest<CQuorCVD> {
+protected:
+    PastedRowsTest() : DialogTest(CONV_CVD) { settings->SetNumCoefficients(1); }
+};
 
 } // namespace
 
 // One number
 
-TEST_F(PasteTest, ABoxGetsTheNumberOfEveryTextOrStaysAsItIs) {
+TEST_F(PastedRowsTest, ABoxGetsTheNumberOfEveryTextOrStaysAsItIs) {
+    std::size_t pasted = 0;
     for (const std::wstring separator : {L".", L",", L"\u066B"}) {
         const FreshDecimalSeparator another;
         platform->SetDecimalSeparator(separator);
         Edit([&](Person& person) {
             ForEachPaste([&](const PasteRow& row, const std::wstring& under, const std::wstring& number) {
-                if (under != separator || !IsOneCell(row))
+                if (under != separator)
                     return;
+                ++pasted;
                 SCOPED_TRACE(testing::PrintToString(std::wstring(row.text)) + " under " +
                              testing::PrintToString(separator));
                 person.Paste(L"R0", L"7");
                 ASSERT_EQ(person.Reads(L"R0"), L"7");
+                ASSERT_EQ(person.Advice(L"R0"), L"");
                 person.Paste(L"R0", row.text);
-                const bool taken = row.outcome == isNumber || row.outcome == isTold;
-                EXPECT_EQ(person.Reads(L"R0"), taken ? number : L"7");
-                const std::wstring advice = person.Advice(L"R0");
-                if (taken) {
-                    EXPECT_EQ(advice, number == L"1E400"      ? L"1E400 is too large to be stored"
-                                      : number == L"1E-400"   ? L"0 would be stored for 1E-400"
-                                      : row.outcome == isTold ? L"Pasted as " + number
-                                                              : L"");
-                } else {
-                    EXPECT_TRUE(advice.starts_with(L"Nothing pasted: "));
-                    EXPECT_TRUE(advice.ends_with(row.outcome == isTwofold ? L" can be read in two ways"
-                                                                          : L" is not a number"));
-                }
+                EXPECT_EQ(person.Reads(L"R0"), IsTaken(row) ? number : L"7");
+                // Of a clipboard without any text nothing comes.
+                EXPECT_EQ(person.Advice(L"R0"), *row.text ? ExpectedAdvice(row, number) : L"");
             });
             person.Click(L"Cancel");
         });
     }
+    EXPECT_GE(pasted, std::size(pasteRows)) << "every row, most of them under two separators";
 }
 
 TEST_F(PasteTest, OKStoresTheVeryNumberThatWasPasted) {
@@ -147,6 +143,178 @@ TEST_F(PasteTest, NothingIsPastedWhereNothingMayBeEdited) {
     Edit([](Person& person) {
         EXPECT_THROW(person.Paste(L"R0", L"7"), Scripted::CannotDo);
         EXPECT_EQ(Boxes(person), untouched);
+        person.Click(L"Cancel");
+    });
+}
+
+// What the text says the number to be
+
+TEST_F(PasteTest, ANumberUnderTheNameOfItsBoxIsPastedWithoutAWord) {
+    for (const auto& [box, text] : {
+             std::pair(L"R0", L"R0 = 101"),
+             std::pair(L"R0", L"R\u2080 = 101 \u03A9"),
+             std::pair(L"R0", L"r_0 [\u03A9]: 101"),
+             std::pair(L"R0", L"R(0 \u00B0C) / ohm = 101"),
+             std::pair(L"R0", L"R(273.15 K) = 101 \u03A9"),
+             std::pair(L"ALPHA", L"\u03B1 = 3.85E-3 \u00B0C\u207B\u00B9"),
+             std::pair(L"ALPHA", L"Coefficient alpha: 3.85E-3 K^-1"),
+             std::pair(L"DELTA", L"\u03B4 = 1.6"),
+             std::pair(L"BETA", L"Beta = 0.11"),
+         })
+        Edit([&, box = box, text = text](Person& person) {
+            SCOPED_TRACE(testing::PrintToString(text));
+            person.Paste(box, text);
+            EXPECT_EQ(person.Advice(box), L"");
+            EXPECT_NE(Boxes(person), untouched);
+            person.Click(L"Cancel");
+        });
+}
+
+TEST_F(PasteTest, ANumberUnderAnotherNameIsPastedAndToldWhereFrom) {
+    for (const wchar_t* const text :
+         {L"\u03B1 = 3.85E-3", L"A = 3.9083E-3", L"R(TPW) = 100.0123", L"R1 = 100.0123", L"k = 2",
+          L"U = 0.02", L"Serial: 417", L"t90: 30", L"R(100 \u00B0C) = 138.5"})
+        Edit([&](Person& person) {
+            person.Paste(L"R0", text);
+            EXPECT_EQ(person.Advice(L"R0"), L"Pasted from " + std::wstring(text));
+            EXPECT_NE(person.Reads(L"R0"), L"100");
+            person.Click(L"Cancel");
+        });
+}
+
+TEST_F(PasteTest, ANumberInAnotherUnitIsPastedAndToldWhereFrom) {
+    settings->SetUsePolynomial(true);
+    for (const auto& [box, text, isTold] : {
+             std::tuple(L"R0", L"25.5 mV", true),
+             std::tuple(L"R0", L"25.5 \u00B0C", true),
+             std::tuple(L"R0", L"R0/mV = 25.5", true),
+             std::tuple(L"A", L"-5.775E-7 \u00B0C\u207B\u00B2", true),
+             std::tuple(L"A", L"3.9083E-3 K^-1", false),
+             std::tuple(L"B", L"-5.775E-7 1/\u00B0C", true),
+             std::tuple(L"B", L"B = -5.775E-7 K^-2", false),
+             std::tuple(L"C", L"-4.183E-12 \u00B0C\u207B\u2074", false),
+         })
+        Edit([&, box = box, text = text, isTold = isTold](Person& person) {
+            person.Paste(box, text);
+            EXPECT_EQ(person.Advice(box), isTold ? L"Pasted from " + std::wstring(text) : L"")
+                << testing::PrintToString(text);
+            person.Click(L"Cancel");
+        });
+}
+
+TEST_F(PasteTest, WhatWasToldOfAPasteIsToldUntilTheNumberIsChanged) {
+    settings->SetValueFormat(0, L"0.00");
+    Edit([](Person& person) {
+        person.Paste(L"R0", L" B = 1.239 ");
+        EXPECT_EQ(person.Advice(L"R0"), L"1.24 would be stored for 1.239. Pasted from B = 1.239");
+        person.Paste(L"R0", L"B = 1.24");
+        EXPECT_EQ(person.Advice(L"R0"), L"Pasted from B = 1.24");
+        person.Tab();
+        EXPECT_EQ(person.Advice(L"R0"), L"Pasted from B = 1.24") << "also when the box is left";
+        person.Type(L"R0", L"1.24");
+        EXPECT_EQ(person.Advice(L"R0"), L"");
+        person.Paste(L"ALPHA", L"B = 5");
+        person.Paste(L"ALPHA", L"5");
+        EXPECT_EQ(person.Advice(L"ALPHA"), L"");
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(PasteTest, WhatWasToldOfAPasteIsForgottenWithTheNumber) {
+    NextFileHolds([](CQuorCVD& cvd) {
+        cvd.SetNumCoefficients(4);
+        cvd.SetCoefficients(0, 25);
+    });
+    Edit([](Person& person) {
+        person.Paste(L"R0", L"B = 1.24");
+        person.Click(L"Open");
+        EXPECT_EQ(person.Reads(L"R0"), L"25");
+        EXPECT_EQ(person.Advice(L"R0"), L"");
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(PasteTest, OfSeveralNumbersEachIsHeldAgainstItsOwnBox) {
+    Edit([](Person& person) {
+        person.Paste(L"R0", L"R0 = 100.0123\nDELTA = 1.5\nALPHA = 0.00385\nBETA = 0.1");
+        EXPECT_EQ(Boxes(person), (Texts{L"100.0123", L"1.5", L"0.00385", L"0.1"}));
+        EXPECT_EQ(person.Advice(L"R0"), L"");
+        EXPECT_EQ(person.Advice(L"ALPHA"), L"Pasted from DELTA = 1.5");
+        EXPECT_EQ(person.Advice(L"DELTA"), L"Pasted from ALPHA = 0.00385");
+        EXPECT_EQ(person.Advice(L"BETA"), L"");
+        person.Click(L"Cancel");
+    });
+}
+
+class PastedRangeTest : public DialogTest<CQuorITS90> {
+protected:
+    PastedRangeTest() : DialogTest(CONV_ITS90) {
+        settings->SetRTPW(25);
+        settings->LowRange()->SetRange(ITS90_RANGE_4);
+        settings->HighRange()->SetRange(ITS90_RANGE_7);
+    }
+    FreshDecimalSeparator fresh;
+};
+
+TEST_F(PastedRangeTest, TheNamesOfACertificateAreThoseOfTheRows) {
+    for (const auto& [box, text, isTold] : {
+             std::tuple(L"RTPW", L"R(TPW) = 25.5", false),
+             std::tuple(L"RTPW", L"R_TPW = 25.5 \u03A9", false),
+             std::tuple(L"RTPW", L"R(0.01 \u00B0C) = 25.5 \u03A9", false),
+             std::tuple(L"RTPW", L"R(273,16 K) = 25.5", false),
+             std::tuple(L"RTPW", L"R(H\u2082O) = 25.5", false),
+             std::tuple(L"RTPW", L"R0 = 25.5", true),
+             std::tuple(L"A[4]", L"a4 = -1.5E-4", false),
+             std::tuple(L"A[4]", L"a\u2084 = -1.5E-4", false),
+             std::tuple(L"A[4]", L"a_4 = -1.5E-4", false),
+             std::tuple(L"A[4]", L"a(4): -1.5E-4", false),
+             std::tuple(L"A[4]", L"a = -1.5E-4", false),
+             std::tuple(L"A[4]", L"a8 = -1.5E-4", true),
+             std::tuple(L"A[4]", L"b4 = -1.5E-4", true),
+             std::tuple(L"B[4]", L"a4 = -1.5E-4", true),
+         })
+        Edit([&, box = box, text = text, isTold = isTold](Person& person) {
+            person.Paste(box, text);
+            EXPECT_EQ(person.Advice(box), isTold ? L"Pasted from " + std::wstring(text) : L"")
+                << testing::PrintToString(text);
+            person.Click(L"Cancel");
+        });
+}
+
+TEST_F(PastedRangeTest, ALetterWithoutANumberNamesNoneOfSeveralRows) {
+    settings->LowRange()->SetRange(ITS90_RANGE_1);
+    Edit([](Person& person) {
+        person.Paste(L"C[1]", L"c = 2E-6");
+        EXPECT_EQ(person.Advice(L"C[1]"), L"Pasted from c = 2E-6");
+        person.Paste(L"C[1]", L"c1 = 2E-6");
+        EXPECT_EQ(person.Advice(L"C[1]"), L"");
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(PastedPointsTest, AUnitIsHeldAgainstTheOneBehindTheBox) {
+    Edit([](Person& person) {
+        person.Paste(L"Temperature 1", L"25.5 \u00B0C");
+        EXPECT_EQ(person.Advice(L"Temperature 1"), L"");
+        person.Paste(L"Temperature 1", L"298.65 K");
+        EXPECT_EQ(person.Advice(L"Temperature 1"), L"Pasted from 298.65 K");
+        person.Paste(L"Voltage 1", L"4.0962 mV");
+        EXPECT_EQ(person.Advice(L"Voltage 1"), L"");
+        person.Paste(L"Voltage 1", L"25.5 \u00B0C");
+        EXPECT_EQ(person.Advice(L"Voltage 1"), L"Pasted from 25.5 \u00B0C");
+        person.Paste(L"Temperature 2", L"Temperature 2: 25");
+        EXPECT_EQ(person.Advice(L"Temperature 2"), L"");
+        person.Paste(L"Temperature 2", L"Temperature 3: 25");
+        EXPECT_EQ(person.Advice(L"Temperature 2"), L"Pasted from Temperature 3: 25");
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(PastedPointsTest, AUnitOfTheHostsOwnIsAnotherThanThoseThatAreRead) {
+    settings->SetVoltageScale(L"\u00B5V");
+    Edit([](Person& person) {
+        person.Paste(L"Voltage 1", L"4.0962 mV");
+        EXPECT_EQ(person.Advice(L"Voltage 1"), L"Pasted from 4.0962 mV");
         person.Click(L"Cancel");
     });
 }
@@ -304,6 +472,45 @@ TEST_F(PasteTest, WhatAFormatDoesToAValueThatNobodyTouchesIsTold) {
         EXPECT_EQ(person.Advice(L"R0"), L"");
         person.Type(L"R0", L"1.239");
         EXPECT_EQ(person.Advice(L"R0"), L"1.24 would be stored for 1.239") << "when the box is left";
+        person.Click(L"Cancel");
+    });
+}
+
+// A hidden value is stored in its format as a visible one is, and nobody saw it.
+TEST_F(PastedRangeTest, WhatAFormatDoesOnThePageThatIsNotShownIsTold) {
+    settings->HighRange()->SetCoefficients(ITS90_HIGH_A, 1.239);
+    settings->HighRange()->SetValueFormat(L"0.00");
+    const std::wstring line = L"\n! A[7]: 1.24 would be stored for 1.239\n";
+    Edit([&](Person& person) {
+        EXPECT_TRUE(person.SeesAdvice(L"1.24 would be stored for 1.239"));
+        EXPECT_NE(person.Screen().find(line), std::wstring::npos) << "named: it has no row on this page";
+        person.TurnTo(L"High Range");
+        EXPECT_EQ(person.Screen().find(line), std::wstring::npos);
+        EXPECT_NE(person.Screen().find(L"  A[7]: [1.24] ! 1.24 would be stored for 1.239\n"),
+                  std::wstring::npos);
+        person.Choose(L"Select high range to use", L"<none>");
+        EXPECT_FALSE(person.SeesAdvice(L"1.24 would be stored for 1.239")) << "it is not stored then";
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(PastedPointsTest, OfARowThatIsTakenAwayNothingIsTold) {
+    Edit([](Person& person) {
+        person.Type(L"Voltage 3", L"-");
+        person.Choose(L"Number of points", L"2");
+        EXPECT_FALSE(person.SeesAdvice(L"Not a number: 0 would be stored"));
+        person.Choose(L"Number of points", L"3");
+        EXPECT_TRUE(person.SeesAdvice(L"Not a number: 0 would be stored")) << "the row is there again";
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(PasteTest, OfCoefficientsThatAreNotInUseNothingIsTold) {
+    settings->SetCoefficients(3, 1.239);
+    settings->SetValueFormat(3, L"0.00");
+    settings->SetNumCoefficients(3);
+    Edit([](Person& person) {
+        EXPECT_FALSE(person.SeesAdvice(L"1.24 would be stored for 1.239"));
         person.Click(L"Cancel");
     });
 }

@@ -297,3 +297,24 @@ TEST_F(frmTCTypeXSettingsTest, EnablesNothingButCancelAndHelpWhereNothingMayBeEd
         });
     }
 }
+
+// A hidden value is stored in its format as a visible one is, and nobody saw it.
+TEST_F(frmTCTypeXSettingsTest, TellsWhatAFormatDoesToDCCoefficientsThatAreHidden) {
+    settings->SetTCType(TCTYPE_K);
+    settings->SetCoefficients(TCTYPEX_DC1, 1.239);
+    settings->SetCoefficients(TCTYPEX_DC2, 0.25);
+    settings->SetValueFormat(L"0.00");
+    EditAndTake([](Person& person) {
+        const std::wstring line = L"\n! DC1: 1.24 would be stored for 1.239\n";
+        EXPECT_NE(person.Screen().find(line), std::wstring::npos);
+        EXPECT_TRUE(person.SeesAdvice(L"1.24 would be stored for 1.239"));
+        person.Choose(L"Type", L"S");
+        EXPECT_EQ(person.Screen().find(line), std::wstring::npos) << "it stands beside its box now";
+        EXPECT_NE(person.Screen().find(L"  DC1: [1.24] ! 1.24 would be stored for 1.239\n"),
+                  std::wstring::npos);
+        person.Choose(L"Type", L"K");
+        EXPECT_NE(person.Screen().find(line), std::wstring::npos);
+    });
+    EXPECT_EQ(settings->Coefficients(TCTYPEX_DC1), 1.24);
+    EXPECT_EQ(settings->Coefficients(TCTYPEX_DC2), 0.25);
+}

@@ -101,6 +101,7 @@ TEST_F(StringTableTest, HoldsTheTextsUnderTheirNumbers) {
         {201, L"Nothing pasted: ~ can be read in two ways"},
         {202, L"Nothing pasted: ~ is not a number"},
         {203, L"Nothing pasted: there is no room for ~ numbers"},
+        {204, L"Pasted from ~"},
         {205, L"This configuration file does not contain ~ coefficients. The conversion type must be changed "
               L"to ~ to open this file."},
         {206, L"mV (25C)"},

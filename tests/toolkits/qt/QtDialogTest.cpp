@@ -445,6 +445,20 @@ TEST_F(QtDialogTest, ShowsTheAdviceOfABoxInItAndBelowTheBoxes) {
     });
 }
 
+TEST_F(QtDialogTest, ShowsTheAdviceOfBoxesThatNobodySeesOnLinesOfTheirOwn) {
+    Run([&] {
+        const auto& line = *window->findChild<QLabel*>(QStringLiteral("advice"));
+        dialog.r0.SetAdvice(L"1.24 would be stored for 1.239");
+        dialog.r0.SetVisible(false);
+        EXPECT_EQ(line.text(), QStringLiteral("R0: 1.24 would be stored for 1.239"));
+        dialog.name.SetAdvice(L"Not a name");
+        EXPECT_EQ(line.text(), QStringLiteral("Name: Not a name\nR0: 1.24 would be stored for 1.239"));
+        LetLayOut();
+        EXPECT_GE(line.height(), line.heightForWidth(line.width())) << "both lines have their room";
+        EXPECT_EQ(line.visibleRegion().boundingRect(), line.rect());
+    });
+}
+
 TEST_F(QtDialogTest, ShowsAdviceThatComesWhileTheUserTypes) {
     dialog.onEdit = [&](TextBox& box) { box.SetAdvice(L"of " + box.Text()); };
     Run([&] {
@@ -642,6 +656,18 @@ TEST_F(QtDialogTest, TurnsToNoTabThatIsTakenOutByKeysNorByTheWheel) {
         ExpectShowsTheModel(*window, dialog);
         Press(Qt::Key_End);
         ExpectShowsTheModel(*window, dialog);
+    });
+}
+
+TEST_F(QtDialogTest, TurnsToNoTabThatIsTakenOutBeforeTheOthers) {
+    dialog.tabs.RemoveTab(0);
+    Run([&] {
+        GoTo(dialog.tabs);
+        for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Home, Qt::Key_Right, Qt::Key_Left, Qt::Key_Left}) {
+            Press(key);
+            ExpectShowsTheModel(*window, dialog);
+            EXPECT_NE(dialog.tabs.Selected(), 0U);
+        }
     });
 }
 

@@ -5,6 +5,10 @@
 #include "QuorConversions/thermocouple/CQuorTCTypeX.h"
 #include "tests/support/DecimalSeparator.h"
 #include "tests/support/Objects.h"
+#include "tests/support/PasteRows.h"
+
+#include <ios>
+#include <sstream>
 
 using namespace QuorConversions;
 using QuorConversions::Scripted::Script;
@@ -167,6 +171,50 @@ TEST_F(ScriptTest, PastesATextIntoABox) {
     EXPECT_EQ(cvd->Coefficients(1), 1);
     EXPECT_EQ(cvd->Coefficients(2), 2);
     EXPECT_EQ(cvd->Coefficients(3), 3);
+}
+
+TEST_F(ScriptTest, PastesCharactersThatALineCannotHold) {
+    EXPECT_FALSE(Edit(L"paste \\u{20}\\r\\n1\\u{2009}234.5\\u{3A9} into R0\nshow\n"
+                      L"paste a\\b\\\\c\\u{}\\u{110000}\\u{1 into R0\nshow\nescape"));
+    ASSERT_EQ(printed.size(), 2U);
+    EXPECT_NE(printed[0].find(L"  R0: [1234.5] ! Pasted as 1234.5\n"), std::wstring::npos);
+    EXPECT_NE(printed[1].find(L" ! Nothing pasted: a\\b\\c\\u{}\\u{110000}\\u{1 is not a number\n"),
+              std::wstring::npos)
+        << "what is no escape stays as it is";
+}
+
+TEST_F(ScriptTest, PastesEveryTextAsAPersonDoes) {
+    const auto escaped = [](const std::wstring& text) {
+        std::wostringstream line;
+        for (const wchar_t c : text)
+            line << L"\\u{" << std::hex << std::uppercase << static_cast<unsigned>(c) << L"}";
+        return line.str();
+    };
+    for (const std::wstring separator : {L".", L",", L"\u066B"}) {
+        const Support::FreshDecimalSeparator another;
+        platform->SetDecimalSeparator(separator);
+        cvd->SetNumCoefficients(1); // R0 alone
+        std::wstring script;
+        Texts expected;
+        Support::ForEachPaste(
+            [&](const Support::PasteRow& row, const std::wstring& under, const std::wstring& number) {
+                if (under != separator || !*row.text) // nobody can paste no text
+                    return;
+                script += L"paste 7 into R0\npaste " + escaped(row.text) + L" into R0\nshow\n";
+                const std::wstring advice = Support::ExpectedAdvice(row, number);
+                expected.push_back(
+                    QuorIniFile::EscapeControls(L"  R0: [" + (Support::IsTaken(row) ? number : L"7") + L"]" +
+                                                (advice.empty() ? L"" : L" ! " + advice)) +
+                    L"\n");
+            });
+        printed.clear();
+        EXPECT_FALSE(Edit(script + L"escape"));
+        EXPECT_EQ(platform->Complaints(), Texts{});
+        ASSERT_EQ(printed.size(), expected.size());
+        for (std::size_t i = 0; i < expected.size(); ++i)
+            EXPECT_NE(printed[i].find(expected[i]), std::wstring::npos)
+                << testing::PrintToString(expected[i]) << " is not on " << testing::PrintToString(printed[i]);
+    }
 }
 
 TEST_F(ScriptTest, SaysWhereAPasteNamesNoBox) {

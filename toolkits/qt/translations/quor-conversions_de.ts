@@ -572,6 +572,10 @@
         <translation>Eingefügt als ~</translation>
     </message>
     <message>
+        <source>Pasted from ~</source>
+        <translation>Eingefügt aus ~</translation>
+    </message>
+    <message>
         <source>Nothing pasted: ~ can be read in two ways</source>
         <translation>Nichts eingefügt: ~ kann auf zwei Arten gelesen werden</translation>
     </message>
