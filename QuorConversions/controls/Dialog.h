@@ -55,6 +55,11 @@ public:
     /// The boxes whose advice is to be shown: of those on the screen, which are marked, the one that has the
     /// focus, when it has any, or else the first one; and all that are hidden, or on another page.
     [[nodiscard]] std::vector<const TextBox*> AdvisedBoxes() const;
+    /// The first of them; null when there is no advice.
+    [[nodiscard]] const TextBox* AdvisedBox() const {
+        const auto boxes = AdvisedBoxes();
+        return boxes.empty() ? nullptr : boxes.front();
+    }
 
     /// The button that the F1 key presses; null when there is none.
     [[nodiscard]] const PushButton* HelpButton() const { return m_helpButton; }

@@ -371,6 +371,7 @@ TEST_F(DialogTest, TellsAnEditOfTheTextButNotOfTheSelection) {
 TEST_F(DialogTest, AdvisesOfTheBoxWithTheFocusFirst) {
     using Boxes = std::vector<const TextBox*>;
     EXPECT_EQ(dialog.AdvisedBoxes(), Boxes{});
+    EXPECT_EQ(dialog.AdvisedBox(), nullptr);
     dialog.one.SetAdvice(L"one");
     dialog.two.SetAdvice(L"two");
     EXPECT_EQ(dialog.AdvisedBoxes(), Boxes{&dialog.one});
@@ -380,6 +381,7 @@ TEST_F(DialogTest, AdvisesOfTheBoxWithTheFocusFirst) {
     EXPECT_EQ(dialog.AdvisedBoxes(), Boxes{&dialog.one});
     dialog.one.SetVisible(false);
     EXPECT_EQ(dialog.AdvisedBoxes(), (Boxes{&dialog.two, &dialog.one})) << "a hidden one is not marked";
+    EXPECT_EQ(dialog.AdvisedBox(), &dialog.two);
 }
 
 TEST_F(DialogTest, TellsAdviceOnlyWhenItIsAnotherOne) {
