@@ -19,6 +19,8 @@ enum class Failure {
                       ///< that a save would give other values
     NameIsTaken,      ///< details: a new name that another program has used in the file meanwhile
     CannotWrite,      ///< details: the section, and the library's messages
+    NoProbesInText,   ///< what was pasted or dropped has no probe
+    UnreadableText,   ///< details: as of UnreadableRecord, of a text that is not the document's
     SharedSection,    ///< details: a section that would go or move, the probe that it would follow, and
                       ///< another one, which has or keeps its settings in it too
 };

@@ -9,6 +9,7 @@
 #include "apps/probe-setup/Wording.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -19,7 +20,10 @@
 #include <QStatusBar>
 #include <QTreeView>
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -124,6 +128,19 @@ bool FileCommands::OpenHostFile(const QString& path) {
     return true;
 }
 
+bool FileCommands::Reload() {
+    const auto current = m_list.Current();
+    const std::wstring name = current ? m_document.Name(*current) : std::wstring();
+    if (!MayLoseChanges())
+        return false;
+    // A save has taken in what others have written.
+    if (m_document.ChangedByOthers() && !Load(ToQt(m_document.Path())))
+        return false;
+    m_list.Show(m_document.Find(name).value_or(0));
+    ShowStatus(tr("%1 is loaded anew.").arg(FileName()));
+    return true;
+}
+
 bool FileCommands::Load(const QString& path) {
     m_progress->setValue(0);
     m_progress->show();
@@ -175,7 +192,7 @@ void FileCommands::OpenPaths(const QStringList& paths) {
 
 bool FileCommands::Save() {
     if (m_document.Path().empty())
-        return SaveCopyAs();
+        return SaveAs();
     const auto current = m_list.Current();
     const std::wstring name = current ? m_document.Name(*current) : std::wstring();
     if (!SaveBy(tr("%1 cannot be saved.").arg(FileName()),
@@ -186,14 +203,26 @@ bool FileCommands::Save() {
     return true;
 }
 
+bool FileCommands::SaveAs() {
+    return SaveTo(tr("Save as"), [this](const std::wstring& path, const OthersChanges& replaced) {
+        m_document.SaveAs(path, replaced);
+    });
+}
+
 bool FileCommands::SaveCopyAs() {
-    const bool isNew = m_document.Path().empty();
-    const QString path = AskForHostFile(isNew ? tr("Save as") : tr("Save a copy as"), true);
+    return SaveTo(tr("Save a copy as"), [this](const std::wstring& path, const OthersChanges& replaced) {
+        m_document.SaveCopyAs(path, replaced);
+    });
+}
+
+bool FileCommands::SaveTo(const QString& title,
+                          const std::function<void(const std::wstring&, const OthersChanges&)>& save) {
+    const QString path = AskForHostFile(title, true);
     if (path.isEmpty())
         return false;
     const auto current = m_list.Current();
     if (!SaveBy(tr("%1 cannot be saved.").arg(path),
-                [&](const OthersChanges& replaced) { m_document.SaveCopyAs(FromQt(path), replaced); }))
+                [&](const OthersChanges& replaced) { save(FromQt(path), replaced); }))
         return false;
     m_recent.Add(QFileInfo(path).absoluteFilePath());
     m_list.Show(current);
@@ -259,13 +288,54 @@ bool FileCommands::ImportPaths(const QStringList& paths) {
     return all;
 }
 
-void FileCommands::Export(std::size_t probe) {
+void FileCommands::Export(const std::vector<std::size_t>& probes) {
+    std::vector<std::size_t> exported;
+    std::copy_if(probes.begin(), probes.end(), std::back_inserter(exported),
+                 [this](std::size_t probe) { return m_document.HasSettings(probe); });
+    if (exported.empty())
+        ShowStatus(tr("What is selected has no settings to export."));
+    else if (exported.size() == 1)
+        ExportOne(exported.front());
+    else if (const QString folder = QFileDialog::getExistingDirectory(
+                 &m_window, tr("Export probes into a folder"), QFileInfo(ToQt(m_document.Path())).path());
+             !folder.isEmpty())
+        ExportInto(folder, exported);
+}
+
+void FileCommands::ExportOne(std::size_t probe) {
     const QString name = ToQt(m_document.Name(probe));
     std::optional<std::wstring> path;
     if (RunOrTell(&m_window, tr("\"%1\" cannot be exported.").arg(name),
                   [&] { path = m_document.Export(probe, m_platform.HandleOf(m_window)); }) &&
         path)
         ShowStatus(tr("\"%1\" is written into %2.").arg(name, ToQt(*path)));
+}
+
+void FileCommands::ExportInto(const QString& folder, const std::vector<std::size_t>& probes) {
+    std::vector<std::wstring> there;
+    std::set<QString> paths; // names that differ by a slash only are one file
+    for (const std::size_t probe : probes) {
+        const QString path = QDir(folder).filePath(ToQt(m_document.ExportName(probe)));
+        if (!paths.insert(path).second || QFileInfo::exists(path))
+            there.push_back(FromQt(path));
+    }
+    if (!there.empty()) {
+        MessageBox box(&m_window, QMessageBox::Warning, tr("Do you want to replace these files?"),
+                       Wording::Lines(there), QMessageBox::Save | QMessageBox::Cancel);
+        box.button(QMessageBox::Save)->setText(tr("&Replace"));
+        box.setDefaultButton(QMessageBox::Cancel);
+        if (box.exec() != QMessageBox::Save)
+            return;
+    }
+    int written = 0;
+    for (const std::size_t probe : probes) {
+        const QString path = QDir(folder).filePath(ToQt(m_document.ExportName(probe)));
+        if (!RunOrTell(&m_window, tr("\"%1\" cannot be exported.").arg(ToQt(m_document.Name(probe))),
+                       [&] { m_document.ExportTo(probe, FromQt(path)); }))
+            break;
+        ++written;
+    }
+    ShowStatus(tr("%1 probes are written into %2.").arg(QString::number(written), folder));
 }
 
 } // namespace ProbeSetup

@@ -7,6 +7,8 @@
 
 #include <cstddef>
 #include <functional>
+#include <string>
+#include <vector>
 
 class QMainWindow;
 class QProgressBar;
@@ -43,11 +45,16 @@ public:
     bool OpenPath(const QString& path);
     /// Opens the first host's file among these, and adds the probes of all stand-alone ones.
     void OpenPaths(const QStringList& paths);
+    /// Opens the present file anew, with the same probe selected. False when the user kept the changes, or
+    /// the file could not be read.
+    bool Reload();
     /// False when nothing was saved.
     bool Save();
+    bool SaveAs();
     bool SaveCopyAs();
     void Import();
-    void Export(std::size_t probe);
+    /// Exports probes that have settings: one into a file, several into a folder.
+    void Export(const std::vector<std::size_t>& probes);
 
 private:
     bool OpenHostFile(const QString& path);
@@ -58,6 +65,11 @@ private:
     /// Saves by `save`, and asks before what another program has written gives way. A failure is told under
     /// `what`. False when nothing was saved.
     bool SaveBy(const QString& what, const std::function<void(const OthersChanges&)>& save);
+    /// Asks for a file and saves there.
+    bool SaveTo(const QString& title,
+                const std::function<void(const std::wstring&, const OthersChanges&)>& save);
+    void ExportOne(std::size_t probe);
+    void ExportInto(const QString& folder, const std::vector<std::size_t>& probes);
     [[nodiscard]] QString AskForHostFile(const QString& title, bool toSave);
     void ShowStatus(const QString& text);
 

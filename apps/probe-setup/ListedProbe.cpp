@@ -18,4 +18,25 @@ void ListedProbe::SetName(std::wstring newName) {
         nameInFile.reset();
 }
 
+void ListedProbe::SwapContent(ProbeContent& other) {
+    std::swap(content, other);
+    content.replacesRecord = !isNew && content.type != typeInFile;
+}
+
+void ListedProbe::SetSaved() {
+    nameInFile.reset();
+    isNew = false;
+    typeInFile = content.type;
+    content.replacesRecord = false;
+    if (content.conversion)
+        content.conversion->SetChanged(false);
+}
+
+void ListedProbe::SetNew() {
+    nameInFile.reset();
+    isNew = true;
+    typeInFile.reset();
+    content.replacesRecord = false;
+}
+
 } // namespace ProbeSetup

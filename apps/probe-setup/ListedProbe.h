@@ -38,6 +38,7 @@ struct ListedProbe {
     std::optional<std::wstring> nameInFile; // where it is another one
     bool isNew = false;                     // it has no record in the file
     ProbeContent content;
+    ProbeType typeInFile = {}; // of its record, when it is not new
     [[nodiscard]] const std::wstring& Section() const { return nameInFile ? *nameInFile : name; }
     [[nodiscard]] bool IsRenamed() const { return !isNew && nameInFile; }
     /// Whether a save writes only the keys that have other values than in the file.
@@ -45,6 +46,12 @@ struct ListedProbe {
     /// Whether a save would write it.
     [[nodiscard]] bool IsChanged() const { return isNew || IsRenamed() || content.IsChanged(); }
     void SetName(std::wstring newName);
+    /// Changes places with another content of the same probe.
+    void SwapContent(ProbeContent& other);
+    /// It is in the file now, as it is.
+    void SetSaved();
+    /// It is not in the file now.
+    void SetNew();
 };
 
 } // namespace ProbeSetup

@@ -3,9 +3,10 @@
 #include "QuorConversions/core/CQuorConversion.h"
 #include "QuorConversions/qt/QtPlatform.h"
 #include "QuorConversions/qt/QtText.h"
-#include "apps/probe-setup/MessageBox.h"
-#include "apps/probe-setup/ProbeDialog.h"
+#include "apps/probe-setup/FindingPane.h"
 #include "apps/probe-setup/ProbeList.h"
+#include "apps/probe-setup/ReloadBar.h"
+#include "apps/probe-setup/ValuePane.h"
 #include "apps/probe-setup/Wording.h"
 
 #include <QAction>
@@ -17,10 +18,12 @@
 #include <QLocale>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
 #include <QTreeView>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -39,9 +42,9 @@ constexpr std::int32_t typesTopic = 10102;
 // What the window remembers.
 constexpr const wchar_t* geometryName = L"Geometry";
 constexpr const wchar_t* columnsName = L"Columns";
+constexpr const wchar_t* panesName = L"Panes";
 
 // How long something stands in the status bar, in milliseconds.
-constexpr int aWhile = 5000;
 constexpr int longEnoughToAct = 10000;
 
 } // namespace
@@ -56,38 +59,67 @@ MainWindow::MainWindow(std::shared_ptr<QuorRegistryII::Registry> registry, const
       m_recent(m_settings, *m_recentMenu,
                [this](const QString& path) { Run([this, &path] { OpenPath(path); }); }),
       m_files(*this, *m_platform, *m_document, *m_list, m_recent),
+      m_probes(*this, *m_document, *m_list, m_files, [this] { ShowHelp(typesTopic); }),
+      m_reports(*this, *m_document, *m_platform),
+      m_reloadBar(new ReloadBar([this] { Run([this] { m_files.Reload(); }); })),
+      m_values(new ValuePane(*m_document, *m_platform)),
+      m_findings(new FindingPane(
+          *m_document, [this](const auto& findings) { m_list->SetFindings(findings); },
+          [this](std::size_t probe) { Run([this, probe] { m_list->GoTo(probe); }); })),
+      m_watch([this] { ShowWhetherOthersWrote(); }),
       m_readOnly(new QLabel(tr("Read-only"))),
       m_count(new QLabel) {
     CQuorConversion().SetHelpFile(FromQt(helpFile));
     setObjectName(QStringLiteral("mainWindow"));
     setAcceptDrops(true);
-    setCentralWidget(m_list);
+    auto* const middle = new QWidget;
+    auto* const rows = new QVBoxLayout(middle);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->addWidget(m_reloadBar);
+    rows->addWidget(m_list);
+    setCentralWidget(middle);
+    addDockWidget(Qt::RightDockWidgetArea, m_values);
+    addDockWidget(Qt::BottomDockWidgetArea, m_findings);
+    m_findings->hide();
     MakeFileMenu();
     MakeEditMenu();
     MakeProbeMenu();
+    MakeViewMenu();
     MakeHelpMenu();
     MakeToolBar();
-    connect(&Table(), &QTreeView::doubleClicked, this, [this] { Run([this] { Edit(); }); });
+    connect(&Table(), &QTreeView::doubleClicked, this, [this] { Run([this] { m_probes.Edit(); }); });
     statusBar()->addPermanentWidget(m_readOnly);
     statusBar()->addPermanentWidget(m_count);
 
     const QSize tools = findChild<QToolBar*>()->sizeHint();
-    resize(std::max(fontMetrics().averageCharWidth() * 110,
-                    tools.width() + fontMetrics().averageCharWidth() * 8),
-           fontMetrics().height() * 34);
+    const int character = fontMetrics().averageCharWidth();
+    resize(QSize(std::max(character * 150, tools.width() + character * 8), fontMetrics().height() * 34)
+               .boundedTo(screen()->availableSize()));
+    resizeDocks({m_values}, {character * 58}, Qt::Horizontal);
     restoreGeometry(QByteArray::fromBase64(m_settings.Read(geometryName).toLatin1()));
     Table().header()->restoreState(QByteArray::fromBase64(m_settings.Read(columnsName).toLatin1()));
+    restoreState(QByteArray::fromBase64(m_settings.Read(panesName).toLatin1()));
     m_list->Show({});
     Table().setFocus();
 }
 
 MainWindow::~MainWindow() {
-    delete takeCentralWidget(); // before the document that it shows
+    // Before the document that they show; and nothing is shown any more when they go.
+    m_values->disconnect(this);
+    delete takeCentralWidget();
+    delete m_values;
+    delete m_findings;
 }
 
 QTreeView& MainWindow::Table() { return m_list->Table(); }
 
 // Actions
+
+QMenu& MainWindow::AddMenu(const QString& title) {
+    QMenu& menu = *menuBar()->addMenu(title);
+    menu.setToolTipsVisible(true); // they say why an entry is disabled
+    return menu;
+}
 
 QAction* MainWindow::AddAction(QMenu& menu, const char* name, const QString& text,
                                const QKeySequence& shortcut, const QString& tip, std::function<void()> run) {
@@ -95,6 +127,7 @@ QAction* MainWindow::AddAction(QMenu& menu, const char* name, const QString& tex
     action->setObjectName(QString::fromLatin1(name));
     action->setShortcut(shortcut);
     action->setStatusTip(tip);
+    action->setToolTip(tip);
     connect(action, &QAction::triggered, this, [this, run = std::move(run)] { Run(run); });
     return action;
 }
@@ -107,7 +140,7 @@ void MainWindow::Run(const std::function<void()>& command) {
 }
 
 void MainWindow::MakeFileMenu() {
-    QMenu& file = *menuBar()->addMenu(tr("&File"));
+    QMenu& file = AddMenu(tr("&File"));
     AddAction(file, "new", tr("&New"), QKeySequence::New, tr("Start a new file"), [this] { m_files.New(); });
     AddAction(file, "open", tr("&Open\u2026"), QKeySequence::Open,
               tr("Open the file of a host, or add the probe of a settings file"), [this] { m_files.Open(); });
@@ -115,40 +148,68 @@ void MainWindow::MakeFileMenu() {
     file.addSeparator();
     AddAction(file, "save", tr("&Save"), QKeySequence::Save, tr("Write the changes into the file"),
               [this] { m_files.Save(); });
-    AddAction(file, "saveCopy", tr("Save a &copy as\u2026"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+    AddAction(file, "saveAs", tr("Save &as\u2026"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+              tr("Write the file with the changes under another name, and go on with that file"),
+              [this] { m_files.SaveAs(); });
+    AddAction(file, "saveCopy", tr("Save a &copy as\u2026"), {},
               tr("Write the file with the changes under another name"), [this] { m_files.SaveCopyAs(); });
     file.addSeparator();
-    m_needWritable.push_back(AddAction(file, "import", tr("&Import probe\u2026"),
-                                       QKeySequence(Qt::CTRL | Qt::Key_I),
-                                       tr("Add the probe of a settings file"), [this] { m_files.Import(); }));
-    m_needProbe.push_back(
-        AddAction(file, "export", tr("&Export probe\u2026"), QKeySequence(Qt::CTRL | Qt::Key_E),
-                  tr("Write the probe into a settings file of its own"), [this] { Export(); }));
+    m_rules.Add(*AddAction(file, "import", tr("&Import probe\u2026"), QKeySequence(Qt::CTRL | Qt::Key_I),
+                           tr("Add the probe of a settings file"), [this] { m_files.Import(); }),
+                {.writable = true});
+    m_rules.Add(*AddAction(file, "export", tr("&Export probes\u2026"), QKeySequence(Qt::CTRL | Qt::Key_E),
+                           tr("Write each selected probe into a settings file of its own"),
+                           [this] { m_probes.Export(); }),
+                {.probe = true});
+    file.addSeparator();
+    m_rules.Add(*AddAction(file, "print", tr("&Print\u2026"), QKeySequence::Print,
+                           tr("Print the selected probes, with all their values"),
+                           [this] { m_reports.Print(m_list->Selected()); }),
+                {.probe = true});
+    m_rules.Add(*AddAction(file, "pdf", tr("Save as P&DF\u2026"), {},
+                           tr("Put the selected probes into a PDF file, as they would be printed"),
+                           [this] { m_reports.SavePdf(m_list->Selected()); }),
+                {.probe = true});
     file.addSeparator();
     AddAction(file, "quit", tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), tr("Leave Probe Setup"),
               [this] { close(); });
 }
 
 void MainWindow::MakeEditMenu() {
-    QMenu& edit = *menuBar()->addMenu(tr("&Edit"));
+    QMenu& edit = AddMenu(tr("&Edit"));
     AddAction(edit, "undo", tr("&Undo"), QKeySequence::Undo, tr("Take the last change back"), [this] {
-        Undo();
+        m_probes.Undo();
     })->setIconText(tr("Undo"));
     auto* const redo = AddAction(edit, "redo", tr("&Redo"), QKeySequence::Redo, tr("Make the change again"),
-                                 [this] { Redo(); });
+                                 [this] { m_probes.Redo(); });
     redo->setShortcuts(QKeySequence::Redo); // some people know another one
     redo->setIconText(tr("Redo"));
+    edit.addSeparator();
+    auto* const copy = AddAction(edit, "copy", tr("&Copy probes"), QKeySequence::Copy,
+                                 tr("Put the selected probes on the clipboard, as text of an INI file"),
+                                 [this] { m_probes.Copy(); });
+    auto* const paste =
+        AddAction(edit, "paste", tr("&Paste probes"), QKeySequence::Paste,
+                  tr("Add the probes of the text on the clipboard"), [this] { m_probes.Paste(); });
+    m_rules.Add(*copy, {.probe = true});
+    m_rules.Add(*paste, {.writable = true});
+    // These keys mean other things where text is typed or selected.
+    for (QAction* const action : {copy, paste}) {
+        action->setShortcutContext(Qt::WidgetShortcut);
+        Table().addAction(action);
+    }
     edit.addSeparator();
     AddAction(edit, "findProbe", tr("&Find"), QKeySequence::Find, tr("Show the probes that contain a text"),
               [this] { m_list->GoToFindBox(); });
 }
 
 void MainWindow::MakeProbeMenu() {
-    QMenu& probe = *menuBar()->addMenu(tr("&Probe"));
-    auto* const add = AddAction(probe, "add", tr("&Add\u2026"), QKeySequence(Qt::Key_Insert),
-                                tr("Add a probe with a name and a conversion type"), [this] { Add(); });
+    QMenu& probe = AddMenu(tr("&Probe"));
+    auto* const add =
+        AddAction(probe, "add", tr("&Add\u2026"), QKeySequence(Qt::Key_Insert),
+                  tr("Add a probe with a name and a conversion type"), [this] { m_probes.Add(); });
     auto* const edit = AddAction(probe, "edit", tr("&Edit\u2026"), {},
-                                 tr("Edit the settings of the conversion"), [this] { Edit(); });
+                                 tr("Edit the settings of the conversion"), [this] { m_probes.Edit(); });
     edit->setShortcuts({QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)});
     auto* const rename = AddAction(probe, "rename", tr("Re&name"), QKeySequence(Qt::Key_F2),
                                    tr("Give the probe another name"), [this] {
@@ -157,15 +218,20 @@ void MainWindow::MakeProbeMenu() {
                                    });
     auto* const changeType =
         AddAction(probe, "changeType", tr("Change &type\u2026"), QKeySequence(Qt::CTRL | Qt::Key_T),
-                  tr("Give the probe another conversion type"), [this] { ChangeType(); });
-    auto* const duplicate =
-        AddAction(probe, "duplicate", tr("&Duplicate"), QKeySequence(Qt::CTRL | Qt::Key_D),
-                  tr("Add a probe with the same settings"), [this] { Duplicate(); });
+                  tr("Give the selected probes another conversion type"), [this] { m_probes.ChangeType(); });
+    auto* const duplicate = AddAction(
+        probe, "duplicate", tr("&Duplicate"), QKeySequence(Qt::CTRL | Qt::Key_D),
+        tr("Add probes with the same settings as the selected ones"), [this] { m_probes.Duplicate(); });
     auto* const remove = AddAction(probe, "remove", tr("&Remove"), QKeySequence(Qt::Key_Delete),
-                                   tr("Remove the selected probes"), [this] { Remove(); });
-    m_needWritable.push_back(add);
-    m_needProbe.push_back(edit);
-    m_needWritableProbe = {rename, changeType, duplicate, remove};
+                                   tr("Remove the selected probes"), [this] { m_probes.Remove(); });
+    probe.addSeparator();
+    AddAction(probe, "check", tr("&Check"), QKeySequence(Qt::Key_F7),
+              tr("List all that is wrong with the probes of the file"), [this] { Check(); });
+    m_rules.Add(*add, {.writable = true});
+    m_rules.Add(*edit, {.probe = true, .one = true});
+    m_rules.Add(*rename, {.probe = true, .one = true, .writable = true});
+    for (QAction* const action : {changeType, duplicate, remove})
+        m_rules.Add(*action, {.probe = true, .writable = true});
     // These keys mean other things in the find box and while a name is typed.
     for (QAction* const action : {add, edit, rename, remove}) {
         action->setShortcutContext(Qt::WidgetShortcut);
@@ -174,8 +240,16 @@ void MainWindow::MakeProbeMenu() {
     Table().addActions({changeType, duplicate});
 }
 
+void MainWindow::MakeViewMenu() {
+    QMenu& view = AddMenu(tr("&View"));
+    m_values->toggleViewAction()->setText(tr("&Values"));
+    m_findings->toggleViewAction()->setText(tr("&Findings"));
+    view.addActions({m_values->toggleViewAction(), m_findings->toggleViewAction()});
+    connect(m_values, &QDockWidget::visibilityChanged, this, [this] { ShowState(); });
+}
+
 void MainWindow::MakeHelpMenu() {
-    QMenu& help = *menuBar()->addMenu(tr("&Help"));
+    QMenu& help = AddMenu(tr("&Help"));
     AddAction(help, "help", tr("&Help"), QKeySequence::HelpContents, tr("Show the help"),
               [this] { ShowHelp(windowTopic); });
     AddAction(help, "about", tr("&About Probe Setup"), {}, tr("Show the version"), [this] { ShowAbout(); });
@@ -195,112 +269,12 @@ void MainWindow::MakeToolBar() {
     }
 }
 
-// Probes
+// Panes and help
 
-bool MainWindow::HasSettings(std::size_t probe) {
-    const bool has = m_document->HasSettings(probe);
-    if (!has)
-        statusBar()->showMessage(tr("\"%1\" has no settings to edit: %2.")
-                                     .arg(ToQt(m_document->Name(probe)), m_list->ConversionText(probe)),
-                                 longEnoughToAct);
-    return has;
-}
-
-void MainWindow::Add() {
-    ProbeDialog dialog(this, *m_document, ToQt(m_document->FreeName(FromQt(tr("New probe")))),
-                       [this] { ShowHelp(typesTopic); });
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    m_list->ShowNew({m_document->Add(FromQt(dialog.Name()), *dialog.ChosenType())});
-    Table().setFocus();
-}
-
-void MainWindow::Edit() {
-    const auto probe = m_list->Current();
-    if (!probe)
-        return;
-    const ReadProblems& problems = m_document->CheckRecord(*probe);
-    if (!problems.IsEmpty()) {
-        // Where there is no dialog, no values stand in it.
-        const QString what =
-            m_document->Type(*probe)
-                ? tr("These keys are missing or cannot be read; default values stand in their place:")
-                : tr("This key is missing or cannot be read:");
-        MessageBox(this, QMessageBox::Warning,
-                   tr("The record of \"%1\" in %2 cannot be read wholly.")
-                       .arg(ToQt(m_document->Name(*probe)), ToQt(m_document->Path())),
-                   what + QLatin1Char('\n') + Wording::Lines(problems.Lines()))
-            .exec();
-    }
-    if (!HasSettings(*probe))
-        return;
-    if (m_document->Edit(*probe))
-        m_list->ShowChanged(*probe);
-}
-
-void MainWindow::Export() {
-    const auto probe = m_list->Current();
-    if (probe && HasSettings(*probe))
-        m_files.Export(*probe);
-}
-
-void MainWindow::ChangeType() {
-    const auto probe = m_list->Current();
-    if (!probe)
-        return;
-    ProbeDialog dialog(this, ToQt(m_document->Name(*probe)), m_document->Type(*probe),
-                       [this] { ShowHelp(typesTopic); });
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    if (const auto type = dialog.ChosenType())
-        m_document->SetType(*probe, *type);
-    m_list->ShowChanged(*probe);
-}
-
-void MainWindow::Duplicate() {
-    const auto probe = m_list->Current();
-    if (!probe)
-        return;
-    std::size_t copy = 0;
-    if (RunOrTell(this, tr("\"%1\" cannot be duplicated.").arg(ToQt(m_document->Name(*probe))),
-                  [&] { copy = m_document->Duplicate(*probe); }))
-        m_list->ShowNew({copy});
-}
-
-void MainWindow::Remove() {
-    const std::vector<std::size_t> probes = m_list->Selected();
-    if (probes.empty())
-        return;
-    m_document->Remove(probes);
-    m_list->Show(probes.front());
-    statusBar()->showMessage(probes.size() == 1
-                                 ? tr("One probe is removed. Undo brings it back.")
-                                 : tr("%1 probes are removed. Undo brings them back.")
-                                       .arg(QLocale().toString(static_cast<qulonglong>(probes.size()))),
-                             aWhile);
-}
-
-void MainWindow::Undo() {
-    const std::size_t count = m_document->Count();
-    ShowStep(m_document->Undo(), count);
-    statusBar()->showMessage(tr("Taken back: %1").arg(Wording::Of(*m_document->RedoKind())), aWhile);
-}
-
-void MainWindow::Redo() {
-    const std::size_t count = m_document->Count();
-    ShowStep(m_document->Redo(), count);
-    statusBar()->showMessage(tr("Done again: %1").arg(Wording::Of(*m_document->UndoKind())), aWhile);
-}
-
-void MainWindow::ShowStep(const std::vector<std::size_t>& places, std::size_t count) {
-    if (m_document->Count() < count) {
-        m_list->Show(places.front()); // probes have gone
-    } else if (m_document->Count() > count || !m_list->IsShown(places.front())) {
-        m_list->ShowNew(places);
-    } else {
-        m_list->ShowChanged(places.front());
-        m_list->Select(places);
-    }
+void MainWindow::Check() {
+    m_findings->Check();
+    m_findings->show();
+    m_findings->raise();
 }
 
 void MainWindow::ShowHelp(std::int32_t topic) {
@@ -336,16 +310,17 @@ QString MainWindow::EmptyText() const {
 
 void MainWindow::ShowState() {
     setWindowTitle(tr("%1[*] \u2013 Probe Setup").arg(m_files.FileName()));
-    setWindowModified(m_document->Changed());
+    const bool changed = m_document->Changed();
+    setWindowModified(changed);
     const bool writable = !m_document->IsReadOnly();
-    const bool any = m_list->Current().has_value();
-    for (QAction* const action : m_needProbe)
-        action->setEnabled(any);
-    for (QAction* const action : m_needWritableProbe)
-        action->setEnabled(any && writable);
-    for (QAction* const action : m_needWritable)
-        action->setEnabled(writable);
-    Action("save").setEnabled(writable && (m_document->Changed() || m_document->Path().empty()));
+    const std::vector<std::size_t> selected = m_list->Selected();
+    m_rules.Apply(selected.size(), writable);
+    Action("save").setEnabled(writable && (changed || m_document->Path().empty()));
+    m_watch.Watch(ToQt(m_document->Path()));
+    ShowWhetherOthersWrote();
+    m_findings->Refresh();
+    if (m_values->isVisible())
+        m_values->ShowValues(selected);
 
     const auto undo = m_document->UndoKind();
     const auto redo = m_document->RedoKind();
@@ -363,6 +338,10 @@ void MainWindow::ShowState() {
     m_list->SetEmptyText(shown == 0 ? EmptyText() : QString());
 }
 
+void MainWindow::ShowWhetherOthersWrote() {
+    m_reloadBar->ShowFor(m_document->ChangedByOthers() ? m_files.FileName() : QString());
+}
+
 // Events
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -372,6 +351,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         return;
     }
     m_settings.Write(geometryName, QString::fromLatin1(saveGeometry().toBase64()));
+    m_settings.Write(panesName, QString::fromLatin1(saveState().toBase64()));
     m_settings.Write(columnsName, QString::fromLatin1(Table().header()->saveState().toBase64()));
     event->accept();
 }

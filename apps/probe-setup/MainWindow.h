@@ -1,9 +1,13 @@
 #pragma once
 
 #include "QuorRegistryII/Registry.h"
+#include "apps/probe-setup/CommandRules.h"
 #include "apps/probe-setup/FileCommands.h"
+#include "apps/probe-setup/FileWatch.h"
+#include "apps/probe-setup/ProbeCommands.h"
 #include "apps/probe-setup/ProbeDocument.h"
 #include "apps/probe-setup/RecentFiles.h"
+#include "apps/probe-setup/ReportCommands.h"
 #include "apps/probe-setup/WindowSettings.h"
 
 #include <QCoreApplication>
@@ -14,7 +18,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <vector>
 
 class QAction;
 class QLabel;
@@ -27,7 +30,10 @@ class QtPlatform;
 
 namespace ProbeSetup {
 
+class FindingPane;
 class ProbeList;
+class ReloadBar;
+class ValuePane;
 
 /// The window of Probe Setup: the probes of one file, and what can be done with them.
 class MainWindow final : public QMainWindow {
@@ -58,33 +64,25 @@ private:
     void MakeFileMenu();
     void MakeEditMenu();
     void MakeProbeMenu();
+    void MakeViewMenu();
     void MakeHelpMenu();
     void MakeToolBar();
+    QMenu& AddMenu(const QString& title);
     QAction* AddAction(QMenu& menu, const char* name, const QString& text, const QKeySequence& shortcut,
                        const QString& tip, std::function<void()> run);
     [[nodiscard]] QAction& Action(const char* name) const;
     /// Runs a command of the user's, after a name that they were typing has been taken.
     void Run(const std::function<void()>& command);
 
-    void Add();
-    void Edit();
-    void Export();
-    void ChangeType();
-    void Duplicate();
-    void Remove();
-    void Undo();
-    void Redo();
-    /// Shows the list after a step was taken back or done again. There were `count` probes before.
-    void ShowStep(const std::vector<std::size_t>& places, std::size_t count);
+    void Check();
     void ShowHelp(std::int32_t topic);
     void ShowAbout();
 
-    /// Tells the user when a probe has none.
-    [[nodiscard]] bool HasSettings(std::size_t probe);
     /// What to do where no probe is shown.
     [[nodiscard]] QString EmptyText() const;
     /// Shows what depends on the document and on the selection: title, actions, status bar, empty list.
     void ShowState();
+    void ShowWhetherOthersWrote();
 
     std::shared_ptr<QuorConversions::QtToolkit::QtPlatform> m_platform;
     std::unique_ptr<ProbeDocument> m_document;
@@ -93,11 +91,15 @@ private:
     QMenu* m_recentMenu;
     RecentFiles m_recent;
     FileCommands m_files;
+    ProbeCommands m_probes;
+    ReportCommands m_reports;
+    CommandRules m_rules;
+    ReloadBar* m_reloadBar;
+    ValuePane* m_values;
+    FindingPane* m_findings;
+    FileWatch m_watch;
     QLabel* m_readOnly;
     QLabel* m_count;
-    std::vector<QAction*> m_needProbe;         // of these any number may be selected
-    std::vector<QAction*> m_needWritableProbe; // as above, in a file that may be written
-    std::vector<QAction*> m_needWritable;
 };
 
 } // namespace ProbeSetup

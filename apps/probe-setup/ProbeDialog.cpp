@@ -2,12 +2,10 @@
 
 #include "QuorConversions/core/modStrings.h"
 #include "QuorConversions/qt/QtText.h"
-#include "QuorProbeFile/ProbeTypes.h"
-#include "apps/probe-setup/TypeTexts.h"
+#include "apps/probe-setup/TypeChooser.h"
 #include "apps/probe-setup/Wording.h"
 
 #include <QDialogButtonBox>
-#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -22,13 +20,13 @@ using namespace QuorConversions;
 using QtToolkit::FromQt;
 using QtToolkit::ToQt;
 
-ProbeDialog::ProbeDialog(QWidget* parent, const QString& probe, ProbeType type, std::function<void()> help)
-    : QDialog(parent), m_types(new QListWidget), m_buttons(new QDialogButtonBox) {
-    setWindowTitle(tr("Conversion type of %1").arg(probe));
-    AddTypes(true, type);
-    Build(tr("Another type starts with values of its own; the present ones are not carried over."),
+ProbeDialog::ProbeDialog(QWidget* parent, const QString& probes, const TypeChoice& type,
+                         std::function<void()> help)
+    : QDialog(parent), m_buttons(new QDialogButtonBox) {
+    setWindowTitle(tr("Conversion type of %1").arg(probes));
+    Build(type, tr("Another type starts with values of its own; the present ones are not carried over."),
           std::move(help));
-    m_types->setFocus();
+    m_types->List().setFocus();
 }
 
 ProbeDialog::ProbeDialog(QWidget* parent, const ProbeDocument& document, const QString& name,
@@ -37,36 +35,27 @@ ProbeDialog::ProbeDialog(QWidget* parent, const ProbeDocument& document, const Q
       m_document(&document),
       m_name(new QLineEdit(name)),
       m_problem(new QLabel),
-      m_types(new QListWidget),
       m_buttons(new QDialogButtonBox) {
     setWindowTitle(tr("Add a probe"));
     m_name->setObjectName(QStringLiteral("probeName"));
     m_problem->setObjectName(QStringLiteral("nameProblem"));
     m_problem->setTextFormat(Qt::PlainText); // a name may look like mark-up
     m_problem->setWordWrap(true);
-    AddTypes(false, CONV_ITS90);
-    Build(tr("The probe gets the default values of its type."), std::move(help));
+    Build(CONV_ITS90, tr("The probe gets the default values of its type."), std::move(help));
     m_name->setFocus();
     m_name->selectAll();
-    connect(m_name, &QLineEdit::textChanged, this, [this] { CheckName(); });
-    CheckName();
+    connect(m_name, &QLineEdit::textChanged, this, [this] { CheckInput(); });
+    CheckInput();
 }
 
-void ProbeDialog::AddTypes(bool withKeep, ProbeType selected) {
-    for (const QuorProbeFile::TypeInfo& type : QuorProbeFile::Types()) {
-        if (type.code == CONV_NONE && !withKeep)
-            continue;
-        auto* const item = new QListWidgetItem(TypeTexts::OfChoice(type.code), m_types);
-        item->setData(Qt::UserRole, static_cast<int>(type.code));
-        if (selected == type.code || m_types->count() == 1)
-            m_types->setCurrentItem(item);
-    }
-}
-
-void ProbeDialog::Build(const QString& hint, std::function<void()> help) {
+void ProbeDialog::Build(const TypeChoice& selected, const QString& hint, std::function<void()> help) {
     setObjectName(QStringLiteral("probeDialog"));
-    m_types->setObjectName(QStringLiteral("probeType"));
-    m_types->setMinimumHeight(m_types->sizeHintForRow(0) * 12);
+    m_types = new TypeChooser(
+        selected, [this] { CheckInput(); },
+        [this] {
+            if (m_buttons->button(QDialogButtonBox::Ok)->isEnabled())
+                accept();
+        });
     auto* const layout = new QVBoxLayout(this);
     if (m_name) {
         auto* const label = new QLabel(tr("&Name:"));
@@ -75,9 +64,6 @@ void ProbeDialog::Build(const QString& hint, std::function<void()> help) {
         layout->addWidget(m_name);
         layout->addWidget(m_problem);
     }
-    auto* const label = new QLabel(tr("Conversion &type:"));
-    label->setBuddy(m_types);
-    layout->addWidget(label);
     layout->addWidget(m_types, 1);
     auto* const note = new QLabel(hint);
     note->setWordWrap(true);
@@ -92,27 +78,21 @@ void ProbeDialog::Build(const QString& hint, std::function<void()> help) {
     connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_buttons, &QDialogButtonBox::helpRequested, this, std::move(help));
-    connect(m_types, &QListWidget::itemDoubleClicked, this, [this] {
-        if (m_buttons->button(QDialogButtonBox::Ok)->isEnabled())
-            accept();
-    });
     resize(sizeHint().expandedTo({fontMetrics().averageCharWidth() * 60, 0}));
 }
 
-void ProbeDialog::CheckName() {
-    const QString name = Name();
-    const QString problem = Wording::Of(m_document->CheckName(FromQt(name)), name);
-    m_problem->setText(problem);
-    m_problem->setVisible(!problem.isEmpty());
-    m_buttons->button(QDialogButtonBox::Ok)->setEnabled(problem.isEmpty());
+void ProbeDialog::CheckInput() {
+    QString problem;
+    if (m_name) {
+        problem = Wording::Of(m_document->CheckName(FromQt(Name())), Name());
+        m_problem->setText(problem);
+        m_problem->setVisible(!problem.isEmpty());
+    }
+    m_buttons->button(QDialogButtonBox::Ok)->setEnabled(problem.isEmpty() && ChosenType());
 }
 
 QString ProbeDialog::Name() const { return m_name->text().trimmed(); }
 
-std::optional<EQuorConversionType> ProbeDialog::ChosenType() const {
-    const QListWidgetItem* const item = m_types->currentItem();
-    const auto type = EQuorConversionType{item ? item->data(Qt::UserRole).toInt() : CONV_NONE};
-    return type == CONV_NONE ? std::nullopt : std::optional(type);
-}
+std::optional<TypeChoice> ProbeDialog::ChosenType() const { return m_types->Chosen(); }
 
 } // namespace ProbeSetup

@@ -2,6 +2,7 @@
 
 #include "QuorConversions/core/modPaths.h"
 #include "QuorConversions/core/modStrings.h"
+#include "QuorIniFile/Utf8.h"
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeTypes.h"
 #include "QuorProbeFile/RecordImage.h"
@@ -98,6 +99,22 @@ ReadProblems ReadInto(CQuorConversion& conversion, ProbeFile& file, const std::w
     return ProblemsOf(outcome);
 }
 
+/// A name of a probe as that of a file: a slash would lead into another folder.
+std::wstring FileNameOf(std::wstring name) {
+    std::replace_if(
+        name.begin(), name.end(), [](wchar_t c) { return c == L'/' || c == L'\\'; }, L'-');
+    return name;
+}
+
+/// Whether a conversion is what is chosen, and nothing would be another by choosing it.
+bool Covers(const TypeChoice& choice, const CQuorConversion& conversion) {
+    const TypeChoice present = TypeChoice::Of(conversion);
+    const auto same = [](const auto& chosen, const auto& is) { return !chosen || chosen == is; };
+    return choice.type == present.type && same(choice.polynomial, present.polynomial) &&
+           same(choice.letter, present.letter) && same(choice.low, present.low) &&
+           same(choice.high, present.high);
+}
+
 /// What is written through a store as long as this lives stays in memory.
 class InMemory {
 public:
@@ -150,6 +167,7 @@ void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
         ListedProbe entry;
         entry.name = probe.section;
         entry.content.type = probe.type;
+        entry.typeInFile = probe.type;
         if (!probe.type || IsNamedByItsValues(*probe.type)) {
             entry.content.name = NumberOf(file->ConversionName(probe));
         } else {
@@ -190,6 +208,9 @@ void ProbeDocument::Close() {
     m_foreign.clear();
     m_done.clear();
     m_undone.clear();
+    m_gone.clear();
+    m_problems.reset();
+    ++m_revision;
 }
 
 std::vector<std::size_t> ProbeDocument::LostRecords() const {
@@ -330,20 +351,45 @@ bool ProbeDocument::Edit(std::size_t probe) {
     if (RecordImage::Same(*RecordImage::Of(*conversion.Settings()), *RecordImage::Of(*copy->Settings())))
         return false;
     copy->SetChanged(true);
-    ProbeContent content = ContentOf(copy);
-    content.replacesRecord = m_probes[probe].content.replacesRecord;
-    Do({StepKind::Edit, {probe}, {}, {}, std::move(content)});
+    Step step{StepKind::Edit, {probe}, {}, {}, {}};
+    step.contents.push_back(ContentOf(copy));
+    Do(std::move(step));
     return true;
+}
+
+std::vector<ProbeFinding> ProbeDocument::Check() {
+    if (m_file && !m_problems)
+        m_problems = m_file->Check();
+    std::vector<ProbeFinding> findings;
+    if (m_problems)
+        findings = FindingsOf(*m_problems, m_probes);
+    const auto add = [&findings](std::size_t probe, ProbeProblem problem) {
+        problem.line = 0;
+        findings.push_back({probe, std::move(problem)});
+    };
+    // What has changed is checked in a file in memory, where it stands as a save would write it.
+    for (std::size_t i = 0; i < m_probes.size(); ++i) {
+        const ListedProbe& entry = m_probes[i];
+        if ((!entry.isNew && !entry.content.IsChanged()) || !entry.content.conversion)
+            continue;
+        const auto file = FileThatDoesNotExist(m_path.empty() ? std::wstring(L"new.ini") : m_path);
+        const InMemory inMemory(*file->Store());
+        try {
+            DocumentSave::WriteWhole(*file, entry);
+            for (ProbeProblem& problem : file->Check())
+                add(i, std::move(problem));
+        } catch (const DocumentError& error) {
+            add(i, {PROBLEM_RECORD_REFUSED, 0, entry.name, {}, error.details.back()});
+        }
+    }
+    return findings;
 }
 
 std::optional<std::wstring> ProbeDocument::Export(std::size_t probe, std::int32_t hwnd) {
     RequireWhole(m_probes[probe]);
     const std::shared_ptr<SettingsObject> settings = Conversion(probe).Settings();
-    // A slash in a name would lead into another folder.
-    std::wstring fileName = Name(probe);
-    std::replace_if(
-        fileName.begin(), fileName.end(), [](wchar_t c) { return c == L'/' || c == L'\\'; }, L'-');
-    fileName = GetFolderPart(m_path) + fileName + L'.' + settings->FileExtension();
+    std::wstring fileName =
+        GetFolderPart(m_path) + FileNameOf(Name(probe)) + L'.' + settings->FileExtension();
     const QuietPlatform::Quiet quiet(*m_platform);
     const bool chosen = settings->SaveFileAs(hwnd, fileName);
     if (!quiet.Messages().empty())
@@ -351,24 +397,98 @@ std::optional<std::wstring> ProbeDocument::Export(std::size_t probe, std::int32_
     return chosen ? std::optional(fileName) : std::nullopt;
 }
 
+std::wstring ProbeDocument::ExportName(std::size_t probe) {
+    const std::shared_ptr<SettingsObject> settings = Conversion(probe).Settings();
+    return settings ? FileNameOf(Name(probe)) + L'.' + settings->FileExtension() : std::wstring();
+}
+
+void ProbeDocument::ExportTo(std::size_t probe, const std::wstring& path) {
+    RequireWhole(m_probes[probe]);
+    const std::shared_ptr<SettingsObject> settings = Conversion(probe).Settings();
+    const auto file = FileThatDoesNotExist(path);
+    const InMemory inMemory(*file->Store());
+    settings->WriteOrRaise(file->Store(), settings->SectionName());
+    file->SaveAs(path);
+}
+
+std::wstring ProbeDocument::TextOf(const std::vector<std::size_t>& probes) {
+    const auto file = FileThatDoesNotExist(m_path.empty() ? std::wstring(L"new.ini") : m_path);
+    const InMemory inMemory(*file->Store());
+    for (const std::size_t probe : probes) {
+        RequireWhole(m_probes[probe]);
+        DocumentSave::WriteWhole(*file, m_probes[probe]);
+    }
+    std::wstring text;
+    IniLines lines = file->Store()->Lines();
+    while (lines.Next()) {
+        if (lines.Is(IniLines::Kind::Header) && !text.empty())
+            text += L'\n';
+        text += QuorIniFile::DecodeBytes(lines.Bytes());
+    }
+    return text;
+}
+
+bool ProbeDocument::ChangedByOthers() {
+    try {
+        return m_file && m_file->Changed();
+    } catch (const QuorError&) {
+        return true; // it cannot be read any more
+    }
+}
+
+bool ProbeDocument::IsStale(std::size_t probe) {
+    const ListedProbe& entry = m_probes[probe];
+    if (entry.isNew || !ChangedByOthers())
+        return false;
+    const QuietPlatform::Quiet quiet(*m_platform);
+    const auto read = [&](ProbeFile& file, CQuorConversion& conversion) {
+        try {
+            return std::optional(file.Read(entry.Section(), conversion).problems.size());
+        } catch (const ProbeFileError&) {
+            return std::optional<std::size_t>();
+        }
+    };
+    try {
+        const auto before = NewConversion();
+        const auto now = NewConversion();
+        if (read(*m_file, *before) != read(*FileAt(m_path), *now) ||
+            before->ConversionType() != now->ConversionType())
+            return true;
+        return before->Settings() &&
+               !RecordImage::Same(*RecordImage::Of(*before->Settings()), *RecordImage::Of(*now->Settings()));
+    } catch (const QuorError&) {
+        return false; // the file is gone: there is nothing newer
+    }
+}
+
 // Changes of the list
 
-std::size_t ProbeDocument::Append(StepKind kind, std::wstring name, ProbeContent content) {
-    Step step{kind, {m_probes.size()}, {}, {}, {}};
-    step.entries.push_back({std::move(name), {}, true, std::move(content)});
-    Do(std::move(step));
-    return m_probes.size() - 1;
+std::vector<std::size_t> ProbeDocument::Append(StepKind kind, std::vector<NewProbe> probes) {
+    Step step{kind, {}, {}, {}, {}};
+    for (NewProbe& probe : probes) {
+        step.places.push_back(m_probes.size());
+        m_probes.push_back({FreeName(probe.wish), {}, true, std::move(probe.content)});
+    }
+    std::vector<std::size_t> places = step.places;
+    Push(std::move(step));
+    return places;
 }
 
-std::size_t ProbeDocument::Add(const std::wstring& name, EQuorConversionType type) {
+std::size_t ProbeDocument::Add(const std::wstring& name, const TypeChoice& type) {
     auto conversion = NewConversion();
-    conversion->SetConversionType(type);
-    return Append(StepKind::Add, name, ContentOf(std::move(conversion)));
+    type.ApplyTo(*conversion);
+    std::vector<NewProbe> added;
+    added.push_back({name, ContentOf(std::move(conversion))});
+    return Append(StepKind::Add, std::move(added)).front();
 }
 
-std::size_t ProbeDocument::Duplicate(std::size_t probe) {
-    RequireWhole(m_probes[probe]);
-    return Append(StepKind::Duplicate, FreeName(Name(probe)), ContentOf(CopyOf(Conversion(probe))));
+std::vector<std::size_t> ProbeDocument::Duplicate(const std::vector<std::size_t>& probes) {
+    std::vector<NewProbe> added;
+    for (const std::size_t probe : probes) {
+        RequireWhole(m_probes[probe]);
+        added.push_back({Name(probe), ContentOf(CopyOf(Conversion(probe)))});
+    }
+    return Append(StepKind::Duplicate, std::move(added));
 }
 
 std::size_t ProbeDocument::Import(const std::wstring& path) {
@@ -382,8 +502,26 @@ std::size_t ProbeDocument::Import(const std::wstring& path) {
     if (const ReadProblems problems = ProblemsOf(file->Read(*section, *conversion)); !problems.IsEmpty())
         throw DocumentError{Failure::UnreadableRecord, path, problems.Lines()};
     const std::wstring name = GetFileNamePart(path);
-    return Append(StepKind::Import, FreeName(name.substr(0, name.rfind(L'.'))),
-                  ContentOf(std::move(conversion)));
+    std::vector<NewProbe> added;
+    added.push_back({name.substr(0, name.rfind(L'.')), ContentOf(std::move(conversion))});
+    return Append(StepKind::Import, std::move(added)).front();
+}
+
+std::vector<std::size_t> ProbeDocument::AddFrom(const std::wstring& path) {
+    const auto file = FileAt(path);
+    std::vector<NewProbe> added;
+    for (const ProbeEntry& probe : file->Probes()) {
+        if (!probe.type || !ConversionEnumerator(*probe.type))
+            throw DocumentError{Failure::UnreadableText, path, {L"[" + probe.section + L"] ConversionType"}};
+        auto conversion = NewConversion();
+        if (const ReadProblems problems = ProblemsOf(file->Read(probe.section, *conversion));
+            !problems.IsEmpty())
+            throw DocumentError{Failure::UnreadableText, path, problems.Lines()};
+        added.push_back({probe.section, ContentOf(std::move(conversion))});
+    }
+    if (added.empty())
+        throw DocumentError{Failure::NoProbesInText, path, {}};
+    return Append(StepKind::Paste, std::move(added));
 }
 
 void ProbeDocument::Rename(std::size_t probe, const std::wstring& name) {
@@ -391,15 +529,21 @@ void ProbeDocument::Rename(std::size_t probe, const std::wstring& name) {
         Do({StepKind::Rename, {probe}, {}, name, {}});
 }
 
-void ProbeDocument::SetType(std::size_t probe, EQuorConversionType type) {
-    const ListedProbe& entry = m_probes[probe];
-    if (entry.content.type == type)
-        return;
-    auto conversion = NewConversion();
-    conversion->SetConversionType(type);
-    ProbeContent content = ContentOf(std::move(conversion));
-    content.replacesRecord = !entry.isNew;
-    Do({StepKind::ChangeType, {probe}, {}, {}, std::move(content)});
+void ProbeDocument::SetType(const std::vector<std::size_t>& probes, const TypeChoice& type) {
+    Step step{StepKind::ChangeType, {}, {}, {}, {}};
+    for (const std::size_t probe : probes) {
+        auto conversion = NewConversion();
+        type.ApplyTo(*conversion);
+        conversion->SetChanged(true);
+        // What a save takes out of the file comes back from here.
+        if (m_probes[probe].content.type == type.type && Covers(type, Conversion(probe)))
+            continue;
+        Load(m_probes[probe]);
+        step.places.push_back(probe);
+        step.contents.push_back(ContentOf(std::move(conversion)));
+    }
+    if (!step.places.empty())
+        Do(std::move(step));
 }
 
 void ProbeDocument::Remove(const std::vector<std::size_t>& probes) {
@@ -409,11 +553,23 @@ void ProbeDocument::Remove(const std::vector<std::size_t>& probes) {
 
 void ProbeDocument::Do(Step step) {
     Toggle(step);
+    Push(std::move(step));
+}
+
+void ProbeDocument::Push(Step step) {
+    for (Step& undone : m_undone) {
+        for (ListedProbe& entry : undone.entries) {
+            if (!entry.isNew)
+                m_gone.push_back(std::move(entry));
+        }
+    }
     m_undone.clear();
     m_done.push_back(std::move(step));
+    ++m_revision;
 }
 
 void ProbeDocument::Toggle(Step& step) {
+    ++m_revision;
     switch (step.kind) {
     case StepKind::Rename: {
         ListedProbe& entry = m_probes[step.places.front()];
@@ -424,11 +580,13 @@ void ProbeDocument::Toggle(Step& step) {
     }
     case StepKind::ChangeType:
     case StepKind::Edit:
-        std::swap(m_probes[step.places.front()].content, step.content);
+        for (std::size_t i = 0; i < step.places.size(); ++i)
+            m_probes[step.places[i]].SwapContent(step.contents[i]);
         return;
     case StepKind::Add:
     case StepKind::Duplicate:
     case StepKind::Import:
+    case StepKind::Paste:
     case StepKind::Remove:
         break;
     }
@@ -482,15 +640,20 @@ std::vector<std::size_t> ProbeDocument::Redo() {
 // Saving
 
 std::vector<const ListedProbe*> ProbeDocument::RemovedProbes() const {
-    // What was taken out of the list and stands in the file is in a step that was done. (Steps that were
-    // taken back hold new probes only.)
+    // A step holds what is not in the list. One that was taken back holds a probe of the file when it has
+    // added the probe before a save.
     std::vector<const ListedProbe*> removed;
-    for (const Step& step : m_done) {
-        for (const ListedProbe& entry : step.entries) {
+    const auto add = [&removed](const std::vector<ListedProbe>& entries) {
+        for (const ListedProbe& entry : entries) {
             if (!entry.isNew)
                 removed.push_back(&entry);
         }
+    };
+    for (const std::vector<Step>* const steps : {&m_done, &m_undone}) {
+        for (const Step& step : *steps)
+            add(step.entries);
     }
+    add(m_gone);
     return removed;
 }
 
@@ -502,6 +665,7 @@ bool ProbeDocument::Changed() const {
 
 void ProbeDocument::Save(const OthersChanges& replaced) {
     // What was read stays in m_file, whatever becomes of this save.
+    ReadHistory();
     auto file = FileAt(m_path);
     bool othersWrote = false;
     file->Edit([&] {
@@ -511,16 +675,8 @@ void ProbeDocument::Save(const OthersChanges& replaced) {
     });
     Settle();
     m_file = std::move(file);
-    if (!othersWrote)
-        return;
-    // Values of others that were kept would look like changes of ours, beside the file.
-    for (ListedProbe& entry : m_probes)
-        entry.content.conversion = nullptr;
-    try {
-        Open(std::wstring(m_path));
-    } catch (const QuorError&) {
-        // Everything is saved. The list lacks what others have added until the file can be read again.
-    }
+    if (othersWrote)
+        TakeOthersChanges();
 }
 
 void ProbeDocument::WriteAll(const ProbeFile& file) {
@@ -535,19 +691,44 @@ bool ProbeDocument::WriteChanges(ProbeFile& file, const OthersChanges& replaced)
     return DocumentSave(*m_file, m_probes, RemovedProbes(), requireWhole).WriteInto(file, replaced);
 }
 
+void ProbeDocument::ReadHistory() {
+    const auto isKept = [this](Step& step) {
+        return std::all_of(step.entries.begin(), step.entries.end(), [this](ListedProbe& entry) {
+            return entry.isNew ||
+                   (Load(entry).IsEmpty() && entry.content.type && ConversionEnumerator(*entry.content.type));
+        });
+    };
+    const auto lost = std::find_if_not(m_done.rbegin(), m_done.rend(), isKept);
+    for (auto step = m_done.begin(); step != lost.base(); ++step)
+        std::move(step->entries.begin(), step->entries.end(), std::back_inserter(m_gone));
+    m_done.erase(m_done.begin(), lost.base());
+}
+
 void ProbeDocument::Settle() {
-    for (ListedProbe& entry : m_probes) {
-        entry.nameInFile.reset();
-        entry.isNew = false;
-        entry.content.replacesRecord = false;
-        if (entry.content.conversion)
-            entry.content.conversion->SetChanged(false);
+    for (ListedProbe& entry : m_probes)
+        entry.SetSaved();
+    m_gone.clear();
+    for (std::vector<Step>* const steps : {&m_done, &m_undone}) {
+        for (Step& step : *steps) {
+            for (ListedProbe& entry : step.entries)
+                entry.SetNew();
+            for (ProbeContent& content : step.contents)
+                content.conversion->SetChanged(true);
+        }
     }
-    m_done.clear();
-    m_undone.clear();
+    m_problems.reset();
+    ++m_revision;
 }
 
 void ProbeDocument::SaveCopyAs(const std::wstring& path, const OthersChanges& replaced) {
+    SaveTo(path, replaced, m_path.empty());
+}
+
+void ProbeDocument::SaveAs(const std::wstring& path, const OthersChanges& replaced) {
+    SaveTo(path, replaced, true);
+}
+
+void ProbeDocument::SaveTo(const std::wstring& path, const OthersChanges& replaced, bool moves) {
     const bool isOwn = m_file && m_file->Store()->IsOwnFile(path);
     const auto file = m_path.empty() ? FileThatDoesNotExist(path) : FileAt(m_path, Opening::OrNew);
     const bool exists = Exists(*file);
@@ -555,11 +736,14 @@ void ProbeDocument::SaveCopyAs(const std::wstring& path, const OthersChanges& re
         Save(replaced);
         return;
     }
+    if (moves || isOwn)
+        ReadHistory();
+    bool othersWrote = false;
     try {
         const InMemory inMemory(*file->Store());
         // Where somebody has removed the file, the probes are what can be saved of it.
         if (exists)
-            static_cast<void>(WriteChanges(*file, replaced));
+            othersWrote = WriteChanges(*file, replaced);
         else
             WriteAll(*file);
         file->SaveAs(path);
@@ -568,13 +752,27 @@ void ProbeDocument::SaveCopyAs(const std::wstring& path, const OthersChanges& re
             error.file = path;
         throw;
     }
-    if (!m_path.empty() && !isOwn)
+    if (!moves && !isOwn)
         return;
     m_file = FileAt(path);
     m_path = path;
     m_isReadOnly = false;
-    m_foreign.clear(); // nothing but probes stands in it
+    if (!exists)
+        m_foreign.clear(); // nothing but probes stands in it
     Settle();
+    if (othersWrote)
+        TakeOthersChanges();
+}
+
+void ProbeDocument::TakeOthersChanges() {
+    // Values of others that were kept would look like changes of ours, beside the file.
+    for (ListedProbe& entry : m_probes)
+        entry.content.conversion = nullptr;
+    try {
+        Open(std::wstring(m_path));
+    } catch (const QuorError&) {
+        // Everything is saved. The list lacks what others have added until the file can be read again.
+    }
 }
 
 bool ProbeDocument::IsStandAlone(const std::wstring& path) {

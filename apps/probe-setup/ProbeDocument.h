@@ -5,9 +5,12 @@
 #include "QuorRegistryII/Registry.h"
 #include "apps/probe-setup/DocumentError.h"
 #include "apps/probe-setup/ListedProbe.h"
+#include "apps/probe-setup/ProbeFinding.h"
 #include "apps/probe-setup/QuietPlatform.h"
+#include "apps/probe-setup/TypeChoice.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -29,7 +32,7 @@ enum class NameProblem {
 };
 
 /// What the user has done to the list; each can be taken back.
-enum class StepKind { Add, Duplicate, Import, Remove, Rename, ChangeType, Edit };
+enum class StepKind { Add, Duplicate, Import, Remove, Rename, ChangeType, Edit, Paste };
 
 /// The probes of a host's INI file, as they are to be: a list that is edited in memory and saved on request.
 /// It shows nothing but the dialogs of the conversions, through the platform; it knows no toolkit.
@@ -90,18 +93,23 @@ public:
 
     // What changes the list. A name must have no problem; the document must not be read-only.
 
-    /// Adds a probe with the type's default values; its place.
-    std::size_t Add(const std::wstring& name, QuorConversions::EQuorConversionType type);
-    /// Adds a probe with the values of another one, under a free name; its place. Raises DocumentError when
-    /// the record of that one cannot be read wholly, or its type is unknown.
-    std::size_t Duplicate(std::size_t probe);
+    /// Adds a probe with the default values of a type; its place.
+    std::size_t Add(const std::wstring& name, const TypeChoice& type);
+    /// Adds probes with the values of others, under free names, in one step; their places. Raises
+    /// DocumentError, and adds none, when the record of one cannot be read wholly, or its type is unknown.
+    std::vector<std::size_t> Duplicate(const std::vector<std::size_t>& probes);
     /// Adds the probe of a stand-alone settings file, under a free name made of the file's; its place. Raises
     /// DocumentError when the file is none or cannot be read wholly.
     std::size_t Import(const std::wstring& path);
+    /// Adds the probes of another file under free names, in one step; their places. Raises QuorError when the
+    /// file cannot be read, and DocumentError, and adds none, when it has no probe, or one that cannot be
+    /// read wholly.
+    std::vector<std::size_t> AddFrom(const std::wstring& path);
     /// Keeps the name when it is the same to the letter.
     void Rename(std::size_t probe, const std::wstring& name);
-    /// Gives a probe another type, with default values. The type that it has changes nothing.
-    void SetType(std::size_t probe, QuorConversions::EQuorConversionType type);
+    /// Gives probes another type, with default values, in one step. A probe that is of the type already stays
+    /// as it is.
+    void SetType(const std::vector<std::size_t>& probes, const TypeChoice& type);
     /// Removes probes; their places in ascending order.
     void Remove(const std::vector<std::size_t>& probes);
 
@@ -114,15 +122,36 @@ public:
     /// What cannot be read of the probe's record. Nothing for a probe whose dialog was accepted with changes:
     /// its values are those of the dialog.
     [[nodiscard]] const ReadProblems& CheckRecord(std::size_t probe);
+    /// What is wrong with the probes as they would be saved, by the rules of ProbeFile::Check; the lines are
+    /// those of the file, 0 for what does not stand in it so. The file is looked through once, what has
+    /// changed each time.
+    [[nodiscard]] std::vector<ProbeFinding> Check();
     /// The conversion of a probe, for looking at it.
     [[nodiscard]] const QuorConversions::CQuorConversion& Conversion(std::size_t probe);
     /// Asks for a file, in a dialog owned by the window `hwnd`, and writes the probe as a stand-alone
     /// settings file; its path, or nothing when the user cancelled. Raises DocumentError when the record
     /// cannot be read wholly, or the file cannot be written. The probe must have settings.
     std::optional<std::wstring> Export(std::size_t probe, std::int32_t hwnd);
+    /// The name of the stand-alone settings file that a probe is exported to, without a folder; empty for a
+    /// probe without settings.
+    [[nodiscard]] std::wstring ExportName(std::size_t probe);
+    /// Writes a probe as a stand-alone settings file, in place of what is there. Raises DocumentError when
+    /// the record cannot be read wholly, and QuorError when the file cannot be written.
+    void ExportTo(std::size_t probe, const std::wstring& path);
+    /// Probes as the text of an INI file, with all their values. Raises DocumentError when the record of one
+    /// cannot be read wholly, or its type is unknown.
+    [[nodiscard]] std::wstring TextOf(const std::vector<std::size_t>& probes);
 
-    /// The last thing that was done, and the last that was taken back; nothing where there is none. A save
-    /// ends the history.
+    /// Another number whenever the probes, or the file that they are of, may be others.
+    [[nodiscard]] std::uint64_t Revision() const { return m_revision; }
+
+    /// Whether another program has changed the file since it was read, or has removed it.
+    [[nodiscard]] bool ChangedByOthers();
+    /// Whether another program has changed what the file holds of a probe since it was read.
+    [[nodiscard]] bool IsStale(std::size_t probe);
+
+    /// The last thing that was done, and the last that was taken back; nothing where there is none. It
+    /// outlives a save, unless values of other programs have come in by it.
     [[nodiscard]] std::optional<StepKind> UndoKind() const;
     [[nodiscard]] std::optional<StepKind> RedoKind() const;
     /// Each returns the places of the probes that it concerns, or where probes have gone, in ascending order.
@@ -144,6 +173,8 @@ public:
     /// what Save raises, and DocumentError when the file is gone and a probe, whose text is lost with it, was
     /// not read wholly or is of an unknown type.
     void SaveCopyAs(const std::wstring& path, const OthersChanges& replaced = {});
+    /// Saves as SaveCopyAs does, and the document goes over to the new file.
+    void SaveAs(const std::wstring& path, const OthersChanges& replaced = {});
 
     /// Whether `path` is a stand-alone settings file: by its extension, and because no host keeps probes in
     /// it. Raises QuorError when it cannot be read.
@@ -155,9 +186,13 @@ private:
     struct Step {
         StepKind kind;
         std::vector<std::size_t> places;
-        std::vector<ListedProbe> entries; // those that are not in the list, for steps that add or remove
-        std::wstring name;                // for a step that renames
-        ProbeContent content;             // for a step that changes the content
+        std::vector<ListedProbe> entries;   // those that are not in the list, for steps that add or remove
+        std::wstring name;                  // for a step that renames
+        std::vector<ProbeContent> contents; // for a step that changes contents, one a place
+    };
+    struct NewProbe {
+        std::wstring wish; // its name, if it is free
+        ProbeContent content;
     };
 
     [[nodiscard]] std::shared_ptr<QuorConversions::CQuorConversion> NewConversion() const;
@@ -171,8 +206,11 @@ private:
     /// elsewhere.
     void RequireWhole(ListedProbe& entry);
 
-    std::size_t Append(StepKind kind, std::wstring name, ProbeContent content);
+    /// Adds probes under free names; their places.
+    std::vector<std::size_t> Append(StepKind kind, std::vector<NewProbe> probes);
     void Do(Step step);
+    /// Keeps a step that was done.
+    void Push(Step step);
     void Toggle(Step& step);
 
     using Opening = QuorProbeFile::ProbeFile::Opening;
@@ -188,6 +226,13 @@ private:
     /// Writes what was done into the file as it is now, within an edit or in memory. Returns whether another
     /// program has written into it.
     [[nodiscard]] bool WriteChanges(QuorProbeFile::ProbeFile& file, const OthersChanges& replaced);
+    void SaveTo(const std::wstring& path, const OthersChanges& replaced, bool moves);
+    /// Reads the file, which holds what others have written, too, after a save.
+    void TakeOthersChanges();
+    /// Reads what only the file holds of the steps that were done, because a save takes it out of the file. A
+    /// step that cannot be kept so ends the history.
+    void ReadHistory();
+    /// Takes note that all is saved.
     void Settle();
 
     std::shared_ptr<QuietPlatform> m_platform;
@@ -201,6 +246,9 @@ private:
     std::vector<std::wstring> m_names;   // of conversions
     std::vector<Step> m_done;
     std::vector<Step> m_undone;
+    std::vector<ListedProbe> m_gone; // removed, to go from the file, and never to come back
+    std::uint64_t m_revision = 0;
+    std::optional<std::vector<QuorProbeFile::ProbeProblem>> m_problems; // of m_file, once it was checked
 };
 
 } // namespace ProbeSetup

@@ -69,8 +69,11 @@ void ProbeList::MakeTable() {
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_table->header()->setStretchLastSection(false);
+    m_table->header()->setSortIndicatorClearable(true);
+    m_table->header()->setSortIndicator(-1, Qt::AscendingOrder);
+    m_table->setSortingEnabled(true);
     m_table->header()->setSectionResizeMode(ProbeTableModel::ChangedColumn, QHeaderView::ResizeToContents);
-    m_table->header()->resizeSection(ProbeTableModel::NameColumn, fontMetrics().averageCharWidth() * 45);
+    m_table->header()->resizeSection(ProbeTableModel::NameColumn, fontMetrics().averageCharWidth() * 34);
     m_table->header()->setSectionResizeMode(ProbeTableModel::ConversionColumn, QHeaderView::Stretch);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { m_changed(); });
     connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { m_changed(); });
@@ -159,6 +162,13 @@ QString ProbeList::Rename(std::size_t probe, const QString& typed) {
         ShowChanged(probe);
     }
     return Wording::Of(problem, name);
+}
+
+void ProbeList::GoTo(std::size_t probe) {
+    if (!IsShown(probe))
+        ClearFindBox();
+    Select({probe});
+    m_table->setFocus();
 }
 
 void ProbeList::GoToFindBox() {

@@ -60,6 +60,11 @@ public:
     /// Ends the editing of a name as Enter does. False when the name is refused; the person has been told.
     bool FinishEditing();
 
+    /// Shows the marks of probes that something is wrong with.
+    void SetFindings(const std::vector<ProbeFinding>& findings) { m_model.SetFindings(findings); }
+    /// Shows a probe, and clears the find box when that hides it.
+    void GoTo(std::size_t probe);
+
     void GoToFindBox();
     void ClearFindBox();
     [[nodiscard]] QString FindText() const;

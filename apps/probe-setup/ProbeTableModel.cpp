@@ -2,8 +2,13 @@
 
 #include "QuorConversions/qt/QtText.h"
 #include "apps/probe-setup/TypeTexts.h"
+#include "apps/probe-setup/Wording.h"
 
+#include <QApplication>
+#include <QCollator>
+#include <QLocale>
 #include <QStringMatcher>
+#include <QStyle>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -49,18 +54,98 @@ void ProbeTableModel::Filter() {
         if (shown)
             m_rows.push_back(static_cast<std::uint32_t>(probe));
     }
+    Sort();
+}
+
+void ProbeTableModel::Sort() {
+    if (m_sortColumn >= 0) {
+        // Numbers by their value: "Probe 10" stands behind "Probe 9".
+        const QLocale user;
+        QCollator collator(user.language() == QLocale::C ? QLocale(QLocale::English) : user);
+        collator.setNumericMode(true);
+        collator.setCaseSensitivity(Qt::CaseInsensitive);
+        std::vector<QString> texts(m_document.Count());
+        for (const std::uint32_t probe : m_rows)
+            texts[probe] = m_sortColumn == NameColumn         ? ToQt(m_document.Name(probe))
+                           : m_sortColumn == ConversionColumn ? ConversionText(probe)
+                           : m_document.IsChanged(probe)      ? QStringLiteral("0")
+                                                              : QStringLiteral("1");
+        std::stable_sort(m_rows.begin(), m_rows.end(), [&](std::uint32_t a, std::uint32_t b) {
+            const int order = collator.compare(texts[a], texts[b]);
+            return m_sortOrder == Qt::AscendingOrder ? order < 0 : order > 0;
+        });
+    }
+    m_rowOf.assign(m_document.Count(), -1);
+    for (std::size_t row = 0; row < m_rows.size(); ++row)
+        m_rowOf[m_rows[row]] = static_cast<int>(row);
+}
+
+void ProbeTableModel::sort(int column, Qt::SortOrder order) {
+    m_sortColumn = column;
+    m_sortOrder = order;
+    emit layoutAboutToBeChanged();
+    const QModelIndexList before = persistentIndexList();
+    std::vector<std::size_t> probes;
+    for (const QModelIndex& index : before)
+        probes.push_back(ProbeAt(index.row()));
+    Filter();
+    QModelIndexList after;
+    for (qsizetype i = 0; i < before.size(); ++i)
+        after += index(m_rowOf[probes[static_cast<std::size_t>(i)]], before[i].column());
+    changePersistentIndexList(before, after);
+    emit layoutChanged();
+}
+
+void ProbeTableModel::SetFindings(const std::vector<ProbeFinding>& findings) {
+    if (findings.empty() && m_marks.empty())
+        return;
+    m_marks.clear();
+    for (const ProbeFinding& finding : findings) {
+        if (!finding.probe)
+            continue;
+        Mark& mark = m_marks[*finding.probe];
+        mark.isError = mark.isError || !finding.problem.IsWarning();
+        const QString key = ToQt(finding.problem.key);
+        mark.text += (mark.text.isEmpty() ? QString() : QStringLiteral("\n")) +
+                     (key.isEmpty() ? QString() : key + QStringLiteral(": ")) + Wording::Of(finding.problem);
+    }
+    if (!m_rows.empty())
+        emit dataChanged(index(0, NameColumn), index(rowCount() - 1, NameColumn));
 }
 
 std::optional<int> ProbeTableModel::RowOf(std::size_t probe) const {
-    const auto row = std::lower_bound(m_rows.begin(), m_rows.end(), probe);
-    if (row == m_rows.end() || *row != probe)
+    if (probe >= m_rowOf.size() || m_rowOf[probe] < 0)
         return std::nullopt;
-    return static_cast<int>(row - m_rows.begin());
+    return m_rowOf[probe];
 }
 
 int ProbeTableModel::RowFrom(std::size_t probe) const {
-    const auto row = std::lower_bound(m_rows.begin(), m_rows.end() - 1, probe);
-    return static_cast<int>(row - m_rows.begin());
+    for (std::size_t next = probe; next < m_rowOf.size(); ++next) {
+        if (m_rowOf[next] >= 0)
+            return m_rowOf[next];
+    }
+    const auto last = std::find_if(m_rowOf.rbegin(), m_rowOf.rend(), [](int row) { return row >= 0; });
+    return *last;
+}
+
+QVariant ProbeTableModel::NameData(std::size_t probe, int role) const {
+    const QString name = ToQt(m_document.Name(probe));
+    if (role == Qt::DisplayRole || role == Qt::EditRole)
+        return name;
+    const auto mark = m_marks.find(probe);
+    const bool isMarked = mark != m_marks.end();
+    if (role == Qt::ToolTipRole) // a name may look like mark-up
+        return Qt::convertFromPlainText(isMarked ? name + QLatin1Char('\n') + mark->second.text : name);
+    if (!isMarked)
+        return {};
+    if (role == Qt::AccessibleTextRole)
+        return QString(name + QStringLiteral(", ") + mark->second.text);
+    if (role == Qt::AccessibleDescriptionRole)
+        return mark->second.text;
+    if (role == Qt::DecorationRole)
+        return QApplication::style()->standardIcon(mark->second.isError ? QStyle::SP_MessageBoxCritical
+                                                                        : QStyle::SP_MessageBoxWarning);
+    return {};
 }
 
 QString ProbeTableModel::ConversionText(std::size_t probe) const {
@@ -82,11 +167,7 @@ QVariant ProbeTableModel::data(const QModelIndex& index, int role) const {
     const std::size_t probe = ProbeAt(index.row());
     switch (index.column()) {
     case NameColumn:
-        if (role == Qt::DisplayRole || role == Qt::EditRole)
-            return ToQt(m_document.Name(probe));
-        if (role == Qt::ToolTipRole) // a name may look like mark-up
-            return Qt::convertFromPlainText(ToQt(m_document.Name(probe)));
-        break;
+        return NameData(probe, role);
     case ConversionColumn:
         if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
             return ConversionText(probe);

@@ -7,12 +7,13 @@
 
 #include <cstdint>
 #include <optional>
+#include <unordered_map>
 #include <vector>
 
 namespace ProbeSetup {
 
 /// The probes of a document as rows: name, conversion, changed mark. It can show those alone whose name or
-/// conversion contains a text.
+/// conversion contains a text, and sort them. A probe with findings has a mark at its name.
 class ProbeTableModel final : public QAbstractTableModel {
     Q_DECLARE_TR_FUNCTIONS(ProbeTableModel)
 
@@ -29,10 +30,14 @@ public:
     /// Shows the probes that contain `text`, in any case of letters; an empty one shows all.
     void SetFilter(const QString& text);
 
+    /// Marks the probes that something is wrong with, and says what in tool tips and to screen readers.
+    void SetFindings(const std::vector<ProbeFinding>& findings);
+
     [[nodiscard]] std::size_t ProbeAt(int row) const { return m_rows[static_cast<std::size_t>(row)]; }
     /// The row of a probe; nothing when the filter hides it.
     [[nodiscard]] std::optional<int> RowOf(std::size_t probe) const;
-    /// That row, or the next one below that is shown, or the last one. There must be a row.
+    /// That row, or that of the next probe of the file that is shown, or of the last one. There must be a
+    /// row.
     [[nodiscard]] int RowFrom(std::size_t probe) const;
     [[nodiscard]] QString ConversionText(std::size_t probe) const;
 
@@ -41,13 +46,26 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// Sorts by a column, numbers in names by their value; by none (-1) in the order of the file.
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
 private:
+    struct Mark {
+        bool isError = false;
+        QString text; // a line for each finding
+    };
+
     void Filter();
+    void Sort();
+    [[nodiscard]] QVariant NameData(std::size_t probe, int role) const;
 
     const ProbeDocument& m_document;
     QString m_filter;
-    std::vector<std::uint32_t> m_rows; // the probes that are shown, in their order
+    int m_sortColumn = -1;
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+    std::vector<std::uint32_t> m_rows; // the probes that are shown, in the order of the rows
+    std::vector<int> m_rowOf;          // of each probe; -1 for one that is hidden
+    std::unordered_map<std::size_t, Mark> m_marks;
 };
 
 } // namespace ProbeSetup

@@ -43,13 +43,14 @@ QString TypeTexts::OfProbe(ProbeType type, const QString& name) {
     return text.contains(QLatin1String("%1")) ? text.arg(name) : text;
 }
 
-QString TypeTexts::OfChoice(EQuorConversionType type) {
-    if (type == CONV_NONE)
-        return tr("Keep the existing type");
+QString TypeTexts::OfChoice(const TypeChoice& choice) {
     // As its settings call themselves when they are new; a type without settings has its name in the table.
     CQuorConversion conversion;
-    conversion.SetConversionType(type);
-    return OfProbe(type, ToQt(conversion.ConversionName(conversion.Settings() ? currentValue : type)));
+    choice.ApplyTo(conversion);
+    const QString name = OfProbe(choice.type, ToQt(QuorProbeFile::NameOf(conversion)));
+    if (!choice.polynomial)
+        return name;
+    return *choice.polynomial ? tr("%1, A, B and C").arg(name) : tr("%1, alpha, delta and beta").arg(name);
 }
 
 } // namespace ProbeSetup

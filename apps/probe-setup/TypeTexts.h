@@ -16,7 +16,7 @@ public:
     /// The conversion of a probe: `name` is what its settings call themselves, or its type where it has none.
     [[nodiscard]] static QString OfProbe(ProbeType type, const QString& name);
     /// A type to choose.
-    [[nodiscard]] static QString OfChoice(QuorConversions::EQuorConversionType type);
+    [[nodiscard]] static QString OfChoice(const TypeChoice& choice);
 };
 
 } // namespace ProbeSetup

@@ -30,6 +30,11 @@ QString Wording::Of(const QuorProbeFile::RecordConflict& conflict) {
                            : tr("%1: removed from the file, %2 here").arg(key, ours);
 }
 
+QString Wording::Of(const QuorProbeFile::ProbeProblem& problem) {
+    const QString text = ToQt(problem.text);
+    return problem.IsWarning() ? tr("Warning: %1").arg(text) : tr("Error: %1").arg(text);
+}
+
 QString Wording::Of(const DocumentError& error) {
     const QString file = ToQt(error.file);
     const auto detail = [&](std::size_t number) { return ToQt(error.details.at(number)); };
@@ -70,6 +75,11 @@ QString Wording::Of(const DocumentError& error) {
             .arg(file, detail(0));
     case Failure::CannotWrite:
         return tr("%1: the probe \"%2\" cannot be written:").arg(file, detail(0)) + lines(1);
+    case Failure::NoProbesInText:
+        return tr("There is no probe in it: a probe begins with its name in square brackets, and has a key "
+                  "\"ConversionType\".");
+    case Failure::UnreadableText:
+        return tr("These keys are missing in it or cannot be read:") + lines(0);
     case Failure::SharedSection:
         return tr("%1: the section [%2] belongs to \"%3\" and to \"%4\" at once, so it can neither "
                   "go nor get another name with one of them alone. Take that change back.")
@@ -114,6 +124,8 @@ QString Wording::Of(StepKind kind) {
         return tr("change of type");
     case StepKind::Edit:
         return tr("edit");
+    case StepKind::Paste:
+        return tr("paste");
     }
     return {};
 }

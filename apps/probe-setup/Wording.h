@@ -19,6 +19,8 @@ public:
     [[nodiscard]] static QString Of(const DocumentError& error);
     /// A key that another program has changed, with both values.
     [[nodiscard]] static QString Of(const QuorProbeFile::RecordConflict& conflict);
+    /// What is wrong, with the word "warning" before a warning.
+    [[nodiscard]] static QString Of(const QuorProbeFile::ProbeProblem& problem);
     /// Why a probe cannot be called `name`; empty for no problem.
     [[nodiscard]] static QString Of(NameProblem problem, const QString& name);
     /// What Undo takes back.

@@ -33,6 +33,21 @@
     </message>
 </context>
 <context>
+    <name>CommandRules</name>
+    <message>
+        <source>The file is read-only</source>
+        <translation>Die Datei ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>No probe is selected</source>
+        <translation>Kein Fühler ist ausgewählt</translation>
+    </message>
+    <message>
+        <source>This can be done with one probe only</source>
+        <translation>Das geht nur mit einem einzelnen Fühler</translation>
+    </message>
+</context>
+<context>
     <name>FileCommands</name>
     <message>
         <source>Progress of loading</source>
@@ -130,6 +145,61 @@
         <source>&quot;%1&quot; is written into %2.</source>
         <translation>„%1“ ist in %2 geschrieben.</translation>
     </message>
+    <message>
+        <source>%1 is loaded anew.</source>
+        <translation>%1 ist neu geladen.</translation>
+    </message>
+    <message>
+        <source>What is selected has no settings to export.</source>
+        <translation>Was ausgewählt ist, hat keine Einstellungen zum Exportieren.</translation>
+    </message>
+    <message>
+        <source>Export probes into a folder</source>
+        <translation>Fühler in einen Ordner exportieren</translation>
+    </message>
+    <message>
+        <source>Do you want to replace these files?</source>
+        <translation>Möchten Sie diese Dateien ersetzen?</translation>
+    </message>
+    <message>
+        <source>%1 probes are written into %2.</source>
+        <translation>%1 Fühler sind nach %2 geschrieben.</translation>
+    </message>
+</context>
+<context>
+    <name>FindingPane</name>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>Probe</source>
+        <translation>Fühler</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <source>Finding</source>
+        <translation>Befund</translation>
+    </message>
+    <message>
+        <source>This file is large: it is checked when you ask for it (F7).</source>
+        <translation>Diese Datei ist groß: Sie wird geprüft, wenn Sie es wünschen (F7).</translation>
+    </message>
+    <message>
+        <source>No findings: all probes can be read, and their values can be meant.</source>
+        <translation>Keine Befunde: Alle Fühler sind lesbar, und ihre Werte können so gemeint sein.</translation>
+    </message>
+    <message>
+        <source>Findings: %1</source>
+        <translation>Befunde: %1</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -184,14 +254,6 @@
     <message>
         <source>Add the probe of a settings file</source>
         <translation>Den Fühler einer Einstellungsdatei hinzufügen</translation>
-    </message>
-    <message>
-        <source>&amp;Export probe…</source>
-        <translation>Fühler &amp;exportieren …</translation>
-    </message>
-    <message>
-        <source>Write the probe into a settings file of its own</source>
-        <translation>Den Fühler in eine eigene Einstellungsdatei schreiben</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -262,16 +324,8 @@
         <translation>&amp;Typ ändern …</translation>
     </message>
     <message>
-        <source>Give the probe another conversion type</source>
-        <translation>Dem Fühler einen anderen Konversionstyp geben</translation>
-    </message>
-    <message>
         <source>&amp;Duplicate</source>
         <translation>&amp;Duplizieren</translation>
-    </message>
-    <message>
-        <source>Add a probe with the same settings</source>
-        <translation>Einen Fühler mit denselben Einstellungen hinzufügen</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
@@ -300,26 +354,6 @@
     <message>
         <source>Tools</source>
         <translation>Werkzeuge</translation>
-    </message>
-    <message>
-        <source>New probe</source>
-        <translation>Neuer Fühler</translation>
-    </message>
-    <message>
-        <source>The record of &quot;%1&quot; in %2 cannot be read wholly.</source>
-        <translation>Der Datensatz von „%1“ in %2 ist nicht ganz lesbar.</translation>
-    </message>
-    <message>
-        <source>These keys are missing or cannot be read; default values stand in their place:</source>
-        <translation>Diese Schlüssel fehlen oder sind nicht lesbar; an ihrer Stelle stehen Vorgabewerte:</translation>
-    </message>
-    <message>
-        <source>This key is missing or cannot be read:</source>
-        <translation>Dieser Schlüssel fehlt oder ist nicht lesbar:</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has no settings to edit: %2.</source>
-        <translation>„%1“ hat keine Einstellungen zum Bearbeiten: %2.</translation>
     </message>
     <message>
         <source>About Probe Setup</source>
@@ -370,14 +404,6 @@ Die Konversionen der Fühler von Präzisionsthermometern: verwaltet, bearbeitet,
         <translation>%1 hat keine Fühler und ist schreibgeschützt.</translation>
     </message>
     <message>
-        <source>One probe is removed. Undo brings it back.</source>
-        <translation>Ein Fühler ist entfernt. Rückgängig bringt ihn zurück.</translation>
-    </message>
-    <message>
-        <source>%1 probes are removed. Undo brings them back.</source>
-        <translation>%1 Fühler sind entfernt. Rückgängig bringt sie zurück.</translation>
-    </message>
-    <message>
         <source>Open the file of a host (%1) or drop it here, or add a first probe (%2).</source>
         <translation>Öffnen Sie die Datei eines Programms (%1), legen Sie sie hier ab, oder fügen Sie einen ersten Fühler hinzu (%2).</translation>
     </message>
@@ -386,16 +412,80 @@ Die Konversionen der Fühler von Präzisionsthermometern: verwaltet, bearbeitet,
         <translation>%1 hat noch keine Fühler. Fügen Sie einen hinzu (%2), oder importieren Sie eine Einstellungsdatei (%3).</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be duplicated.</source>
-        <translation>„%1“ kann nicht dupliziert werden.</translation>
+        <source>Save &amp;as…</source>
+        <translation>Speichern &amp;unter …</translation>
     </message>
     <message>
-        <source>Taken back: %1</source>
-        <translation>Zurückgenommen: %1</translation>
+        <source>Write the file with the changes under another name, and go on with that file</source>
+        <translation>Die Datei mit den Änderungen unter einem anderen Namen schreiben und mit ihr weiterarbeiten</translation>
     </message>
     <message>
-        <source>Done again: %1</source>
-        <translation>Wiederholt: %1</translation>
+        <source>&amp;Export probes…</source>
+        <translation>Fühler &amp;exportieren …</translation>
+    </message>
+    <message>
+        <source>Write each selected probe into a settings file of its own</source>
+        <translation>Jeden ausgewählten Fühler in eine eigene Einstellungsdatei schreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Drucken …</translation>
+    </message>
+    <message>
+        <source>Print the selected probes, with all their values</source>
+        <translation>Die ausgewählten Fühler mit allen Werten drucken</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;DF…</source>
+        <translation>&amp;Als PDF speichern …</translation>
+    </message>
+    <message>
+        <source>Put the selected probes into a PDF file, as they would be printed</source>
+        <translation>Die ausgewählten Fühler in eine PDF-Datei schreiben, wie sie gedruckt würden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy probes</source>
+        <translation>Fühler &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Put the selected probes on the clipboard, as text of an INI file</source>
+        <translation>Die ausgewählten Fühler als Text einer INI-Datei in die Zwischenablage legen</translation>
+    </message>
+    <message>
+        <source>&amp;Paste probes</source>
+        <translation>Fühler &amp;einfügen</translation>
+    </message>
+    <message>
+        <source>Add the probes of the text on the clipboard</source>
+        <translation>Die Fühler des Textes in der Zwischenablage hinzufügen</translation>
+    </message>
+    <message>
+        <source>Give the selected probes another conversion type</source>
+        <translation>Den ausgewählten Fühlern einen anderen Konversionstyp geben</translation>
+    </message>
+    <message>
+        <source>Add probes with the same settings as the selected ones</source>
+        <translation>Fühler mit denselben Einstellungen wie die ausgewählten hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Check</source>
+        <translation>&amp;Prüfen</translation>
+    </message>
+    <message>
+        <source>List all that is wrong with the probes of the file</source>
+        <translation>Alles auflisten, was mit den Fühlern der Datei nicht stimmt</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Values</source>
+        <translation>&amp;Werte</translation>
+    </message>
+    <message>
+        <source>&amp;Findings</source>
+        <translation>&amp;Befunde</translation>
     </message>
 </context>
 <context>
@@ -411,6 +501,81 @@ Die Konversionen der Fühler von Präzisionsthermometern: verwaltet, bearbeitet,
     <message>
         <source>&amp;Discard</source>
         <translation>&amp;Verwerfen</translation>
+    </message>
+</context>
+<context>
+    <name>ProbeCommands</name>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>%1 probes</source>
+        <translation>%1 Fühler</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no settings to edit: %2.</source>
+        <translation>„%1“ hat keine Einstellungen zum Bearbeiten: %2.</translation>
+    </message>
+    <message>
+        <source>New probe</source>
+        <translation>Neuer Fühler</translation>
+    </message>
+    <message>
+        <source>Another program has changed &quot;%1&quot; in the file.</source>
+        <translation>Ein anderes Programm hat „%1“ in der Datei geändert.</translation>
+    </message>
+    <message>
+        <source>Reload the file to see its values as they are now.</source>
+        <translation>Laden Sie die Datei neu, um die Werte zu sehen, wie sie jetzt sind.</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Neu laden</translation>
+    </message>
+    <message>
+        <source>These keys are missing or cannot be read; default values stand in their place:</source>
+        <translation>Diese Schlüssel fehlen oder sind nicht lesbar; an ihrer Stelle stehen Vorgabewerte:</translation>
+    </message>
+    <message>
+        <source>This key is missing or cannot be read:</source>
+        <translation>Dieser Schlüssel fehlt oder ist nicht lesbar:</translation>
+    </message>
+    <message>
+        <source>The record of &quot;%1&quot; in %2 cannot be read wholly.</source>
+        <translation>Der Datensatz von „%1“ in %2 ist nicht ganz lesbar.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be duplicated.</source>
+        <translation>%1: Duplizieren ist nicht möglich.</translation>
+    </message>
+    <message>
+        <source>One probe is removed. Undo brings it back.</source>
+        <translation>Ein Fühler ist entfernt. Rückgängig bringt ihn zurück.</translation>
+    </message>
+    <message>
+        <source>%1 are removed. Undo brings them back.</source>
+        <translation>%1 sind entfernt. Rückgängig bringt sie zurück.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied.</source>
+        <translation>%1: Kopieren ist nicht möglich.</translation>
+    </message>
+    <message>
+        <source>%1 on the clipboard, as text.</source>
+        <translation>%1 in der Zwischenablage, als Text.</translation>
+    </message>
+    <message>
+        <source>The text on the clipboard cannot be pasted.</source>
+        <translation>Der Text in der Zwischenablage kann nicht eingefügt werden.</translation>
+    </message>
+    <message>
+        <source>Taken back: %1</source>
+        <translation>Zurückgenommen: %1</translation>
+    </message>
+    <message>
+        <source>Done again: %1</source>
+        <translation>Wiederholt: %1</translation>
     </message>
 </context>
 <context>
@@ -435,10 +600,6 @@ Die Konversionen der Fühler von Präzisionsthermometern: verwaltet, bearbeitet,
         <source>&amp;Name:</source>
         <translation>&amp;Name:</translation>
     </message>
-    <message>
-        <source>Conversion &amp;type:</source>
-        <translation>Konversions&amp;typ:</translation>
-    </message>
 </context>
 <context>
     <name>ProbeList</name>
@@ -460,6 +621,65 @@ Die Konversionen der Fühler von Präzisionsthermometern: verwaltet, bearbeitet,
     </message>
 </context>
 <context>
+    <name>ProbeReport</name>
+    <message>
+        <source>Conversion:</source>
+        <translation>Konversion:</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Datei:</translation>
+    </message>
+    <message>
+        <source>not saved yet</source>
+        <translation>noch nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>Stand:</translation>
+    </message>
+    <message>
+        <source>changed and not saved yet</source>
+        <translation>geändert und noch nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Printed:</source>
+        <translation>Gedruckt:</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>This conversion has no values.</source>
+        <translation>Diese Konversion hat keine Werte.</translation>
+    </message>
+    <message>
+        <source>These keys are missing or cannot be read; default values stand in their place:</source>
+        <translation>Diese Schlüssel fehlen oder sind nicht lesbar; an ihrer Stelle stehen Vorgabewerte:</translation>
+    </message>
+    <message>
+        <source>Compared with certificate no.:</source>
+        <translation>Verglichen mit Zertifikat Nr.:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Datum:</translation>
+    </message>
+    <message>
+        <source>Signature:</source>
+        <translation>Unterschrift:</translation>
+    </message>
+</context>
+<context>
     <name>ProbeTableModel</name>
     <message>
         <source>Changed and not saved yet</source>
@@ -476,6 +696,63 @@ Die Konversionen der Fühler von Präzisionsthermometern: verwaltet, bearbeitet,
     <message>
         <source>Changed</source>
         <translation>Geändert</translation>
+    </message>
+</context>
+<context>
+    <name>ReloadBar</name>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>Neu &amp;laden</translation>
+    </message>
+    <message>
+        <source>Reload the file</source>
+        <translation>Die Datei neu laden</translation>
+    </message>
+    <message>
+        <source>Another program has changed %1. What you see here is older.</source>
+        <translation>Ein anderes Programm hat %1 geändert. Was Sie hier sehen, ist älter.</translation>
+    </message>
+</context>
+<context>
+    <name>ReportCommands</name>
+    <message>
+        <source>Print probes</source>
+        <translation>Fühler drucken</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Als PDF speichern</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>PDF-Dateien (*.pdf)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>TypeChooser</name>
+    <message>
+        <source>Part of a type, such as &quot;K&quot; or &quot;PT100&quot;</source>
+        <translation>Teil eines Typs, etwa „K“ oder „PT100“</translation>
+    </message>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation>&amp;Filter:</translation>
+    </message>
+    <message>
+        <source>Conversion &amp;type:</source>
+        <translation>Konversions&amp;typ:</translation>
+    </message>
+    <message>
+        <source>&amp;Low range:</source>
+        <translation>&amp;Unterer Bereich:</translation>
+    </message>
+    <message>
+        <source>&amp;High range:</source>
+        <translation>&amp;Oberer Bereich:</translation>
     </message>
 </context>
 <context>
@@ -513,12 +790,59 @@ Die Konversionen der Fühler von Präzisionsthermometern: verwaltet, bearbeitet,
         <translation>Unbekannter Typ, Nummer %1</translation>
     </message>
     <message>
-        <source>Keep the existing type</source>
-        <translation>Den jetzigen Typ behalten</translation>
-    </message>
-    <message>
         <source>ITS-SR5, ITS-90 in range 5 alone</source>
         <translation>ITS-SR5, ITS-90 nur im Bereich 5</translation>
+    </message>
+    <message>
+        <source>%1, A, B and C</source>
+        <translation>%1, A, B und C</translation>
+    </message>
+    <message>
+        <source>%1, alpha, delta and beta</source>
+        <translation>%1, Alpha, Delta und Beta</translation>
+    </message>
+</context>
+<context>
+    <name>ValuePane</name>
+    <message>
+        <source>Values</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>Values of the selected probes</source>
+        <translation>Werte der ausgewählten Fühler</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Copy as a &amp;table</source>
+        <translation>Als &amp;Tabelle kopieren</translation>
+    </message>
+    <message>
+        <source>Copy as te&amp;xt</source>
+        <translation>Als Te&amp;xt kopieren</translation>
+    </message>
+    <message>
+        <source>… and %1 more</source>
+        <translation>… und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Conversion</source>
+        <translation>Konversion</translation>
+    </message>
+    <message>
+        <source>Cannot be read:</source>
+        <translation>Nicht lesbar:</translation>
     </message>
 </context>
 <context>
@@ -618,6 +942,26 @@ Die Konversionen der Fühler von Präzisionsthermometern: verwaltet, bearbeitet,
     <message>
         <source>edit</source>
         <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation>Fehler: %1</translation>
+    </message>
+    <message>
+        <source>There is no probe in it: a probe begins with its name in square brackets, and has a key &quot;ConversionType&quot;.</source>
+        <translation>Es ist kein Fühler darin: Ein Fühler beginnt mit seinem Namen in eckigen Klammern und hat einen Schlüssel „ConversionType“.</translation>
+    </message>
+    <message>
+        <source>These keys are missing in it or cannot be read:</source>
+        <translation>Diese Schlüssel fehlen darin oder sind nicht lesbar:</translation>
+    </message>
+    <message>
+        <source>paste</source>
+        <translation>Einfügen</translation>
     </message>
 </context>
 </TS>

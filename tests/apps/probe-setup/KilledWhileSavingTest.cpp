@@ -43,7 +43,7 @@ std::string Laboratory(const std::string& name, const std::string& type) {
     for (;;) {
         const bool first = document.Name(0) == L"first";
         document.Rename(0, first ? L"another" : L"first");
-        document.SetType(last, first ? CONV_VOLTS : CONV_OHMS);
+        document.SetType({last}, first ? CONV_VOLTS : CONV_OHMS);
         document.Save();
     }
 }

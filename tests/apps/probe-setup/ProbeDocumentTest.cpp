@@ -247,7 +247,7 @@ TEST_F(ProbeDocumentTest, ANewProbeIsWrittenAsQuorconvNewWritesIt) {
 
 TEST_F(ProbeDocumentTest, ADuplicateIsWrittenAsQuorconvCopyWritesIt) {
     Open();
-    const std::size_t probe = document.Duplicate(0);
+    const std::size_t probe = document.Duplicate({0}).front();
     EXPECT_EQ(document.Name(probe), L"Probe 1 (2)");
     document.Save();
     const std::string ours = File();
@@ -365,11 +365,11 @@ TEST_F(ProbeDocumentTest, ANewProbeIsSavedInTheLettersOfItsOwnWhereARemovedOneHa
 
 TEST_F(ProbeDocumentTest, AnotherTypeTakesThePlaceOfTheOldSettings) {
     Open();
-    document.SetType(0, CONV_PT100R0);
+    document.SetType({0}, CONV_PT100R0);
     EXPECT_EQ(document.Type(0), CONV_PT100R0);
     EXPECT_TRUE(document.IsChanged(0));
-    document.SetType(0, CONV_PT100R0);
-    document.SetType(1, CONV_VOLTS);
+    document.SetType({0}, CONV_PT100R0);
+    document.SetType({1}, CONV_VOLTS);
     document.Save();
     const auto at = host.find("NumCoefficients");
     const auto end = host.find("\n\n[Probe 2]");
@@ -379,7 +379,7 @@ TEST_F(ProbeDocumentTest, AnotherTypeTakesThePlaceOfTheOldSettings) {
     EXPECT_EQ(File(), expected);
     ExpectFine({"check", "host.ini", "--ignore", "r0-not-positive"}); // nobody has entered it yet
 
-    document.SetType(0, CONV_RATIO);
+    document.SetType({0}, CONV_RATIO);
     document.Rename(0, L"Probe R");
     document.Save();
     EXPECT_EQ(File().find("Settings"), std::string::npos) << "a type without settings leaves none behind";
@@ -406,8 +406,8 @@ TEST_F(ProbeDocumentTest, EveryStepCanBeTakenBackAndDoneAgain) {
     document.Add(L"Probe 3", CONV_VOLTS);
     document.Rename(0, L"First");
     EXPECT_TRUE(Edit(0, TypeR0));
-    document.SetType(0, CONV_OHMS);
-    document.Duplicate(1);
+    document.SetType({0}, CONV_OHMS);
+    document.Duplicate({1});
     document.Remove({0, 2});
     EXPECT_EQ(Names(), (Texts{L"Probe 2", L"Probe 2 (2)"}));
 
@@ -437,12 +437,16 @@ TEST_F(ProbeDocumentTest, EveryStepCanBeTakenBackAndDoneAgain) {
     EXPECT_EQ(document.RedoKind(), std::nullopt) << "a new step ends what could be done again";
 }
 
-TEST_F(ProbeDocumentTest, ASaveEndsTheHistory) {
+TEST_F(ProbeDocumentTest, ASaveKeepsTheHistory) {
     Open();
     document.Rename(0, L"First");
     document.Save();
-    EXPECT_EQ(document.UndoKind(), std::nullopt);
     EXPECT_FALSE(document.Changed());
+    EXPECT_EQ(document.UndoKind(), StepKind::Rename);
+    document.Undo();
+    EXPECT_TRUE(document.Changed());
+    document.Save();
+    EXPECT_EQ(File(), host);
 }
 
 TEST_F(ProbeDocumentTest, AFailedSaveKeepsEverything) {
@@ -541,7 +545,7 @@ TEST_F(ProbeDocumentTest, AllProbesCanBeSavedInThePlaceOfTheFileThatIsGone) {
     EXPECT_EQ(Quorconv({"list", "host.ini"}).out, "Probe 1\tCONV_CVD\tCallendar-Van Dusen\n"
                                                   "Probe 2\tCONV_OHMS\tOhms\n"
                                                   "Probe 3\tCONV_VOLTS\tVolts\n");
-    document.SetType(1, CONV_VOLTS);
+    document.SetType({1}, CONV_VOLTS);
     document.Save();
     EXPECT_EQ(File(), Replaced(rescued, "ConversionType=10", "ConversionType=11"));
 }
@@ -684,7 +688,7 @@ TEST_F(ProbeDocumentTest, WhatCannotBeReadIsNeverReplacedByDefaultsInACopy) {
         EXPECT_EQ(error.file, folder.Name("host.ini"));
         EXPECT_EQ(error.details, keys);
     };
-    expectRefused([&] { document.Duplicate(0); });
+    expectRefused([&] { document.Duplicate({0}); });
     screen->ChooseFile(folder.Name("out.cvd"));
     expectRefused([&] { document.Export(0, 0); });
     EXPECT_FALSE(fs::exists(folder.Path("out.cvd")));
@@ -703,7 +707,7 @@ TEST_F(ProbeDocumentTest, WhatCannotBeReadIsNeverReplacedByDefaultsInACopy) {
         person.Click(L"OK");
     }));
     EXPECT_TRUE(document.CheckRecord(0).IsEmpty()) << "the values are those of the dialog now";
-    document.Duplicate(0);
+    document.Duplicate({0});
     document.SaveCopyAs(folder.Name("rescued.ini"));
     EXPECT_NE(folder.Read("rescued.ini").find("[Probe 1 (2) - Settings]"), std::string::npos);
 }
@@ -726,7 +730,7 @@ TEST_F(ProbeDocumentTest, AProbeOfAnUnknownTypeIsKeptButNotCopied) {
     const std::string text =
         host + "\n[New]\nVersion=1.0\nConversionType=25\n\n[New - Settings]\nLambda=1.25\n";
     Open(text);
-    const DocumentError error = ErrorOf([&] { document.Duplicate(2); });
+    const DocumentError error = ErrorOf([&] { document.Duplicate({2}); });
     EXPECT_EQ(error.failure, Failure::UnknownType);
     EXPECT_EQ(error.details, (Texts{L"New", L"25"}));
     document.Rename(2, L"Newer");
@@ -1006,7 +1010,7 @@ TEST_F(ProbeDocumentTest, ASectionOfTwoProbesIsNotTakenFromOneOfThem) {
     expectRefused([&] { document.Remove({1}); }, ofTheSecond);
     expectRefused([&] { document.Rename(0, L"Other"); },
                   {L"Probe 1 - Settings", L"Other", L"Probe 1 - Settings"});
-    expectRefused([&] { document.SetType(0, CONV_OHMS); }, ofTheFirst);
+    expectRefused([&] { document.SetType({0}, CONV_OHMS); }, ofTheFirst);
     expectRefused(
         [&] {
             document.Remove({0});
@@ -1016,7 +1020,7 @@ TEST_F(ProbeDocumentTest, ASectionOfTwoProbesIsNotTakenFromOneOfThem) {
 
     Open(text);
     EXPECT_TRUE(Edit(0, TypeR0)) << "values can be changed all the same";
-    document.SetType(1, CONV_RATIO);
+    document.SetType({1}, CONV_RATIO);
     document.Save();
     EXPECT_EQ(File(),
               Replaced(Replaced(text, "=100.0\n", "=100.0123\n"), "ConversionType=12", "ConversionType=15"));
@@ -1029,7 +1033,7 @@ TEST_F(ProbeDocumentTest, ASectionOfTwoProbesIsNotTakenFromOneOfThem) {
 TEST_F(ProbeDocumentTest, AChangeThatLeavesNoTraceInTheTimeOfTheFileIsSeenAllTheSame) {
     for (int tries = 0; tries < 20; ++tries) { // some of them fall into one tick of the file system's clock
         Open(host);
-        document.SetType(1, CONV_VOLTS);
+        document.SetType({1}, CONV_VOLTS);
         const std::string theirs = Replaced(host, "ConversionType=10", "ConversionType=12");
         folder.Write("host.ini", theirs);
         EXPECT_EQ(ErrorOf([&] { document.Save(); }).failure, Failure::ChangedByOthers);
@@ -1064,7 +1068,7 @@ TEST_F(ProbeDocumentTest, AProbeWhoseSettingsAreMissingIsToldAndLeftAlone) {
     Open(text);
     EXPECT_EQ(document.CheckRecord(0).keys.size(), 6U);
     EXPECT_EQ(document.CheckRecord(0).keys.front(), L"[Probe 1 - Settings] NumCoefficients");
-    EXPECT_EQ(ErrorOf([&] { document.Duplicate(0); }).failure, Failure::UnreadableRecord);
+    EXPECT_EQ(ErrorOf([&] { document.Duplicate({0}); }).failure, Failure::UnreadableRecord);
     document.Rename(0, L"Probe A");
     document.Save();
     EXPECT_EQ(File(), Replaced(text, "[Probe 1]", "[Probe A]"));
@@ -1119,7 +1123,7 @@ TEST_F(ProbeDocumentTest, MissingKeysAreToldWithoutTheMessageThatSaysLessInEvery
 TEST_F(ProbeDocumentTest, ACopyThatFailsIsAnErrorAboutTheFileThatTheUserHasNamed) {
     Open();
     files.onCall = [](std::string_view call) { return call == "Sync" ? EIO : 0; };
-    document.SetType(1, CONV_VOLTS);
+    document.SetType({1}, CONV_VOLTS);
     try {
         document.SaveCopyAs(folder.Name("copy.ini"));
         ADD_FAILURE() << "nothing was raised";

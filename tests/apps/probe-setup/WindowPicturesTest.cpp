@@ -47,7 +47,8 @@ protected:
             }
         }
         for (const QAbstractButton* const button : window.findChildren<QAbstractButton*>()) {
-            if (button->isVisible()) {
+            if (button->isVisible() &&
+                !button->text().isEmpty()) { // a style draws the icons of panes as it likes
                 EXPECT_LE(button->minimumSizeHint().width(), button->width()) << button->text().toStdString();
             }
         }

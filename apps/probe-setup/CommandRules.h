@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+
+#include <cstddef>
+#include <vector>
+
+class QAction;
+
+namespace ProbeSetup {
+
+/// What the commands of the window need. One that lacks it is disabled, and says why in its tool tip and in
+/// the status bar.
+class CommandRules {
+    Q_DECLARE_TR_FUNCTIONS(CommandRules)
+
+public:
+    struct Needs {
+        bool probe = false;    ///< at least one is selected
+        bool one = false;      ///< no more than one is selected
+        bool writable = false; ///< the file may be written
+    };
+
+    /// The action has its status tip already. It outlives the rules.
+    void Add(QAction& action, const Needs& needs);
+    /// Enables and disables the actions.
+    void Apply(std::size_t selected, bool isWritable) const;
+
+private:
+    struct Rule {
+        QAction* action;
+        Needs needs;
+        QString tip;
+    };
+    std::vector<Rule> m_rules;
+};
+
+} // namespace ProbeSetup

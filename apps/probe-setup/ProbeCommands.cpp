@@ -1,0 +1,178 @@
+#include "apps/probe-setup/ProbeCommands.h"
+
+#include "QuorConversions/qt/QtText.h"
+#include "apps/probe-setup/FileCommands.h"
+#include "apps/probe-setup/MessageBox.h"
+#include "apps/probe-setup/ProbeClipboard.h"
+#include "apps/probe-setup/ProbeDialog.h"
+#include "apps/probe-setup/ProbeList.h"
+#include "apps/probe-setup/Wording.h"
+
+#include <QLocale>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTreeView>
+
+#include <string>
+#include <utility>
+
+namespace ProbeSetup {
+
+using QuorConversions::QtToolkit::FromQt;
+using QuorConversions::QtToolkit::ToQt;
+
+namespace {
+
+// How long something stands in the status bar, in milliseconds.
+constexpr int aWhile = 5000;
+constexpr int longEnoughToAct = 10000;
+
+} // namespace
+
+ProbeCommands::ProbeCommands(QMainWindow& window, ProbeDocument& document, ProbeList& list,
+                             FileCommands& files, std::function<void()> help)
+    : m_window(window), m_document(document), m_list(list), m_files(files), m_help(std::move(help)) {}
+
+void ProbeCommands::ShowStatus(const QString& text, int milliseconds) {
+    m_window.statusBar()->showMessage(text, milliseconds);
+}
+
+QString ProbeCommands::NameOf(const std::vector<std::size_t>& probes) const {
+    return probes.size() == 1
+               ? tr("\"%1\"").arg(ToQt(m_document.Name(probes.front())))
+               : tr("%1 probes").arg(QLocale().toString(static_cast<qulonglong>(probes.size())));
+}
+
+bool ProbeCommands::HasSettings(std::size_t probe) {
+    const bool has = m_document.HasSettings(probe);
+    if (!has)
+        ShowStatus(tr("\"%1\" has no settings to edit: %2.")
+                       .arg(ToQt(m_document.Name(probe)), m_list.ConversionText(probe)),
+                   longEnoughToAct);
+    return has;
+}
+
+void ProbeCommands::Add() {
+    ProbeDialog dialog(&m_window, m_document, ToQt(m_document.FreeName(FromQt(tr("New probe")))), m_help);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    m_list.ShowNew({m_document.Add(FromQt(dialog.Name()), *dialog.ChosenType())});
+    m_list.Table().setFocus();
+}
+
+bool ProbeCommands::IsFresh(std::size_t probe) {
+    if (!m_document.ChangedByOthers())
+        return true;
+    if (!m_document.Changed()) {
+        const std::wstring name = m_document.Name(probe);
+        return m_files.Reload() && m_document.Find(name);
+    }
+    if (!m_document.IsStale(probe))
+        return true;
+    MessageBox box(&m_window, QMessageBox::Warning,
+                   tr("Another program has changed \"%1\" in the file.").arg(ToQt(m_document.Name(probe))),
+                   tr("Reload the file to see its values as they are now."),
+                   QMessageBox::Save | QMessageBox::Cancel);
+    box.button(QMessageBox::Save)->setText(tr("&Reload"));
+    if (box.exec() == QMessageBox::Save)
+        static_cast<void>(m_files.Reload());
+    return false;
+}
+
+void ProbeCommands::Edit() {
+    if (const auto stale = m_list.Current(); !stale || !IsFresh(*stale))
+        return;
+    const auto probe = m_list.Current(); // in another place, perhaps
+    const ReadProblems& problems = m_document.CheckRecord(*probe);
+    if (!problems.IsEmpty()) {
+        // Where there is no dialog, no values stand in it.
+        const QString what =
+            m_document.Type(*probe)
+                ? tr("These keys are missing or cannot be read; default values stand in their place:")
+                : tr("This key is missing or cannot be read:");
+        MessageBox(&m_window, QMessageBox::Warning,
+                   tr("The record of \"%1\" in %2 cannot be read wholly.")
+                       .arg(ToQt(m_document.Name(*probe)), ToQt(m_document.Path())),
+                   what + QLatin1Char('\n') + Wording::Lines(problems.Lines()))
+            .exec();
+    }
+    if (!HasSettings(*probe))
+        return;
+    if (m_document.Edit(*probe))
+        m_list.ShowChanged(*probe);
+}
+
+void ProbeCommands::Export() { m_files.Export(m_list.Selected()); }
+
+void ProbeCommands::ChangeType() {
+    const auto current = m_list.Current();
+    const std::vector<std::size_t> probes = m_list.Selected();
+    if (!current || probes.empty())
+        return;
+    ProbeDialog dialog(&m_window, NameOf(probes), TypeChoice::Of(m_document.Conversion(*current)), m_help);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    m_document.SetType(probes, *dialog.ChosenType());
+    for (const std::size_t probe : probes)
+        m_list.ShowChanged(probe);
+}
+
+void ProbeCommands::Duplicate() {
+    const std::vector<std::size_t> probes = m_list.Selected();
+    std::vector<std::size_t> copies;
+    if (!probes.empty() && RunOrTell(&m_window, tr("%1 cannot be duplicated.").arg(NameOf(probes)),
+                                     [&] { copies = m_document.Duplicate(probes); }))
+        m_list.ShowNew(copies);
+}
+
+void ProbeCommands::Remove() {
+    const std::vector<std::size_t> probes = m_list.Selected();
+    if (probes.empty())
+        return;
+    m_document.Remove(probes);
+    m_list.Show(probes.front());
+    ShowStatus(probes.size() == 1 ? tr("One probe is removed. Undo brings it back.")
+                                  : tr("%1 are removed. Undo brings them back.").arg(NameOf(probes)),
+               aWhile);
+}
+
+void ProbeCommands::Copy() {
+    const std::vector<std::size_t> probes = m_list.Selected();
+    if (!probes.empty() && RunOrTell(&m_window, tr("%1 cannot be copied.").arg(NameOf(probes)),
+                                     [&] { ProbeClipboard::Copy(m_document, probes); }))
+        ShowStatus(tr("%1 on the clipboard, as text.").arg(NameOf(probes)), aWhile);
+}
+
+void ProbeCommands::Paste() {
+    std::vector<std::size_t> probes;
+    if (RunOrTell(&m_window, tr("The text on the clipboard cannot be pasted."),
+                  [&] { probes = ProbeClipboard::Paste(m_document); }))
+        m_list.ShowNew(probes);
+}
+
+void ProbeCommands::Undo() {
+    const std::size_t count = m_document.Count();
+    ShowStep(m_document.Undo(), count);
+    ShowStatus(tr("Taken back: %1").arg(Wording::Of(*m_document.RedoKind())), aWhile);
+}
+
+void ProbeCommands::Redo() {
+    const std::size_t count = m_document.Count();
+    ShowStep(m_document.Redo(), count);
+    ShowStatus(tr("Done again: %1").arg(Wording::Of(*m_document.UndoKind())), aWhile);
+}
+
+void ProbeCommands::ShowStep(const std::vector<std::size_t>& places, std::size_t count) {
+    if (m_document.Count() < count) {
+        m_list.Show(places.front()); // probes have gone
+    } else if (m_document.Count() > count || !m_list.IsShown(places.front())) {
+        m_list.ShowNew(places);
+    } else {
+        for (const std::size_t place : places)
+            m_list.ShowChanged(place);
+        m_list.Select(places);
+    }
+}
+
+} // namespace ProbeSetup

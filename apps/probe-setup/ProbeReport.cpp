@@ -1,0 +1,83 @@
+#include "apps/probe-setup/ProbeReport.h"
+
+#include "QuorConversions/qt/QtText.h"
+#include "apps/probe-setup/ProbeValues.h"
+#include "apps/probe-setup/TypeTexts.h"
+
+#include <QLocale>
+#include <QStringList>
+#include <QTextDocument>
+
+#include <string>
+
+namespace ProbeSetup {
+
+using QuorConversions::QtToolkit::ToQt;
+
+namespace {
+
+QString Cell(const QString& text, const char* style = "") {
+    return QStringLiteral("<td style=\"%1\">%2</td>").arg(QLatin1String(style), text.toHtmlEscaped());
+}
+
+QString Row(const QString& cells) { return QStringLiteral("<tr>") + cells + QStringLiteral("</tr>"); }
+
+QString Table(const QString& rows) {
+    return QStringLiteral("<table cellpadding=\"4\">") + rows + QStringLiteral("</table>");
+}
+
+} // namespace
+
+void ProbeReport::Write(ProbeDocument& document, QuorConversions::Platform& platform,
+                        const std::vector<std::size_t>& probes, const QDateTime& time, QTextDocument& paper) {
+    QString html;
+    for (const std::size_t probe : probes) {
+        const QLatin1String newPage(html.isEmpty() ? "" : "page-break-before:always");
+        html += QStringLiteral("<h1 style=\"%1\">").arg(newPage) +
+                ToQt(document.Name(probe)).toHtmlEscaped() + QStringLiteral("</h1>") +
+                Page(document, platform, probe, time);
+    }
+    paper.setHtml(html);
+}
+
+QString ProbeReport::Page(ProbeDocument& document, QuorConversions::Platform& platform, std::size_t probe,
+                          const QDateTime& time) {
+    const auto line = [](const QString& name, const QString& text) { return Row(Cell(name) + Cell(text)); };
+    const QString path = ToQt(document.Path());
+    const QString conversion = TypeTexts::OfProbe(
+        document.Type(probe), ToQt(document.ConversionName(document.ConversionNumber(probe))));
+    QString page = Table(
+        line(tr("Conversion:"), conversion) + line(tr("File:"), path.isEmpty() ? tr("not saved yet") : path) +
+        (document.IsChanged(probe) ? line(tr("State:"), tr("changed and not saved yet")) : QString()) +
+        line(tr("Printed:"), QLocale().toString(time, QLocale::ShortFormat)));
+
+    QString rows = Row(Cell(tr("Name"), "font-weight:bold") + Cell(tr("Value"), "font-weight:bold") +
+                       Cell(tr("Unit"), "font-weight:bold"));
+    std::wstring side;
+    const std::vector<ProbeValue> values = ValuesOf(document.Conversion(probe), platform);
+    for (const ProbeValue& value : values) {
+        if (value.page != side)
+            rows += Row(Cell(ToQt(side = value.page), "font-weight:bold"));
+        rows += Row(Cell(ToQt(value.name)) + Cell(ToQt(value.text), "text-align:right") +
+                    Cell(ToQt(value.units)));
+    }
+    page += QStringLiteral("<p></p>") +
+            (values.empty() ? QStringLiteral("<p>") + tr("This conversion has no values.").toHtmlEscaped() +
+                                  QStringLiteral("</p>")
+                            : Table(rows));
+    if (const auto lost = document.CheckRecord(probe).Lines(); !lost.empty()) {
+        QStringList keys;
+        for (const std::wstring& key : lost)
+            keys += ToQt(key).toHtmlEscaped();
+        page += QStringLiteral("<p><b>") +
+                tr("These keys are missing or cannot be read; default values stand in their place:")
+                    .toHtmlEscaped() +
+                QStringLiteral("</b><br>") + keys.join(QLatin1String("<br>")) + QStringLiteral("</p>");
+    }
+    const QString rule(36, QLatin1Char('_'));
+    return page + QStringLiteral("<p></p><p></p>") +
+           Table(line(tr("Compared with certificate no.:"), rule) + line(tr("Date:"), rule) +
+                 line(tr("Signature:"), rule));
+}
+
+} // namespace ProbeSetup

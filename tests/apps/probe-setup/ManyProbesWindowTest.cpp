@@ -1,0 +1,244 @@
+// Commands of the window for several probes, the clipboard, the order of the list, paper, and what other
+// programs do to the file meanwhile.
+
+#include "QuorConversions/qt/QtPlatform.h"
+#include "apps/probe-setup/ProbeReport.h"
+#include "apps/probe-setup/ReportCommands.h"
+#include "apps/probe-setup/TypeTexts.h"
+#include "tests/apps/probe-setup/WindowTest.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QFrame>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTextDocument>
+
+#include <filesystem>
+
+using namespace ProbeSetup;
+using QuorConversions::QtToolkit::FromQt;
+
+namespace {
+
+class ManyProbesWindow : public WindowTest {
+protected:
+    void SelectAll() const {
+        GoTo(0);
+        Press(Qt::Key_A, Qt::ControlModifier);
+    }
+    void ClickHeader(int column) const {
+        auto* const header = Table().header();
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                          {header->sectionViewportPosition(column) + 5, header->height() / 2});
+    }
+};
+
+} // namespace
+
+TEST_F(ManyProbesWindow, ACommandForOneProbeSaysWhyItIsDisabled) {
+    GoTo(0);
+    EXPECT_TRUE(Action("edit").isEnabled());
+    EXPECT_EQ(Action("edit").toolTip(), "Edit the settings of the conversion");
+    SelectAll();
+    for (const char* const name : {"edit", "rename"}) {
+        EXPECT_FALSE(Action(name).isEnabled()) << name;
+        EXPECT_EQ(Action(name).toolTip(), "This can be done with one probe only") << name;
+        EXPECT_EQ(Action(name).statusTip(), "This can be done with one probe only") << name;
+    }
+    for (const char* const name : {"changeType", "duplicate", "remove", "export", "copy", "print", "pdf"})
+        EXPECT_TRUE(Action(name).isEnabled()) << name;
+    Table().clearSelection();
+    EXPECT_EQ(Action("remove").toolTip(), "No probe is selected");
+}
+
+TEST_F(ManyProbesWindow, DuplicateTakesTheWholeSelectionAndUndoTakesItBackAtOnce) {
+    SelectAll();
+    Press(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(Names(), (QStringList{"Probe 1", "Probe 2", "Probe 1 (2)", "Probe 2 (2)"}));
+    EXPECT_EQ(Table().selectionModel()->selectedRows().size(), 2);
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Names(), (QStringList{"Probe 1", "Probe 2"}));
+}
+
+TEST_F(ManyProbesWindow, ChangeTypeTakesTheWholeSelectionAndAFormIsChosenByTheFilterLine) {
+    SelectAll();
+    QString title;
+    WhenShown<QDialog>([&](QDialog& dialog) {
+        title = dialog.windowTitle();
+        QTest::keyClicks(dialog.findChild<QLineEdit*>("typeFilter"), "a, b and");
+        EXPECT_EQ(dialog.findChild<QListWidget*>("probeType")->currentItem()->text(),
+                  "Callendar-Van Dusen, A, B and C");
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    Press(Qt::Key_T, Qt::ControlModifier);
+    EXPECT_EQ(title, "Conversion type of 2 probes");
+    Press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_NE(File().find("[Probe 1 - Settings]\nVersion=1.0\nNumCoefficients=4\nUsePolynomial=True\n"),
+              std::string::npos)
+        << File();
+    EXPECT_NE(File().find("[Probe 2 - Settings]\nVersion=1.0\nNumCoefficients=4\nUsePolynomial=True\n"),
+              std::string::npos);
+}
+
+TEST_F(ManyProbesWindow, ANewItsNinetyProbeGetsTheRangesThatAreChosen) {
+    WhenShown<QDialog>([](QDialog& dialog) {
+        EXPECT_EQ(dialog.findChild<QListWidget*>("probeType")->currentItem()->text(), "ITS-90");
+        const auto choose = [&dialog](const char* name, const char* range) {
+            auto* const box = dialog.findChild<QComboBox*>(QString::fromLatin1(name));
+            box->setCurrentText(QString::fromLatin1(range));
+            EXPECT_EQ(box->currentText(), range);
+        };
+        choose("lowRange", "Range 4 (83K to 273K)");
+        choose("highRange", "Range 7 (273K to 933K)");
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    GoTo(0);
+    Press(Qt::Key_Insert);
+    const TypeChoice choice = TypeChoice::Of(window->Document().Conversion(2));
+    EXPECT_EQ(choice.low, QuorConversions::ITS90_RANGE_4);
+    EXPECT_EQ(choice.high, QuorConversions::ITS90_RANGE_7);
+}
+
+TEST_F(ManyProbesWindow, SeveralProbesAreExportedIntoAFolder) {
+    Press(Qt::Key_Home);
+    GoTo(0);
+    Press(Qt::Key_D, Qt::ControlModifier);
+    SelectAll();
+    WhenShown<QFileDialog>([this](QFileDialog& dialog) {
+        dialog.findChild<QLineEdit*>("fileNameEdit")->setText(Path("."));
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    Action("export").trigger();
+    EXPECT_TRUE(std::filesystem::exists(folder.Path("Probe 1.cvd")));
+    EXPECT_TRUE(std::filesystem::exists(folder.Path("Probe 1 (2).cvd")));
+    EXPECT_TRUE(window->statusBar()->currentMessage().startsWith("2 probes are written into "))
+        << window->statusBar()->currentMessage().toStdString();
+}
+
+TEST_F(ManyProbesWindow, ProbesGoThroughTheClipboardAsText) {
+    SelectAll();
+    Press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QApplication::clipboard()->text().startsWith("[Probe 1]\nVersion=1.0\nConversionType=2\n"));
+    Press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Names(), (QStringList{"Probe 1", "Probe 2", "Probe 1 (2)", "Probe 2 (2)"}));
+    QString text;
+    WillAnswer(QMessageBox::Ok, &text);
+    QApplication::clipboard()->setText("Good morning");
+    Press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(text,
+              "The text on the clipboard cannot be pasted.|There is no probe in it: a probe begins with "
+              "its name in square brackets, and has a key \"ConversionType\".");
+}
+
+TEST_F(ManyProbesWindow, AClickOnAHeadingSortsAndTheThirdOneGivesTheOrderOfTheFile) {
+    Open("[P 10]\nConversionType=11\n[P 9]\nConversionType=10\n[p 1]\nConversionType=11\n");
+    ClickHeader(0);
+    EXPECT_EQ(Names(), (QStringList{"p 1", "P 9", "P 10"})) << "numbers by their value";
+    ClickHeader(0);
+    EXPECT_EQ(Names(), (QStringList{"P 10", "P 9", "p 1"}));
+    GoTo(1);
+    ClickHeader(0);
+    EXPECT_EQ(Names(), (QStringList{"P 10", "P 9", "p 1"})) << "as in the file";
+    EXPECT_EQ(Table().currentIndex().data().toString(), "P 9");
+    ClickHeader(1);
+    EXPECT_EQ(Names(), (QStringList{"P 9", "P 10", "p 1"})) << "by the conversion";
+    GoTo(0);
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Names(), (QStringList{"P 10", "p 1"}));
+    EXPECT_FALSE(window->Document().Find(L"P 9"));
+}
+
+TEST_F(ManyProbesWindow, APageSaysAllOfAProbeAndHasLinesForDateAndSignature) {
+    QTextDocument paper;
+    QuorConversions::QtToolkit::QtPlatform platform;
+    ProbeReport::Write(window->Document(), platform, {0, 1}, QDateTime({2024, 3, 1}, {14, 5}), paper);
+    const QStringList lines = paper.toPlainText().split('\n', Qt::SkipEmptyParts);
+    const QString rule(36, '_');
+    EXPECT_EQ(
+        lines.mid(0, 13),
+        (QStringList{"Probe 1", "Conversion:", "Callendar-Van Dusen", "File:", Path("host.ini"),
+                     "Printed:", QLocale().toString(QDateTime({2024, 3, 1}, {14, 5}), QLocale::ShortFormat),
+                     "Name", "Value", "Unit", "R0", "100", QString::fromUtf8("Ω")}));
+    EXPECT_TRUE(paper.toPlainText().contains(QString::fromUtf8("ALPHA\n0.0039083\n°C⁻¹\n")));
+    EXPECT_EQ(lines.count(rule), 6);
+    EXPECT_TRUE(lines.contains("Signature:"));
+    EXPECT_TRUE(lines.contains("This conversion has no values."));
+}
+
+TEST_F(ManyProbesWindow, APdfHasAPageForEachProbe) {
+    SelectAll();
+    WhenShown<QFileDialog>([this](QFileDialog& dialog) {
+        dialog.findChild<QLineEdit*>("fileNameEdit")->setText(Path("probes"));
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    Action("pdf").trigger();
+    const std::string pdf = folder.Read("probes.pdf");
+    EXPECT_EQ(pdf.substr(0, 5), "%PDF-");
+    EXPECT_NE(pdf.find("/Count 2"), std::string::npos);
+}
+
+TEST_F(ManyProbesWindow, ABarOffersToReloadWhenAnotherProgramHasChangedTheFile) {
+    auto& bar = Find<QFrame>("reloadBar");
+    EXPECT_FALSE(bar.isVisible());
+    folder.Write("host.ini", host + "[Probe 3]\nConversionType=11\n");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar.isVisible(); }));
+    EXPECT_EQ(Find<QLabel>("reloadText").text(),
+              "Another program has changed host.ini. What you see here is older.");
+    GoTo(1);
+    QTest::mouseClick(&Find<QPushButton>("reload"), Qt::LeftButton);
+    EXPECT_EQ(Names(), (QStringList{"Probe 1", "Probe 2", "Probe 3"}));
+    EXPECT_EQ(Table().currentIndex().row(), 1);
+    EXPECT_FALSE(bar.isVisible());
+
+    folder.Write("host.ini", host); // a file that was replaced is watched on
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar.isVisible(); }));
+}
+
+TEST_F(ManyProbesWindow, ASaveOfOurOwnIsNoChangeOfAnotherProgram) {
+    GoTo(0);
+    Press(Qt::Key_D, Qt::ControlModifier);
+    Press(Qt::Key_S, Qt::ControlModifier);
+    QTest::qWait(500);
+    EXPECT_FALSE(Find<QFrame>("reloadBar").isVisible());
+}
+
+TEST_F(ManyProbesWindow, NoDialogOpensOnValuesThatAnotherProgramHasChanged) {
+    std::string changed = host;
+    changed.replace(changed.find("100.0"), 5, "99.75");
+    folder.Write("host.ini", changed);
+    QString shown;
+    WhenShown<QDialog>([&](QDialog& dialog) {
+        shown = dialog.findChild<QLineEdit*>("txtCoefficients(0)")->text();
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    GoTo(0);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(shown, "99.75");
+
+    window->Document().Rename(1, L"Ours");
+    folder.Write("host.ini", host);
+    QString text;
+    WillAnswer(QMessageBox::Cancel, &text);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(text,
+              "Another program has changed \"Probe 1\" in the file.|Reload the file to see its values as "
+              "they are now.");
+    EXPECT_TRUE(window->Document().Changed());
+}
+
+TEST_F(ManyProbesWindow, SaveAsGoesOnWithTheOtherFile) {
+    WhenShown<QFileDialog>([this](QFileDialog& dialog) {
+        dialog.findChild<QLineEdit*>("fileNameEdit")->setText(Path("other"));
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    Press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(window->Document().Path(), folder.Name("other.ini"));
+    EXPECT_EQ(folder.Read("other.ini"), host);
+    EXPECT_EQ(window->windowTitle(), QString::fromUtf8("other.ini[*] – Probe Setup"));
+}
