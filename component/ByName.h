@@ -218,6 +218,8 @@ using OutInt16 = Result<std::int16_t, QUOR_INT16, &Field::int16>;
 using OutInt32 = Result<std::int32_t, QUOR_INT32, &Field::int32>;
 using OutDouble = Result<double, QUOR_DOUBLE, &Field::number>;
 using OutText = Result<quor_text, QUOR_TEXT, &Field::text>;
+using OutInt32s = Result<quor_int32s, QUOR_INT32S, &Field::int32s>;
+using OutDoubles = Result<quor_doubles, QUOR_DOUBLES, &Field::doubles>;
 using OutObject = Result<quor_object, QUOR_OBJECT, &Field::object>;
 
 /// Loads the arguments, calls, and stores what came out.

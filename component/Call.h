@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string_view>
 #include <type_traits>
 #include <typeinfo>
@@ -57,6 +58,16 @@ void Out(std::int32_t* result, Enumeration value) {
 inline void Out(quor_text* result, std::wstring_view text) {
     if (result)
         *result = NewText(text);
+}
+
+inline void Out(quor_int32s* result, std::span<const std::int32_t> numbers) {
+    if (result)
+        *result = {numbers.data(), numbers.size()};
+}
+
+inline void Out(quor_doubles* result, std::span<const double> numbers) {
+    if (result)
+        *result = {numbers.data(), numbers.size()};
 }
 
 template <class T>

@@ -4,6 +4,7 @@
 #include "QuorIniFile/QuorIniFile.h"
 #include "QuorRegistryII/QuorRegistryII.h"
 #include "component/DialogFace.h"
+#include "component/ProbeFileFace.h"
 
 namespace QuorConversions::Component {
 

@@ -56,6 +56,8 @@ std::shared_ptr<ControlFace> ControlFace::Parent() const { return m_owner->FaceO
 
 std::wstring ControlFace::Text() const { return As<TextBox>(ControlKind::TextBox).Text(); }
 
+std::wstring ControlFace::Advice() const { return As<TextBox>(ControlKind::TextBox).Advice(); }
+
 std::int32_t ControlFace::SelStart() const {
     return static_cast<std::int32_t>(As<TextBox>(ControlKind::TextBox).SelStart());
 }
@@ -198,6 +200,10 @@ void DialogFace::EditText(const ControlFace& box, std::wstring text, std::int32_
         Throw(QUOR_ERROR_SUBSCRIPT, L"The selection is negative");
     Input().Edit(edited, std::move(text), static_cast<std::size_t>(selStart),
                  static_cast<std::size_t>(selLength));
+}
+
+void DialogFace::Paste(const ControlFace& box, const std::wstring& text) {
+    Input().Paste(Own<TextBox>(box, ControlKind::TextBox), text);
 }
 
 } // namespace QuorConversions::Component

@@ -37,6 +37,7 @@ public:
     [[nodiscard]] bool IsUsable() const { return Get().IsUsable(); }
     [[nodiscard]] std::shared_ptr<ControlFace> Parent() const;
     [[nodiscard]] std::wstring Text() const;
+    [[nodiscard]] std::wstring Advice() const;
     [[nodiscard]] std::int32_t SelStart() const;
     [[nodiscard]] std::int32_t SelLength() const;
     [[nodiscard]] std::int32_t ListCount() const;
@@ -81,6 +82,8 @@ public:
     [[nodiscard]] std::int32_t ColumnCount() const;
     [[nodiscard]] std::shared_ptr<ControlFace> Columns(std::int32_t index);
     [[nodiscard]] std::shared_ptr<ControlFace> CancelButton() { return FaceOf(Get().CancelButton()); }
+    [[nodiscard]] std::shared_ptr<ControlFace> HelpButton() { return FaceOf(Get().HelpButton()); }
+    [[nodiscard]] std::shared_ptr<ControlFace> AdvisedBox() { return FaceOf(Get().AdvisedBox()); }
     [[nodiscard]] std::int32_t WindowHandle() const { return Get().WindowHandle(); }
     void SetWindowHandle(std::int32_t value) { Get().SetWindowHandle(value); }
     [[nodiscard]] bool HasPlace() const { return Get().Place().has_value(); }
@@ -97,7 +100,9 @@ public:
     void PressTab(bool backwards) { Input().Tab(backwards); }
     [[nodiscard]] std::int16_t KeyPress(std::int16_t keyAscii) { return Input().KeyPress(keyAscii); }
     void EditText(const ControlFace& box, std::wstring text, std::int32_t selStart, std::int32_t selLength);
+    void Paste(const ControlFace& box, const std::wstring& text);
     void Escape() { Input().Escape(); }
+    void Help() { Input().Help(); }
     void Close() { Input().Close(); }
 
     /// The one face of a control; null for null.

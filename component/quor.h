@@ -68,6 +68,16 @@ static inline quor_text quor_text_of(const char* text) {
     return result;
 }
 
+/* Numbers that belong to the object which has given them out; they live as long as it does. */
+typedef struct quor_int32s {
+    const int32_t* values; /* NULL when there are none */
+    size_t size;           /* how many */
+} quor_int32s;
+typedef struct quor_doubles {
+    const double* values;
+    size_t size;
+} quor_doubles;
+
 /* Frees a text that the library has given out, and empties it. NULL and the empty text need nothing. */
 QUOR_API void quor_text_free(quor_text* text);
 
@@ -122,7 +132,8 @@ QUOR_API const char* quor_version(void);
 
 /* ---- Calls by name ---------------------------------------------------------------------------------------------- */
 
-enum { QUOR_EMPTY = 0, QUOR_BOOL = 1, QUOR_INT16 = 2, QUOR_INT32 = 3, QUOR_DOUBLE = 4, QUOR_TEXT = 5, QUOR_OBJECT = 6 };
+enum { QUOR_EMPTY = 0, QUOR_BOOL = 1, QUOR_INT16 = 2, QUOR_INT32 = 3, QUOR_DOUBLE = 4, QUOR_TEXT = 5, QUOR_OBJECT = 6,
+       QUOR_INT32S = 7, QUOR_DOUBLES = 8 };
 
 /* A value with its kind. An enumeration is a QUOR_INT32. */
 typedef struct quor_value {
@@ -135,6 +146,8 @@ typedef struct quor_value {
         double number;
         quor_text text;
         quor_object object;
+        quor_int32s int32s;
+        quor_doubles doubles;
     } as;
 } quor_value;
 
@@ -510,6 +523,62 @@ enum {
     QUOR_CONTROL_DROP_DOWN_LIST = 3,
     QUOR_CONTROL_FRAME = 4,
     QUOR_CONTROL_TAB_STRIP = 5
+};
+
+typedef int32_t quor_EProbeFileError;
+enum {
+    QUOR_PROBE_NO_SUCH_SECTION = 1, /* there is no such section */
+    QUOR_PROBE_NO_RECORD = 2, /* the section is there and is not the record of a probe */
+    QUOR_PROBE_TYPE_UNREADABLE = 3, /* the record says no type that could be read; ErrorOther is its text */
+    QUOR_PROBE_UNKNOWN_TYPE = 4, /* its type is the code of no conversion; ErrorOther is the code */
+    QUOR_PROBE_INCOMPLETE = 5, /* it cannot be read wholly; see the rows of problems */
+    QUOR_PROBE_BAD_NAME = 6, /* no section can have the name */
+    QUOR_PROBE_NAME_IS_TAKEN = 7, /* another section has the name, or another probe of one Write */
+    QUOR_PROBE_NAME_OF_SETTINGS = 8, /* a probe, ErrorOther, keeps its settings in a section of that name */
+    QUOR_PROBE_SETTINGS_ARE_TAKEN = 9, /* the settings would stand in ErrorOther, a section that is there already */
+    QUOR_PROBE_SECTION_IS_SHARED = 10, /* a section would go or move with the probe that ErrorOther needs, too */
+    QUOR_PROBE_OF_ANOTHER_TYPE = 11, /* a probe of another type, ErrorOther, stands in the section */
+    QUOR_PROBE_DOES_NOT_FIT_FILE = 12, /* the section is that of a stand-alone settings file, which is not for the type, or for the probe that is to be renamed, ErrorOther */
+    QUOR_PROBE_CANNOT_BE_WRITTEN = 13, /* by its conversion, whose error is raised */
+    QUOR_PROBE_SECTION_OF_HOST = 14 /* no probe can be written into a section that is there and is no record */
+};
+
+typedef int32_t quor_EProbeProblem;
+enum {
+    QUOR_PROBLEM_SECTION_MISSING = 1,
+    QUOR_PROBLEM_KEY_MISSING = 2,
+    QUOR_PROBLEM_VALUE_UNREADABLE = 3, /* it is not of its kind: a number with a comma, a text in place of a code */
+    QUOR_PROBLEM_UNKNOWN_TYPE = 4, /* the code of the type is that of no conversion type */
+    QUOR_PROBLEM_RECORD_REFUSED = 5, /* the settings object refuses the record; the text is its own */
+    QUOR_PROBLEM_VALUE_REFUSED = 6, /* a value, such as a count below zero, with which no record can be read */
+    QUOR_PROBLEM_VALUE_REPLACED = 7, /* the settings object takes another value instead */
+    QUOR_PROBLEM_UNKNOWN_KEY = 8, /* a record of this type and size does not hold the key */
+    QUOR_PROBLEM_DUPLICATE_KEY = 9, /* the first one is read */
+    QUOR_PROBLEM_DUPLICATE_SECTION = 10, /* the first one is read */
+    QUOR_PROBLEM_UNCLOSED_HEADER = 11, /* a header without "]": nobody can read the record below it */
+    QUOR_PROBLEM_MALFORMED_LINE = 12, /* no key=value */
+    QUOR_PROBLEM_KEPT_FILE = 13, /* beside the file: what another program had put in its place */
+    QUOR_PROBLEM_INTERRUPTED_SAVE = 14, /* beside the file: what an interrupted save has left */
+    QUOR_WARNING_R0_NOT_POSITIVE = 101,
+    QUOR_WARNING_RTPW_NOT_POSITIVE = 102,
+    QUOR_WARNING_NOT_FINITE = 103, /* NaN or infinity */
+    QUOR_WARNING_COEFFICIENTS_ALL_ZERO = 104,
+    QUOR_WARNING_TEMPERATURES_NOT_INCREASING = 105,
+    QUOR_WARNING_RANGE_DOES_NOT_FIT = 106, /* coefficients that the ITS-90 range does not have are not 0 */
+    QUOR_WARNING_ALPHA_SIZE = 107,
+    QUOR_WARNING_DELTA_SIZE = 108,
+    QUOR_WARNING_BETA_SIZE = 109,
+    QUOR_WARNING_CVD_A_SIZE = 110,
+    QUOR_WARNING_CVD_B_SIZE = 111,
+    QUOR_WARNING_CVD_C_SIZE = 112,
+    QUOR_WARNING_A4_SIZE = 113,
+    QUOR_WARNING_C4_SIZE = 114,
+    QUOR_WARNING_DEVIATION_A_SIZE = 115,
+    QUOR_WARNING_DEVIATION_SIZE = 116, /* b, c, d and c1 to c5 of the ITS-90 */
+    QUOR_WARNING_THERMISTOR_A0_SIZE = 117,
+    QUOR_WARNING_THERMISTOR_A1_SIZE = 118,
+    QUOR_WARNING_THERMISTOR_A3_SIZE = 119,
+    QUOR_WARNING_THERMISTOR_B1_SIZE = 120
 };
 
 /* ---- Classes ---------------------------------------------------------------------------------------------------- */
@@ -1341,6 +1410,14 @@ QUOR_API int32_t quor_dialog_EditText(quor_object dialog, quor_object Box, quor_
 QUOR_API int32_t quor_dialog_Escape(quor_object dialog);
 /* The window's own close box. */
 QUOR_API int32_t quor_dialog_Close(quor_object dialog);
+/* A text is pasted into a box, or dropped on it. It may fill the boxes behind it, too. */
+QUOR_API int32_t quor_dialog_Paste(quor_object dialog, quor_object Box, quor_text Text);
+/* The F1 key. */
+QUOR_API int32_t quor_dialog_Help(quor_object dialog);
+/* The button that the F1 key presses; none when there is none. */
+QUOR_API int32_t quor_dialog_get_HelpButton(quor_object dialog, quor_object* result);
+/* The box whose advice is to be shown; none when there is no advice. */
+QUOR_API int32_t quor_dialog_get_AdvisedBox(quor_object dialog, quor_object* result);
 
 /* Control. A control of a dialog that runs. A member that its kind does not have is error 438. */
 
@@ -1388,6 +1465,125 @@ QUOR_API int32_t quor_control_get_TabCaption(quor_object control, int32_t Index,
 QUOR_API int32_t quor_control_get_TabPresent(quor_object control, int32_t Index, quor_bool* result);
 /* The selected tab, from 0. */
 QUOR_API int32_t quor_control_get_SelectedTab(quor_object control, int32_t* result);
+/* What the user is told of the text of a box before it is stored; mostly empty. */
+QUOR_API int32_t quor_control_get_Advice(quor_object control, quor_text* result);
+
+/* ProbeFile. The probes of a host's file, or the one of a stand-alone settings file. What is written is durable
+ * when the call returns, and every call that writes does so in one turn, upon the file as it is then. All reads see
+ * one text, that which was loaded first or saved last, until Reload. Between Hold and Release nothing is written:
+ * Release does all of it together, or when one thing fails nothing, and raises what that raises. A file that such a
+ * call reads, Before and Source, stays until then, and is another object. An error of a probe is 75 or the number
+ * of its cause; ErrorCode says which it is. */
+
+QUOR_API int32_t quor_probe_file_create(quor_text path, quor_bool mayBeNew, quor_object* result);
+/* The path as it was given. */
+QUOR_API int32_t quor_probe_file_get_Path(quor_object probe_file, quor_text* result);
+/* Whether a write would be refused, because this user may not write the file or its folder. */
+QUOR_API int32_t quor_probe_file_get_IsReadOnly(quor_object probe_file, quor_bool* result);
+/* How many probes there are. */
+QUOR_API int32_t quor_probe_file_get_ProbeCount(quor_object probe_file, int32_t* result);
+/* The section of a probe, in the order of the file, from 0. */
+QUOR_API int32_t quor_probe_file_get_ProbeSection(quor_object probe_file, int32_t Index, quor_text* result);
+/* The line of the header of a probe's section, from 1. */
+QUOR_API int32_t quor_probe_file_get_ProbeLine(quor_object probe_file, int32_t Index, int32_t* result);
+/* The conversion type of a probe, CONV_NONE where HasType is False. It may be a code of none. */
+QUOR_API int32_t quor_probe_file_get_ProbeType(quor_object probe_file, int32_t Index,
+                                               quor_EQuorConversionType* result);
+/* Whether the record of a probe says a type that can be read. False for a stand-alone one. */
+QUOR_API int32_t quor_probe_file_get_HasType(quor_object probe_file, int32_t Index, quor_bool* result);
+/* Whether the section holds the settings themselves: the probe of a settings file. */
+QUOR_API int32_t quor_probe_file_get_IsStandAlone(quor_object probe_file, int32_t Index, quor_bool* result);
+/* The name of a probe's conversion; empty where its type cannot be read. */
+QUOR_API int32_t quor_probe_file_get_ConversionName(quor_object probe_file, int32_t Index, quor_text* result);
+/* The index of the probe of a section, in any case of ASCII letters; -1 when there is none. */
+QUOR_API int32_t quor_probe_file_FindProbe(quor_object probe_file, quor_text Section, int32_t* result);
+/* Reads a probe. True when it is whole; otherwise the rows of problems and messages tell, nobody else. */
+QUOR_API int32_t quor_probe_file_Read(quor_object probe_file, quor_text Section, quor_object Conversion,
+                                      quor_bool* result);
+/* The numbers of all probes at once. */
+QUOR_API int32_t quor_probe_file_ReadAll(quor_object probe_file, quor_object* result);
+/* Looks for all that is wrong with the file and its probes. How many problems there are. */
+QUOR_API int32_t quor_probe_file_Check(quor_object probe_file, int32_t* result);
+/* How many problems the last Read or Check has found, or an error of a Copy has told. */
+QUOR_API int32_t quor_probe_file_get_ProblemCount(quor_object probe_file, int32_t* result);
+/* What is wrong. */
+QUOR_API int32_t quor_probe_file_get_ProblemKind(quor_object probe_file, int32_t Index, quor_EProbeProblem* result);
+/* The line of a problem, from 1; 0 for what stands beside the file. */
+QUOR_API int32_t quor_probe_file_get_ProblemLine(quor_object probe_file, int32_t Index, int32_t* result);
+/* The section of a problem; empty where it has no name. */
+QUOR_API int32_t quor_probe_file_get_ProblemSection(quor_object probe_file, int32_t Index, quor_text* result);
+/* The key of a problem; empty where it is not that of one key. */
+QUOR_API int32_t quor_probe_file_get_ProblemKey(quor_object probe_file, int32_t Index, quor_text* result);
+/* What is wrong, for a person, without the place. */
+QUOR_API int32_t quor_probe_file_get_ProblemText(quor_object probe_file, int32_t Index, quor_text* result);
+/* How many messages the library had about what was read last. */
+QUOR_API int32_t quor_probe_file_get_MessageCount(quor_object probe_file, int32_t* result);
+/* A message of the library, on one line. */
+QUOR_API int32_t quor_probe_file_get_Messages(quor_object probe_file, int32_t Index, quor_text* result);
+/* Writes a probe: only lines of values that differ change. Changed of the conversion stays as it is. */
+QUOR_API int32_t quor_probe_file_Write(quor_object probe_file, quor_text Section, quor_object Conversion);
+/* Writes what has changed since the probe was read from Before. False: there are conflicts, nothing is written. */
+QUOR_API int32_t quor_probe_file_WriteChanges(quor_object probe_file, quor_text Section, quor_object Conversion,
+                                              quor_object Before, quor_bool* result);
+/* How many values others have changed, too, as the last WriteChanges or Release has found. */
+QUOR_API int32_t quor_probe_file_get_ConflictCount(quor_object probe_file, int32_t* result);
+/* The section of such a value. */
+QUOR_API int32_t quor_probe_file_get_ConflictSection(quor_object probe_file, int32_t Index, quor_text* result);
+/* The key of such a value. */
+QUOR_API int32_t quor_probe_file_get_ConflictKey(quor_object probe_file, int32_t Index, quor_text* result);
+/* The value that was read; empty for none. */
+QUOR_API int32_t quor_probe_file_get_ConflictRead(quor_object probe_file, int32_t Index, quor_text* result);
+/* The value that stands in the file now; empty for none. */
+QUOR_API int32_t quor_probe_file_get_ConflictTheirs(quor_object probe_file, int32_t Index, quor_text* result);
+/* The value that was to be written. */
+QUOR_API int32_t quor_probe_file_get_ConflictOurs(quor_object probe_file, int32_t Index, quor_text* result);
+/* Gives a probe another name, and so the sections of its settings. */
+QUOR_API int32_t quor_probe_file_Rename(quor_object probe_file, quor_text Section, quor_text Name);
+/* Removes a probe with the sections of its settings. Comments that stand apart stay. */
+QUOR_API int32_t quor_probe_file_Remove(quor_object probe_file, quor_text Section);
+/* Writes the values of a probe into another section, a new one or one of the same type. */
+QUOR_API int32_t quor_probe_file_Copy(quor_object probe_file, quor_text Section, quor_text ToSection);
+/* The same from another file, as it was loaded. */
+QUOR_API int32_t quor_probe_file_CopyFrom(quor_object probe_file, quor_object Source, quor_text Section,
+                                          quor_text ToSection);
+/* Opens a bracket: what is written in it becomes durable with the outermost Release. */
+QUOR_API int32_t quor_probe_file_Hold(quor_object probe_file);
+/* Closes a bracket that Hold has opened. */
+QUOR_API int32_t quor_probe_file_Release(quor_object probe_file);
+/* Closes a bracket in place of Release: nothing written since the outermost Hold is saved. */
+QUOR_API int32_t quor_probe_file_Abandon(quor_object probe_file);
+/* Gives another file the text of this one as it was loaded or saved last. */
+QUOR_API int32_t quor_probe_file_SaveAs(quor_object probe_file, quor_text Path);
+/* Whether another program has changed the file since it was loaded or saved, or has removed it. */
+QUOR_API int32_t quor_probe_file_get_Changed(quor_object probe_file, quor_bool* result);
+/* Loads the file as it is now. */
+QUOR_API int32_t quor_probe_file_Reload(quor_object probe_file);
+/* The file itself, for its other sections. */
+QUOR_API int32_t quor_probe_file_get_Store(quor_object probe_file, quor_object* result);
+/* Why the last call has failed; 0 when it has not, or when it is no matter of a probe. */
+QUOR_API int32_t quor_probe_file_get_ErrorCode(quor_object probe_file, quor_EProbeFileError* result);
+/* What else that concerns: another probe or section, or a type; mostly empty. */
+QUOR_API int32_t quor_probe_file_get_ErrorOther(quor_object probe_file, quor_text* result);
+
+/* ProbeTable. The numbers of all probes of a file, one array behind the other, for hosts in languages with slow
+ * calls. It is of the moment in which ReadAll made it. The values of probe i begin where those of probe i - 1 end. */
+
+/* How many probes there are. */
+QUOR_API int32_t quor_probe_table_get_ProbeCount(quor_object probe_table, int32_t* result);
+/* The sections of the probes, each with a line feed (10) behind it. */
+QUOR_API int32_t quor_probe_table_get_Sections(quor_object probe_table, quor_text* result);
+/* The conversion type of each probe; CONV_NONE where it cannot be read. */
+QUOR_API int32_t quor_probe_table_get_Types(quor_object probe_table, quor_int32s* result);
+/* How many problems and messages there are with each probe; -1 for one that cannot be read. */
+QUOR_API int32_t quor_probe_table_get_ProblemCounts(quor_object probe_table, quor_int32s* result);
+/* Each list of keys that occurs, with tabs between the keys and a line feed (10) behind the list. */
+QUOR_API int32_t quor_probe_table_get_KeyLists(quor_object probe_table, quor_text* result);
+/* Which list, from 0, names the values of each probe. */
+QUOR_API int32_t quor_probe_table_get_KeyListOf(quor_object probe_table, quor_int32s* result);
+/* Where the values of each probe end, and those of the next one begin. */
+QUOR_API int32_t quor_probe_table_get_ValueEnds(quor_object probe_table, quor_int32s* result);
+/* The values of all probes. Booleans are 1 and 0; texts, such as units, are not among them. */
+QUOR_API int32_t quor_probe_table_get_Values(quor_object probe_table, quor_doubles* result);
 
 #ifdef __cplusplus
 }

@@ -48,8 +48,9 @@ private:
     std::size_t m_at = 0;
 };
 
-constexpr std::array classes{"CQuorConversion", "CQuorPT100", "CQuorTCTypePoly", "INIFile",
-                             "Registry",        "CQuorCVD",   "Platform",        ""};
+constexpr std::array classes{"CQuorConversion", "CQuorPT100", "CQuorTCTypePoly",
+                             "INIFile",         "Registry",   "CQuorCVD",
+                             "Platform",        "",           "ProbeFile"};
 constexpr std::array texts{"Probe", "Probe - Settings", "Coefficients0", "R0", "K", "x.ini", "1.5", "\xFF"};
 
 class Host {
@@ -195,13 +196,19 @@ private:
             args[0].kind = args[1].kind = QUOR_TEXT;
             args[0].as.text = {application.data(), application.size()};
             args[1].as.text = quor_text_of("folder");
+        } else if (std::strcmp(name, "ProbeFile") == 0) {
+            args[0].kind = QUOR_TEXT;
+            args[0].as.text = quor_text_of("x.ini");
+            args[1].kind = QUOR_BOOL;
+            args[1].as.boolean = m_input.Byte() % 4 == 0 ? std::int16_t{0} : std::int16_t{-1};
         } else {
             args[0].kind = QUOR_OBJECT;
             args[0].as.object = m_platform;
         }
-        const std::int32_t n = std::strcmp(name, "INIFile") == 0    ? 0
-                               : std::strcmp(name, "Registry") == 0 ? 2
-                                                                    : 1;
+        const std::int32_t n = std::strcmp(name, "INIFile") == 0 ? 0
+                               : std::strcmp(name, "Registry") == 0 || std::strcmp(name, "ProbeFile") == 0
+                                   ? 2
+                                   : 1;
         quor_object made = 0;
         if (Check(quor_create(quor_text_of(name), args.data(), n, &made)))
             m_objects.push_back(made);
@@ -306,7 +313,7 @@ private:
         quor_value result{};
         if (Check(quor_invoke(object, id, kind, args.data(), static_cast<std::int32_t>(args.size()),
                               &result))) {
-            Claim(result.kind >= QUOR_EMPTY && result.kind <= QUOR_OBJECT,
+            Claim(result.kind >= QUOR_EMPTY && result.kind <= QUOR_DOUBLES,
                   "a result is of a kind that there is");
             if (result.kind == QUOR_OBJECT && result.as.object != 0 && m_objects.size() < 64) {
                 m_objects.push_back(result.as.object);

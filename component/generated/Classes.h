@@ -31,6 +31,8 @@ enum class ClassId : std::uint8_t {
     Platform,
     Dialog,
     Control,
+    ProbeFile,
+    ProbeTable,
 };
 
 template <class T> inline constexpr ClassId classOf = ClassId{}; // only those below are used
@@ -55,6 +57,8 @@ template <> inline constexpr ClassId classOf<ListControl> = ClassId::ListControl
 template <> inline constexpr ClassId classOf<Platform> = ClassId::Platform;
 template <> inline constexpr ClassId classOf<DialogFace> = ClassId::Dialog;
 template <> inline constexpr ClassId classOf<ControlFace> = ClassId::Control;
+template <> inline constexpr ClassId classOf<ProbeFileFace> = ClassId::ProbeFile;
+template <> inline constexpr ClassId classOf<ProbeTableFace> = ClassId::ProbeTable;
 
 /// The settings classes, which are given out as what they are.
 using SettingsClasses = Classes<CQuorITS90, CQuorIPTS68, CQuorCVD, CQuorPT100, CQuorHTPRT, CQuorWT90, CQuorThermistor, CQuorPolynomial, CQuorTCPolynomial, CQuorTCTable, CQuorTCTypeX, CQuorTCTypePoly>;

@@ -159,6 +159,54 @@ static_assert(+QUOR_CONTROL_TEXT_BOX == +CONTROL_TEXT_BOX);
 static_assert(+QUOR_CONTROL_DROP_DOWN_LIST == +CONTROL_DROP_DOWN_LIST);
 static_assert(+QUOR_CONTROL_FRAME == +CONTROL_FRAME);
 static_assert(+QUOR_CONTROL_TAB_STRIP == +CONTROL_TAB_STRIP);
+static_assert(+QUOR_PROBE_NO_SUCH_SECTION == +PROBE_NO_SUCH_SECTION);
+static_assert(+QUOR_PROBE_NO_RECORD == +PROBE_NO_RECORD);
+static_assert(+QUOR_PROBE_TYPE_UNREADABLE == +PROBE_TYPE_UNREADABLE);
+static_assert(+QUOR_PROBE_UNKNOWN_TYPE == +PROBE_UNKNOWN_TYPE);
+static_assert(+QUOR_PROBE_INCOMPLETE == +PROBE_INCOMPLETE);
+static_assert(+QUOR_PROBE_BAD_NAME == +PROBE_BAD_NAME);
+static_assert(+QUOR_PROBE_NAME_IS_TAKEN == +PROBE_NAME_IS_TAKEN);
+static_assert(+QUOR_PROBE_NAME_OF_SETTINGS == +PROBE_NAME_OF_SETTINGS);
+static_assert(+QUOR_PROBE_SETTINGS_ARE_TAKEN == +PROBE_SETTINGS_ARE_TAKEN);
+static_assert(+QUOR_PROBE_SECTION_IS_SHARED == +PROBE_SECTION_IS_SHARED);
+static_assert(+QUOR_PROBE_OF_ANOTHER_TYPE == +PROBE_OF_ANOTHER_TYPE);
+static_assert(+QUOR_PROBE_DOES_NOT_FIT_FILE == +PROBE_DOES_NOT_FIT_FILE);
+static_assert(+QUOR_PROBE_CANNOT_BE_WRITTEN == +PROBE_CANNOT_BE_WRITTEN);
+static_assert(+QUOR_PROBE_SECTION_OF_HOST == +PROBE_SECTION_OF_HOST);
+static_assert(+QUOR_PROBLEM_SECTION_MISSING == +PROBLEM_SECTION_MISSING);
+static_assert(+QUOR_PROBLEM_KEY_MISSING == +PROBLEM_KEY_MISSING);
+static_assert(+QUOR_PROBLEM_VALUE_UNREADABLE == +PROBLEM_VALUE_UNREADABLE);
+static_assert(+QUOR_PROBLEM_UNKNOWN_TYPE == +PROBLEM_UNKNOWN_TYPE);
+static_assert(+QUOR_PROBLEM_RECORD_REFUSED == +PROBLEM_RECORD_REFUSED);
+static_assert(+QUOR_PROBLEM_VALUE_REFUSED == +PROBLEM_VALUE_REFUSED);
+static_assert(+QUOR_PROBLEM_VALUE_REPLACED == +PROBLEM_VALUE_REPLACED);
+static_assert(+QUOR_PROBLEM_UNKNOWN_KEY == +PROBLEM_UNKNOWN_KEY);
+static_assert(+QUOR_PROBLEM_DUPLICATE_KEY == +PROBLEM_DUPLICATE_KEY);
+static_assert(+QUOR_PROBLEM_DUPLICATE_SECTION == +PROBLEM_DUPLICATE_SECTION);
+static_assert(+QUOR_PROBLEM_UNCLOSED_HEADER == +PROBLEM_UNCLOSED_HEADER);
+static_assert(+QUOR_PROBLEM_MALFORMED_LINE == +PROBLEM_MALFORMED_LINE);
+static_assert(+QUOR_PROBLEM_KEPT_FILE == +PROBLEM_KEPT_FILE);
+static_assert(+QUOR_PROBLEM_INTERRUPTED_SAVE == +PROBLEM_INTERRUPTED_SAVE);
+static_assert(+QUOR_WARNING_R0_NOT_POSITIVE == +WARNING_R0_NOT_POSITIVE);
+static_assert(+QUOR_WARNING_RTPW_NOT_POSITIVE == +WARNING_RTPW_NOT_POSITIVE);
+static_assert(+QUOR_WARNING_NOT_FINITE == +WARNING_NOT_FINITE);
+static_assert(+QUOR_WARNING_COEFFICIENTS_ALL_ZERO == +WARNING_COEFFICIENTS_ALL_ZERO);
+static_assert(+QUOR_WARNING_TEMPERATURES_NOT_INCREASING == +WARNING_TEMPERATURES_NOT_INCREASING);
+static_assert(+QUOR_WARNING_RANGE_DOES_NOT_FIT == +WARNING_RANGE_DOES_NOT_FIT);
+static_assert(+QUOR_WARNING_ALPHA_SIZE == +WARNING_ALPHA_SIZE);
+static_assert(+QUOR_WARNING_DELTA_SIZE == +WARNING_DELTA_SIZE);
+static_assert(+QUOR_WARNING_BETA_SIZE == +WARNING_BETA_SIZE);
+static_assert(+QUOR_WARNING_CVD_A_SIZE == +WARNING_CVD_A_SIZE);
+static_assert(+QUOR_WARNING_CVD_B_SIZE == +WARNING_CVD_B_SIZE);
+static_assert(+QUOR_WARNING_CVD_C_SIZE == +WARNING_CVD_C_SIZE);
+static_assert(+QUOR_WARNING_A4_SIZE == +WARNING_A4_SIZE);
+static_assert(+QUOR_WARNING_C4_SIZE == +WARNING_C4_SIZE);
+static_assert(+QUOR_WARNING_DEVIATION_A_SIZE == +WARNING_DEVIATION_A_SIZE);
+static_assert(+QUOR_WARNING_DEVIATION_SIZE == +WARNING_DEVIATION_SIZE);
+static_assert(+QUOR_WARNING_THERMISTOR_A0_SIZE == +WARNING_THERMISTOR_A0_SIZE);
+static_assert(+QUOR_WARNING_THERMISTOR_A1_SIZE == +WARNING_THERMISTOR_A1_SIZE);
+static_assert(+QUOR_WARNING_THERMISTOR_A3_SIZE == +WARNING_THERMISTOR_A3_SIZE);
+static_assert(+QUOR_WARNING_THERMISTOR_B1_SIZE == +WARNING_THERMISTOR_B1_SIZE);
 
 } // namespace QuorConversions::Component
 
@@ -2197,6 +2245,22 @@ int32_t quor_dialog_Close(quor_object dialog) {
     return Call<DialogFace>(dialog, [&](auto& it) { it.Close(); });
 }
 
+int32_t quor_dialog_Paste(quor_object dialog, quor_object Box, quor_text Text) {
+    return Call<DialogFace>(dialog, [&](auto& it) { it.Paste(*Reference<ControlFace>(Box), Wide(Text)); });
+}
+
+int32_t quor_dialog_Help(quor_object dialog) {
+    return Call<DialogFace>(dialog, [&](auto& it) { it.Help(); });
+}
+
+int32_t quor_dialog_get_HelpButton(quor_object dialog, quor_object* result) {
+    return Call<DialogFace>(dialog, [&](auto& it) { Out(result, it.HelpButton()); });
+}
+
+int32_t quor_dialog_get_AdvisedBox(quor_object dialog, quor_object* result) {
+    return Call<DialogFace>(dialog, [&](auto& it) { Out(result, it.AdvisedBox()); });
+}
+
 int32_t quor_control_get_Name(quor_object control, quor_text* result) {
     return Call<ControlFace>(control, [&](auto& it) { Out(result, it.Name()); });
 }
@@ -2283,5 +2347,214 @@ int32_t quor_control_get_TabPresent(quor_object control, int32_t Index, quor_boo
 
 int32_t quor_control_get_SelectedTab(quor_object control, int32_t* result) {
     return Call<ControlFace>(control, [&](auto& it) { Out(result, it.SelectedTab()); });
+}
+
+int32_t quor_control_get_Advice(quor_object control, quor_text* result) {
+    return Call<ControlFace>(control, [&](auto& it) { Out(result, it.Advice()); });
+}
+
+int32_t quor_probe_file_create(quor_text path, quor_bool mayBeNew, quor_object* result) {
+    return Guarded([&] { Out(result, std::shared_ptr<ProbeFileFace>(std::make_shared<ProbeFileFace>(Wide(path), mayBeNew != 0))); });
+}
+
+int32_t quor_probe_file_get_Path(quor_object probe_file, quor_text* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.Path()); });
+}
+
+int32_t quor_probe_file_get_IsReadOnly(quor_object probe_file, quor_bool* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.IsReadOnly()); });
+}
+
+int32_t quor_probe_file_get_ProbeCount(quor_object probe_file, int32_t* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ProbeCount()); });
+}
+
+int32_t quor_probe_file_get_ProbeSection(quor_object probe_file, int32_t Index, quor_text* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ProbeSection(Index)); });
+}
+
+int32_t quor_probe_file_get_ProbeLine(quor_object probe_file, int32_t Index, int32_t* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ProbeLine(Index)); });
+}
+
+int32_t quor_probe_file_get_ProbeType(quor_object probe_file, int32_t Index, quor_EQuorConversionType* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ProbeType(Index)); });
+}
+
+int32_t quor_probe_file_get_HasType(quor_object probe_file, int32_t Index, quor_bool* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.HasType(Index)); });
+}
+
+int32_t quor_probe_file_get_IsStandAlone(quor_object probe_file, int32_t Index, quor_bool* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.IsStandAlone(Index)); });
+}
+
+int32_t quor_probe_file_get_ConversionName(quor_object probe_file, int32_t Index, quor_text* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ConversionName(Index)); });
+}
+
+int32_t quor_probe_file_FindProbe(quor_object probe_file, quor_text Section, int32_t* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.FindProbe(Wide(Section))); });
+}
+
+int32_t quor_probe_file_Read(quor_object probe_file, quor_text Section, quor_object Conversion, quor_bool* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.Read(Wide(Section), *Reference<CQuorConversion>(Conversion))); });
+}
+
+int32_t quor_probe_file_ReadAll(quor_object probe_file, quor_object* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ReadAll()); });
+}
+
+int32_t quor_probe_file_Check(quor_object probe_file, int32_t* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.Check()); });
+}
+
+int32_t quor_probe_file_get_ProblemCount(quor_object probe_file, int32_t* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ProblemCount()); });
+}
+
+int32_t quor_probe_file_get_ProblemKind(quor_object probe_file, int32_t Index, quor_EProbeProblem* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ProblemKind(Index)); });
+}
+
+int32_t quor_probe_file_get_ProblemLine(quor_object probe_file, int32_t Index, int32_t* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ProblemLine(Index)); });
+}
+
+int32_t quor_probe_file_get_ProblemSection(quor_object probe_file, int32_t Index, quor_text* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ProblemSection(Index)); });
+}
+
+int32_t quor_probe_file_get_ProblemKey(quor_object probe_file, int32_t Index, quor_text* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ProblemKey(Index)); });
+}
+
+int32_t quor_probe_file_get_ProblemText(quor_object probe_file, int32_t Index, quor_text* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ProblemText(Index)); });
+}
+
+int32_t quor_probe_file_get_MessageCount(quor_object probe_file, int32_t* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.MessageCount()); });
+}
+
+int32_t quor_probe_file_get_Messages(quor_object probe_file, int32_t Index, quor_text* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.Messages(Index)); });
+}
+
+int32_t quor_probe_file_Write(quor_object probe_file, quor_text Section, quor_object Conversion) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { it.Write(Wide(Section), *Reference<CQuorConversion>(Conversion)); });
+}
+
+int32_t quor_probe_file_WriteChanges(quor_object probe_file, quor_text Section, quor_object Conversion,
+                                     quor_object Before, quor_bool* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.WriteChanges(Wide(Section), *Reference<CQuorConversion>(Conversion), *Reference<ProbeFileFace>(Before))); });
+}
+
+int32_t quor_probe_file_get_ConflictCount(quor_object probe_file, int32_t* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ConflictCount()); });
+}
+
+int32_t quor_probe_file_get_ConflictSection(quor_object probe_file, int32_t Index, quor_text* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ConflictSection(Index)); });
+}
+
+int32_t quor_probe_file_get_ConflictKey(quor_object probe_file, int32_t Index, quor_text* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ConflictKey(Index)); });
+}
+
+int32_t quor_probe_file_get_ConflictRead(quor_object probe_file, int32_t Index, quor_text* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ConflictRead(Index)); });
+}
+
+int32_t quor_probe_file_get_ConflictTheirs(quor_object probe_file, int32_t Index, quor_text* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ConflictTheirs(Index)); });
+}
+
+int32_t quor_probe_file_get_ConflictOurs(quor_object probe_file, int32_t Index, quor_text* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ConflictOurs(Index)); });
+}
+
+int32_t quor_probe_file_Rename(quor_object probe_file, quor_text Section, quor_text Name) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { it.Rename(Wide(Section), Wide(Name)); });
+}
+
+int32_t quor_probe_file_Remove(quor_object probe_file, quor_text Section) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { it.Remove(Wide(Section)); });
+}
+
+int32_t quor_probe_file_Copy(quor_object probe_file, quor_text Section, quor_text ToSection) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { it.Copy(Wide(Section), Wide(ToSection)); });
+}
+
+int32_t quor_probe_file_CopyFrom(quor_object probe_file, quor_object Source, quor_text Section, quor_text ToSection) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { it.CopyFrom(*Reference<ProbeFileFace>(Source), Wide(Section), Wide(ToSection)); });
+}
+
+int32_t quor_probe_file_Hold(quor_object probe_file) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { it.Hold(); });
+}
+
+int32_t quor_probe_file_Release(quor_object probe_file) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { it.Release(); });
+}
+
+int32_t quor_probe_file_Abandon(quor_object probe_file) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { it.Abandon(); });
+}
+
+int32_t quor_probe_file_SaveAs(quor_object probe_file, quor_text Path) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { it.SaveAs(Wide(Path)); });
+}
+
+int32_t quor_probe_file_get_Changed(quor_object probe_file, quor_bool* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.Changed()); });
+}
+
+int32_t quor_probe_file_Reload(quor_object probe_file) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { it.Reload(); });
+}
+
+int32_t quor_probe_file_get_Store(quor_object probe_file, quor_object* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.Store()); });
+}
+
+int32_t quor_probe_file_get_ErrorCode(quor_object probe_file, quor_EProbeFileError* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ErrorCode()); });
+}
+
+int32_t quor_probe_file_get_ErrorOther(quor_object probe_file, quor_text* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ErrorOther()); });
+}
+
+int32_t quor_probe_table_get_ProbeCount(quor_object probe_table, int32_t* result) {
+    return Call<ProbeTableFace>(probe_table, [&](auto& it) { Out(result, it.ProbeCount()); });
+}
+
+int32_t quor_probe_table_get_Sections(quor_object probe_table, quor_text* result) {
+    return Call<ProbeTableFace>(probe_table, [&](auto& it) { Out(result, it.Sections()); });
+}
+
+int32_t quor_probe_table_get_Types(quor_object probe_table, quor_int32s* result) {
+    return Call<ProbeTableFace>(probe_table, [&](auto& it) { Out(result, it.Types()); });
+}
+
+int32_t quor_probe_table_get_ProblemCounts(quor_object probe_table, quor_int32s* result) {
+    return Call<ProbeTableFace>(probe_table, [&](auto& it) { Out(result, it.ProblemCounts()); });
+}
+
+int32_t quor_probe_table_get_KeyLists(quor_object probe_table, quor_text* result) {
+    return Call<ProbeTableFace>(probe_table, [&](auto& it) { Out(result, it.KeyLists()); });
+}
+
+int32_t quor_probe_table_get_KeyListOf(quor_object probe_table, quor_int32s* result) {
+    return Call<ProbeTableFace>(probe_table, [&](auto& it) { Out(result, it.KeyListOf()); });
+}
+
+int32_t quor_probe_table_get_ValueEnds(quor_object probe_table, quor_int32s* result) {
+    return Call<ProbeTableFace>(probe_table, [&](auto& it) { Out(result, it.ValueEnds()); });
+}
+
+int32_t quor_probe_table_get_Values(quor_object probe_table, quor_doubles* result) {
+    return Call<ProbeTableFace>(probe_table, [&](auto& it) { Out(result, it.Values()); });
 }
 // NOLINTEND

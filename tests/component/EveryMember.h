@@ -15,6 +15,7 @@ int32_t by_name(quor_object object, const char* name, int32_t kind, quor_value* 
                 quor_value* result);
 int same_text(quor_text typed, quor_text named);
 int same_number(double typed, double named);
+int same_class(quor_object typed, quor_object named);
 /* Typed and by name a call returns the same code, and gives the same when it is 0. */
 void check(int32_t typed, int32_t named, int gives_the_same, const char* function);
 

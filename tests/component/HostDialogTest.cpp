@@ -297,3 +297,30 @@ TEST_F(HostDialog, KeepsItsPlaceInTheRegistry) {
     EXPECT_EQ(quor_pt100_Edit(pt100, nullptr), 0);
     EXPECT_EQ(host.events, (std::vector<std::string>{"nowhere", "at 40"}));
 }
+
+TEST_F(HostDialog, TakesWhatIsPastedAndTellsWhatWouldBeStored) {
+    RecordingPlatform host;
+    EXPECT_FALSE(Edit(host, QUOR_CONV_PT100R0, [](RecordingPlatform&, quor_object dialog) {
+        const Handle box = Find(dialog, "txtCoefficients(0)");
+        const auto advice = [&] {
+            quor_text text{};
+            EXPECT_EQ(quor_control_get_Advice(box, &text), 0);
+            return Taken(text);
+        };
+        EXPECT_EQ(quor_dialog_Activate(dialog), 0);
+        EXPECT_EQ(quor_dialog_Paste(dialog, box, Text("100.0123 ohm")), 0);
+        EXPECT_EQ(TextOf(dialog, "txtCoefficients(0)"), "100.0123");
+        EXPECT_EQ(advice(), "");
+        EXPECT_EQ(quor_dialog_EditText(dialog, box, Text("x"), 1, 0), 0);
+        EXPECT_EQ(advice(), "Not a number: 0 would be stored");
+        Handle advised, help;
+        EXPECT_EQ(quor_dialog_get_AdvisedBox(dialog, &advised), 0);
+        EXPECT_EQ(advised, box);
+        EXPECT_EQ(quor_dialog_get_HelpButton(dialog, &help), 0);
+        EXPECT_EQ(NameOf(help), "cmdOKCancelHelp(2)");
+        EXPECT_EQ(quor_dialog_Help(dialog), 0);
+        EXPECT_EQ(quor_dialog_Paste(dialog, help, Text("1")), QUOR_ERROR_TYPE);
+        return quor_dialog_Escape(dialog);
+    }));
+    EXPECT_EQ(host.events, (std::vector<std::string>{"pointer 11", "help  1 10145", "pointer 0"}));
+}

@@ -4973,6 +4973,52 @@ void every_member_of_dialog(quor_object object) {
         check(code, same, 1, "quor_dialog_Close");
         quor_value_clear(&result);
     }
+    {
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_OBJECT; args[0].as.object = sample_Control;
+        args[1].kind = QUOR_TEXT; args[1].as.text = quor_text_of("sample");
+        before_call();
+        const int32_t code = quor_dialog_Paste(object, sample_Control, quor_text_of("sample"));
+        before_call();
+        const int32_t same = by_name(object, "Paste", QUOR_CALL, args, 2, &result);
+        check(code, same, 1, "quor_dialog_Paste");
+        quor_value_clear(&result);
+    }
+    {
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_dialog_Help(object);
+        before_call();
+        const int32_t same = by_name(object, "Help", QUOR_CALL, args, 0, &result);
+        check(code, same, 1, "quor_dialog_Help");
+        quor_value_clear(&result);
+    }
+    {
+        quor_object typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_dialog_get_HelpButton(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "HelpButton", QUOR_GET, args, 0, &result);
+        check(code, same, typed == result.as.object && result.kind == QUOR_OBJECT, "quor_dialog_get_HelpButton");
+        quor_release(typed);
+        quor_value_clear(&result);
+    }
+    {
+        quor_object typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_dialog_get_AdvisedBox(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "AdvisedBox", QUOR_GET, args, 0, &result);
+        check(code, same, typed == result.as.object && result.kind == QUOR_OBJECT, "quor_dialog_get_AdvisedBox");
+        quor_release(typed);
+        quor_value_clear(&result);
+    }
 }
 
 void every_member_of_control(quor_object object) {
@@ -5232,6 +5278,615 @@ void every_member_of_control(quor_object object) {
         check(code, same, typed == result.as.int32 && result.kind == QUOR_INT32, "quor_control_get_SelectedTab");
         quor_value_clear(&result);
     }
+    {
+        quor_text typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_control_get_Advice(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "Advice", QUOR_GET, args, 0, &result);
+        check(code, same, same_text(typed, result.as.text) && result.kind == QUOR_TEXT, "quor_control_get_Advice");
+        quor_text_free(&typed);
+        quor_value_clear(&result);
+    }
 }
 
-const int every_member_count = 428;
+void every_member_of_probe_file(quor_object object) {
+    {
+        quor_text typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_file_get_Path(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "Path", QUOR_GET, args, 0, &result);
+        check(code, same, same_text(typed, result.as.text) && result.kind == QUOR_TEXT, "quor_probe_file_get_Path");
+        quor_text_free(&typed);
+        quor_value_clear(&result);
+    }
+    {
+        quor_bool typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_file_get_IsReadOnly(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "IsReadOnly", QUOR_GET, args, 0, &result);
+        check(code, same, typed == result.as.boolean && result.kind == QUOR_BOOL, "quor_probe_file_get_IsReadOnly");
+        quor_value_clear(&result);
+    }
+    {
+        int32_t typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_file_get_ProbeCount(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ProbeCount", QUOR_GET, args, 0, &result);
+        check(code, same, typed == result.as.int32 && result.kind == QUOR_INT32, "quor_probe_file_get_ProbeCount");
+        quor_value_clear(&result);
+    }
+    {
+        quor_text typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
+        before_call();
+        const int32_t code = quor_probe_file_get_ProbeSection(object, 0, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ProbeSection", QUOR_GET, args, 1, &result);
+        check(code, same, same_text(typed, result.as.text) && result.kind == QUOR_TEXT, "quor_probe_file_get_ProbeSection");
+        quor_text_free(&typed);
+        quor_value_clear(&result);
+    }
+    {
+        int32_t typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
+        before_call();
+        const int32_t code = quor_probe_file_get_ProbeLine(object, 0, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ProbeLine", QUOR_GET, args, 1, &result);
+        check(code, same, typed == result.as.int32 && result.kind == QUOR_INT32, "quor_probe_file_get_ProbeLine");
+        quor_value_clear(&result);
+    }
+    {
+        quor_EQuorConversionType typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
+        before_call();
+        const int32_t code = quor_probe_file_get_ProbeType(object, 0, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ProbeType", QUOR_GET, args, 1, &result);
+        check(code, same, typed == result.as.int32 && result.kind == QUOR_INT32, "quor_probe_file_get_ProbeType");
+        quor_value_clear(&result);
+    }
+    {
+        quor_bool typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
+        before_call();
+        const int32_t code = quor_probe_file_get_HasType(object, 0, &typed);
+        before_call();
+        const int32_t same = by_name(object, "HasType", QUOR_GET, args, 1, &result);
+        check(code, same, typed == result.as.boolean && result.kind == QUOR_BOOL, "quor_probe_file_get_HasType");
+        quor_value_clear(&result);
+    }
+    {
+        quor_bool typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
+        before_call();
+        const int32_t code = quor_probe_file_get_IsStandAlone(object, 0, &typed);
+        before_call();
+        const int32_t same = by_name(object, "IsStandAlone", QUOR_GET, args, 1, &result);
+        check(code, same, typed == result.as.boolean && result.kind == QUOR_BOOL, "quor_probe_file_get_IsStandAlone");
+        quor_value_clear(&result);
+    }
+    {
+        quor_text typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
+        before_call();
+        const int32_t code = quor_probe_file_get_ConversionName(object, 0, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ConversionName", QUOR_GET, args, 1, &result);
+        check(code, same, same_text(typed, result.as.text) && result.kind == QUOR_TEXT, "quor_probe_file_get_ConversionName");
+        quor_text_free(&typed);
+        quor_value_clear(&result);
+    }
+    {
+        int32_t typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_TEXT; args[0].as.text = quor_text_of("sample");
+        before_call();
+        const int32_t code = quor_probe_file_FindProbe(object, quor_text_of("sample"), &typed);
+        before_call();
+        const int32_t same = by_name(object, "FindProbe", QUOR_CALL, args, 1, &result);
+        check(code, same, typed == result.as.int32 && result.kind == QUOR_INT32, "quor_probe_file_FindProbe");
+        quor_value_clear(&result);
+    }
+    {
+        quor_bool typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_TEXT; args[0].as.text = quor_text_of("sample");
+        args[1].kind = QUOR_OBJECT; args[1].as.object = sample_CQuorConversion;
+        before_call();
+        const int32_t code = quor_probe_file_Read(object, quor_text_of("sample"), sample_CQuorConversion, &typed);
+        before_call();
+        const int32_t same = by_name(object, "Read", QUOR_CALL, args, 2, &result);
+        check(code, same, typed == result.as.boolean && result.kind == QUOR_BOOL, "quor_probe_file_Read");
+        quor_value_clear(&result);
+    }
+    {
+        quor_object typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_file_ReadAll(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ReadAll", QUOR_CALL, args, 0, &result);
+        check(code, same, same_class(typed, result.as.object) && result.kind == QUOR_OBJECT, "quor_probe_file_ReadAll");
+        quor_release(typed);
+        quor_value_clear(&result);
+    }
+    {
+        int32_t typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_file_Check(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "Check", QUOR_CALL, args, 0, &result);
+        check(code, same, typed == result.as.int32 && result.kind == QUOR_INT32, "quor_probe_file_Check");
+        quor_value_clear(&result);
+    }
+    {
+        int32_t typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_file_get_ProblemCount(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ProblemCount", QUOR_GET, args, 0, &result);
+        check(code, same, typed == result.as.int32 && result.kind == QUOR_INT32, "quor_probe_file_get_ProblemCount");
+        quor_value_clear(&result);
+    }
+    {
+        quor_EProbeProblem typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
+        before_call();
+        const int32_t code = quor_probe_file_get_ProblemKind(object, 0, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ProblemKind", QUOR_GET, args, 1, &result);
+        check(code, same, typed == result.as.int32 && result.kind == QUOR_INT32, "quor_probe_file_get_ProblemKind");
+        quor_value_clear(&result);
+    }
+    {
+        int32_t typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
+        before_call();
+        const int32_t code = quor_probe_file_get_ProblemLine(object, 0, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ProblemLine", QUOR_GET, args, 1, &result);
+        check(code, same, typed == result.as.int32 && result.kind == QUOR_INT32, "quor_probe_file_get_ProblemLine");
+        quor_value_clear(&result);
+    }
+    {
+        quor_text typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
+        before_call();
+        const int32_t code = quor_probe_file_get_ProblemSection(object, 0, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ProblemSection", QUOR_GET, args, 1, &result);
+        check(code, same, same_text(typed, result.as.text) && result.kind == QUOR_TEXT, "quor_probe_file_get_ProblemSection");
+        quor_text_free(&typed);
+        quor_value_clear(&result);
+    }
+    {
+        quor_text typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
+        before_call();
+        const int32_t code = quor_probe_file_get_ProblemKey(object, 0, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ProblemKey", QUOR_GET, args, 1, &result);
+        check(code, same, same_text(typed, result.as.text) && result.kind == QUOR_TEXT, "quor_probe_file_get_ProblemKey");
+        quor_text_free(&typed);
+        quor_value_clear(&result);
+    }
+    {
+        quor_text typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
+        before_call();
+        const int32_t code = quor_probe_file_get_ProblemText(object, 0, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ProblemText", QUOR_GET, args, 1, &result);
+        check(code, same, same_text(typed, result.as.text) && result.kind == QUOR_TEXT, "quor_probe_file_get_ProblemText");
+        quor_text_free(&typed);
+        quor_value_clear(&result);
+    }
+    {
+        int32_t typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_file_get_MessageCount(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "MessageCount", QUOR_GET, args, 0, &result);
+        check(code, same, typed == result.as.int32 && result.kind == QUOR_INT32, "quor_probe_file_get_MessageCount");
+        quor_value_clear(&result);
+    }
+    {
+        quor_text typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
+        before_call();
+        const int32_t code = quor_probe_file_get_Messages(object, 0, &typed);
+        before_call();
+        const int32_t same = by_name(object, "Messages", QUOR_GET, args, 1, &result);
+        check(code, same, same_text(typed, result.as.text) && result.kind == QUOR_TEXT, "quor_probe_file_get_Messages");
+        quor_text_free(&typed);
+        quor_value_clear(&result);
+    }
+    {
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_TEXT; args[0].as.text = quor_text_of("sample");
+        args[1].kind = QUOR_OBJECT; args[1].as.object = sample_CQuorConversion;
+        before_call();
+        const int32_t code = quor_probe_file_Write(object, quor_text_of("sample"), sample_CQuorConversion);
+        before_call();
+        const int32_t same = by_name(object, "Write", QUOR_CALL, args, 2, &result);
+        check(code, same, 1, "quor_probe_file_Write");
+        quor_value_clear(&result);
+    }
+    {
+        quor_bool typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_TEXT; args[0].as.text = quor_text_of("sample");
+        args[1].kind = QUOR_OBJECT; args[1].as.object = sample_CQuorConversion;
+        args[2].kind = QUOR_OBJECT; args[2].as.object = sample_ProbeFile;
+        before_call();
+        const int32_t code = quor_probe_file_WriteChanges(object, quor_text_of("sample"), sample_CQuorConversion, sample_ProbeFile, &typed);
+        before_call();
+        const int32_t same = by_name(object, "WriteChanges", QUOR_CALL, args, 3, &result);
+        check(code, same, typed == result.as.boolean && result.kind == QUOR_BOOL, "quor_probe_file_WriteChanges");
+        quor_value_clear(&result);
+    }
+    {
+        int32_t typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_file_get_ConflictCount(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ConflictCount", QUOR_GET, args, 0, &result);
+        check(code, same, typed == result.as.int32 && result.kind == QUOR_INT32, "quor_probe_file_get_ConflictCount");
+        quor_value_clear(&result);
+    }
+    {
+        quor_text typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
+        before_call();
+        const int32_t code = quor_probe_file_get_ConflictSection(object, 0, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ConflictSection", QUOR_GET, args, 1, &result);
+        check(code, same, same_text(typed, result.as.text) && result.kind == QUOR_TEXT, "quor_probe_file_get_ConflictSection");
+        quor_text_free(&typed);
+        quor_value_clear(&result);
+    }
+    {
+        quor_text typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
+        before_call();
+        const int32_t code = quor_probe_file_get_ConflictKey(object, 0, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ConflictKey", QUOR_GET, args, 1, &result);
+        check(code, same, same_text(typed, result.as.text) && result.kind == QUOR_TEXT, "quor_probe_file_get_ConflictKey");
+        quor_text_free(&typed);
+        quor_value_clear(&result);
+    }
+    {
+        quor_text typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
+        before_call();
+        const int32_t code = quor_probe_file_get_ConflictRead(object, 0, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ConflictRead", QUOR_GET, args, 1, &result);
+        check(code, same, same_text(typed, result.as.text) && result.kind == QUOR_TEXT, "quor_probe_file_get_ConflictRead");
+        quor_text_free(&typed);
+        quor_value_clear(&result);
+    }
+    {
+        quor_text typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
+        before_call();
+        const int32_t code = quor_probe_file_get_ConflictTheirs(object, 0, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ConflictTheirs", QUOR_GET, args, 1, &result);
+        check(code, same, same_text(typed, result.as.text) && result.kind == QUOR_TEXT, "quor_probe_file_get_ConflictTheirs");
+        quor_text_free(&typed);
+        quor_value_clear(&result);
+    }
+    {
+        quor_text typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_INT32; args[0].as.int32 = 0;
+        before_call();
+        const int32_t code = quor_probe_file_get_ConflictOurs(object, 0, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ConflictOurs", QUOR_GET, args, 1, &result);
+        check(code, same, same_text(typed, result.as.text) && result.kind == QUOR_TEXT, "quor_probe_file_get_ConflictOurs");
+        quor_text_free(&typed);
+        quor_value_clear(&result);
+    }
+    {
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_TEXT; args[0].as.text = quor_text_of("sample");
+        args[1].kind = QUOR_TEXT; args[1].as.text = quor_text_of("sample");
+        before_call();
+        const int32_t code = quor_probe_file_Rename(object, quor_text_of("sample"), quor_text_of("sample"));
+        before_call();
+        const int32_t same = by_name(object, "Rename", QUOR_CALL, args, 2, &result);
+        check(code, same, 1, "quor_probe_file_Rename");
+        quor_value_clear(&result);
+    }
+    {
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_TEXT; args[0].as.text = quor_text_of("sample");
+        before_call();
+        const int32_t code = quor_probe_file_Remove(object, quor_text_of("sample"));
+        before_call();
+        const int32_t same = by_name(object, "Remove", QUOR_CALL, args, 1, &result);
+        check(code, same, 1, "quor_probe_file_Remove");
+        quor_value_clear(&result);
+    }
+    {
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_TEXT; args[0].as.text = quor_text_of("sample");
+        args[1].kind = QUOR_TEXT; args[1].as.text = quor_text_of("sample");
+        before_call();
+        const int32_t code = quor_probe_file_Copy(object, quor_text_of("sample"), quor_text_of("sample"));
+        before_call();
+        const int32_t same = by_name(object, "Copy", QUOR_CALL, args, 2, &result);
+        check(code, same, 1, "quor_probe_file_Copy");
+        quor_value_clear(&result);
+    }
+    {
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_OBJECT; args[0].as.object = sample_ProbeFile;
+        args[1].kind = QUOR_TEXT; args[1].as.text = quor_text_of("sample");
+        args[2].kind = QUOR_TEXT; args[2].as.text = quor_text_of("sample");
+        before_call();
+        const int32_t code = quor_probe_file_CopyFrom(object, sample_ProbeFile, quor_text_of("sample"), quor_text_of("sample"));
+        before_call();
+        const int32_t same = by_name(object, "CopyFrom", QUOR_CALL, args, 3, &result);
+        check(code, same, 1, "quor_probe_file_CopyFrom");
+        quor_value_clear(&result);
+    }
+    {
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_file_Hold(object);
+        before_call();
+        const int32_t same = by_name(object, "Hold", QUOR_CALL, args, 0, &result);
+        check(code, same, 1, "quor_probe_file_Hold");
+        quor_value_clear(&result);
+    }
+    {
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_file_Release(object);
+        before_call();
+        const int32_t same = by_name(object, "Release", QUOR_CALL, args, 0, &result);
+        check(code, same, 1, "quor_probe_file_Release");
+        quor_value_clear(&result);
+    }
+    {
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_file_Abandon(object);
+        before_call();
+        const int32_t same = by_name(object, "Abandon", QUOR_CALL, args, 0, &result);
+        check(code, same, 1, "quor_probe_file_Abandon");
+        quor_value_clear(&result);
+    }
+    {
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_TEXT; args[0].as.text = quor_text_of("sample");
+        before_call();
+        const int32_t code = quor_probe_file_SaveAs(object, quor_text_of("sample"));
+        before_call();
+        const int32_t same = by_name(object, "SaveAs", QUOR_CALL, args, 1, &result);
+        check(code, same, 1, "quor_probe_file_SaveAs");
+        quor_value_clear(&result);
+    }
+    {
+        quor_bool typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_file_get_Changed(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "Changed", QUOR_GET, args, 0, &result);
+        check(code, same, typed == result.as.boolean && result.kind == QUOR_BOOL, "quor_probe_file_get_Changed");
+        quor_value_clear(&result);
+    }
+    {
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_file_Reload(object);
+        before_call();
+        const int32_t same = by_name(object, "Reload", QUOR_CALL, args, 0, &result);
+        check(code, same, 1, "quor_probe_file_Reload");
+        quor_value_clear(&result);
+    }
+    {
+        quor_object typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_file_get_Store(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "Store", QUOR_GET, args, 0, &result);
+        check(code, same, typed == result.as.object && result.kind == QUOR_OBJECT, "quor_probe_file_get_Store");
+        quor_release(typed);
+        quor_value_clear(&result);
+    }
+    {
+        quor_EProbeFileError typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_file_get_ErrorCode(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ErrorCode", QUOR_GET, args, 0, &result);
+        check(code, same, typed == result.as.int32 && result.kind == QUOR_INT32, "quor_probe_file_get_ErrorCode");
+        quor_value_clear(&result);
+    }
+    {
+        quor_text typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_file_get_ErrorOther(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ErrorOther", QUOR_GET, args, 0, &result);
+        check(code, same, same_text(typed, result.as.text) && result.kind == QUOR_TEXT, "quor_probe_file_get_ErrorOther");
+        quor_text_free(&typed);
+        quor_value_clear(&result);
+    }
+}
+
+void every_member_of_probe_table(quor_object object) {
+    {
+        int32_t typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_table_get_ProbeCount(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ProbeCount", QUOR_GET, args, 0, &result);
+        check(code, same, typed == result.as.int32 && result.kind == QUOR_INT32, "quor_probe_table_get_ProbeCount");
+        quor_value_clear(&result);
+    }
+    {
+        quor_text typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_table_get_Sections(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "Sections", QUOR_GET, args, 0, &result);
+        check(code, same, same_text(typed, result.as.text) && result.kind == QUOR_TEXT, "quor_probe_table_get_Sections");
+        quor_text_free(&typed);
+        quor_value_clear(&result);
+    }
+    {
+        quor_int32s typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_table_get_Types(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "Types", QUOR_GET, args, 0, &result);
+        check(code, same, typed.values == result.as.int32s.values && typed.size == result.as.int32s.size && result.kind == QUOR_INT32S, "quor_probe_table_get_Types");
+        quor_value_clear(&result);
+    }
+    {
+        quor_int32s typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_table_get_ProblemCounts(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ProblemCounts", QUOR_GET, args, 0, &result);
+        check(code, same, typed.values == result.as.int32s.values && typed.size == result.as.int32s.size && result.kind == QUOR_INT32S, "quor_probe_table_get_ProblemCounts");
+        quor_value_clear(&result);
+    }
+    {
+        quor_text typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_table_get_KeyLists(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "KeyLists", QUOR_GET, args, 0, &result);
+        check(code, same, same_text(typed, result.as.text) && result.kind == QUOR_TEXT, "quor_probe_table_get_KeyLists");
+        quor_text_free(&typed);
+        quor_value_clear(&result);
+    }
+    {
+        quor_int32s typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_table_get_KeyListOf(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "KeyListOf", QUOR_GET, args, 0, &result);
+        check(code, same, typed.values == result.as.int32s.values && typed.size == result.as.int32s.size && result.kind == QUOR_INT32S, "quor_probe_table_get_KeyListOf");
+        quor_value_clear(&result);
+    }
+    {
+        quor_int32s typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_table_get_ValueEnds(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "ValueEnds", QUOR_GET, args, 0, &result);
+        check(code, same, typed.values == result.as.int32s.values && typed.size == result.as.int32s.size && result.kind == QUOR_INT32S, "quor_probe_table_get_ValueEnds");
+        quor_value_clear(&result);
+    }
+    {
+        quor_doubles typed = {NULL, 0};
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        before_call();
+        const int32_t code = quor_probe_table_get_Values(object, &typed);
+        before_call();
+        const int32_t same = by_name(object, "Values", QUOR_GET, args, 0, &result);
+        check(code, same, typed.values == result.as.doubles.values && typed.size == result.as.doubles.size && result.kind == QUOR_DOUBLES, "quor_probe_table_get_Values");
+        quor_value_clear(&result);
+    }
+}
+
+const int every_member_count = 483;

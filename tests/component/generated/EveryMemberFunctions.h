@@ -27,13 +27,17 @@ void every_member_of_registry(quor_object object);
 void every_member_of_list_control(quor_object object);
 void every_member_of_dialog(quor_object object);
 void every_member_of_control(quor_object object);
+void every_member_of_probe_file(quor_object object);
+void every_member_of_probe_table(quor_object object);
 extern const int every_member_count;
 
 /* What the test that runs them offers. */
+extern quor_object sample_CQuorConversion;
 extern quor_object sample_INIFile;
 extern quor_object sample_Registry;
 extern quor_object sample_ListControl;
 extern quor_object sample_Control;
+extern quor_object sample_ProbeFile;
 #ifdef __cplusplus
 }
 #endif

@@ -1,0 +1,290 @@
+#include "component/ProbeFileFace.h"
+
+#include "component/Errors.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <type_traits>
+#include <unordered_set>
+#include <utility>
+#include <variant>
+
+namespace QuorConversions::Component {
+
+using QuorProbeFile::Folded;
+using QuorProbeFile::ProbeEntry;
+using QuorProbeFile::ProbeFile;
+using QuorProbeFile::ProbeFileError;
+using QuorProbeFile::ProbeProblem;
+using QuorProbeFile::RecordConflict;
+using QuorProbeFile::RecordImage;
+using QuorProbeFile::ToText;
+
+namespace {
+
+constexpr std::int32_t changedMeanwhile = 75;
+
+/// The element of that index. Raises 9 when there is none.
+template <class List>
+[[nodiscard]] const auto& At(const List& list, std::int32_t index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= list.size())
+        Throw(QUOR_ERROR_SUBSCRIPT,
+              L"There is no " + std::to_wstring(index) + L" among " + std::to_wstring(list.size()));
+    return list[static_cast<std::size_t>(index)];
+}
+
+/// The same conversion with the same values, without a platform. Raises what writing it would raise.
+[[nodiscard]] std::shared_ptr<CQuorConversion> Copied(const CQuorConversion& conversion) {
+    auto copy = std::make_shared<CQuorConversion>();
+    copy->SetConversionType(conversion.ConversionType());
+    if (const auto settings = conversion.Settings()) {
+        const auto image = std::make_shared<RecordImage>();
+        settings->WriteOrRaise(image, L"");
+        RecordImage::Apply(image, *copy->Settings());
+    }
+    return copy;
+}
+
+/// The other file that a step of a bracket reads. A step that kept it alive could be one of a ring.
+[[nodiscard]] std::shared_ptr<ProbeFileFace> StillThere(const std::weak_ptr<ProbeFileFace>& file) {
+    auto there = file.lock();
+    if (!there)
+        Throw(QUOR_ERROR_NO_OBJECT, L"A file that Release needs was released before");
+    return there;
+}
+
+[[nodiscard]] std::wstring OrNothing(const std::optional<QuorProbeFile::Value>& value) {
+    return value ? ToText(*value) : std::wstring();
+}
+
+} // namespace
+
+// ---- ProbeTableFace
+
+void ProbeTableFace::Add(std::wstring_view section, const CQuorConversion* conversion, std::size_t problems) {
+    m_sections.append(section).append(L"\n");
+    m_types.push_back(conversion ? conversion->ConversionType() : CONV_NONE);
+    m_problemCounts.push_back(conversion ? static_cast<std::int32_t>(problems) : -1);
+    std::wstring keys;
+    if (const auto settings = conversion ? conversion->Settings() : nullptr) {
+        const auto image = RecordImage::Of(*settings);
+        for (const RecordImage::Entry& entry : image->Entries()) {
+            std::visit(
+                [&](const auto& value) {
+                    if constexpr (std::is_arithmetic_v<std::remove_cvref_t<decltype(value)>>) {
+                        keys.append(keys.empty() ? L"" : L"\t").append(entry.path);
+                        m_values.push_back(static_cast<double>(value));
+                    }
+                },
+                entry.value);
+        }
+    }
+    const auto [list, isNew] =
+        m_keyListNumbers.try_emplace(std::move(keys), static_cast<std::int32_t>(m_keyListNumbers.size()));
+    if (isNew)
+        m_keyLists.append(list->first).append(L"\n");
+    m_keyListOf.push_back(list->second);
+    m_valueEnds.push_back(static_cast<std::int32_t>(m_values.size()));
+}
+
+// ---- ProbeFileFace: the rows
+
+ProbeFileFace::ProbeFileFace(std::wstring_view path, bool mayBeNew)
+    : m_file(path, mayBeNew ? ProbeFile::Opening::OrNew : ProbeFile::Opening::Existing) {}
+
+template <class Body>
+auto ProbeFileFace::Do(Body&& body) {
+    m_errorCode = {};
+    m_errorOther.clear();
+    m_problems.clear();
+    m_messages.clear();
+    m_conflicts.clear();
+    try {
+        return std::forward<Body>(body)();
+    } catch (const ProbeFileError& error) {
+        m_errorCode = error.Code();
+        m_errorOther = error.Other();
+        m_problems = error.Problems();
+        m_messages = error.Messages();
+        throw;
+    }
+}
+
+const ProbeEntry& ProbeFileFace::Probe(std::int32_t index) { return At(m_file.Probes(), index); }
+const ProbeProblem& ProbeFileFace::Problem(std::int32_t index) const { return At(m_problems, index); }
+const RecordConflict& ProbeFileFace::Conflict(std::int32_t index) const { return At(m_conflicts, index); }
+
+std::int32_t ProbeFileFace::ProbeCount() { return static_cast<std::int32_t>(m_file.Probes().size()); }
+
+std::int32_t ProbeFileFace::ProbeLine(std::int32_t index) {
+    return static_cast<std::int32_t>(Probe(index).line);
+}
+
+EQuorConversionType ProbeFileFace::ProbeType(std::int32_t index) {
+    return Probe(index).type.value_or(CONV_NONE);
+}
+
+std::wstring ProbeFileFace::ConversionName(std::int32_t index) {
+    const ProbeEntry probe = Probe(index); // the file may look at its probes again
+    return m_file.ConversionName(probe);
+}
+
+std::int32_t ProbeFileFace::FindProbe(std::wstring_view section) {
+    const auto found = m_file.Find(section);
+    if (!found)
+        return -1;
+    const auto& probes = m_file.Probes();
+    return static_cast<std::int32_t>(std::find(probes.begin(), probes.end(), *found) - probes.begin());
+}
+
+std::int32_t ProbeFileFace::ProblemLine(std::int32_t index) const {
+    return static_cast<std::int32_t>(Problem(index).line);
+}
+
+const std::wstring& ProbeFileFace::Messages(std::int32_t index) const { return At(m_messages, index); }
+
+std::wstring ProbeFileFace::ConflictRead(std::int32_t index) const { return OrNothing(Conflict(index).read); }
+std::wstring ProbeFileFace::ConflictTheirs(std::int32_t index) const {
+    return OrNothing(Conflict(index).theirs);
+}
+std::wstring ProbeFileFace::ConflictOurs(std::int32_t index) const { return ToText(Conflict(index).ours); }
+
+// ---- Reading
+
+bool ProbeFileFace::Read(std::wstring_view section, CQuorConversion& conversion) {
+    return Do([&] {
+        QuorProbeFile::ReadOutcome outcome = m_file.Read(section, conversion);
+        const bool isWhole = outcome.IsWhole();
+        m_problems = std::move(outcome.problems);
+        m_messages = std::move(outcome.messages);
+        return isWhole;
+    });
+}
+
+std::shared_ptr<ProbeTableFace> ProbeFileFace::ReadAll() {
+    return Do([&] {
+        auto table = std::make_shared<ProbeTableFace>();
+        CQuorConversion conversion;
+        for (const ProbeEntry& probe : m_file.Probes()) {
+            try {
+                const QuorProbeFile::ReadOutcome outcome = m_file.Read(probe.section, conversion);
+                table->Add(probe.section, &conversion, outcome.problems.size() + outcome.messages.size());
+            } catch (const ProbeFileError&) { // its type cannot be read
+                table->Add(probe.section, nullptr, 0);
+            }
+        }
+        return table;
+    });
+}
+
+std::int32_t ProbeFileFace::Check() {
+    return Do([&] {
+        m_problems = m_file.Check();
+        return ProblemCount();
+    });
+}
+
+// ---- Writing
+
+void ProbeFileFace::Take(std::function<void()> step) {
+    if (m_depth == 0)
+        Do(step);
+    else
+        m_steps.push_back({{}, nullptr, std::move(step)});
+}
+
+void ProbeFileFace::Write(std::wstring_view section, const CQuorConversion& conversion) {
+    if (m_depth == 0)
+        Do([&] { m_file.Write(section, conversion); });
+    else
+        m_steps.push_back({std::wstring(section), Copied(conversion), nullptr});
+}
+
+bool ProbeFileFace::MergeInto(std::wstring_view section, const CQuorConversion& conversion,
+                              ProbeFileFace& before) {
+    auto conflicts = m_file.WriteChanges(section, conversion, before.m_file);
+    const bool isWritten = conflicts.empty();
+    m_conflicts = std::move(conflicts);
+    return isWritten;
+}
+
+bool ProbeFileFace::WriteChanges(std::wstring_view section, const CQuorConversion& conversion,
+                                 ProbeFileFace& before) {
+    if (m_depth == 0)
+        return Do([&] { return MergeInto(section, conversion, before); });
+    if (&before == this)
+        Throw(QUOR_ERROR_ARGUMENT, L"Between Hold and Release another object holds what was read before");
+    Take([this, name = std::wstring(section), copy = Copied(conversion), read = before.weak_from_this()] {
+        if (MergeInto(name, *copy, *StillThere(read)))
+            return;
+        const RecordConflict& first = m_conflicts.front();
+        throw QuorIniFile::QuorError(changedMeanwhile, L"QuorProbeFile",
+                                     Path() + L": [" + first.section + L"] " + first.key +
+                                         L": another program has changed the value meanwhile");
+    });
+    return true;
+}
+
+void ProbeFileFace::Rename(std::wstring section, std::wstring name) {
+    Take([this, section = std::move(section), name = std::move(name)] { m_file.Rename(section, name); });
+}
+
+void ProbeFileFace::Remove(std::wstring section) {
+    Take([this, section = std::move(section)] { m_file.Remove(section); });
+}
+
+void ProbeFileFace::Copy(std::wstring section, std::wstring toSection) {
+    Take([this, section = std::move(section), to = std::move(toSection)] { m_file.Copy(section, to); });
+}
+
+void ProbeFileFace::CopyFrom(ProbeFileFace& source, std::wstring section, std::wstring toSection) {
+    Take([this, from = source.weak_from_this(), section = std::move(section), to = std::move(toSection)] {
+        m_file.CopyFrom(StillThere(from)->m_file, section, to);
+    });
+}
+
+void ProbeFileFace::TakeAll(const std::vector<Step>& steps) {
+    for (auto step = steps.begin(); step != steps.end();) {
+        if (!step->written) {
+            (step++)->other();
+            continue;
+        }
+        std::vector<QuorProbeFile::ProbeToWrite> probes; // many in one call, which is faster
+        std::unordered_set<std::wstring> sections;       // of which each is written once
+        for (; step != steps.end() && step->written && sections.insert(Folded(step->section)).second; ++step)
+            probes.push_back({step->section, *step->written});
+        m_file.Write(probes);
+    }
+}
+
+void ProbeFileFace::Release() {
+    if (m_depth == 0 || --m_depth > 0)
+        return;
+    const std::vector<Step> steps = std::exchange(m_steps, {});
+    if (std::exchange(m_isAbandoned, false))
+        Throw(changedMeanwhile, Path() + L": nothing is written: a bracket was abandoned");
+    Do([&] { m_file.Edit([&] { TakeAll(steps); }); });
+}
+
+void ProbeFileFace::Abandon() {
+    if (m_depth == 0)
+        return;
+    --m_depth;
+    m_steps.clear();
+    m_isAbandoned = m_depth > 0;
+}
+
+// ---- The file
+
+void ProbeFileFace::SaveAs(std::wstring_view path) {
+    Do([&] { m_file.SaveAs(path); });
+}
+
+bool ProbeFileFace::Changed() { return m_file.Changed(); }
+
+void ProbeFileFace::Reload() {
+    Do([&] { m_file.Reload(); });
+}
+
+} // namespace QuorConversions::Component

@@ -1,0 +1,329 @@
+// The probes of a file from C: rows, reading into a conversion, writing one or many, and all numbers at once.
+
+#include "tests/component/Component.h"
+#include "tests/support/TempFolder.h"
+
+#include <cmath>
+
+namespace {
+
+const std::string hostFile = "; the laboratory's file\n"
+                             "[Instrument]\n"
+                             "Channels=8\n"
+                             "\n"
+                             "[P]\n"
+                             "Version=1.0\n"
+                             "ConversionType=2\n"
+                             "[P - Settings]\n"
+                             "Version=1.0\n"
+                             "NumCoefficients=4\n"
+                             "UsePolynomial=True\n"
+                             "Coefficients0=100.01 ; ohms\n"
+                             "Coefficients1=0.0039083\n"
+                             "Coefficients2=-5.775E-07\n"
+                             "Coefficients3=-4.183E-12\n"
+                             "[Q]\n"
+                             "Version=1.0\n"
+                             "ConversionType=14\n"
+                             "[Q - Settings]\n"
+                             "Version=1.0\n"
+                             "RTPW=25.5\n";
+
+std::string Replaced(std::string text, const std::string& from, const std::string& to) {
+    const auto at = text.find(from);
+    EXPECT_NE(at, std::string::npos) << from;
+    return text.replace(at, from.size(), to);
+}
+
+class ProbeFileFromC : public ComponentTest {
+protected:
+    ProbeFileFromC() { m_folder.Write("host.ini", hostFile); }
+
+    [[nodiscard]] std::string Path(const char* name = "host.ini") const {
+        return m_folder.Path(name).string();
+    }
+    [[nodiscard]] std::string File(const char* name = "host.ini") const { return m_folder.Read(name); }
+    void Put(const std::string& text) const { m_folder.Write("host.ini", text); }
+    [[nodiscard]] Handle Open(const char* name = "host.ini") const {
+        Handle file;
+        EXPECT_EQ(quor_probe_file_create(Text(Path(name)), 0, &file), 0);
+        return file;
+    }
+    /// The probe P of the file.
+    [[nodiscard]] static Handle Read(quor_object file, const char* section = "P") {
+        Handle conversion;
+        std::int16_t whole = 0;
+        EXPECT_EQ(quor_conversion_create(0, &conversion), 0);
+        EXPECT_EQ(quor_probe_file_Read(file, Text(section), conversion, &whole), 0);
+        EXPECT_EQ(whole, -1);
+        return conversion;
+    }
+    static void SetR0(quor_object conversion, double ohms) {
+        EXPECT_EQ(quor_cvd_put_Coefficients(SettingsOf(conversion), QUOR_CVD_R0, ohms), 0);
+    }
+    [[nodiscard]] static std::int32_t ErrorCode(quor_object file) {
+        std::int32_t code = -1;
+        EXPECT_EQ(quor_probe_file_get_ErrorCode(file, &code), 0);
+        return code;
+    }
+    template <class Getter>
+    [[nodiscard]] static std::string Row(Getter getter, quor_object object, std::int32_t index) {
+        quor_text text{};
+        EXPECT_EQ(getter(object, index, &text), 0);
+        return Taken(text);
+    }
+
+private:
+    TempFolder m_folder;
+};
+
+} // namespace
+
+TEST_F(ProbeFileFromC, HasARowForEachProbe) {
+    const Handle file = Open();
+    std::int32_t count = 0;
+    ASSERT_EQ(quor_probe_file_get_ProbeCount(file, &count), 0);
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(Row(quor_probe_file_get_ProbeSection, file, 1), "Q");
+    EXPECT_EQ(Row(quor_probe_file_get_ConversionName, file, 1), "W(T90)");
+    std::int32_t type = 0, line = 0, place = 0;
+    std::int16_t has = 0, standAlone = -1;
+    ASSERT_EQ(quor_probe_file_get_ProbeType(file, 1, &type), 0);
+    ASSERT_EQ(quor_probe_file_get_ProbeLine(file, 1, &line), 0);
+    ASSERT_EQ(quor_probe_file_get_HasType(file, 1, &has), 0);
+    ASSERT_EQ(quor_probe_file_get_IsStandAlone(file, 1, &standAlone), 0);
+    EXPECT_EQ(type, QUOR_CONV_WT90);
+    EXPECT_EQ(line, 16);
+    EXPECT_EQ(has, -1);
+    EXPECT_EQ(standAlone, 0);
+    ASSERT_EQ(quor_probe_file_FindProbe(file, Text("q"), &place), 0);
+    EXPECT_EQ(place, 1);
+    ASSERT_EQ(quor_probe_file_FindProbe(file, Text("Instrument"), &place), 0);
+    EXPECT_EQ(place, -1);
+
+    EXPECT_EQ(quor_probe_file_get_ProbeSection(file, 2, nullptr), QUOR_ERROR_SUBSCRIPT);
+    EXPECT_EQ(LastError(), (Error{9, "quor", "There is no 2 among 2"}));
+    EXPECT_EQ(quor_probe_file_get_ProbeSection(file, -1, nullptr), QUOR_ERROR_SUBSCRIPT);
+}
+
+TEST_F(ProbeFileFromC, ThatIsNotThereIsAnErrorUnlessItMayBeNew) {
+    Handle file;
+    EXPECT_EQ(quor_probe_file_create(Text(Path("new.ini")), 0, &file), 53);
+    ASSERT_EQ(quor_probe_file_create(Text(Path("new.ini")), -1, &file), 0);
+    std::int32_t count = -1;
+    ASSERT_EQ(quor_probe_file_get_ProbeCount(file, &count), 0);
+    EXPECT_EQ(count, 0);
+    const Handle conversion = Conversion(QUOR_CONV_OHMS);
+    ASSERT_EQ(quor_probe_file_Write(file, Text("R"), conversion), 0);
+    EXPECT_EQ(File("new.ini"), "[R]\nVersion=1.0\nConversionType=10\n");
+}
+
+TEST_F(ProbeFileFromC, ReadsAProbeIntoAConversionAndWritesTheLineThatDiffers) {
+    const Handle file = Open();
+    const Handle conversion = Read(file);
+    SetR0(conversion, 100.0123);
+    ASSERT_EQ(quor_probe_file_Write(file, Text("P"), conversion), 0);
+    EXPECT_EQ(File(), Replaced(hostFile, "100.01 ;", "100.0123 ;"));
+}
+
+TEST_F(ProbeFileFromC, TellsWhatIsMissingKeyByKey) {
+    Put(Replaced(hostFile, "RTPW=25.5\n", ""));
+    const Handle file = Open();
+    const Handle conversion = Conversion(QUOR_CONV_NONE);
+    std::int16_t whole = -1;
+    ASSERT_EQ(quor_probe_file_Read(file, Text("Q"), conversion, &whole), 0);
+    EXPECT_EQ(whole, 0);
+    std::int32_t count = 0, kind = 0, line = 0;
+    ASSERT_EQ(quor_probe_file_get_ProblemCount(file, &count), 0);
+    ASSERT_EQ(count, 1);
+    ASSERT_EQ(quor_probe_file_get_ProblemKind(file, 0, &kind), 0);
+    ASSERT_EQ(quor_probe_file_get_ProblemLine(file, 0, &line), 0);
+    EXPECT_EQ(kind, QUOR_PROBLEM_KEY_MISSING);
+    EXPECT_EQ(line, 19);
+    EXPECT_EQ(Row(quor_probe_file_get_ProblemSection, file, 0), "Q - Settings");
+    EXPECT_EQ(Row(quor_probe_file_get_ProblemKey, file, 0), "RTPW");
+    EXPECT_EQ(Row(quor_probe_file_get_ProblemText, file, 0), "the key is missing");
+    ASSERT_EQ(quor_probe_file_get_MessageCount(file, &count), 0);
+    EXPECT_EQ(count, 2); // of the settings, and of the conversion that holds them
+    for (std::int32_t i = 0; i < count; ++i)
+        EXPECT_EQ(Row(quor_probe_file_get_Messages, file, i),
+                  "Cannot read the selected settings file because the file version is incorrect.");
+
+    ASSERT_EQ(quor_probe_file_Check(file, &count), 0);
+    EXPECT_EQ(count, 1);
+    EXPECT_EQ(Row(quor_probe_file_get_ProblemKey, file, 0), "RTPW");
+}
+
+TEST_F(ProbeFileFromC, SaysWithACodeWhyAProbeCannotBeHad) {
+    const Handle file = Open();
+    const Handle conversion = Conversion(QUOR_CONV_CVD);
+    EXPECT_EQ(quor_probe_file_Read(file, Text("Instrument"), conversion, nullptr), 75);
+    EXPECT_EQ(ErrorCode(file), QUOR_PROBE_NO_RECORD);
+    EXPECT_EQ(quor_probe_file_Rename(file, Text("P"), Text("Q")), 75);
+    EXPECT_EQ(ErrorCode(file), QUOR_PROBE_NAME_IS_TAKEN);
+    EXPECT_EQ(quor_probe_file_Copy(file, Text("P"), Text("Q")), 75);
+    EXPECT_EQ(ErrorCode(file), QUOR_PROBE_OF_ANOTHER_TYPE);
+    quor_text other{};
+    ASSERT_EQ(quor_probe_file_get_ErrorOther(file, &other), 0);
+    EXPECT_EQ(Taken(other), "CONV_WT90");
+    EXPECT_EQ(quor_probe_file_Remove(file, Text("P")), 0);
+    EXPECT_EQ(ErrorCode(file), 0);
+    EXPECT_EQ(File().find("[P"), std::string::npos);
+}
+
+TEST_F(ProbeFileFromC, WritesTogetherWhatStandsBetweenHoldAndRelease) {
+    const Handle file = Open();
+    const Handle conversion = Read(file);
+    ASSERT_EQ(quor_probe_file_Hold(file), 0);
+    SetR0(conversion, 101);
+    ASSERT_EQ(quor_probe_file_Write(file, Text("P"), conversion), 0);
+    SetR0(conversion, 102); // the value of the moment in which it was written counts
+    ASSERT_EQ(quor_probe_file_Write(file, Text("R"), conversion), 0);
+    ASSERT_EQ(quor_probe_file_Remove(file, Text("Q")), 0);
+    ASSERT_EQ(quor_probe_file_Rename(file, Text("R"), Text("Q")), 0);
+    EXPECT_EQ(File(), hostFile);
+    ASSERT_EQ(quor_probe_file_Release(file), 0);
+
+    const std::string settings =
+        "Version=1.0\nNumCoefficients=4\nUsePolynomial=True\nCoefficients0=102\n"
+        "Coefficients1=0.0039083\nCoefficients2=-5.775e-07\nCoefficients3=-4.183e-12\n";
+    EXPECT_EQ(File(), Replaced(hostFile.substr(0, hostFile.find("[Q]")), "100.01 ;", "101 ;") +
+                          "\n[Q]\nVersion=1.0\nConversionType=2\n\n[Q - Settings]\n" + settings);
+}
+
+TEST_F(ProbeFileFromC, WritesNothingOfABracketInWhichOneThingFails) {
+    const Handle file = Open();
+    const Handle conversion = Read(file);
+    SetR0(conversion, 101);
+    ASSERT_EQ(quor_probe_file_Hold(file), 0);
+    ASSERT_EQ(quor_probe_file_Write(file, Text("P"), conversion), 0);
+    ASSERT_EQ(quor_probe_file_Remove(file, Text("No probe")), 0);
+    EXPECT_EQ(quor_probe_file_Release(file), 75);
+    EXPECT_EQ(ErrorCode(file), QUOR_PROBE_NO_SUCH_SECTION);
+    EXPECT_EQ(File(), hostFile);
+
+    ASSERT_EQ(quor_probe_file_Hold(file), 0);
+    ASSERT_EQ(quor_probe_file_Remove(file, Text("P")), 0);
+    ASSERT_EQ(quor_probe_file_Abandon(file), 0);
+    ASSERT_EQ(quor_probe_file_Release(file), 0); // of nothing
+    EXPECT_EQ(File(), hostFile);
+
+    ASSERT_EQ(quor_probe_file_Hold(file), 0);
+    ASSERT_EQ(quor_probe_file_Hold(file), 0);
+    ASSERT_EQ(quor_probe_file_Remove(file, Text("P")), 0);
+    ASSERT_EQ(quor_probe_file_Abandon(file), 0);
+    EXPECT_EQ(quor_probe_file_Release(file), 75);
+    EXPECT_EQ(LastError(), (Error{75, "quor", Path() + ": nothing is written: a bracket was abandoned"}));
+    EXPECT_EQ(File(), hostFile);
+}
+
+TEST_F(ProbeFileFromC, LeavesWhatOthersHaveChangedAndTellsConflicts) {
+    const Handle file = Open();
+    const Handle conversion = Read(file);
+    Put(Replaced(hostFile, "0.0039083", "0.0039")); // another program, another coefficient
+    SetR0(conversion, 101);
+    std::int16_t written = 0;
+    ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, file, &written), 0);
+    EXPECT_EQ(written, -1);
+    EXPECT_EQ(File(), Replaced(Replaced(hostFile, "0.0039083", "0.0039"), "100.01 ;", "101 ;"));
+
+    const Handle before = Open();
+    Put(Replaced(hostFile, "100.01 ;", "103 ;"));
+    SetR0(conversion, 102);
+    ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, before, &written), 0);
+    EXPECT_EQ(written, 0);
+    std::int32_t count = 0;
+    ASSERT_EQ(quor_probe_file_get_ConflictCount(file, &count), 0);
+    ASSERT_EQ(count, 1);
+    EXPECT_EQ(Row(quor_probe_file_get_ConflictSection, file, 0), "P - Settings");
+    EXPECT_EQ(Row(quor_probe_file_get_ConflictKey, file, 0), "Coefficients0");
+    EXPECT_EQ(Row(quor_probe_file_get_ConflictRead, file, 0), "101");
+    EXPECT_EQ(Row(quor_probe_file_get_ConflictTheirs, file, 0), "103");
+    EXPECT_EQ(Row(quor_probe_file_get_ConflictOurs, file, 0), "102");
+
+    ASSERT_EQ(quor_probe_file_Hold(file), 0);
+    EXPECT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, file, &written), QUOR_ERROR_ARGUMENT);
+    ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, before, &written), 0);
+    EXPECT_EQ(written, -1);
+    EXPECT_EQ(quor_probe_file_Release(file), 75);
+    EXPECT_EQ(LastError(),
+              (Error{75, "QuorProbeFile",
+                     Path() + ": [P - Settings] Coefficients0: another program has changed the value "
+                              "meanwhile"}));
+    ASSERT_EQ(quor_probe_file_get_ConflictCount(file, &count), 0);
+    EXPECT_EQ(count, 1);
+    EXPECT_EQ(File(), Replaced(hostFile, "100.01 ;", "103 ;"));
+}
+
+TEST_F(ProbeFileFromC, AFileThatReleaseNeedsAndThatIsGoneIsAnError) {
+    const Handle file = Open();
+    Handle source = Open();
+    ASSERT_EQ(quor_probe_file_Hold(file), 0);
+    ASSERT_EQ(quor_probe_file_CopyFrom(file, source, Text("P"), Text("R")), 0);
+    source.Release();
+    EXPECT_EQ(quor_probe_file_Release(file), QUOR_ERROR_NO_OBJECT);
+    EXPECT_EQ(LastError(), (Error{91, "quor", "A file that Release needs was released before"}));
+    EXPECT_EQ(File(), hostFile);
+}
+
+TEST_F(ProbeFileFromC, SeesThatAnotherProgramHasWrittenAndLoadsIt) {
+    const Handle file = Open();
+    std::int16_t changed = -1;
+    ASSERT_EQ(quor_probe_file_get_Changed(file, &changed), 0);
+    EXPECT_EQ(changed, 0);
+    Put(hostFile + "[R]\nVersion=1.0\nConversionType=10\n");
+    ASSERT_EQ(quor_probe_file_get_Changed(file, &changed), 0);
+    EXPECT_EQ(changed, -1);
+    ASSERT_EQ(quor_probe_file_SaveAs(file, Text(Path("copy.ini"))), 0);
+    EXPECT_EQ(File("copy.ini"), hostFile);
+    ASSERT_EQ(quor_probe_file_Reload(file), 0);
+    std::int32_t count = 0;
+    ASSERT_EQ(quor_probe_file_get_ProbeCount(file, &count), 0);
+    EXPECT_EQ(count, 3);
+}
+
+TEST_F(ProbeFileFromC, GivesItsStoreForTheOtherSections) {
+    const Handle file = Open();
+    Handle store;
+    ASSERT_EQ(quor_probe_file_get_Store(file, &store), 0);
+    ASSERT_EQ(quor_inifile_put_Section(store, Text("Instrument")), 0);
+    std::int16_t channels = 0, found = 0;
+    ASSERT_EQ(quor_inifile_ReadInteger(store, Text("Channels"), &channels, &found), 0);
+    EXPECT_EQ(found, -1);
+    EXPECT_EQ(channels, 8);
+}
+
+TEST_F(ProbeFileFromC, GivesTheNumbersOfAllProbesAtOnce) {
+    Put(hostFile +
+        "[No type]\nConversionType=x\n[Short]\nConversionType=14\n[R]\nVersion=1.0\nConversionType=10\n");
+    Handle table;
+    {
+        const Handle file = Open();
+        ASSERT_EQ(quor_probe_file_ReadAll(file, &table), 0);
+    }
+    quor_text sections{}, keys{};
+    ASSERT_EQ(quor_probe_table_get_Sections(table, &sections), 0);
+    ASSERT_EQ(quor_probe_table_get_KeyLists(table, &keys), 0);
+    EXPECT_EQ(Taken(sections), "P\nQ\nNo type\nShort\nR\n");
+    EXPECT_EQ(Taken(keys),
+              "NumCoefficients\tUsePolynomial\tCoefficients0\tCoefficients1\tCoefficients2\tCoefficients3\n"
+              "RTPW\n\n");
+    const auto numbers = [&](auto getter) {
+        quor_int32s given{};
+        EXPECT_EQ(getter(table, &given), 0);
+        return std::vector<std::int32_t>(given.values, given.values + given.size);
+    };
+    using Numbers = std::vector<std::int32_t>;
+    EXPECT_EQ(numbers(quor_probe_table_get_Types), (Numbers{2, 14, -1, 14, 10}));
+    const Numbers problems = numbers(quor_probe_table_get_ProblemCounts);
+    ASSERT_EQ(problems.size(), 5U);
+    EXPECT_EQ(problems[0], 0);
+    EXPECT_EQ(problems[2], -1);
+    EXPECT_GT(problems[3], 0);
+    EXPECT_EQ(numbers(quor_probe_table_get_KeyListOf), (Numbers{0, 1, 2, 1, 2}));
+    EXPECT_EQ(numbers(quor_probe_table_get_ValueEnds), (Numbers{6, 7, 7, 8, 8}));
+    quor_doubles values{};
+    ASSERT_EQ(quor_probe_table_get_Values(table, &values), 0);
+    EXPECT_EQ(std::vector<double>(values.values, values.values + values.size),
+              (std::vector<double>{4, 1, 100.01, 0.0039083, -5.775E-07, -4.183E-12, 25.5, 0}));
+}
