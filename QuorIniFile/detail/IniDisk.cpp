@@ -233,12 +233,15 @@ std::size_t ReadAt(const OpenFile& file, std::uint64_t offset, char* bytes, std:
     return count.value;
 }
 
+constexpr std::size_t partSize = 262144;  // bytes that are read at once
 constexpr std::size_t bufferSize = 65536; // bytes; in the heap, because stacks of threads may be small
 
 std::string ReadAll(const RegularFile& regular, const Target& target) {
-    // The size is what the system said; there may be more.
-    std::string bytes(static_cast<std::size_t>(regular.status.size) + 1, '\0');
+    std::string bytes;
+    bytes.reserve(static_cast<std::size_t>(regular.status.size) + 1); // as the system said; there may be more
     for (std::size_t used = 0;;) {
+        // Part by part: what is read is still in the cache of the processor, where the zeros were put.
+        bytes.resize(std::max(std::min(bytes.capacity(), used + partSize), used + 1));
         const std::size_t count =
             ReadAt(regular.file, used, bytes.data() + used, bytes.size() - used, target);
         used += count;
@@ -248,8 +251,6 @@ std::string ReadAll(const RegularFile& regular, const Target& target) {
         }
         if (used > largestFile)
             throw FileError(ERR_PATH_FILE_ACCESS, target.fileName, INI_CAUSE_TOO_LARGE);
-        if (used == bytes.size())
-            bytes.resize(used + bufferSize);
     }
 }
 

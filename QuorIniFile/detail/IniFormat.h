@@ -148,16 +148,32 @@ enum class IniEncoding : std::uint8_t { Utf8, Latin1 };
     return name == wanted || AreOneName(name, wanted); // as it stands, nearly always
 }
 
+/// Whether `name` is ASCII and `wanted` has the same characters, as many.
+[[nodiscard]] inline bool IsSameAscii(std::string_view name, const wchar_t* wanted) {
+    constexpr std::size_t step = 8; // characters at once; the last ones again with some before them
+    std::uint32_t bits = 0;         // above those of ASCII, or that differ
+    const auto compare = [&](std::size_t from, std::size_t count) {
+        for (std::size_t at = from; at < from + count; ++at) {
+            const std::uint32_t byte = static_cast<unsigned char>(name[at]);
+            // NOLINTNEXTLINE(bugprone-signed-char-misuse,cert-str34-c): a wide character, whatever its sign
+            bits |= (static_cast<std::uint32_t>(wanted[at]) ^ byte) | (byte & 0x80U);
+        }
+    };
+    if (name.size() < step) {
+        compare(0, name.size());
+        return bits == 0;
+    }
+    for (std::size_t at = 0; at + step < name.size(); at += step)
+        compare(at, step);
+    compare(name.size() - step, step);
+    return bits == 0;
+}
+
 /// The same for a name as a host gives it. One that no bytes of a file can spell is never meant.
 [[nodiscard]] bool AreOneName(std::string_view name, std::wstring_view wanted);
 [[nodiscard]] inline bool SameName(std::string_view name, std::wstring_view wanted) {
-    std::size_t at = 0;
-    if (name.size() == wanted.size()) {
-        while (at < name.size() && static_cast<unsigned char>(name[at]) < 0x80 && wanted[at] == name[at])
-            ++at;
-    }
-    const bool isSpelledSo = at == name.size() && at == wanted.size();
-    return isSpelledSo || AreOneName(name, wanted); // as it stands, nearly always
+    return (name.size() == wanted.size() && IsSameAscii(name, wanted.data())) || // nearly always
+           AreOneName(name, wanted);
 }
 
 /// Whether a new header or key line with that name would read back as that very name.

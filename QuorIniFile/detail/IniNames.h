@@ -47,6 +47,14 @@ public:
         return std::nullopt;
     }
 
+    /// Tells that this hash is about to be looked for or added, among others.
+    void WillFind([[maybe_unused]] std::uint64_t hash) const {
+#ifdef __GNUC__
+        if (!m_slots.empty())
+            __builtin_prefetch(&m_slots[Start(static_cast<std::uint32_t>(hash))]);
+#endif
+    }
+
     /// Adds a number below 2^32 - 1 that is not there under that hash yet.
     void Add(std::uint64_t hash, std::uint32_t number);
     /// Makes room for so many more numbers in one step: adding them needs no memory then.

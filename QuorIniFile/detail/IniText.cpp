@@ -4,6 +4,7 @@
 #include "QuorIniFile/detail/Unicode.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <new>
 #include <utility>
@@ -16,6 +17,9 @@ constexpr std::size_t few = 32;
 
 /// The keys of a section with more bytes are kept, because reading them again is worth avoiding.
 constexpr std::size_t shortSection = 4096;
+
+/// So many sections are indexed at once.
+constexpr std::size_t atOnce = 16;
 
 /// The tag of a name that may be spelled in several ways.
 constexpr std::uint32_t anyTag = 0;
@@ -212,31 +216,57 @@ bool IniText::ReadOn() {
         if (line.kind == IniLineKind::Section)
             header.nameLength = static_cast<std::uint32_t>(line.name.size());
         const bool counts = !IsRedundant(header);
-        if (counts)
+        if (counts) {
+            if (m_headers.size() == m_headers.capacity())
+                MakeRoomForHeaders(next);
             m_headers.push_back(header);
+        }
         m_next = next;
         if (counts)
             return true;
     }
 }
 
-/// Indexes the names of all sections that have a number.
+/// Makes room for as many headers as the text has if the rest of it is like the part before `next`, but for
+/// not too many: it may not be.
+void IniText::MakeRoomForHeaders(std::size_t next) {
+    constexpr std::size_t fewest = 16, mostGrowth = 8;
+    const std::size_t count = std::max(m_headers.size(), fewest / mostGrowth);
+    const std::size_t likely = count * (m_text.size() / next + 1);
+    const std::size_t more = std::clamp(likely, count * 2, count * mostGrowth) - m_headers.size();
+    m_headers.reserve(m_headers.size() + more);
+    m_names.Reserve(more);
+}
+
+/// Indexes the names of all sections that have a number. The index of a large file is not in the cache of the
+/// processor: several places in it are asked for at once.
 void IniText::Index() {
-    for (; m_indexed < m_headers.size(); ++m_indexed) {
-        Header& header = m_headers[m_indexed];
-        if (header.nameLength == none)
-            continue;
-        const auto number = static_cast<Section>(m_indexed);
-        const std::string_view name = NameInText(number);
-        const std::uint64_t hash = HashInText(name);
-        const auto first =
-            m_names.Find(hash, [&](Section other) { return AreAlike(NameInText(other), name); });
-        if (!first)
-            m_names.Add(hash, number);
-        else if (NameInText(*first) != name)
-            m_headers[*first].hasOtherSpellings = true;
-        header.first = first.value_or(number);
+    std::array<std::uint64_t, atOnce> hashes{};
+    while (m_indexed < m_headers.size()) {
+        const std::size_t begin = m_indexed;
+        const std::size_t end = std::min(m_headers.size(), begin + atOnce);
+        for (std::size_t at = begin; at < end; ++at) {
+            if (m_headers[at].nameLength == none)
+                continue;
+            hashes[at - begin] = HashInText(NameInText(static_cast<Section>(at)));
+            m_names.WillFind(hashes[at - begin]);
+        }
+        for (; m_indexed < end; ++m_indexed)
+            IndexOne(static_cast<Section>(m_indexed), hashes[m_indexed - begin]);
     }
+}
+
+void IniText::IndexOne(Section section, std::uint64_t hash) {
+    Header& header = m_headers[section];
+    if (header.nameLength == none)
+        return;
+    const std::string_view name = NameInText(section);
+    const auto first = m_names.Find(hash, [&](Section other) { return AreAlike(NameInText(other), name); });
+    if (!first)
+        m_names.Add(hash, section);
+    else if (NameInText(*first) != name)
+        m_headers[*first].hasOtherSpellings = true;
+    header.first = first.value_or(section);
 }
 
 void IniText::ReadAllHeaders() {
@@ -299,8 +329,11 @@ std::optional<IniText::Section> IniText::FindSection(std::wstring_view name) {
     Index();
     // Hosts walk through their files: the next section is the likeliest one.
     const Section next = m_asked + 1;
-    if (next == m_headers.size() && ReadOn())
+    if (next == m_headers.size()) {
+        for (std::size_t read = 0; read < atOnce && ReadOn(); ++read)
+            ;
         Index();
+    }
     if (next < m_headers.size() && IsFound(next, name))
         return m_asked = next;
     const auto known =
@@ -528,7 +561,8 @@ void IniText::ReadKeys(Section section) {
         if (IsHeader(line.kind))
             break;
         if (line.kind == IniLineKind::Key) {
-            Key key = KeyIn(cut.line, line);
+            Key& key = m_keys.list.emplace_back(); // in its place: a copy of each would take longer
+            Describe(key, cut.line, line);
             key.start = static_cast<std::uint32_t>(at);
             m_keys.last = at;
             if (IsAdded(section)) {
@@ -536,7 +570,11 @@ void IniText::ReadKeys(Section section) {
                 key.isText = std::binary_search(m_texts.begin(), m_texts.end(), at);
                 key.hasComment = !key.isText;
             }
-            AddKey(m_keys, key, false);
+            if (m_keys.list.size() > few) {
+                const Key last = key;
+                m_keys.list.pop_back();
+                AddKey(m_keys, last, false);
+            }
         }
         at = cut.next;
     }
@@ -545,20 +583,18 @@ void IniText::ReadKeys(Section section) {
     m_keysOf = section;
 }
 
-/// Where names and values stand in a key line.
-IniText::Key IniText::KeyIn(std::string_view line, const IniLine& parsed) {
+/// Notes in `key` where name and value stand in its line.
+void IniText::Describe(Key& key, std::string_view line, const IniLine& parsed) {
     if (line.size() >= none)
         throw std::bad_alloc();
     const auto offset = [line](std::string_view part) {
         return static_cast<std::uint32_t>(part.data() - line.data());
     };
-    Key key;
     key.name = offset(parsed.name);
     key.nameLength = static_cast<std::uint32_t>(parsed.name.size());
     key.value = offset(parsed.value);
     key.valueLength = static_cast<std::uint32_t>(parsed.value.size());
     key.tag = IsAscii(parsed.name) ? TagOf(parsed.name) : anyTag;
-    return key;
 }
 
 /// The index of the names of many keys: the first of each name.
@@ -661,7 +697,8 @@ void IniText::Rewrite(Section section, Keys& keys, Key& key, const IniNewValue& 
     const bool differed = Differs(section, keys, key);
     const std::string_view old = key.own == none ? LineInText(section, key) : keys.lines[key.own];
     std::string line = RewriteLine(old, value);
-    Key rewritten = KeyIn(line, ClassifyLine(line));
+    Key rewritten;
+    Describe(rewritten, line, ClassifyLine(line));
     rewritten.start = key.start;
     rewritten.own = key.own;
     rewritten.written = key.written != 0 ? key.written : keys.written + 1;
@@ -700,8 +737,10 @@ IniText::Key IniText::ComposeLine(const Keys& keys, std::string_view spelling, c
     m_line.assign(spelling).append(1, '=').append(value.bytes);
     if (!value.comment.empty())
         m_line.append(1, ' ').append(value.comment);
-    Key key = KeyIn(m_line, {IniLineKind::Key, std::string_view(m_line).substr(0, spelling.size()),
-                             std::string_view(m_line).substr(spelling.size() + 1)});
+    Key key;
+    Describe(key, m_line,
+             {IniLineKind::Key, std::string_view(m_line).substr(0, spelling.size()),
+              std::string_view(m_line).substr(spelling.size() + 1)});
     key.written = keys.written + 1;
     key.isText = value.isText;
     key.hasComment = !value.isText;

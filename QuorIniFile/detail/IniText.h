@@ -147,7 +147,9 @@ private:
 
     // Sections.
     [[nodiscard]] bool ReadOn();
+    void MakeRoomForHeaders(std::size_t next);
     void Index();
+    void IndexOne(Section section, std::uint64_t hash);
     void ReadAllHeaders();
     [[nodiscard]] bool IsRedundant(const Header& header) const;
     [[nodiscard]] std::string_view NameInText(Section section) const;
@@ -168,7 +170,7 @@ private:
     /// The same for a section that is to be written into: they are kept.
     [[nodiscard]] Keys& KeepKeysOf(Section section);
     void ReadKeys(Section section);
-    [[nodiscard]] static Key KeyIn(std::string_view line, const IniLine& parsed);
+    static void Describe(Key& key, std::string_view line, const IniLine& parsed);
     void IndexKeys(Keys& keys) const;
     [[nodiscard]] std::optional<std::uint32_t> FindIndexed(const Keys& keys, std::string_view name,
                                                            std::uint64_t hash) const;

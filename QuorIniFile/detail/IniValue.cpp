@@ -7,6 +7,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <iterator>
 #include <limits>
 #include <system_error>
 #include <utility>
@@ -194,11 +195,12 @@ std::optional<double> ParseDouble(std::string_view value) {
     using Limits = std::numeric_limits<double>;
     constexpr std::pair<std::string_view, double> named[] = {
         {"nan", Limits::quiet_NaN()}, {"infinity", Limits::infinity()}, {"-infinity", -Limits::infinity()}};
-    for (const auto& [name, number] : named) {
-        if (EqualFolded(value, name))
-            return number;
-    }
-    return ToNumber<double>(value);
+    if (const auto number = ToNumber<double>(value)) // as nearly all are
+        return number;
+    const auto* const found = std::find_if(std::begin(named), std::end(named), [value](const auto& number) {
+        return EqualFolded(value, number.first);
+    });
+    return found == std::end(named) ? std::nullopt : std::optional(found->second);
 }
 
 bool IsBeyondDouble(std::string_view value) {
