@@ -25,6 +25,9 @@ struct IniCause {
     std::vector<std::wstring> values; ///< names, paths and the like, one for each "~" of the cause's text
 };
 
+/// The description of an error of that number, in the words of IniTexts.def.
+[[nodiscard]] QUORINIFILE_EXPORT std::wstring Describe(std::int32_t number, const IniCause& cause);
+
 /// The description of an error in other words than those of IniTexts.def, such as another language's:
 /// `standardText` says what its number means, `causeText`, which may be empty, its cause.
 [[nodiscard]] QUORINIFILE_EXPORT std::wstring Describe(std::wstring_view standardText,

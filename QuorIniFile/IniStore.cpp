@@ -56,7 +56,7 @@ public:
             throw FileError(ERR_PATH_FILE_ACCESS, FileName(), INI_CAUSE_EDIT_NOT_ENDED);
         if (!m_isAbandoned)
             Save();
-        ++m_textNumber;
+        TextChanges();
         m_text.reset();
         m_file = std::move(file);
     }
@@ -121,7 +121,7 @@ public:
 
     [[nodiscard]] std::vector<IniWarning> Warnings() {
         LoadExisting();
-        return WarningsOf(m_text->BaseText());
+        return WarningsOf(m_text->ReadText());
     }
 
     [[nodiscard]] bool HasSection(std::wstring_view name) {
@@ -131,14 +131,9 @@ public:
 
     [[nodiscard]] std::string_view PresentText() {
         LoadExisting();
-        if (m_composed != m_textNumber) {
-            auto merged = m_text->Changed() ? m_text->Merged() : std::nullopt;
-            if (!merged)
-                return m_text->Whole();
-            m_present = *std::move(merged);
-            m_composed = m_textNumber;
-        }
-        return m_present;
+        if (!m_composed)
+            m_composed = m_text->ComposedText();
+        return m_composed ? *m_composed : m_text->ExtendedText();
     }
     [[nodiscard]] std::uint64_t TextNumber() const { return m_textNumber; }
 
@@ -146,18 +141,7 @@ public:
     [[nodiscard]] bool IsOwnFile(std::wstring_view fileName) const {
         return IsSamePlace(IniFileName::Absolute(fileName, m_files), m_file, m_files);
     }
-    [[nodiscard]] std::vector<IniLeftover> Leftovers() const {
-        std::vector<IniLeftover> leftovers = LeftoversOf(m_file, m_files);
-        // A relative name was completed by the folder that was the current one then.
-        const std::string& path = m_file.Path();
-        const std::string given = ToUtf8(m_file.Text());
-        const std::string added = path.ends_with(given) ? path.substr(0, path.size() - given.size()) : "";
-        for (IniLeftover& leftover : leftovers) {
-            if (leftover.path.starts_with(added))
-                leftover.path.erase(0, added.size());
-        }
-        return leftovers;
-    }
+    [[nodiscard]] std::vector<IniLeftover> Leftovers() const { return LeftoversOf(m_file, m_files); }
 
     void SaveAs(std::wstring_view fileName) {
         if (m_isEditing)
@@ -165,7 +149,7 @@ public:
         if (m_isAbandoned)
             throw NotWritten();
         const IniFileName target = IniFileName::Absolute(fileName, m_files);
-        const std::string text(PresentText());
+        const std::string_view text = PresentText();
         const bool isOwn = IsSamePlace(target, m_file, m_files);
         if (isOwn && StampOf(m_file, m_files).exists) {
             Save();
@@ -177,7 +161,7 @@ public:
         UntilSaved([&] { return TryReplace(target, bytes.Bytes(), stamp); });
         if (isOwn) {
             m_hasFailed = false;
-            Adopt({IniText(text), m_encoding, stamp});
+            Adopt({IniText(std::string(text)), m_encoding, stamp});
         }
     }
 
@@ -205,7 +189,7 @@ public:
     }
 
     void Discard() {
-        ++m_textNumber;
+        TextChanges();
         m_text.reset();
         m_hasFailed = false;
         m_isAbandoned = false;
@@ -250,10 +234,10 @@ public:
 
     /// Nothing of the object changes unless all has gone well.
     void Save() {
-        if (!m_text || !m_text->Written())
+        if (!m_text || !m_text->HasWrites())
             return;
-        if (!m_text->Changed() && !FileChanged()) {
-            m_text->Settle();
+        if (!m_text->IsDifferent() && !FileChanged()) {
+            m_text->TakeAsRead();
             return;
         }
         m_hasFailed = true;
@@ -362,7 +346,7 @@ private:
         edit();
         if (m_isAbandoned)
             throw NotWritten();
-        if (m_text && m_text->Written()) {
+        if (m_text && m_text->HasWrites()) {
             if (auto setback = SaveInto(replacement, *m_text, m_encoding))
                 return setback;
         }
@@ -383,13 +367,13 @@ private:
     /// Whether the file that is to be replaced is the one that was loaded, upon which nothing was written: it
     /// need not be loaded and indexed again.
     [[nodiscard]] bool IsLoaded(const IniReplacement& replacement) const {
-        return m_text && !m_text->Written() && m_stamp.exists && replacement.Stamp().exists &&
+        return m_text && !m_text->HasWrites() && m_stamp.exists && replacement.Stamp().exists &&
                replacement.Has(Loaded().Bytes());
     }
 
     void Load() {
         // A file that was not there may have come since, as long as we have nothing to say about it.
-        if (m_text && (m_stamp.exists || m_text->Changed()))
+        if (m_text && (m_stamp.exists || m_text->IsDifferent()))
             return;
         if (FileName().empty())
             throw FileError(ERR_BAD_FILE_NAME, FileName());
@@ -398,7 +382,7 @@ private:
 
     void LoadExisting() {
         Load();
-        if (!m_stamp.exists && !m_text->Changed())
+        if (!m_stamp.exists && !m_text->IsDifferent())
             throw FileError(ERR_FILE_NOT_FOUND, FileName());
     }
 
@@ -414,11 +398,11 @@ private:
     }
 
     /// The bytes of the file as it was loaded.
-    [[nodiscard]] IniEncodedText Loaded() const { return {m_text->BaseText(), m_encoding}; }
+    [[nodiscard]] IniEncodedText Loaded() const { return {m_text->ReadText(), m_encoding}; }
 
     void Adopt(FileText file) noexcept {
         static_assert(std::is_nothrow_move_assignable_v<IniText>);
-        ++m_textNumber;
+        TextChanges();
         m_text = std::move(file.text);
         m_number.reset();
         m_encoding = file.encoding;
@@ -460,15 +444,15 @@ private:
                                       IniFileEncoding encoding) {
         // All that can fail is done before the file is replaced.
         std::optional<IniText> merged;
-        if (auto text = changed.Merged())
+        if (auto text = changed.ComposedText())
             merged.emplace(*std::move(text));
-        const std::string_view text = merged ? merged->BaseText() : changed.Whole();
+        const std::string_view text = merged ? merged->ReadText() : changed.ExtendedText();
         std::optional<IniStamp> stamp;
-        if (changed.Changed()) {
+        if (changed.IsDifferent()) {
             // A file of one NUL is no UTF-16, and becomes it with what follows: nobody could load that.
             RequireDecodable(text, encoding, FileName());
             const IniEncodedText bytes(text, encoding);
-            const IniEncodedText read(changed.BaseText(), encoding);
+            const IniEncodedText read(changed.ReadText(), encoding);
             stamp = replacement.Commit(bytes.Bytes(), read.Bytes());
             if (!stamp)
                 return replacement.Setback();
@@ -478,7 +462,7 @@ private:
             stamp = replacement.Stamp();
         }
         if (!merged)
-            changed.Settle();
+            changed.TakeAsRead();
         if (merged)
             Adopt({*std::move(merged), encoding, *stamp});
         else if (&changed != &*m_text)
@@ -495,8 +479,14 @@ private:
         return m_number ? m_text->FindValue(*m_number, key) : std::nullopt;
     }
 
-    void SectionsChanged() {
+    /// The text is about to become another one, or has become one.
+    void TextChanges() noexcept {
         ++m_textNumber;
+        m_composed.reset();
+    }
+
+    void SectionsChanged() {
+        TextChanges();
         m_number.reset();
         m_hasFailed = false;
         if (!IsHeld())
@@ -508,7 +498,7 @@ private:
         // Both names are checked before anything is changed.
         if (!isThere)
             SpellNew(key, m_spelling, keyNames);
-        ++m_textNumber;
+        TextChanges();
         if (m_number) {
             m_text->Write(*m_number, key, m_spelling, m_value);
         } else {
@@ -549,8 +539,7 @@ private:
     IniStamp m_stamp;                         // of the file that the text was read from
     std::optional<IniText::Section> m_number; // of the selected section, once it was found
     std::uint64_t m_textNumber = 1;           // counts whatever may have changed the text
-    std::string m_present;                    // the text with all changes, where it stands nowhere else,
-    std::uint64_t m_composed = 0;             // as it was under that number
+    std::optional<std::string> m_composed;    // from m_text, as long as that is the same
     bool m_hasFailed = false;                 // a save of all that is written
     std::size_t m_holds = 0;
     bool m_isAbandoned = false; // what is held is part of a record, and must not be saved

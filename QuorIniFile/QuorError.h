@@ -33,7 +33,7 @@ enum EErrorNumber : std::int32_t {
 
 /// The one exception of the libraries. It carries what an error report prints: number, source (the class or
 /// component that raised it), description, and optionally a help file with a topic. An error of the INI-file
-/// store also carries its cause.
+/// store, and of the registry that stands on it, also carries its cause.
 class QUORINIFILE_EXPORT QuorError : public std::exception {
 public:
     QuorError(std::int32_t number, std::wstring source, std::wstring description, std::wstring helpFile = {},
@@ -45,7 +45,8 @@ public:
     [[nodiscard]] const std::wstring& Description() const noexcept { return m_description; }
     [[nodiscard]] const std::wstring& HelpFile() const noexcept { return m_helpFile; }
     [[nodiscard]] std::int32_t HelpContext() const noexcept { return m_helpContext; }
-    /// What the description says, for programs; null for an error that the store has not raised.
+    /// What the description says, for programs; null for an error that neither the store nor
+    /// the registry that stands on it has raised.
     [[nodiscard]] const IniCause* Cause() const noexcept { return m_cause ? &*m_cause : nullptr; }
 
     /// The description as UTF-8, for hosts that catch std::exception. It is what a window shows as plain

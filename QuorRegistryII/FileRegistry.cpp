@@ -14,8 +14,11 @@ using QuorIniFile::QuorError;
 namespace QuorRegistryII {
 namespace {
 
-[[noreturn]] void Raise(std::int32_t number, std::wstring description) {
-    throw QuorError(number, L"QuorRegistryII", std::move(description));
+/// The error of that number about the file of an application.
+QuorError FileError(std::int32_t number, std::wstring_view fileName, QuorIniFile::EIniCause code) {
+    QuorIniFile::IniCause cause{code, std::wstring(fileName), {}};
+    std::wstring description = QuorIniFile::Describe(number, cause);
+    return {number, L"QuorRegistryII", std::move(description), std::move(cause)};
 }
 
 /// The absolute path that an environment variable holds, or nothing.
@@ -25,13 +28,12 @@ std::optional<std::wstring> PathFrom(const char* variable) {
     return path != nullptr && *path == '/' ? QuorIniFile::FromUtf8(path) : std::nullopt;
 }
 
-std::wstring ConfigurationFolder() {
+std::wstring ConfigurationFolder(const std::wstring& fileName) {
     if (auto folder = PathFrom("XDG_CONFIG_HOME"))
         return *std::move(folder);
     if (const auto home = PathFrom("HOME"))
         return *home + L"/.config";
-    Raise(QuorIniFile::ERR_PATH_NOT_FOUND,
-          L"Path not found: the user's configuration folder, because HOME is not set");
+    throw FileError(QuorIniFile::ERR_PATH_NOT_FOUND, fileName, QuorIniFile::INI_CAUSE_NO_HOME);
 }
 
 } // namespace
@@ -39,10 +41,11 @@ std::wstring ConfigurationFolder() {
 FileRegistry::FileRegistry(std::wstring_view application, std::wstring_view folder) {
     if (application.empty() || application == L"." || application == L".." ||
         application.find_first_of(std::wstring_view(L"/\0", 2)) != std::wstring_view::npos)
-        Raise(QuorIniFile::ERR_BAD_FILE_NAME, L"Bad file name or number: " + std::wstring(application));
-    m_fileName =
-        folder.empty() ? ConfigurationFolder().append(L"/").append(application) : std::wstring(folder);
-    m_fileName.append(L"/").append(application).append(L".ini");
+        throw FileError(QuorIniFile::ERR_BAD_FILE_NAME, application, QuorIniFile::INI_CAUSE_NONE);
+    const std::wstring fileName = std::wstring(application).append(L".ini");
+    m_fileName = folder.empty() ? ConfigurationFolder(fileName).append(L"/").append(application)
+                                : std::wstring(folder);
+    m_fileName.append(L"/").append(fileName);
 }
 
 bool FileRegistry::ReadValue(std::wstring_view section, std::wstring_view name, std::wstring& value) {

@@ -34,7 +34,9 @@ struct ValueWriter {
 };
 
 /// The text with all changes.
-std::string Merged(const IniText& text) { return text.Merged().value_or(std::string(text.Whole())); }
+std::string Merged(const IniText& text) {
+    return text.ComposedText().value_or(std::string(text.ExtendedText()));
+}
 
 /// Nothing is written when no file can hold a name of the edit.
 void Write(IniText& text, PlainEdits& plain, const Edit& edit) {
@@ -95,14 +97,14 @@ void ClaimThatAnAddedSectionCanBeTakenBack(const std::string& bytes) {
     if (added.FindSection(L"added"))
         return;
     added.AddSection("added", L"key", "key", {"1", false, {}});
-    IniText back{std::string(added.Whole())};
+    IniText back{std::string(added.ExtendedText())};
     for (IniText* const text : {&added, &back}) {
         const auto section = text->FindSection(L"added");
         Claim(section.has_value(), "a section that was added is there");
         text->RemoveSection(*section);
         Claim(Merged(*text) == bytes, "a section that is added and removed again leaves nothing");
     }
-    Claim(!added.Changed(), "a section that is removed before it is saved is no change");
+    Claim(!added.IsDifferent(), "a section that is removed before it is saved is no change");
 }
 
 } // namespace
@@ -119,11 +121,11 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string merged = Merged(text);
     plain.ClaimMade(merged);
     ClaimAgreement(text, PlainIni(file.text), PlainIni(merged));
-    Claim(text.BaseText() == file.text, "the text as it was read stays known");
+    Claim(text.ReadText() == file.text, "the text as it was read stays known");
     // A section that was removed and written again may say what it said before: then nobody compares.
     const bool anyRemoved =
         std::any_of(file.edits.begin(), file.edits.end(), [](const Edit& edit) { return edit.kind == 'R'; });
-    Claim(text.Changed() == (merged != file.text) || (text.Changed() && anyRemoved),
+    Claim(text.IsDifferent() == (merged != file.text) || (text.IsDifferent() && anyRemoved),
           "a text knows whether it has changed");
 
     const std::string others = file.text.substr(file.text.size() / 2);

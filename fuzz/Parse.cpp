@@ -98,7 +98,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text = Fuzz::Bytes(data, size);
     const PlainIni plain(text);
     IniText indexed{std::string(text)};
-    Claim(indexed.Whole() == text && !indexed.Merged() && !indexed.Changed(),
+    Claim(indexed.ExtendedText() == text && !indexed.ComposedText() && !indexed.IsDifferent(),
           "a text that nobody changes stays as it is");
 
     IniWalker walker(text);
@@ -122,7 +122,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
                 section ? indexed.FindValue(*section, capitals ? Capitals(place.second) : place.second)
                         : std::nullopt;
             Claim(value == line.parsed.value &&
-                      value->data() - indexed.Whole().data() == line.parsed.value.data() - text.data(),
+                      value->data() - indexed.ExtendedText().data() == line.parsed.value.data() - text.data(),
                   "the first key of its name in the first section of its name is found");
         }
     }

@@ -430,9 +430,16 @@ void MakeFolderOf(const IniFileName& fileName, IniFileSystem& files) {
 
 std::vector<IniLeftover> LeftoversOf(const IniFileName& fileName, IniFileSystem& files) {
     const Neighbours neighbours(FollowLinks(fs::path(fileName.Path()), {files, fileName.Text()}));
+    // A relative name was completed by the folder that was the current one then.
+    const std::string_view path = fileName.Path();
+    const std::string given = ToUtf8(fileName.Text());
+    const std::string_view added = path.substr(0, path.ends_with(given) ? path.size() - given.size() : 0);
     std::vector<IniLeftover> leftovers;
-    for (std::string& path : neighbours.Find(Neighbours::keptEnd, files))
-        leftovers.push_back({std::move(path), true});
+    const auto tell = [&](std::string_view left, bool isKept) {
+        leftovers.push_back({DecodeBytes(left.substr(left.starts_with(added) ? added.size() : 0)), isKept});
+    };
+    for (const std::string& kept : neighbours.Find(Neighbours::keptEnd, files))
+        tell(kept, true);
 
     std::vector<std::string> paths = neighbours.Find(Neighbours::temporaryEnd, files);
     paths.push_back(neighbours.lock);
@@ -449,15 +456,15 @@ std::vector<IniLeftover> LeftoversOf(const IniFileName& fileName, IniFileSystem&
             return leftovers;
         }
         paths.erase(std::remove_if(paths.begin(), paths.end(),
-                                   [&](const std::string& path) {
-                                       return Uninterrupted([&] { return files.StatusAt(path); }).error != 0;
+                                   [&](const std::string& left) {
+                                       return Uninterrupted([&] { return files.StatusAt(left); }).error != 0;
                                    }),
                     paths.end()); // a save that has ended meanwhile has taken its files along
         if (paths.empty())
             break;
     }
-    for (std::string& path : paths)
-        leftovers.push_back({std::move(path), false});
+    for (const std::string& left : paths)
+        tell(left, false);
     return leftovers;
 }
 

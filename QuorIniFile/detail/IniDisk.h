@@ -101,8 +101,9 @@ struct IniFileBytes {
 /// alone.
 void MakeFolderOf(const IniFileName& fileName, IniFileSystem& files = IniFileSystem::System());
 
-/// What saves of a file have left beside it. Of interrupted saves nothing as long as a save is under way, or
-/// where nobody can tell (a file system without locks, a lock file that only another user may open).
+/// What saves of a file have left beside it, as paths from where its name starts. Of interrupted saves
+/// nothing as long as a save is under way, or where nobody can tell (a file system without locks, a lock file
+/// that only another user may open).
 [[nodiscard]] std::vector<IniLeftover> LeftoversOf(const IniFileName& fileName,
                                                    IniFileSystem& files = IniFileSystem::System());
 

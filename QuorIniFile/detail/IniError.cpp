@@ -40,8 +40,7 @@ std::wstring_view FindText(std::int32_t number, const NumberedText (&texts)[size
 QuorError FileError(EErrorNumber number, std::wstring_view fileName, EIniCause cause,
                     std::vector<std::wstring> values) {
     IniCause all{cause, std::wstring(fileName), std::move(values)};
-    std::wstring description =
-        Describe(FindText(number, standardTexts, L"Error"), FindText(cause, causeTexts, L""), all);
+    std::wstring description = Describe(number, all);
     return {number, L"QuorIniFile", std::move(description), std::move(all)};
 }
 
@@ -49,6 +48,10 @@ QuorError FileError(EErrorNumber number, std::wstring_view fileName, std::wstrin
     if (words.empty())
         return FileError(number, fileName, INI_CAUSE_NONE);
     return FileError(number, fileName, INI_CAUSE_SYSTEM, {std::wstring(words)});
+}
+
+std::wstring Describe(std::int32_t number, const IniCause& cause) {
+    return Describe(FindText(number, standardTexts, L"Error"), FindText(cause.code, causeTexts, L""), cause);
 }
 
 std::wstring Describe(std::wstring_view standardText, std::wstring_view causeText, const IniCause& cause) {

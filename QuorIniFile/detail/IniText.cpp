@@ -194,7 +194,7 @@ IniText::IniText(std::string text) : m_text(std::move(text)), m_base(m_text.size
 
 IniEncoding IniText::Encoding() {
     if (!m_encoding)
-        m_encoding = EncodingOf(BaseText());
+        m_encoding = EncodingOf(ReadText());
     return *m_encoding;
 }
 
@@ -455,8 +455,10 @@ void IniText::RemoveSection(Section section) {
     const auto kept = m_kept.find(section);
     if (kept != m_kept.end()) {
         const Keys& keys = kept->second;
-        m_differing -= static_cast<std::size_t>(std::count_if(
-            keys.list.begin(), keys.list.end(), [&](const Key& key) { return Differs(section, keys, key); }));
+        m_differing -=
+            static_cast<std::size_t>(std::count_if(keys.list.begin(), keys.list.end(), [&](const Key& key) {
+                return LineDiffers(section, keys, key);
+            }));
         m_kept.erase(kept);
     }
     m_keysOf = none;
@@ -509,7 +511,7 @@ bool IniText::RenameSection(Section section, std::string_view name) {
 // Keys -----------------------------------------------------------------------------------------------------
 
 /// The text in which a section ends: what was added is no part of those that were read.
-std::string_view IniText::TextUpTo(Section section) const { return IsAdded(section) ? m_text : BaseText(); }
+std::string_view IniText::TextUpTo(Section section) const { return IsAdded(section) ? m_text : ReadText(); }
 
 /// Where the line behind the header starts.
 std::size_t IniText::Begin(Section section) const {
@@ -676,7 +678,7 @@ std::string_view IniText::LineInText(Section section, const Key& key) const {
 }
 
 /// Whether a line is to be another one than in the text.
-bool IniText::Differs(Section section, const Keys& keys, const Key& key) const {
+bool IniText::LineDiffers(Section section, const Keys& keys, const Key& key) const {
     return key.own != none && (key.start == none || keys.lines[key.own] != LineInText(section, key));
 }
 
@@ -694,7 +696,7 @@ void IniText::Write(Section section, std::wstring_view key, std::string_view spe
 }
 
 void IniText::Rewrite(Section section, Keys& keys, Key& key, const IniNewValue& value) {
-    const bool differed = Differs(section, keys, key);
+    const bool differed = LineDiffers(section, keys, key);
     const std::string_view old = key.own == none ? LineInText(section, key) : keys.lines[key.own];
     std::string line = RewriteLine(old, value);
     Key rewritten;
@@ -713,7 +715,7 @@ void IniText::Rewrite(Section section, Keys& keys, Key& key, const IniNewValue& 
     key = rewritten;
     keys.written = std::max(keys.written, key.written);
     m_differing -= differed ? 1 : 0;
-    m_differing += Differs(section, keys, key) ? 1 : 0;
+    m_differing += LineDiffers(section, keys, key) ? 1 : 0;
 }
 
 /// Adds a key behind the last one of its section, for the next save.
@@ -773,10 +775,10 @@ void IniText::AppendKey(Keys& keys, std::string_view spelling, const IniNewValue
 std::vector<IniText::Place> IniText::Places() const {
     std::vector<Place> places;
     std::size_t known = 0;
-    for (std::size_t at = 0; (at = FindHeader(BaseText(), at)) != npos; at = places.back().next) {
+    for (std::size_t at = 0; (at = FindHeader(ReadText(), at)) != npos; at = places.back().next) {
         while (known + 1 < m_headers.size() && m_headers[known + 1].name <= at + 1)
             ++known;
-        places.push_back({at, CutHeader(BaseText(), at).next, m_headers[known].first});
+        places.push_back({at, CutHeader(ReadText(), at).next, m_headers[known].first});
     }
     return places;
 }
@@ -827,7 +829,7 @@ void IniText::AddRenaming(std::vector<Patch>& patches, std::size_t name, std::si
 
 /// What goes with a removed section, of which another place than the first is never kept.
 IniText::Patch IniText::RemovalOf(const std::vector<Place>& places, std::size_t number, bool isKept) const {
-    const std::string_view text = BaseText();
+    const std::string_view text = ReadText();
     const Place& place = places[number];
     const std::size_t end =
         number + 1 < places.size() ? StartWithComments(text, places[number + 1].start) : text.size();
@@ -841,7 +843,7 @@ IniText::Patch IniText::RemovalOf(const std::vector<Place>& places, std::size_t 
 
 /// What removals and new names make of the text as it was read.
 void IniText::AddEditsOfRead(std::vector<Patch>& patches) const {
-    const std::string_view text = BaseText();
+    const std::string_view text = ReadText();
     const std::vector<Place> places = Places();
     std::vector<Patch> removed; // where extents touch, they are one
     for (std::size_t number = 0; number < places.size(); ++number) {
@@ -883,7 +885,7 @@ void IniText::AddEditsOfAdded(std::vector<Patch>& patches) const {
     }
 }
 
-std::optional<std::string> IniText::Merged() const {
+std::optional<std::string> IniText::ComposedText() const {
     if (m_differing == 0 && m_edits.empty())
         return std::nullopt;
     const std::vector<Patch> patches = Patches();
@@ -917,7 +919,7 @@ std::optional<std::string> IniText::Merged() const {
     return text;
 }
 
-void IniText::Settle() noexcept {
+void IniText::TakeAsRead() noexcept {
     m_base = m_text.size();
     m_firstAdded = none;
     m_starts.clear();
@@ -962,7 +964,7 @@ std::vector<IniText::Key> IniText::WrittenKeys(const Keys& keys) {
 }
 
 std::optional<IniConflict> IniText::ApplyChangesTo(IniText& other) {
-    const bool isEmpty = other.BaseText().find_first_not_of(" \t\r\n", MarkLength(other.BaseText())) == npos;
+    const bool isEmpty = other.ReadText().find_first_not_of(" \t\r\n", MarkLength(other.ReadText())) == npos;
     if (auto conflict = ApplyMovesTo(other))
         return conflict;
     for (const Section section : SectionsThatMayBeWritten()) {

@@ -26,11 +26,17 @@ struct IniConflict {
 /// The text of an INI file, an index over it, and the changes made since it was read. It knows no file and no
 /// kinds of values: a value is the bytes behind a key.
 ///
+/// There are three texts:
+/// - ReadText, as it was read;
+/// - ExtendedText, which begins with ReadText: new sections are added at its end at once, as they will be
+///   saved. All other changes stand beside it, so that one costs the same in a text of any size;
+/// - the text with all changes: ComposedText, or ExtendedText where there is nothing to compose.
+/// IsDifferent says whether the third is another one than the first; then HasWrites holds. HasWrites alone:
+/// what was written stood there already. TakeAsRead makes the three texts one, and neither holds.
+///
 /// Names are looked up without regard to the case of ASCII letters; of several sections or keys of one name
-/// the first counts. The text is looked through from its start as far as a question needs. New sections are
-/// added at its end at once, as they will be saved; all other changes stand beside it until Merged() puts
-/// both together, so that a change costs the same in a text of any size. A function that raises
-/// std::bad_alloc has changed nothing.
+/// the first counts. The text is looked through from its start as far as a question needs. A function that
+/// raises std::bad_alloc has changed nothing.
 class IniText {
 public:
     /// The number of a section of this text.
@@ -41,7 +47,7 @@ public:
     /// How new text has to be written. Decided by the whole text as it was read, when it is first asked for.
     [[nodiscard]] IniEncoding Encoding();
     /// The text as it was read.
-    [[nodiscard]] std::string_view BaseText() const { return std::string_view(m_text).substr(0, m_base); }
+    [[nodiscard]] std::string_view ReadText() const { return std::string_view(m_text).substr(0, m_base); }
 
     [[nodiscard]] std::optional<Section> FindSection(std::wstring_view name);
     /// The names as they stand in the text with all changes, in its order; of a name that stands several
@@ -70,19 +76,19 @@ public:
     [[nodiscard]] bool RenameSection(Section section, std::string_view name);
 
     /// Whether the text with all changes is another one.
-    [[nodiscard]] bool Changed() const {
+    [[nodiscard]] bool IsDifferent() const {
         return m_text.size() != m_base || m_differing != 0 || !m_edits.empty();
     }
     /// Whether anything was written, even if it stood there already: in the text that somebody else has made
     /// of the file since, it may not.
-    [[nodiscard]] bool Written() const { return m_isWritten; }
-    /// The text with all changes, or nothing when it stands in Whole() already.
-    [[nodiscard]] std::optional<std::string> Merged() const;
+    [[nodiscard]] bool HasWrites() const { return m_isWritten; }
+    /// The text with all changes, or nothing when it stands in ExtendedText() already.
+    [[nodiscard]] std::optional<std::string> ComposedText() const;
     /// The text as it was read, with the sections that were added.
-    [[nodiscard]] std::string_view Whole() const { return m_text; }
-    /// Takes Whole() for the text as it was read, and forgets what was written. For a text of which Merged()
-    /// gives nothing. The sections keep their numbers.
-    void Settle() noexcept;
+    [[nodiscard]] std::string_view ExtendedText() const { return m_text; }
+    /// Takes ExtendedText() for the text as it was read, and forgets what was written. For a text of which
+    /// ComposedText() gives nothing. The sections keep their numbers.
+    void TakeAsRead() noexcept;
 
     /// Writes into another text what was written into this one, the sections in their order, the keys of each
     /// in that of their writing: for a text that somebody else has changed since it was read. A section that
@@ -180,7 +186,7 @@ private:
     [[nodiscard]] std::string_view ValueOf(const Keys& keys, const Key& key) const;
     [[nodiscard]] Key* FindKey(Keys& keys, std::wstring_view name) const;
     [[nodiscard]] std::string_view LineInText(Section section, const Key& key) const;
-    [[nodiscard]] bool Differs(Section section, const Keys& keys, const Key& key) const;
+    [[nodiscard]] bool LineDiffers(Section section, const Keys& keys, const Key& key) const;
     [[nodiscard]] Key ComposeLine(const Keys& keys, std::string_view spelling, const IniNewValue& value);
     void Rewrite(Section section, Keys& keys, Key& key, const IniNewValue& value);
     void InsertKey(Keys& keys, std::string_view spelling, const IniNewValue& value);

@@ -2,7 +2,6 @@
 
 #include "QuorConversions/core/RecordNames.h"
 #include "QuorIniFile/IniLines.h"
-#include "QuorIniFile/Utf8.h"
 #include "QuorIniFile/ValueText.h"
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeTypes.h"
@@ -36,16 +35,6 @@ using QuorIniFile::IniWarning;
 using QuorIniFile::IniWarningKind;
 
 namespace {
-
-/// A path in whatever encoding.
-std::wstring PathText(const std::string& path) {
-    if (auto text = QuorIniFile::FromUtf8(path))
-        return *std::move(text);
-    std::wstring text(path.size(), L'\0');
-    std::transform(path.begin(), path.end(), text.begin(),
-                   [](char c) { return static_cast<wchar_t>(static_cast<unsigned char>(c)); });
-    return text;
-}
 
 /// A key that says how many indexed values stand beside it. A record that is written with fewer leaves the
 /// others in the file, as every program that writes records does: they are no mistake.
@@ -146,7 +135,7 @@ public:
                                 {},
                                 (leftover.isKept ? L"what another program had put in its place is kept as "
                                                  : L"an interrupted save has left ") +
-                                    PathText(leftover.path)});
+                                    leftover.path});
     }
 
     [[nodiscard]] std::vector<ProbeProblem> Take() {

@@ -4,6 +4,7 @@
 #include "QuorIniFile/IniStore.h"
 
 #include "QuorIniFile/QuorError.h"
+#include "QuorIniFile/Utf8.h"
 #include "QuorIniFile/detail/IniDisk.h"
 #include "tests/support/InterceptedFiles.h"
 #include "tests/support/SimulatedDisk.h"
@@ -116,8 +117,8 @@ void SaveY(SimulatedDisk& disk) { SaveFromElsewhere(disk, L"y", 3); }
 Names LeftBeside(SimulatedDisk& disk) {
     Names paths;
     for (const auto& [left, isKept] : LeftoversOf(L"/a.ini", disk)) {
-        EXPECT_EQ(isKept, left.ends_with(".kept"));
-        paths.push_back(left);
+        EXPECT_EQ(isKept, left.ends_with(L".kept"));
+        paths.push_back(ToUtf8(left));
     }
     return paths;
 }

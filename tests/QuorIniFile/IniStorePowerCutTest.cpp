@@ -2,6 +2,7 @@
 
 #include "QuorIniFile/IniStore.h"
 
+#include "QuorIniFile/Utf8.h"
 #include "QuorIniFile/detail/IniDisk.h"
 #include "tests/support/InterceptedFiles.h"
 #include "tests/support/SimulatedDisk.h"
@@ -98,7 +99,7 @@ void CutEverywhere(const Files& before, const std::string& after,
                 abandoned.push_back(name);
             std::vector<std::string> leftovers;
             for (const IniLeftover& leftover : LeftoversOf(L"/laboratory/a.ini", next))
-                leftovers.push_back(leftover.path);
+                leftovers.push_back(ToUtf8(leftover.path));
             EXPECT_EQ(leftovers, abandoned) << "call " << at;
             const bool hadTemporary = std::any_of(left.begin(), left.end(), IsTemporary);
             EXPECT_TRUE(abandoned.empty() || hadTemporary) << "call " << at;

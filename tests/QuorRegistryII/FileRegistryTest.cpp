@@ -52,6 +52,18 @@ std::int32_t NumberRaisedBy(const Action& action) {
     return 0;
 }
 
+/// The error that `action` raises.
+template <class Action>
+QuorError ErrorOf(const Action& action) {
+    try {
+        action();
+    } catch (const QuorError& error) {
+        return error;
+    }
+    ADD_FAILURE() << "nothing was raised";
+    return {0, L"", L""};
+}
+
 } // namespace
 
 TEST(FileRegistry, WhatIsWrittenIsReadInALaterRun) {
@@ -110,13 +122,24 @@ TEST(FileRegistry, WithoutAFolderItIsTheUsersConfigurationFolder) {
 TEST(FileRegistry, AUserWithoutAHomeHasNoRegistry) {
     const Environment home("HOME", nullptr);
     const Environment xdg("XDG_CONFIG_HOME", nullptr);
-    EXPECT_EQ(NumberRaisedBy([] { const FileRegistry registry(L"App"); }), 76);
+    const QuorError error = ErrorOf([] { const FileRegistry registry(L"App"); });
+    EXPECT_EQ(error.Number(), 76);
+    EXPECT_EQ(error.Source(), L"QuorRegistryII");
+    EXPECT_EQ(error.Description(), L"Path not found: App.ini: The user's configuration folder is not known, "
+                                   L"because HOME is not set");
+    ASSERT_NE(error.Cause(), nullptr) << "another language says it in its words";
+    EXPECT_EQ(error.Cause()->code, QuorIniFile::INI_CAUSE_NO_HOME);
 }
 
 TEST(FileRegistry, AnApplicationNameMustBeAFileName) {
     for (const std::wstring& name : {std::wstring(), std::wstring(L"."), std::wstring(L".."),
                                      std::wstring(L"a/b"), std::wstring(L"a\0b", 3)})
         EXPECT_EQ(NumberRaisedBy([&] { const FileRegistry registry(name, L"/tmp"); }), 52);
+    const QuorError error = ErrorOf([] { const FileRegistry registry(L"a/b", L"/tmp"); });
+    EXPECT_EQ(error.Description(), L"Bad file name or number: a/b");
+    ASSERT_NE(error.Cause(), nullptr);
+    EXPECT_EQ(error.Cause()->code, QuorIniFile::INI_CAUSE_NONE);
+    EXPECT_EQ(error.Cause()->fileName, L"a/b");
 }
 
 TEST(FileRegistry, AFileThatCannotBeReadIsAnErrorNotAMissingValue) {

@@ -70,6 +70,7 @@ TEST(IniError, EveryCauseKeepsItsNumberAndItsText) {
         {12, {}, L"The file is read-only"},
         {13, {}, L"Its folder does not allow new files"},
         {14, {L"x.lock"}, L"x.lock: It is not the lock file of a save"},
+        {15, {}, L"The user's configuration folder is not known, because HOME is not set"},
         {20, {}, L"It is larger than 4 GiB"},
         {21, {}, L"It would be larger than 4 GiB"},
         {22, {}, L"It is larger than 4 GiB as UTF-8"},

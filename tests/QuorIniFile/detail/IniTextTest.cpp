@@ -34,7 +34,9 @@ void Write(IniText& text, std::string_view section, std::string_view key, const 
 }
 
 /// The text with all changes.
-std::string Merged(const IniText& text) { return text.Merged().value_or(std::string(text.Whole())); }
+std::string Merged(const IniText& text) {
+    return text.ComposedText().value_or(std::string(text.ExtendedText()));
+}
 
 /// `text` with one more number under a key.
 std::string With(const std::string& text, std::string_view section, std::string_view key, std::string value) {
@@ -81,7 +83,7 @@ TEST(IniText, ABracketInsideALineIsNoHeader) {
 TEST(IniText, WithoutAChangeTheTextIsTheSame) {
     for (const char* text : {"", "\n", "\xEF\xBB\xBF", "x", "[A]\nx=1", "\r\n[A]\r\nx=1\r\n;\r\n"}) {
         IniText read(text);
-        EXPECT_FALSE(read.Changed());
+        EXPECT_FALSE(read.IsDifferent());
         EXPECT_EQ(Merged(read), text);
     }
 }
@@ -89,7 +91,7 @@ TEST(IniText, WithoutAChangeTheTextIsTheSame) {
 TEST(IniText, WritingWhatStandsThereIsNoChange) {
     IniText text("[A]\nx = 1 ; ohms\n");
     Write(text, "A", "x", {"1", false, {}});
-    EXPECT_FALSE(text.Changed());
+    EXPECT_FALSE(text.IsDifferent());
 }
 
 TEST(IniText, ANewKeyFollowsTheLastKeyOfItsSection) {
@@ -330,7 +332,7 @@ TEST(IniText, RemovingTheSectionThatWasAddedLastGivesTheTextBack) {
         IniText unsaved(text);
         Write(unsaved, "B", "y", {"2", false, {}});
         unsaved.RemoveSection(Find(unsaved, "B").value());
-        EXPECT_FALSE(unsaved.Changed());
+        EXPECT_FALSE(unsaved.IsDifferent());
         EXPECT_EQ(Merged(unsaved), text);
     }
 }
@@ -387,9 +389,9 @@ TEST(IniText, ARenamedSectionIsFoundUnderItsNewNameAlone) {
 TEST(IniText, RenamingThereAndBackIsNoChange) {
     IniText text("[A]\nx=1\n");
     ASSERT_TRUE(text.RenameSection(Find(text, "A").value(), "B"));
-    EXPECT_TRUE(text.Changed());
+    EXPECT_TRUE(text.IsDifferent());
     ASSERT_TRUE(text.RenameSection(Find(text, "B").value(), "A"));
-    EXPECT_FALSE(text.Changed());
+    EXPECT_FALSE(text.IsDifferent());
     EXPECT_EQ(ValueOf(text, "A", "x"), "1");
 }
 
@@ -403,7 +405,7 @@ TEST(IniText, ARemovedSectionTakesWhatWasWrittenIntoItAlong) {
     text.RemoveSection(Find(text, "A").value());
     EXPECT_EQ(ValueOf(text, "A", "x"), "no section");
     EXPECT_EQ(Merged(text), "");
-    EXPECT_TRUE(text.Changed());
+    EXPECT_TRUE(text.IsDifferent());
 }
 
 TEST(IniText, ARemovedSectionThatIsWrittenAgainStandsInItsOldPlaceWithTheNewKeysAlone) {
@@ -512,12 +514,12 @@ TEST(IniText, RenamingThereAndBackLeavesNoChangeWhereAllHeadersAreSpelledAlike) 
     IniText alike("[A]\n[B]\n[A]\n[A]\n[A]\n");
     ASSERT_TRUE(alike.RenameSection(Find(alike, "A").value(), "C"));
     ASSERT_TRUE(alike.RenameSection(Find(alike, "C").value(), "A"));
-    EXPECT_FALSE(alike.Changed());
+    EXPECT_FALSE(alike.IsDifferent());
 
     IniText various("[A]\n[B]\n[a]\n");
     ASSERT_TRUE(various.RenameSection(Find(various, "A").value(), "C"));
     ASSERT_TRUE(various.RenameSection(Find(various, "C").value(), "A"));
-    EXPECT_TRUE(various.Changed());
+    EXPECT_TRUE(various.IsDifferent());
     EXPECT_EQ(Merged(various), "[A]\n[B]\n[A]\n");
 }
 
@@ -625,7 +627,7 @@ TEST(IniText, NewKeysAreFoundInTheirSectionsHoweverManyAndStandInTheOrderOfTheir
         std::string changed = keys;
         changed.replace(0, 4, "K0=zero");
         EXPECT_EQ(Merged(text), "[Old]\nfirst=1\n" + changed + "\n[New]\n" + changed + "\n[Other]\n" + keys);
-        EXPECT_EQ(text.BaseText(), "[Old]\nfirst=1\n");
+        EXPECT_EQ(text.ReadText(), "[Old]\nfirst=1\n");
     }
 }
 
@@ -636,7 +638,7 @@ TEST(IniText, ALineThatIsWrittenAgainIsTheLastOneWhateverItsLength) {
         Write(text, "A", "x", {value, true, {}});
         EXPECT_EQ(ValueOf(text, "A", "x"), value);
         EXPECT_EQ(ValueOf(text, "A", "y"), "other");
-        EXPECT_EQ(text.Changed(), value != "one");
+        EXPECT_EQ(text.IsDifferent(), value != "one");
     }
     EXPECT_EQ(Merged(text), "[A]\nx=\ny=other\n");
 }
@@ -670,8 +672,8 @@ TEST(IniText, OfSectionsThatWereAddedAnyCanBeRemovedAndRenamed) {
     EXPECT_EQ(Merged(text), "[A]\nx=1\n\n[C]\ny=C\n\n[B]\ny=D\n\n[E]\ny=E");
     for (const char* const section : {"C", "E", "B"})
         text.RemoveSection(Find(text, section).value());
-    EXPECT_FALSE(text.Changed());
-    EXPECT_EQ(text.Whole(), "[A]\nx=1");
+    EXPECT_FALSE(text.IsDifferent());
+    EXPECT_EQ(text.ExtendedText(), "[A]\nx=1");
 }
 
 TEST(IniText, AddedSectionsStandAtTheEndOfWhatRemovalsLeave) {
@@ -693,12 +695,12 @@ TEST(IniText, AddedSectionsStandAtTheEndOfWhatRemovalsLeave) {
 TEST(IniText, WhatStandsInOnePieceAfterASaveIsTheTextAsItWasRead) {
     IniText text("[A]\nx=1\n");
     Write(text, "B", "y", {"2", false, {}});
-    EXPECT_TRUE(text.Changed() && text.Written());
-    EXPECT_EQ(text.Merged(), std::nullopt) << "nothing stands elsewhere";
-    EXPECT_EQ(text.Whole(), "[A]\nx=1\n\n[B]\ny=2\n");
-    text.Settle();
-    EXPECT_FALSE(text.Changed() || text.Written());
-    EXPECT_EQ(text.BaseText(), "[A]\nx=1\n\n[B]\ny=2\n");
+    EXPECT_TRUE(text.IsDifferent() && text.HasWrites());
+    EXPECT_EQ(text.ComposedText(), std::nullopt) << "nothing stands elsewhere";
+    EXPECT_EQ(text.ExtendedText(), "[A]\nx=1\n\n[B]\ny=2\n");
+    text.TakeAsRead();
+    EXPECT_FALSE(text.IsDifferent() || text.HasWrites());
+    EXPECT_EQ(text.ReadText(), "[A]\nx=1\n\n[B]\ny=2\n");
     Write(text, "B", "y", {"3", false, {}});
     Write(text, "C", "z", {"4", false, {}});
     EXPECT_EQ(Merged(text), "[A]\nx=1\n\n[B]\ny=3\n\n[C]\nz=4\n");

@@ -440,6 +440,10 @@
         <translation>~: Das ist keine Sperrdatei eines Speichervorgangs</translation>
     </message>
     <message>
+        <source>The user&apos;s configuration folder is not known, because HOME is not set</source>
+        <translation>Der Konfigurationsordner des Benutzers ist nicht bekannt, weil HOME nicht gesetzt ist</translation>
+    </message>
+    <message>
         <source>It is larger than 4 GiB</source>
         <translation>Die Datei ist größer als 4 GiB</translation>
     </message>
