@@ -559,6 +559,7 @@ enum {
     QUOR_PROBLEM_MALFORMED_LINE = 12, /* no key=value */
     QUOR_PROBLEM_KEPT_FILE = 13, /* beside the file: what another program had put in its place */
     QUOR_PROBLEM_INTERRUPTED_SAVE = 14, /* beside the file: what an interrupted save has left */
+    QUOR_PROBLEM_LINE_ENDS_IN_CR = 15, /* a header or key behind a carriage return alone, which nobody reads */
     QUOR_WARNING_R0_NOT_POSITIVE = 101,
     QUOR_WARNING_RTPW_NOT_POSITIVE = 102,
     QUOR_WARNING_NOT_FINITE = 103, /* NaN or infinity */
@@ -578,7 +579,8 @@ enum {
     QUOR_WARNING_THERMISTOR_A0_SIZE = 117,
     QUOR_WARNING_THERMISTOR_A1_SIZE = 118,
     QUOR_WARNING_THERMISTOR_A3_SIZE = 119,
-    QUOR_WARNING_THERMISTOR_B1_SIZE = 120
+    QUOR_WARNING_THERMISTOR_B1_SIZE = 120,
+    QUOR_WARNING_COUNT_DOES_NOT_FIT = 121 /* values beside a count that it leaves out are not 0 */
 };
 
 /* ---- Classes ---------------------------------------------------------------------------------------------------- */
