@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <iterator>
 #include <utility>
+#include <vector>
 
 namespace QuorConversions::Scripted {
 namespace {
@@ -165,18 +166,31 @@ Script::Script(std::wstring_view text, std::size_t ownLines) {
 void Script::PlayOn(ScriptedPlatform& platform, std::function<void(const std::wstring&)> print) const {
     platform.ExpectNoMessages();
     platform.InDialog([lines = m_lines, &platform, print = std::move(print)](Person& person) {
+        const auto endAt = [](const Line& line) {
+            throw CannotDo(L"in line " + std::to_wstring(line.number) + L": " + line.verb + L" " + line.rest);
+        };
+        std::vector<const Line*> announced; // the messages that were, in that order
+        const auto endAtWhatDidNotCome = [&] {
+            platform.ComplainOfWhatDidNotCome();
+            if (const std::size_t missing = platform.MessagesToCome(); missing > 0)
+                endAt(*announced[announced.size() - missing]);
+        };
         for (const Line& line : lines) {
             const std::size_t before = platform.Complaints().size();
+            const std::size_t toCome = platform.MessagesToCome();
             try {
                 FindVerb(line.verb)->run({person, platform, print}, line.rest);
             } catch (const CannotDo& error) {
+                if (!person.Sees().IsOpen()) // without a message that was to keep it open, it is too early
+                    endAtWhatDidNotCome();
                 platform.Complain(error.text);
             }
             if (platform.Complaints().size() > before)
-                throw CannotDo(L"in line " + std::to_wstring(line.number) + L": " + line.verb + L" " +
-                               line.rest);
+                endAt(line);
+            if (platform.MessagesToCome() > toCome)
+                announced.push_back(&line);
         }
-        platform.ComplainOfWhatDidNotCome();
+        endAtWhatDidNotCome();
     });
 }
 

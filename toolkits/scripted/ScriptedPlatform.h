@@ -44,6 +44,8 @@ public:
     [[nodiscard]] const std::vector<std::wstring>& Complaints() const { return m_complaints; }
     /// Complains of each file dialog and message that was announced and has not come.
     void ComplainOfWhatDidNotCome();
+    /// How many of the announced messages have not come yet.
+    [[nodiscard]] std::size_t MessagesToCome() const { return m_expected.size(); }
     void Complain(std::wstring text) { m_complaints.push_back(std::move(text)); }
     /// Whether all answers, dialogs and expected messages were used up, without a complaint.
     [[nodiscard]] bool NothingLeft() const {

@@ -155,7 +155,10 @@ TEST_F(QuorconvEditTest, WritesNothingWhenTheDialogGoesOtherwise) {
                     "  there is no \"R1\" in this dialog\n  in line 2: type R1 7\n" + leftOpen);
     ExpectGoneWrong("type R0 7\n", leftOpen);
     ExpectGoneWrong("", leftOpen);
-    ExpectGoneWrong("expect Boo\ntype R0 7\nclick OK", "  there was no message \"Boo\"\n");
+    ExpectGoneWrong("expect Boo\ntype R0 7\nclick OK",
+                    "  there was no message \"Boo\"\n  in line 1: expect Boo\n");
+    ExpectGoneWrong("expect Boo\ntype R0 7\nclick OK\ntype R0 8\nclick OK",
+                    "  there was no message \"Boo\"\n  in line 1: expect Boo\n");
     ExpectGoneWrong("file a.cvd\ntype R0 7\nclick OK", "  there was no file dialog for \"a.cvd\"\n");
     ExpectGoneWrong("type R0 7\nclick OK\ntype R0 8\nclick OK",
                     "  the dialog is closed\n  in line 3: type R0 8\n");

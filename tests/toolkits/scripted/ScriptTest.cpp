@@ -134,7 +134,31 @@ TEST_F(ScriptTest, EndsAtAnotherMessageThanTheOneThatItExpects) {
 // An expectation that was not met was once forgotten without a word.
 TEST_F(ScriptTest, MissesAnExpectedMessageThatDoesNotCome) {
     EXPECT_FALSE(Edit(L"expect Boo\nescape"));
-    EXPECT_EQ(platform->Complaints(), Texts{L"there was no message \"Boo\""});
+    EXPECT_EQ(platform->Complaints(), (Texts{L"there was no message \"Boo\"", L"in line 1: expect Boo"}));
+}
+
+TEST_F(ScriptTest, NamesTheFirstMessageOfSeveralThatDoesNotCome) {
+    EXPECT_FALSE(
+        Edit(L"expect Enter valid values for all coefficients.\nclick OK\n\nexpect Boo\nexpect Hoo\nescape"));
+    EXPECT_EQ(platform->Complaints(), (Texts{L"there was no message \"Boo\"", L"there was no message \"Hoo\"",
+                                             L"in line 4: expect Boo"}));
+}
+
+// The line behind the one that closed the dialog was once blamed for a message that had not come.
+TEST_F(ScriptTest, NamesTheMessageThatDidNotComeWhereTheDialogIsClosedForWantOfIt) {
+    cvd->SetUsePolynomial(true); // zeros are taken
+    EXPECT_TRUE(Edit(L"type R0 0\nexpect Enter valid values for all coefficients.\nclick OK\n"
+                     L"type R0 100.0123\nclick OK"));
+    EXPECT_EQ(platform->Complaints(),
+              (Texts{L"there was no message \"Enter valid values for all coefficients.\"",
+                     L"in line 2: expect Enter valid values for all coefficients."}));
+    EXPECT_EQ(cvd->Coefficients(CVD_R0), 0.0) << "no further line was played";
+}
+
+TEST_F(ScriptTest, NamesALineThatCannotBeDoneThoughAMessageIsStillToCome) {
+    EXPECT_FALSE(Edit(L"expect Enter valid values for all coefficients.\ntype R9 0\nclick OK\nescape"));
+    EXPECT_EQ(platform->Complaints().at(0), L"there is no \"R9\" in this dialog");
+    EXPECT_EQ(platform->Complaints().at(1), L"in line 2: type R9 0");
 }
 
 TEST_F(ScriptTest, MissesAFileDialogThatDoesNotCome) {
