@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QuorConversions/core/CQuorConversion.h>
 #include <QuorConversions/qt/QtPlatform.h>
+#include <QuorConversions/qt/QtSession.h>
 using namespace QuorConversions;
 
 int main(int argc, char** argv) {
@@ -10,6 +11,7 @@ int main(int argc, char** argv) {
     const std::wstring section = QApplication::arguments().value(2).toStdWString();
     std::shared_ptr<INIFile> none; // each call opens the file for itself
     CQuorConversion probe(std::make_shared<QtToolkit::QtPlatform>());
+    probe.SetHelpFile(QtToolkit::HelpCollection());
     if (probe.ReadFromFile(none, file, section) && probe.Edit()) // the user is told what goes wrong
         probe.WriteToFile(none, file, section);
 }

@@ -26,10 +26,11 @@ bool HasDisplay() {
 #endif
 }
 
-std::wstring HelpCollection() {
+std::wstring HelpCollection(const std::string& installed) {
     const QDir program(QCoreApplication::applicationDirPath());
     const QString places[] = {program.filePath(QStringLiteral(QUOR_HELP_FROM_PROGRAM)),
-                              program.filePath(QStringLiteral("../../docs/help/quor-conversions.qhc"))};
+                              program.filePath(QStringLiteral("../../docs/help/quor-conversions.qhc")),
+                              QString::fromStdString(installed)};
     const auto* const found = std::find_if(std::begin(places), std::end(places),
                                            [](const QString& place) { return QFileInfo::exists(place); });
     return FromQt(QDir::cleanPath(found == std::end(places) ? places[0] : *found));

@@ -1,15 +1,17 @@
-// Linked into the sample host with Qt: a finger that types 100.0123 into the first box of the dialog and
-// presses OK. A message, or no dialog within ten seconds, ends the host with 3.
+// Linked into the sample host with Qt: a finger that asks for the help, types 100.0123 into the first box of
+// the dialog and presses OK. A message, no help, or no dialog within ten seconds, ends the host with 3.
 #include <QApplication>
 #include <QDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
 
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -27,6 +29,20 @@ void Type(QLineEdit& box, const QString& text) {
     }
 }
 
+/// True when the help is there, a window of its own. The button is pressed when the timer has returned: where
+/// a message tells that there is no help, the timer is to see it.
+bool HasHelp(QWidget& dialog) {
+    static bool asked = false;
+    if (!std::exchange(asked, true)) {
+        auto* const help = dialog.findChild<QPushButton*>(QStringLiteral("cmdOKCancelHelp(2)"));
+        QMetaObject::invokeMethod(help, &QPushButton::click, Qt::QueuedConnection);
+    }
+    for (QWidget* const window : QApplication::topLevelWidgets())
+        if (qobject_cast<QMainWindow*>(window) && window->isVisible())
+            return true;
+    return false;
+}
+
 /// True when there was a dialog to press in.
 bool PressOK() {
     QWidget* const dialog = QApplication::activeModalWidget();
@@ -38,6 +54,8 @@ bool PressOK() {
     auto* const box = dialog->findChild<QLineEdit*>();
     if (!ok || !box)
         EndHost(QStringLiteral("another dialog: ") + dialog->windowTitle());
+    if (!HasHelp(*dialog))
+        return false;
     Type(*box, QStringLiteral("100.0123"));
     ok->click();
     return true;
@@ -51,7 +69,7 @@ void Watch() {
         if (PressOK())
             timer->stop();
         else if (++looks == patience)
-            EndHost(QStringLiteral("no dialog"));
+            EndHost(QStringLiteral("no dialog, or no help"));
     });
     timer->start(often);
 }

@@ -7,6 +7,10 @@
 
 class QApplication;
 
+#ifndef QUOR_INSTALLED_HELP
+#define QUOR_INSTALLED_HELP ""
+#endif
+
 namespace QuorConversions::QtToolkit {
 
 class QtPlatform;
@@ -16,8 +20,10 @@ class QtPlatform;
 [[nodiscard]] QTTOOLKIT_EXPORT bool HasDisplay();
 
 /// The help collection of the library: beside the program, where both are installed, or where the build has
-/// put it. Names the installed one where there is neither. Needs the QApplication.
-[[nodiscard]] QTTOOLKIT_EXPORT std::wstring HelpCollection();
+/// put it, or else `installed`, which a host that finds the library by CMake gets from there. Names the one
+/// beside the program where there is none of them. Needs the QApplication.
+[[nodiscard]] QTTOOLKIT_EXPORT std::wstring
+HelpCollection(const std::string& installed = QUOR_INSTALLED_HELP);
 
 /// For a program that has no Qt of its own and shows a dialog now and then: the QApplication, in the language
 /// of the system, and a platform on it with the library's help. One at a time, in the main thread.
