@@ -159,6 +159,10 @@ TEST_P(QtPicturesTest, AdviceAndFocusAreSeenAndTakeNoRoomFromTheRows) {
     settings->LowRange()->SetRange(ITS90_RANGE_4);
     settings->SetRTPW(25.48317);
     settings->SetRTPWFormat(L"0.00");
+    settings->HighRange()->SetRange(ITS90_RANGE_7);
+    settings->HighRange()->SetValueFormat(L"0.00");
+    for (std::int32_t i = 0; i < settings->HighRange()->NumCoefficients(); ++i)
+        settings->HighRange()->SetCoefficients(i, -1.2345678901234567e-4);
     platform->InDialog([&](Person& person) {
         QWidget& window = *QApplication::activeModalWidget();
         const auto take = [&](const char* name) {
@@ -166,17 +170,29 @@ TEST_P(QtPicturesTest, AdviceAndFocusAreSeenAndTakeNoRoomFromTheRows) {
             ExpectWellDrawn(window, person.Sees());
             EXPECT_TRUE(window.grab().save(folder + QLatin1Char('/') + QLatin1String(name) + ".png"));
         };
-        take("advice-of-a-format");
-        const auto& line = *window.findChild<QLabel*>(QStringLiteral("advice"));
-        EXPECT_FALSE(line.text().isEmpty());
-        EXPECT_LE(line.heightForWidth(line.width()), line.height()) << "its lines are cut";
+        const auto takeAdvice = [&](const char* name) {
+            take(name);
+            const auto& line = *window.findChild<QLabel*>(QStringLiteral("advice"));
+            EXPECT_FALSE(line.text().isEmpty());
+            EXPECT_LE(line.heightForWidth(line.width()), line.height()) << "its lines are cut";
+            EXPECT_EQ(line.visibleRegion().boundingRect(), line.rect()) << "it is cut";
+        };
+        takeAdvice("advice-of-a-format");
         person.GoTo(L"tabRange");
         take("focus-on-tabs");
         person.GoTo(L"cboLowRange");
         take("focus-on-list");
         person.Paste(L"txtLowCoefficient(0)", L"-1.23E-4 \u00B1 0.02");
         EXPECT_FALSE(person.Advice(L"txtLowCoefficient(0)").empty());
-        take("advice-on-a-paste");
+        takeAdvice("advice-on-a-paste");
+        person.Paste(L"txtLowCoefficient(0)",
+                     L"Resistance at the triple point of water in the certificate: 5");
+        takeAdvice("advice-on-a-name");
+        person.TurnTo(TableText(IDS_HIGH_RANGE));
+        person.Choose(L"cboHighRange", TableText(IDS_NO_RANGE));
+        person.Choose(L"cboHighRange", TableText(IDS_RANGE_7));
+        person.TurnTo(TableText(IDS_LOW_RANGE));
+        takeAdvice("advice-on-another-page");
         person.GoTo(L"cmdOKCancelHelp(0)");
         take("focus-on-button");
         person.Escape();
