@@ -17,19 +17,6 @@ static_assert(static_cast<std::int32_t>(ControlKind::Label) == CONTROL_LABEL &&
 
 [[noreturn]] void ThrowEnded() { Throw(QUOR_ERROR_NO_OBJECT, L"The dialog has ended"); }
 
-[[noreturn]] void ThrowSubscript(std::int32_t index, std::size_t count) {
-    Throw(QUOR_ERROR_SUBSCRIPT,
-          L"There is no " + std::to_wstring(index) + L" among " + std::to_wstring(count));
-}
-
-/// The element of that index. Raises 9 when there is none.
-template <class List>
-[[nodiscard]] const auto& At(const List& list, std::int32_t index) {
-    if (index < 0 || static_cast<std::size_t>(index) >= list.size())
-        ThrowSubscript(index, list.size());
-    return list[static_cast<std::size_t>(index)];
-}
-
 void CheckItem(const DropDownList& list, std::int32_t index) {
     if (index < 0 || index >= list.ListCount())
         ThrowSubscript(index, static_cast<std::size_t>(list.ListCount()));

@@ -38,6 +38,11 @@ void Throw(std::int32_t number, const std::wstring& description) {
     throw QuorIniFile::QuorError(number, L"quor", description);
 }
 
+void ThrowSubscript(std::int32_t index, std::size_t count) {
+    Throw(QUOR_ERROR_SUBSCRIPT,
+          L"There is no " + std::to_wstring(index) + L" among " + std::to_wstring(count));
+}
+
 std::int32_t KeepCurrentError() noexcept {
     try {
         const QuorError error = CurrentError(L"quor");

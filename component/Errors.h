@@ -3,6 +3,7 @@
 #include "QuorIniFile/QuorError.h"
 #include "component/quor.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -11,6 +12,17 @@ namespace QuorConversions::Component {
 
 /// Raises an error of this interface itself.
 [[noreturn]] void Throw(std::int32_t number, const std::wstring& description);
+
+/// Raises 9: there is no such element.
+[[noreturn]] void ThrowSubscript(std::int32_t index, std::size_t count);
+
+/// The element of that index. Raises 9 when there is none.
+template <class List>
+[[nodiscard]] const typename List::value_type& At(const List& list, std::int32_t index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= list.size())
+        ThrowSubscript(index, list.size());
+    return list[static_cast<std::size_t>(index)];
+}
 
 /// Keeps the exception that is being handled as the error of this thread. Returns its number, which is never
 /// 0.

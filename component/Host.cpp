@@ -314,6 +314,20 @@ void GiveHost(const Functions& functions, void* user, quor_object* result) {
     object->Take();
 }
 
+/// What an object that a host offers knows of the host. Null for any other object.
+template <class... Class>
+[[nodiscard]] void* UserOf(quor_object handle, Classes<Class...> /*that a host offers*/) {
+    const HandleTable::Found found = HandleTable::Instance().Find(handle);
+    if (!found.object)
+        ThrowNoObject();
+    const std::shared_ptr<void> alive = *found.object;
+    const OfHost* host = nullptr;
+    static_cast<void>(((found.classId == classOf<Class> &&
+                        (host = dynamic_cast<const OfHost*>(static_cast<const Class*>(alive.get())), true)) ||
+                       ...));
+    return host ? host->User() : nullptr;
+}
+
 } // namespace
 } // namespace QuorConversions::Component
 
@@ -348,5 +362,14 @@ int32_t quor_list_control_from_host(const quor_list_control_functions* functions
         const quor_list_control_functions known = Known(functions);
         Require(known.clear, known.add_item, known.get_new_index, known.put_item_data);
         GiveHost<HostListControl, ListControl>(known, user, list_control);
+    });
+}
+
+int32_t quor_host_user(quor_object object, void** user) {
+    return Guarded([&] {
+        void* const found =
+            UserOf(object, Classes<Platform, QuorIniFile::INIFile, QuorRegistryII::Registry, ListControl>{});
+        if (user)
+            *user = found;
     });
 }

@@ -44,7 +44,17 @@ private:
     bool m_isTaken = false;
 };
 
-class HostPlatform final : public HeadlessPlatform {
+/// What a host has offered, whatever it is.
+class OfHost {
+public:
+    OfHost() = default;
+    OfHost(const OfHost&) = delete;
+    OfHost& operator=(const OfHost&) = delete;
+    virtual ~OfHost() = default;
+    [[nodiscard]] virtual void* User() const = 0;
+};
+
+class HostPlatform final : public HeadlessPlatform, public OfHost {
 public:
     HostPlatform(const quor_platform_functions& functions, void* user) : m_host(functions, user) {}
 
@@ -58,13 +68,14 @@ public:
     void SetMousePointer(EMousePointer shape) override;
 
     void Take() { m_host.Take(); }
+    [[nodiscard]] void* User() const override { return m_host.User(); }
 
 private:
     class Follower;
     HostTable<quor_platform_functions> m_host;
 };
 
-class HostIniFile final : public QuorIniFile::INIFile {
+class HostIniFile final : public QuorIniFile::INIFile, public OfHost {
 public:
     HostIniFile(const quor_inifile_functions& functions, void* user) : m_host(functions, user) {}
 
@@ -85,12 +96,13 @@ public:
     void Abandon() override;
 
     void Take() { m_host.Take(); }
+    [[nodiscard]] void* User() const override { return m_host.User(); }
 
 private:
     HostTable<quor_inifile_functions> m_host;
 };
 
-class HostRegistry final : public QuorRegistryII::Registry {
+class HostRegistry final : public QuorRegistryII::Registry, public OfHost {
 public:
     HostRegistry(const quor_registry_functions& functions, void* user) : m_host(functions, user) {}
 
@@ -99,12 +111,13 @@ public:
     void WriteValue(std::wstring_view section, std::wstring_view name, std::wstring_view value) override;
 
     void Take() { m_host.Take(); }
+    [[nodiscard]] void* User() const override { return m_host.User(); }
 
 private:
     HostTable<quor_registry_functions> m_host;
 };
 
-class HostListControl final : public ListControl {
+class HostListControl final : public ListControl, public OfHost {
 public:
     HostListControl(const quor_list_control_functions& functions, void* user) : m_host(functions, user) {}
 
@@ -114,6 +127,7 @@ public:
     void SetItemData(std::int32_t index, std::int32_t data) override;
 
     void Take() { m_host.Take(); }
+    [[nodiscard]] void* User() const override { return m_host.User(); }
 
 private:
     HostTable<quor_list_control_functions> m_host;

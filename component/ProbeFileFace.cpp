@@ -25,15 +25,6 @@ namespace {
 
 constexpr std::int32_t changedMeanwhile = 75;
 
-/// The element of that index. Raises 9 when there is none.
-template <class List>
-[[nodiscard]] const auto& At(const List& list, std::int32_t index) {
-    if (index < 0 || static_cast<std::size_t>(index) >= list.size())
-        Throw(QUOR_ERROR_SUBSCRIPT,
-              L"There is no " + std::to_wstring(index) + L" among " + std::to_wstring(list.size()));
-    return list[static_cast<std::size_t>(index)];
-}
-
 /// The same conversion with the same values, without a platform. Raises what writing it would raise.
 [[nodiscard]] std::shared_ptr<CQuorConversion> Copied(const CQuorConversion& conversion) {
     auto copy = std::make_shared<CQuorConversion>();
@@ -182,6 +173,18 @@ std::int32_t ProbeFileFace::Check() {
     return Do([&] {
         m_problems = m_file.Check();
         return ProblemCount();
+    });
+}
+
+bool ProbeFileFace::Differs(std::wstring_view section, const CQuorConversion& conversion) {
+    return Do([&] {
+        CQuorConversion present;
+        static_cast<void>(m_file.Read(section, present));
+        if (present.ConversionType() != conversion.ConversionType())
+            return true;
+        const auto settings = conversion.Settings();
+        return settings &&
+               !RecordImage::Same(*RecordImage::Of(*present.Settings()), *RecordImage::Of(*settings));
     });
 }
 

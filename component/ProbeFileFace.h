@@ -97,6 +97,7 @@ public:
     [[nodiscard]] std::shared_ptr<QuorIniFile::INIFile> Store() const { return m_file.Store(); }
     [[nodiscard]] EProbeFileError ErrorCode() const { return m_errorCode; }
     [[nodiscard]] const std::wstring& ErrorOther() const { return m_errorOther; }
+    [[nodiscard]] bool Differs(std::wstring_view section, const CQuorConversion& conversion);
 
 private:
     /// What is to be done at the end of a bracket.

@@ -284,6 +284,8 @@ QUOR_API int32_t quor_inifile_from_host(const quor_inifile_functions* functions,
 QUOR_API int32_t quor_registry_from_host(const quor_registry_functions* functions, void* user, quor_object* registry);
 QUOR_API int32_t quor_list_control_from_host(const quor_list_control_functions* functions, void* user,
                                              quor_object* list_control);
+/* The pointer `user` of the table for which an object stands; NULL for an object of the library. */
+QUOR_API int32_t quor_host_user(quor_object object, void** user);
 
 /* ---- Enumerations ----------------------------------------------------------------------------------------------- */
 
@@ -1566,6 +1568,9 @@ QUOR_API int32_t quor_probe_file_get_Store(quor_object probe_file, quor_object* 
 QUOR_API int32_t quor_probe_file_get_ErrorCode(quor_object probe_file, quor_EProbeFileError* result);
 /* What else that concerns: another probe or section, or a type; mostly empty. */
 QUOR_API int32_t quor_probe_file_get_ErrorOther(quor_object probe_file, quor_text* result);
+/* Whether a conversion has another type or other values than the probe, as Read would give it. */
+QUOR_API int32_t quor_probe_file_Differs(quor_object probe_file, quor_text Section, quor_object Conversion,
+                                         quor_bool* result);
 
 /* ProbeTable. The numbers of all probes of a file, one array behind the other, for hosts in languages with slow
  * calls. It is of the moment in which ReadAll made it. The values of probe i begin where those of probe i - 1 end. */

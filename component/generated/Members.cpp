@@ -43,6 +43,7 @@ constexpr NameRow names[] = { // in lower case, sorted
     {"convtype", 37},
     {"copy", 156},
     {"copyfrom", 157},
+    {"differs", 175},
     {"edit", 10},
     {"edittext", 103},
     {"enabled", 108},
@@ -988,6 +989,8 @@ constexpr MemberRow probe_fileMembers[] = {
      ByName<quor_probe_file_get_ErrorCode, OutInt32>, nullptr, nullptr},
     {"ErrorOther", "ErrorOther: text", 162, 0, 0,
      ByName<quor_probe_file_get_ErrorOther, OutText>, nullptr, nullptr},
+    {"Differs", "Differs(Section: text, Conversion: CQuorConversion) -> bool", 175, 2, 2,
+     nullptr, nullptr, ByName<quor_probe_file_Differs, OutBool, InText, InObject>},
 };
 constexpr PlacesOfNumbers probe_filePlaces(probe_fileMembers);
 

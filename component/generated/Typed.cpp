@@ -2528,6 +2528,11 @@ int32_t quor_probe_file_get_ErrorOther(quor_object probe_file, quor_text* result
     return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.ErrorOther()); });
 }
 
+int32_t quor_probe_file_Differs(quor_object probe_file, quor_text Section, quor_object Conversion,
+                                quor_bool* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.Differs(Wide(Section), *Reference<CQuorConversion>(Conversion))); });
+}
+
 int32_t quor_probe_table_get_ProbeCount(quor_object probe_table, int32_t* result) {
     return Call<ProbeTableFace>(probe_table, [&](auto& it) { Out(result, it.ProbeCount()); });
 }

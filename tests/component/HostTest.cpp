@@ -240,3 +240,23 @@ TEST_F(Host, ThatCallsBackWhileItIsDestroyedFindsTheTableUsable) {
     registry.Release();
     EXPECT_EQ(host.destroyed, 1);
 }
+
+TEST_F(Host, FindsWhatItHasOfferedBehindAHandleThatComesBack) {
+    MapRegistry registry;
+    const Handle conversion = Conversion(QUOR_CONV_CVD);
+    {
+        Handle handed = registry.Make();
+        ASSERT_EQ(quor_conversion_SetRegistry(conversion, &handed), 0);
+    }
+    Handle back, builtIn;
+    ASSERT_EQ(quor_conversion_get_Registry(conversion, &back), 0);
+    void* user = nullptr;
+    ASSERT_EQ(quor_host_user(back, &user), 0);
+    EXPECT_EQ(user, &registry);
+    ASSERT_EQ(quor_inifile_create(&builtIn), 0);
+    ASSERT_EQ(quor_host_user(builtIn, &user), 0);
+    EXPECT_EQ(user, nullptr);
+    ASSERT_EQ(quor_host_user(conversion, &user), 0);
+    EXPECT_EQ(user, nullptr);
+    EXPECT_EQ(quor_host_user(0, &user), QUOR_ERROR_NO_OBJECT);
+}

@@ -327,3 +327,19 @@ TEST_F(ProbeFileFromC, GivesTheNumbersOfAllProbesAtOnce) {
     EXPECT_EQ(std::vector<double>(values.values, values.values + values.size),
               (std::vector<double>{4, 1, 100.01, 0.0039083, -5.775E-07, -4.183E-12, 25.5, 0}));
 }
+
+TEST_F(ProbeFileFromC, SaysWhetherAConversionDiffersFromItsProbeAsItIsRead) {
+    Put(Replaced(hostFile, "RTPW=25.5\n", "")); // which is read as 0
+    const Handle file = Open();
+    const auto differs = [&](const char* section, quor_object conversion) {
+        std::int16_t result = 1;
+        EXPECT_EQ(quor_probe_file_Differs(file, Text(section), conversion, &result), 0);
+        return result != 0;
+    };
+    const Handle cvd = Read(file);
+    EXPECT_FALSE(differs("P", cvd));
+    ASSERT_EQ(quor_cvd_put_UsePolynomial(SettingsOf(cvd), 0), 0); // which marks nothing as changed
+    EXPECT_TRUE(differs("P", cvd));
+    EXPECT_FALSE(differs("Q", Conversion(QUOR_CONV_WT90)));
+    EXPECT_TRUE(differs("Q", Conversion(QUOR_CONV_OHMS)));
+}

@@ -5794,6 +5794,19 @@ void every_member_of_probe_file(quor_object object) {
         quor_text_free(&typed);
         quor_value_clear(&result);
     }
+    {
+        quor_bool typed = 0;
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_TEXT; args[0].as.text = quor_text_of("sample");
+        args[1].kind = QUOR_OBJECT; args[1].as.object = sample_CQuorConversion;
+        before_call();
+        const int32_t code = quor_probe_file_Differs(object, quor_text_of("sample"), sample_CQuorConversion, &typed);
+        before_call();
+        const int32_t same = by_name(object, "Differs", QUOR_CALL, args, 2, &result);
+        check(code, same, typed == result.as.boolean && result.kind == QUOR_BOOL, "quor_probe_file_Differs");
+        quor_value_clear(&result);
+    }
 }
 
 void every_member_of_probe_table(quor_object object) {
@@ -5889,4 +5902,4 @@ void every_member_of_probe_table(quor_object object) {
     }
 }
 
-const int every_member_count = 483;
+const int every_member_count = 484;

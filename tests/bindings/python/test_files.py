@@ -1,0 +1,205 @@
+"""The probes of a file."""
+
+import pytest
+
+import quorconversions as quor
+from quorconversions import Conversion, ConversionType, ProbeFile
+
+PROBE = "Probe 9 PRT-1182"
+
+
+def replaced(text, before, after):
+    assert text.count(before) == 1
+    return text.replace(before, after)
+
+
+def test_reading_all_probes_and_saving_changes_no_byte(laboratory):
+    before = laboratory.read_bytes()
+    with ProbeFile(laboratory) as file:
+        probes = dict(file)
+        assert len(probes) == len(file) == 29
+        for probe in probes.values():
+            assert repr(probe).startswith("Conversion(")
+    assert laboratory.read_bytes() == before
+
+
+def test_writing_all_probes_anew_into_the_file_changes_no_byte(laboratory):
+    before = laboratory.read_bytes()
+    with ProbeFile(laboratory) as file:
+        for section in list(file):
+            conversion, problems = file.read(section)
+            assert problems == ()
+            file[section] = conversion
+    assert laboratory.read_bytes() == before
+
+
+def test_what_was_changed_is_saved_at_the_end_of_the_block_and_nothing_else(laboratory):
+    before = laboratory.read_text(encoding="utf-8")
+    with ProbeFile(laboratory) as file:
+        file[PROBE].settings.R0 = 100.0123
+        assert laboratory.read_text(encoding="utf-8") == before
+    begin = before.index(f"[{PROBE} - Settings]")
+    line = before.index("Coefficients0=", begin)
+    end = before.index("\n", line)
+    assert laboratory.read_text(encoding="utf-8") == before[:line] + "Coefficients0=100.0123" + before[end:]
+
+
+def test_nothing_is_saved_when_an_exception_leaves_the_block(laboratory):
+    before = laboratory.read_bytes()
+    file = ProbeFile(laboratory)
+    with pytest.raises(ZeroDivisionError):
+        with file:
+            file[PROBE].settings.R0 = 1 / 3
+            del file["Probe 1 CSP-0417"]
+            1 / 0
+    assert laboratory.read_bytes() == before
+    assert file[PROBE].settings.R0 != 1 / 3
+    assert "Probe 1 CSP-0417" in file
+
+
+def test_probes_are_added_removed_and_replaced_together(tmp_path):
+    path = tmp_path / "host.ini"
+    path.write_text("[Host]\nKey=1\n[P]\nVersion=1.0\nConversionType=10\n[Q]\nVersion=1.0\nConversionType=11\n")
+    with ProbeFile(path) as file:
+        assert list(file) == ["P", "Q"]
+        del file["p"]
+        file["q"].type = ConversionType.RATIO
+        file["R"] = Conversion(ConversionType.WT90)
+        assert list(file) == ["Q", "R"]
+        assert "P" not in file
+        with pytest.raises(KeyError):
+            file["P"]
+        with pytest.raises(KeyError):
+            del file["P"]
+        assert file["r"].settings.RTPW == 0
+    assert path.read_text() == ("[Host]\nKey=1\n[Q]\nVersion=1.0\nConversionType=15\n\n[R]\nVersion=1.0\n"
+                                "ConversionType=14\n\n[R - Settings]\nVersion=1.0\nRTPW=0\n")
+
+
+def test_a_change_without_the_changed_flag_is_saved_too(tmp_path):
+    path = tmp_path / "host.ini"
+    with ProbeFile(path, create=True) as file:
+        file["P"] = Conversion(ConversionType.CVD)
+    with ProbeFile(path) as file:
+        file["P"].settings.UsePolynomial = True
+        assert not file["P"].changed
+    assert "UsePolynomial=True\n" in path.read_text()
+
+
+def test_what_another_program_has_written_meanwhile_stays(laboratory):
+    with ProbeFile(laboratory) as mine:
+        mine[PROBE].settings.R0 = 101
+        with ProbeFile(laboratory) as theirs:
+            theirs[PROBE].settings.BETA = 0.5
+        assert mine.changed_by_others
+    cvd = ProbeFile(laboratory)[PROBE].settings
+    assert (cvd.R0, cvd.BETA) == (101, 0.5)
+
+
+def test_a_value_that_both_have_changed_is_a_conflict_and_nothing_is_written(laboratory):
+    with ProbeFile(laboratory) as theirs:
+        mine = ProbeFile(laboratory)
+        mine[PROBE].settings.R0 = 101
+        mine["New"] = Conversion(ConversionType.OHMS)
+        read = theirs[PROBE].settings.R0
+        theirs[PROBE].settings.R0 = 102
+    before = laboratory.read_bytes()
+    with pytest.raises(quor.ConflictError) as raised:
+        mine.save()
+    assert raised.value.conflicts == (
+        quor.Conflict(f"{PROBE} - Settings", "Coefficients0", f"{read:g}", "102", "101"),)
+    assert laboratory.read_bytes() == before
+    assert mine[PROBE].settings.R0 == 101  # and still to be saved
+    mine.discard()
+    assert mine[PROBE].settings.R0 == 102
+
+
+def test_a_probe_that_is_not_whole_is_an_error_that_has_its_values(tmp_path):
+    path = tmp_path / "host.ini"
+    text = "[P]\nVersion=1.0\nConversionType=14\n[P - Settings]\nVersion=1.0\n"
+    path.write_text(text)
+    with ProbeFile(path) as file:
+        with pytest.raises(quor.IncompleteProbeError) as raised:
+            file["P"]
+        error = raised.value
+        assert error.problems == (quor.Problem(quor.ProbeProblem.PROBLEM_KEY_MISSING, 4, "P - Settings", "RTPW",
+                                               "the key is missing"),)
+        assert str(path) in error.description
+        assert "[P - Settings] RTPW: the key is missing" in error.description
+        assert repr(error.conversion) == "Conversion(WT90(RTPW=0.0))"
+        assert file.check() == list(error.problems)
+    assert path.read_text() == text
+    with ProbeFile(path) as file:
+        conversion, problems = file.read("P")
+        conversion.settings.RTPW = 25.5
+        file["P"] = conversion
+    assert path.read_text() == text + "RTPW=25.5\n"
+
+
+def test_what_cannot_be_done_with_a_probe_has_a_code(tmp_path):
+    path = tmp_path / "host.ini"
+    path.write_text("[P]\nVersion=1.0\nConversionType=10\n[Host]\nKey=1\n")
+    file = ProbeFile(path)
+    with pytest.raises(quor.ProbeFileError) as raised:
+        file.read("Host")
+    assert raised.value.code == quor.ProbeFileErrorCode.NO_RECORD
+    assert raised.value.number == 75
+    with pytest.raises(quor.ProbeFileError) as raised:
+        file.rename("P", "Host")
+    assert raised.value.code == quor.ProbeFileErrorCode.NAME_IS_TAKEN
+    file["Host"] = Conversion(ConversionType.OHMS)
+    with pytest.raises(ValueError, match="changes that are not saved"):
+        file.rename("P", "Q")
+    with pytest.raises(quor.ProbeFileError) as raised:
+        file.save()
+    assert raised.value.code == quor.ProbeFileErrorCode.SECTION_OF_HOST
+    file.discard()
+    file.rename("P", "Q")
+    assert path.read_text() == "[Q]\nVersion=1.0\nConversionType=10\n[Host]\nKey=1\n"
+    with pytest.raises(quor.QuorError) as raised:
+        ProbeFile(tmp_path / "none.ini")
+    assert (raised.value.number, raised.value.source) == (53, "QuorIniFile")
+    with pytest.raises(TypeError):
+        file["Q"] = 1
+
+
+def test_the_numbers_of_all_probes_are_those_of_each(laboratory):
+    file = ProbeFile(laboratory)
+    table = file.table()
+    assert table.sections == list(file)
+    rows = list(table)
+    for row in rows:
+        assert row["type"] == file[row["section"]].type
+        assert row["problems"] == 0
+    row = rows[table.sections.index(PROBE)]
+    cvd = file[PROBE].settings
+    assert [row[f"Coefficients{place}"] for place in range(4)] == list(cvd.coefficients)
+    assert table[-1] == rows[-1]
+    with pytest.raises(IndexError):
+        table[len(table)]
+
+
+def test_other_sections_of_the_file_are_reached_through_its_store(laboratory):
+    store = ProbeFile(laboratory).store
+    store.Section = "Instrument"
+    assert store.ReadInteger("Channels", 0) == (True, 8)
+    assert store.ReadString("Name", "") == (True, "Laboratory thermometer")
+    assert store.ReadDouble("No such key", 1.5) == (False, 1.5)
+
+
+def test_a_stand_alone_file_is_one_probe(tmp_path):
+    from conftest import ROOT
+    file = ProbeFile(ROOT / "samples/prt-1188.cvd")
+    assert list(file) == ["Callendar-Van Dusen"]
+    assert isinstance(file["Callendar-Van Dusen"].settings, quor.CVD)
+    file.save_as(tmp_path / "copy.cvd")
+    assert (tmp_path / "copy.cvd").read_bytes() == (ROOT / "samples/prt-1188.cvd").read_bytes()
+
+
+def test_a_relative_path_is_that_of_the_folder_in_which_it_was_opened(tmp_path, monkeypatch):
+    (tmp_path / "host.ini").write_text("[P]\nVersion=1.0\nConversionType=10\n")
+    monkeypatch.chdir(tmp_path)
+    with ProbeFile("host.ini") as file:
+        monkeypatch.chdir("/")
+        file["P"].type = ConversionType.VOLTS
+    assert "ConversionType=11" in (tmp_path / "host.ini").read_text()
