@@ -93,12 +93,12 @@ class Values(Sequence[float]):
 class Coefficient:
     """A coefficient under its name."""
 
-    def __init__(self, doc: str = "") -> None:
+    def __init__(self, doc: str = "", name: str = "") -> None:
         self.__doc__ = doc
-        self._name = ""
+        self._name = name  # of the coefficient, where that is another one
 
     def __set_name__(self, owner: Type[Any], name: str) -> None:
-        self._name = name
+        self._name = self._name or name
 
     @overload
     def __get__(self, settings: None, owner: object = None) -> Coefficient: ...
@@ -202,8 +202,8 @@ class _Coefficients:
 
 @_stands_for("CQuorCVD")
 class CVD(_Coefficients, Settings, _low.CQuorCVD):
-    """A Callendar-Van Dusen conversion: R(t) = R0 (1 + A t + B t^2 + C (t - 100) t^3), with ALPHA, DELTA, BETA or with
-    A, B, C (UsePolynomial)."""
+    """A Callendar-Van Dusen conversion. Its coefficients are R0 with ALPHA, DELTA and BETA, or, when UsePolynomial is True,
+    with A, B and C in the same places."""
 
     __slots__ = ()
     _names = CVDCoefficients
@@ -211,6 +211,15 @@ class CVD(_Coefficients, Settings, _low.CQuorCVD):
     ALPHA = Coefficient("1/degree Celsius; A, of the same unit, in the polynomial form.")
     DELTA = Coefficient("Degrees Celsius; B, in 1/degree Celsius^2, in the polynomial form.")
     BETA = Coefficient("Degrees Celsius; C, in 1/degree Celsius^4, in the polynomial form.")
+    A = Coefficient("1/degree Celsius, in the polynomial form.", "ALPHA")
+    B = Coefficient("1/degree Celsius^2, in the polynomial form.", "DELTA")
+    C = Coefficient("1/degree Celsius^4, in the polynomial form.", "BETA")
+
+    def _shown(self) -> Iterator[Tuple[str, object]]:
+        if not self.UsePolynomial:
+            return super()._shown()
+        letters = dict(zip(("ALPHA", "DELTA", "BETA"), "ABC"))
+        return ((letters.get(name, name), value) for name, value in _named(self.coefficients))
 
 
 @_stands_for("CQuorPT100")
