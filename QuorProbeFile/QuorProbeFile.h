@@ -11,6 +11,7 @@
 #include "QuorProbeFile/ReadLog.h"
 #include "QuorProbeFile/RecordImage.h"
 #include "QuorProbeFile/RecordMerge.h"
+#include "QuorProbeFile/RecordReference.h"
 #include "QuorProbeFile/RecordValue.h"
 #include "QuorProbeFile/SectionPlan.h"
 #include "QuorProbeFile/TakenNames.h"

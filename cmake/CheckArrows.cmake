@@ -16,7 +16,8 @@ set(storeys
     "QuorProbeFile"
     "QuorConversions/qt" # what the Qt toolkit has for hosts
     "component|toolkits/scripted|toolkits/qt"
-    "apps/quorconv|apps/probe-setup")
+    "apps/quorconv|apps/probe-setup"
+    "apps/probe-edit")
 set(toolkit_header "^(Q[A-Z][A-Za-z]*|Qt[A-Za-z]*/.*|gtk/.*|wx/.*|windows\\.h)$")
 
 set(folders "")

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -35,6 +36,25 @@ protected:
             command += " '" + argument + "'";
         const int status = std::system((command + " >.out 2>.err").c_str());
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, folder.Read(".out"), folder.Read(".err")};
+    }
+
+    /// Runs a line as a shell does; "quorconv" is the program.
+    [[nodiscard]] Outcome Shell(const std::string& line) const {
+        const std::string path = std::filesystem::path(QUORCONV).parent_path().string();
+        folder.Write(".line",
+                     "PATH='" + path + "':$PATH\ncd '" + folder.Path().string() + "'\n" + line + "\n");
+        const std::string script = folder.Path(".line").string();
+        const std::string out = folder.Path(".out").string();
+        const std::string err = folder.Path(".err").string();
+        const int status = std::system(("bash '" + script + "' >'" + out + "' 2>'" + err + "'").c_str());
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, folder.Read(".out"), folder.Read(".err")};
+    }
+    void ExpectShell(const std::string& line, const std::string& out, const std::string& err = "",
+                     int code = 0) const {
+        const Outcome run = Shell(line);
+        EXPECT_EQ(run.code, code) << line;
+        EXPECT_EQ(run.out, out) << line;
+        EXPECT_EQ(run.err, err) << line;
     }
 
     /// Expects a run that is fine, prints `out` and has nothing to say besides.

@@ -90,16 +90,22 @@ TEST_F(QuorconvPrintTest, ShowsJsonWithTheEscapesOfJson) {
                                                       "  \"type\": \"CONV_TCTYPEX\",\n"
                                                       "  \"name\": \"TC Type K\",\n"
                                                       "  \"settings\": {\n"
-                                                      "    \"TCType\": 4,\n"
+                                                      "    \"TCType\": {\"code\": 4, \"name\": \"K\"},\n"
                                                       "    \"NumPoints\": 1,\n"
                                                       "    \"TempScale\": \"" +
                                                       json +
                                                       "\",\n"
                                                       "    \"OffsetScale\": \"a\\tb\\nc\\\\d\",\n"
-                                                      "    \"Temperatures0\": 0.5,\n"
-                                                      "    \"Offsets0\": 0.25,\n"
-                                                      "    \"Coefficients0\": 1.0,\n"
-                                                      "    \"Coefficients1\": 2.0\n"
+                                                      "    \"Temperatures\": [\n"
+                                                      "      {\"name\": \"T1\", \"value\": 0.5}\n"
+                                                      "    ],\n"
+                                                      "    \"Offsets\": [\n"
+                                                      "      {\"name\": \"ADJ1\", \"value\": 0.25}\n"
+                                                      "    ],\n"
+                                                      "    \"Coefficients\": [\n"
+                                                      "      {\"name\": \"DC1\", \"value\": 1},\n"
+                                                      "      {\"name\": \"DC2\", \"value\": 2}\n"
+                                                      "    ]\n"
                                                       "  }\n"
                                                       "}\n");
 }
@@ -120,10 +126,8 @@ TEST_F(QuorconvPrintTest, TellsEachReasonInOneLine) {
     ExpectPlainOutput({"show", file}, 1, "",
                       "quorconv: " + fileAsPrinted + ": [" + printed +
                           "]: the record cannot be read\n"
-                          "  Cannot read the selected settings file because the file version is incorrect.\n"
-                          "  Cannot read the selected settings file because the file version is incorrect.\n"
-                          "  [" +
-                          printed + " - Settings] Offsets0: missing or unreadable\n");
+                          "  line 4: [" +
+                          printed + " - Settings] Offsets0: the key is missing\n");
 }
 
 TEST_F(QuorconvPrintTest, RefusesToCopyAndToAddInOneLine) {

@@ -95,14 +95,20 @@ TEST_F(QuorconvTest, ShowsAProbeAsAJsonObject) {
   "type": "CONV_TCTYPEX",
   "name": "TC Type K",
   "settings": {
-    "TCType": 4,
+    "TCType": {"code": 4, "name": "K"},
     "NumPoints": 1,
     "TempScale": "°C",
     "OffsetScale": "K",
-    "Temperatures0": 0.1,
-    "Offsets0": -0.0,
-    "Coefficients0": "NaN",
-    "Coefficients1": 5e-324
+    "Temperatures": [
+      {"name": "T1", "value": 0.1}
+    ],
+    "Offsets": [
+      {"name": "ADJ1", "value": -0.0}
+    ],
+    "Coefficients": [
+      {"name": "DC1", "value": "NaN"},
+      {"name": "DC2", "value": 5e-324}
+    ]
   }
 }
 )");
@@ -119,12 +125,14 @@ TEST_F(QuorconvTest, ShowsAllProbesAsAJsonArrayWithNestedRecordsInside) {
     "settings": {
       "RTPW": 25.5,
       "High Range": {
-        "Range": -1
+        "Range": {"code": -1, "name": "none"}
       },
       "Low Range": {
-        "Range": 5,
-        "Coefficients0": 0.0001,
-        "Coefficients1": 0.0
+        "Range": {"code": 5, "name": "234 K to 302 K"},
+        "Coefficients": [
+          {"name": "a", "value": 1e-04},
+          {"name": "b", "value": 0}
+        ]
       }
     }
   }
@@ -246,7 +254,8 @@ TEST_F(QuorconvTest, CompletesARecordOnlyByAllKeysThatItLacks) {
     folder.Write("host.ini", Replaced(hostFile, "Coefficients2=-5.775E-7\n", ""));
     const Outcome run = Quorconv({"set", "host.ini", "Probe 1", "Coefficients0=100.5"});
     EXPECT_EQ(run.code, 1);
-    EXPECT_NE(run.err.find("[Probe 1 - Settings] Coefficients2: missing or unreadable"), std::string::npos);
+    EXPECT_NE(run.err.find("line 9: [Probe 1 - Settings] Coefficients2: the key is missing"),
+              std::string::npos);
     ExpectFine({"set", "host.ini", "Probe 1", "Coefficients2=-5.775E-7"});
     EXPECT_EQ(folder.Read("host.ini"),
               Replaced(hostFile, "Coefficients2=-5.775E-7\n", "") + "Coefficients2=-5.775e-07\n");
@@ -256,8 +265,7 @@ TEST_F(QuorconvTest, ShowsAndCopiesNoRecordThatTheLibraryRefuses) {
     folder.Write("host.ini", Replaced(hostFile, "NumCoefficients=4", "NumCoefficients=-4"));
     const std::string refusal =
         "quorconv: host.ini: [Probe 1]: the record cannot be read\n"
-        "  Cannot read the selected settings file because the file version is incorrect.\n"
-        "  Cannot read the selected settings file because the file version is incorrect.\n";
+        "  line 11: [Probe 1 - Settings] NumCoefficients: the value -4 is not accepted\n";
     ExpectRefused({"show", "host.ini"}, refusal);
     ExpectRefused({"copy", "host.ini", "Probe 1", "host.ini", "Probe 2"}, refusal);
 }
@@ -270,7 +278,7 @@ TEST_F(QuorconvTest, CopiesBetweenStandAloneFilesAndHostFiles) {
               "Coefficients0=100\nCoefficients1=0.0039083\n"
               "Coefficients2=-5.775e-07\nCoefficients3=-4.183e-12\n");
     ExpectFine({"set", "probe.cvd", "Callendar-Van Dusen", "Coefficients0=100.0123"});
-    ExpectFine({"copy", "probe.cvd", "Callendar-Van Dusen", "host.ini", "Probe 1"});
+    ExpectFine({"copy", "probe.cvd", "Callendar-Van Dusen", "host.ini", "Probe 1", "--replace"});
     EXPECT_EQ(folder.Read("host.ini"),
               Replaced(hostFile, "Coefficients0=100.0\n", "Coefficients0=100.0123\n"));
     ExpectFine({"copy", "probe.cvd", "Callendar-Van Dusen", "host.ini", "Probe 2"});
@@ -282,7 +290,7 @@ TEST_F(QuorconvTest, CopiesOverNothingThatIsOfAnotherKind) {
     folder.Write("host.ini", hostFile);
     ExpectFine({"new", "other.ini", "P", "w90"});
     ExpectRefused(
-        {"copy", "other.ini", "P", "host.ini", "Probe 1"},
+        {"copy", "other.ini", "P", "host.ini", "Probe 1", "--replace"},
         "quorconv: host.ini: [Probe 1]: there is a probe of another type (CONV_CVD) in this section\n");
     ExpectRefused({"copy", "other.ini", "P", "host.ini", "Instrument"},
                   "quorconv: host.ini: [Instrument]: the section exists and is not the record of a probe\n");
@@ -329,7 +337,7 @@ TEST_F(QuorconvTest, ShowsAnExampleOfEachCommandAndItsVersion) {
     for (const std::string command : {"types", "list", "show", "new", "set", "edit", "copy", "check"}) {
         const Outcome run = Quorconv({command, "--help"});
         EXPECT_EQ(run.code, 0) << command;
-        EXPECT_NE(run.out.find("Example:\n  quorconv " + command), std::string::npos) << run.out;
+        EXPECT_NE(run.out.find("\n  quorconv " + command), std::string::npos) << run.out;
         EXPECT_EQ(run.err, "");
     }
     ExpectFine({"--version"}, "quorconv 1.0.0\n");

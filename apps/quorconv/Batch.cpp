@@ -1,0 +1,46 @@
+#include "apps/quorconv/Batch.h"
+
+#include "QuorProbeFile/ProbeFileError.h"
+#include "apps/quorconv/Failure.h"
+
+namespace quorconv {
+
+bool Batch::Do(const std::wstring& place, const std::function<void()>& piece) {
+    bool goesOn = true;
+    Problem failure;
+    try {
+        piece();
+        return true;
+    } catch (const Problem& problem) {
+        failure = problem;
+    } catch (const UsageError& error) {
+        failure = {error.text};
+    } catch (const QuorProbeFile::ProbeFileError&) {
+        failure = CurrentFailure();
+        goesOn = false;
+    }
+    ++m_wrong;
+    m_failures.push_back(place + failure.text);
+    for (const std::wstring& reason : failure.reasons)
+        m_failures.push_back(L"  " + reason);
+    return goesOn;
+}
+
+std::wstring Batch::PlaceOf(std::size_t line) const { return m_from + L":" + std::to_wstring(line) + L": "; }
+
+void Batch::RequireFine() const {
+    if (m_failures.empty())
+        return;
+    const bool isOne = m_wrong == 1;
+    throw Problem{m_path + L": nothing was written, because " +
+                      (isOne ? L"a line of " + m_from + L" is wrong"
+                             : std::to_wstring(m_wrong) + L" lines of " + m_from + L" are wrong"),
+                  m_failures};
+}
+
+void Batch::Forget() {
+    m_failures.clear();
+    m_wrong = 0;
+}
+
+} // namespace quorconv

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorconv {
+
+/// A field as CSV has it (RFC 4180): in quotes where it has a comma, a quote or a line break.
+[[nodiscard]] std::string CsvField(std::string_view field);
+
+/// A CSV text that cannot be read.
+struct CsvError {
+    std::size_t line;
+    std::wstring text;
+};
+
+/// Reads a CSV text (RFC 4180; line ends may be LF alone, and a byte-order mark may stand first) and calls
+/// `use` with each row and the line in which it begins. Empty lines are no rows. Raises CsvError.
+void ReadCsv(std::string_view text,
+             const std::function<void(const std::vector<std::wstring>& fields, std::size_t line)>& use);
+
+} // namespace quorconv

@@ -1,0 +1,462 @@
+#include "apps/quorconv/ProbeJson.h"
+
+#include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/ValueText.h"
+#include "QuorProbeFile/ProbeNames.h"
+#include "QuorProbeFile/ProbeTypes.h"
+#include "apps/quorconv/Nearest.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+namespace quorconv {
+
+using namespace QuorConversions;
+using namespace QuorProbeFile;
+
+namespace {
+
+/// Of "Coefficients12" the list and the index, of an indexed key; the index -1 for any other.
+struct Indexed {
+    std::wstring list;
+    int index = -1;
+};
+
+Indexed SplitIndex(std::wstring_view key) {
+    static const std::wstring_view lists[] = {L"Coefficients", L"Temperatures", L"Voltages", L"Offsets"};
+    for (const std::wstring_view list : lists) {
+        if (key.size() > list.size() && key.starts_with(list)) {
+            const auto index = QuorIniFile::IntegerOf(key.substr(list.size()));
+            if (index && *index >= 0 && std::to_wstring(*index) == key.substr(list.size()))
+                return {std::wstring(list), *index};
+        }
+    }
+    return {std::wstring(key), -1};
+}
+
+std::string ValueText(const Value& value, const RecordKey* key) {
+    struct Visitor {
+        const RecordKey* key;
+        std::string operator()(const std::wstring& text) const { return JsonText(text); }
+        std::string operator()(bool flag) const { return flag ? "true" : "false"; }
+        std::string operator()(double number) const { return JsonNumber(number); }
+        std::string operator()(std::int16_t number) const {
+            if (!key || key->choices.empty())
+                return std::to_string(number);
+            const std::wstring name = ChoiceName(*key, number);
+            return "{\"code\": " + std::to_string(number) +
+                   (name.empty() ? "}" : ", \"name\": " + JsonText(name) + "}");
+        }
+    };
+    return std::visit(Visitor{key}, value);
+}
+
+/// Writes the members of objects and the items of lists, each on a line of its own or all in one.
+class Writer {
+public:
+    Writer(bool inOneLine, int indent) : m_inOneLine(inOneLine), m_depth(indent / 2) {}
+
+    void Open(char bracket) {
+        text += bracket;
+        ++m_depth;
+        m_isFirst = true;
+    }
+    void Close(char bracket) {
+        --m_depth;
+        if (!m_isFirst)
+            NewLine();
+        text += bracket;
+        m_isFirst = false;
+    }
+    void Item() {
+        if (!m_isFirst)
+            text += m_inOneLine ? ", " : ",";
+        NewLine();
+        m_isFirst = false;
+    }
+    void Name(std::wstring_view name) {
+        Item();
+        text += JsonText(name) + ": ";
+    }
+    void Member(std::wstring_view name, const std::string& value) {
+        Name(name);
+        text += value;
+    }
+
+    std::string text;
+
+private:
+    void NewLine() {
+        if (!m_inOneLine)
+            text += "\n" + std::string(static_cast<std::size_t>(m_depth) * 2, ' ');
+    }
+    bool m_inOneLine;
+    int m_depth;
+    bool m_isFirst = true;
+};
+
+/// Writes the entries of one record, in their order; those of one list stand together where the first of
+/// them stands.
+void WriteEntries(Writer& writer, EQuorConversionType type, RecordForm form, const std::wstring& prefix,
+                  const std::vector<RecordImage::Entry>& entries, std::size_t first, std::size_t last) {
+    std::set<std::wstring> written;
+    for (std::size_t at = first; at < last; ++at) {
+        const std::wstring key = entries[at].path.substr(prefix.size());
+        const Indexed indexed = SplitIndex(key);
+        if (indexed.index < 0) {
+            writer.Member(key, ValueText(entries[at].value, FindRecordKey(type, entries[at].path, form)));
+            continue;
+        }
+        if (!written.insert(indexed.list).second)
+            continue;
+        writer.Name(indexed.list);
+        writer.Open('[');
+        for (std::size_t item = at; item < last; ++item) {
+            if (SplitIndex(std::wstring_view(entries[item].path).substr(prefix.size())).list != indexed.list)
+                continue;
+            const RecordKey* const known = FindRecordKey(type, entries[item].path, form);
+            writer.Item();
+            writer.text += "{";
+            if (known && !known->name.empty())
+                writer.text += "\"name\": " + JsonText(known->name) + ", ";
+            writer.text += "\"value\": " + ValueText(entries[item].value, nullptr) + "}";
+        }
+        writer.Close(']');
+    }
+}
+
+std::wstring PrefixOf(const std::wstring& path) {
+    const auto slash = path.find(L'/');
+    return slash == std::wstring::npos ? L"" : path.substr(0, slash + 1);
+}
+
+} // namespace
+
+std::string ToJson(const Probe& probe, bool inOneLine, int indent) {
+    const EQuorConversionType type = probe.Conversion().ConversionType();
+    Writer writer(inOneLine, indent);
+    writer.Open('{');
+    writer.Member(L"section", JsonText(probe.Section()));
+    writer.Member(L"code", std::to_string(static_cast<std::int32_t>(type)));
+    writer.Member(L"type", JsonText(probe.TypeName()));
+    writer.Member(L"name", JsonText(probe.Name()));
+    writer.Name(L"settings");
+    writer.Open('{');
+    if (probe.Settings()) {
+        const auto image = RecordImage::Of(*probe.Settings());
+        const RecordForm form = FormOf(*image);
+        const auto& entries = image->Entries();
+        for (std::size_t first = 0, last = 0; first < entries.size(); first = last) {
+            const std::wstring prefix = PrefixOf(entries[first].path);
+            while (last < entries.size() && PrefixOf(entries[last].path) == prefix)
+                ++last;
+            if (!prefix.empty()) {
+                writer.Name(prefix.substr(0, prefix.size() - 1));
+                writer.Open('{');
+            }
+            WriteEntries(writer, type, form, prefix, entries, first, last);
+            if (!prefix.empty())
+                writer.Close('}');
+        }
+    }
+    writer.Close('}');
+    writer.Close('}');
+    return std::move(writer.text);
+}
+
+namespace {
+
+using Kind = JsonValue::Kind;
+
+[[noreturn]] void Fail(const JsonValue& at, std::wstring text) {
+    throw JsonError{at.line, at.column, std::move(text)};
+}
+
+const JsonValue& Require(const JsonValue& object, const wchar_t* name, Kind kind, const wchar_t* what) {
+    const JsonValue* const member = object.Find(name);
+    if (!member)
+        Fail(object, std::wstring(L"\"") + name + L"\" is missing");
+    if (member->kind != kind)
+        Fail(*member, std::wstring(L"\"") + name + L"\" is not " + what);
+    return *member;
+}
+
+void RequireMembers(const JsonValue& object, const std::vector<std::wstring>& known) {
+    for (const auto& [name, value] : object.members) {
+        if (std::find(known.begin(), known.end(), name) == known.end())
+            Fail(value, L"there is no member \"" + name + L"\" here" + DidYouMean(name, known));
+    }
+}
+
+/// Reads the settings of a probe.
+class SettingsReader {
+public:
+    SettingsReader(EQuorConversionType type, RecordForm form) : m_type(type), m_form(form) {
+        for (const RecordKey& key : RecordKeys(type))
+            m_known.insert(key.index < 0 ? key.path : key.list);
+    }
+
+    void Read(const JsonValue& object, const std::wstring& prefix) {
+        for (const auto& [name, value] : object.members) {
+            const std::wstring path = prefix + name;
+            const bool isNested =
+                prefix.empty() && std::any_of(m_known.begin(), m_known.end(), [&](const std::wstring& key) {
+                    return key.starts_with(path + L"/");
+                });
+            if (isNested) {
+                if (value.kind != Kind::Object)
+                    Fail(value, L"\"" + path + L"\" is not an object");
+                Read(value, path + L"/");
+            } else if (!m_known.contains(path)) {
+                Fail(value, L"there is no key \"" + path + L"\" in a record of this type" +
+                                DidYouMean(path, {m_known.begin(), m_known.end()}));
+            } else if (SplitIndex(name + L"0").index == 0) {
+                ReadList(value, path);
+            } else {
+                Add(path, value, FindRecordKey(m_type, path, m_form));
+            }
+        }
+    }
+
+    std::vector<Assignment> values;
+
+private:
+    void ReadList(const JsonValue& list, const std::wstring& path) {
+        if (list.kind != Kind::List)
+            Fail(list, L"\"" + path + L"\" is not a list");
+        for (std::size_t i = 0; i < list.items.size(); ++i) {
+            const JsonValue& item = list.items[i];
+            if (item.kind != Kind::Object)
+                Fail(item, L"an object of \"name\" and \"value\" expected");
+            RequireMembers(item, {L"name", L"value"});
+            const std::wstring key = path + std::to_wstring(i);
+            const RecordKey* const known = FindRecordKey(m_type, key, m_form);
+            const JsonValue* const name = item.Find(L"name");
+            if (name && (!known || name->kind != Kind::Text || name->text != known->name))
+                Fail(*name, key + L" is not " +
+                                (name->kind == Kind::Text ? L"\"" + name->text + L"\"" : L"of that name") +
+                                (known ? L" but \"" + known->name + L"\"" : L""));
+            const JsonValue* const value = item.Find(L"value");
+            if (!value)
+                Fail(item, L"\"value\" is missing");
+            Add(key, *value, known);
+        }
+    }
+
+    void Add(const std::wstring& key, const JsonValue& value, const RecordKey* known) {
+        if (value.kind == Kind::Object && known && !known->choices.empty()) {
+            RequireMembers(value, {L"code", L"name"});
+            const JsonValue& code = Require(value, L"code", Kind::Number, L"a number");
+            const JsonValue* const name = value.Find(L"name");
+            const auto number = QuorIniFile::IntegerOf(code.text);
+            if (name && (name->kind != Kind::Text || !number || ChoiceName(*known, *number) != name->text))
+                Fail(*name, key + L": the name is not that of the code " + code.text);
+            AddNumber(key, code, known);
+            return;
+        }
+        const bool isNumber = !known || std::holds_alternative<double>(known->initial);
+        const bool isText = known && std::holds_alternative<std::wstring>(known->initial);
+        const bool isFlag = known && std::holds_alternative<bool>(known->initial);
+        switch (value.kind) {
+        case Kind::Boolean:
+            if (!isFlag)
+                break;
+            values.push_back({key, value.flag ? L"True" : L"False"});
+            return;
+        case Kind::Number:
+            if (isText || isFlag || (known && !known->choices.empty()))
+                break;
+            AddNumber(key, value, known);
+            return;
+        case Kind::Text:
+            if (!isText && !(isNumber && (value.text == L"NaN" || value.text == L"Infinity" ||
+                                          value.text == L"-Infinity")))
+                break;
+            values.push_back({key, value.text});
+            return;
+        default:
+            break;
+        }
+        Fail(value, key + L": " +
+                        (isText                   ? L"a text"
+                         : isFlag                 ? L"true or false"
+                         : isNumber               ? L"a number, \"NaN\", \"Infinity\" or \"-Infinity\""
+                         : known->choices.empty() ? L"a whole number"
+                                                  : L"an object of \"code\" and \"name\"") +
+                        L" expected");
+    }
+
+    void AddNumber(const std::wstring& key, const JsonValue& value, const RecordKey* known) {
+        const Value kind = known ? known->initial : Value(0.0);
+        if (!ParseAs(kind, value.text))
+            Fail(value, key + L": " + WhatIsWrong(kind, value.text));
+        values.push_back({key, value.text});
+    }
+
+    EQuorConversionType m_type;
+    RecordForm m_form;
+    std::set<std::wstring> m_known; // keys; of lists without their index
+};
+
+} // namespace
+
+JsonProbe ReadJsonProbe(const JsonValue& object) {
+    RequireMembers(object, {L"section", L"code", L"type", L"name", L"settings"});
+    JsonProbe probe;
+    probe.section = Require(object, L"section", Kind::Text, L"a text").text;
+    const JsonValue& type = Require(object, L"type", Kind::Text, L"a text");
+    const TypeInfo* const info = ParseType(type.text);
+    if (!info || info->enumerator != type.text || info->code == CONV_NONE) {
+        std::vector<std::wstring> known;
+        for (const TypeInfo& one : Types())
+            known.push_back(one.enumerator);
+        Fail(type, L"\"" + type.text + L"\" is no conversion type" + DidYouMean(type.text, known));
+    }
+    probe.type = info->enumerator;
+    if (object.Find(L"name"))
+        static_cast<void>(Require(object, L"name", Kind::Text, L"a text"));
+    const JsonValue* const code = object.Find(L"code");
+    if (code && (code->kind != Kind::Number || QuorIniFile::IntegerOf(code->text) != info->code))
+        Fail(*code, L"the code of " + info->enumerator + L" is " + std::to_wstring(info->code));
+    const JsonValue& settings = Require(object, L"settings", Kind::Object, L"an object");
+    const JsonValue* const flag = settings.Find(L"UsePolynomial");
+    const RecordForm form = !flag || flag->kind != Kind::Boolean ? RecordForm::AlphaDeltaBeta
+                            : flag->flag                         ? RecordForm::Polynomial
+                                                                 : RecordForm::AlphaDeltaBeta;
+    SettingsReader reader(info->code, form);
+    reader.Read(settings, L"");
+    probe.values = std::move(reader.values);
+    return probe;
+}
+
+namespace {
+
+const char* const schemaHead = R"({
+  "$schema": "https://json-schema.org/draft/2020-12/schema",
+  "$id": "probe.schema.json",
+  "title": "A probe, as \"quorconv show --json\" prints it and \"quorconv put --json\" takes it",
+  "$comment": "Made by \"quorconv explain --json-schema\".",
+  "oneOf": [
+    {"$ref": "#/$defs/probe"},
+    {"type": "array", "items": {"$ref": "#/$defs/probe"}}
+  ],
+  "$defs": {
+    "number": {"oneOf": [{"type": "number"}, {"enum": ["NaN", "Infinity", "-Infinity"]}]},
+    "count": {"type": "integer", "minimum": -32768, "maximum": 32767},
+    "item": {
+      "type": "object",
+      "properties": {"name": {"type": "string"}, "value": {"$ref": "#/$defs/number"}},
+      "required": ["value"],
+      "additionalProperties": false
+    },
+    "probe": {
+      "type": "object",
+      "properties": {
+        "section": {"type": "string", "minLength": 1, "pattern": "^[^\\]\\r\\n]*$"},
+        "code": {"type": "integer"},
+        "type": {"enum": [TYPES]},
+        "name": {"type": "string"},
+        "settings": {"type": "object"}
+      },
+      "required": ["section", "type", "settings"],
+      "additionalProperties": false,
+      "allOf": [)";
+
+/// The schema of a value that is no list.
+std::string ValueSchema(const RecordKey& key) {
+    if (!key.choices.empty()) {
+        std::string choices;
+        for (const RecordChoice& choice : key.choices)
+            choices += std::string(choices.empty() ? "" : ", ") +
+                       "{\"properties\": {\"code\": {\"const\": " + std::to_string(choice.code) +
+                       "}, \"name\": {\"const\": " + JsonText(choice.name) + "}}}";
+        return R"({"type": "object", "required": ["code"], "additionalProperties": false, "properties": )"
+               R"({"code": {"$ref": "#/$defs/count"}, "name": {"type": "string"}}, "if": {"required": ["name"]}, )"
+               R"("then": {"oneOf": [)" +
+               choices + "]}}";
+    }
+    struct Visitor {
+        std::string operator()(const std::wstring&) const { return R"({"type": "string"})"; }
+        std::string operator()(bool) const { return R"({"type": "boolean"})"; }
+        std::string operator()(double) const { return R"({"$ref": "#/$defs/number"})"; }
+        std::string operator()(std::int16_t) const { return R"({"$ref": "#/$defs/count"})"; }
+    };
+    std::string schema = std::visit(Visitor{}, key.initial);
+    schema.insert(1, "\"description\": " +
+                         JsonText(key.meaning + (key.unit.empty() ? L"" : L", in " + key.unit)) + ", ");
+    return schema;
+}
+
+/// The schema of the settings, or of a nested record.
+std::string SettingsSchema(EQuorConversionType type, RecordForm form, const std::wstring& prefix = {}) {
+    std::vector<std::pair<std::wstring, std::string>> members; // in their order
+    std::map<std::wstring, std::string> lists;                 // the names of their items
+    const auto add = [&](const std::wstring& name, const std::string& schema) {
+        if (std::none_of(members.begin(), members.end(), [&](const auto& one) { return one.first == name; }))
+            members.emplace_back(name, schema);
+    };
+    for (const RecordKey& key : RecordKeys(type)) {
+        if (!key.path.starts_with(prefix) || (form != key.form && key.form != RecordForm::Any))
+            continue;
+        const std::wstring inner = key.path.substr(prefix.size());
+        if (const auto slash = inner.find(L'/'); slash != std::wstring::npos) {
+            if (prefix.empty())
+                add(inner.substr(0, slash), SettingsSchema(type, form, inner.substr(0, slash + 1)));
+        } else if (key.index < 0) {
+            if (std::holds_alternative<bool>(key.initial))
+                add(inner, form == RecordForm::Polynomial ? R"({"const": true})" : R"({"const": false})");
+            else
+                add(inner, ValueSchema(key));
+        } else {
+            const std::wstring list = key.list.substr(prefix.size());
+            std::string& items = lists[list];
+            items += (items.empty() ? "" : ", ") + std::string(R"({"$ref": "#/$defs/item", )") +
+                     "\"properties\": {\"name\": {\"const\": " + JsonText(key.name) +
+                     "}, \"value\": {\"description\": " +
+                     JsonText(key.meaning + (key.unit.empty() ? L"" : L", in " + key.unit)) + "}}}";
+            add(list, "");
+        }
+    }
+    std::string schema;
+    for (const auto& [name, value] : members) {
+        schema += (schema.empty() ? "" : ", ") + JsonText(name) + ": ";
+        const auto list = lists.find(name);
+        schema += list == lists.end()
+                      ? value
+                      : R"({"type": "array", "items": {"$ref": "#/$defs/item"}, "prefixItems": [)" +
+                            list->second + "]}";
+    }
+    return R"({"type": "object", "additionalProperties": false, "properties": {)" + schema + "}}";
+}
+
+} // namespace
+
+std::string JsonSchema() {
+    std::string types;
+    std::string rules; // what follows from a type
+    for (const TypeInfo& type : Types()) {
+        if (type.code == CONV_NONE)
+            continue;
+        types += (types.empty() ? "" : ", ") + JsonText(type.enumerator);
+        const bool hasForms = std::any_of(RecordKeys(type.code).begin(), RecordKeys(type.code).end(),
+                                          [](const RecordKey& key) { return key.form != RecordForm::Any; });
+        // A record that does not say its form is of that which a new one has.
+        const std::string settings =
+            hasForms
+                ? R"({"if": {"required": ["UsePolynomial"], "properties": {"UsePolynomial": {"const": true}}},)"
+                  "\n          \"then\": " +
+                      SettingsSchema(type.code, RecordForm::Polynomial) +
+                      ",\n          \"else\": " + SettingsSchema(type.code, RecordForm::AlphaDeltaBeta) + "}"
+                : SettingsSchema(type.code, RecordForm::Any);
+        rules += std::string(rules.empty() ? "" : ",") +
+                 "\n        {\"if\": {\"properties\": {\"type\": {\"const\": " + JsonText(type.enumerator) +
+                 "}}}, \"then\": {\"properties\": {\"code\": {\"const\": " + std::to_string(type.code) +
+                 "}, \"settings\":\n          " + settings + "}}}";
+    }
+    std::string schema = schemaHead;
+    schema.replace(schema.find("TYPES"), 5, types);
+    return schema + rules + "\n      ]\n    }\n  }\n}\n";
+}
+
+} // namespace quorconv

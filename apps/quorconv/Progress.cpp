@@ -1,0 +1,52 @@
+#include "apps/quorconv/Progress.h"
+
+#include "QuorIniFile/Utf8.h"
+
+#include <cstdlib>
+#include <iostream>
+#include <string_view>
+#include <utility>
+
+#include <unistd.h>
+
+namespace quorconv {
+
+namespace {
+
+/// One that can move its cursor and shows colours.
+bool IsTerminal(int stream) {
+    const char* const kind = std::getenv("TERM");
+    return ::isatty(stream) != 0 && kind != nullptr && std::string_view(kind) != "dumb";
+}
+
+constexpr auto pause = std::chrono::seconds(1);
+
+} // namespace
+
+bool ShowsColour(int stream) {
+    const char* const noColour = std::getenv("NO_COLOR");
+    return (noColour == nullptr || *noColour == '\0') && IsTerminal(stream);
+}
+
+Progress::Progress(std::wstring what, std::size_t all)
+    : m_what(std::move(what)),
+      m_all(all),
+      m_isTerminal(IsTerminal(STDERR_FILENO)),
+      m_next(std::chrono::steady_clock::now() + pause) {}
+
+Progress::~Progress() {
+    if (m_isShown)
+        std::cerr << "\r\x1B[K" << std::flush;
+}
+
+void Progress::Step() {
+    constexpr std::size_t looks = 64; // at the clock: one in so many steps
+    if (!m_isTerminal || ++m_done % looks != 0 || std::chrono::steady_clock::now() < m_next)
+        return;
+    m_next = std::chrono::steady_clock::now() + pause;
+    m_isShown = true;
+    std::cerr << '\r' << m_done << " of " << m_all << ' ' << QuorIniFile::ToPrintable(m_what) << "\x1B[K"
+              << std::flush;
+}
+
+} // namespace quorconv

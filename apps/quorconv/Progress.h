@@ -1,0 +1,32 @@
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <string>
+
+namespace quorconv {
+
+/// Whether the standard output, or the standard error, is a terminal that shows colours; not where NO_COLOR
+/// is set.
+[[nodiscard]] bool ShowsColour(int stream);
+
+/// Tells on the standard error, where that is a terminal, how far a long work is: from its first second on.
+class Progress {
+public:
+    /// `all` steps of that name.
+    Progress(std::wstring what, std::size_t all);
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+    ~Progress();
+    void Step();
+
+private:
+    std::wstring m_what;
+    std::size_t m_all;
+    std::size_t m_done = 0;
+    bool m_isTerminal;
+    bool m_isShown = false;
+    std::chrono::steady_clock::time_point m_next;
+};
+
+} // namespace quorconv

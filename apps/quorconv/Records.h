@@ -1,0 +1,63 @@
+#pragma once
+
+#include "QuorProbeFile/ProbeFile.h"
+#include "QuorProbeFile/RecordImage.h"
+#include "QuorProbeFile/RecordReference.h"
+#include "apps/quorconv/Arguments.h"
+#include "apps/quorconv/Probe.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quorconv {
+
+/// A KEY=VALUE of the command line, or of a line of steps.
+struct Assignment {
+    std::wstring key;
+    std::wstring value;
+};
+
+/// Each text as a KEY=VALUE; UsageError for one that is none.
+[[nodiscard]] std::vector<Assignment> Assignments(const std::vector<std::wstring>& texts);
+
+/// What values may be given.
+struct ValueRules {
+    bool allowsNan = false; ///< NaN and infinities, too
+    /// Declares "--allow-nan".
+    void Declare(Arguments& arguments);
+};
+
+/// "file: [section]", with which a failure begins.
+[[nodiscard]] std::wstring Place(const std::wstring& file, const std::wstring& section);
+
+/// Reads the probe of a section; raises Problem when the library could not read all of it, but for what
+/// `completion` gives.
+[[nodiscard]] Probe ReadProbe(QuorProbeFile::ProbeFile& file, const std::wstring& section,
+                              const std::vector<Assignment>& completion = {});
+/// The same for a probe that has settings.
+[[nodiscard]] Probe ReadProbeWithSettings(QuorProbeFile::ProbeFile& file, const std::wstring& section);
+
+/// Ends the failure that a record has no such key: with the key that is meant by the name of a coefficient,
+/// or with the nearest one, if there is any.
+[[nodiscard]] std::wstring MeantKey(const Probe& probe, const QuorProbeFile::RecordImage& image,
+                                    const std::wstring& typed);
+
+/// Gives the settings the values of the assignments, through the object itself, so that its own rules decide.
+/// Raises Problem when one of them is not taken as it is. `file` is told then.
+void Assign(Probe& probe, const std::wstring& file, const std::vector<Assignment>& assignments,
+            const ValueRules& rules);
+
+/// Writes what has become another value since the probe was read from `before`, into `now`, and nothing else.
+/// Raises Problem when another program has changed the same.
+void WriteChanges(const Probe& probe, QuorProbeFile::ProbeFile& before, QuorProbeFile::ProbeFile& now);
+/// The same into the file as it is now, of what a person has changed, who may have taken his time.
+void WriteEdited(const Probe& probe, QuorProbeFile::ProbeFile& before);
+
+/// Raises Problem with the reason when no probe can have that name in a file.
+void RequireName(const std::wstring& file, const std::wstring& name);
+
+/// The form of the settings: what their "UsePolynomial" says.
+[[nodiscard]] QuorProbeFile::RecordForm FormOf(const QuorProbeFile::RecordImage& image);
+
+} // namespace quorconv

@@ -1,0 +1,239 @@
+#include "apps/quorconv/Steps.h"
+
+#include "QuorIniFile/Utf8.h"
+#include "QuorProbeFile/ProbeNames.h"
+#include "QuorProbeFile/SectionPlan.h"
+#include "apps/quorconv/Batch.h"
+#include "apps/quorconv/HostFile.h"
+#include "apps/quorconv/Nearest.h"
+#include "apps/quorconv/Progress.h"
+#include "apps/quorconv/Selection.h"
+
+#include <algorithm>
+#include <functional>
+#include <unordered_set>
+#include <utility>
+
+namespace quorconv {
+
+using namespace QuorProbeFile;
+
+const TypeInfo& RequireSettingsType(const std::wstring& text) {
+    const TypeInfo& type = RequireType(text);
+    if (type.code == QuorConversions::CONV_NONE)
+        throw Problem{L"\"" + text + L"\" is no conversion type; the command \"types\" lists them"};
+    return type;
+}
+
+void NewProbe(ProbeFile& file, const std::wstring& section, const std::wstring& type,
+              const std::vector<Assignment>& assignments, const ValueRules& rules) {
+    const TypeInfo& info = RequireSettingsType(type);
+    if (file.Find(section))
+        throw Problem{Place(file.Path(), section) + L": there is a probe in this section already"};
+    RequireName(file.Path(), section);
+    Probe probe(section);
+    probe.Conversion().SetConversionType(info.code);
+    Assign(probe, file.Path(), assignments, rules);
+    file.Write(section, probe.Conversion());
+}
+
+void SetValues(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& assignments,
+               const ValueRules& rules) {
+    Probe probe = ReadProbe(file, section, assignments);
+    Assign(probe, file.Path(), assignments, rules);
+    file.Write(section, probe.Conversion());
+}
+
+void RemoveProbes(ProbeFile& file, const std::vector<std::wstring>& sections) {
+    if (sections.size() == 1) {
+        file.Remove(sections.front());
+        return;
+    }
+    std::unordered_set<std::wstring> names;
+    for (const std::wstring& section : sections)
+        names.insert(Folded(section));
+    std::vector<ProbeMove> moves;
+    for (const ProbeEntry& probe : file.Probes()) {
+        const bool goes = names.erase(Folded(probe.section)) > 0;
+        moves.push_back({probe.section, probe.section, goes, false, probe.standAlone});
+    }
+    if (!names.empty())
+        file.Remove(*names.begin()); // which tells why it cannot
+    std::optional<SharedSection> shared;
+    const SectionPlan plan = PlanSections(file.Store()->Sections(), moves, shared);
+    if (shared)
+        throw ProbeFileError(PROBE_SECTION_IS_SHARED, file.Path(), moves[shared->probe].section,
+                             moves[shared->other].section);
+    ApplyPlan(*file.Store(), plan);
+}
+
+void RenameProbe(ProbeFile& file, const std::wstring& section, const std::wstring& name) {
+    RequireName(file.Path(), name);
+    file.Rename(section, name);
+}
+
+void RetypeProbe(ProbeFile& file, const std::wstring& section, const std::wstring& type,
+                 const std::vector<Assignment>& assignments, const ValueRules& rules) {
+    const TypeInfo& info = RequireSettingsType(type);
+    if (!file.Find(section)) {
+        Probe none(section);
+        static_cast<void>(file.Read(section, none.Conversion())); // which tells why there is none
+    }
+    Probe probe(section);
+    probe.Conversion().SetConversionType(info.code);
+    Assign(probe, file.Path(), assignments, rules);
+    file.Write(section, probe.Conversion());
+}
+
+void CopyProbe(ProbeFile& from, const std::wstring& section, ProbeFile& to, const std::wstring& name,
+               bool replaces) {
+    if (!to.Find(name))
+        RequireName(to.Path(), name);
+    else if (!replaces)
+        throw Problem{Place(to.Path(), name) +
+                      L": there is a probe in this section already; --replace writes over it"};
+    to.CopyFrom(from, section, name);
+}
+
+namespace {
+
+struct Step {
+    std::size_t line;
+    std::function<void(ProbeFile&)> run;
+};
+
+using Strings = std::vector<std::wstring>;
+
+/// The words from one on.
+Strings WordsFrom(const Strings& words, std::size_t first) {
+    return {words.begin() + static_cast<std::ptrdiff_t>(std::min(first, words.size())), words.end()};
+}
+
+/// What a command needs, and what it does, by the words behind it.
+struct StepCommand {
+    const wchar_t* name;
+    const wchar_t* arguments;
+    std::size_t least;
+    std::size_t most; // words
+    std::function<void(ProbeFile&)> (*make)(const Strings&, const ValueRules&);
+};
+
+constexpr std::size_t any = static_cast<std::size_t>(-1);
+
+const StepCommand stepCommands[] = {
+    {L"new", L"SECTION TYPE [KEY=VALUE...]", 2, any,
+     [](const Strings& words, const ValueRules& rules) -> std::function<void(ProbeFile&)> {
+         return [words, rules, values = Assignments(WordsFrom(words, 2))](ProbeFile& file) {
+             NewProbe(file, words[0], words[1], values, rules);
+         };
+     }},
+    {L"set", L"SECTION KEY=VALUE...", 2, any,
+     [](const Strings& words, const ValueRules& rules) -> std::function<void(ProbeFile&)> {
+         return [section = words[0], rules, values = Assignments(WordsFrom(words, 1))](ProbeFile& file) {
+             SetValues(file, section, values, rules);
+         };
+     }},
+    {L"copy", L"SECTION TO-SECTION [--replace]", 2, 3,
+     [](const Strings& words, const ValueRules& /*rules*/) -> std::function<void(ProbeFile&)> {
+         if (words.size() == 3 && words[2] != L"--replace")
+             throw Problem{L"\"--replace\" expected: " + words[2]};
+         return [words](ProbeFile& file) { CopyProbe(file, words[0], file, words[1], words.size() == 3); };
+     }},
+    {L"rename", L"SECTION NAME", 2, 2,
+     [](const Strings& words, const ValueRules& /*rules*/) -> std::function<void(ProbeFile&)> {
+         return [words](ProbeFile& file) { RenameProbe(file, words[0], words[1]); };
+     }},
+    {L"retype", L"SECTION TYPE [KEY=VALUE...]", 2, any,
+     [](const Strings& words, const ValueRules& rules) -> std::function<void(ProbeFile&)> {
+         return [words, rules, values = Assignments(WordsFrom(words, 2))](ProbeFile& file) {
+             RetypeProbe(file, words[0], words[1], values, rules);
+         };
+     }},
+    {L"remove", L"SECTION", 1, 1,
+     [](const Strings& words, const ValueRules& /*rules*/) -> std::function<void(ProbeFile&)> {
+         return [words](ProbeFile& file) { file.Remove(words[0]); };
+     }},
+};
+
+std::function<void(ProbeFile&)> MakeStep(Strings words, StepLanguage language, const ValueRules& rules) {
+    std::wstring name = L"set";
+    if (language == StepLanguage::Commands) {
+        name = words.front();
+        words.erase(words.begin());
+    }
+    const auto* const command = std::find_if(std::begin(stepCommands), std::end(stepCommands),
+                                             [&](const StepCommand& known) { return known.name == name; });
+    if (command == std::end(stepCommands)) {
+        Strings known;
+        for (const StepCommand& one : stepCommands)
+            known.emplace_back(one.name);
+        throw Problem{L"there is no step \"" + name + L"\"" + DidYouMean(name, known)};
+    }
+    if (words.size() < command->least || words.size() > command->most)
+        throw Problem{(language == StepLanguage::Commands ? name + L" " : L"") + command->arguments +
+                      L" expected"};
+    return command->make(words, rules);
+}
+
+} // namespace
+
+Strings Words(std::wstring_view line) {
+    Strings words;
+    std::size_t at = 0;
+    const auto isBlank = [&] { return line[at] == L' ' || line[at] == L'\t' || line[at] == L'\r'; };
+    while (true) {
+        while (at < line.size() && isBlank())
+            ++at;
+        if (at == line.size() || line[at] == L'#')
+            return words;
+        std::wstring word;
+        bool isQuoted = false;
+        for (; at < line.size() && (isQuoted || !isBlank()); ++at) {
+            if (line[at] == L'"')
+                isQuoted = !isQuoted;
+            else if (isQuoted && line[at] == L'\\' && at + 1 < line.size() &&
+                     (line[at + 1] == L'"' || line[at + 1] == L'\\'))
+                word += line[++at];
+            else
+                word += line[at];
+        }
+        if (isQuoted)
+            throw Problem{L"a double quote is not closed"};
+        words.push_back(std::move(word));
+    }
+}
+
+ExitCode RunSteps(const std::wstring& path, const std::wstring& from, StepLanguage language,
+                  const ValueRules& rules, bool isDryRun) {
+    const std::wstring text = QuorIniFile::DecodeBytes(ReadAll(from));
+    std::vector<Step> steps;
+    Batch batch(path, from);
+    std::size_t number = 0;
+    for (std::size_t begin = 0; begin < text.size();) {
+        const std::size_t end = std::min(text.find(L'\n', begin), text.size());
+        const std::wstring_view line = std::wstring_view(text).substr(begin, end - begin);
+        begin = end + 1;
+        ++number;
+        batch.Do(batch.PlaceOf(number), [&] {
+            if (auto words = Words(line); !words.empty())
+                steps.push_back({number, MakeStep(std::move(words), language, rules)});
+        });
+    }
+    batch.RequireFine();
+
+    HostFile file(path, ProbeFile::Opening::OrNew);
+    file.Edit(isDryRun, [&] {
+        batch.Forget();
+        Progress progress(L"steps", steps.size());
+        for (const Step& step : steps) {
+            progress.Step();
+            if (!batch.Do(batch.PlaceOf(step.line), [&] { step.run(*file); }))
+                break;
+        }
+        batch.RequireFine();
+    });
+    TellCount(steps.size(), L"step", isDryRun ? "would be done" : "done");
+    return fine;
+}
+
+} // namespace quorconv

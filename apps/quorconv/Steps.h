@@ -1,0 +1,47 @@
+#pragma once
+
+#include "QuorProbeFile/ProbeFile.h"
+#include "QuorProbeFile/ProbeTypes.h"
+#include "apps/quorconv/Failure.h"
+#include "apps/quorconv/Records.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorconv {
+
+// What can be done with a probe. Each is to be called inside an edit of the file, and raises Problem or
+// ProbeFileError; the edit saves nothing then.
+
+/// The type that a person means, of those that a probe can have.
+[[nodiscard]] const QuorProbeFile::TypeInfo& RequireSettingsType(const std::wstring& text);
+void NewProbe(QuorProbeFile::ProbeFile& file, const std::wstring& section, const std::wstring& type,
+              const std::vector<Assignment>& assignments, const ValueRules& rules);
+void SetValues(QuorProbeFile::ProbeFile& file, const std::wstring& section,
+               const std::vector<Assignment>& assignments, const ValueRules& rules);
+void RemoveProbes(QuorProbeFile::ProbeFile& file, const std::vector<std::wstring>& sections);
+void RenameProbe(QuorProbeFile::ProbeFile& file, const std::wstring& section, const std::wstring& name);
+void RetypeProbe(QuorProbeFile::ProbeFile& file, const std::wstring& section, const std::wstring& type,
+                 const std::vector<Assignment>& assignments, const ValueRules& rules);
+/// Over a probe that stands there only with `replaces`.
+void CopyProbe(QuorProbeFile::ProbeFile& from, const std::wstring& section, QuorProbeFile::ProbeFile& to,
+               const std::wstring& name, bool replaces);
+
+/// What a line of steps says.
+enum class StepLanguage : std::uint8_t {
+    Settings, ///< SECTION KEY=VALUE...
+    Commands, ///< a command and its arguments, without the file: set "Probe 1" Coefficients0=100.01
+};
+
+/// The words of a line: parted by blanks, in double quotes where they have blanks (\" and \\ inside), up to a
+/// "#" that begins a word. Raises Problem for a quote that is not closed.
+[[nodiscard]] std::vector<std::wstring> Words(std::wstring_view line);
+
+/// Does what the lines of `from` say with the file `path`, which is created when it does not exist and a
+/// step adds a probe: all of it, durable together, or nothing. Raises Problem with each wrong line.
+[[nodiscard]] ExitCode RunSteps(const std::wstring& path, const std::wstring& from, StepLanguage language,
+                                const ValueRules& rules, bool isDryRun);
+
+} // namespace quorconv

@@ -1,0 +1,211 @@
+#include "apps/quorconv/UnifiedDiff.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <unordered_map>
+#include <vector>
+
+namespace quorconv {
+namespace {
+
+using Lines = std::vector<std::string_view>;
+
+/// With their ends.
+Lines SplitLines(std::string_view text) {
+    Lines lines;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size() - 1) + 1;
+        lines.push_back(text.substr(0, end));
+        text.remove_prefix(end);
+    }
+    return lines;
+}
+
+/// Lines [first, last) of a text.
+struct Block {
+    std::size_t first;
+    std::size_t last;
+    [[nodiscard]] bool IsEmpty() const { return first == last; }
+};
+
+/// Which lines of two texts are the same ones, found by the lines that stand once in each of them (such as
+/// headers of sections): what stands between two such lines is compared by itself. That takes no longer with
+/// the number of changes.
+class Comparison {
+public:
+    Comparison(const Lines& a, const Lines& b)
+        : m_a(a), m_b(b), isOnlyInA(a.size(), true), isOnlyInB(b.size(), true) {
+        std::vector<std::pair<Block, Block>> open{{{0, a.size()}, {0, b.size()}}};
+        while (!open.empty()) {
+            auto [blockA, blockB] = open.back();
+            open.pop_back();
+            while (!blockA.IsEmpty() && !blockB.IsEmpty() && a[blockA.first] == b[blockB.first])
+                Match(blockA.first++, blockB.first++);
+            while (!blockA.IsEmpty() && !blockB.IsEmpty() && a[blockA.last - 1] == b[blockB.last - 1])
+                Match(--blockA.last, --blockB.last);
+            if (blockA.IsEmpty() || blockB.IsEmpty())
+                continue;
+            const auto anchors = Anchors(blockA, blockB);
+            if (anchors.empty()) {
+                MatchSmall(blockA, blockB);
+                continue;
+            }
+            Block restA = blockA;
+            Block restB = blockB;
+            for (const auto& [lineA, lineB] : anchors) {
+                Match(lineA, lineB);
+                open.push_back({{restA.first, lineA}, {restB.first, lineB}});
+                restA.first = lineA + 1;
+                restB.first = lineB + 1;
+            }
+            open.push_back({restA, restB});
+        }
+    }
+
+private:
+    const Lines& m_a;
+    const Lines& m_b;
+
+public:
+    std::vector<bool> isOnlyInA;
+    std::vector<bool> isOnlyInB;
+
+private:
+    using Pairs = std::vector<std::pair<std::size_t, std::size_t>>;
+
+    void Match(std::size_t lineA, std::size_t lineB) {
+        isOnlyInA[lineA] = false;
+        isOnlyInB[lineB] = false;
+    }
+
+    /// The longest row, ascending in both, of lines that stand once in each block.
+    [[nodiscard]] Pairs Anchors(Block blockA, Block blockB) const {
+        struct Count {
+            std::size_t inA = 0;
+            std::size_t inB = 0;
+            std::size_t lineB = 0;
+        };
+        std::unordered_map<std::string_view, Count> counts;
+        for (std::size_t i = blockA.first; i < blockA.last; ++i)
+            ++counts[m_a[i]].inA;
+        for (std::size_t i = blockB.first; i < blockB.last; ++i) {
+            Count& count = counts[m_b[i]];
+            ++count.inB;
+            count.lineB = i;
+        }
+        Pairs once;
+        for (std::size_t i = blockA.first; i < blockA.last; ++i) {
+            const Count& count = counts[m_a[i]];
+            if (count.inA == 1 && count.inB == 1)
+                once.emplace_back(i, count.lineB);
+        }
+        // The longest ascending row: the piles of the card game, each card with the one below it.
+        std::vector<std::size_t> piles;
+        std::vector<std::size_t> below(once.size());
+        for (std::size_t i = 0; i < once.size(); ++i) {
+            const auto pile =
+                std::lower_bound(piles.begin(), piles.end(), once[i].second,
+                                 [&](std::size_t top, std::size_t line) { return once[top].second < line; });
+            below[i] = pile == piles.begin() ? once.size() : *(pile - 1);
+            if (pile == piles.end())
+                piles.push_back(i);
+            else
+                *pile = i;
+        }
+        Pairs row;
+        for (std::size_t at = piles.empty() ? once.size() : piles.back(); at < once.size(); at = below[at])
+            row.push_back(once[at]);
+        std::reverse(row.begin(), row.end());
+        return row;
+    }
+
+    /// The longest common row of two small blocks; large ones count as replaced.
+    void MatchSmall(Block blockA, Block blockB) {
+        const std::size_t rows = blockA.last - blockA.first;
+        const std::size_t columns = blockB.last - blockB.first;
+        constexpr std::size_t largest = 1U << 20U;
+        if (rows > largest / columns)
+            return;
+        std::vector<std::size_t> length((rows + 1) * (columns + 1), 0);
+        const auto at = [&](std::size_t i, std::size_t j) -> std::size_t& {
+            return length[i * (columns + 1) + j];
+        };
+        for (std::size_t i = rows; i-- > 0;)
+            for (std::size_t j = columns; j-- > 0;)
+                at(i, j) = m_a[blockA.first + i] == m_b[blockB.first + j]
+                               ? at(i + 1, j + 1) + 1
+                               : std::max(at(i + 1, j), at(i, j + 1));
+        for (std::size_t i = 0, j = 0; i < rows && j < columns;) {
+            if (m_a[blockA.first + i] == m_b[blockB.first + j])
+                Match(blockA.first + i++, blockB.first + j++);
+            else if (at(i + 1, j) >= at(i, j + 1))
+                ++i;
+            else
+                ++j;
+        }
+    }
+};
+
+/// "12,7": the first line and the number of lines of a hunk.
+std::string Range(std::size_t first, std::size_t count) {
+    std::string text = std::to_string(count == 0 ? first : first + 1);
+    return count == 1 ? text : text + "," + std::to_string(count);
+}
+
+void AddLine(std::string& hunk, char sign, std::string_view line) {
+    hunk += sign;
+    hunk += line;
+    if (!line.ends_with('\n'))
+        hunk += "\n\\ No newline at end of file\n";
+}
+
+} // namespace
+
+std::string UnifiedDiff(const std::string& name, std::string_view before, std::string_view after) {
+    if (before == after)
+        return {};
+    constexpr std::size_t around = 3;
+    const Lines a = SplitLines(before);
+    const Lines b = SplitLines(after);
+    const Comparison comparison(a, b);
+    std::string diff = "--- " + (before.empty() ? "/dev/null" : name) + "\n+++ " + name + "\n";
+    std::size_t i = 0;
+    std::size_t j = 0;
+    const auto isSame = [&] {
+        return i < a.size() && j < b.size() && !comparison.isOnlyInA[i] && !comparison.isOnlyInB[j];
+    };
+    while (i < a.size() || j < b.size()) {
+        std::size_t same = 0; // lines before the next change
+        while (isSame())
+            ++i, ++j, ++same;
+        if (i == a.size() && j == b.size())
+            break;
+        const std::size_t leading = std::min(same, around);
+        const std::size_t firstA = i - leading;
+        const std::size_t firstB = j - leading;
+        std::string hunk;
+        for (std::size_t line = firstA; line < i; ++line)
+            AddLine(hunk, ' ', a[line]);
+        for (bool goesOn = true; goesOn;) {
+            while (i < a.size() && comparison.isOnlyInA[i])
+                AddLine(hunk, '-', a[i++]);
+            while (j < b.size() && comparison.isOnlyInB[j])
+                AddLine(hunk, '+', b[j++]);
+            const std::size_t startA = i;
+            const std::size_t startB = j;
+            while (isSame() && i - startA <= 2 * around)
+                ++i, ++j;
+            const bool isEnd = i == a.size() && j == b.size();
+            goesOn = i - startA <= 2 * around && !isEnd; // another change is near
+            const std::size_t kept = goesOn ? i - startA : std::min(i - startA, around);
+            i = startA + kept;
+            j = startB + kept;
+            for (std::size_t line = startA; line < i; ++line)
+                AddLine(hunk, ' ', a[line]);
+        }
+        diff += "@@ -" + Range(firstA, i - firstA) + " +" + Range(firstB, j - firstB) + " @@\n" + hunk;
+    }
+    return diff;
+}
+
+} // namespace quorconv

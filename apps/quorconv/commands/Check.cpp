@@ -1,0 +1,264 @@
+#include "apps/quorconv/commands/Rows.h"
+
+#include "QuorIniFile/QuorError.h"
+#include "QuorIniFile/Utf8.h"
+#include "QuorProbeFile/ProbeNames.h"
+#include "QuorProbeFile/ProbeWarning.h"
+#include "apps/quorconv/HostFile.h"
+#include "apps/quorconv/Json.h"
+#include "apps/quorconv/Nearest.h"
+#include "apps/quorconv/Progress.h"
+#include "apps/quorconv/Selection.h"
+
+#include <algorithm>
+#include <iostream>
+#include <set>
+#include <unordered_set>
+#include <utility>
+
+#include <unistd.h>
+
+namespace quorconv {
+
+using namespace QuorProbeFile;
+using QuorIniFile::ToPrintable;
+
+namespace {
+
+/// The short words by which programs tell problems apart; those of warnings stand in their own table.
+const std::pair<EProbeProblem, const wchar_t*> problemIds[] = {
+    {PROBLEM_SECTION_MISSING, L"section-missing"},
+    {PROBLEM_KEY_MISSING, L"key-missing"},
+    {PROBLEM_VALUE_UNREADABLE, L"value-unreadable"},
+    {PROBLEM_UNKNOWN_TYPE, L"unknown-type"},
+    {PROBLEM_RECORD_REFUSED, L"record-refused"},
+    {PROBLEM_VALUE_REFUSED, L"value-refused"},
+    {PROBLEM_VALUE_REPLACED, L"value-replaced"},
+    {PROBLEM_UNKNOWN_KEY, L"unknown-key"},
+    {PROBLEM_DUPLICATE_KEY, L"duplicate-key"},
+    {PROBLEM_DUPLICATE_SECTION, L"duplicate-section"},
+    {PROBLEM_UNCLOSED_HEADER, L"unclosed-header"},
+    {PROBLEM_MALFORMED_LINE, L"malformed-line"},
+    {PROBLEM_KEPT_FILE, L"kept-file"},
+    {PROBLEM_INTERRUPTED_SAVE, L"interrupted-save"},
+};
+
+std::wstring IdOf(const ProbeProblem& problem) {
+    if (const ProbeWarning* const warning = FindWarning(problem.kind))
+        return warning->id;
+    const auto* const found = std::find_if(std::begin(problemIds), std::end(problemIds),
+                                           [&](const auto& row) { return row.first == problem.kind; });
+    return found == std::end(problemIds) ? std::to_wstring(problem.kind) : found->second;
+}
+
+/// One problem of a file, or what keeps the file from being read.
+struct Finding {
+    std::wstring file;
+    std::size_t line = 0;
+    std::wstring section;
+    std::wstring key;
+    std::wstring id;
+    std::wstring text;
+    bool isWarning = false;
+};
+
+/// "[section] key: text"
+std::wstring Told(const Finding& finding) {
+    if (finding.line == 0)
+        return finding.text;
+    return L"[" + finding.section + L"] " + (finding.key.empty() ? L"" : finding.key + L": ") + finding.text;
+}
+
+/// How findings are printed.
+class Report {
+public:
+    Report() = default;
+    Report(const Report&) = delete;
+    Report& operator=(const Report&) = delete;
+    virtual ~Report() = default;
+    virtual void Print(const Finding& finding) = 0;
+    virtual void Finish() {}
+};
+
+class TextReport final : public Report {
+    void Print(const Finding& finding) override {
+        std::cout << ToPrintable(finding.file) << ':';
+        if (finding.line != 0)
+            std::cout << finding.line << ':';
+        std::cout << ' ';
+        if (finding.isWarning)
+            std::cout << (m_isColoured ? "\x1B[33mwarning:\x1B[0m " : "warning: ");
+        else if (m_isColoured)
+            std::cout << "\x1B[31m";
+        std::cout << ToPrintable(Told(finding));
+        if (finding.isWarning)
+            std::cout << ToPrintable(L" [" + finding.id + L"]");
+        else if (m_isColoured)
+            std::cout << "\x1B[0m";
+        std::cout << '\n';
+    }
+    bool m_isColoured = ShowsColour(STDOUT_FILENO);
+};
+
+/// As compilers do, for editors that go to a line.
+class CompilerReport final : public Report {
+    void Print(const Finding& finding) override {
+        std::cout << ToPrintable(finding.file) << ':' << std::max<std::size_t>(finding.line, 1)
+                  << ":1: " << (finding.isWarning ? "warning: " : "error: ")
+                  << ToPrintable(Told(finding) + L" [" + finding.id + L"]") << '\n';
+    }
+};
+
+/// Workflow commands, which a build server shows beside the line.
+class WorkflowReport final : public Report {
+    /// The characters that would end a value or the command.
+    static std::string Escaped(const std::wstring& text, bool isProperty) {
+        std::string escaped;
+        for (const char character : ToPrintable(text)) {
+            if (character == '%')
+                escaped += "%25";
+            else if (isProperty && character == ':')
+                escaped += "%3A";
+            else if (isProperty && character == ',')
+                escaped += "%2C";
+            else
+                escaped += character;
+        }
+        return escaped;
+    }
+    void Print(const Finding& finding) override {
+        std::cout << (finding.isWarning ? "::warning file=" : "::error file=") << Escaped(finding.file, true)
+                  << ",line=" << std::max<std::size_t>(finding.line, 1)
+                  << ",title=" << Escaped(finding.id, true) << "::" << Escaped(Told(finding), false) << '\n';
+    }
+};
+
+class JsonReport final : public Report {
+    void Print(const Finding& finding) override {
+        std::cout << (std::exchange(m_isFirst, false) ? "[\n  " : ",\n  ")
+                  << "{\"file\": " << JsonText(finding.file) << ", \"line\": " << finding.line
+                  << ", \"section\": " << JsonText(finding.section) << ", \"key\": " << JsonText(finding.key)
+                  << ", \"id\": " << JsonText(finding.id)
+                  << ", \"severity\": " << (finding.isWarning ? "\"warning\"" : "\"error\"")
+                  << ", \"text\": " << JsonText(finding.text) << '}';
+    }
+    void Finish() override { std::cout << (m_isFirst ? "[]\n" : "\n]\n"); }
+    bool m_isFirst = true;
+};
+
+template <class R>
+std::unique_ptr<Report> Make() {
+    return std::make_unique<R>();
+}
+
+const struct {
+    const char* name;
+    std::unique_ptr<Report> (*make)();
+} formats[] = {{"text", Make<TextReport>},
+               {"gcc", Make<CompilerReport>},
+               {"github", Make<WorkflowReport>},
+               {"json", Make<JsonReport>}};
+
+class Check final : public Command {
+    std::vector<std::wstring> m_paths;
+    Selection m_selection;
+    std::vector<std::wstring> m_ignoredIds;
+    std::wstring m_format;
+    bool m_isStrict = false;
+    bool m_isJson = false;
+
+    void Declare(Arguments& arguments) override {
+        arguments.Rest("FILE", m_paths, 1, Meaning::File, "The files");
+        arguments.Flag("--strict", m_isStrict, "End with 1 for a warning, too");
+        arguments.Options("--ignore", "ID", m_ignoredIds, Meaning::Text,
+                          "Do not tell the warnings of that ID; may stand several times");
+        arguments.Options("--section", "SECTION", m_selection.patterns, Meaning::Section,
+                          "Only that probe, or those like a pattern with * and ?; may stand several times");
+        m_selection.DeclareType(arguments);
+        arguments.Choice("--format", m_format, {"text", "gcc", "github", "json"},
+                         "How problems are printed: for people, as a compiler, for a build server, as JSON");
+        arguments.Flag("--json", m_isJson, "The same as --format json");
+    }
+
+    ExitCode Run() override {
+        const std::set<std::wstring> ignored = Ignored();
+        if (m_isJson)
+            m_format = L"json";
+        const auto* const format =
+            std::find_if(std::begin(formats), std::end(formats),
+                         [&](const auto& known) { return m_format == QuorIniFile::DecodeBytes(known.name); });
+        const auto report = format->make();
+        bool isFine = true;
+        for (const std::wstring& path : m_paths) {
+            try {
+                for (const Finding& finding : Findings(path)) {
+                    if (finding.isWarning && ignored.contains(finding.id))
+                        continue;
+                    isFine = isFine && finding.isWarning && !m_isStrict;
+                    report->Print(finding);
+                }
+            } catch (const QuorIniFile::QuorError& error) {
+                report->Print({path, 0, {}, {}, L"file-unreadable", error.Description(), false});
+                isFine = false;
+            }
+        }
+        report->Finish();
+        if (IsSelecting())
+            TellCount(m_count, L"probe", "checked");
+        return isFine ? fine : problemFound;
+    }
+
+    [[nodiscard]] bool IsSelecting() const { return m_selection.type || !m_selection.patterns.empty(); }
+
+    [[nodiscard]] std::vector<Finding> Findings(const std::wstring& path) {
+        HostFile file(path);
+        std::unordered_set<std::wstring> chosen;
+        if (IsSelecting()) {
+            for (const std::wstring& section : m_selection.In(*file))
+                chosen.insert(Folded(section));
+            m_count += chosen.size();
+        }
+        std::vector<Finding> findings;
+        for (const ProbeProblem& problem : file->Check()) {
+            if (!IsSelecting() || IsOf(problem.section, chosen))
+                findings.push_back({path, problem.line, problem.section, problem.key, IdOf(problem),
+                                    problem.text, problem.IsWarning()});
+        }
+        return findings;
+    }
+
+    /// Whether a section is that of a probe, or of its settings.
+    static bool IsOf(const std::wstring& section, const std::unordered_set<std::wstring>& probes) {
+        const auto owners = PossibleOwners(section);
+        return probes.contains(Folded(section)) ||
+               std::any_of(owners.begin(), owners.end(), [&](const std::wstring_view owner) {
+                   return probes.contains(Folded(std::wstring(owner)));
+               });
+    }
+
+    [[nodiscard]] std::set<std::wstring> Ignored() const {
+        for (const std::wstring& id : m_ignoredIds) {
+            if (FindWarning(id))
+                continue;
+            std::vector<std::wstring> known;
+            for (const ProbeWarning& warning : Warnings())
+                known.push_back(warning.id);
+            throw UsageError{L"there is no warning \"" + id + L"\"; each ends with its id in brackets" +
+                             DidYouMean(id, known)};
+        }
+        return {m_ignoredIds.begin(), m_ignoredIds.end()};
+    }
+
+    std::size_t m_count = 0;
+};
+
+} // namespace
+
+const CommandRow checkRow{
+    "check",
+    "Check every probe of the files; each problem is a line FILE:LINE: [SECTION] KEY: ...,\n"
+    "each value that can hardly be meant FILE:LINE: warning: ... [ID]",
+    {"quorconv check laboratory.ini *.cvd", "quorconv check laboratory.ini --type cvd --json"},
+    Create<Check>};
+
+} // namespace quorconv

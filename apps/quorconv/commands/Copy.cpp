@@ -1,0 +1,59 @@
+#include "apps/quorconv/commands/Rows.h"
+
+#include "apps/quorconv/HostFile.h"
+#include "apps/quorconv/Selection.h"
+#include "apps/quorconv/Steps.h"
+
+namespace quorconv {
+
+using QuorProbeFile::ProbeFile;
+
+namespace {
+
+class Copy final : public Command {
+    std::wstring m_from;
+    std::wstring m_to;
+    std::optional<std::wstring> m_name;
+    std::wstring m_section;
+    Selection m_selection;
+    bool m_replaces = false;
+    bool m_isDryRun = false;
+
+    void Declare(Arguments& arguments) override {
+        arguments.One("FILE", m_from, Meaning::File, "The file to copy from");
+        arguments.One("SECTION", m_section, Meaning::Section,
+                      "The section to copy from, or a pattern with * and ? for several");
+        arguments.One("TO-FILE", m_to, Meaning::File, "The file to copy to");
+        arguments.Maybe("TO-SECTION", m_name, Meaning::Text,
+                        "The section to copy to; without it the probes keep their names");
+        m_selection.DeclareType(arguments);
+        arguments.Flag("--replace", m_replaces, "Write over probes of the same type that stand there");
+        DeclareDryRun(arguments, m_isDryRun);
+    }
+
+    ExitCode Run() override {
+        m_selection.patterns = {m_section};
+        if (m_name && m_selection.IsMany())
+            throw UsageError{L"several probes keep their names: no TO-SECTION"};
+        HostFile from(m_from);
+        HostFile to(m_to, ProbeFile::Opening::OrNew);
+        const auto sections = m_selection.In(*from);
+        to.Edit(m_isDryRun, [&] {
+            for (const std::wstring& section : sections)
+                CopyProbe(*from, section, *to, m_name.value_or(section), m_replaces);
+        });
+        if (m_selection.IsMany())
+            TellCount(sections.size(), L"probe", m_isDryRun ? "would be copied" : "copied");
+        return fine;
+    }
+};
+
+} // namespace
+
+const CommandRow copyRow{"copy",
+                         "Copy a probe, or all that are like a pattern, to the same or another file",
+                         {"quorconv copy prt-1188.cvd \"Callendar-Van Dusen\" laboratory.ini \"Probe 38\"",
+                          "quorconv copy laboratory.ini \"*\" --type cvd platinum.ini"},
+                         Create<Copy>};
+
+} // namespace quorconv

@@ -1,0 +1,109 @@
+#include "apps/quorconv/commands/Rows.h"
+
+#include "QuorIniFile/Utf8.h"
+#include "QuorProbeFile/RecordValue.h"
+#include "apps/quorconv/HostFile.h"
+#include "apps/quorconv/Json.h"
+#include "apps/quorconv/Probe.h"
+#include "apps/quorconv/ProbeValues.h"
+#include "apps/quorconv/Progress.h"
+
+#include <iostream>
+#include <utility>
+
+#include <unistd.h>
+
+namespace quorconv {
+
+using namespace QuorProbeFile;
+using QuorIniFile::ToPrintable;
+
+namespace {
+
+class Diff final : public Command {
+    std::wstring m_before;
+    std::wstring m_after;
+    bool m_isJson = false;
+    bool m_isColoured = false;
+    bool m_differs = false;
+
+    void Declare(Arguments& arguments) override {
+        arguments.One("FILE", m_before, Meaning::File, "A file");
+        arguments.One("OTHER", m_after, Meaning::File, "Another one");
+        arguments.Flag("--json", m_isJson, "Print a JSON array of what differs");
+    }
+
+    /// Exit codes of a comparison: 0 the same, 1 different, 2 it could not be made.
+    [[nodiscard]] ExitCode Failure() const override { return wrongUsage; }
+
+    ExitCode Run() override {
+        HostFile beforeFile(m_before);
+        HostFile afterFile(m_after);
+        const ProbeTable before(*beforeFile);
+        const ProbeTable after(*afterFile);
+        m_isColoured = !m_isJson && ShowsColour(STDOUT_FILENO);
+        for (const ProbeValues& probe : before.Probes()) {
+            const ProbeValues* const now = after.Find(probe.section);
+            if (!now)
+                PrintProbe('-', "removed", probe);
+            else if (now->code != probe.code)
+                Print(probe.section, L"ConversionType", TypeName(probe.code), TypeName(now->code));
+            else
+                for (const ValueChange& change : ChangesOf(probe, *now))
+                    Print(probe.section, change.key, TextOf(change.before), TextOf(change.after));
+        }
+        for (const ProbeValues& probe : after.Probes()) {
+            if (!before.Find(probe.section))
+                PrintProbe('+', "added", probe);
+        }
+        if (m_isJson)
+            std::cout << (m_differs ? "\n]\n" : "[]\n");
+        return m_differs ? problemFound : fine;
+    }
+
+    static std::optional<std::wstring> TextOf(const Value* value) {
+        return value ? std::optional(ToText(*value)) : std::nullopt;
+    }
+
+    void BeginJson(const std::wstring& section, const char* change) {
+        std::cout << (std::exchange(m_differs, true) ? ",\n  " : "[\n  ")
+                  << "{\"section\": " << JsonText(section) << ", \"change\": \"" << change << '"';
+    }
+
+    void PrintProbe(char sign, const char* change, const ProbeValues& probe) {
+        if (m_isJson) {
+            BeginJson(probe.section, change);
+            std::cout << ", \"type\": " << JsonText(TypeName(probe.code)) << '}';
+            return;
+        }
+        m_differs = true;
+        const char* const colour = sign == '-' ? "\x1B[31m" : "\x1B[32m";
+        std::cout << (m_isColoured ? colour : "") << sign << ' '
+                  << ToPrintable(L"[" + probe.section + L"] " + TypeName(probe.code))
+                  << (m_isColoured ? "\x1B[0m\n" : "\n");
+    }
+
+    void Print(const std::wstring& section, const std::wstring& key,
+               const std::optional<std::wstring>& before, const std::optional<std::wstring>& after) {
+        if (m_isJson) {
+            BeginJson(section, "changed");
+            std::cout << ", \"key\": " << JsonText(key)
+                      << ", \"before\": " << (before ? JsonText(*before) : "null")
+                      << ", \"after\": " << (after ? JsonText(*after) : "null") << '}';
+            return;
+        }
+        m_differs = true;
+        std::cout << ToPrintable(L"  [" + section + L"] " + key + L": " + before.value_or(L"(none)") +
+                                 L" -> " + after.value_or(L"(none)"))
+                  << '\n';
+    }
+};
+
+} // namespace
+
+const CommandRow diffRow{"diff",
+                         "Compare two files by probes and values; ends with 0 for the same, 1 for different",
+                         {"quorconv diff laboratory.ini laboratory-2024.ini"},
+                         Create<Diff>};
+
+} // namespace quorconv

@@ -1,0 +1,108 @@
+#include "apps/quorconv/commands/Rows.h"
+
+#include "QuorIniFile/Utf8.h"
+#include "apps/quorconv/HostFile.h"
+#include "apps/quorconv/Records.h"
+#include "apps/quorconv/Selection.h"
+#include "toolkits/scripted/Script.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+
+#include <unistd.h>
+
+namespace quorconv {
+
+namespace Scripted = QuorConversions::Scripted;
+
+namespace {
+
+UsageError NeedsScript(const std::wstring& why) {
+    return {L"edit needs --script FILE or --show here: " + why + L". A script has a command a line:",
+            {L"type R0 100.0123", L"click OK"}};
+}
+
+/// Whether a window can be shown.
+bool HasDisplay() {
+    for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        const char* const value = std::getenv(name);
+        if (value != nullptr && *value != '\0')
+            return true;
+    }
+    return false;
+}
+
+/// Goes on as probe-edit, the program with the windows: that beside this one, or the one that is installed.
+[[noreturn]] void BecomeProbeEdit(const std::wstring& path, const std::wstring& section) {
+    std::error_code ignored;
+    const auto beside = std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path() / "probe-edit";
+    std::string file = QuorIniFile::ToUtf8(path);
+    std::string name = QuorIniFile::ToUtf8(section);
+    std::string separator = "--"; // a name may begin with "-"
+    for (std::string program : {beside.string(), std::string("probe-edit")}) {
+        char* const arguments[] = {program.data(), separator.data(), file.data(), name.data(), nullptr};
+        ::execvp(arguments[0], arguments);
+    }
+    throw NeedsScript(L"the program \"probe-edit\" is not installed; the package \"probe-edit\" has it");
+}
+
+class Edit final : public Command {
+    std::wstring m_path;
+    std::wstring m_section;
+    std::optional<std::wstring> m_script;
+    bool m_show = false;
+
+    void Declare(Arguments& arguments) override {
+        arguments.One("FILE", m_path, Meaning::File, "The INI file");
+        arguments.One("SECTION", m_section, Meaning::Section, "The section of the probe");
+        arguments.Option(
+            "--script", "FILE", m_script, Meaning::File,
+            "What the person does, a command a line: type R0 100.0123, choose Type K, click OK;\n"
+            "without it the dialog opens on the screen");
+        arguments.Flag("--show", m_show, "Print the dialog as text, as it opens");
+    }
+
+    ExitCode Run() override {
+        if (m_path == standardInput)
+            throw UsageError{L"edit needs a file: a dialog takes the time of a person"};
+        if (m_script || m_show)
+            Play();
+        else if (HasDisplay())
+            BecomeProbeEdit(m_path, m_section);
+        else
+            throw NeedsScript(L"there is no display");
+        return fine;
+    }
+
+    void Play() {
+        QuorProbeFile::ProbeFile file(m_path);
+        Probe probe = ReadProbeWithSettings(file, SpelledInFile(file, m_section));
+        std::wstring commands = m_show ? L"show\n" : L"";
+        commands += m_script ? QuorIniFile::DecodeBytes(ReadAll(*m_script)) : L"escape";
+        const std::size_t added = m_show ? 1 : 0; // lines that the script does not have
+        try {
+            Scripted::Script(commands, added).PlayOn(probe.Screen(), [](const std::wstring& screen) {
+                std::cout << QuorIniFile::ToUtf8(screen);
+            });
+        } catch (const Scripted::ScriptError& error) {
+            throw Problem{m_script.value_or(L"") + L": " + error.text};
+        }
+        const bool accepted = probe.Settings()->Edit();
+        if (const auto& complaints = probe.Screen().Complaints(); !complaints.empty())
+            throw Problem{Place(m_path, m_section) + L": the dialog did not go as the script says",
+                          complaints};
+        if (accepted)
+            WriteEdited(probe, file);
+    }
+};
+
+} // namespace
+
+const CommandRow editRow{"edit",
+                         "Edit a probe in its dialog, on the screen or as a script says",
+                         {"quorconv edit laboratory.ini \"Probe 9 PRT-1182\" --script steps.txt"},
+                         Create<Edit>};
+
+} // namespace quorconv

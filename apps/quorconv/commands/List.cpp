@@ -1,0 +1,60 @@
+#include "apps/quorconv/commands/Rows.h"
+
+#include "QuorIniFile/Utf8.h"
+#include "apps/quorconv/HostFile.h"
+#include "apps/quorconv/Json.h"
+#include "apps/quorconv/Probe.h"
+
+#include <iostream>
+
+namespace quorconv {
+
+using QuorIniFile::ToPrintable;
+using QuorProbeFile::ProbeEntry;
+
+namespace {
+
+class List final : public Command {
+    std::wstring m_path;
+    bool m_isJson = false;
+
+    void Declare(Arguments& arguments) override {
+        arguments.One("FILE", m_path, Meaning::File, "The INI file");
+        arguments.Flag("--json", m_isJson, "Print a JSON array of section, type, code, name and line");
+    }
+
+    ExitCode Run() override {
+        HostFile file(m_path);
+        if (m_isJson)
+            PrintJson(file);
+        else
+            for (const ProbeEntry& probe : file->Probes())
+                std::cout << ToPrintable(probe.section) << '\t'
+                          << ToPrintable(probe.type ? TypeName(*probe.type) : L"?") << '\t'
+                          << ToPrintable(probe.type ? file->ConversionName(probe) : L"?") << '\n';
+        return fine;
+    }
+
+    static void PrintJson(HostFile& file) {
+        const char* separator = "";
+        std::cout << '[';
+        for (const ProbeEntry& probe : file->Probes()) {
+            std::cout << std::exchange(separator, ",") << "\n  {\"section\": " << JsonText(probe.section);
+            if (probe.type)
+                std::cout << ", \"code\": " << *probe.type
+                          << ", \"type\": " << JsonText(TypeName(*probe.type))
+                          << ", \"name\": " << JsonText(file->ConversionName(probe));
+            else
+                std::cout << ", \"code\": null, \"type\": null, \"name\": null";
+            std::cout << ", \"line\": " << probe.line << '}';
+        }
+        std::cout << (*separator != '\0' ? "\n]\n" : "]\n");
+    }
+};
+
+} // namespace
+
+const CommandRow listRow{
+    "list", "List the probes of a file: section, type, name", {"quorconv list laboratory.ini"}, Create<List>};
+
+} // namespace quorconv

@@ -1,0 +1,147 @@
+#include "apps/quorconv/commands/Rows.h"
+
+#include "apps/quorconv/HostFile.h"
+#include "apps/quorconv/ProbeValues.h"
+#include "apps/quorconv/Records.h"
+#include "apps/quorconv/Selection.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace quorconv {
+
+using namespace QuorProbeFile;
+
+namespace {
+
+class Merge final : public Command {
+    std::wstring m_base;
+    std::wstring m_ours;
+    std::wstring m_theirs;
+    bool m_isDryRun = false;
+
+    void Declare(Arguments& arguments) override {
+        arguments.One("BASE", m_base, Meaning::File, "The file from which both come");
+        arguments.One("FILE", m_ours, Meaning::File, "The file that gets the changes");
+        arguments.One("OTHER", m_theirs, Meaning::File, "The file whose changes since BASE it gets");
+        DeclareDryRun(arguments, m_isDryRun);
+    }
+
+    ExitCode Run() override {
+        HostFile baseFile(m_base);
+        HostFile theirFile(m_theirs);
+        HostFile file(m_ours);
+        const ProbeTable base(*baseFile);
+        const ProbeTable theirs(*theirFile);
+        std::size_t count = 0;
+        file.Edit(m_isDryRun, [&] {
+            const ProbeTable ours(*file);
+            std::vector<std::wstring> conflicts;
+            std::vector<std::pair<const ProbeValues*, std::vector<ValueChange>>> written; // of theirs
+            std::vector<std::wstring> removed;
+            for (const ProbeValues& their : theirs.Probes())
+                MergeProbe(base.Find(their.section), ours.Find(their.section), their, written, conflicts);
+            for (const ProbeValues& old : base.Probes()) {
+                const ProbeValues* const our = ours.Find(old.section);
+                if (theirs.Find(old.section) || !our)
+                    continue;
+                if (SameValues(*our, old))
+                    removed.push_back(our->section);
+                else
+                    conflicts.push_back(L"[" + old.section + L"]: changed here, removed in " + m_theirs);
+            }
+            if (!conflicts.empty())
+                throw Problem{m_ours + L": nothing was written, because both files have changed the same",
+                              std::move(conflicts)};
+            for (const auto& [their, changes] : written)
+                Write(*file, *theirFile, *their, changes);
+            for (const std::wstring& section : removed)
+                file->Remove(section);
+            count = written.size() + removed.size();
+        });
+        TellCount(count, L"probe", m_isDryRun ? "would be merged" : "merged");
+        return fine;
+    }
+
+    /// Decides what becomes of a probe of theirs.
+    void MergeProbe(const ProbeValues* base, const ProbeValues* our, const ProbeValues& their,
+                    std::vector<std::pair<const ProbeValues*, std::vector<ValueChange>>>& written,
+                    std::vector<std::wstring>& conflicts) const {
+        const std::wstring place = L"[" + their.section + L"]";
+        if ((our && SameValues(*our, their)) || (base && SameValues(*base, their)))
+            return; // they have changed nothing, or we the same
+        if (!our && base)
+            conflicts.push_back(place + L": removed here, changed in " + m_theirs);
+        else if (!our || (base && SameValues(*base, *our)))
+            written.push_back({&their, {}});
+        else if (!base)
+            conflicts.push_back(place + L": added in both files, with different values");
+        else if (base->code != their.code || base->code != our->code)
+            conflicts.push_back(place + L" ConversionType: changed in one file, and the record in the other");
+        else
+            MergeValues(*base, *our, their, place, written, conflicts);
+    }
+
+    void MergeValues(const ProbeValues& base, const ProbeValues& our, const ProbeValues& their,
+                     const std::wstring& place,
+                     std::vector<std::pair<const ProbeValues*, std::vector<ValueChange>>>& written,
+                     std::vector<std::wstring>& conflicts) const {
+        const auto ourChanges = ChangesOf(base, our);
+        std::vector<ValueChange> changes; // that we have not made as well
+        bool isFine = true;
+        for (ValueChange& change : ChangesOf(base, their)) {
+            const auto mine = std::find_if(ourChanges.begin(), ourChanges.end(),
+                                           [&](const ValueChange& one) { return one.key == change.key; });
+            if (mine == ourChanges.end()) {
+                changes.push_back(std::move(change));
+                continue;
+            }
+            const bool isSame = mine->after && change.after ? SameValue(*mine->after, *change.after)
+                                                            : !mine->after && !change.after;
+            if (isSame)
+                continue;
+            conflicts.push_back(place + L" " + change.key + L": " + TextOf(change.before) + L" is " +
+                                TextOf(mine->after) + L" here and " + TextOf(change.after) + L" in " +
+                                m_theirs);
+            isFine = false;
+        }
+        // A count that has become smaller takes coefficients away that the other file may have changed.
+        const bool isShorter = std::any_of(changes.begin(), changes.end(),
+                                           [](const ValueChange& change) { return !change.after; });
+        if (isFine && isShorter) {
+            conflicts.push_back(place + L": other keys in " + m_theirs + L", and other values here");
+            isFine = false;
+        }
+        if (isFine && !changes.empty())
+            written.push_back({&their, std::move(changes)});
+    }
+
+    static std::wstring TextOf(const Value* value) { return value ? ToText(*value) : L"(none)"; }
+
+    /// Writes those changes of theirs, or all of the probe where there are none.
+    static void Write(ProbeFile& file, ProbeFile& theirFile, const ProbeValues& their,
+                      const std::vector<ValueChange>& changes) {
+        if (changes.empty()) {
+            const Probe probe = ReadProbe(theirFile, their.section);
+            file.Write(their.section, probe.Conversion());
+            return;
+        }
+        std::vector<Assignment> values;
+        for (const ValueChange& change : changes)
+            values.push_back({change.key, ToText(*change.after)});
+        Probe probe = ReadProbe(file, their.section, values);
+        Assign(probe, file.Path(), values, ValueRules{true});
+        file.Write(their.section, probe.Conversion());
+    }
+};
+
+} // namespace
+
+const CommandRow mergeRow{
+    "merge",
+    "Bring the changes of another file since a common base into a file, or tell conflicts",
+    {"quorconv merge laboratory-2024.ini laboratory.ini from-the-field.ini --dry-run"},
+    Create<Merge>};
+
+} // namespace quorconv

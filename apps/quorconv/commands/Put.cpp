@@ -1,0 +1,171 @@
+#include "apps/quorconv/commands/Rows.h"
+
+#include "QuorProbeFile/ProbeNames.h"
+#include "apps/quorconv/Batch.h"
+#include "apps/quorconv/HostFile.h"
+#include "apps/quorconv/ProbeCsv.h"
+#include "apps/quorconv/ProbeJson.h"
+#include "apps/quorconv/Progress.h"
+#include "apps/quorconv/Selection.h"
+#include "apps/quorconv/Steps.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace quorconv {
+
+using namespace QuorProbeFile;
+
+namespace {
+
+/// A probe that was read, and where.
+struct Entry {
+    std::wstring place;
+    std::wstring section;
+    std::wstring type;
+    std::vector<Assignment> values;
+};
+
+/// Whether a section is there; a file that is still to be created has none.
+bool HasSection(ProbeFile& file, const std::wstring& section) {
+    try {
+        return file.Store()->HasSection(section);
+    } catch (const QuorIniFile::QuorError& error) {
+        if (error.Number() != QuorIniFile::ERR_FILE_NOT_FOUND)
+            throw;
+        return false;
+    }
+}
+
+/// Writes a probe: over one of the same type, whose other values stay, or a new one, of which each value
+/// must be given.
+void PutProbe(ProbeFile& file, const Entry& entry, const ValueRules& rules) {
+    const TypeInfo& type = RequireSettingsType(entry.type);
+    if (HasSection(file, entry.section)) {
+        Probe present = ReadProbe(file, entry.section, entry.values);
+        if (present.Conversion().ConversionType() != type.code)
+            throw Problem{Place(file.Path(), entry.section) + L": there is a probe of another type (" +
+                          present.TypeName() + L") in this section; \"retype\" changes that"};
+        Assign(present, file.Path(), entry.values, rules);
+        file.Write(entry.section, present.Conversion());
+        return;
+    }
+    RequireName(file.Path(), entry.section);
+    Probe probe(entry.section);
+    probe.Conversion().SetConversionType(type.code);
+    Assign(probe, file.Path(), entry.values, rules);
+    if (probe.Settings()) {
+        const auto image = RecordImage::Of(*probe.Settings());
+        std::unordered_set<std::wstring> given;
+        for (const Assignment& value : entry.values)
+            given.insert(Folded(value.key));
+        for (const RecordImage::Entry& one : image->Entries()) {
+            if (!given.contains(Folded(one.path)))
+                throw Problem{Place(file.Path(), entry.section) + L" " + one.path +
+                              L": the value is missing, and the probe is a new one"};
+        }
+    }
+    file.Write(entry.section, probe.Conversion());
+}
+
+class Put final : public Command {
+    std::wstring m_path;
+    std::optional<std::wstring> m_from;
+    std::optional<std::wstring> m_type;
+    std::wstring m_decimal;
+    bool m_isJson = false;
+    bool m_isCsv = false;
+    ValueRules m_rules;
+    bool m_isDryRun = false;
+
+    void Declare(Arguments& arguments) override {
+        arguments.One("FILE", m_path, Meaning::File, "The INI file, which is created when it does not exist");
+        arguments.Maybe("INPUT", m_from, Meaning::File, "What to put; without it the standard input");
+        arguments.Flag("--json", m_isJson,
+                       "The input is JSON as \"show --json\" prints it: an object, an array, or JSON Lines");
+        arguments.Flag("--csv", m_isCsv, "The input is a table as \"export --csv\" prints it");
+        arguments.Option("--type", "TYPE", m_type, Meaning::Type, "The type of a table without the column");
+        arguments.Choice("--decimal", m_decimal, {"point", "comma"}, "The decimal sign of the table");
+        m_rules.Declare(arguments);
+        DeclareDryRun(arguments, m_isDryRun);
+    }
+
+    ExitCode Run() override {
+        if (m_isCsv == m_isJson)
+            throw UsageError{L"--json or --csv expected"};
+        const std::wstring from = m_from.value_or(standardInput);
+        const std::string text = ReadAll(from);
+        Batch batch(m_path, from);
+        const std::vector<Entry> entries =
+            m_isJson ? ReadJson(text, from, batch) : ReadTable(text, from, batch);
+        batch.RequireFine();
+        HostFile file(m_path, ProbeFile::Opening::OrNew);
+        file.Edit(m_isDryRun, [&] {
+            batch.Forget();
+            Progress progress(L"probes", entries.size());
+            for (const Entry& entry : entries) {
+                progress.Step();
+                if (!batch.Do(entry.place, [&] { PutProbe(*file, entry, m_rules); }))
+                    break;
+            }
+            batch.RequireFine();
+        });
+        TellCount(entries.size(), L"probe", m_isDryRun ? "would be put" : "put");
+        return fine;
+    }
+
+    /// Raises Problem for a section that stands twice: one of its probes would be lost.
+    static void RequireNew(std::unordered_set<std::wstring>& sections, const std::wstring& section) {
+        if (!sections.insert(Folded(section)).second)
+            throw Problem{L"[" + section + L"]: the section stands twice"};
+    }
+
+    static std::vector<Entry> ReadJson(const std::string& text, const std::wstring& from, Batch& batch) {
+        std::vector<Entry> entries;
+        std::unordered_set<std::wstring> sections;
+        const auto placeOf = [&](std::size_t line, std::size_t column) {
+            return from + L":" + std::to_wstring(line) + L":" + std::to_wstring(column) + L": ";
+        };
+        try {
+            ReadJsonObjects(text, [&](const JsonValue& object) {
+                try {
+                    JsonProbe probe = ReadJsonProbe(object);
+                    const std::wstring place = placeOf(object.line, object.column);
+                    batch.Do(place, [&] { RequireNew(sections, probe.section); });
+                    entries.push_back(
+                        {place, std::move(probe.section), std::move(probe.type), std::move(probe.values)});
+                } catch (const JsonError& error) {
+                    batch.Do(placeOf(error.line, error.column), [&] { throw Problem{error.text}; });
+                }
+            });
+        } catch (const JsonError& error) {
+            batch.Do(placeOf(error.line, error.column), [&] { throw Problem{error.text}; });
+        }
+        return entries;
+    }
+
+    [[nodiscard]] std::vector<Entry> ReadTable(const std::string& text, const std::wstring& from,
+                                               Batch& batch) const {
+        std::vector<Entry> entries;
+        std::unordered_set<std::wstring> sections;
+        batch.Do(L"", [&] {
+            ReadProbeTable(
+                text, from + L":", m_decimal == L"comma" ? DecimalSign::Comma : DecimalSign::Point,
+                m_type.value_or(L""), [&](const CsvProbe& probe) {
+                    batch.Do(batch.PlaceOf(probe.line), [&] { RequireNew(sections, probe.section); });
+                    entries.push_back({batch.PlaceOf(probe.line), probe.section, probe.type, probe.values});
+                });
+        });
+        return entries;
+    }
+};
+
+} // namespace
+
+const CommandRow putRow{"put",
+                        "Write probes that another program has made: all of them, or none",
+                        {"quorconv show laboratory.ini --json | quorconv put copy.ini --json",
+                         "quorconv put laboratory.ini certificates.csv --csv --decimal comma --dry-run"},
+                        Create<Put>};
+
+} // namespace quorconv

@@ -1,0 +1,52 @@
+#include "apps/quorconv/commands/Rows.h"
+
+#include "apps/quorconv/HostFile.h"
+#include "apps/quorconv/Selection.h"
+#include "apps/quorconv/Steps.h"
+
+namespace quorconv {
+namespace {
+
+class Remove final : public Command {
+    std::wstring m_path;
+    std::vector<std::wstring> m_also;
+    Selection m_selection;
+    bool m_isDryRun = false;
+
+    void Declare(Arguments& arguments) override {
+        arguments.One("FILE", m_path, Meaning::File, "The INI file");
+        arguments.Rest("SECTION", m_selection.patterns, 1, Meaning::Section,
+                       "The sections of the probes, or patterns with * and ?");
+        m_selection.DeclareType(arguments);
+        arguments.Options("--also", "FILE", m_also, Meaning::File,
+                          "The same in that file; may stand several times");
+        DeclareDryRun(arguments, m_isDryRun);
+    }
+
+    ExitCode Run() override {
+        std::vector<std::wstring> paths{m_path};
+        paths.insert(paths.end(), m_also.begin(), m_also.end());
+        std::size_t count = 0;
+        for (const std::wstring& path : paths) {
+            HostFile file(path);
+            file.Edit(m_isDryRun, [&] {
+                const auto sections = m_selection.In(*file);
+                RemoveProbes(*file, sections);
+                count += sections.size();
+            });
+        }
+        if (m_selection.IsMany() || paths.size() > 1)
+            TellCount(count, L"probe", m_isDryRun ? "would be removed" : "removed");
+        return fine;
+    }
+};
+
+} // namespace
+
+const CommandRow removeRow{"remove",
+                           "Remove probes with their settings; comments that stand apart stay",
+                           {"quorconv remove laboratory.ini \"Probe 9 PRT-1182\"",
+                            "quorconv remove laboratory.ini \"*\" --type tct --dry-run"},
+                           Create<Remove>};
+
+} // namespace quorconv

@@ -1,0 +1,109 @@
+#include "apps/quorconv/commands/Rows.h"
+
+#include "QuorIniFile/Utf8.h"
+#include "apps/quorconv/HostFile.h"
+#include "apps/quorconv/ProbeJson.h"
+#include "apps/quorconv/Progress.h"
+#include "apps/quorconv/Records.h"
+#include "apps/quorconv/Selection.h"
+
+#include <iostream>
+#include <utility>
+
+namespace quorconv {
+
+using namespace QuorProbeFile;
+using QuorIniFile::ToPrintable;
+
+namespace {
+
+class Show final : public Command {
+    std::wstring m_path;
+    std::vector<std::wstring> m_also;
+    Selection m_selection;
+    bool m_isJson = false;
+    bool m_isJsonLines = false;
+    const char* m_separator = "";
+
+    void Declare(Arguments& arguments) override {
+        arguments.One("FILE", m_path, Meaning::File, "The INI file");
+        arguments.Rest("SECTION", m_selection.patterns, 0, Meaning::Section,
+                       "The sections of probes, or patterns with * and ?; without it, all probes");
+        m_selection.DeclareType(arguments);
+        arguments.Options("--also", "FILE", m_also, Meaning::File,
+                          "Show those of that file, too; may stand several times");
+        arguments.Flag("--json", m_isJson, "Print JSON: an object for one section, an array for more");
+        arguments.Flag("--jsonl", m_isJsonLines, "Print JSON Lines: an object a line");
+    }
+
+    ExitCode Run() override {
+        std::vector<std::wstring> paths{m_path};
+        paths.insert(paths.end(), m_also.begin(), m_also.end());
+        const bool isArray = m_isJson && !m_isJsonLines && (m_selection.IsMany() || paths.size() > 1);
+        if (isArray)
+            std::cout << '[';
+        bool isFine = true;
+        std::size_t count = 0;
+        for (const std::wstring& path : paths) {
+            HostFile file(path);
+            if (paths.size() > 1 && !m_isJson && !m_isJsonLines)
+                std::cout << std::exchange(m_separator, "\n") << "# " << ToPrintable(path) << "\n";
+            const auto sections = m_selection.In(*file);
+            Progress progress(L"probes", sections.size());
+            for (const std::wstring& section : sections) {
+                progress.Step();
+                isFine = ShowProbe(*file, section, isArray) && isFine;
+            }
+            count += sections.size();
+        }
+        if (isArray)
+            std::cout << (*m_separator != '\0' ? "\n]\n" : "]\n");
+        if (m_selection.IsMany() && (m_selection.type || !m_selection.patterns.empty()))
+            TellCount(count, L"probe", "shown");
+        return isFine ? fine : problemFound;
+    }
+
+    /// False when it cannot be read, which is told.
+    bool ShowProbe(ProbeFile& file, const std::wstring& section, bool isInArray) {
+        try {
+            const Probe probe = ReadProbe(file, section);
+            if (m_isJsonLines) {
+                std::cout << ToJson(probe, true) << '\n';
+            } else if (isInArray) {
+                std::cout << std::exchange(m_separator, ",") << "\n  " << ToJson(probe, false, 2);
+            } else if (m_isJson) {
+                std::cout << ToJson(probe, false) << '\n';
+            } else {
+                std::cout << std::exchange(m_separator, "\n");
+                PrintProbe(probe);
+            }
+            return true;
+        } catch (const UsageError&) {
+            throw;
+        } catch (...) {
+            PrintFailure(CurrentFailure());
+            return false;
+        }
+    }
+
+    static void PrintProbe(const Probe& probe) {
+        std::cout << ToPrintable(L"[" + probe.Section() + L"] " + probe.TypeName() + L" " + probe.Name())
+                  << '\n';
+        if (!probe.Settings())
+            return;
+        const auto image = RecordImage::Of(*probe.Settings());
+        for (const auto& entry : image->Entries())
+            std::cout << ToPrintable(entry.path + L"=" + ToText(entry.value)) << '\n';
+    }
+};
+
+} // namespace
+
+const CommandRow showRow{
+    "show",
+    "Show the settings of probes; those that cannot be read are told, and the others shown",
+    {"quorconv show laboratory.ini \"Probe 9 PRT-1182\" --json",
+     "quorconv show laboratory.ini \"*PRT*\" --type cvd"},
+    Create<Show>};
+
+} // namespace quorconv

@@ -1,0 +1,144 @@
+// Two files beside each other: diff and merge.
+
+#include "tests/apps/quorconv/Quorconv.h"
+
+namespace {
+
+class QuorconvCompareTest : public QuorconvTest {
+protected:
+    const std::string base = "; Base\n"
+                             "[A]\nVersion=1.0\nConversionType=2\n"
+                             "\n[A - Settings]\nVersion=1.0\nNumCoefficients=2\nUsePolynomial=False\n"
+                             "Coefficients0=100\nCoefficients1=0.00385\n"
+                             "\n[B]\nVersion=1.0\nConversionType=14\n"
+                             "\n[B - Settings]\nVersion=1.0\nRTPW=25.5\n";
+
+    void SetUp() override {
+        for (const char* const name : {"base.ini", "ours.ini", "theirs.ini"})
+            folder.Write(name, base);
+    }
+
+    void ExpectConflicts(const std::string& conflicts) const {
+        const std::string ours = folder.Read("ours.ini");
+        ExpectRefused({"merge", "base.ini", "ours.ini", "theirs.ini"},
+                      "quorconv: ours.ini: nothing was written, because both files have changed the same\n" +
+                          conflicts);
+        EXPECT_EQ(folder.Read("ours.ini"), ours);
+    }
+};
+
+} // namespace
+
+TEST_F(QuorconvCompareTest, FindsNoDifferenceInOtherSpellingsAndOrders) {
+    folder.Write("theirs.ini", "[B]\nConversionType=14\n[B - Settings]\nRTPW=25.50 ; ohms\n"
+                               "[a]\nConversionType=2\n[a - Settings]\nNumCoefficients=2\nUsePolynomial=0\n"
+                               "Coefficients0=1E2\nCoefficients1=3.85E-3\n");
+    ExpectFine({"diff", "base.ini", "theirs.ini"});
+    ExpectFine({"diff", "--json", "base.ini", "theirs.ini"}, "[]\n");
+}
+
+TEST_F(QuorconvCompareTest, TellsWhatDiffersByProbeAndValueAndEndsAsDiffDoes) {
+    ExpectFine({"set", "theirs.ini", "A", "Coefficients0=100.5", "NumCoefficients=3"});
+    ExpectFine({"rename", "theirs.ini", "B", "C"});
+    const Outcome text = Quorconv({"diff", "base.ini", "theirs.ini"});
+    EXPECT_EQ(text.code, 1);
+    EXPECT_EQ(text.out, "  [A] NumCoefficients: 2 -> 3\n"
+                        "  [A] Coefficients0: 100 -> 100.5\n"
+                        "  [A] Coefficients2: (none) -> 0\n"
+                        "- [B] CONV_WT90\n"
+                        "+ [C] CONV_WT90\n");
+    EXPECT_EQ(text.err, "");
+    const Outcome json = Quorconv({"diff", "base.ini", "theirs.ini", "--json"});
+    EXPECT_EQ(json.code, 1);
+    EXPECT_EQ(
+        json.out,
+        "[\n"
+        "  {\"section\": \"A\", \"change\": \"changed\", \"key\": \"NumCoefficients\", \"before\": \"2\", "
+        "\"after\": \"3\"},\n"
+        "  {\"section\": \"A\", \"change\": \"changed\", \"key\": \"Coefficients0\", \"before\": \"100\", "
+        "\"after\": \"100.5\"},\n"
+        "  {\"section\": \"A\", \"change\": \"changed\", \"key\": \"Coefficients2\", \"before\": null, "
+        "\"after\": \"0\"},\n"
+        "  {\"section\": \"B\", \"change\": \"removed\", \"type\": \"CONV_WT90\"},\n"
+        "  {\"section\": \"C\", \"change\": \"added\", \"type\": \"CONV_WT90\"}\n]\n");
+    ExpectFine({"retype", "theirs.ini", "A", "pt1", "Coefficients0=100"});
+    ExpectShell("quorconv diff base.ini - <theirs.ini",
+                "  [A] ConversionType: CONV_CVD -> CONV_PT100R0\n- [B] CONV_WT90\n+ [C] CONV_WT90\n", "", 1);
+}
+
+TEST_F(QuorconvCompareTest, EndsWithTwoWhenItCannotCompare) {
+    ExpectRefused({"diff", "base.ini", "none.ini"}, "quorconv: File not found: none.ini\n", 2);
+    folder.Write("theirs.ini", Replaced(base, "25.5", "x"));
+    ExpectRefused({"diff", "base.ini", "theirs.ini"},
+                  "quorconv: theirs.ini: [B]: the record cannot be read\n"
+                  "  line 19: [B - Settings] RTPW: \"x\" is not a number\n",
+                  2);
+}
+
+TEST_F(QuorconvCompareTest, TellsANumberFromItsNeighbourAndZeroFromMinusZero) {
+    folder.Write("ours.ini", Replaced(base, "25.5", "0.1"));
+    folder.Write("theirs.ini", Replaced(base, "25.5", "0.10000000000000002"));
+    ExpectShell("quorconv diff ours.ini theirs.ini", "  [B] RTPW: 0.1 -> 0.10000000000000002\n", "", 1);
+    folder.Write("ours.ini", Replaced(base, "0.00385", "0"));
+    folder.Write("theirs.ini", Replaced(base, "0.00385", "-0"));
+    ExpectShell("quorconv diff ours.ini theirs.ini", "  [A] Coefficients1: 0 -> -0\n", "", 1);
+}
+
+TEST_F(QuorconvCompareTest, MergesWhatOnlyOneOfTheFilesHasChanged) {
+    ExpectFine({"set", "ours.ini", "A", "Coefficients0=100.5"});
+    ExpectFine({"new", "ours.ini", "Ours", "10"});
+    ExpectFine({"set", "theirs.ini", "A", "Coefficients1=0.0039"});
+    ExpectFine({"set", "theirs.ini", "B", "RTPW=25.4"});
+    ExpectFine({"new", "theirs.ini", "Theirs", "w90", "RTPW=7"});
+    const std::string ours = folder.Read("ours.ini");
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 3 probes merged\n");
+    EXPECT_EQ(folder.Read("ours.ini"),
+              Replaced(Replaced(ours, "0.00385", "0.0039"), "25.5", "25.4") +
+                  "\n[Theirs]\nVersion=1.0\nConversionType=14\n\n[Theirs - Settings]\nVersion=1.0\nRTPW=7\n");
+    const std::string merged = folder.Read("ours.ini");
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 0 probes merged\n");
+    EXPECT_EQ(folder.Read("ours.ini"), merged);
+}
+
+TEST_F(QuorconvCompareTest, MergesWhatTheOtherFileHasRemovedAndRetyped) {
+    ExpectFine({"remove", "theirs.ini", "A"});
+    ExpectFine({"retype", "theirs.ini", "B", "pt1", "Coefficients0=100"});
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 2 probes merged\n");
+    EXPECT_EQ(Quorconv({"diff", "ours.ini", "theirs.ini"}).code, 0);
+}
+
+TEST_F(QuorconvCompareTest, NamesEachConflictAndWritesNothing) {
+    ExpectFine({"set", "ours.ini", "A", "Coefficients0=101", "Coefficients1=1"});
+    ExpectFine({"set", "theirs.ini", "A", "Coefficients0=102", "Coefficients1=1"});
+    ExpectFine({"set", "theirs.ini", "B", "RTPW=1"});
+    ExpectConflicts("  [A] Coefficients0: 100 is 101 here and 102 in theirs.ini\n");
+    ExpectFine({"remove", "ours.ini", "B"});
+    ExpectConflicts("  [A] Coefficients0: 100 is 101 here and 102 in theirs.ini\n"
+                    "  [B]: removed here, changed in theirs.ini\n");
+    ExpectFine({"remove", "theirs.ini", "A"});
+    ExpectConflicts("  [B]: removed here, changed in theirs.ini\n"
+                    "  [A]: changed here, removed in theirs.ini\n");
+}
+
+TEST_F(QuorconvCompareTest, NamesAConflictOfTypesOfSizesAndOfNewProbes) {
+    ExpectFine({"retype", "theirs.ini", "B", "pt1", "Coefficients0=100"});
+    ExpectFine({"set", "ours.ini", "B", "RTPW=1"});
+    ExpectConflicts("  [B] ConversionType: changed in one file, and the record in the other\n");
+    folder.Write("theirs.ini", base);
+    ExpectFine({"set", "theirs.ini", "A", "NumCoefficients=1"});
+    ExpectFine({"set", "ours.ini", "A", "Coefficients0=101"});
+    ExpectConflicts("  [A]: other keys in theirs.ini, and other values here\n");
+    folder.Write("theirs.ini", base);
+    ExpectFine({"new", "ours.ini", "N", "10"});
+    ExpectFine({"new", "theirs.ini", "N", "11"});
+    ExpectConflicts("  [N]: added in both files, with different values\n");
+}
+
+TEST_F(QuorconvCompareTest, ShowsWhatAMergeWouldWrite) {
+    ExpectFine({"set", "theirs.ini", "B", "RTPW=25.4"});
+    const Outcome run = Quorconv({"merge", "base.ini", "ours.ini", "theirs.ini", "--dry-run"});
+    EXPECT_EQ(run.code, 0);
+    EXPECT_NE(run.out.find("-RTPW=25.5\n+RTPW=25.4\n"), std::string::npos) << run.out;
+    EXPECT_EQ(run.err, "quorconv: 1 probe would be merged\n");
+    EXPECT_EQ(folder.Read("ours.ini"), base);
+}

@@ -1,0 +1,275 @@
+// Probes for other programs, and from them: JSON and CSV.
+
+#include "tests/apps/quorconv/Quorconv.h"
+
+#include <fstream>
+#include <iterator>
+
+namespace {
+
+class QuorconvExchangeTest : public QuorconvTest {
+protected:
+    const std::string before = "[Bath]\n"
+                               "Version=1.0\n"
+                               "ConversionType=2\n"
+                               "\n"
+                               "[Bath - Settings]\n"
+                               "Version=1.0\n"
+                               "NumCoefficients=4\n"
+                               "UsePolynomial=False\n"
+                               "Coefficients0=100.0123\n"
+                               "Coefficients1=0.00385055\n"
+                               "Coefficients2=1.499786\n"
+                               "Coefficients3=-0\n";
+
+    void SetUp() override { folder.Write("host.ini", before); }
+
+    /// Expects that the JSON text is refused, and nothing written.
+    void ExpectRefusedJson(const std::string& json, const std::string& said) const {
+        folder.Write("in.json", json);
+        ExpectRefused({"put", "host.ini", "in.json", "--json"},
+                      "quorconv: host.ini: nothing was written, because a line of in.json is wrong\n  " +
+                          said + "\n");
+        EXPECT_EQ(folder.Read("host.ini"), before);
+    }
+    void ExpectRefusedTable(const std::string& table, const std::string& said,
+                            const std::vector<std::string>& options = {}) const {
+        folder.Write("in.csv", table);
+        std::vector<std::string> arguments{"put", "host.ini", "in.csv", "--csv"};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        ExpectRefused(arguments,
+                      "quorconv: host.ini: nothing was written, because a line of in.csv is wrong\n  " +
+                          said + "\n");
+        EXPECT_EQ(folder.Read("host.ini"), before);
+    }
+};
+
+std::string Probe(const std::string& settings, const std::string& type = "CONV_CVD") {
+    return R"({"section": "P", "type": ")" + type + R"(", "settings": )" + settings + "}";
+}
+
+} // namespace
+
+TEST_F(QuorconvExchangeTest, PutsBackWhatItShowsAndEveryByteIsAsItWas) {
+    std::filesystem::copy_file(QUOR_SAMPLES "/laboratory.ini", folder.Path("laboratory.ini"));
+    const std::string laboratory = folder.Read("laboratory.ini");
+    ExpectShell("quorconv show laboratory.ini --json >all.json\n"
+                "quorconv put laboratory.ini --json <all.json\n"
+                "quorconv put copy.ini --json <all.json\n"
+                "quorconv show copy.ini --json | cmp - all.json\n"
+                "cp copy.ini again.ini\n"
+                "quorconv show again.ini --jsonl | quorconv put third.ini --json\n"
+                "cmp copy.ini third.ini\n"
+                "quorconv diff laboratory.ini third.ini",
+                "", "quorconv: 29 probes put\nquorconv: 29 probes put\nquorconv: 29 probes put\n");
+    EXPECT_EQ(folder.Read("laboratory.ini"), laboratory);
+}
+
+TEST_F(QuorconvExchangeTest, LosesNoBitOfANumberInJson) {
+    const std::string record =
+        "[P]\nVersion=1.0\nConversionType=5\n\n[P - Settings]\nVersion=1.0\nConvType=0\n"
+        "NumCoefficients=4\nCoefficients0=5e-324\nCoefficients1=-0\n"
+        "Coefficients2=1.7976931348623157e+308\nCoefficients3=0.1\n"
+        "\n[N]\nVersion=1.0\nConversionType=5\n\n[N - Settings]\nVersion=1.0\nConvType=0\n"
+        "NumCoefficients=4\nCoefficients0=NaN\nCoefficients1=Infinity\n"
+        "Coefficients2=-Infinity\nCoefficients3=9007199254740993\n";
+    folder.Write("numbers.ini", record);
+    ExpectShell("quorconv show numbers.ini --json | quorconv put copy.ini --json --allow-nan", "",
+                "quorconv: 2 probes put\n");
+    EXPECT_EQ(folder.Read("copy.ini"), Replaced(record, "9007199254740993", "9007199254740992"));
+    // As programs write it that know whole numbers.
+    ExpectShell("quorconv show numbers.ini P --json | sed 's/-0.0/-0/' | quorconv put copy.ini --json", "",
+                "quorconv: 1 probe put\n");
+    EXPECT_EQ(folder.Read("copy.ini"), Replaced(record, "9007199254740993", "9007199254740992"));
+    const Outcome refused = Shell("quorconv show numbers.ini --json | quorconv put other.ini --json");
+    EXPECT_EQ(refused.code, 1);
+    EXPECT_EQ(refused.err,
+              "quorconv: other.ini: nothing was written, because a line of - is wrong\n"
+              "  -:18:3: other.ini: [N] Coefficients0: NaN gives no temperature; --allow-nan stores "
+              "it\n");
+}
+
+TEST_F(QuorconvExchangeTest, RefusesJsonThatNoProbeIsWithLineAndColumn) {
+    ExpectRefusedJson("[\n  {\"section\": 1}\n]", "in.json:2:15: \"section\" is not a text");
+    ExpectRefusedJson("{\"section\": \"P\"", "in.json:1:16: ',' expected");
+    ExpectRefusedJson("[1]", "in.json:1:2: an object expected: '{'");
+    ExpectRefusedJson(Probe("{}") + " x", "in.json:1:54: an object expected: '{'");
+    ExpectRefusedJson(Probe("{}", "CONV_CDV"),
+                      "in.json:1:26: \"CONV_CDV\" is no conversion type; did you mean \"CONV_CVD\"?");
+    ExpectRefusedJson("{\"section\": \"P\", \"section\": \"Q\"}",
+                      "in.json:1:18: the name \"section\" stands twice");
+    ExpectRefusedJson("{\"sektion\": \"P\"}",
+                      "in.json:1:13: there is no member \"sektion\" here; did you mean \"section\"?");
+    ExpectRefusedJson(Probe("{\n \"Coeficients\": []}"),
+                      "in.json:2:17: there is no key \"Coeficients\" in a record of this type; did you mean "
+                      "\"Coefficients\"?");
+    ExpectRefusedJson(Probe("{\n \"Coefficients\": [{\"name\": \"ALPHA\", \"value\": 1}]}"),
+                      "in.json:2:28: Coefficients0 is not \"ALPHA\" but \"R0\"");
+    ExpectRefusedJson(
+        Probe("{\n \"Coefficients\": [{\"value\": \"1\"}]}"),
+        "in.json:2:29: Coefficients0: a number, \"NaN\", \"Infinity\" or \"-Infinity\" expected");
+    ExpectRefusedJson(Probe("{\n \"UsePolynomial\": 1}"),
+                      "in.json:2:19: UsePolynomial: true or false expected");
+    ExpectRefusedJson(Probe("{\n \"TCType\": {\"code\": 4, \"name\": \"S\"}}", "CONV_TCTYPEX"),
+                      "in.json:2:32: TCType: the name is not that of the code 4");
+    ExpectRefusedJson(Probe("{\n \"TCType\": 4}", "CONV_TCTYPEX"),
+                      "in.json:2:12: TCType: an object of \"code\" and \"name\" expected");
+    ExpectRefusedJson("{\"section\": \"P\", \"code\": 3, \"type\": \"CONV_CVD\", \"settings\": {}}",
+                      "in.json:1:26: the code of CONV_CVD is 2");
+    ExpectRefusedJson(Probe("{\"NumCoefficients\": 01}"),
+                      "in.json:1:70: \"01\" is no JSON value; texts stand in quotes");
+    ExpectRefusedJson(std::string(100000, '['), "in.json:1:2: an object expected: '{'");
+    ExpectRefusedJson("{\"a\":" + std::string(100000, '['), "in.json:1:26: values are nested too deeply");
+    ExpectRefusedJson("{\"a\": \"\\ud800\"}", "in.json:1:14: half a character");
+    ExpectRefusedJson("{\"a\": \"\xFF\"}", "in.json:1:7: the text is not UTF-8");
+}
+
+TEST_F(QuorconvExchangeTest, WritesNoneOfManyProbesWhenOneIsWrong) {
+    folder.Write("in.jsonl", Probe("{\"RTPW\": 25.5}", "CONV_WT90") + "\n" +
+                                 Replaced(Probe("{}", "CONV_WT90"), "\"P\"", "\"Q\"") + "\n");
+    ExpectRefused({"put", "host.ini", "in.jsonl", "--json"},
+                  "quorconv: host.ini: nothing was written, because a line of in.jsonl is wrong\n"
+                  "  in.jsonl:2:1: host.ini: [Q] RTPW: the value is missing, and the probe is a new one\n");
+    folder.Write("in.jsonl", Probe("{\"RTPW\": 25.5}", "CONV_WT90") + Probe("{\"RTPW\": 1}", "CONV_WT90"));
+    const Outcome twice = Quorconv({"put", "host.ini", "in.jsonl", "--json"});
+    EXPECT_EQ(twice.err, "quorconv: host.ini: nothing was written, because a line of in.jsonl is wrong\n"
+                         "  in.jsonl:1:66: [P]: the section stands twice\n");
+    folder.Write("in.jsonl", Replaced(Probe("{\"RTPW\": 25.5}", "CONV_WT90"), "\"P\"", "\"Bath\""));
+    ExpectRefused({"put", "host.ini", "in.jsonl", "--json"},
+                  "quorconv: host.ini: nothing was written, because a line of in.jsonl is wrong\n"
+                  "  in.jsonl:1:1: host.ini: [Bath]: there is a probe of another type (CONV_CVD) in this "
+                  "section; \"retype\" changes that\n");
+    EXPECT_EQ(folder.Read("host.ini"), before);
+}
+
+TEST_F(QuorconvExchangeTest, KeepsTheOtherValuesOfAProbeThatIsThere) {
+    folder.Write(
+        "in.json",
+        R"({"section": "bath", "type": "CONV_CVD", "settings": {"Coefficients": [{"value": 99.5}]}})");
+    ExpectShell("quorconv put host.ini in.json --json", "", "quorconv: 1 probe put\n");
+    EXPECT_EQ(folder.Read("host.ini"), Replaced(before, "100.0123", "99.5"));
+}
+
+TEST_F(QuorconvExchangeTest, ExportsATableWithNamesAndUnits) {
+    const std::string head = "section,type,NumCoefficients,UsePolynomial,\"Coefficients0 [R0, ohm]\","
+                             "\"Coefficients1 [ALPHA, 1/\xC2\xB0"
+                             "C or A, 1/\xC2\xB0"
+                             "C]\",\"Coefficients2 [DELTA, \xC2\xB0"
+                             "C or B, 1/\xC2\xB0"
+                             "C\xC2\xB2]\",\"Coefficients3 [BETA, \xC2\xB0"
+                             "C or C, 1/\xC2\xB0"
+                             "C\xE2\x81\xB4]\"\r\n";
+    ExpectShell("quorconv export host.ini --csv --type cvd",
+                head + "Bath,CONV_CVD,4,False,100.0123,0.00385055,1.499786,-0\r\n",
+                "quorconv: 1 probe exported\n");
+    ExpectShell("quorconv export host.ini --csv --type cvd --decimal comma",
+                head + "Bath,CONV_CVD,4,False,\"100,0123\",\"0,00385055\",\"1,499786\",-0\r\n",
+                "quorconv: 1 probe exported\n");
+    ExpectRefused({"export", "host.ini", "--csv"},
+                  "quorconv: --csv needs --type: the columns are the keys of one type\n", 2);
+}
+
+TEST_F(QuorconvExchangeTest, PutsBackATableOfEachTypeAndEveryByteIsAsItWas) {
+    std::filesystem::copy_file(QUOR_SAMPLES "/laboratory.ini", folder.Path("laboratory.ini"));
+    const std::string laboratory = folder.Read("laboratory.ini");
+    for (const std::string decimal : {"point", "comma"}) {
+        const Outcome run =
+            Shell("for type in $(quorconv list laboratory.ini | cut -f 2 | sort -u); do\n"
+                  "quorconv export laboratory.ini --csv --type $type --decimal " +
+                  decimal +
+                  " >$type.csv\n"
+                  "quorconv put laboratory.ini $type.csv --csv --decimal " +
+                  decimal + " || exit\nquorconv put copy-" + decimal + ".ini $type.csv --csv --decimal " +
+                  decimal + " || exit\ndone\nquorconv diff laboratory.ini copy-" + decimal + ".ini");
+        EXPECT_EQ(run.code, 0) << run.err;
+        EXPECT_EQ(run.out, "");
+        EXPECT_EQ(folder.Read("laboratory.ini"), laboratory);
+    }
+}
+
+TEST_F(QuorconvExchangeTest, TakesATableOfNewCertificates) {
+    folder.Write("in.csv", "\xEF\xBB\xBFsection,Coefficients0\n\"Bath\",\"99,5\"\n\n");
+    ExpectShell("quorconv put host.ini in.csv --csv --type cvd --decimal comma", "",
+                "quorconv: 1 probe put\n");
+    EXPECT_EQ(folder.Read("host.ini"), Replaced(before, "100.0123", "99.5"));
+}
+
+TEST_F(QuorconvExchangeTest, RefusesATableThatIsWrongWithLineAndColumn) {
+    const std::vector<std::string> cvd{"--type", "cvd"};
+    ExpectRefusedTable("", "in.csv:1: there is no line of column names");
+    ExpectRefusedTable("name,type\n", "in.csv:1: there is no column \"section\"");
+    ExpectRefusedTable("section,Coefficients0\n",
+                       "in.csv:1: there is no column \"type\", and no --type says it");
+    ExpectRefusedTable(
+        "section,Coeficients0\nBath,1\n",
+        "in.csv:1: column 2 (Coeficients0): a record of the type CONV_CVD has no such key; did you "
+        "mean \"Coefficients0\"?",
+        cvd);
+    ExpectRefusedTable(
+        "section,\"Coefficients0 [R0, mV]\"\nBath,1\n",
+        "in.csv:1: column 2 (Coefficients0): \"Coefficients0 [R0, mV]\" is not \"Coefficients0 "
+        "[R0, ohm]\"",
+        cvd);
+    ExpectRefusedTable("section,Coefficients0,coefficients0\nBath,1,2\n",
+                       "in.csv:1: column 3: the column stands twice", cvd);
+    ExpectRefusedTable(
+        "section,Coefficients0\n\nBath,\"99,5\"\n",
+        "in.csv:3: column 2 (Coefficients0): \"99,5\" is not a number; the decimal sign is a point "
+        "without --decimal comma",
+        cvd);
+    ExpectRefusedTable(
+        "section,Coefficients0\nBath,99.5\n",
+        "in.csv:2: column 2 (Coefficients0): \"99.5\" has a point, and the decimal sign is a comma",
+        {"--type", "cvd", "--decimal", "comma"});
+    ExpectRefusedTable("section,Coefficients0\nBath,1,2\n",
+                       "in.csv:2: the line has 3 fields, and the first one has 2", cvd);
+    ExpectRefusedTable("section,Coefficients0\nBath,\"1\n", "in.csv:3: a quote is not closed", cvd);
+    ExpectRefusedTable("section,Coefficients0\nBath,\"1\"2\n",
+                       "in.csv:2: a comma or the end of the line expected behind a field in quotes", cvd);
+    ExpectRefusedTable("section,Coefficients0\nBath,1\nbath,2\n",
+                       "in.csv:3: [bath]: the section stands twice", cvd);
+    ExpectRefusedTable(
+        "section,Coefficients0\nNew,1\n",
+        "in.csv:2: host.ini: [New] NumCoefficients: the value is missing, and the probe is a new one", cvd);
+    ExpectRefusedTable("section,type\nBath,CONV_X\n",
+                       "in.csv:2: column 2 (type): \"CONV_X\" is no conversion type");
+}
+
+TEST_F(QuorconvExchangeTest, KeepsEveryTextOfATable) {
+    ExpectFine({"new", "texts.ini", "P \"q\", r", "tcx", "TempScale=a,\"b\"\nc\r\n", "OffsetScale= "});
+    ExpectShell("quorconv export texts.ini --csv --type tcx | quorconv put copy.ini --csv", "",
+                "quorconv: 1 probe exported\nquorconv: 1 probe put\n");
+    EXPECT_EQ(folder.Read("copy.ini"), folder.Read("texts.ini"));
+}
+
+TEST_F(QuorconvExchangeTest, ListsAndChangesWithoutReadingTheInputTwice) {
+    ExpectFine({"list", "host.ini", "--json"},
+               "[\n  {\"section\": \"Bath\", \"code\": 2, \"type\": \"CONV_CVD\", \"name\": \"Callendar-Van "
+               "Dusen\", \"line\": 1}\n]\n");
+    folder.Write("empty.ini", "");
+    ExpectFine({"list", "empty.ini", "--json"}, "[]\n");
+    ExpectFine({"show", "empty.ini", "--json"}, "[]\n");
+}
+
+// The schema is what quorconv itself would make; that it fits what is shown, and refuses what "put" refuses,
+// is for a program that knows schemas.
+TEST_F(QuorconvExchangeTest, DescribesItsJsonByASchemaThatTakesWhatItShowsAndNothingElse) {
+    ExpectFine({"explain", "--json-schema"}, [] {
+        std::ifstream file(QUOR_SCHEMA, std::ios::binary);
+        return std::string{std::istreambuf_iterator<char>(file), {}};
+    }());
+    folder.Write("numbers.ini",
+                 "[N]\nConversionType=5\n[N - Settings]\nConvType=0\nNumCoefficients=4\n"
+                 "Coefficients0=NaN\nCoefficients1=Infinity\nCoefficients2=-Infinity\n"
+                 "Coefficients3=-0\n[O]\nConversionType=10\n[C]\nConversionType=2\n"
+                 "[C - Settings]\nNumCoefficients=6\nUsePolynomial=True\nCoefficients0=1\n"
+                 "Coefficients1=1\nCoefficients2=1\nCoefficients3=1\nCoefficients4=1\n"
+                 "Coefficients5=1\n[T]\nConversionType=9\n[T - Settings]\nTCType=77\nNumPoints=0\n"
+                 "TempScale=K\nOffsetScale=K\nCoefficients0=0\nCoefficients1=0\n");
+    const Outcome run = Shell("quorconv show '" QUOR_SAMPLES "/laboratory.ini' --json >all.json\n"
+                              "quorconv show numbers.ini --json >numbers.json\n"
+                              "for sample in '" QUOR_SAMPLES "'/*.??? ; do\n"
+                              "quorconv show $sample --json >$(basename $sample).json\ndone\n"
+                              "/usr/bin/python3 '" QUOR_SCHEMA_CHECK "' '" QUOR_SCHEMA "' quorconv *.json");
+    EXPECT_EQ(run.code, 0) << run.err << run.out;
+}

@@ -1,0 +1,100 @@
+// What the help says, and what a shell completes.
+
+#include "tests/apps/quorconv/Quorconv.h"
+
+#include <sstream>
+
+namespace {
+
+class QuorconvHelpTest : public QuorconvTest {
+protected:
+    /// The files that the examples name.
+    void SetUp() override {
+        for (const char* const name : {"laboratory.ini", "prt-1188.cvd"})
+            std::filesystem::copy_file(std::filesystem::path(QUOR_SAMPLES) / name, folder.Path(name));
+        const std::string laboratory = folder.Read("laboratory.ini");
+        folder.Write("laboratory-2024.ini", laboratory);
+        folder.Write("from-the-field.ini", Replaced(laboratory, "RTPW=25.48317", "RTPW=25.48319"));
+        folder.Write("steps.txt", "");
+    }
+
+    /// The commands that the help of the program lists.
+    [[nodiscard]] std::vector<std::string> Commands() const {
+        std::istringstream lines(Quorconv({"--help"}).out);
+        std::vector<std::string> commands;
+        bool isList = false;
+        for (std::string line; std::getline(lines, line);) {
+            if (isList && line.starts_with("  ") && line.size() > 2 && line[2] != ' ')
+                commands.push_back(line.substr(2, line.find(' ', 2) - 2));
+            isList = isList || line == "Subcommands:";
+        }
+        return commands;
+    }
+
+    [[nodiscard]] std::vector<std::string> ExamplesOf(const std::string& command) const {
+        std::istringstream lines(Quorconv({command, "--help"}).out);
+        std::vector<std::string> examples;
+        bool isExample = false;
+        for (std::string line; std::getline(lines, line);) {
+            if (isExample && line.starts_with("  "))
+                examples.push_back(line.substr(2));
+            isExample = isExample || line.starts_with("Example");
+        }
+        return examples;
+    }
+
+    /// What bash completes at the end of a line.
+    [[nodiscard]] std::string Completed(const std::string& words) const {
+        const std::string completion =
+            std::filesystem::path(QUORCONV).parent_path().string() + "/quorconv.bash";
+        const Outcome run = Shell("source '" + completion + "'\nCOMP_WORDS=(" + words +
+                                  ")\nCOMP_CWORD=$((${#COMP_WORDS[@]} - 1))\ncompopt() { :; "
+                                  "}\n_quorconv\nprintf '%s\\n' \"${COMPREPLY[@]}\"");
+        EXPECT_EQ(run.err, "");
+        return run.out;
+    }
+};
+
+} // namespace
+
+TEST_F(QuorconvHelpTest, EachExampleOfEachCommandRuns) {
+    const std::vector<std::string> commands = Commands();
+    EXPECT_EQ(commands.size(), 19U);
+    for (const std::string& command : commands) {
+        const auto examples = ExamplesOf(command);
+        EXPECT_FALSE(examples.empty()) << command;
+        for (const std::string& example : examples) {
+            for (const std::string name : {"laboratory.ini", "copy.ini"})
+                std::filesystem::remove(folder.Path(name));
+            std::filesystem::copy_file(QUOR_SAMPLES "/laboratory.ini", folder.Path("laboratory.ini"));
+            folder.Write("certificates.csv",
+                         "section,type,Coefficients0\nProbe 9 PRT-1182,CONV_CVD,\"100,0123\"\n");
+            folder.Write("steps.txt", command == "edit" ? "type R0 100.5\nclick OK\n"
+                                                        : "set \"Probe 9 PRT-1182\" Coefficients0=100.5\n");
+            const Outcome run = Shell(example);
+            EXPECT_EQ(run.code, 0) << example << '\n' << run.err;
+            EXPECT_NE(example.find("quorconv " + command), std::string::npos) << example;
+        }
+    }
+}
+
+TEST_F(QuorconvHelpTest, CompletesCommandsOptionsTypesAndChoices) {
+    EXPECT_EQ(Completed("quorconv re"), "rename\nretype\nremove\n");
+    EXPECT_EQ(Completed("quorconv check --s"), "--strict\n--section\n");
+    EXPECT_EQ(Completed("quorconv check laboratory.ini --format g"), "gcc\ngithub\n");
+    EXPECT_EQ(Completed("quorconv new laboratory.ini P tc"), "tcp\ntct\ntcx\n");
+    EXPECT_EQ(Completed("quorconv show laboratory.ini --type CONV_T"),
+              "CONV_THERMISTORT_R\nCONV_THERMISTORR_T\nCONV_TCPOLYNOMIAL\nCONV_TCTABLE\nCONV_TCTYPEX\n"
+              "CONV_THERMISTOR_OHMS\nCONV_TCTYPEPOLY\n");
+    EXPECT_EQ(Completed("quorconv show labo"), "laboratory-2024.ini\nlaboratory.ini\n");
+}
+
+TEST_F(QuorconvHelpTest, CompletesTheSectionsAndKeysOfTheFileThatIsNamed) {
+    EXPECT_EQ(Completed("quorconv get laboratory.ini Probe\\ 9"), "Probe\\ 9\\ PRT-1182\n");
+    EXPECT_EQ(Completed("quorconv get laboratory.ini '\"probe 9'"), "Probe 9 PRT-1182\n");
+    EXPECT_EQ(Completed("quorconv get laboratory.ini '\"Probe 9 PRT-1182\"' Us"), "UsePolynomial\n");
+    EXPECT_EQ(Completed("quorconv set laboratory.ini '\"Probe 9 PRT-1182\"' Coefficients0=1 Num"),
+              "NumCoefficients=\n");
+    EXPECT_EQ(Completed("quorconv explain hpt Num"), "NumCoefficients\n");
+    EXPECT_EQ(Completed("quorconv get none.ini ''"), "\n");
+}

@@ -1,0 +1,391 @@
+// Commands for many probes and for many changes at once.
+
+#include "tests/apps/quorconv/Quorconv.h"
+
+namespace {
+
+/// Runs on "host.ini", which has three probes of two types.
+class QuorconvManyTest : public QuorconvTest {
+protected:
+    const std::string before = "; The host's own file\n"
+                               "[Instrument]\n"
+                               "Channels=4\n"
+                               "\n"
+                               "[Bath A]\n"
+                               "Version=1.0\n"
+                               "ConversionType=14\n"
+                               "\n"
+                               "[Bath A - Settings]\n"
+                               "Version=1.0\n"
+                               "RTPW=25.5 ; ohms\n"
+                               "\n"
+                               "[Bath B]\n"
+                               "Version=1.0\n"
+                               "ConversionType=14\n"
+                               "\n"
+                               "[Bath B - Settings]\n"
+                               "Version=1.0\n"
+                               "RTPW=100.0\n"
+                               "\n"
+                               "[Oven]\n"
+                               "Version=1.0\n"
+                               "ConversionType=19\n"
+                               "\n"
+                               "[Oven - Settings]\n"
+                               "Version=1.0\n"
+                               "NumCoefficients=1\n"
+                               "Coefficients0=100.02\n";
+
+    void SetUp() override { folder.Write("host.ini", before); }
+
+    void ExpectUnchanged() const { EXPECT_EQ(folder.Read("host.ini"), before); }
+};
+
+} // namespace
+
+TEST_F(QuorconvManyTest, PrintsOneValueAndNothingElse) {
+    ExpectFine({"get", "host.ini", "Bath A", "RTPW"}, "25.5\n");
+    ExpectFine({"get", "host.ini", "oven", "coefficients0"}, "100.02\n");
+    ExpectFine({"get", "host.ini", "Oven", "ConversionType"}, "19\n");
+    ExpectRefused({"get", "host.ini", "Bath A", "RTWP"},
+                  "quorconv: host.ini: [Bath A] RTWP: there is no such key in this record; did you mean "
+                  "\"RTPW\"?\n");
+    ExpectRefused({"get", "host.ini", "Oven", "R0"},
+                  "quorconv: host.ini: [Oven] R0: there is no such key in this record; did you mean "
+                  "\"Coefficients0\"?\n");
+    ExpectRefused({"get", "host.ini", "Instrument", "Channels"},
+                  "quorconv: host.ini: [Instrument]: the section is not the record of a probe\n");
+}
+
+TEST_F(QuorconvManyTest, TellsTheNearestCommandTypeAndKey) {
+    ExpectRefused({"lsit", "host.ini"}, "quorconv: there is no command \"lsit\"; did you mean \"list\"?\n",
+                  2);
+    ExpectRefused({"frobnicate"}, "quorconv: there is no command \"frobnicate\"\n", 2);
+    ExpectRefused({"explain", "cdv"},
+                  "quorconv: \"cdv\" is no conversion type; the command \"types\" lists them; did you mean "
+                  "\"cvd\"?\n");
+    ExpectRefused(
+        {"set", "host.ini", "Oven", "Coeficients0=1"},
+        "quorconv: host.ini: [Oven] Coeficients0: there is no such key in a record of this type; did "
+        "you mean \"Coefficients0\"?\n");
+    ExpectRefused(
+        {"check", "host.ini", "--ignore", "r0-not-positve"},
+        "quorconv: there is no warning \"r0-not-positve\"; each ends with its id in brackets; did you "
+        "mean \"r0-not-positive\"?\n",
+        2);
+}
+
+TEST_F(QuorconvManyTest, SetsAValueOfAllProbesThatAreLikeAPattern) {
+    ExpectShell("quorconv set host.ini 'bath *' RTPW=25.4", "", "quorconv: 2 probes set\n");
+    EXPECT_EQ(folder.Read("host.ini"),
+              Replaced(Replaced(before, "RTPW=25.5 ; ohms", "RTPW=25.4 ; ohms"), "RTPW=100.0", "RTPW=25.4"));
+}
+
+TEST_F(QuorconvManyTest, SetsAValueOfAllProbesOfAType) {
+    ExpectShell("quorconv set host.ini '*' --type pt1 Coefficients0=99.98", "", "quorconv: 1 probe set\n");
+    EXPECT_EQ(folder.Read("host.ini"), Replaced(before, "=100.02", "=99.98"));
+    ExpectRefused({"set", "host.ini", "Bath*", "--type", "pt1", "Coefficients0=1"},
+                  "quorconv: host.ini: no probe of the type pt1 is like \"Bath*\"\n");
+    ExpectRefused({"set", "host.ini", "Bath?", "RTPW=1"}, "quorconv: host.ini: no probe is like \"Bath?\"\n");
+}
+
+TEST_F(QuorconvManyTest, SetsNothingOfSeveralProbesWhenOneOfThemCannotTakeIt) {
+    ExpectRefused({"set", "host.ini", "*", "RTPW=25.4"},
+                  "quorconv: host.ini: [Oven] RTPW: there is no such key in a record of this type\n");
+    ExpectUnchanged();
+}
+
+TEST_F(QuorconvManyTest, TakesANameThatStandsInTheFileForThatOneWhateverItsLetters) {
+    ExpectFine({"new", "host.ini", "Bath *", "w90", "RTPW=1"});
+    const std::string withStar = folder.Read("host.ini");
+    ExpectShell("quorconv set host.ini 'bath *' RTPW=2", "", "quorconv: 1 probe set\n");
+    EXPECT_EQ(folder.Read("host.ini"), Replaced(withStar, "RTPW=1\n", "RTPW=2\n"));
+}
+
+TEST_F(QuorconvManyTest, WorksOnSeveralFilesAndTellsHowManyProbesItTouched) {
+    folder.Write("other.ini", before);
+    ExpectShell("quorconv set host.ini 'Bath A' --also other.ini RTPW=25.4", "", "quorconv: 2 probes set\n");
+    EXPECT_EQ(folder.Read("host.ini"), Replaced(before, "25.5", "25.4"));
+    EXPECT_EQ(folder.Read("other.ini"), Replaced(before, "25.5", "25.4"));
+    ExpectShell("quorconv show host.ini 'B*A' --also other.ini",
+                "# host.ini\n\n[Bath A] CONV_WT90 W(T90)\nRTPW=25.4\n"
+                "\n# other.ini\n\n[Bath A] CONV_WT90 W(T90)\nRTPW=25.4\n",
+                "quorconv: 2 probes shown\n");
+    ExpectShell("quorconv check --section 'Bath *' host.ini other.ini", "", "quorconv: 4 probes checked\n");
+}
+
+TEST_F(QuorconvManyTest, RemovesProbesWithTheirSettings) {
+    ExpectFine({"remove", "host.ini", "Bath A"});
+    const auto start = before.find("[Bath A]");
+    EXPECT_EQ(folder.Read("host.ini"), before.substr(0, start) + before.substr(before.find("[Bath B]")));
+    folder.Write("host.ini", before);
+    ExpectShell("quorconv remove host.ini '*' --type w90", "", "quorconv: 2 probes removed\n");
+    EXPECT_EQ(folder.Read("host.ini"), before.substr(0, start) + before.substr(before.find("[Oven]")));
+    ExpectRefused({"remove", "host.ini", "Oven", "Bath A"},
+                  "quorconv: host.ini: [bath a]: there is no such section\n");
+    ExpectRefused({"remove", "host.ini", "Instrument"},
+                  "quorconv: host.ini: [Instrument]: the section is not the record of a probe\n");
+}
+
+TEST_F(QuorconvManyTest, RenamesAProbeWithTheSectionsOfItsSettings) {
+    ExpectFine({"rename", "host.ini", "Oven", "Oven 2"});
+    EXPECT_EQ(folder.Read("host.ini"),
+              Replaced(Replaced(before, "[Oven]", "[Oven 2]"), "[Oven - Settings]", "[Oven 2 - Settings]"));
+    ExpectRefused({"rename", "host.ini", "Oven 2", "Bath A"},
+                  "quorconv: host.ini: [Bath A]: there is a section of this name already\n");
+}
+
+TEST_F(QuorconvManyTest, GivesAProbeAnotherTypeWithNewSettings) {
+    ExpectFine({"retype", "host.ini", "Oven", "w90", "RTPW=25.6"});
+    const auto start = before.find("[Oven]");
+    EXPECT_EQ(folder.Read("host.ini"), before.substr(0, start) +
+                                           "[Oven]\nVersion=1.0\nConversionType=14\n\n"
+                                           "[Oven - Settings]\nVersion=1.0\nRTPW=25.6\n");
+    ExpectRefused({"retype", "host.ini", "Instrument", "w90"},
+                  "quorconv: host.ini: [Instrument]: the section is not the record of a probe\n");
+    ExpectRefused({"retype", "host.ini", "Oven 9", "w90"},
+                  "quorconv: host.ini: [Oven 9]: there is no such section\n");
+}
+
+TEST_F(QuorconvManyTest, CopiesAllProbesThatAreLikeAPatternAndAsksBeforeItWritesOverOne) {
+    ExpectShell("quorconv copy host.ini 'Bath*' other.ini", "", "quorconv: 2 probes copied\n");
+    ExpectFine({"list", "other.ini"}, "Bath A\tCONV_WT90\tW(T90)\nBath B\tCONV_WT90\tW(T90)\n");
+    ExpectFine({"set", "other.ini", "Bath A", "RTPW=1"});
+    const std::string other = folder.Read("other.ini");
+    ExpectRefused({"copy", "host.ini", "Bath A", "other.ini"},
+                  "quorconv: other.ini: [Bath A]: there is a probe in this section already; --replace writes "
+                  "over it\n");
+    EXPECT_EQ(folder.Read("other.ini"), other);
+    ExpectFine({"copy", "host.ini", "Bath A", "other.ini", "--replace"});
+    EXPECT_EQ(folder.Read("other.ini"), Replaced(other, "RTPW=1\n", "RTPW=25.5\n"));
+}
+
+TEST_F(QuorconvManyTest, TakesNoNumberThatIsNoneUnlessItIsAllowed) {
+    for (const std::string text : {"NaN", "Infinity", "-Infinity"}) {
+        ExpectRefused({"set", "host.ini", "Oven", "Coefficients0=" + text},
+                      "quorconv: host.ini: [Oven] Coefficients0: " + text +
+                          " gives no temperature; --allow-nan stores it\n");
+        ExpectRefused({"new", "host.ini", "P", "w90", "RTPW=" + text},
+                      "quorconv: host.ini: [P] RTPW: " + text +
+                          " gives no temperature; --allow-nan stores it\n");
+    }
+    ExpectUnchanged();
+    ExpectFine({"set", "host.ini", "Oven", "Coefficients0=NaN", "--allow-nan"});
+    EXPECT_EQ(folder.Read("host.ini"), Replaced(before, "=100.02", "=NaN"));
+}
+
+TEST_F(QuorconvManyTest, RefusesNamesThatAFileCannotGiveBackAndSaysWhy) {
+    const struct {
+        const char* name;
+        const char* reason;
+    } cases[] = {
+        {"", "a name needs a character"},
+        {"N]2", "a \"]\" ends the name in the file"},
+        {"#c", "what begins so is a comment to other programs"},
+        {";c", "what begins so is a comment to other programs"},
+        {"N\n2", "it has a line break"},
+        {" N", "blanks around it are lost in the file"},
+    };
+    for (const auto& [name, reason] : cases) {
+        const std::string printed = std::string(name) == "N\n2" ? "N\\n2" : name;
+        const std::string said =
+            "quorconv: host.ini: [" + printed + "]: no section can have this name: " + reason + "\n";
+        ExpectRefused({"new", "host.ini", name, "w90", "RTPW=1"}, said);
+        ExpectRefused({"rename", "host.ini", "Oven", name}, said);
+        ExpectRefused({"copy", "host.ini", "Oven", "host.ini", name}, said);
+    }
+    ExpectUnchanged();
+}
+
+TEST_F(QuorconvManyTest, PrintsTheUnifiedDiffOfADryRunAndWritesNothing) {
+    const std::string head = "--- host.ini\n+++ host.ini\n";
+    ExpectFine({"set", "host.ini", "Bath A", "RTPW=25.4", "--dry-run"}, head + "@@ -8,7 +8,7 @@\n"
+                                                                               " \n"
+                                                                               " [Bath A - Settings]\n"
+                                                                               " Version=1.0\n"
+                                                                               "-RTPW=25.5 ; ohms\n"
+                                                                               "+RTPW=25.4 ; ohms\n"
+                                                                               " \n"
+                                                                               " [Bath B]\n"
+                                                                               " Version=1.0\n");
+    ExpectFine({"set", "host.ini", "Bath A", "RTPW=25.5", "--dry-run"});
+    ExpectFine({"rename", "host.ini", "Oven", "O", "--dry-run"}, head + "@@ -18,11 +18,11 @@\n"
+                                                                        " Version=1.0\n"
+                                                                        " RTPW=100.0\n"
+                                                                        " \n"
+                                                                        "-[Oven]\n"
+                                                                        "+[O]\n"
+                                                                        " Version=1.0\n"
+                                                                        " ConversionType=19\n"
+                                                                        " \n"
+                                                                        "-[Oven - Settings]\n"
+                                                                        "+[O - Settings]\n"
+                                                                        " Version=1.0\n"
+                                                                        " NumCoefficients=1\n"
+                                                                        " Coefficients0=100.02\n");
+    ExpectFine({"new", "none.ini", "O", "10", "--dry-run"},
+               "--- /dev/null\n+++ none.ini\n@@ -0,0 +1,3 @@\n+[O]\n+Version=1.0\n+ConversionType=10\n");
+    ExpectUnchanged();
+    EXPECT_EQ(folder.Files(), (std::vector<std::string>{".err", ".out", "host.ini"}));
+}
+
+TEST_F(QuorconvManyTest, PrintsADiffThatPatchTurnsIntoTheWrittenFile) {
+    folder.Write("steps.txt", "remove \"Bath A\"\nset \"Bath B\" RTPW=99.5\nnew Channel cvd\n"
+                              "retype Oven ply\nrename \"Bath B\" Bath\n");
+    const Outcome patched = Shell("quorconv apply host.ini steps.txt --dry-run 2>said >change.diff\n"
+                                  "cat said; cp host.ini patched.ini; patch -s patched.ini change.diff\n"
+                                  "quorconv apply host.ini steps.txt; cmp host.ini patched.ini");
+    EXPECT_EQ(patched.out, "quorconv: 5 steps would be done\n");
+    EXPECT_EQ(patched.err, "quorconv: 5 steps done\n");
+    EXPECT_EQ(patched.code, 0);
+    ExpectFine({"list", "host.ini"}, "Bath\tCONV_WT90\tW(T90)\nOven\tCONV_POLYNOMIAL\tPolynomial\n"
+                                     "Channel\tCONV_CVD\tCallendar-Van Dusen\n");
+}
+
+TEST_F(QuorconvManyTest, DoesTheStepsOfAFileTogether) {
+    ExpectShell("quorconv apply host.ini <<'end'\n"
+                "# new certificates\n"
+                "\n"
+                "set \"Bath A\" RTPW=25.4 # as of May\n"
+                "copy Oven \"Oven 2\"\n"
+                "set \"Oven 2\" Coefficients0=100.03\n"
+                "copy \"Oven 2\" Oven --replace\n"
+                "remove \"Oven 2\"\n"
+                "end",
+                "", "quorconv: 5 steps done\n");
+    EXPECT_EQ(folder.Read("host.ini"), Replaced(Replaced(before, "25.5", "25.4"), "100.02", "100.03"));
+}
+
+TEST_F(QuorconvManyTest, TellsEachWrongStepWithItsLineAndDoesNoneOfThem) {
+    const auto refused = [&](const std::string& steps, const std::string& said) {
+        folder.Write("steps.txt", steps);
+        ExpectRefused({"apply", "host.ini", "steps.txt"}, said);
+        ExpectUnchanged();
+    };
+    refused("set Oven Coefficients0=1\nsett Oven Coefficients0=1\nset Oven\nset \"Oven\n",
+            "quorconv: host.ini: nothing was written, because 3 lines of steps.txt are wrong\n"
+            "  steps.txt:2: there is no step \"sett\"; did you mean \"set\"?\n"
+            "  steps.txt:3: set SECTION KEY=VALUE... expected\n"
+            "  steps.txt:4: a double quote is not closed\n");
+    refused(
+        "set Oven Coefficients0=1\nset Oven Coefficients0=1,5\nset \"Bath A\" Coefficients0=1\n",
+        "quorconv: host.ini: nothing was written, because 2 lines of steps.txt are wrong\n"
+        "  steps.txt:2: host.ini: [Oven] Coefficients0: \"1,5\" is not a number; the decimal separator is a "
+        "point\n"
+        "  steps.txt:3: host.ini: [Bath A] Coefficients0: there is no such key in a record of this type\n");
+    refused("set Oven Coefficients0=1\nremove Bath\nset Bath RTPW=1\n",
+            "quorconv: host.ini: nothing was written, because a line of steps.txt is wrong\n"
+            "  steps.txt:2: host.ini: [Bath]: there is no such section\n");
+}
+
+TEST_F(QuorconvManyTest, SetsWhatTheLinesOfAFileSay) {
+    ExpectShell("printf '\"Bath A\" RTPW=25.4\\nOven Coefficients0=99.9\\n' | quorconv set host.ini --from -",
+                "", "quorconv: 2 steps done\n");
+    EXPECT_EQ(folder.Read("host.ini"), Replaced(Replaced(before, "25.5", "25.4"), "100.02", "99.9"));
+    ExpectRefused({"set", "host.ini", "Oven", "Coefficients0=1", "--from", "-"},
+                  "quorconv: with --from the file alone says what is set\n", 2);
+    ExpectRefused({"set", "host.ini"}, "quorconv: SECTION and KEY=VALUE expected, or --from FILE\n", 2);
+}
+
+TEST_F(QuorconvManyTest, ReadsTheStandardInputAndWritesTheStandardOutputForADash) {
+    ExpectShell("quorconv list - <host.ini", "Bath A\tCONV_WT90\tW(T90)\nBath B\tCONV_WT90\tW(T90)\n"
+                                             "Oven\tCONV_PT100R0\tPT100\n");
+    ExpectShell("quorconv get - Oven Coefficients0 <host.ini", "100.02\n");
+    ExpectShell("quorconv set - Oven Coefficients0=99.9 <host.ini", Replaced(before, "100.02", "99.9"));
+    ExpectShell("quorconv rename - Oven O <host.ini | quorconv remove - O | quorconv remove - 'Bath?B'",
+                before.substr(0, before.find("\n[Bath B]")), "quorconv: 1 probe removed\n");
+    ExpectShell("sed s/25.5/x/ host.ini | quorconv check -",
+                "-:11: [Bath A - Settings] RTPW: \"x\" is not a number\n", "", 1);
+    ExpectShell("printf 'type RTPW 7\\nclick OK\\n' | quorconv edit host.ini 'Bath A' --script -", "");
+    EXPECT_EQ(folder.Read("host.ini"), Replaced(before, "25.5", "7"));
+    ExpectShell("quorconv copy - Oven - P </dev/null", "",
+                "quorconv: \"-\" can stand once: the standard input can be read once\n", 2);
+}
+
+TEST_F(QuorconvManyTest, ShowsTheProbesThatCanBeReadAndFailsAtTheEnd) {
+    folder.Write("host.ini", Replaced(before, "RTPW=100.0", "RTPW=100,0"));
+    ExpectShell("quorconv show host.ini",
+                "[Bath A] CONV_WT90 W(T90)\nRTPW=25.5\n\n"
+                "[Oven] CONV_PT100R0 PT100\nNumCoefficients=1\nCoefficients0=100.02\n",
+                "quorconv: host.ini: [Bath B]: the record cannot be read\n"
+                "  line 19: [Bath B - Settings] RTPW: \"100,0\" is not a number; the decimal separator is a "
+                "point\n",
+                1);
+    const Outcome json = Quorconv({"show", "host.ini", "--jsonl"});
+    EXPECT_EQ(json.code, 1);
+    EXPECT_EQ(json.out,
+              "{\"section\": \"Bath A\", \"code\": 14, \"type\": \"CONV_WT90\", \"name\": \"W(T90)\", "
+              "\"settings\": {\"RTPW\": 25.5}}\n"
+              "{\"section\": \"Oven\", \"code\": 19, \"type\": \"CONV_PT100R0\", \"name\": \"PT100\", "
+              "\"settings\": {\"NumCoefficients\": 1, \"Coefficients\": [{\"name\": \"R0\", "
+              "\"value\": 100.02}]}}\n");
+}
+
+TEST_F(QuorconvManyTest, ChecksForPeopleEditorsBuildServersAndPrograms) {
+    folder.Write("a,b.ini",
+                 Replaced(Replaced(before, "RTPW=25.5 ; ohms", "RTPW=x"), "RTPW=100.0", "RTPW=-1"));
+    const Outcome json = Quorconv({"check", "--json", "a,b.ini", "none.ini"});
+    EXPECT_EQ(json.code, 1);
+    EXPECT_EQ(
+        json.out,
+        "[\n  {\"file\": \"a,b.ini\", \"line\": 11, \"section\": \"Bath A - Settings\", \"key\": \"RTPW\", "
+        "\"id\": \"value-unreadable\", \"severity\": \"error\", \"text\": \"\\\"x\\\" is not a number\"},\n"
+        "  {\"file\": \"a,b.ini\", \"line\": 19, \"section\": \"Bath B - Settings\", \"key\": \"RTPW\", "
+        "\"id\": \"rtpw-not-positive\", \"severity\": \"warning\", \"text\": \"RTPW is -1; limit: above "
+        "0\"},\n"
+        "  {\"file\": \"none.ini\", \"line\": 0, \"section\": \"\", \"key\": \"\", \"id\": "
+        "\"file-unreadable\", \"severity\": \"error\", \"text\": \"File not found: none.ini\"}\n]\n");
+    EXPECT_EQ(Quorconv({"check", "--format", "gcc", "a,b.ini"}).out,
+              "a,b.ini:11:1: error: [Bath A - Settings] RTPW: \"x\" is not a number [value-unreadable]\n"
+              "a,b.ini:19:1: warning: [Bath B - Settings] RTPW: RTPW is -1; limit: above 0 "
+              "[rtpw-not-positive]\n");
+    EXPECT_EQ(
+        Quorconv({"check", "--format", "github", "a,b.ini"}).out,
+        "::error file=a%2Cb.ini,line=11,title=value-unreadable::[Bath A - Settings] RTPW: \"x\" is not a "
+        "number\n"
+        "::warning file=a%2Cb.ini,line=19,title=rtpw-not-positive::[Bath B - Settings] RTPW: RTPW is -1; "
+        "limit: above 0\n");
+    ExpectFine({"check", "--json", "host.ini"}, "[]\n");
+    ExpectRefused({"check", "--format", "gc", "host.ini"},
+                  "quorconv: --format: there is no \"gc\"; did you mean \"gcc\"?\n", 2);
+}
+
+TEST_F(QuorconvManyTest, ChecksTheProbesOfATypeAlone) {
+    folder.Write("host.ini", Replaced(before, "RTPW=25.5 ; ohms", "RTPW=x"));
+    ExpectShell("quorconv check host.ini --type pt1", "", "quorconv: 1 probe checked\n");
+    ExpectShell("quorconv check host.ini --type w90",
+                "host.ini:11: [Bath A - Settings] RTPW: \"x\" is not a number\n",
+                "quorconv: 2 probes checked\n", 1);
+}
+
+TEST_F(QuorconvManyTest, ColoursATerminalAloneAndOnlyWhereColoursAreWanted) {
+    folder.Write("host.ini", Replaced(before, "RTPW=25.5 ; ohms", "RTPW=x"));
+    const std::string plain = "host.ini:11: [Bath A - Settings] RTPW: \"x\" is not a number";
+    const std::string terminal = "script -qec 'quorconv check host.ini' /dev/null </dev/null | tr -d '\\r'";
+    ExpectShell("TERM=xterm; export TERM; unset NO_COLOR; " + terminal,
+                "host.ini:11: \x1B[31m[Bath A - Settings] RTPW: \"x\" is not a number\x1B[0m\n");
+    ExpectShell("TERM=xterm NO_COLOR=1; export TERM NO_COLOR; " + terminal, plain + "\n");
+    ExpectShell("TERM=dumb; export TERM; unset NO_COLOR; " + terminal, plain + "\n");
+    ExpectShell("TERM=xterm quorconv check host.ini", plain + "\n", "", 1);
+}
+
+TEST_F(QuorconvManyTest, ExplainsWhatARecordHoldsAndEachKey) {
+    ExpectFine({"explain", "w90"}, "CONV_WT90 (14): W(T90)\n"
+                                   "Stand-alone files: .w90, section [W(T90)]\n"
+                                   "\n"
+                                   "RTPW\n"
+                                   "  meaning  Resistance at the triple point of water, 273.16 K\n"
+                                   "  unit     ohm\n"
+                                   "  range    any number\n"
+                                   "  usual    above 0\n"
+                                   "  default  0\n");
+    ExpectFine({"explain", "cvd", "delta"}, "\nCoefficients2 (DELTA), with UsePolynomial=False\n"
+                                            "  meaning  Callendar's coefficient\n"
+                                            "  unit     \xC2\xB0"
+                                            "C\n"
+                                            "  range    any number\n"
+                                            "  usual    0.75 to 3\n"
+                                            "  default  0\n");
+    ExpectFine({"explain", "CONV_OHMS"}, "CONV_OHMS (10): Ohms\nA record of this type has no settings.\n");
+    ExpectRefused({"explain", "cvd", "GAMMA"}, "quorconv: CONV_CVD: there is no key \"GAMMA\"\n");
+}
