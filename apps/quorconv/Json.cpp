@@ -1,11 +1,15 @@
 #include "apps/quorconv/Json.h"
 
+#include "QuorIniFile/AsciiCase.h"
 #include "QuorIniFile/Utf8.h"
 #include "QuorIniFile/ValueText.h"
 
+#include <rapidjson/error/en.h>
+#include <rapidjson/memorystream.h>
+#include <rapidjson/reader.h>
+
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 
 namespace quorconv {
 
@@ -59,275 +63,162 @@ const JsonValue* JsonValue::Find(std::wstring_view name) const {
 
 namespace {
 
-class Reader {
+/// Makes values of what the parser finds, and finds their places in the text.
+class Builder {
 public:
-    explicit Reader(std::string_view text) : m_text(text) {
-        if (m_text.starts_with("\xEF\xBB\xBF"))
-            m_at = m_lineStart = 3;
-    }
+    Builder(std::string_view text, rapidjson::MemoryStream& stream,
+            const std::function<void(const JsonValue&)>& use)
+        : m_text(text), m_stream(stream), m_use(use) {}
 
-    void ReadObjects(const std::function<void(const JsonValue&)>& use) {
-        SkipBlanks();
-        if (Peek() == '[') {
-            ++m_at;
-            ReadList([&] { use(ReadObject()); });
-            SkipBlanks();
-            if (m_at < m_text.size())
-                Fail(L"nothing may follow the list");
-            return;
-        }
-        for (; m_at < m_text.size(); SkipBlanks())
-            use(ReadObject());
+    // What the parser calls; "true" lets it go on.
+    bool Null() { return Add(Value(JsonValue::Kind::Null)); }
+    bool Bool(bool flag) {
+        JsonValue value = Value(JsonValue::Kind::Boolean);
+        value.flag = flag;
+        return Add(std::move(value));
+    }
+    bool RawNumber(const char* digits, rapidjson::SizeType length, bool /*copy*/) {
+        JsonValue value = Value(JsonValue::Kind::Number);
+        value.text.assign(digits, digits + length);
+        return Add(std::move(value));
+    }
+    bool String(const char* bytes, rapidjson::SizeType length, bool /*copy*/) {
+        JsonValue value = Value(JsonValue::Kind::Text);
+        value.text = Wide({bytes, length});
+        return Add(std::move(value));
+    }
+    bool Key(const char* bytes, rapidjson::SizeType length, bool /*copy*/) {
+        FindPlace();
+        JsonValue& object = m_open.back();
+        std::wstring name = Wide({bytes, length});
+        if (object.members.size() == mostMembers)
+            Fail(L"an object has no more than 1000 members here");
+        if (object.Find(name))
+            Fail(L"the name \"" + name + L"\" stands twice");
+        object.members.emplace_back(std::move(name), JsonValue{});
+        return true;
+    }
+    bool StartObject() { return Open(JsonValue::Kind::Object); }
+    bool StartArray() { return Open(JsonValue::Kind::List); }
+    bool EndObject(rapidjson::SizeType /*members*/) { return Close(); }
+    bool EndArray(rapidjson::SizeType /*items*/) { return Close(); }
+    // Numbers come as they are spelled, by RawNumber.
+    static bool Int(int /*number*/) { return false; }
+    static bool Uint(unsigned /*number*/) { return false; }
+    static bool Int64(std::int64_t /*number*/) { return false; }
+    static bool Uint64(std::uint64_t /*number*/) { return false; }
+    static bool Double(double /*number*/) { return false; }
+
+    [[nodiscard]] bool WasList() const { return m_wasList; }
+
+    [[noreturn]] void FailAt(std::size_t offset, std::wstring text) {
+        GoTo(offset);
+        Fail(std::move(text));
     }
 
 private:
     static constexpr std::size_t mostMembers = 1000;
-    static constexpr int deepest = 20; // nobody needs more, and a hostile text no more stack
+    static constexpr std::size_t deepest = 20; // nobody needs more, and a hostile text no more stack
 
-    [[noreturn]] void Fail(std::wstring text) const {
-        throw JsonError{m_line, m_at - m_lineStart + 1, std::move(text)};
+    [[noreturn]] void Fail(std::wstring text) const { throw JsonError{m_line, m_column, std::move(text)}; }
+
+    static std::wstring Wide(std::string_view bytes) {
+        return *QuorIniFile::FromUtf8(bytes); // the parser has looked at the encoding
     }
 
-    [[nodiscard]] char Peek() const { return m_at < m_text.size() ? m_text[m_at] : '\0'; }
-
-    void SkipBlanks() {
-        for (; m_at < m_text.size(); ++m_at) {
-            const char character = m_text[m_at];
-            if (character == '\n') {
-                ++m_line;
-                m_lineStart = m_at + 1;
-            } else if (character != ' ' && character != '\t' && character != '\r') {
-                return;
-            }
+    void GoTo(std::size_t offset) {
+        for (; m_at < offset; ++m_at) {
+            const bool isEnd = m_text[m_at] == '\n';
+            m_line += isEnd ? 1 : 0;
+            m_column = isEnd ? 1 : m_column + 1;
         }
     }
 
-    void Expect(char character) {
-        SkipBlanks();
-        if (Peek() != character)
-            Fail(L"'" + std::wstring(1, static_cast<wchar_t>(character)) + L"' expected");
-        ++m_at;
+    /// Goes to where that begins of which the parser has just read the end.
+    void FindPlace() {
+        GoTo(std::min(m_text.find_first_not_of(" \t\r\n,:", m_end), m_text.size()));
+        m_end = m_stream.Tell();
     }
 
-    /// The items of a list whose "[" was read.
-    void ReadList(const std::function<void()>& readItem) {
-        SkipBlanks();
-        if (Peek() == ']') {
-            ++m_at;
-            return;
-        }
-        while (true) {
-            readItem();
-            SkipBlanks();
-            if (Peek() == ']') {
-                ++m_at;
-                return;
-            }
-            Expect(',');
-        }
-    }
-
-    JsonValue ReadObject() {
-        SkipBlanks();
-        if (Peek() != '{')
-            Fail(L"an object expected: '{'");
-        return ReadValue(0);
-    }
-
-    JsonValue ReadValue(int depth) {
-        SkipBlanks();
+    JsonValue Value(JsonValue::Kind kind) {
+        FindPlace();
         JsonValue value;
+        value.kind = kind;
         value.line = m_line;
-        value.column = m_at - m_lineStart + 1;
-        if (depth > deepest)
-            Fail(L"values are nested too deeply");
-        switch (Peek()) {
-        case '{':
-            value.kind = JsonValue::Kind::Object;
-            ReadMembers(value, depth);
-            break;
-        case '[':
-            value.kind = JsonValue::Kind::List;
-            ++m_at;
-            ReadList([&] { value.items.push_back(ReadValue(depth + 1)); });
-            break;
-        case '"':
-            value.kind = JsonValue::Kind::Text;
-            value.text = ReadText();
-            break;
-        default:
-            ReadWord(value);
-        }
+        value.column = m_column;
         return value;
     }
 
-    void ReadMembers(JsonValue& value, int depth) {
-        ++m_at;
-        SkipBlanks();
-        if (Peek() == '}') {
-            ++m_at;
-            return;
-        }
-        while (true) {
-            SkipBlanks();
-            if (Peek() != '"')
-                Fail(L"a name in quotes expected");
-            const std::size_t start = m_at;
-            std::wstring name = ReadText();
-            if (value.members.size() == mostMembers)
-                Fail(L"an object has no more than 1000 members here");
-            if (value.Find(name)) {
-                m_at = start;
-                Fail(L"the name \"" + name + L"\" stands twice");
-            }
-            Expect(':');
-            JsonValue member = ReadValue(depth + 1);
-            value.members.emplace_back(std::move(name), std::move(member));
-            SkipBlanks();
-            if (Peek() == '}') {
-                ++m_at;
-                return;
-            }
-            Expect(',');
-        }
+    bool Open(JsonValue::Kind kind) {
+        JsonValue value = Value(kind);
+        if (m_open.empty() && kind == JsonValue::Kind::List)
+            m_wasList = true;
+        else if (kind == JsonValue::Kind::List && IsOuter())
+            Fail(L"an object expected");
+        if (m_open.size() > deepest)
+            Fail(L"values are nested too deeply");
+        m_open.push_back(std::move(value));
+        return true;
     }
 
-    void ReadWord(JsonValue& value) {
-        const std::size_t end =
-            std::min(m_text.find_first_not_of(
-                         "0123456789+-.eEabcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ", m_at),
-                     m_text.size());
-        const std::string_view word = m_text.substr(m_at, end - m_at);
-        if (word == "true" || word == "false") {
-            value.kind = JsonValue::Kind::Boolean;
-            value.flag = word == "true";
-        } else if (word == "null") {
-            value.kind = JsonValue::Kind::Null;
-        } else if (IsNumber(word)) {
-            value.kind = JsonValue::Kind::Number;
-            value.text.assign(word.begin(), word.end());
-        } else {
-            Fail(word.empty() ? L"a value expected"
-                              : L"\"" + QuorIniFile::DecodeBytes(word) +
-                                    L"\" is no JSON value; texts stand in quotes");
-        }
-        m_at = end;
+    bool Close() {
+        FindPlace();
+        JsonValue value = std::move(m_open.back());
+        m_open.pop_back();
+        return (m_open.empty() && m_wasList) || Add(std::move(value));
     }
 
-    /// By the rules of JSON: no leading zeros, no sign "+", digits on both sides of the point.
-    static bool IsNumber(std::string_view word) {
-        std::size_t at = 0;
-        const auto digits = [&] {
-            const std::size_t begin = at;
-            while (at < word.size() && word[at] >= '0' && word[at] <= '9')
-                ++at;
-            return at - begin;
-        };
-        if (at < word.size() && word[at] == '-')
-            ++at;
-        const std::size_t first = at;
-        const std::size_t whole = digits();
-        if (whole == 0 || (whole > 1 && word[first] == '0'))
-            return false;
-        if (at < word.size() && word[at] == '.') {
-            ++at;
-            if (digits() == 0)
-                return false;
-        }
-        if (at < word.size() && (word[at] == 'e' || word[at] == 'E')) {
-            ++at;
-            if (at < word.size() && (word[at] == '+' || word[at] == '-'))
-                ++at;
-            if (digits() == 0)
-                return false;
-        }
-        return at == word.size();
-    }
+    /// Whether what comes next is one of the objects that the text holds.
+    [[nodiscard]] bool IsOuter() const { return m_open.empty() || (m_wasList && m_open.size() == 1); }
 
-    std::uint32_t ReadHex() {
-        std::uint32_t code = 0;
-        for (int i = 0; i < 4; ++i, ++m_at) {
-            constexpr std::string_view digits = "0123456789abcdef";
-            const char lower = static_cast<char>(Peek() | 0x20);
-            const auto digit = Peek() == '\0' ? std::string_view::npos : digits.find(lower);
-            if (digit == std::string_view::npos)
-                Fail(L"four hexadecimal digits expected");
-            code = code * 16 + static_cast<std::uint32_t>(digit);
-        }
-        return code;
-    }
-
-    std::wstring ReadText() {
-        const std::size_t start = m_at++;
-        std::wstring text;
-        std::string bytes; // since the last escape
-        const auto addBytes = [&] {
-            const auto part = QuorIniFile::FromUtf8(bytes);
-            if (!part) {
-                m_at = start;
-                Fail(L"the text is not UTF-8");
-            }
-            text += *part;
-            bytes.clear();
-        };
-        for (;; ++m_at) {
-            if (m_at >= m_text.size() || static_cast<unsigned char>(m_text[m_at]) < 0x20) {
-                m_at = std::min(m_at, m_text.size());
-                Fail(L"the text is not closed by a quote in its line");
-            }
-            const char character = m_text[m_at];
-            if (character == '"')
-                break;
-            if (character != '\\') {
-                bytes += character;
-                continue;
-            }
-            ++m_at;
-            constexpr std::string_view names = "\"\\/bfnrt";
-            constexpr std::string_view meant = "\"\\/\b\f\n\r\t";
-            if (const auto escape = names.find(Peek()); Peek() != '\0' && escape != std::string_view::npos) {
-                bytes += meant[escape];
-                continue;
-            }
-            if (Peek() != 'u')
-                Fail(L"there is no such escape");
-            addBytes();
-            ++m_at;
-            text += ReadEscaped();
-            --m_at; // the last digit; the loop goes on behind it
-        }
-        ++m_at;
-        addBytes();
-        return text;
-    }
-
-    /// The character of "\uXXXX", of which two may make one.
-    wchar_t ReadEscaped() {
-        std::uint32_t code = ReadHex();
-        constexpr std::uint32_t high = 0xD800;
-        constexpr std::uint32_t low = 0xDC00;
-        if (code >= high && code < low && m_text.substr(m_at, 2) == "\\u") {
-            m_at += 2;
-            const std::uint32_t second = ReadHex();
-            if (second < low || second > 0xDFFF)
-                Fail(L"half a character");
-            code = 0x10000 + ((code - high) << 10U) + (second - low);
-        }
-        if (code >= high && code <= 0xDFFF)
-            Fail(L"half a character");
-        return static_cast<wchar_t>(code);
+    bool Add(JsonValue value) {
+        if (IsOuter() && value.kind != JsonValue::Kind::Object)
+            throw JsonError{value.line, value.column, L"an object expected"};
+        if (IsOuter())
+            m_use(value);
+        else if (m_open.back().kind == JsonValue::Kind::List)
+            m_open.back().items.push_back(std::move(value));
+        else
+            m_open.back().members.back().second = std::move(value);
+        return true;
     }
 
     std::string_view m_text;
-    std::size_t m_at = 0;
+    rapidjson::MemoryStream& m_stream;
+    const std::function<void(const JsonValue&)>& m_use;
+    std::vector<JsonValue> m_open;
+    bool m_wasList = false; // the text is a list
+    std::size_t m_end = 0;  // of what was read last
+    std::size_t m_at = 0;   // where m_line and m_column are
     std::size_t m_line = 1;
-    std::size_t m_lineStart = 0;
+    std::size_t m_column = 1;
 };
 
 } // namespace
 
 void ReadJsonObjects(std::string_view text, const std::function<void(const JsonValue&)>& use) {
-    Reader(text).ReadObjects(use);
+    constexpr unsigned flags = rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseValidateEncodingFlag |
+                               rapidjson::kParseStopWhenDoneFlag;
+    if (text.starts_with("\xEF\xBB\xBF"))
+        text.remove_prefix(3);
+    rapidjson::MemoryStream stream(text.data(), text.size());
+    Builder builder(text, stream, use);
+    const auto skipBlanks = [&] {
+        rapidjson::SkipWhitespace(stream);
+        return stream.Tell() < text.size();
+    };
+    while (skipBlanks()) {
+        if (builder.WasList())
+            builder.FailAt(stream.Tell(), L"nothing may follow the list");
+        rapidjson::Reader reader;
+        if (!reader.Parse<flags>(stream, builder)) {
+            // "Missing a comma or } after an object member." is a sentence; here it ends one.
+            const std::string_view what = rapidjson::GetParseError_En(reader.GetParseErrorCode());
+            std::wstring reason(what.begin(), what.end() - 1);
+            reason.front() = QuorIniFile::Small(reason.front());
+            builder.FailAt(std::min(reader.GetErrorOffset(), text.size()), std::move(reason));
+        }
+    }
 }
 
 } // namespace quorconv

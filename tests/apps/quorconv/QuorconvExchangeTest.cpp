@@ -91,9 +91,9 @@ TEST_F(QuorconvExchangeTest, LosesNoBitOfANumberInJson) {
 
 TEST_F(QuorconvExchangeTest, RefusesJsonThatNoProbeIsWithLineAndColumn) {
     ExpectRefusedJson("[\n  {\"section\": 1}\n]", "in.json:2:15: \"section\" is not a text");
-    ExpectRefusedJson("{\"section\": \"P\"", "in.json:1:16: ',' expected");
-    ExpectRefusedJson("[1]", "in.json:1:2: an object expected: '{'");
-    ExpectRefusedJson(Probe("{}") + " x", "in.json:1:54: an object expected: '{'");
+    ExpectRefusedJson("{\"section\": \"P\"", "in.json:1:16: missing a comma or '}' after an object member");
+    ExpectRefusedJson("[1]", "in.json:1:2: an object expected");
+    ExpectRefusedJson(Probe("{}") + " x", "in.json:1:54: invalid value");
     ExpectRefusedJson(Probe("{}", "CONV_CDV"),
                       "in.json:1:26: \"CONV_CDV\" is no conversion type; did you mean \"CONV_CVD\"?");
     ExpectRefusedJson("{\"section\": \"P\", \"section\": \"Q\"}",
@@ -117,11 +117,13 @@ TEST_F(QuorconvExchangeTest, RefusesJsonThatNoProbeIsWithLineAndColumn) {
     ExpectRefusedJson("{\"section\": \"P\", \"code\": 3, \"type\": \"CONV_CVD\", \"settings\": {}}",
                       "in.json:1:26: the code of CONV_CVD is 2");
     ExpectRefusedJson(Probe("{\"NumCoefficients\": 01}"),
-                      "in.json:1:70: \"01\" is no JSON value; texts stand in quotes");
-    ExpectRefusedJson(std::string(100000, '['), "in.json:1:2: an object expected: '{'");
+                      "in.json:1:71: missing a comma or '}' after an object member");
+    ExpectRefusedJson("[" + Probe("{}") + "] x", "in.json:1:56: nothing may follow the list");
+    ExpectRefusedJson("{\"a\": NaN}", "in.json:1:7: invalid value");
+    ExpectRefusedJson(std::string(100000, '['), "in.json:1:2: an object expected");
     ExpectRefusedJson("{\"a\":" + std::string(100000, '['), "in.json:1:26: values are nested too deeply");
-    ExpectRefusedJson("{\"a\": \"\\ud800\"}", "in.json:1:14: half a character");
-    ExpectRefusedJson("{\"a\": \"\xFF\"}", "in.json:1:7: the text is not UTF-8");
+    ExpectRefusedJson("{\"a\": \"\\ud800\"}", "in.json:1:8: the surrogate pair in string is invalid");
+    ExpectRefusedJson("{\"a\": \"\xFF\"}", "in.json:1:8: invalid encoding in string");
 }
 
 TEST_F(QuorconvExchangeTest, WritesNoneOfManyProbesWhenOneIsWrong) {
