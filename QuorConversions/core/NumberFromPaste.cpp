@@ -72,17 +72,20 @@ constexpr struct {
 
 /// Words that make of a name more than a name, in small letters: scaling units, factors, signs.
 constexpr Text tellingWords[] = {
-    L"v",    L"kv",    L"uv",    L"nv",    L"\u03BCv", L"mk",    L"uk",       L"kk",      L"\u03BCk",
-    L"kohm", L"kohms", L"mohm",  L"mohms", L"milli",   L"micro", L"kilo",     L"mega",    L"percent",
-    L"ppm",  L"ppb",   L"times", L"per",   L"minus",   L"plus",  L"negative", L"inverse", L"reciprocal",
-    L"lg",   L"ld",    L"lb",    L"sin",   L"cos",     L"tan",   L"abs",
+    L"v",       L"kv",      L"uv",    L"nv",    L"\u03BCv", L"mk",     L"uk",       L"kk",      L"\u03BCk",
+    L"kohm",    L"kohms",   L"mohm",  L"mohms", L"milli",   L"micro",  L"kilo",     L"mega",    L"percent",
+    L"ppm",     L"ppb",     L"times", L"per",   L"minus",   L"plus",   L"negative", L"inverse", L"reciprocal",
+    L"lg",      L"ld",      L"lb",    L"sin",   L"cos",     L"tan",    L"abs",      L"mille",   L"hundred",
+    L"hundert", L"tausend", L"neg",   L"mal",   L"hoch",    L"betrag", L"kehrwert",
 };
 /// What the names of functions begin with, also where the argument follows without a bracket: "lnR"; and
 /// what scaling units begin with: "milliohms".
-constexpr Text tellingBeginnings[] = {L"ln",   L"log",   L"exp",   L"sqrt", L"arc",
-                                      L"kilo", L"milli", L"micro", L"mega", L"nano"};
-/// What is a prefix of a unit where it stands in brackets by itself: "R0 (k)".
-constexpr Text prefixesInBrackets[] = {L"k", L"m", L"\u03BC", L"u", L"n", L"g"};
+constexpr Text tellingBeginnings[] = {L"ln",       L"log",         L"exp",       L"sqrt",        L"arc",
+                                      L"kilo",     L"milli",       L"micro",     L"mega",        L"nano",
+                                      L"thousand", L"tausendstel", L"hundredth", L"hundertstel", L"promille",
+                                      L"prozent",  L"negativ"};
+/// What is a prefix of a unit where it stands behind a name by itself: "R0 (k)", "R0 k".
+constexpr Text lonePrefixes[] = {L"k", L"m", L"M", L"G", L"\u03BC", L"u", L"n"};
 
 bool IsDigit(wchar_t c) { return allDigits.find(c) != Text::npos; }
 bool AreDigits(Text text) { return text.find_first_not_of(allDigits) == Text::npos; }
@@ -213,6 +216,8 @@ PastedNumber ReadMantissa(Text text, wchar_t separator, bool hasExponent) {
                                                : L'\0';
     if (both && count(last) > 1)
         return Refused(PasteRefusal::NoNumber);
+    if (both && text.back() == last) // the decimal separator, or the end of a sentence: "100.012,"
+        return Refused(PasteRefusal::TwoReadings);
     const bool hasDecimal = count(last) == 1;
     const auto at = hasDecimal ? text.find(last) : text.size();
     const Text before = text.substr(0, at);
@@ -402,9 +407,12 @@ bool IsPlainWord(Text word, bool first) {
         return false;
     if (letters.empty()) // "Temperature 2"
         return !first && number.size() <= 1;
-    const bool isFactor = !first && (letters == L"x" || (letters == L"e" && !number.empty()));
-    return number.size() <= 2 && !isFactor &&
-           std::find(std::begin(tellingWords), std::end(tellingWords), letters) == std::end(tellingWords) &&
+    const auto isOneOf = [](Text text, const auto& words) {
+        return std::find(std::begin(words), std::end(words), text) != std::end(words);
+    };
+    const bool isFactor =
+        !first && (letters == L"x" || (letters == L"e" && !number.empty()) || isOneOf(word, lonePrefixes));
+    return number.size() <= 2 && !isFactor && !isOneOf(letters, tellingWords) &&
            std::none_of(std::begin(tellingBeginnings), std::end(tellingBeginnings),
                         [&](Text beginning) { return letters.starts_with(beginning); });
 }
@@ -421,7 +429,7 @@ bool ArePlainWords(Text words, bool beginName) {
 }
 
 /// What may stand in the brackets of a name, beside a unit: an index, a temperature, or a word that names a
-/// state: "R(TPW)", "R(H2O)", "W(Ga)". A letter that scales a unit is none.
+/// state: "R(TPW)", "R(H2O)", "W(Ga)".
 bool IsPlainInBrackets(Text text) {
     if (AreDigits(text) && !text.empty() && text.size() <= 2)
         return true;
@@ -430,13 +438,7 @@ bool IsPlainInBrackets(Text text) {
         const PastedUnit unit = WholeUnit(Trimmed(text.substr(number + 1), L" "));
         return unit == PastedUnit::Celsius || unit == PastedUnit::Kelvin;
     }
-    std::wstring small(text);
-    for (wchar_t& c : small)
-        c = c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c;
-    const bool isPrefix = std::find(std::begin(prefixesInBrackets), std::end(prefixesInBrackets), small) !=
-                          std::end(prefixesInBrackets);
-    return !text.empty() && !isPrefix &&
-           (text == L"H2O" || text == L"H\u2082O" || ArePlainWords(text, false));
+    return !text.empty() && (text == L"H2O" || text == L"H\u2082O" || ArePlainWords(text, false));
 }
 
 /// What stands in front of a number, as far as it says nothing of a factor, a scaling unit, a sign or a

@@ -369,14 +369,17 @@ bool SettingsDialog::IsOfAnother(const TextBox& box, const PastedNumber& pasted)
 }
 
 void SettingsDialog::PasteCells(TextBox& box, const PastedCells& cells) {
+    const std::wstring& separator = GetDecimalSeparator(*m_platform);
     std::vector<PastedNumber> numbers;
     std::vector<std::wstring_view> texts;
     for (const auto& line : cells)
         for (const std::wstring_view cell : line) {
             texts.push_back(cell);
-            numbers.push_back(NumberFromPaste(cell, GetDecimalSeparator(*m_platform)));
+            numbers.push_back(NumberFromPaste(cell, separator));
             if (!numbers.back().number)
                 return box.SetAdvice(AdviceOnRefusedPaste(cell, numbers.back().refusal));
+            if (numbers.back().number->ends_with(separator)) // its digits may stand on the next line
+                return box.SetAdvice(AdviceOnRefusedPaste(cell, PasteRefusal::TwoReadings));
         }
     const auto boxes = BoxesFor(cells, box);
     if (!boxes)

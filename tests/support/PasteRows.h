@@ -363,6 +363,52 @@ inline const PasteRow pasteRows[] = {
     {L"A = B = 2", both, isNoNumber},
     {L"12:30", both, isNoNumber},
 
+    {L"T K = 273.16", both, isForeign, L"273.16"},
+    {L"R0 k = 0.1", both, isNoNumber},
+    {L"R0 M: 0.1", both, isNoNumber},
+    {L"A in Promille: 3.9", both, isNoNumber},
+    {L"A (thousandths) = 3.9", both, isNoNumber},
+    {L"A, 10\u207B\u00B3: 3.9083", both, isNoNumber},
+    {L"A 10\u207B\u00B3 = 3.9083", both, isNoNumber},
+    {L"A (10\u207B\u00B3/\u00B0C) = 3.9083", both, isNoNumber},
+    {L"A 103: 3.9083", both, isNoNumber},
+    {L"R0 100.012", both, isNoNumber},
+    {L"R0 \u2248 100.012", both, isNoNumber},
+    {L"R0=100.012;A=3.9E-3", both, isNoNumber},
+    {L"\uFB01x = 5.5", both, isNoNumber}, // a ligature
+    {L"U(R0) = 0.002", both, isForeign, L"0.002"},
+    {L"R\u2080 = 100,012", L".", isTwofold},
+
+    // Numbers as they come out of documents
+    {L"100.012\u00B9", both, isNoNumber}, // a footnote
+    {L"100.012 \u00B9", both, isNoNumber},
+    {L"100.012*", both, isNoNumber},
+    {L"100.012 \u2020", both, isNoNumber},
+    {L"100.012a", both, isNoNumber},
+    {L"100.012 (1)", both, isNoNumber},
+    {L"3.9083E-3*", both, isNoNumber},
+    {L"3.9083E-3\u00B9", both, isNoNumber},
+    {L"3.9083 \u00D7 10\u207B\u00B3 \u00B9", both, isNoNumber},
+    {L"3.90\u00AD83E-3", both, isNoNumber}, // a word division that is not seen
+    {L"100.012,", both, isTwofold},         // the end of a clause
+    {L"100,012.", both, isTwofold},
+    {L"100,012. \u03A9", both, isTwofold},
+    {L"1,234,567.", both, isTwofold},
+    {L"100.012.", both, isNoNumber},
+    {L"100,5.", both, isTwofold},
+    {L"1.234,56 \u03A9 \u00B1 0.01", both, isNoNumber},
+    {L"25.483\u2009170\u20095 \u03A9", both, isTold, L"25.4831705"},
+    {L"\u2022 2.35", both, isNoNumber},
+    {L"1) 2.35", both, isNoNumber},
+    {L"1. 2.35", both, isNoNumber},
+    {L"1\u00B4234.5", both, isNoNumber}, // an accent
+    {L"1\u00B7234", both, isNoNumber},
+    {L"2\u20605.5", both, isNoNumber}, // joined words
+    {L"l00.012", both, isNoNumber},
+    {L"100.O12", both, isNoNumber},
+    {L"2024-05-03", both, isNoNumber},
+    {L"03.05.2024", both, isNoNumber},
+
     // What says more than a number
     {L"100.01 \u00B1 0.02", both, isNoNumber},
     {L"100.01(2)", both, isNoNumber},

@@ -348,6 +348,19 @@ TEST_F(PasteTest, OneCellThatIsNoNumberKeepsAllOthersOut) {
     });
 }
 
+TEST_F(PasteTest, ANumberThatADocumentBreaksOverLinesIsNotPastedInParts) {
+    for (const auto& [text, part, why] : {std::tuple(L"3.9083E-\n3", L"3.9083E-", L"is not a number"),
+                                          std::tuple(L"\u2212\n2.35E-4", L"\u2212", L"is not a number"),
+                                          std::tuple(L"100.\n012", L"100.", L"can be read in two ways"),
+                                          std::tuple(L"100\n.012\n5,\n6", L"5,", L"can be read in two ways")})
+        Edit([&, text = text, part = part, why = why](Person& person) {
+            person.Paste(L"R0", text);
+            EXPECT_EQ(Boxes(person), untouched);
+            EXPECT_EQ(person.Advice(L"R0"), L"Nothing pasted: " + std::wstring(part) + L" " + why);
+            person.Click(L"Cancel");
+        });
+}
+
 TEST_F(PasteTest, NumbersForWhichThereIsNoBoxKeepAllOthersOut) {
     settings->SetNumCoefficients(3);
     Edit([](Person& person) {
