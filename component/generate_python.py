@@ -2,6 +2,7 @@
 
 import keyword
 import re
+import textwrap
 
 NOTE = "# Made by component/generate from members.txt: change that.\n"
 # What a value that goes in is checked by: ctypes itself would cut it, or say less.
@@ -163,7 +164,8 @@ def signature(table, parameters, typed):
 def method(head, doc, lines):
     text = f"    def {head}:\n"
     if doc:
-        text += f'        """{doc}"""\n'
+        wrapped = textwrap.wrap(doc, 105)
+        text += '        """' + "\n        ".join(wrapped) + '"""\n'
     return text + "".join(f"        {line}\n" for line in lines)
 
 

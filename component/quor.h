@@ -540,7 +540,7 @@ enum {
     QUOR_PROBE_SETTINGS_ARE_TAKEN = 9, /* the settings would stand in ErrorOther, a section that is there already */
     QUOR_PROBE_SECTION_IS_SHARED = 10, /* a section would go or move with the probe that ErrorOther needs, too */
     QUOR_PROBE_OF_ANOTHER_TYPE = 11, /* a probe of another type, ErrorOther, stands in the section */
-    QUOR_PROBE_DOES_NOT_FIT_FILE = 12, /* the section is that of a stand-alone settings file, which is not for the type, or for the probe that is to be renamed, ErrorOther */
+    QUOR_PROBE_DOES_NOT_FIT_FILE = 12, /* the section of a stand-alone settings file is not for the type, or not for a renamed probe */
     QUOR_PROBE_CANNOT_BE_WRITTEN = 13, /* by its conversion, whose error is raised */
     QUOR_PROBE_SECTION_OF_HOST = 14 /* no probe can be written into a section that is there and is no record */
 };
@@ -1472,9 +1472,10 @@ QUOR_API int32_t quor_control_get_SelectedTab(quor_object control, int32_t* resu
 /* What the user is told of the text of a box before it is stored; mostly empty. */
 QUOR_API int32_t quor_control_get_Advice(quor_object control, quor_text* result);
 
-/* ProbeFile. The probes of a host's file, or the one of a stand-alone settings file. What is written is durable
- * when the call returns, and every call that writes does so in one turn, upon the file as it is then. All reads see
- * one text, that which was loaded first or saved last, until Reload. Between Hold and Release nothing is written:
+/* ProbeFile. The probes of a host's file, or the one of a stand-alone settings file. A file that is not there is
+ * error 53; one that may be new has no probes, and the first write makes it. What is written is durable when the
+ * call returns, and every call that writes does so in one turn, upon the file as it is then. All reads see one
+ * text, that which was loaded first or saved last, until Reload. Between Hold and Release nothing is written:
  * Release does all of it together, or when one thing fails nothing, and raises what that raises. A file that such a
  * call reads, Before and Source, stays until then, and is another object. An error of a probe is 75 or the number
  * of its cause; ErrorCode says which it is. */
@@ -1501,14 +1502,15 @@ QUOR_API int32_t quor_probe_file_get_IsStandAlone(quor_object probe_file, int32_
 QUOR_API int32_t quor_probe_file_get_ConversionName(quor_object probe_file, int32_t Index, quor_text* result);
 /* The index of the probe of a section, in any case of ASCII letters; -1 when there is none. */
 QUOR_API int32_t quor_probe_file_FindProbe(quor_object probe_file, quor_text Section, int32_t* result);
-/* Reads a probe. True when it is whole; otherwise the rows of problems and messages tell, nobody else. */
+/* Reads a probe into a conversion, which gets its type, and defaults for what is missing: False then, and there
+ * are rows. */
 QUOR_API int32_t quor_probe_file_Read(quor_object probe_file, quor_text Section, quor_object Conversion,
                                       quor_bool* result);
 /* The numbers of all probes at once. */
 QUOR_API int32_t quor_probe_file_ReadAll(quor_object probe_file, quor_object* result);
 /* Looks for all that is wrong with the file and its probes. How many problems there are. */
 QUOR_API int32_t quor_probe_file_Check(quor_object probe_file, int32_t* result);
-/* How many problems the last Read or Check has found, or an error of a Copy has told. */
+/* How many problems the last Read or Check has found. Their rows are kept until the next call that is no get. */
 QUOR_API int32_t quor_probe_file_get_ProblemCount(quor_object probe_file, int32_t* result);
 /* What is wrong. */
 QUOR_API int32_t quor_probe_file_get_ProblemKind(quor_object probe_file, int32_t Index, quor_EProbeProblem* result);
@@ -1520,13 +1522,15 @@ QUOR_API int32_t quor_probe_file_get_ProblemSection(quor_object probe_file, int3
 QUOR_API int32_t quor_probe_file_get_ProblemKey(quor_object probe_file, int32_t Index, quor_text* result);
 /* What is wrong, for a person, without the place. */
 QUOR_API int32_t quor_probe_file_get_ProblemText(quor_object probe_file, int32_t Index, quor_text* result);
-/* How many messages the library had about what was read last. */
+/* How many messages the last Read has brought, which are shown to nobody. */
 QUOR_API int32_t quor_probe_file_get_MessageCount(quor_object probe_file, int32_t* result);
 /* A message of the library, on one line. */
 QUOR_API int32_t quor_probe_file_get_Messages(quor_object probe_file, int32_t Index, quor_text* result);
-/* Writes a probe: only lines of values that differ change. Changed of the conversion stays as it is. */
+/* Writes a probe, over that of the section or as a new one: only lines of values that differ change. */
 QUOR_API int32_t quor_probe_file_Write(quor_object probe_file, quor_text Section, quor_object Conversion);
-/* Writes what has changed since the probe was read from Before. False: there are conflicts, nothing is written. */
+/* Writes the values that differ from those in Before, the file object that the probe was read from: this one, or
+ * another. What other programs have written beside them stays. False when they have changed the same values: there
+ * are conflicts, and nothing is written. */
 QUOR_API int32_t quor_probe_file_WriteChanges(quor_object probe_file, quor_text Section, quor_object Conversion,
                                               quor_object Before, quor_bool* result);
 /* How many values others have changed, too, as the last WriteChanges or Release has found. */

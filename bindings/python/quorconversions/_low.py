@@ -238,7 +238,7 @@ class ProbeFileError(IntEnum):
     SETTINGS_ARE_TAKEN = 9  # the settings would stand in ErrorOther, a section that is there already
     SECTION_IS_SHARED = 10  # a section would go or move with the probe that ErrorOther needs, too
     OF_ANOTHER_TYPE = 11  # a probe of another type, ErrorOther, stands in the section
-    DOES_NOT_FIT_FILE = 12  # the section is that of a stand-alone settings file, which is not for the type, or for the probe that is to be renamed, ErrorOther
+    DOES_NOT_FIT_FILE = 12  # the section of a stand-alone settings file is not for the type, or not for a renamed probe
     CANNOT_BE_WRITTEN = 13  # by its conversion, whose error is raised
     SECTION_OF_HOST = 14  # no probe can be written into a section that is there and is no record
 
@@ -2924,7 +2924,7 @@ class Control(Object):
 
 
 class ProbeFile(Object):
-    """The probes of a host's file, or the one of a stand-alone settings file. What is written is durable when the call returns, and every call that writes does so in one turn, upon the file as it is then. All reads see one text, that which was loaded first or saved last, until Reload. Between Hold and Release nothing is written: Release does all of it together, or when one thing fails nothing, and raises what that raises. A file that such a call reads, Before and Source, stays until then, and is another object. An error of a probe is 75 or the number of its cause; ErrorCode says which it is."""
+    """The probes of a host's file, or the one of a stand-alone settings file. A file that is not there is error 53; one that may be new has no probes, and the first write makes it. What is written is durable when the call returns, and every call that writes does so in one turn, upon the file as it is then. All reads see one text, that which was loaded first or saved last, until Reload. Between Hold and Release nothing is written: Release does all of it together, or when one thing fails nothing, and raises what that raises. A file that such a call reads, Before and Source, stays until then, and is another object. An error of a probe is 75 or the number of its cause; ErrorCode says which it is."""
 
     __slots__ = ()
 
@@ -2997,7 +2997,8 @@ class ProbeFile(Object):
         return result.value
 
     def Read(self, Section, Conversion):
-        """Reads a probe. True when it is whole; otherwise the rows of problems and messages tell, nobody else."""
+        """Reads a probe into a conversion, which gets its type, and defaults for what is missing: False then, and
+        there are rows."""
         result = c_int16()
         with lent(Conversion) as Conversion_handle:
             check(_library.quor_probe_file_Read(self._handle, text(Section), Conversion_handle, byref(result)))
@@ -3017,7 +3018,8 @@ class ProbeFile(Object):
 
     @property
     def ProblemCount(self):
-        """How many problems the last Read or Check has found, or an error of a Copy has told."""
+        """How many problems the last Read or Check has found. Their rows are kept until the next call that is no
+        get."""
         result = c_int32()
         check(_library.quor_probe_file_get_ProblemCount(self._handle, byref(result)))
         return result.value
@@ -3054,7 +3056,7 @@ class ProbeFile(Object):
 
     @property
     def MessageCount(self):
-        """How many messages the library had about what was read last."""
+        """How many messages the last Read has brought, which are shown to nobody."""
         result = c_int32()
         check(_library.quor_probe_file_get_MessageCount(self._handle, byref(result)))
         return result.value
@@ -3066,12 +3068,14 @@ class ProbeFile(Object):
         return result.take()
 
     def Write(self, Section, Conversion):
-        """Writes a probe: only lines of values that differ change. Changed of the conversion stays as it is."""
+        """Writes a probe, over that of the section or as a new one: only lines of values that differ change."""
         with lent(Conversion) as Conversion_handle:
             check(_library.quor_probe_file_Write(self._handle, text(Section), Conversion_handle))
 
     def WriteChanges(self, Section, Conversion, Before):
-        """Writes what has changed since the probe was read from Before. False: there are conflicts, nothing is written."""
+        """Writes the values that differ from those in Before, the file object that the probe was read from: this
+        one, or another. What other programs have written beside them stays. False when they have changed the
+        same values: there are conflicts, and nothing is written."""
         result = c_int16()
         with lent(Conversion) as Conversion_handle, lent(Before) as Before_handle:
             check(_library.quor_probe_file_WriteChanges(self._handle, text(Section), Conversion_handle, Before_handle, byref(result)))
