@@ -122,11 +122,17 @@ std::wstring ProbeFileFace::ConversionName(std::int32_t index) {
 }
 
 std::int32_t ProbeFileFace::FindProbe(std::wstring_view section) {
-    const auto found = m_file.Find(section);
-    if (!found)
-        return -1;
     const auto& probes = m_file.Probes();
-    return static_cast<std::int32_t>(std::find(probes.begin(), probes.end(), *found) - probes.begin());
+    // ProbeFile::Find looks through the file; hosts that ask for each probe of a large one have no time for
+    // that.
+    if (const std::uint64_t text = m_file.Store()->TextNumber(); m_placesText != text) {
+        m_places.clear();
+        for (const ProbeEntry& probe : probes)
+            m_places.emplace(Folded(probe.section), static_cast<std::int32_t>(m_places.size()));
+        m_placesText = text;
+    }
+    const auto found = m_places.find(Folded(std::wstring(section)));
+    return found == m_places.end() ? -1 : found->second;
 }
 
 std::int32_t ProbeFileFace::ProblemLine(std::int32_t index) const {

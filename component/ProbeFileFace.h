@@ -6,9 +6,11 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace QuorConversions::Component {
@@ -120,6 +122,8 @@ private:
                                  ProbeFileFace& before);
 
     QuorProbeFile::ProbeFile m_file;
+    std::unordered_map<std::wstring, std::int32_t> m_places; ///< of the probes, by their folded sections
+    std::optional<std::uint64_t> m_placesText;               ///< the number of the text that they are of
     std::vector<QuorProbeFile::ProbeProblem> m_problems;
     std::vector<std::wstring> m_messages;
     std::vector<QuorProbeFile::RecordConflict> m_conflicts;

@@ -343,3 +343,19 @@ TEST_F(ProbeFileFromC, SaysWhetherAConversionDiffersFromItsProbeAsItIsRead) {
     EXPECT_FALSE(differs("Q", Conversion(QUOR_CONV_WT90)));
     EXPECT_TRUE(differs("Q", Conversion(QUOR_CONV_OHMS)));
 }
+
+TEST_F(ProbeFileFromC, FindsProbesInTheFileAsItIsAfterAWrite) {
+    const Handle file = Open();
+    const auto place = [&](const char* section) {
+        std::int32_t result = 0;
+        EXPECT_EQ(quor_probe_file_FindProbe(file, Text(section), &result), 0);
+        return result;
+    };
+    EXPECT_EQ(place("Q"), 1);
+    ASSERT_EQ(quor_probe_file_Remove(file, Text("P")), 0);
+    EXPECT_EQ(place("Q"), 0);
+    EXPECT_EQ(place("P"), -1);
+    Put(hostFile);
+    ASSERT_EQ(quor_probe_file_Reload(file), 0);
+    EXPECT_EQ(place("Q"), 1);
+}
