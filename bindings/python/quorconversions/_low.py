@@ -258,6 +258,7 @@ class ProbeProblem(IntEnum):
     PROBLEM_MALFORMED_LINE = 12  # no key=value
     PROBLEM_KEPT_FILE = 13  # beside the file: what another program had put in its place
     PROBLEM_INTERRUPTED_SAVE = 14  # beside the file: what an interrupted save has left
+    PROBLEM_LINE_ENDS_IN_CR = 15  # a header or key behind a carriage return alone, which nobody reads
     WARNING_R0_NOT_POSITIVE = 101
     WARNING_RTPW_NOT_POSITIVE = 102
     WARNING_NOT_FINITE = 103  # NaN or infinity
@@ -278,6 +279,7 @@ class ProbeProblem(IntEnum):
     WARNING_THERMISTOR_A1_SIZE = 118
     WARNING_THERMISTOR_A3_SIZE = 119
     WARNING_THERMISTOR_B1_SIZE = 120
+    WARNING_COUNT_DOES_NOT_FIT = 121  # values beside a count that it leaves out are not 0
 
 
 class CQuorConversion(Object):

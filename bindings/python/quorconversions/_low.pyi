@@ -232,6 +232,7 @@ class ProbeProblem(IntEnum):
     PROBLEM_MALFORMED_LINE = 12
     PROBLEM_KEPT_FILE = 13
     PROBLEM_INTERRUPTED_SAVE = 14
+    PROBLEM_LINE_ENDS_IN_CR = 15
     WARNING_R0_NOT_POSITIVE = 101
     WARNING_RTPW_NOT_POSITIVE = 102
     WARNING_NOT_FINITE = 103
@@ -252,6 +253,7 @@ class ProbeProblem(IntEnum):
     WARNING_THERMISTOR_A1_SIZE = 118
     WARNING_THERMISTOR_A3_SIZE = 119
     WARNING_THERMISTOR_B1_SIZE = 120
+    WARNING_COUNT_DOES_NOT_FIT = 121
 
 class CQuorConversion(Object):
     def __init__(self, platform: _Platform | HostObject | None = ...) -> None: ...
