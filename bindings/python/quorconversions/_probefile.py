@@ -170,8 +170,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
         if self._file.ProblemCount or self._file.MessageCount:
             words = "; ".join(f"[{p.section}] {p.key}: {p.text}" for p in problems) or self._file.get_Messages(0)
             raise IncompleteProbeError(QuorError(75, "QuorProbeFile", f"{self._path}: {words}"), problems, conversion)
-        self._probes[_folded(section)] = section, conversion, True
-        self._before[_folded(section)] = conversion.ConversionType
+        self._remember(section, conversion)
         return conversion
 
     def read(self, section: str) -> Tuple[Conversion, Tuple[Problem, ...]]:
@@ -232,20 +231,28 @@ class ProbeFile(MutableMapping[str, Conversion]):
     def save(self) -> None:
         """Writes what was changed, added and removed, all of it or nothing."""
         steps = list(self._steps())
-        if steps:
-            writer = _low.ProbeFile(self._path, self._create)
-            try:
-                writer.Hold()
-                for step in steps:
-                    step(writer)
-                writer.Release()
-            except QuorError as error:
-                self._raise(writer, error)
+        if not steps:
+            return
+        writer = _low.ProbeFile(self._path, self._create)
+        try:
+            writer.Hold()
+            for step in steps:
+                step(writer)
+            writer.Release()
+        except QuorError as error:
+            self._raise(writer, error)
         self._file.Reload()
-        self._probes = {folded: (section, conversion, True)
-                        for folded, (section, conversion, _) in self._probes.items() if conversion is not None}
-        self._before = {folded: conversion.ConversionType
-                        for folded, (_, conversion, _) in self._probes.items() if conversion is not None}
+        probes = [(section, conversion) for section, conversion, _ in self._probes.values() if conversion is not None]
+        self._probes = {}
+        self._before = {}
+        for section, conversion in probes:
+            if self._file.FindProbe(section) >= 0:  # what others have written of it is no change of ours
+                self._call(lambda: self._file.Read(section, conversion))  # noqa: B023, called at once
+                self._remember(section, conversion)
+
+    def _remember(self, section: str, conversion: Conversion) -> None:
+        self._probes[_folded(section)] = section, conversion, True
+        self._before[_folded(section)] = conversion.ConversionType
 
     def _steps(self) -> Iterator[Callable[[_low.ProbeFile], object]]:
         for folded, (section, conversion, was_read) in self._probes.items():

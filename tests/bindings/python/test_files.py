@@ -96,6 +96,28 @@ def test_what_another_program_has_written_meanwhile_stays(laboratory):
     assert (cvd.R0, cvd.BETA) == (101, 0.5)
 
 
+def test_a_probe_that_is_kept_over_a_save_gets_what_others_have_written_and_writes_none_of_it_back(laboratory):
+    mine = ProbeFile(laboratory)
+    cvd = mine[PROBE].settings
+    cvd.R0 = 101
+    with ProbeFile(laboratory) as theirs:
+        theirs[PROBE].settings.BETA = 0.5
+    mine.save()
+    assert mine[PROBE].settings is cvd
+    assert (cvd.R0, cvd.BETA) == (101, 0.5)
+    with ProbeFile(laboratory) as theirs:
+        theirs[PROBE].settings.BETA = 0.25
+    cvd.R0 = 102
+    mine.save()
+    assert list(ProbeFile(laboratory)[PROBE].settings.coefficients)[::3] == [102, 0.25]
+
+
+def test_a_block_that_changes_nothing_makes_no_file(tmp_path):
+    with ProbeFile(tmp_path / "new.ini", create=True) as file:
+        assert len(file) == 0
+    assert list(tmp_path.iterdir()) == []
+
+
 def test_a_value_that_both_have_changed_is_a_conflict_and_nothing_is_written(laboratory):
     with ProbeFile(laboratory) as theirs:
         mine = ProbeFile(laboratory)
