@@ -178,11 +178,15 @@ void DocumentSave::WriteMerged(const ProbeFile& file, const ListedProbe& probe) 
 }
 
 void DocumentSave::SpellNewNames(IniStore& store) const {
-    NameSet removed;
+    NameSet given; // up, by probes that were removed or have another name now
     for (const ListedProbe* const probe : m_removed)
-        removed.insert(probe->Section());
+        given.insert(probe->Section());
     for (const ListedProbe& probe : m_probes) {
-        if (!probe.isNew || !removed.contains(probe.name))
+        if (probe.IsRenamed())
+            given.insert(probe.Section());
+    }
+    for (const ListedProbe& probe : m_probes) {
+        if ((!probe.isNew && !probe.IsRenamed()) || !given.contains(probe.name))
             continue;
         for (const std::wstring& section : store.Sections()) {
             const std::wstring spelled =

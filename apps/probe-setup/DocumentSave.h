@@ -52,8 +52,8 @@ private:
                                                                       const std::wstring& section) const;
     /// Conflicts give way: the user has agreed to that, or there were none.
     void WriteMerged(const QuorProbeFile::ProbeFile& file, const ListedProbe& probe) const;
-    /// Gives new probes their names in the letters that the user has typed: a section that is written in the
-    /// place of one that was removed has the letters of that one.
+    /// Gives new and renamed probes their names in the letters that the user has typed: a section that is
+    /// written in the place of one that is gone has the letters of that one.
     void SpellNewNames(QuorIniFile::IniStore& store) const;
 
     QuorProbeFile::ProbeFile& m_before;

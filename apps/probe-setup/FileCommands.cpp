@@ -8,13 +8,10 @@
 #include "apps/probe-setup/RecentFiles.h"
 #include "apps/probe-setup/Wording.h"
 
-#include <QApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMainWindow>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QStatusBar>
@@ -39,13 +36,7 @@ FileCommands::FileCommands(QMainWindow& window, QuorConversions::QtToolkit::QtPl
       m_document(document),
       m_list(list),
       m_recent(recent),
-      m_progress(new QProgressBar) {
-    m_progress->setRange(0, 100);
-    m_progress->setMaximumWidth(window.fontMetrics().averageCharWidth() * 24);
-    m_progress->setAccessibleName(tr("Progress of loading"));
-    window.statusBar()->addPermanentWidget(m_progress);
-    m_progress->hide();
-}
+      m_loader(window, document) {}
 
 void FileCommands::ShowStatus(const QString& text) {
     constexpr int aWhile = 5000; // milliseconds
@@ -109,7 +100,8 @@ bool FileCommands::OpenHostFile(const QString& path) {
         return false;
     const QString full = QFileInfo(path).absoluteFilePath();
     if (!Load(full)) {
-        m_recent.Remove(full);
+        if (!QFileInfo::exists(full))
+            m_recent.Remove(full);
         return false;
     }
     m_recent.Add(full);
@@ -142,31 +134,18 @@ bool FileCommands::Reload() {
 }
 
 bool FileCommands::Load(const QString& path) {
-    m_progress->setValue(0);
-    m_progress->show();
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    m_window.setEnabled(false);
-    m_window.statusBar()->showMessage(tr("Loading %1\u2026").arg(path));
-    QElapsedTimer sinceShown;
-    const auto show = [this, &sinceShown](double part) {
-        constexpr qint64 often = 50; // milliseconds
-        if (sinceShown.isValid() && sinceShown.elapsed() < often)
-            return;
-        m_progress->setValue(static_cast<int>(part * m_progress->maximum()));
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-        sinceShown.start();
-    };
-    show(0);
-    return RunOrTell(&m_window, tr("The file cannot be opened."), [&] {
+    std::unique_ptr<ProbeDocument::Loaded> loaded;
+    const bool done = RunOrTell(&m_window, tr("The file cannot be opened."), [&] {
         const auto restore = qScopeGuard([this] { // before a failure is told
-            m_window.statusBar()->clearMessage();
-            m_window.setEnabled(true);
-            m_list.Table().setFocus(); // a window that cannot be used has lost it
-            QApplication::restoreOverrideCursor();
-            m_progress->hide();
+            m_list.Table().setFocus();            // a window that cannot be used has lost it
         });
-        m_document.Open(FromQt(path), show);
+        loaded = m_loader.Load(path);
     });
+    if (loaded)
+        m_document.Take(std::move(loaded));
+    else if (done)
+        ShowStatus(tr("%1 is not loaded: you have cancelled it.").arg(path));
+    return done && m_document.Path() == FromQt(path);
 }
 
 void FileCommands::OpenPaths(const QStringList& paths) {

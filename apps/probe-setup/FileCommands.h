@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/probe-setup/FileLoader.h"
 #include "apps/probe-setup/ProbeDocument.h"
 
 #include <QCoreApplication>
@@ -11,7 +12,6 @@
 #include <vector>
 
 class QMainWindow;
-class QProgressBar;
 
 namespace QuorConversions::QtToolkit {
 class QtPlatform;
@@ -28,8 +28,7 @@ class FileCommands {
     Q_DECLARE_TR_FUNCTIONS(FileCommands)
 
 public:
-    /// All of it outlives the commands. Messages, questions and the progress of loading are shown in
-    /// `window`.
+    /// All of it outlives the commands. Messages and questions are shown over `window`.
     FileCommands(QMainWindow& window, QuorConversions::QtToolkit::QtPlatform& platform,
                  ProbeDocument& document, ProbeList& list, RecentFiles& recent);
 
@@ -58,7 +57,7 @@ public:
 
 private:
     bool OpenHostFile(const QString& path);
-    /// Reads a host's file, with the window disabled.
+    /// Reads a host's file. False when it cannot be read, or the person has cancelled.
     bool Load(const QString& path);
     /// Adds the probes of stand-alone files. False when not all could be added.
     bool ImportPaths(const QStringList& paths);
@@ -78,7 +77,7 @@ private:
     ProbeDocument& m_document;
     ProbeList& m_list;
     RecentFiles& m_recent;
-    QProgressBar* m_progress;
+    FileLoader m_loader;
 };
 
 } // namespace ProbeSetup

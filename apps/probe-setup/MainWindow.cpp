@@ -4,6 +4,7 @@
 #include "QuorConversions/qt/QtPlatform.h"
 #include "QuorConversions/qt/QtText.h"
 #include "apps/probe-setup/FindingPane.h"
+#include "apps/probe-setup/MessageBox.h"
 #include "apps/probe-setup/ProbeList.h"
 #include "apps/probe-setup/ReloadBar.h"
 #include "apps/probe-setup/ValuePane.h"
@@ -14,12 +15,14 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QHeaderView>
+#include <QIcon>
 #include <QLabel>
 #include <QLocale>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
+#include <QStyle>
 #include <QTimer>
 #include <QToolBar>
 #include <QTreeView>
@@ -71,6 +74,7 @@ MainWindow::MainWindow(std::shared_ptr<QuorRegistryII::Registry> registry, const
       m_count(new QLabel) {
     CQuorConversion().SetHelpFile(FromQt(helpFile));
     setObjectName(QStringLiteral("mainWindow"));
+    setWindowIcon(QIcon(QStringLiteral(":/probe-setup/probe-setup.svg")));
     setAcceptDrops(true);
     auto* const middle = new QWidget;
     auto* const rows = new QVBoxLayout(middle);
@@ -256,17 +260,33 @@ void MainWindow::MakeHelpMenu() {
 }
 
 void MainWindow::MakeToolBar() {
+    // With icons where the desktop has a theme that knows them all, and always with text.
+    struct Tool {
+        const char* action;
+        const char* icon; // its name in themes
+    };
+    const std::vector<std::vector<Tool>> groups = {
+        {{"new", "document-new"}, {"open", "document-open"}, {"save", "document-save"}},
+        {{"add", "list-add"},
+         {"edit", "document-properties"},
+         {"changeType", "preferences-other"},
+         {"duplicate", "edit-copy"},
+         {"remove", "edit-delete"}},
+        {{"undo", "edit-undo"}, {"redo", "edit-redo"}}};
     QToolBar& bar = *addToolBar(tr("Tools"));
     bar.setObjectName(QStringLiteral("tools"));
-    bar.setToolButtonStyle(Qt::ToolButtonTextOnly);
-    for (const auto& group : {std::vector{"new", "open", "save"},
-                              {"add", "edit", "changeType", "duplicate", "remove"},
-                              {"undo", "redo"}}) {
+    bool haveIcons = true;
+    for (const auto& group : groups) {
         if (!bar.actions().isEmpty())
             bar.addSeparator();
-        for (const char* const name : group)
-            bar.addAction(&Action(name));
+        for (const Tool& tool : group) {
+            QAction& action = Action(tool.action);
+            action.setIcon(QIcon::fromTheme(QLatin1String(tool.icon)));
+            haveIcons = haveIcons && !action.icon().isNull();
+            bar.addAction(&action);
+        }
     }
+    bar.setToolButtonStyle(haveIcons ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonTextOnly);
 }
 
 // Panes and help
@@ -283,11 +303,16 @@ void MainWindow::ShowHelp(std::int32_t topic) {
 }
 
 void MainWindow::ShowAbout() {
-    QMessageBox::about(
-        this, tr("About Probe Setup"),
-        tr("Probe Setup %1\n\nThe probe conversions of precision thermometers: held, edited, kept in "
-           "INI files.")
-            .arg(QCoreApplication::applicationVersion()));
+    MessageBox box(this, QMessageBox::NoIcon,
+                   tr("Probe Setup %1").arg(QCoreApplication::applicationVersion()),
+                   tr("The probe conversions of precision thermometers: held, edited, kept in INI files.\n\n"
+                      "Licence: MIT. Copyright \u00A9 2026 Quor Conversions contributors.\n"
+                      "Qt %1, under the LGPL.")
+                       .arg(QLatin1String(qVersion())));
+    box.setWindowTitle(tr("About Probe Setup"));
+    const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize);
+    box.setIconPixmap(windowIcon().pixmap(size * 2));
+    box.exec();
 }
 
 // What is shown

@@ -151,14 +151,18 @@ std::unique_ptr<ProbeFile> ProbeDocument::FileThatDoesNotExist(const std::wstrin
 
 // The list and the file
 
-void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
-    auto file = FileAt(path);
-    const std::vector<ProbeEntry>& probes = file->Probes();
-    if (const auto line = probes.empty() ? LineOfNoIniFile(file->Store()->Lines()) : std::nullopt)
+std::unique_ptr<ProbeDocument::Loaded> ProbeDocument::Read(const std::wstring& path,
+                                                           const Progress& progress) const {
+    auto loaded = std::make_unique<Loaded>();
+    loaded->path = path;
+    loaded->file = FileAt(path);
+    ProbeFile& file = *loaded->file;
+    loaded->isReadOnly = file.IsReadOnly();
+    const std::vector<ProbeEntry>& probes = file.Probes();
+    if (const auto line = probes.empty() ? LineOfNoIniFile(file.Store()->Lines()) : std::nullopt)
         throw DocumentError{Failure::NoSettingsFile, path, {std::to_wstring(*line)}};
 
-    std::vector<ListedProbe> entries;
-    entries.reserve(probes.size());
+    loaded->probes.reserve(probes.size());
     NameSet ours;
     std::unordered_map<std::int32_t, std::uint32_t> names; // of types
     for (const ProbeEntry& probe : probes) {
@@ -169,35 +173,38 @@ void ProbeDocument::Open(const std::wstring& path, const Progress& progress) {
         entry.content.type = probe.type;
         entry.typeInFile = probe.type;
         if (!probe.type || IsNamedByItsValues(*probe.type)) {
-            entry.content.name = NumberOf(file->ConversionName(probe));
+            entry.content.name = NumberOf(file.ConversionName(probe), loaded->names);
         } else {
             const auto [name, isNew] = names.try_emplace(*probe.type, 0);
             if (isNew)
-                name->second = NumberOf(file->ConversionName(probe));
+                name->second = NumberOf(file.ConversionName(probe), loaded->names);
             entry.content.name = name->second;
         }
         ours.insert(entry.name);
-        entries.push_back(std::move(entry));
+        loaded->probes.push_back(std::move(entry));
         constexpr std::size_t now = 1024;
-        if (progress && entries.size() % now == 0)
-            progress(static_cast<double>(entries.size()) / static_cast<double>(probes.size()));
+        if (progress && loaded->probes.size() % now == 0)
+            progress(static_cast<double>(loaded->probes.size()) / static_cast<double>(probes.size()));
     }
 
-    std::vector<std::wstring> foreign;
-    for (std::wstring& section : file->Store()->Sections()) {
+    for (std::wstring& section : file.Store()->Sections()) {
         const std::vector<std::wstring_view> owners = PossibleOwners(section);
         if (!ours.contains(section) &&
             std::none_of(owners.begin(), owners.end(),
                          [&](std::wstring_view owner) { return ours.contains(owner); }))
-            foreign.push_back(std::move(section));
+            loaded->foreign.push_back(std::move(section));
     }
+    return loaded;
+}
 
+void ProbeDocument::Take(std::unique_ptr<Loaded> loaded) {
     Close();
-    m_path = path;
-    m_isReadOnly = file->IsReadOnly();
-    m_file = std::move(file);
-    m_probes = std::move(entries);
-    m_foreign = std::move(foreign);
+    m_path = std::move(loaded->path);
+    m_isReadOnly = loaded->isReadOnly;
+    m_file = std::move(loaded->file);
+    m_probes = std::move(loaded->probes);
+    m_foreign = std::move(loaded->foreign);
+    m_names = std::move(loaded->names);
 }
 
 void ProbeDocument::Close() {
@@ -291,19 +298,19 @@ std::wstring ProbeDocument::NameOf(const CQuorConversion& conversion) const {
     return conversion.ConversionName(conversion.Settings() ? currentValue : conversion.ConversionType());
 }
 
-std::uint32_t ProbeDocument::NumberOf(const std::wstring& name) {
-    const auto found = std::find(m_names.begin(), m_names.end(), name);
-    if (found == m_names.end()) {
-        m_names.push_back(name);
-        return static_cast<std::uint32_t>(m_names.size() - 1);
+std::uint32_t ProbeDocument::NumberOf(const std::wstring& name, std::vector<std::wstring>& names) {
+    const auto found = std::find(names.begin(), names.end(), name);
+    if (found == names.end()) {
+        names.push_back(name);
+        return static_cast<std::uint32_t>(names.size() - 1);
     }
-    return static_cast<std::uint32_t>(found - m_names.begin());
+    return static_cast<std::uint32_t>(found - names.begin());
 }
 
 ProbeContent ProbeDocument::ContentOf(std::shared_ptr<CQuorConversion> conversion) {
     ProbeContent content;
     content.type = conversion->ConversionType();
-    content.name = NumberOf(NameOf(*conversion));
+    content.name = NumberOf(NameOf(*conversion), m_names);
     content.conversion = std::move(conversion);
     return content;
 }

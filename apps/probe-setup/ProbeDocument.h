@@ -56,7 +56,12 @@ public:
 
     /// Takes the probes of a file in place of what was there. Raises QuorError, and leaves all as it was,
     /// when the file cannot be read, and DocumentError when it is no settings file.
-    void Open(const std::wstring& path, const Progress& progress = {});
+    void Open(const std::wstring& path) { Take(Read(path)); }
+    /// The same in two steps. The first touches nothing of the document, and may be done in another thread;
+    /// what `progress` raises ends it and passes through.
+    struct Loaded;
+    [[nodiscard]] std::unique_ptr<Loaded> Read(const std::wstring& path, const Progress& progress = {}) const;
+    void Take(std::unique_ptr<Loaded> loaded);
     /// Makes the document empty, without a file.
     void Close();
 
@@ -199,7 +204,7 @@ private:
     [[nodiscard]] std::shared_ptr<QuorConversions::CQuorConversion>
     CopyOf(const QuorConversions::CQuorConversion& conversion) const;
     [[nodiscard]] ProbeContent ContentOf(std::shared_ptr<QuorConversions::CQuorConversion> conversion);
-    [[nodiscard]] std::uint32_t NumberOf(const std::wstring& name);
+    [[nodiscard]] static std::uint32_t NumberOf(const std::wstring& name, std::vector<std::wstring>& names);
     [[nodiscard]] std::wstring NameOf(const QuorConversions::CQuorConversion& conversion) const;
     const ReadProblems& Load(ListedProbe& entry);
     /// Raises DocumentError unless all of the probe is in its conversion, so that it can be written
@@ -249,6 +254,16 @@ private:
     std::vector<ListedProbe> m_gone; // removed, to go from the file, and never to come back
     std::uint64_t m_revision = 0;
     std::optional<std::vector<QuorProbeFile::ProbeProblem>> m_problems; // of m_file, once it was checked
+};
+
+/// What was read of a file.
+struct ProbeDocument::Loaded {
+    std::wstring path;
+    std::unique_ptr<QuorProbeFile::ProbeFile> file;
+    bool isReadOnly = false;
+    std::vector<ListedProbe> probes;
+    std::vector<std::wstring> foreign;
+    std::vector<std::wstring> names;
 };
 
 } // namespace ProbeSetup

@@ -1,6 +1,7 @@
 #include "apps/probe-setup/ProbeList.h"
 
 #include "QuorConversions/qt/QtText.h"
+#include "apps/probe-setup/FindBox.h"
 #include "apps/probe-setup/MessageBox.h"
 #include "apps/probe-setup/ProbeTable.h"
 #include "apps/probe-setup/Wording.h"
@@ -29,12 +30,10 @@ ProbeList::ProbeList(ProbeDocument& document, std::function<void()> changed)
            [this](const QString& problem) { MessageBox(window(), QMessageBox::Warning, problem).exec(); },
            [this] { m_changed(); }})),
       m_emptyText(new QLabel(m_table->viewport())),
-      m_find(new QLineEdit) {
+      m_find(new FindBox(tr("Part of a name or of a conversion"))) {
     auto* const findLabel = new QLabel(tr("F&ind:"));
     findLabel->setBuddy(m_find);
     m_find->setObjectName(QStringLiteral("find"));
-    m_find->setClearButtonEnabled(true);
-    m_find->setPlaceholderText(tr("Part of a name or of a conversion"));
     m_find->setAccessibleName(tr("Find probes"));
     m_find->installEventFilter(this);
     auto* const findRow = new QHBoxLayout;

@@ -1,6 +1,7 @@
 #include "apps/probe-setup/TypeChooser.h"
 
 #include "QuorConversions/qt/QtText.h"
+#include "apps/probe-setup/FindBox.h"
 #include "apps/probe-setup/TypeTexts.h"
 
 #include <QComboBox>
@@ -22,15 +23,13 @@ using QtToolkit::ToQt;
 TypeChooser::TypeChooser(const TypeChoice& selected, std::function<void()> changed,
                          std::function<void()> accepted)
     : m_choices(TypeChoice::All()),
-      m_filter(new QLineEdit),
+      m_filter(new FindBox(tr("Part of a type, such as \"K\" or \"PT100\""))),
       m_list(new QListWidget),
       m_ranges(new QWidget),
       m_low(MakeRanges(IR_LOWRANGE, selected.low)),
       m_high(MakeRanges(IR_HIGHRANGE, selected.high)),
       m_changed(std::move(changed)) {
     m_filter->setObjectName(QStringLiteral("typeFilter"));
-    m_filter->setClearButtonEnabled(true);
-    m_filter->setPlaceholderText(tr("Part of a type, such as \"K\" or \"PT100\""));
     m_filter->installEventFilter(this);
     m_list->setObjectName(QStringLiteral("probeType"));
     m_low->setObjectName(QStringLiteral("lowRange"));

@@ -15,6 +15,7 @@
 #include <QHelpLink>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
@@ -22,6 +23,7 @@
 #include <QSplitter>
 #include <QStyle>
 #include <QTextBrowser>
+#include <QTextDocument>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -85,12 +87,12 @@ HelpWindow::HelpWindow(QWidget* parent)
     rows->setContentsMargins(0, 0, 0, 0);
     rows->addWidget(m_page);
     rows->addWidget(MakeFindBar());
-    auto* const columns = new QSplitter;
-    columns->addWidget(m_topics);
-    columns->addWidget(right);
-    columns->setStretchFactor(1, 1);
-    columns->setChildrenCollapsible(false);
-    setCentralWidget(columns);
+    m_columns = new QSplitter;
+    m_columns->addWidget(MakeTopics());
+    m_columns->addWidget(right);
+    m_columns->setStretchFactor(1, 1);
+    m_columns->setChildrenCollapsible(false);
+    setCentralWidget(m_columns);
     MakeActions();
 
     connect(m_topics, &QHelpContentWidget::linkActivated, this, &HelpWindow::FollowLink);
@@ -100,6 +102,7 @@ HelpWindow::HelpWindow(QWidget* parent)
     });
     connect(m_engine->contentModel(), &QHelpContentModel::contentsCreated, this, [this] {
         m_topics->expandAll();
+        FitTopics();
         ShowWherePageStands(m_page->source());
     });
     connect(m_page, &QTextBrowser::anchorClicked, this, &HelpWindow::FollowLink);
@@ -110,7 +113,73 @@ HelpWindow::HelpWindow(QWidget* parent)
     const int topicsWidth = 40 * metrics.averageCharWidth();
     const QSize wanted(topicsWidth + 90 * metrics.averageCharWidth(), 42 * metrics.height());
     resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
-    columns->setSizes({std::min(topicsWidth, width() / 3), width()});
+    m_columns->setSizes({std::min(topicsWidth, width() / 3), width()});
+}
+
+QWidget* HelpWindow::MakeTopics() {
+    m_searchText = new QLineEdit;
+    m_searchText->setObjectName(QStringLiteral("search"));
+    m_searchText->setAccessibleName(tr("Search in all pages"));
+    m_searchText->setClearButtonEnabled(true);
+    m_searchResults = new QListWidget;
+    m_searchResults->setObjectName(QStringLiteral("searchResults"));
+    m_searchResults->setAccessibleName(tr("Pages that contain the text"));
+    m_searchResults->hide();
+    auto* const label = new QLabel(tr("&Search:"));
+    label->setBuddy(m_searchText);
+    auto* const box = new QWidget;
+    auto* const rows = new QVBoxLayout(box);
+    rows->setContentsMargins(0, 0, 0, 0);
+    auto* const line = new QHBoxLayout;
+    line->addWidget(label);
+    line->addWidget(m_searchText);
+    rows->addLayout(line);
+    rows->addWidget(m_topics);
+    rows->addWidget(m_searchResults);
+    const auto open = [this](const QListWidgetItem* item) {
+        if (item && !item->data(Qt::UserRole).toUrl().isEmpty())
+            FollowLink(item->data(Qt::UserRole).toUrl());
+    };
+    connect(m_searchText, &QLineEdit::textChanged, this, &HelpWindow::Search);
+    connect(m_searchText, &QLineEdit::returnPressed, this, [this, open] {
+        m_searchResults->setCurrentRow(0);
+        open(m_searchResults->currentItem());
+    });
+    connect(m_searchResults, &QListWidget::itemClicked, this, open);
+    connect(m_searchResults, &QListWidget::itemActivated, this, open);
+    return box;
+}
+
+void HelpWindow::Search(const QString& text) {
+    const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    m_topics->setVisible(words.isEmpty());
+    m_searchResults->setVisible(!words.isEmpty());
+    m_searchResults->clear();
+    // A collection has few pages: they are read each time, and no index is written.
+    for (const QString& collection : m_engine->registeredDocumentations()) {
+        for (const QUrl& page : m_engine->files(collection, QString(), QStringLiteral("html"))) {
+            QTextDocument read;
+            read.setHtml(QString::fromUtf8(m_engine->fileData(page)));
+            const QString plain = read.toPlainText();
+            if (words.isEmpty() || !std::all_of(words.begin(), words.end(), [&plain](const QString& word) {
+                    return plain.contains(word, Qt::CaseInsensitive);
+                }))
+                continue;
+            auto* const item = new QListWidgetItem(read.metaInformation(QTextDocument::DocumentTitle));
+            item->setData(Qt::UserRole, page);
+            m_searchResults->addItem(item);
+        }
+    }
+    m_searchResults->sortItems();
+    if (m_searchResults->count() == 0)
+        m_searchResults->addItem(tr("No page contains this."));
+}
+
+void HelpWindow::FitTopics() {
+    const int wanted = m_topics->header()->length() + 2 * m_topics->frameWidth() +
+                       style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const int topics = std::min(wanted, width() * 2 / 5);
+    m_columns->setSizes({topics, width() - topics});
 }
 
 void HelpWindow::MakeActions() {

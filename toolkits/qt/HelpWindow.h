@@ -13,14 +13,17 @@ class QHelpContentWidget;
 class QHelpEngine;
 class QLabel;
 class QLineEdit;
+class QListWidget;
+class QSplitter;
 class QTextBrowser;
 class QWindow;
 
 namespace QuorConversions::QtToolkit {
 
-/// A window that shows the pages of help collections: the topics beside the page, the way back, find in page,
-/// zoom. It is no modal window and no modal window blocks it while it shows a topic that was asked for there.
-/// It remembers nothing from one run to the next, writes no file and fetches nothing from a network.
+/// A window that shows the pages of help collections: the topics beside the page, a search in all pages, the
+/// way back, find in page, zoom. It is no modal window and no modal window blocks it while it shows a topic
+/// that was asked for there. It remembers nothing from one run to the next, writes no file and fetches
+/// nothing from a network.
 class HelpWindow : public QMainWindow {
     Q_DECLARE_TR_FUNCTIONS(HelpWindow)
 
@@ -39,6 +42,12 @@ private:
     void MakeActions();
     QAction* AddAction(const QString& text, const QKeySequence& shortcut);
     QWidget* MakeFindBar();
+    QWidget* MakeTopics();
+    /// Lists the pages that contain all words of a text in the place of the topics; these again for an empty
+    /// one.
+    void Search(const QString& text);
+    /// Gives the topics the width of the longest, as far as the page keeps the larger part.
+    void FitTopics();
     void FollowLink(const QUrl& url);
     /// `page` is the new source, which the browser does not name yet when it says that it changes.
     void ShowWherePageStands(const QUrl& page);
@@ -55,6 +64,9 @@ private:
     QWidget* m_findBar = nullptr;
     QLineEdit* m_findText = nullptr;
     QLabel* m_findResult = nullptr;
+    QLineEdit* m_searchText = nullptr;
+    QListWidget* m_searchResults = nullptr;
+    QSplitter* m_columns = nullptr;
     QUrl m_home;
     QAction* m_goHome = nullptr;
     QPointer<QWindow> m_below; ///< the modal window on which this one was laid

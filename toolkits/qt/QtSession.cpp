@@ -8,7 +8,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QList>
 #include <QLocale>
+#include <QStringList>
 
 #include <algorithm>
 #include <iterator>
@@ -26,14 +28,38 @@ bool HasDisplay() {
 #endif
 }
 
+namespace {
+
+/// The names of the collection in the languages of the user, the most wanted first; the last is English.
+QStringList CollectionNames() {
+    const QString name = QStringLiteral("quor-conversions");
+    const QString ending = QStringLiteral(".qhc");
+    QStringList names;
+    for (const QString& language : QLocale().uiLanguages()) {
+        const QString spoken = language.section(QLatin1Char('-'), 0, 0);
+        if (spoken == QLatin1String("en") || spoken == QLatin1String("C"))
+            break;
+        names += name + QLatin1Char('_') + spoken + ending;
+    }
+    return names + QStringList{name + ending};
+}
+
+} // namespace
+
 std::wstring HelpCollection(const std::string& installed) {
     const QDir program(QCoreApplication::applicationDirPath());
-    const QString places[] = {program.filePath(QStringLiteral(QUOR_HELP_FROM_PROGRAM)),
-                              program.filePath(QStringLiteral("../../docs/help/quor-conversions.qhc")),
-                              QString::fromStdString(installed)};
-    const auto* const found = std::find_if(std::begin(places), std::end(places),
-                                           [](const QString& place) { return QFileInfo::exists(place); });
-    return FromQt(QDir::cleanPath(found == std::end(places) ? places[0] : *found));
+    QList<QDir> folders{QFileInfo(program.filePath(QStringLiteral(QUOR_HELP_FROM_PROGRAM))).dir(),
+                        QDir(program.filePath(QStringLiteral("../../docs/help")))};
+    if (!installed.empty())
+        folders += QFileInfo(QString::fromStdString(installed)).dir();
+    const QStringList names = CollectionNames();
+    for (const QDir& folder : std::as_const(folders)) {
+        for (const QString& name : names) {
+            if (folder.exists(name))
+                return FromQt(QDir::cleanPath(folder.filePath(name)));
+        }
+    }
+    return FromQt(QDir::cleanPath(folders.front().filePath(names.back())));
 }
 
 QtSession::QtSession(std::string programName)

@@ -50,10 +50,6 @@
 <context>
     <name>FileCommands</name>
     <message>
-        <source>Progress of loading</source>
-        <translation>Fortschritt des Ladens</translation>
-    </message>
-    <message>
         <source>New file</source>
         <translation>Neue Datei</translation>
     </message>
@@ -88,10 +84,6 @@
     <message>
         <source>%1: these section headers have no &quot;]&quot;, so nobody can read the probes below them:</source>
         <translation>%1: Diesen Abschnittsköpfen fehlt die „]“, sodass niemand die Fühler darunter lesen kann:</translation>
-    </message>
-    <message>
-        <source>Loading %1…</source>
-        <translation>%1 wird geladen …</translation>
     </message>
     <message>
         <source>Only one file can be open. %1 is opened.</source>
@@ -164,6 +156,25 @@
     <message>
         <source>%1 probes are written into %2.</source>
         <translation>%1 Fühler sind nach %2 geschrieben.</translation>
+    </message>
+    <message>
+        <source>%1 is not loaded: you have cancelled it.</source>
+        <translation>%1 ist nicht geladen: Sie haben abgebrochen.</translation>
+    </message>
+</context>
+<context>
+    <name>FileLoader</name>
+    <message>
+        <source>Loading %1…</source>
+        <translation>%1 wird geladen …</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Probe Setup</source>
+        <translation>Probe Setup</translation>
     </message>
 </context>
 <context>
@@ -360,14 +371,6 @@
         <translation>Über Probe Setup</translation>
     </message>
     <message>
-        <source>Probe Setup %1
-
-The probe conversions of precision thermometers: held, edited, kept in INI files.</source>
-        <translation>Probe Setup %1
-
-Die Konversionen der Fühler von Präzisionsthermometern: verwaltet, bearbeitet, in INI-Dateien aufbewahrt.</translation>
-    </message>
-    <message>
         <source>%1[*] – Probe Setup</source>
         <translation>%1[*] – Probe Setup</translation>
     </message>
@@ -486,6 +489,20 @@ Die Konversionen der Fühler von Präzisionsthermometern: verwaltet, bearbeitet,
     <message>
         <source>&amp;Findings</source>
         <translation>&amp;Befunde</translation>
+    </message>
+    <message>
+        <source>Probe Setup %1</source>
+        <translation>Probe Setup %1</translation>
+    </message>
+    <message>
+        <source>The probe conversions of precision thermometers: held, edited, kept in INI files.
+
+Licence: MIT. Copyright © 2026 Quor Conversions contributors.
+Qt %1, under the LGPL.</source>
+        <translation>Die Fühlerkonversionen von Präzisionsthermometern: gehalten, bearbeitet, in INI-Dateien aufbewahrt.
+
+Lizenz: MIT. Copyright © 2026 Quor Conversions contributors.
+Qt %1, unter der LGPL.</translation>
     </message>
 </context>
 <context>

@@ -437,6 +437,38 @@ TEST_F(ProbeDocumentTest, EveryStepCanBeTakenBackAndDoneAgain) {
     EXPECT_EQ(document.RedoKind(), std::nullopt) << "a new step ends what could be done again";
 }
 
+TEST_F(ProbeDocumentTest, AProbeThatTakesTheNameOfARemovedOneIsSpeltAsInTheList) {
+    const auto expectSpelt = [this](const char* what) {
+        document.Save();
+        EXPECT_NE(File().find("[PROBE 1]\n"), std::string::npos) << what << '\n' << File();
+        EXPECT_EQ(File().find("[Probe 1"), std::string::npos) << what << '\n' << File();
+        Open();
+        const auto probe = document.Find(L"Probe 1");
+        ASSERT_TRUE(probe) << what;
+        EXPECT_EQ(document.Name(*probe), L"PROBE 1") << what;
+    };
+    Open(host);
+    document.Remove({0});
+    document.Rename(0, L"PROBE 1");
+    expectSpelt("renamed");
+    Open(host);
+    document.Remove({0});
+    document.Add(L"PROBE 1", CONV_CVD);
+    expectSpelt("added");
+    Open(host);
+    document.Remove({0});
+    document.SetType({0}, CONV_CVD);
+    document.Rename(0, L"PROBE 1");
+    expectSpelt("renamed and of another type");
+    Open(host);
+    document.Rename(0, L"Other");
+    document.Rename(1, L"PROBE 1");
+    document.Rename(0, L"probe 2");
+    document.Save();
+    EXPECT_NE(File().find("[PROBE 1]\n"), std::string::npos) << File();
+    EXPECT_NE(File().find("[probe 2 - Settings]\n"), std::string::npos) << File();
+}
+
 TEST_F(ProbeDocumentTest, ASaveKeepsTheHistory) {
     Open();
     document.Rename(0, L"First");

@@ -595,6 +595,22 @@
 <context>
     <name>HelpWindow</name>
     <message>
+        <source>Search in all pages</source>
+        <translation>In allen Seiten suchen</translation>
+    </message>
+    <message>
+        <source>Pages that contain the text</source>
+        <translation>Seiten, die den Text enthalten</translation>
+    </message>
+    <message>
+        <source>&amp;Search:</source>
+        <translation>Su&amp;che:</translation>
+    </message>
+    <message>
+        <source>No page contains this.</source>
+        <translation>Keine Seite enthält das.</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>Hilfe</translation>
     </message>

@@ -19,9 +19,10 @@ class QtPlatform;
 /// ends a program without one.
 [[nodiscard]] QTTOOLKIT_EXPORT bool HasDisplay();
 
-/// The help collection of the library: beside the program, where both are installed, or where the build has
-/// put it, or else `installed`, which a host that finds the library by CMake gets from there. Names the one
-/// beside the program where there is none of them. Needs the QApplication.
+/// The help collection of the library, in the language of QLocale() where there is one, or else in English:
+/// beside the program, where both are installed, or where the build has put it, or else where `installed` is,
+/// which a host that finds the library by CMake gets from there. Names the one beside the program where there
+/// is none of them. Needs the QApplication.
 [[nodiscard]] QTTOOLKIT_EXPORT std::wstring
 HelpCollection(const std::string& installed = QUOR_INSTALLED_HELP);
 
