@@ -19,10 +19,12 @@ namespace QuorProbeFile {
 using QuorIniFile::EqualFolded;
 using QuorIniFile::Folded;
 
+/// Hashes names so that those which differ in the case of ASCII letters alone are one.
 struct NameHash {
     using is_transparent = void;
     std::size_t operator()(std::wstring_view name) const { return QuorIniFile::HashName(name); }
 };
+/// Compares names without the case of ASCII letters.
 struct NameEqual {
     using is_transparent = void;
     bool operator()(std::wstring_view a, std::wstring_view b) const { return EqualFolded(a, b); }

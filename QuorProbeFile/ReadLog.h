@@ -14,6 +14,7 @@ namespace QuorProbeFile {
 /// host learns from the library itself which keys a record consists of.
 class ReadLog final : public QuorIniFile::INIFile {
 public:
+    /// One read: where, and what it found.
     struct Read {
         std::wstring section;
         std::wstring key;

@@ -18,6 +18,7 @@ namespace QuorProbeFile {
 /// as found and leaves the object's own value.
 class QUORPROBEFILE_EXPORT RecordImage final : public QuorIniFile::INIFile {
 public:
+    /// A key of the record with its value.
     struct Entry {
         std::wstring path; ///< the key; behind "High Range/" or the like in a nested record
         Value value;

@@ -15,6 +15,7 @@ namespace QuorProbeFile {
 /// written of it as another's, nor the sections of others as its settings.
 class QUORPROBEFILE_EXPORT TakenNames {
 public:
+    /// Why a new probe cannot have a name.
     struct Obstacle {
         EProbeFileError code;
         std::wstring other; ///< as ProbeFileError has it

@@ -9,11 +9,13 @@
 
 namespace QuorConversions {
 
+/// A text that the user cannot change.
 class QUORCONVERSIONS_EXPORT Label final : public Control {
 public:
     Label(Dialog& owner, std::wstring name) : Control(owner, ControlKind::Label, std::move(name)) {}
 };
 
+/// A button with a caption. What a click does is the dialog's.
 class QUORCONVERSIONS_EXPORT PushButton final : public Control {
 public:
     PushButton(Dialog& owner, std::wstring name) : Control(owner, ControlKind::PushButton, std::move(name)) {}
@@ -99,6 +101,7 @@ private:
 /// number.
 class QUORCONVERSIONS_EXPORT TabStrip final : public Control {
 public:
+    /// A tab, also one that was taken out.
     struct Tab {
         std::wstring caption;
         bool present = true;

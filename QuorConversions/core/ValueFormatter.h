@@ -21,6 +21,7 @@ struct NumberSeparators {
 /// Otherwise a format is up to three sections, "positive;negative;zero"; a section that is missing or empty
 /// is the positive one, and any further one is ignored. The value itself chooses, before it is rounded. Only
 /// the positive section puts a minus sign in front of its text, and not when it shows zero.
+///
 ///     0 #      a digit; "0" shows at least a zero, "#" shows nothing where the number has no digit;
 ///              between two zeros, and on one side of the point between a zero and a digit, "#" is a zero
 ///     .        the decimal separator, shown also when no digit follows it
@@ -31,6 +32,7 @@ struct NumberSeparators {
 ///              sign, "E-" a minus only, "e" shows a small letter. With n places before the point the
 ///              exponent is a multiple of n
 ///     "x" \x   the text, the character as it stands
+///
 /// Every other character, and each of these where it makes no sense, shows as it stands; a format without
 /// places shows no digits.
 /// Rounding is half away from zero on the shortest decimal text: 1.005 under "0.00" is "1.01".

@@ -30,6 +30,7 @@ struct MessageRequest {
 
 enum class FileDialogKind { Open, Save };
 
+/// A file dialog that the platform is asked to show.
 struct FileRequest {
     FileDialogKind kind = FileDialogKind::Open;
     std::wstring title;

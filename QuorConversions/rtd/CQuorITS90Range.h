@@ -82,11 +82,13 @@ public:
     [[nodiscard]] std::int16_t CoefficientsOf(std::int32_t range) const;
 
 protected:
+    /// A range of the scale, as a row of the table of its side.
     struct Row {
         EITS90RangeNumber range;
         EStringId name;
         std::int16_t count; ///< of the coefficients that the range carries
     };
+    /// What the ranges below and above the triple point of water differ in.
     struct Side {
         const wchar_t* className;
         EITS90RangeNumber minRange;

@@ -15,6 +15,7 @@ namespace QuorConversions {
 /// under the name of that second value, by the classes that have them.
 class QUORCONVERSIONS_EXPORT PointSettings : public SettingsObject {
 protected:
+    /// A temperature with its second value: a voltage or an offset, in the units of the settings.
     struct Point {
         double temperature = 0.0;
         double value = 0.0;
