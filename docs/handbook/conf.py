@@ -13,7 +13,7 @@ exclude_patterns = ["help", "reference"]
 suppress_warnings = ["toc.not_included"]  # documents beside the handbook are reached by links
 
 html_theme = "alabaster"  # needs nothing from the network
-html_theme_options = {"description": "Probe conversions of precision thermometers", "page_width": "1100px"}
+html_theme_options = {"description": "Probe conversions of precision thermometers", "page_width": "1100px", "show_powered_by": False}
 html_title = "Quor Conversions"
 html_copy_source = False
 html_show_sourcelink = False
