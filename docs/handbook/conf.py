@@ -10,7 +10,6 @@ myst_heading_anchors = 3
 root_doc = "handbook/index"
 # Each document is a page; what the Help button shows has a table of contents of its own.
 exclude_patterns = ["help", "reference"]
-suppress_warnings = ["toc.not_included"]  # documents beside the handbook are reached by links
 
 html_theme = "alabaster"  # needs nothing from the network
 html_theme_options = {"description": "Probe conversions of precision thermometers", "page_width": "1100px", "show_powered_by": False}
