@@ -47,8 +47,7 @@ constexpr const wchar_t* geometryName = L"Geometry";
 constexpr const wchar_t* columnsName = L"Columns";
 constexpr const wchar_t* panesName = L"Panes";
 
-// How long something stands in the status bar, in milliseconds.
-constexpr int longEnoughToAct = 10000;
+constexpr int longEnoughToRead = 10000; // milliseconds
 
 } // namespace
 
@@ -57,7 +56,7 @@ MainWindow::MainWindow(std::shared_ptr<QuorRegistryII::Registry> registry, const
       m_document(std::make_unique<ProbeDocument>(m_platform, registry)),
       m_list(new ProbeList(*m_document, [this] { ShowState(); })),
       m_settings(std::move(registry),
-                 [this](const QString& problem) { statusBar()->showMessage(problem, longEnoughToAct); }),
+                 [this](const QString& problem) { statusBar()->showMessage(problem, longEnoughToRead); }),
       m_recentMenu(new QMenu(tr("Open &recent"), this)),
       m_recent(m_settings, *m_recentMenu,
                [this](const QString& path) { Run([this, &path] { OpenPath(path); }); }),
