@@ -3,6 +3,7 @@
 #include "apps/quorconv/Arguments.h"
 #include "apps/quorconv/Failure.h"
 
+#include <array>
 #include <memory>
 #include <string>
 #include <vector>
@@ -28,8 +29,8 @@ public:
 /// A row of the table of commands.
 struct CommandRow {
     const char* name;
-    const char* what;                  ///< it does, for the help
-    std::vector<const char*> examples; ///< whole lines for a shell
+    const char* what;                    ///< it does, for the help
+    std::array<const char*, 2> examples; ///< whole lines for a shell; the second may be null
     std::unique_ptr<Command> (*create)();
 };
 

@@ -173,9 +173,9 @@ public:
             "\"quorconv COMMAND --help\" shows an example of each command.");
         for (const CommandRow* const row : Commands()) {
             CLI::App* const app = m_app.add_subcommand(row->name, row->what);
-            std::string footer = row->examples.size() > 1 ? "Examples:" : "Example:";
+            std::string footer = row->examples.back() ? "Examples:" : "Example:";
             for (const char* const example : row->examples)
-                footer += std::string("\n  ") + example;
+                footer += example ? std::string("\n  ") + example : "";
             app->footer(footer);
             app->callback([this, row] { m_chosen = row; });
             m_commands.push_back(row->create());

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace quorconv {
 
@@ -43,6 +44,12 @@ std::wstring FieldText(const Value& value, DecimalSign decimal) {
     return text;
 }
 
+bool HaveSameKeys(const std::vector<RecordImage::Entry>& a, const std::vector<RecordImage::Entry>& b) {
+    return std::equal(
+        a.begin(), a.end(), b.begin(), b.end(),
+        [](const RecordImage::Entry& x, const RecordImage::Entry& y) { return x.path == y.path; });
+}
+
 } // namespace
 
 void CsvTable::Add(const Probe& probe) {
@@ -59,29 +66,43 @@ std::string CsvTable::Text() const {
         if (places.emplace(path, columns.size()).second)
             columns.push_back(path);
     };
-    std::unordered_map<std::wstring, bool> isUsed;
-    for (const Row& row : m_rows)
+    std::unordered_set<std::wstring> used;
+    std::vector<std::wstring> further;
+    const std::vector<RecordImage::Entry>* above = nullptr; // most records of a type have the same keys
+    for (const Row& row : m_rows) {
+        if (above && HaveSameKeys(*above, row.entries))
+            continue;
+        above = &row.entries;
         for (const auto& entry : row.entries)
-            isUsed[entry.path] = true;
+            if (used.insert(entry.path).second)
+                further.push_back(entry.path);
+    }
     for (const RecordKey& key : RecordKeys(m_type))
-        if (m_rows.empty() || isUsed.contains(key.path))
+        if (m_rows.empty() || used.contains(key.path))
             addColumn(key.path);
-    for (const Row& row : m_rows)
-        for (const auto& entry : row.entries)
-            addColumn(entry.path);
+    std::for_each(further.begin(), further.end(), addColumn);
 
     std::string text = ToUtf8(sectionColumn) + "," + ToUtf8(typeColumn);
     for (const std::wstring& column : columns)
         text += "," + CsvField(ToUtf8(ColumnName(m_type, column)));
     text += "\r\n";
     const std::string type = ToUtf8(TypeName(m_type));
+    above = nullptr;
+    std::vector<std::size_t> columnsOfEntries;
+    std::vector<std::string> fields(columns.size());
     for (const Row& row : m_rows) {
-        std::vector<std::string> fields(columns.size());
-        for (const auto& entry : row.entries)
-            fields[places.at(entry.path)] = CsvField(ToUtf8(FieldText(entry.value, m_decimal)));
+        if (!above || !HaveSameKeys(*above, row.entries)) {
+            columnsOfEntries.clear();
+            for (const auto& entry : row.entries)
+                columnsOfEntries.push_back(places.at(entry.path));
+            fields.assign(columns.size(), "");
+            above = &row.entries;
+        }
+        for (std::size_t i = 0; i < row.entries.size(); ++i)
+            fields[columnsOfEntries[i]] = CsvField(ToUtf8(FieldText(row.entries[i].value, m_decimal)));
         text += CsvField(ToUtf8(row.section)) + "," + type;
         for (const std::string& field : fields)
-            text += "," + field;
+            text.append(1, ',').append(field);
         text += "\r\n";
     }
     return text;

@@ -115,21 +115,23 @@ std::wstring MeantKey(const Probe& probe, const RecordImage& image, const std::w
     return named.empty() ? DidYouMean(typed, known) : named + L"?";
 }
 
-void Assign(Probe& probe, const std::wstring& file, const std::vector<Assignment>& assignments,
-            const ValueRules& rules) {
-    if (assignments.empty())
-        return;
+std::vector<RecordImage::Entry> Assign(Probe& probe, const std::wstring& file,
+                                       const std::vector<Assignment>& assignments, const ValueRules& rules,
+                                       Assigned which) {
     const std::wstring place = Place(file, probe.Section()) + L" ";
     SettingsObject* const settings = probe.Settings();
+    if (!settings && assignments.empty())
+        return {};
     if (!settings)
         throw Problem{place + assignments.front().key + L": " + probe.TypeName() + L" has no settings"};
     probe.ForgetMessages();
+    auto image = RecordImage::Of(*settings);
+    const std::vector<RecordImage::Entry> before = image->Entries();
     // A value may need another one first (a coefficient past the count needs the count), so those that have
     // no place yet are tried again as long as new places appear.
     std::vector<Assignment> pending = assignments;
     std::vector<RecordImage::Entry> assigned;
     while (!pending.empty()) {
-        const auto image = RecordImage::Of(*settings);
         const auto unplaced = std::stable_partition(pending.begin(), pending.end(), [&](const Assignment& a) {
             return image->Find(a.key) != nullptr;
         });
@@ -152,16 +154,72 @@ void Assign(Probe& probe, const std::wstring& file, const std::vector<Assignment
         RecordImage::Apply(image, *settings);
         if (!probe.Messages().empty())
             throw Problem{place + L"the values are refused", Reasons(probe.Messages(), {})};
+        image = RecordImage::Of(*settings);
     }
-    const auto result = RecordImage::Of(*settings);
-    for (auto entry = assigned.begin(); entry != assigned.end(); ++entry) {
-        const bool replaced =
-            std::any_of(std::next(entry), assigned.end(),
-                        [&](const RecordImage::Entry& later) { return later.path == entry->path; });
-        const RecordImage::Entry* const stored = result->Find(entry->path);
-        if (!replaced && (!stored || !SameValue(stored->value, entry->value)))
+    const std::vector<RecordImage::Entry>& result = image->Entries();
+    std::vector<bool> isAssigned(result.size(), false); // of what was given several times the last one counts
+    for (auto entry = assigned.rbegin(); entry != assigned.rend(); ++entry) {
+        const RecordImage::Entry* const stored = image->Find(entry->path);
+        const auto at = stored ? static_cast<std::size_t>(stored - result.data()) : 0;
+        if (stored && isAssigned[at])
+            continue;
+        if (!stored || !SameValue(stored->value, entry->value))
             throw Problem{place + entry->path + L": the value " + ToText(entry->value) + L" is not accepted"};
+        isAssigned[at] = true;
     }
+    std::vector<RecordImage::Entry> changed;
+    for (std::size_t at = 0; at < result.size(); ++at) {
+        if (which == Assigned::All && !isAssigned[at])
+            throw Problem{place + result[at].path + L": the value is missing, and the probe is a new one"};
+        const bool isSame = at < before.size() && before[at].path == result[at].path &&
+                            SameValue(before[at].value, result[at].value);
+        if (!isSame)
+            changed.push_back(result[at]);
+    }
+    return changed;
+}
+
+namespace {
+
+/// Reads a record of a host as it stands, when there is nothing wrong with it.
+bool ReadWhole(ProbeFile& file, Probe& probe) {
+    std::shared_ptr<QuorIniFile::INIFile> store = file.Store();
+    std::int16_t code = 0;
+    store->SetSection(probe.Section());
+    return store->ReadInteger(conversionTypeKey, code) &&
+           probe.Conversion().ReadFromFile(store, L"", probe.Section()) && probe.Settings() &&
+           probe.Messages().empty();
+}
+
+void WriteEntry(QuorIniFile::INIFile& store, const std::wstring& settings, const RecordImage::Entry& entry) {
+    struct Visitor {
+        QuorIniFile::INIFile& store;
+        const std::wstring& key;
+        void operator()(const std::wstring& value) const { store.WriteString(key, value); }
+        void operator()(std::int16_t value) const { store.WriteInteger(key, value, L""); }
+        void operator()(double value) const { store.WriteDouble(key, value, L""); }
+        void operator()(bool value) const { store.WriteBoolean(key, value); }
+    };
+    const auto slash = entry.path.find(L'/');
+    const bool isNested = slash != std::wstring::npos;
+    store.SetSection(isNested ? settings + std::wstring(nestedMark) + entry.path.substr(0, slash) : settings);
+    std::visit(Visitor{store, isNested ? entry.path.substr(slash + 1) : entry.path}, entry.value);
+}
+
+} // namespace
+
+void AssignInFile(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& assignments,
+                  const ValueRules& rules) {
+    Probe whole(section);
+    if (ReadWhole(file, whole)) {
+        const std::wstring settings = SettingsSection(section);
+        for (const RecordImage::Entry& entry : Assign(whole, file.Path(), assignments, rules))
+            WriteEntry(*file.Store(), settings, entry);
+        return;
+    }
+    Probe probe = ReadProbe(file, section, assignments); // which tells what is wrong with it
+    Assign(probe, file.Path(), assignments, rules);
+    file.Write(section, probe.Conversion());
 }
 
 void WriteChanges(const Probe& probe, ProbeFile& before, ProbeFile& now) {

@@ -6,6 +6,7 @@
 #include "apps/quorconv/Arguments.h"
 #include "apps/quorconv/Probe.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -43,10 +44,24 @@ struct ValueRules {
 [[nodiscard]] std::wstring MeantKey(const Probe& probe, const QuorProbeFile::RecordImage& image,
                                     const std::wstring& typed);
 
+/// Which of its values a record is given.
+enum class Assigned : std::uint8_t {
+    Some,
+    All, ///< it is a new one, and one that is missing would be 0 and pass for a value
+};
+
 /// Gives the settings the values of the assignments, through the object itself, so that its own rules decide.
-/// Raises Problem when one of them is not taken as it is. `file` is told then.
-void Assign(Probe& probe, const std::wstring& file, const std::vector<Assignment>& assignments,
-            const ValueRules& rules);
+/// Returns the entries of the record that are new ones, or have other values. Raises Problem when one of them
+/// is not taken as it is. `file` is told then.
+std::vector<QuorProbeFile::RecordImage::Entry> Assign(Probe& probe, const std::wstring& file,
+                                                      const std::vector<Assignment>& assignments,
+                                                      const ValueRules& rules,
+                                                      Assigned which = Assigned::Some);
+
+/// Gives the probe of a section values, inside an edit of the file. What is as it should be costs little:
+/// there may be a hundred thousand steps in an edit.
+void AssignInFile(QuorProbeFile::ProbeFile& file, const std::wstring& section,
+                  const std::vector<Assignment>& assignments, const ValueRules& rules);
 
 /// Writes what has become another value since the probe was read from `before`, into `now`, and nothing else.
 /// Raises Problem when another program has changed the same.

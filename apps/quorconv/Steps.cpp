@@ -39,9 +39,7 @@ void NewProbe(ProbeFile& file, const std::wstring& section, const std::wstring& 
 
 void SetValues(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& assignments,
                const ValueRules& rules) {
-    Probe probe = ReadProbe(file, section, assignments);
-    Assign(probe, file.Path(), assignments, rules);
-    file.Write(section, probe.Conversion());
+    AssignInFile(file, section, assignments, rules);
 }
 
 void RemoveProbes(ProbeFile& file, const std::vector<std::wstring>& sections) {

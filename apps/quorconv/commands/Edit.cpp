@@ -6,10 +6,11 @@
 #include "apps/quorconv/Selection.h"
 #include "toolkits/scripted/Script.h"
 
-#include <cerrno>
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <iterator>
 
 #include <unistd.h>
 
@@ -26,12 +27,11 @@ UsageError NeedsScript(const std::wstring& why) {
 
 /// Whether a window can be shown.
 bool HasDisplay() {
-    for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+    static constexpr const char* names[] = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+    return std::any_of(std::begin(names), std::end(names), [](const char* name) {
         const char* const value = std::getenv(name);
-        if (value != nullptr && *value != '\0')
-            return true;
-    }
-    return false;
+        return value != nullptr && *value != '\0';
+    });
 }
 
 /// Goes on as probe-edit, the program with the windows: that beside this one, or the one that is installed.
@@ -45,7 +45,7 @@ bool HasDisplay() {
         char* const arguments[] = {program.data(), separator.data(), file.data(), name.data(), nullptr};
         ::execvp(arguments[0], arguments);
     }
-    throw NeedsScript(L"the program \"probe-edit\" is not installed; the package \"probe-edit\" has it");
+    throw NeedsScript(L"the program \"probe-edit\" is not installed; the package \"probe-setup\" has it");
 }
 
 class Edit final : public Command {

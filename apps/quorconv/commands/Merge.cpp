@@ -74,7 +74,7 @@ class Merge final : public Command {
         if (!our && base)
             conflicts.push_back(place + L": removed here, changed in " + m_theirs);
         else if (!our || (base && SameValues(*base, *our)))
-            written.push_back({&their, {}});
+            written.emplace_back(&their, std::vector<ValueChange>{});
         else if (!base)
             conflicts.push_back(place + L": added in both files, with different values");
         else if (base->code != their.code || base->code != our->code)
@@ -114,7 +114,7 @@ class Merge final : public Command {
             isFine = false;
         }
         if (isFine && !changes.empty())
-            written.push_back({&their, std::move(changes)});
+            written.emplace_back(&their, std::move(changes));
     }
 
     static std::wstring TextOf(const Value* value) { return value ? ToText(*value) : L"(none)"; }
@@ -128,6 +128,7 @@ class Merge final : public Command {
             return;
         }
         std::vector<Assignment> values;
+        values.reserve(changes.size());
         for (const ValueChange& change : changes)
             values.push_back({change.key, ToText(*change.after)});
         Probe probe = ReadProbe(file, their.section, values);

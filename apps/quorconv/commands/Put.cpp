@@ -9,7 +9,6 @@
 #include "apps/quorconv/Selection.h"
 #include "apps/quorconv/Steps.h"
 
-#include <algorithm>
 #include <unordered_set>
 
 namespace quorconv {
@@ -37,34 +36,31 @@ bool HasSection(ProbeFile& file, const std::wstring& section) {
     }
 }
 
+/// Raises Problem when the section that is there holds a probe of another type, or none.
+void RequireType(ProbeFile& file, const Entry& entry, const TypeInfo& type) {
+    std::int16_t code = 0;
+    file.Store()->SetSection(entry.section);
+    if (file.Store()->ReadInteger(QuorConversions::conversionTypeKey, code) && code == type.code)
+        return;
+    const Probe present = ReadProbe(file, entry.section, entry.values);
+    if (present.Conversion().ConversionType() != type.code)
+        throw Problem{Place(file.Path(), entry.section) + L": there is a probe of another type (" +
+                      present.TypeName() + L") in this section; \"retype\" changes that"};
+}
+
 /// Writes a probe: over one of the same type, whose other values stay, or a new one, of which each value
 /// must be given.
 void PutProbe(ProbeFile& file, const Entry& entry, const ValueRules& rules) {
     const TypeInfo& type = RequireSettingsType(entry.type);
     if (HasSection(file, entry.section)) {
-        Probe present = ReadProbe(file, entry.section, entry.values);
-        if (present.Conversion().ConversionType() != type.code)
-            throw Problem{Place(file.Path(), entry.section) + L": there is a probe of another type (" +
-                          present.TypeName() + L") in this section; \"retype\" changes that"};
-        Assign(present, file.Path(), entry.values, rules);
-        file.Write(entry.section, present.Conversion());
+        RequireType(file, entry, type);
+        AssignInFile(file, entry.section, entry.values, rules);
         return;
     }
     RequireName(file.Path(), entry.section);
     Probe probe(entry.section);
     probe.Conversion().SetConversionType(type.code);
-    Assign(probe, file.Path(), entry.values, rules);
-    if (probe.Settings()) {
-        const auto image = RecordImage::Of(*probe.Settings());
-        std::unordered_set<std::wstring> given;
-        for (const Assignment& value : entry.values)
-            given.insert(Folded(value.key));
-        for (const RecordImage::Entry& one : image->Entries()) {
-            if (!given.contains(Folded(one.path)))
-                throw Problem{Place(file.Path(), entry.section) + L" " + one.path +
-                              L": the value is missing, and the probe is a new one"};
-        }
-    }
+    Assign(probe, file.Path(), entry.values, rules, Assigned::All);
     file.Write(entry.section, probe.Conversion());
 }
 
