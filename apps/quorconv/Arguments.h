@@ -16,6 +16,8 @@ struct Argument {
     std::string value; ///< of an option what stands for its value in the help, empty for a flag
     Meaning meaning = Meaning::Text;
     std::vector<std::string> choices; ///< of Meaning::Choice
+    std::string what;                 ///< it is, for the help
+    bool isRequired = false;
     [[nodiscard]] bool IsOption() const { return name.starts_with('-'); }
 };
 

@@ -6,8 +6,10 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <deque>
 #include <iostream>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -110,31 +112,34 @@ public:
     std::vector<Argument> list;
 
     void One(const std::string& name, std::wstring& /*value*/, Meaning meaning,
-             const std::string& /*what*/) override {
-        list.push_back({name, {}, meaning, {}});
+             const std::string& what) override {
+        list.push_back({name, {}, meaning, {}, what, true});
     }
     void Maybe(const std::string& name, std::optional<std::wstring>& /*value*/, Meaning meaning,
-               const std::string& /*what*/) override {
-        list.push_back({name, {}, meaning, {}});
+               const std::string& what) override {
+        list.push_back({name, {}, meaning, {}, what});
     }
-    void Rest(const std::string& name, std::vector<std::wstring>& /*values*/, int /*least*/, Meaning meaning,
-              const std::string& /*what*/) override {
-        list.push_back({name + "...", {}, meaning, {}});
+    void Rest(const std::string& name, std::vector<std::wstring>& /*values*/, int least, Meaning meaning,
+              const std::string& what) override {
+        list.push_back({name + "...", {}, meaning, {}, what, least > 0});
     }
-    void Flag(const std::string& name, bool& /*value*/, const std::string& /*what*/) override {
-        list.push_back({name, {}, Meaning::Text, {}});
+    void Flag(const std::string& name, bool& /*value*/, const std::string& what) override {
+        list.push_back({name, {}, Meaning::Text, {}, what});
     }
     void Option(const std::string& name, const std::string& valueName, std::optional<std::wstring>& /*value*/,
-                Meaning meaning, const std::string& /*what*/) override {
-        list.push_back({name, valueName, meaning, {}});
+                Meaning meaning, const std::string& what) override {
+        list.push_back({name, valueName, meaning, {}, what});
     }
     void Options(const std::string& name, const std::string& valueName, std::vector<std::wstring>& /*values*/,
-                 Meaning meaning, const std::string& /*what*/) override {
-        list.push_back({name, valueName, meaning, {}});
+                 Meaning meaning, const std::string& what) override {
+        list.push_back({name, valueName, meaning, {}, what});
     }
     void Choice(const std::string& name, std::wstring& /*value*/, const std::vector<std::string>& choices,
-                const std::string& /*what*/) override {
-        list.push_back({name, "CHOICE", Meaning::Choice, choices});
+                const std::string& what) override {
+        std::string words;
+        for (const std::string& choice : choices)
+            words += (words.empty() ? "" : "|") + choice;
+        list.push_back({name, words, Meaning::Choice, choices, what});
     }
 };
 
@@ -161,16 +166,13 @@ class CommandLine {
 public:
     CommandLine() {
         m_app.require_subcommand(1);
-        m_app.set_version_flag("--version", "quorconv " QUORCONV_VERSION);
+        m_app.set_version_flag("--version", std::string("quorconv ") + version);
         m_app.failure_message([](const CLI::App* app, const CLI::Error& error) { // it repeats arguments
             const CLI::Error printable(error.get_name(), PrintableBytes(error.what()), error.get_exit_code());
             return CLI::FailureMessage::simple(app, printable);
         });
-        m_app.footer(
-            "Exit codes: 0 fine, 1 a problem was found (or files differ), 2 wrong usage (or no comparison).\n"
-            "\"-\" for a file is the standard input; what a command writes into it goes to the standard "
-            "output.\n"
-            "\"quorconv COMMAND --help\" shows an example of each command.");
+        m_app.footer(std::string(exitCodes) + "\n" + standardStreams +
+                     "\n\"quorconv COMMAND --help\" shows an example of each command.");
         for (const CommandRow* const row : Commands()) {
             CLI::App* const app = m_app.add_subcommand(row->name, row->what);
             std::string footer = row->examples.back() ? "Examples:" : "Example:";
@@ -204,7 +206,7 @@ public:
     }
 
 private:
-    CLI::App m_app{"Probe records in INI files: look at them, change them, keep them right.", "quorconv"};
+    CLI::App m_app{whatItDoes, "quorconv"};
     const CommandRow* m_chosen = nullptr;
     std::vector<std::unique_ptr<Command>> m_commands; // beside those of the table
     std::deque<ParsedArguments> m_arguments;          // likewise
@@ -230,7 +232,9 @@ std::vector<DeclaredCommand> DeclaredCommands() {
     for (const CommandRow* const row : Commands()) {
         ListedArguments arguments;
         row->create()->Declare(arguments);
-        commands.push_back({row->name, row->what, std::move(arguments.list)});
+        commands.push_back({row->name, row->what, std::move(arguments.list), {}});
+        std::copy_if(row->examples.begin(), row->examples.end(), std::back_inserter(commands.back().examples),
+                     [](const char* example) { return example != nullptr; });
     }
     return commands;
 }

@@ -25,8 +25,9 @@ const std::vector<const CommandRow*>& Commands() {
         // in and out
         &exportRow,
         &putRow,
-        // for shells
+        // for shells and packages
         &completionRow,
+        &manualRow,
     };
     return rows;
 }

@@ -14,6 +14,7 @@ extern const CommandRow explainRow;
 extern const CommandRow exportRow;
 extern const CommandRow getRow;
 extern const CommandRow listRow;
+extern const CommandRow manualRow;
 extern const CommandRow mergeRow;
 extern const CommandRow newRow;
 extern const CommandRow putRow;
