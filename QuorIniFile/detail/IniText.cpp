@@ -230,12 +230,12 @@ bool IniText::ReadOn() {
 /// Makes room for as many headers as the text has if the rest of it is like the part before `next`, but for
 /// not too many: it may not be.
 void IniText::MakeRoomForHeaders(std::size_t next) {
-    constexpr std::size_t fewest = 16, mostGrowth = 8;
-    const std::size_t count = std::max(m_headers.size(), fewest / mostGrowth);
+    constexpr std::size_t mostGrowth = 8;
+    const std::size_t count = m_headers.size() + 1;
     const std::size_t likely = count * (m_text.size() / next + 1);
-    const std::size_t more = std::clamp(likely, count * 2, count * mostGrowth) - m_headers.size();
-    m_headers.reserve(m_headers.size() + more);
-    m_names.Reserve(more);
+    const std::size_t room = std::clamp(likely, count * 2, count * mostGrowth);
+    m_headers.reserve(room);
+    m_names.Reserve(room - m_headers.size());
 }
 
 /// Indexes the names of all sections that have a number. The index of a large file is not in the cache of the
