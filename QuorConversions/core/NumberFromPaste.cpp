@@ -201,7 +201,14 @@ bool CouldGroup(Text before, Text behind, bool hasExponent) {
            before.size() <= 3 && before != L"0" && !(before.size() == 1 && hasExponent);
 }
 
-/// The digits of a number and what divides them, without sign and exponent.
+/// The last point or comma; 0 for none.
+wchar_t LastSign(Text text) {
+    const auto at = text.find_last_of(L".,");
+    return at == Text::npos ? L'\0' : text[at];
+}
+
+/// The digits of a number and what divides them, without sign and exponent. Points or commas that do not
+/// stand for the decimal separator group.
 PastedNumber ReadMantissa(Text text, wchar_t separator, bool hasExponent) {
     const auto count = [text](wchar_t c) { return std::count(text.begin(), text.end(), c); };
     const auto points = count(L'.');
@@ -211,9 +218,7 @@ PastedNumber ReadMantissa(Text text, wchar_t separator, bool hasExponent) {
         return Refused(PasteRefusal::NoNumber);
 
     const bool both = points > 0 && commas > 0;
-    const wchar_t last = otherSeparator        ? separator
-                         : points + commas > 0 ? text[text.find_last_of(L".,")]
-                                               : L'\0';
+    const wchar_t last = otherSeparator ? separator : LastSign(text);
     if (both && count(last) > 1)
         return Refused(PasteRefusal::NoNumber);
     if (both && text.back() == last) // the decimal separator, or the end of a sentence: "100.012,"
@@ -226,24 +231,20 @@ PastedNumber ReadMantissa(Text text, wchar_t separator, bool hasExponent) {
     const bool couldGroup = hasDecimal && !both && !otherSeparator && CouldGroup(before, behind, hasExponent);
     if (couldGroup && last == L',' && separator != L',')
         return Refused(PasteRefusal::TwoReadings);
-    // Points or commas that do not stand for the decimal separator group.
-    const auto whole = both          ? JoinGroups(before, last == L'.' ? L',' : L'.', true)
-                       : !hasDecimal ? JoinDigits(before, L" '.,", true)
-                                     : JoinDigits(before, L" '", true);
+    const auto whole = both ? JoinGroups(before, last == L'.' ? L',' : L'.', true)
+                            : JoinDigits(before, hasDecimal ? L" '" : L" '.,", true);
     const auto fraction = JoinDigits(behind, L" ", false);
     if (!whole || !fraction || whole->size() + fraction->size() == 0)
         return Refused(PasteRefusal::NoNumber);
-    const bool isInColumns = text.find(blank) != Text::npos; // "100 200" may be two numbers
-    return {hasDecimal ? *whole + separator + *fraction : *whole,
-            PasteRefusal::None,
-            couldGroup || isInColumns,
-            {},
-            PastedUnit::None};
+    PastedNumber result;
+    result.number = hasDecimal ? *whole + separator + *fraction : *whole;
+    result.isToBeTold = couldGroup || text.find(blank) != Text::npos; // "100 200" may be two numbers
+    return result;
 }
 
-/// The power in front of the reader, its sign and digits, where it is written as one: raised, or behind "^"
-/// or
-/// "**", also in brackets. An empty text where such a power begins and is none; nothing where none begins.
+/// The power in front of the reader, its sign and digits, where it is written as one: raised, or behind
+/// "^" or "**", also in brackets. An empty text where such a power begins and is none; nothing where none
+/// begins.
 std::optional<std::wstring> ReadPower(Reader& reader) {
     if (reader.Take(L'^') || reader.Take(L"**")) {
         const wchar_t open = reader.TakeOneOf(L"({");
