@@ -47,7 +47,7 @@ QString TypeTexts::OfChoice(const TypeChoice& choice) {
     // As its settings call themselves when they are new; a type without settings has its name in the table.
     CQuorConversion conversion;
     choice.ApplyTo(conversion);
-    const QString name = OfProbe(choice.type, ToQt(QuorProbeFile::NameOf(conversion)));
+    QString name = OfProbe(choice.type, ToQt(QuorProbeFile::NameOf(conversion)));
     if (!choice.polynomial)
         return name;
     return *choice.polynomial ? tr("%1, A, B and C").arg(name) : tr("%1, alpha, delta and beta").arg(name);
