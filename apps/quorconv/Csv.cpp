@@ -18,6 +18,7 @@ std::string CsvField(std::string_view field) {
     return quoted + '"';
 }
 
+// NOLINTNEXTLINE(readability-function-cognitive-complexity): the grammar of RFC 4180 in one piece
 void ReadCsv(std::string_view text,
              const std::function<void(const std::vector<std::wstring>& fields, std::size_t line)>& use) {
     if (text.starts_with("\xEF\xBB\xBF"))

@@ -58,6 +58,7 @@ void CsvTable::Add(const Probe& probe) {
         m_rows.back().entries = RecordImage::Of(*probe.Settings())->Entries();
 }
 
+// NOLINTNEXTLINE(readability-function-cognitive-complexity): the head and the lines of one table
 std::string CsvTable::Text() const {
     // The columns in the order of the keys in records; keys that the reference does not have come last.
     std::vector<std::wstring> columns;

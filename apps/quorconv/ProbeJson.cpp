@@ -244,6 +244,7 @@ private:
         }
     }
 
+    // NOLINTNEXTLINE(readability-function-cognitive-complexity): one case a kind of value
     void Add(const std::wstring& key, const JsonValue& value, const RecordKey* known) {
         if (value.kind == Kind::Object && known && !known->choices.empty()) {
             RequireMembers(value, {L"code", L"name"});
@@ -377,10 +378,10 @@ std::string ValueSchema(const RecordKey& key) {
                choices + "]}}";
     }
     struct Visitor {
-        std::string operator()(const std::wstring&) const { return R"({"type": "string"})"; }
-        std::string operator()(bool) const { return R"({"type": "boolean"})"; }
-        std::string operator()(double) const { return R"({"$ref": "#/$defs/number"})"; }
-        std::string operator()(std::int16_t) const { return R"({"$ref": "#/$defs/count"})"; }
+        std::string operator()(const std::wstring& /*value*/) const { return R"({"type": "string"})"; }
+        std::string operator()(bool /*value*/) const { return R"({"type": "boolean"})"; }
+        std::string operator()(double /*value*/) const { return R"({"$ref": "#/$defs/number"})"; }
+        std::string operator()(std::int16_t /*value*/) const { return R"({"$ref": "#/$defs/count"})"; }
     };
     std::string schema = std::visit(Visitor{}, key.initial);
     schema.insert(1, "\"description\": " +
@@ -389,6 +390,7 @@ std::string ValueSchema(const RecordKey& key) {
 }
 
 /// The schema of the settings, or of a nested record.
+// NOLINTNEXTLINE(readability-function-cognitive-complexity): one walk through the keys in their order
 std::string SettingsSchema(EQuorConversionType type, RecordForm form, const std::wstring& prefix = {}) {
     std::vector<std::pair<std::wstring, std::string>> members; // in their order
     std::map<std::wstring, std::string> lists;                 // the names of their items

@@ -115,6 +115,7 @@ std::wstring MeantKey(const Probe& probe, const RecordImage& image, const std::w
     return named.empty() ? DidYouMean(typed, known) : named + L"?";
 }
 
+// NOLINTNEXTLINE(readability-function-cognitive-complexity): the steps of one assignment in their order
 std::vector<RecordImage::Entry> Assign(Probe& probe, const std::wstring& file,
                                        const std::vector<Assignment>& assignments, const ValueRules& rules,
                                        Assigned which) {
@@ -158,13 +159,14 @@ std::vector<RecordImage::Entry> Assign(Probe& probe, const std::wstring& file,
     }
     const std::vector<RecordImage::Entry>& result = image->Entries();
     std::vector<bool> isAssigned(result.size(), false); // of what was given several times the last one counts
-    for (auto entry = assigned.rbegin(); entry != assigned.rend(); ++entry) {
-        const RecordImage::Entry* const stored = image->Find(entry->path);
+    std::reverse(assigned.begin(), assigned.end());
+    for (const RecordImage::Entry& entry : assigned) {
+        const RecordImage::Entry* const stored = image->Find(entry.path);
         const auto at = stored ? static_cast<std::size_t>(stored - result.data()) : 0;
         if (stored && isAssigned[at])
             continue;
-        if (!stored || !SameValue(stored->value, entry->value))
-            throw Problem{place + entry->path + L": the value " + ToText(entry->value) + L" is not accepted"};
+        if (!stored || !SameValue(stored->value, entry.value))
+            throw Problem{place + entry.path + L": the value " + ToText(entry.value) + L" is not accepted"};
         isAssigned[at] = true;
     }
     std::vector<RecordImage::Entry> changed;

@@ -60,6 +60,7 @@ void Selection::DeclareType(Arguments& arguments) {
 
 bool Selection::IsMany() const { return type || patterns.size() != 1 || IsPattern(patterns.front()); }
 
+// NOLINTNEXTLINE(readability-function-cognitive-complexity): one question a probe
 std::vector<std::wstring> Selection::In(ProbeFile& file) const {
     if (!IsMany() || (!type && patterns.size() == 1 && file.Find(patterns.front())))
         return {SpelledInFile(file, patterns.front())};

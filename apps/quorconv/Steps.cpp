@@ -118,40 +118,44 @@ struct StepCommand {
 
 constexpr std::size_t any = static_cast<std::size_t>(-1);
 
-const StepCommand stepCommands[] = {
-    {L"new", L"SECTION TYPE [KEY=VALUE...]", 2, any,
-     [](const Strings& words, const ValueRules& rules) -> std::function<void(ProbeFile&)> {
-         return [words, rules, values = Assignments(WordsFrom(words, 2))](ProbeFile& file) {
-             NewProbe(file, words[0], words[1], values, rules);
-         };
-     }},
-    {L"set", L"SECTION KEY=VALUE...", 2, any,
-     [](const Strings& words, const ValueRules& rules) -> std::function<void(ProbeFile&)> {
-         return [section = words[0], rules, values = Assignments(WordsFrom(words, 1))](ProbeFile& file) {
-             SetValues(file, section, values, rules);
-         };
-     }},
-    {L"copy", L"SECTION TO-SECTION [--replace]", 2, 3,
-     [](const Strings& words, const ValueRules& /*rules*/) -> std::function<void(ProbeFile&)> {
-         if (words.size() == 3 && words[2] != L"--replace")
-             throw Problem{L"\"--replace\" expected: " + words[2]};
-         return [words](ProbeFile& file) { CopyProbe(file, words[0], file, words[1], words.size() == 3); };
-     }},
-    {L"rename", L"SECTION NAME", 2, 2,
-     [](const Strings& words, const ValueRules& /*rules*/) -> std::function<void(ProbeFile&)> {
-         return [words](ProbeFile& file) { RenameProbe(file, words[0], words[1]); };
-     }},
-    {L"retype", L"SECTION TYPE [KEY=VALUE...]", 2, any,
-     [](const Strings& words, const ValueRules& rules) -> std::function<void(ProbeFile&)> {
-         return [words, rules, values = Assignments(WordsFrom(words, 2))](ProbeFile& file) {
-             RetypeProbe(file, words[0], words[1], values, rules);
-         };
-     }},
-    {L"remove", L"SECTION", 1, 1,
-     [](const Strings& words, const ValueRules& /*rules*/) -> std::function<void(ProbeFile&)> {
-         return [words](ProbeFile& file) { file.Remove(words[0]); };
-     }},
-};
+const std::vector<StepCommand>& StepCommands() {
+    static const std::vector<StepCommand> commands{
+        {L"new", L"SECTION TYPE [KEY=VALUE...]", 2, any,
+         [](const Strings& words, const ValueRules& rules) -> std::function<void(ProbeFile&)> {
+             return [words, rules, values = Assignments(WordsFrom(words, 2))](ProbeFile& file) {
+                 NewProbe(file, words[0], words[1], values, rules);
+             };
+         }},
+        {L"set", L"SECTION KEY=VALUE...", 2, any,
+         [](const Strings& words, const ValueRules& rules) -> std::function<void(ProbeFile&)> {
+             return [section = words[0], rules, values = Assignments(WordsFrom(words, 1))](ProbeFile& file) {
+                 SetValues(file, section, values, rules);
+             };
+         }},
+        {L"copy", L"SECTION TO-SECTION [--replace]", 2, 3,
+         [](const Strings& words, const ValueRules& /*rules*/) -> std::function<void(ProbeFile&)> {
+             if (words.size() == 3 && words[2] != L"--replace")
+                 throw Problem{L"\"--replace\" expected: " + words[2]};
+             return
+                 [words](ProbeFile& file) { CopyProbe(file, words[0], file, words[1], words.size() == 3); };
+         }},
+        {L"rename", L"SECTION NAME", 2, 2,
+         [](const Strings& words, const ValueRules& /*rules*/) -> std::function<void(ProbeFile&)> {
+             return [words](ProbeFile& file) { RenameProbe(file, words[0], words[1]); };
+         }},
+        {L"retype", L"SECTION TYPE [KEY=VALUE...]", 2, any,
+         [](const Strings& words, const ValueRules& rules) -> std::function<void(ProbeFile&)> {
+             return [words, rules, values = Assignments(WordsFrom(words, 2))](ProbeFile& file) {
+                 RetypeProbe(file, words[0], words[1], values, rules);
+             };
+         }},
+        {L"remove", L"SECTION", 1, 1,
+         [](const Strings& words, const ValueRules& /*rules*/) -> std::function<void(ProbeFile&)> {
+             return [words](ProbeFile& file) { file.Remove(words[0]); };
+         }},
+    };
+    return commands;
+}
 
 std::function<void(ProbeFile&)> MakeStep(Strings words, StepLanguage language, const ValueRules& rules) {
     std::wstring name = L"set";
@@ -159,11 +163,11 @@ std::function<void(ProbeFile&)> MakeStep(Strings words, StepLanguage language, c
         name = words.front();
         words.erase(words.begin());
     }
-    const auto* const command = std::find_if(std::begin(stepCommands), std::end(stepCommands),
-                                             [&](const StepCommand& known) { return known.name == name; });
-    if (command == std::end(stepCommands)) {
+    const auto command = std::find_if(StepCommands().begin(), StepCommands().end(),
+                                      [&](const StepCommand& known) { return known.name == name; });
+    if (command == StepCommands().end()) {
         Strings known;
-        for (const StepCommand& one : stepCommands)
+        for (const StepCommand& one : StepCommands())
             known.emplace_back(one.name);
         throw Problem{L"there is no step \"" + name + L"\"" + DidYouMean(name, known)};
     }

@@ -54,11 +54,11 @@ public:
             Block restB = blockB;
             for (const auto& [lineA, lineB] : anchors) {
                 Match(lineA, lineB);
-                open.push_back({{restA.first, lineA}, {restB.first, lineB}});
+                open.emplace_back(Block{restA.first, lineA}, Block{restB.first, lineB});
                 restA.first = lineA + 1;
                 restB.first = lineB + 1;
             }
-            open.push_back({restA, restB});
+            open.emplace_back(restA, restB);
         }
     }
 
@@ -161,6 +161,7 @@ void AddLine(std::string& hunk, char sign, std::string_view line) {
 
 } // namespace
 
+// NOLINTNEXTLINE(readability-function-cognitive-complexity): hunks, with the lines around them
 std::string UnifiedDiff(const std::string& name, std::string_view before, std::string_view after) {
     if (before == after)
         return {};
