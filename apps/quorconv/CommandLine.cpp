@@ -77,6 +77,7 @@ public:
         m_takes.emplace_back([&, name, choices] {
             if (std::find(choices.begin(), choices.end(), text) == choices.end()) {
                 std::vector<std::wstring> known;
+                known.reserve(choices.size());
                 for (const std::string& choice : choices)
                     known.push_back(Wide(choice));
                 throw UsageError{Wide(name) + L": there is no \"" + Wide(text) + L"\"" +

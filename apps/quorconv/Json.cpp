@@ -56,9 +56,8 @@ std::string JsonNumber(double number) {
 }
 
 const JsonValue* JsonValue::Find(std::wstring_view name) const {
-    const auto found = std::find_if(members.begin(), members.end(),
-                                    [&](const auto& member) { return member.first == name; });
-    return found == members.end() ? nullptr : &found->second;
+    const auto found = std::find(names.begin(), names.end(), name);
+    return found == names.end() ? nullptr : &members[static_cast<std::size_t>(found - names.begin())];
 }
 
 namespace {
@@ -95,7 +94,8 @@ public:
             Fail(L"an object has no more than 1000 members here");
         if (object.Find(name))
             Fail(L"the name \"" + name + L"\" stands twice");
-        object.members.emplace_back(std::move(name), JsonValue{});
+        object.names.push_back(std::move(name));
+        object.members.emplace_back();
         return true;
     }
     bool StartObject() { return Open(JsonValue::Kind::Object); }
@@ -179,7 +179,7 @@ private:
         else if (m_open.back().kind == JsonValue::Kind::List)
             m_open.back().items.push_back(std::move(value));
         else
-            m_open.back().members.back().second = std::move(value);
+            m_open.back().members.back() = std::move(value);
         return true;
     }
 

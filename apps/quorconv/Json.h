@@ -4,7 +4,6 @@
 #include <functional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace quorconv {
@@ -22,9 +21,10 @@ struct JsonValue {
 
     Kind kind = Kind::Null;
     bool flag = false;
-    std::wstring text;                                       ///< of a text, or the spelling of a number
-    std::vector<JsonValue> items;                            ///< of a list
-    std::vector<std::pair<std::wstring, JsonValue>> members; ///< of an object, each name once
+    std::wstring text;               ///< of a text, or the spelling of a number
+    std::vector<JsonValue> items;    ///< of a list
+    std::vector<std::wstring> names; ///< of the members of an object, each once
+    std::vector<JsonValue> members;  ///< of an object, in the order of their names
     std::size_t line = 1;
     std::size_t column = 1;
 

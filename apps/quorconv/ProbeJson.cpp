@@ -183,7 +183,9 @@ const JsonValue& Require(const JsonValue& object, const wchar_t* name, Kind kind
 }
 
 void RequireMembers(const JsonValue& object, const std::vector<std::wstring>& known) {
-    for (const auto& [name, value] : object.members) {
+    for (std::size_t at = 0; at < object.names.size(); ++at) {
+        const std::wstring& name = object.names[at];
+        const JsonValue& value = object.members[at];
         if (std::find(known.begin(), known.end(), name) == known.end())
             Fail(value, L"there is no member \"" + name + L"\" here" + DidYouMean(name, known));
     }
@@ -198,7 +200,9 @@ public:
     }
 
     void Read(const JsonValue& object, const std::wstring& prefix) {
-        for (const auto& [name, value] : object.members) {
+        for (std::size_t at = 0; at < object.names.size(); ++at) {
+            const std::wstring& name = object.names[at];
+            const JsonValue& value = object.members[at];
             const std::wstring path = prefix + name;
             const bool isNested =
                 prefix.empty() && std::any_of(m_known.begin(), m_known.end(), [&](const std::wstring& key) {
