@@ -70,7 +70,8 @@ HelpWindow::HelpWindow(QWidget* parent)
     : QMainWindow(parent),
       m_engine(new QHelpEngine(QString(), this)),
       m_page(new Page(*m_engine)),
-      m_topics(m_engine->contentWidget()) {
+      m_topics(m_engine->contentWidget()),
+      m_columns(new QSplitter(this)) {
     m_engine->setReadOnly(true);
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowTitle(tr("Help"));
@@ -87,7 +88,6 @@ HelpWindow::HelpWindow(QWidget* parent)
     rows->setContentsMargins(0, 0, 0, 0);
     rows->addWidget(m_page);
     rows->addWidget(MakeFindBar());
-    m_columns = new QSplitter;
     m_columns->addWidget(MakeTopics());
     m_columns->addWidget(right);
     m_columns->setStretchFactor(1, 1);

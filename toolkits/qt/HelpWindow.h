@@ -66,7 +66,7 @@ private:
     QLabel* m_findResult = nullptr;
     QLineEdit* m_searchText = nullptr;
     QListWidget* m_searchResults = nullptr;
-    QSplitter* m_columns = nullptr;
+    QSplitter* m_columns;
     QUrl m_home;
     QAction* m_goHome = nullptr;
     QPointer<QWindow> m_below; ///< the modal window on which this one was laid

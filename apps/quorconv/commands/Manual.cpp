@@ -7,9 +7,9 @@
 #include "apps/quorconv/CommandLine.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <fstream>
+#include <iomanip>
+#include <sstream>
 
 namespace quorconv {
 
@@ -31,10 +31,10 @@ std::string Roff(const std::wstring& text) {
         } else if (character == L'-') {
             roff += "\\-";
         } else if (character > L'~') {
-            std::array<char, 16> name{};
-            static_cast<void>(
-                std::snprintf(name.data(), name.size(), "\\[u%04X]", static_cast<unsigned>(character)));
-            roff += name.data();
+            std::ostringstream name;
+            name << "\\[u" << std::hex << std::uppercase << std::setw(4) << std::setfill('0')
+                 << static_cast<unsigned long>(character) << ']';
+            roff += name.str();
         } else {
             roff += static_cast<char>(character);
         }
