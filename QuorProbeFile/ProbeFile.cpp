@@ -417,7 +417,7 @@ std::vector<RecordConflict> ProbeFile::WriteChanges(std::wstring_view section,
     std::vector<RecordConflict> conflicts;
     Edit([&] {
         const auto merge = std::make_shared<RecordMerge>(read, probe.section, m_store, probe.section);
-        WriteRecord(merge, section, conversion, probe.standAlone);
+        WriteRecord(merge, probe.section, conversion, probe.standAlone);
         conflicts = merge->Conflicts();
         if (conflicts.empty())
             merge->WriteChanges();
@@ -442,8 +442,10 @@ void ProbeFile::Write(const std::vector<ProbeToWrite>& probes) {
     });
 }
 
+// Names may be views into Probes(), which is looked at anew inside an edit: they are copied before.
+
 void ProbeFile::Rename(std::wstring_view section, std::wstring_view name) {
-    Edit([&] {
+    Edit([this, section = std::wstring(section), name = std::wstring(name)] {
         const ProbeEntry probe = Require(section);
         RequireName(name, section, NamesBut(section));
         const auto standAlone = StandAloneSection(m_path);
@@ -457,14 +459,14 @@ void ProbeFile::Rename(std::wstring_view section, std::wstring_view name) {
 }
 
 void ProbeFile::Remove(std::wstring_view section) {
-    Edit([&] {
+    Edit([this, section = std::wstring(section)] {
         static_cast<void>(Require(section));
         MoveSections([&](ProbeMove& move) { move.isRemoved = EqualFolded(move.section, section); });
     });
 }
 
 void ProbeFile::Copy(std::wstring_view section, std::wstring_view toSection) {
-    Edit([&] { CopyFrom(*this, section, toSection); });
+    Edit([this, from = std::wstring(section), to = std::wstring(toSection)] { CopyFrom(*this, from, to); });
 }
 
 void ProbeFile::CopyFrom(ProbeFile& source, std::wstring_view section, std::wstring_view toSection) {
@@ -475,7 +477,7 @@ void ProbeFile::CopyFrom(ProbeFile& source, std::wstring_view section, std::wstr
     if (!outcome.IsWhole())
         throw ProbeFileError(source.Path(), std::wstring(section), std::move(outcome.problems),
                              std::move(outcome.messages));
-    Edit([&] {
+    Edit([this, &conversion, toSection = std::wstring(toSection)] {
         auto present = Locate(toSection);
         if (present && present->standAlone)
             present->type = RequireType(*present);

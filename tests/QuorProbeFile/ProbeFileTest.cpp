@@ -18,10 +18,12 @@
 #include <cstdint>
 #include <ctime>
 #include <filesystem>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 using namespace QuorConversions;
@@ -650,6 +652,50 @@ TEST_F(ProbeFileTest, WritesUponWhatAnotherProgramHasSavedMeanwhile) {
     Host(hostFile);
     file.Reload();
     EXPECT_EQ(file.Probes().size(), 2U);
+}
+
+TEST_F(ProbeFileTest, ANameOutOfTheProbesMeansThatProbeAlsoWhenAnotherProgramHasSaved) {
+    const std::string p1 = "[P1]\nVersion=1.0\nConversionType=10\n";
+    const std::string p2 = "[P2]\nConversionType=11\n";
+    const auto afterTheyHaveSaved = [&](const std::string& theirs, const auto& call) {
+        Host(p1 + p2);
+        ProbeFile file(Path());
+        const std::vector<ProbeEntry>& probes = file.Probes();
+        Host(theirs);
+        call(file, std::wstring_view(probes[0].section));
+        return File();
+    };
+    const auto remove = [](ProbeFile& file, std::wstring_view section) { file.Remove(section); };
+    const auto rename = [](ProbeFile& file, std::wstring_view section) { file.Rename(section, L"N"); };
+    const auto toTheName = [](ProbeFile& file, std::wstring_view section) { file.Rename(L"P2", section); };
+    const auto copy = [](ProbeFile& file, std::wstring_view section) { file.Copy(L"P3", section); };
+    const auto change = [](ProbeFile& file, std::wstring_view section) {
+        CQuorConversion conversion;
+        conversion.SetConversionType(CONV_OHMS);
+        EXPECT_TRUE(file.WriteChanges(section, conversion, file).empty());
+    };
+    EXPECT_EQ(afterTheyHaveSaved(p2 + p1, remove), p2);
+    EXPECT_EQ(afterTheyHaveSaved("[P9]\nConversionType=10\n" + p1 + p2, remove),
+              "[P9]\nConversionType=10\n" + p2);
+    EXPECT_EQ(afterTheyHaveSaved(p2 + p1, rename), p2 + "[N]\nVersion=1.0\nConversionType=10\n");
+    EXPECT_EQ(afterTheyHaveSaved(p2, toTheName), "[P1]\nConversionType=11\n");
+    EXPECT_EQ(afterTheyHaveSaved(p2 + "[P3]\nConversionType=10\n", copy),
+              p2 + "[P3]\nConversionType=10\n\n[P1]\nVersion=1.0\nConversionType=10\n");
+    EXPECT_EQ(afterTheyHaveSaved(p2 + p1, change), p2 + p1);
+    for (const auto& call : {std::function<void(ProbeFile&, std::wstring_view)>(remove), {rename}}) {
+        EXPECT_EQ(ErrorOf([&] { static_cast<void>(afterTheyHaveSaved(p2, call)); }), L"1 [P1] ");
+        EXPECT_EQ(File(), p2);
+    }
+}
+
+TEST_F(ProbeFileTest, AllProbesCanBeRemovedByTheirNamesInOneEdit) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    file.Edit([&] {
+        while (!file.Probes().empty())
+            file.Remove(file.Probes().back().section);
+    });
+    EXPECT_EQ(File(), "; the laboratory's file\n[Instrument]\nChannels=8\n");
 }
 
 TEST_F(ProbeFileTest, SeveralStepsOfAnEditAreSavedTogetherOrNotAtAll) {
