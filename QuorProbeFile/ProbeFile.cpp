@@ -277,16 +277,14 @@ ReadOutcome ProbeFile::Read(std::wstring_view section, CQuorConversion& conversi
     ProbeEntry probe = Require(section);
     if (!probe.standAlone)
         static_cast<void>(RequireType(probe));
+    LinePlaces& places = Places();
+    const SectionIndex::Section& place = *places.Section(probe.section);
+    probe.section = places.NameOf(place);
+    probe.line = place.header.number;
     const RecordReading reading(m_store, m_path, probe);
     probe.type = reading.Conversion().ConversionType();
     ReadOutcome outcome;
-    LinePlaces& places = Places();
     outcome.problems = ProblemsOf(reading, probe, places);
-    if (!outcome.problems.empty()) {
-        probe.line = places.Section(probe.section)->header.number;
-        for (ProbeProblem& problem : outcome.problems)
-            problem.line = problem.line != 0 ? problem.line : probe.line;
-    }
     outcome.probe = std::move(probe);
     for (const MessageCollector::Message& message : reading.Messages())
         outcome.messages.push_back(message.text);
@@ -312,21 +310,22 @@ std::vector<ProbeProblem> ProbeFile::Check() {
 
 void ProbeFile::Edit(const std::function<void()>& edit) { m_store->Edit(edit); }
 
-/// The sections of the probe `except` do not count.
-TakenNames ProbeFile::NamesBut(std::wstring_view except) {
+/// The sections of the probe `except`, if there is one, do not count.
+TakenNames ProbeFile::NamesBut(std::optional<std::wstring_view> except) {
     TakenNames names;
     WhereThereIsAFile([&] {
         for (const std::wstring& section : m_store->Sections()) {
-            if (!EqualFolded(section, except) && !HoldsSettingsOf(section, except))
+            if (!except || (!EqualFolded(section, *except) && !HoldsSettingsOf(section, *except)))
                 names.Add(section);
         }
     });
     return names;
 }
 
-void ProbeFile::RequireName(std::wstring_view name, std::wstring_view except, const TakenNames& names) {
+void ProbeFile::RequireName(std::wstring_view name, std::optional<std::wstring_view> except,
+                            const TakenNames& names) {
     const auto isProbe = [&](std::wstring_view owner) {
-        return !EqualFolded(owner, except) && Locate(owner).has_value();
+        return !(except && EqualFolded(owner, *except)) && Locate(owner).has_value();
     };
     if (const auto obstacle = names.ObstacleTo(name, isProbe))
         throw Error(obstacle->code, name, obstacle->other);
@@ -363,10 +362,10 @@ void ProbeFile::WriteOne(const ProbeToWrite& probe) {
         if (HasSection(probe.section))
             throw Error(PROBE_SECTION_OF_HOST, probe.section);
         if (m_namesText != m_store->TextNumber()) {
-            m_names = NamesBut({});
+            m_names = NamesBut(std::nullopt);
             m_namesText = m_store->TextNumber();
         }
-        RequireName(probe.section, {}, m_names);
+        RequireName(probe.section, std::nullopt, m_names);
     }
     const auto standAlone = StandAloneSection(m_path);
     const bool isStandAlone =

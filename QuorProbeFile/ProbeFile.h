@@ -173,8 +173,9 @@ private:
     [[nodiscard]] ProbeFileError Error(EProbeFileError code, std::wstring_view section,
                                        std::wstring_view other = {}) const;
     [[nodiscard]] QuorConversions::EQuorConversionType RequireType(const ProbeEntry& probe);
-    [[nodiscard]] TakenNames NamesBut(std::wstring_view except);
-    void RequireName(std::wstring_view name, std::wstring_view except, const TakenNames& names);
+    [[nodiscard]] TakenNames NamesBut(std::optional<std::wstring_view> except);
+    void RequireName(std::wstring_view name, std::optional<std::wstring_view> except,
+                     const TakenNames& names);
     void MoveSections(const std::function<void(ProbeMove&)>& move);
     void RemoveOldSettings(const std::vector<ProbeToWrite>& probes);
     void WriteOne(const ProbeToWrite& probe);
@@ -187,7 +188,7 @@ private:
     std::vector<ProbeEntry> m_probes;
     std::unordered_map<std::int32_t, std::wstring> m_typeNames; // of types that were asked for
     std::vector<std::size_t> m_lostSections;
-    std::unique_ptr<LinePlaces> m_places; // once a record was not whole
+    std::unique_ptr<LinePlaces> m_places; // once a record was read
     std::uint64_t m_placesText = 0;       // the number of the text that they are of
     TakenNames m_names;                   // of all sections
     std::uint64_t m_namesText = 0;        // the number of the text that they are of

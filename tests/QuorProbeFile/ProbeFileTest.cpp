@@ -226,6 +226,23 @@ TEST_F(ProbeFileTest, ReadsAProbeIntoAConversionThatCountsAsUnchanged) {
     EXPECT_FALSE(conversion.Changed());
 }
 
+TEST_F(ProbeFileTest, TellsOfAProbeThatIsReadTheNameAndTheLineThatStandInTheFile) {
+    Host("; rig 4\n\n[Channel 1]\nConversionType=14\n[channel 1 - settings]\nRTPW=25.5\n"
+         "[Channel 2]\nConversionType=14\n");
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    const ReadOutcome whole = file.Read(L"CHANNEL 1", conversion);
+    EXPECT_TRUE(whole.IsWhole());
+    EXPECT_EQ(whole.probe, (ProbeEntry{L"Channel 1", 3, CONV_WT90, false}));
+    EXPECT_EQ(SettingsAs<CQuorWT90>(conversion)->RTPW(), 25.5);
+    const ReadOutcome incomplete = file.Read(L"CHANNEL 2", conversion);
+    EXPECT_EQ(incomplete.probe, (ProbeEntry{L"Channel 2", 7, CONV_WT90, false}));
+    EXPECT_EQ(Told(incomplete.problems), Texts{L"7 [Channel 2 - Settings] RTPW 1 the section is missing"});
+    folder.Write("a.w90", "; certificate\n[w(t90)]\nRTPW=24.5\n");
+    ProbeFile standAlone(folder.Name("a.w90"));
+    EXPECT_EQ(standAlone.Read(L"W(T90)", conversion).probe, (ProbeEntry{L"w(t90)", 2, CONV_WT90, true}));
+}
+
 TEST_F(ProbeFileTest, RefusesToReadWhatIsNoRecordAndLeavesTheConversionAsItWas) {
     Host(std::string(hostFile) + "[R]\nConversionType=two\n");
     ProbeFile file(Path());
@@ -409,6 +426,16 @@ TEST_F(ProbeFileTest, TakesOverNoSettingsThatHaveLostTheirProbe) {
                   file.Write({{L"Y - Settings - Z", conversion}, {L"Y", conversion}});
               }),
               L"9 [Y] Y - Settings - Z");
+    EXPECT_EQ(File(), text);
+}
+
+TEST_F(ProbeFileTest, AProbeWithoutANameTakesOverNoSettingsEither) {
+    const std::string text = "[ - Settings]\nRTPW=1 ; the rig's\n";
+    Host(text);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    conversion.SetConversionType(CONV_WT90);
+    EXPECT_EQ(ErrorOf([&] { file.Write(L"", conversion); }), L"9 []  - Settings");
     EXPECT_EQ(File(), text);
 }
 
