@@ -335,7 +335,8 @@ void ProbeFile::MoveSections(const std::function<void(ProbeMove&)>& move) {
     std::vector<ProbeMove> moves;
     moves.reserve(Probes().size());
     for (const ProbeEntry& probe : Probes())
-        move(moves.emplace_back(ProbeMove{probe.section, probe.section, false, false, probe.standAlone}));
+        move(moves.emplace_back(ProbeMove{probe.section, probe.section, false, false, probe.standAlone,
+                                          MayHaveSettings(probe.type)}));
     std::optional<SharedSection> shared;
     const SectionPlan plan = PlanSections(m_store->Sections(), moves, shared);
     if (shared)
@@ -358,15 +359,18 @@ void ProbeFile::RemoveOldSettings(const std::vector<ProbeToWrite>& probes) {
 void ProbeFile::WriteOne(const ProbeToWrite& probe) {
     const EQuorConversionType type = probe.conversion.ConversionType();
     const auto present = Locate(probe.section);
-    if (!present) {
-        if (HasSection(probe.section))
-            throw Error(PROBE_SECTION_OF_HOST, probe.section);
-        if (m_namesText != m_store->TextNumber()) {
-            m_names = NamesBut(std::nullopt);
-            m_namesText = m_store->TextNumber();
-        }
-        RequireName(probe.section, std::nullopt, m_names);
+    if (!present && HasSection(probe.section))
+        throw Error(PROBE_SECTION_OF_HOST, probe.section);
+    const bool getsSettings =
+        present && !present->standAlone && !MayHaveSettings(present->type) && MayHaveSettings(type);
+    if ((!present || getsSettings) && m_namesText != m_store->TextNumber()) {
+        m_names = NamesBut(std::nullopt);
+        m_namesText = m_store->TextNumber();
     }
+    if (!present)
+        RequireName(probe.section, std::nullopt, m_names);
+    else if (const auto other = getsSettings ? m_names.SettingsOf(probe.section) : std::nullopt)
+        throw Error(PROBE_SETTINGS_ARE_TAKEN, probe.section, *other);
     const auto standAlone = StandAloneSection(m_path);
     const bool isStandAlone =
         present ? present->standAlone : standAlone && EqualFolded(*standAlone, probe.section);

@@ -113,9 +113,10 @@ public:
     /// read, its settings go first.
     ///
     /// Raises PROBE_SECTION_OF_HOST for a section that is there and is no record, PROBE_BAD_NAME,
-    /// PROBE_NAME_OF_SETTINGS and PROBE_SETTINGS_ARE_TAKEN for a new one, PROBE_DOES_NOT_FIT_FILE,
-    /// PROBE_SECTION_IS_SHARED, and PROBE_CANNOT_BE_WRITTEN when the conversion itself refuses it. Changed of
-    /// the conversion stays as it is.
+    /// PROBE_NAME_OF_SETTINGS and PROBE_SETTINGS_ARE_TAKEN for a new one - the last also for one of a type
+    /// without settings that gets another type -, PROBE_DOES_NOT_FIT_FILE, PROBE_SECTION_IS_SHARED, and
+    /// PROBE_CANNOT_BE_WRITTEN when the conversion itself refuses it. Changed of the conversion stays as it
+    /// is.
     void Write(std::wstring_view section, const QuorConversions::CQuorConversion& conversion);
     /// Writes many, durable together: all of them, or when one cannot be written none, and the error names
     /// its section. Raises PROBE_NAME_IS_TAKEN when two of them have one section.
@@ -136,7 +137,8 @@ public:
     /// is another name, too. Raises as Read and Write do, and PROBE_NAME_IS_TAKEN; the record of a
     /// stand-alone settings file keeps its name, and no other probe gets that (PROBE_DOES_NOT_FIT_FILE).
     void Rename(std::wstring_view section, std::wstring_view name);
-    /// Removes a probe with the sections of its settings, or those that are nested in a stand-alone one.
+    /// Removes a probe with the sections of its settings, or those that are nested in a stand-alone one. What
+    /// is called like the settings of a probe whose type has none belongs to the host and stays.
     /// Comments that stand apart stay. Raises PROBE_NO_SUCH_SECTION, PROBE_NO_RECORD and
     /// PROBE_SECTION_IS_SHARED.
     void Remove(std::wstring_view section);

@@ -37,6 +37,11 @@ const TypeInfo* FindType(std::int32_t code) {
     return type == Types().end() ? nullptr : &*type;
 }
 
+bool MayHaveSettings(const std::optional<EQuorConversionType>& type) {
+    const TypeInfo* const info = type ? FindType(*type) : nullptr;
+    return !info || !info->extension.empty();
+}
+
 std::vector<const TypeInfo*> TypesOfExtension(const std::wstring& extension) {
     std::vector<const TypeInfo*> found;
     const std::wstring wanted = Folded(extension);

@@ -22,6 +22,10 @@ struct TypeInfo {
 [[nodiscard]] QUORPROBEFILE_EXPORT const std::vector<TypeInfo>& Types();
 /// The type of a code; null for a code that is no conversion type.
 [[nodiscard]] QUORPROBEFILE_EXPORT const TypeInfo* FindType(std::int32_t code);
+/// Whether the record of a probe of that type has settings beside it, or may have, where the type is not
+/// known: a section that is called like the settings of any other one is the host's.
+[[nodiscard]] QUORPROBEFILE_EXPORT bool
+MayHaveSettings(const std::optional<QuorConversions::EQuorConversionType>& type);
 /// The types whose stand-alone files have that extension, in any ASCII case; several share one. None for an
 /// empty extension.
 [[nodiscard]] QUORPROBEFILE_EXPORT std::vector<const TypeInfo*>

@@ -38,9 +38,9 @@ public:
     /// False when the section is shared.
     [[nodiscard]] bool Add(const std::wstring& section) {
         m_owners.clear();
-        FindOwner(section);
+        FindOwner(section, section);
         for (const std::wstring_view name : PossibleOwners(section))
-            FindOwner(name);
+            FindOwner(section, name);
         if (m_standAlone && IsNestedIn(section, m_probes[*m_standAlone].section))
             m_owners.push_back({*m_standAlone, m_probes[*m_standAlone].section.size()});
         if (const auto shared = Disagreement(section)) {
@@ -56,8 +56,9 @@ public:
     [[nodiscard]] const std::optional<SharedSection>& Shared() const { return m_shared; }
 
 private:
-    void FindOwner(std::wstring_view name) {
-        if (const auto found = m_byName.find(name); found != m_byName.end())
+    void FindOwner(std::wstring_view section, std::wstring_view name) {
+        const auto found = m_byName.find(name);
+        if (found != m_byName.end() && (section == name || m_probes[found->second].hasSettings))
             m_owners.push_back({found->second, name.size()});
     }
 

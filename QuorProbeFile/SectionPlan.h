@@ -21,6 +21,7 @@ struct ProbeMove {
     bool isRemoved = false;   ///< it goes, with its settings
     bool changesType = false; ///< the settings that stand in the file are those of another conversion, and go
     bool standAlone = false;  ///< it holds its settings itself, and has sections that are nested in it
+    bool hasSettings = true;  ///< else sections that are called like its settings are the host's, and stay
 };
 
 /// What is to become of the sections of a file before anything is written into them. ApplyPlan does it in

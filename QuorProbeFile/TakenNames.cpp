@@ -20,9 +20,14 @@ TakenNames::ObstacleTo(std::wstring_view name, const std::function<bool(std::wst
         if (isProbe(probe))
             return Obstacle{PROBE_NAME_OF_SETTINGS, std::wstring(probe)};
     }
-    if (const auto settings = m_settings.find(name); settings != m_settings.end())
-        return Obstacle{PROBE_SETTINGS_ARE_TAKEN, settings->second};
+    if (auto settings = SettingsOf(name))
+        return Obstacle{PROBE_SETTINGS_ARE_TAKEN, *std::move(settings)};
     return std::nullopt;
+}
+
+std::optional<std::wstring> TakenNames::SettingsOf(std::wstring_view probe) const {
+    const auto settings = m_settings.find(probe);
+    return settings == m_settings.end() ? std::nullopt : std::optional(settings->second);
 }
 
 } // namespace QuorProbeFile

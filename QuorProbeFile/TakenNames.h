@@ -34,6 +34,9 @@ public:
     [[nodiscard]] std::optional<Obstacle>
     ObstacleTo(std::wstring_view name, const std::function<bool(std::wstring_view)>& isProbe) const;
 
+    /// The section that is called like settings of that probe; nothing when there is none.
+    [[nodiscard]] std::optional<std::wstring> SettingsOf(std::wstring_view probe) const;
+
 private:
     NameSet m_sections;
     NameMap<std::wstring> m_settings; // by the probe whose settings they would be, the first of each

@@ -4,6 +4,7 @@
 #include "QuorConversions/core/modMessages.h"
 #include "QuorConversions/platform/HeadlessPlatform.h"
 #include "QuorProbeFile/ProbeNames.h"
+#include "QuorProbeFile/ProbeTypes.h"
 #include "QuorProbeFile/ReadLog.h"
 #include "QuorProbeFile/SectionPlan.h"
 #include "QuorProbeFile/TakenNames.h"
@@ -67,6 +68,17 @@ bool DocumentSave::WriteInto(ProbeFile& file, const OthersChanges& replaced) con
 }
 
 void DocumentSave::WriteWhole(const ProbeFile& file, const ListedProbe& probe) {
+    if (probe.content.replacesRecord && !MayHaveSettings(probe.typeInFile) &&
+        MayHaveSettings(probe.content.type)) {
+        for (const std::wstring& section : file.Store()->Sections()) {
+            if (HoldsSettingsOf(section, probe.name)) // which is the host's
+                throw DocumentError{
+                    Failure::CannotWrite,
+                    file.Path(),
+                    {probe.name, ProbeFileError(PROBE_SETTINGS_ARE_TAKEN, file.Path(), probe.name, section)
+                                     .Description()}};
+        }
+    }
     WriteRecord(file.Store(), probe, probe.name, file.Path());
 }
 
@@ -147,10 +159,12 @@ void DocumentSave::MoveSections(IniStore& store) const {
     std::vector<ProbeMove> moves;
     for (const ListedProbe& probe : m_probes) {
         if (!probe.isNew)
-            moves.push_back({probe.Section(), probe.name, false, probe.content.replacesRecord});
+            moves.push_back({probe.Section(), probe.name, false, probe.content.replacesRecord, false,
+                             MayHaveSettings(probe.typeInFile)});
     }
     for (const ListedProbe* const probe : m_removed)
-        moves.push_back({probe->Section(), probe->name, true, false});
+        moves.push_back(
+            {probe->Section(), probe->name, true, false, false, MayHaveSettings(probe->typeInFile)});
     std::optional<SharedSection> shared;
     const SectionPlan plan = PlanSections(store.Sections(), moves, shared);
     if (shared)

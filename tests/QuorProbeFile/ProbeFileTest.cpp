@@ -558,8 +558,52 @@ TEST_F(ProbeFileTest, RemovesAProbeWithItsSettings) {
     EXPECT_EQ(ErrorOf([&] { file.Remove(L"Instrument"); }), L"2 [Instrument] ");
 }
 
+TEST_F(ProbeFileTest, ASectionThatIsCalledLikeSettingsOfAProbeWithoutAnyIsTheHosts) {
+    const std::string theirs = "[P - Settings]\nChannel=4\n[P - Settings - Low Range]\nx=1\n";
+    const std::string text = "[P]\nVersion=1.0\nConversionType=10\n" + theirs;
+    Host(text);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    conversion.SetConversionType(CONV_CVD);
+    EXPECT_EQ(ErrorOf([&] { file.Write(L"P", conversion); }), L"9 [P] P - Settings");
+    EXPECT_EQ(File(), text);
+    conversion.SetConversionType(CONV_VOLTS);
+    file.Write(L"P", conversion);
+    EXPECT_EQ(File(), "[P]\nVersion=1.0\nConversionType=11\n" + theirs);
+    file.Rename(L"P", L"Q");
+    EXPECT_EQ(File(), "[Q]\nVersion=1.0\nConversionType=11\n" + theirs);
+    file.Rename(L"Q", L"q");
+    file.Remove(L"q");
+    EXPECT_EQ(File(), theirs);
+}
+
+TEST_F(ProbeFileTest, AProbeGetsSettingsAndLosesThemAgainWithItsType) {
+    Host("[P]\nVersion=1.0\nConversionType=10\n");
+    ProbeFile file(Path());
+    CQuorConversion ohms;
+    ohms.SetConversionType(CONV_OHMS);
+    CQuorConversion wt90;
+    wt90.SetConversionType(CONV_WT90);
+    const std::string record = "[P]\nVersion=1.0\nConversionType=";
+    for (int i = 0; i < 2; ++i) {
+        file.Write(L"P", wt90);
+        EXPECT_EQ(File(), record + "14\n\n[P - Settings]\nVersion=1.0\nRTPW=0\n");
+        file.Write(L"P", ohms);
+        EXPECT_EQ(File(), record + "10\n");
+    }
+}
+
+TEST_F(ProbeFileTest, WhatStandsBesideARecordOfAnUnknownTypeGoesWithIt) {
+    Host("[S]\nConversionType=77\n[S - Settings]\nx=1\n[T]\nConversionType=two\n[T - "
+         "Settings]\nx=1\n[Host]\n");
+    ProbeFile file(Path());
+    file.Remove(L"S");
+    file.Remove(L"T");
+    EXPECT_EQ(File(), "[Host]\n");
+}
+
 TEST_F(ProbeFileTest, AProbeThatSharesItsSectionWithAnotherOneStays) {
-    const std::string text = "[A]\nConversionType=10\n[A - Settings]\nConversionType=10\n";
+    const std::string text = "[A]\nConversionType=14\n[A - Settings]\nConversionType=10\n";
     Host(text);
     ProbeFile file(Path());
     EXPECT_EQ(ErrorOf([&] { file.Remove(L"A"); }), L"10 [A] A - Settings");

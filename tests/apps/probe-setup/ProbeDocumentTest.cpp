@@ -363,6 +363,24 @@ TEST_F(ProbeDocumentTest, ANewProbeIsSavedInTheLettersOfItsOwnWhereARemovedOneHa
     EXPECT_NE(File().find("[pRobe 1]"), std::string::npos) << File();
 }
 
+TEST_F(ProbeDocumentTest, ASectionThatIsCalledLikeSettingsOfAProbeWithoutAnyIsTheHosts) {
+    const std::string theirs = "[P - Settings]\nChannel=4\n";
+    Open("[P]\nVersion=1.0\nConversionType=10\n" + theirs);
+    document.SetType({0}, CONV_CVD);
+    const DocumentError error = ErrorOf([&] { document.Save(); });
+    EXPECT_EQ(error.failure, Failure::CannotWrite);
+    EXPECT_EQ(error.details,
+              (Texts{L"P", folder.Name("host.ini") + L": [P]: the settings would stand in the section "
+                                                     L"\"P - Settings\", which is there already"}));
+    EXPECT_EQ(File(), "[P]\nVersion=1.0\nConversionType=10\n" + theirs);
+    document.SetType({0}, CONV_VOLTS);
+    document.Save();
+    EXPECT_EQ(File(), "[P]\nVersion=1.0\nConversionType=11\n" + theirs);
+    document.Remove({0});
+    document.Save();
+    EXPECT_EQ(File(), theirs);
+}
+
 TEST_F(ProbeDocumentTest, AnotherTypeTakesThePlaceOfTheOldSettings) {
     Open();
     document.SetType({0}, CONV_PT100R0);

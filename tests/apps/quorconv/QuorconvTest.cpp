@@ -342,3 +342,16 @@ TEST_F(QuorconvTest, ShowsAnExampleOfEachCommandAndItsVersion) {
     }
     ExpectFine({"--version"}, "quorconv 1.0.0\n");
 }
+
+TEST_F(QuorconvTest, ASectionThatIsCalledLikeSettingsOfAProbeWithoutAnyIsTheHosts) {
+    const std::string theirs = "[P - Settings]\nChannel=4\n";
+    const std::string text = "[P]\nVersion=1.0\nConversionType=10\n" + theirs;
+    folder.Write("rig.ini", text);
+    ExpectRefused(
+        {"retype", "rig.ini", "P", "pt1", "Coefficients0=100"},
+        "quorconv: rig.ini: [P]: the settings would stand in the section \"P - Settings\", which is "
+        "there already\n");
+    EXPECT_EQ(folder.Read("rig.ini"), text);
+    ExpectFine({"remove", "rig.ini", "P"});
+    EXPECT_EQ(folder.Read("rig.ini"), theirs);
+}
