@@ -412,14 +412,17 @@ std::vector<RecordConflict> ProbeFile::WriteChanges(std::wstring_view section,
     // What was read is kept before the edit begins: `before` may be this object, whose store loads the file
     // anew then.
     const SelectedSection selected(*before.m_store);
-    const ProbeEntry probe = before.Require(section);
-    if (const auto type = before.RequireType(probe); type != conversion.ConversionType())
-        throw Error(PROBE_OF_ANOTHER_TYPE, section, TypeName(type));
+    CQuorConversion unchanged;
+    const ProbeEntry probe = before.Read(section, unchanged).probe;
+    if (probe.type != conversion.ConversionType())
+        throw Error(PROBE_OF_ANOTHER_TYPE, section, TypeName(unchanged.ConversionType()));
     const auto read = std::make_shared<KeptValues>(before.m_store);
-    WriteRecord(read, section, conversion, probe.standAlone);
+    WriteRecord(read, probe.section, conversion, probe.standAlone);
+    const auto asRead = std::make_shared<KeptValues>();
+    WriteRecord(asRead, probe.section, unchanged, probe.standAlone);
     std::vector<RecordConflict> conflicts;
     Edit([&] {
-        const auto merge = std::make_shared<RecordMerge>(read, probe.section, m_store, probe.section);
+        const auto merge = std::make_shared<RecordMerge>(read, probe.section, m_store, probe.section, asRead);
         WriteRecord(merge, probe.section, conversion, probe.standAlone);
         conflicts = merge->Conflicts();
         if (conflicts.empty())

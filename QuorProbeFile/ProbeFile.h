@@ -124,9 +124,10 @@ public:
 
     /// Writes of a probe the keys that have got other values since it was read from `before` - this object,
     /// or another one on the same file - and nothing else: what other programs have written about it
-    /// meanwhile stays. Keys that they have changed too, to other values, are returned, and nothing is
-    /// written then. What counts as read is the text that `before` holds when this is called. Raises
-    /// PROBE_NO_SUCH_SECTION, PROBE_NO_RECORD and PROBE_TYPE_UNREADABLE as Read of `before` does,
+    /// meanwhile stays, and so do keys that are missing or cannot be read, as long as the conversion holds
+    /// what Read has given it for them. Keys that they have changed too, to other values, are returned, and
+    /// nothing is written then. What counts as read is the text that `before` holds when this is called.
+    /// Raises PROBE_NO_SUCH_SECTION, PROBE_NO_RECORD and PROBE_TYPE_UNREADABLE as Read of `before` does,
     /// PROBE_OF_ANOTHER_TYPE when the conversion is of another type than the record in `before`, which only
     /// Write can replace, and PROBE_CANNOT_BE_WRITTEN.
     [[nodiscard]] std::vector<RecordConflict> WriteChanges(std::wstring_view section,

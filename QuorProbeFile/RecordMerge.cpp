@@ -21,11 +21,12 @@ bool Same(const std::optional<Value>& a, const std::optional<Value>& b) {
 } // namespace
 
 RecordMerge::RecordMerge(std::shared_ptr<INIFile> before, std::wstring sectionBefore,
-                         std::shared_ptr<INIFile> file, std::wstring section)
+                         std::shared_ptr<INIFile> file, std::wstring section, std::shared_ptr<INIFile> asRead)
     : m_before(std::move(before)),
       m_sectionBefore(std::move(sectionBefore)),
       m_file(std::move(file)),
-      m_recordSection(std::move(section)) {}
+      m_recordSection(std::move(section)),
+      m_asRead(std::move(asRead)) {}
 
 void RecordMerge::SetSection(std::wstring_view section) {
     m_section = section;
@@ -36,12 +37,15 @@ void RecordMerge::Take(std::wstring_view key, Value ours) {
     Change change{m_section, std::wstring(key), std::move(ours)};
     // Both sections are selected each time: the two may be one object. The names of nested sections begin
     // with that of the record, which it may have got since.
-    m_before->SetSection(m_sectionBefore + m_section.substr(m_recordSection.size()));
+    const std::wstring sectionBefore = m_sectionBefore + m_section.substr(m_recordSection.size());
+    m_before->SetSection(sectionBefore);
     const std::optional<Value> read = ReadValue(*m_before, change.key, change.value);
     m_file->SetSection(m_section);
     const std::optional<Value> theirs = ReadValue(*m_file, change.key, change.value);
     const bool theyChanged = !Same(read, theirs);
-    const bool weChanged = !Same(read, change.value);
+    if (m_asRead)
+        m_asRead->SetSection(sectionBefore);
+    const bool weChanged = !Same(read, change.value) && !IsAsRead(change.key, change.value);
     if (theyChanged && key != versionKey) {
         RecordConflict conflict{change.section, change.key, read, theirs, change.value};
         if (key == conversionTypeKey) // of which the facade has the only one
@@ -57,6 +61,11 @@ void RecordMerge::Take(std::wstring_view key, Value ours) {
     } else if (!theyChanged) {
         m_versions.push_back(std::move(change));
     }
+}
+
+/// Whether a key of the section that is selected in m_asRead has the value that a read has given it.
+bool RecordMerge::IsAsRead(const std::wstring& key, const Value& ours) const {
+    return m_asRead && key != versionKey && Same(ReadValue(*m_asRead, key, ours), ours);
 }
 
 std::vector<RecordConflict> RecordMerge::Conflicts() const {

@@ -40,8 +40,13 @@ class QUORPROBEFILE_EXPORT RecordMerge final : public QuorIniFile::INIFile {
 public:
     /// The record was read from `before`, which still gives what it gave then, and stood there in the section
     /// `sectionBefore`; now it stands in `section` of `file`. Both may be the same object.
+    ///
+    /// `asRead` gives, in the sections of `before`, the values that an object holds that has read the record
+    /// from there: defaults for the keys that are missing or cannot be read. A value that is still the same
+    /// is no change. Null: such keys are written.
     RecordMerge(std::shared_ptr<QuorIniFile::INIFile> before, std::wstring sectionBefore,
-                std::shared_ptr<QuorIniFile::INIFile> file, std::wstring section);
+                std::shared_ptr<QuorIniFile::INIFile> file, std::wstring section,
+                std::shared_ptr<QuorIniFile::INIFile> asRead = nullptr);
 
     /// The changes that cannot be merged. Another conversion type than was read makes every change one.
     [[nodiscard]] std::vector<RecordConflict> Conflicts() const;
@@ -82,12 +87,14 @@ private:
         Value value;
     };
     void Take(std::wstring_view key, Value ours);
+    [[nodiscard]] bool IsAsRead(const std::wstring& key, const Value& ours) const;
     void Write(const std::vector<Change>& changes);
 
     std::shared_ptr<QuorIniFile::INIFile> m_before;
     std::wstring m_sectionBefore;
     std::shared_ptr<QuorIniFile::INIFile> m_file;
     std::wstring m_recordSection;
+    std::shared_ptr<QuorIniFile::INIFile> m_asRead;
     std::wstring m_section;
     std::vector<Change> m_versions;
     std::vector<Change> m_changes;

@@ -26,8 +26,9 @@ std::optional<Value> ReadValue(INIFile& file, const std::wstring& key, const Val
 
 void KeptValues::Keep(std::wstring_view key, const Value& kind) {
     std::wstring name(key);
-    m_file->SetSection(m_section);
-    if (auto value = ReadValue(*m_file, name, kind))
+    if (m_file)
+        m_file->SetSection(m_section);
+    if (auto value = m_file ? ReadValue(*m_file, name, kind) : kind)
         m_values.insert_or_assign({m_section, std::move(name)}, *std::move(value));
 }
 

@@ -20,10 +20,11 @@ namespace QuorProbeFile {
 /// What a file holds of the keys of a record, kept while the file becomes another one.
 ///
 /// A settings object or facade is written to it as to a file: that tells it the keys, whose values it reads
-/// from the file then. Nothing is written. Reads give what was kept.
+/// from the file then. Nothing is written. Reads give what was kept. Without a file it keeps the values that
+/// are written to it.
 class KeptValues final : public QuorIniFile::INIFile {
 public:
-    explicit KeptValues(std::shared_ptr<QuorIniFile::INIFile> file) : m_file(std::move(file)) {}
+    explicit KeptValues(std::shared_ptr<QuorIniFile::INIFile> file = nullptr) : m_file(std::move(file)) {}
 
     void SetFileName(std::wstring_view /*fileName*/) override {}
     void SetSection(std::wstring_view section) override { m_section = section; }

@@ -4,6 +4,7 @@
 #include "QuorConversions/rtd/CQuorCVD.h"
 #include "QuorConversions/rtd/CQuorITS90.h"
 #include "QuorConversions/rtd/CQuorWT90.h"
+#include "QuorConversions/thermocouple/CQuorTCTypePoly.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorProbeFile/ProbeTypes.h"
 #include "tests/support/InterceptedFiles.h"
@@ -690,6 +691,48 @@ TEST_F(ProbeFileTest, AKeyThatOthersHaveChangedSinceTheSameObjectReadItIsAConfli
     EXPECT_EQ(conflicts[0].theirs, Value(1.6));
     EXPECT_EQ(conflicts[0].ours, Value(1.7));
     EXPECT_EQ(File(), theirs);
+}
+
+TEST_F(ProbeFileTest, ChangesOfARecordThatCouldNotBeReadWhollyLeaveWhatCouldNotBeRead) {
+    const std::string text =
+        Replaced(Replaced(hostFile, "3.9083E-3", "0,0039083"), "Coefficients2=1.5\n", "");
+    Host(text);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    EXPECT_EQ(file.Read(L"P", conversion).problems.size(), 2U);
+    EXPECT_TRUE(file.WriteChanges(L"P", conversion, file).empty());
+    EXPECT_EQ(File(), text) << "nothing has changed";
+    SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_R0, 100.5);
+    EXPECT_TRUE(file.WriteChanges(L"P", conversion, file).empty());
+    EXPECT_EQ(File(), Replaced(text, "100.0 ;", "100.5 ;"));
+    SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_ALPHA, 0.0039083);
+    EXPECT_TRUE(file.WriteChanges(L"P", conversion, file).empty());
+    EXPECT_EQ(File(), Replaced(Replaced(text, "100.0 ;", "100.5 ;"), "0,0039083", "0.0039083"));
+}
+
+TEST_F(ProbeFileTest, AKeyThatCouldNotBeReadAndThatOthersHaveMendedStaysAsTheyHaveWrittenIt) {
+    const std::string text = Replaced(hostFile, "3.9083E-3", "0,0039083");
+    Host(text);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    EXPECT_FALSE(file.Read(L"P", conversion).IsWhole());
+    SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_R0, 100.5);
+    Host(hostFile);
+    EXPECT_TRUE(file.WriteChanges(L"P", conversion, file).empty());
+    EXPECT_EQ(File(), Replaced(hostFile, "100.0 ;", "100.5 ;"));
+}
+
+TEST_F(ProbeFileTest, ChangesOfARecordThatWasGivenUpLeaveItsOtherKeys) {
+    const std::string text = "[P]\nVersion=1.0\nConversionType=20\n[P - Settings]\nVersion=1.0\nTCType=4\n"
+                             "NumCoefficients=16\nCoefficients0=1.5\nCoefficients1=2.5\n";
+    Host(text);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    EXPECT_FALSE(file.Read(L"P", conversion).IsWhole());
+    EXPECT_EQ(SettingsAs<CQuorTCTypePoly>(conversion)->Coefficients(0), 0.0);
+    SettingsAs<CQuorTCTypePoly>(conversion)->SetTCType(TCTYPE_C);
+    EXPECT_TRUE(file.WriteChanges(L"P", conversion, file).empty());
+    EXPECT_EQ(File(), Replaced(text, "TCType=4", "TCType=1"));
 }
 
 TEST_F(ProbeFileTest, ChangesOfAnotherTypeThanWasReadAreRefused) {
