@@ -349,7 +349,7 @@ void ProbeFile::RemoveOldSettings(const std::vector<ProbeToWrite>& probes) {
     NameSet changing;
     for (const ProbeToWrite& probe : probes) {
         const auto present = Locate(probe.section);
-        if (present && !present->standAlone && present->type != probe.conversion.ConversionType())
+        if (present && !present->standAlone && present->type != probe.conversion.get().ConversionType())
             changing.insert(probe.section);
     }
     if (!changing.empty())
@@ -357,7 +357,7 @@ void ProbeFile::RemoveOldSettings(const std::vector<ProbeToWrite>& probes) {
 }
 
 void ProbeFile::WriteOne(const ProbeToWrite& probe) {
-    const EQuorConversionType type = probe.conversion.ConversionType();
+    const EQuorConversionType type = probe.conversion.get().ConversionType();
     const auto present = Locate(probe.section);
     if (!present && HasSection(probe.section))
         throw Error(PROBE_SECTION_OF_HOST, probe.section);

@@ -34,10 +34,11 @@ struct ReadOutcome {
     [[nodiscard]] bool IsWhole() const { return problems.empty() && messages.empty(); }
 };
 
-/// A probe that is to be written: the section of its record, and its conversion.
+/// A probe that is to be written: the section of its record, and its conversion, which lives until it is
+/// written: no temporary can be given.
 struct ProbeToWrite {
     std::wstring section;
-    const QuorConversions::CQuorConversion& conversion;
+    std::reference_wrapper<const QuorConversions::CQuorConversion> conversion;
 };
 
 /// The probes of a host's file, or the one of a stand-alone settings file ("prt-1188.cvd"): what is there,
@@ -118,8 +119,9 @@ public:
     /// PROBE_CANNOT_BE_WRITTEN when the conversion itself refuses it. Changed of the conversion stays as it
     /// is.
     void Write(std::wstring_view section, const QuorConversions::CQuorConversion& conversion);
-    /// Writes many, durable together: all of them, or when one cannot be written none, and the error names
-    /// its section. Raises PROBE_NAME_IS_TAKEN when two of them have one section.
+    /// Writes many, durable together: all of them, or none. Stops at the first one that cannot be written,
+    /// with the error that Write of it alone raises, which names its section; nothing is told of those behind
+    /// it. Raises PROBE_NAME_IS_TAKEN when two of them have one section.
     void Write(const std::vector<ProbeToWrite>& probes);
 
     /// Writes of a probe the keys that have got other values since it was read from `before` - this object,

@@ -25,6 +25,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 using namespace QuorConversions;
@@ -400,6 +401,34 @@ TEST_F(ProbeFileTest, WritesManyTogetherOrNone) {
     file.Write({{L"A", good}, {L"B", good}});
     EXPECT_EQ(File(), std::string(hostFile) +
                           "\n[A]\nVersion=1.0\nConversionType=10\n\n[B]\nVersion=1.0\nConversionType=10\n");
+}
+
+TEST_F(ProbeFileTest, ProbesToWriteCanBeSortedAndHoldNoTemporary) {
+    using Conversion = decltype(ProbeToWrite::conversion);
+    EXPECT_FALSE((std::is_constructible_v<Conversion, CQuorConversion>));
+    EXPECT_TRUE((std::is_constructible_v<Conversion, const CQuorConversion&>));
+    ASSERT_TRUE(std::is_move_assignable_v<ProbeToWrite>);
+    CQuorConversion ohms;
+    ohms.SetConversionType(CONV_OHMS);
+    CQuorConversion volts;
+    volts.SetConversionType(CONV_VOLTS);
+    std::vector<ProbeToWrite> probes{{L"B", volts}, {L"A", ohms}};
+    std::ranges::sort(probes, {}, &ProbeToWrite::section);
+    ProbeFile file(Path(), ProbeFile::Opening::OrNew);
+    file.Write(probes);
+    EXPECT_EQ(File(), "[A]\nVersion=1.0\nConversionType=10\n\n[B]\nVersion=1.0\nConversionType=11\n");
+}
+
+TEST_F(ProbeFileTest, WritesManyStopsAtTheFirstOneThatCannotBeWritten) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    CQuorConversion ohms;
+    ohms.SetConversionType(CONV_OHMS);
+    EXPECT_EQ(ErrorOf([&] {
+                  file.Write({{L"A", ohms}, {L"Instrument", ohms}, {L"b\nc", ohms}});
+              }),
+              L"14 [Instrument] ");
+    EXPECT_EQ(File(), hostFile);
 }
 
 TEST_F(ProbeFileTest, WritesNoTwoProbesIntoOneSection) {
