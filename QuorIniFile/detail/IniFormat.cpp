@@ -145,26 +145,22 @@ IniCommentedValue SplitComment(std::string_view value) {
 
 std::string RewriteLine(std::string_view line, const IniNewValue& value) {
     const std::string_view present = ClassifyLine(line).value;
-    std::string bytes = value.bytes;
-    std::string_view old = SplitComment(present).plain;
-    if (value.isText && old.size() < present.size()) {
-        std::string quoted = InQuotes(value.bytes);
-        const bool isTold = present.starts_with('"') || old == value.bytes;
-        const std::string commented = quoted + ' ' + std::string(SplitComment(present).comment);
-        if (isTold && SplitTextComment(commented).plain == quoted)
-            bytes = std::move(quoted);
-        else
-            old = present;
-    }
+    if (value.isText && value.bytes == present)
+        return std::string(line);
+    const std::string_view old = SplitComment(present).plain;
     const auto start = static_cast<std::size_t>(old.data() - line.data());
-    std::string result(line.substr(0, start));
-    result += bytes;
+    const std::string_view before = line.substr(0, start);
+    std::string tail(line.substr(start + old.size()));
+    std::string bytes = value.bytes;
+    if (value.isText && old.size() < present.size()) {
+        bytes = InQuotes(bytes);
+        std::replace(tail.begin(), tail.end(), '"', '\'');
+    }
     if (!value.comment.empty())
-        return result.append(1, ' ').append(value.comment);
-    const std::string_view tail = line.substr(start + old.size());
-    if (tail.starts_with(';'))
-        result += ' '; // there was no value to keep the comment away from the '='
-    return result.append(tail);
+        tail = ' ' + value.comment;
+    else if (tail.starts_with(';'))
+        tail.insert(0, 1, ' '); // there was no value to keep the comment away from the '='
+    return std::string(before).append(bytes).append(tail);
 }
 
 std::size_t MarkLength(std::string_view text) { return text.starts_with("\xEF\xBB\xBF") ? 3 : 0; }

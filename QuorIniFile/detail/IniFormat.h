@@ -67,16 +67,15 @@ struct IniCommentedValue {
 
 /// What is to stand behind a key.
 struct IniNewValue {
-    std::string bytes;
+    std::string bytes; // of a text as it stands there already, without a comment, or as EncodeText spells it
     bool isText = false;
     std::string comment; // "; remark", takes the place of the comment that stood there; empty: leave it
 };
 
-/// The key line `line` with another value. Everything else of it stays as it was, the comment behind a
-/// number, flag or text in quotes too. A text takes the place of all of a text without quotes, with one
-/// exception: where a comment would begin in it and what stands before that is the new text already
-/// (Version=1.0 ; remark), the new text is put in quotes, which tell it from the comment, and the comment
-/// stays.
+/// The key line `line` with another value. Everything else of it stays as it was, the comment behind the old
+/// value (SplitComment) too. A text above a comment is put in quotes, which tell it from the comment, and
+/// double quotes in the comment become single ones, because no other quote may follow. A text that stands
+/// there already, with all that looks like a comment, changes nothing.
 [[nodiscard]] std::string RewriteLine(std::string_view line, const IniNewValue& value);
 
 /// The line that starts at a place of a text, and where the next one starts.

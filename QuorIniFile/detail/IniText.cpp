@@ -175,11 +175,11 @@ std::string NameFor(IniText& text, std::string_view name) {
     return NameToWrite(DecodeBytes(name), text.Encoding()).value_or(std::string(name));
 }
 
-std::string TextFor(IniText& text, const IniCommentedValue& value) {
-    // Quotes that only told it from a comment may not be needed there.
-    return IsAscii(value.plain) && value.comment.empty()
-               ? std::string(value.plain)
-               : EncodeText(DecodeText(value.plain), text.Encoding());
+std::string TextFor(IniText& text, std::optional<std::string_view> present, std::string_view value) {
+    const std::wstring decoded = DecodeText(value);
+    if (present && DecodeText(*present) == decoded)
+        return std::string(SplitTextComment(*present).plain);
+    return EncodeText(decoded, IsAscii(decoded) ? IniEncoding::Utf8 : text.Encoding());
 }
 
 std::string CommentFor(IniText& text, std::string_view comment, IniEncoding encoding) {
@@ -974,12 +974,15 @@ std::optional<IniConflict> IniText::ApplyChangesTo(IniText& other) {
             // Some of its keys without the others would be half a section.
             if (!there && !isEmpty && !IsWrittenWhole(keys))
                 return IniConflict{IniConflict::Kind::SectionIsGone, std::string(NameInText(section))};
-            const std::string_view bytes = ValueOf(keys, key);
-            const IniCommentedValue parts = key.isText ? SplitTextComment(bytes) : SplitComment(bytes);
-            IniNewValue value{key.isText ? TextFor(other, parts) : std::string(parts.plain), key.isText, {}};
-            if (key.hasComment)
-                value.comment = CommentFor(other, parts.comment, Encoding());
             const std::wstring name = DecodeBytes(NameOf(keys, key));
+            const std::string_view bytes = ValueOf(keys, key);
+            IniNewValue value{{}, key.isText, {}};
+            if (key.isText)
+                value.bytes = TextFor(other, there ? other.FindValue(*there, name) : std::nullopt, bytes);
+            else
+                value.bytes = SplitComment(bytes).plain;
+            if (key.hasComment)
+                value.comment = CommentFor(other, SplitComment(bytes).comment, Encoding());
             const std::string spelling = NameFor(other, NameOf(keys, key));
             if (there)
                 other.Write(*there, name, spelling, value);

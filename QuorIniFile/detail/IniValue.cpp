@@ -78,10 +78,12 @@ private:
             return false;
         if (IsEdge(m_text.front()) || IsEdge(m_text.back()) || m_text.front() == ';' || m_text.front() == '#')
             return true;
+        bool isBehindBlank = false;
         for (std::size_t at = 0; at < m_text.size();) {
             const std::uint32_t code = NextCode(m_text, at);
-            if (code == '"' || NeedsEscape(code))
+            if (code == '"' || NeedsEscape(code) || (code == ';' && isBehindBlank))
                 return true;
+            isBehindBlank = IsEdge(code);
         }
         return false;
     }

@@ -35,9 +35,9 @@ using NumberText = std::array<char, 32>;
 [[nodiscard]] std::optional<bool> ParseBoolean(std::string_view value);
 
 /// Text as it stands, where it reads back so. Otherwise (blanks at an edge, a quote anywhere, ';' or '#' in
-/// front, line breaks and other control characters, characters that the encoding lacks) in double quotes with
-/// the escapes \\ \" \n \r and \u{HEX}. Every std::wstring comes back exactly, even one that is no valid
-/// text.
+/// front, ';' behind a blank, line breaks and other control characters, characters that the encoding lacks)
+/// in double quotes with the escapes \\ \" \n \r and \u{HEX}. Every std::wstring comes back exactly, even one
+/// that is no valid text.
 [[nodiscard]] std::string EncodeText(std::wstring_view text, IniEncoding encoding);
 /// The same for text in units of 16 bits, as wchar_t is on some systems: a pair of surrogates is one
 /// character.

@@ -94,9 +94,34 @@ TEST(IniStoreLayout, ACommentOfTheCallerTakesThePlaceOfTheOldOne) {
               "C\ni = 4 ; four\nk=5 ; kept\nnew=6 ; six\n");
 }
 
-TEST(IniStoreLayout, TextTakesThePlaceOfAllThatStoodThere) {
-    EXPECT_EQ(After("[A]\nt = 5 ; ohms\n", [](IniStore& store) { store.WriteString(L"t", L"six"); }),
-              "[A]\nt = six\n");
+TEST(IniStoreLayout, ACommentBehindATextStaysWhenAnotherTextIsWritten) {
+    EXPECT_EQ(After("[A]\nt = 5 ; ohms\nVersion=0.9 ; from the certificate\nColumns=Channel ; Probe\n",
+                    [](IniStore& store) {
+                        store.WriteString(L"t", L"six");
+                        store.WriteString(L"Version", L"1.0");
+                        store.WriteString(L"Columns", L"Time");
+                        std::wstring version;
+                        EXPECT_TRUE(store.ReadString(L"Version", version));
+                        EXPECT_EQ(version, L"1.0");
+                    }),
+              "[A]\nt = \"six\" ; ohms\nVersion=\"1.0\" ; from the certificate\nColumns=\"Time\" ; Probe\n");
+}
+
+TEST(IniStoreLayout, NoPartOfATextThatWasWrittenBecomesAComment) {
+    EXPECT_EQ(After("[A]\na=x\nb=\"y\"\n",
+                    [](IniStore& store) {
+                        for (const wchar_t* const text : {L"Channel ; Probe", L"Time\t;", L"Time;Probe"}) {
+                            for (const wchar_t* const key : {L"a", L"b", L"c"})
+                                store.WriteString(key, text);
+                            std::wstring read;
+                            EXPECT_TRUE(store.ReadString(L"a", read));
+                            EXPECT_EQ(read, text);
+                        }
+                        store.WriteString(L"c", L"Channel ; Probe");
+                        store.WriteString(L"b", L"Channel ; Probe");
+                        store.WriteString(L"b", L"Time");
+                    }),
+              "[A]\na=Time;Probe\nb=Time\nc=\"Channel ; Probe\"\n");
 }
 
 TEST(IniStoreLayout, ACommentBehindATextThatIsWrittenAgainOrStandsInQuotesStays) {
@@ -121,14 +146,13 @@ TEST(IniStoreLayout, ACommentBehindATextThatIsWrittenAgainOrStandsInQuotesStays)
     }
 }
 
-TEST(IniStoreLayout, WhatTheHostMayHaveMeantAsTextNeverBecomesAComment) {
-    EXPECT_EQ(After("[A]\na=Channel ; Probe\nb=x;y\nc=\"x\" ; \"y\"\n",
+TEST(IniStoreLayout, ASemicolonRightBehindACharacterOrBetweenTextsInQuotesBeginsNoComment) {
+    EXPECT_EQ(After("[A]\nb=x;y\nc=\"x\" ; \"y\"\n",
                     [](IniStore& store) {
-                        store.WriteString(L"a", L"Time");
                         store.WriteString(L"b", L"x");
                         store.WriteString(L"c", L"z");
                     }),
-              "[A]\na=Time\nb=x\nc=z\n");
+              "[A]\nb=x\nc=z\n");
 }
 
 TEST(IniStoreLayout, ANewKeyStandsBehindTheLastOneOfItsSection) {

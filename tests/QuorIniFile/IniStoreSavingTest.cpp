@@ -255,7 +255,7 @@ TEST_F(IniStoreSaving, WhatIsHeldIsSpelledInTheEncodingThatTheFileHasWhenItIsSav
     File(utf8);
     store->Release();
     EXPECT_EQ(File(), "; K\xC3\xB6ln\n[A]\nx=20 \xC2\xB0"
-                      "C\n\xC3\x96l=\"\\u{2126}\"\nn=1 ; at 20 \xC2\xB0\n\n[K\xC3\xBChlung]\ny=1\n");
+                      "C\n\xC3\x96l=\xE2\x84\xA6\nn=1 ; at 20 \xC2\xB0\n\n[K\xC3\xBChlung]\ny=1\n");
 }
 
 TEST_F(IniStoreSaving, AfterAnotherProgramHasWrittenTheSameNothingIsSaved) {

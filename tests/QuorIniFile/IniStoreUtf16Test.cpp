@@ -99,7 +99,7 @@ TEST_P(IniStoreUtf16, IsKeptByteForByteOutsideTheLineThatIsWritten) {
     Put(L"x", 2);
     EXPECT_EQ(File(), Utf16(before + u" x\t=  2  ; one\r\n" + after));
     store.WriteString(L"X", L"20 \u00B0C; \U0001F321");
-    EXPECT_EQ(File(), Utf16(before + u" x\t=  20 \u00B0C; \U0001F321\r\n" + after));
+    EXPECT_EQ(File(), Utf16(before + u" x\t=  \"20 \u00B0C; \U0001F321\"  ; one\r\n" + after));
     store.WriteDouble(L"x", 0.1, L"at 20 \u00B0, \u2126");
     EXPECT_EQ(File(), Utf16(before + u" x\t=  0.1 ; at 20 \u00B0, \u2126\r\n" + after));
 }

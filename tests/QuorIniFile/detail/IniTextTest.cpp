@@ -189,7 +189,7 @@ TEST(IniText, AKeyMayBeWrittenAgainAndAgain) {
     EXPECT_EQ(Merged(text), "[A]\nx = 3 ; Ohm\ny=b\n");
     EXPECT_EQ(ValueOf(text, "A", "x"), "3 ; Ohm");
     Write(text, "A", "x", {"c", true, {}});
-    EXPECT_EQ(Merged(text), "[A]\nx = c\ny=b\n");
+    EXPECT_EQ(Merged(text), "[A]\nx = \"c\" ; Ohm\ny=b\n");
 }
 
 TEST(IniText, ALargeSectionIsSearchedAndChangedLikeASmallOne) {
@@ -234,8 +234,27 @@ TEST(IniText, ACommentBehindATextIsThatOfTheTextThatSomebodyElseHasChanged) {
     const std::pair<const char*, const char*> cases[] = {
         {"[A]\nVersion=1.0 ; theirs\nname=\"a\" ; theirs\n",
          "[A]\nVersion=\"1.0\" ; theirs\nname=\"b\" ; theirs\n"},
+        {"[A]\nVersion=0.9 ; theirs\nname=c ; theirs\n",
+         "[A]\nVersion=\"1.0\" ; theirs\nname=\"b\" ; theirs\n"},
         {"[A]\nVersion=1.0\nname=a\n", "[A]\nVersion=1.0\nname=b\n"},
         {"", "[A]\nVersion=1.0\nname=b\n"},
+    };
+    for (const auto& [before, after] : cases) {
+        IniText theirs(before);
+        EXPECT_FALSE(ours.ApplyChangesTo(theirs));
+        EXPECT_EQ(Merged(theirs), after);
+    }
+}
+
+TEST(IniText, ATextThatStandsThereStaysAsItIsAndIsPutInQuotesInATextThatSomebodyElseHasChanged) {
+    IniText ours("[A]\nColumns=a ; b\n");
+    Write(ours, "A", "Columns", {"a ; b", true, {}});
+    EXPECT_EQ(Merged(ours), "[A]\nColumns=a ; b\n");
+    const std::pair<const char*, const char*> cases[] = {
+        {"[A]\nColumns = a ; b\n", "[A]\nColumns = a ; b\n"},
+        {"[A]\nColumns=\"a ; b\" ; theirs\n", "[A]\nColumns=\"a ; b\" ; theirs\n"},
+        {"[A]\nColumns=c\n", "[A]\nColumns=\"a ; b\"\n"},
+        {"", "[A]\nColumns=\"a ; b\"\n"},
     };
     for (const auto& [before, after] : cases) {
         IniText theirs(before);
@@ -720,6 +739,6 @@ TEST(IniText, AddedTextsAndNumbersAreToldApartWhereSomebodyElseHasCommentedThem)
     IniText theirs(
         "[A]\nnumber=2 ; ohms\ntext=2.0 ; theirs\nboth=2\n[B]\nnumber=2 ; ohms\ntext=1.0 ; theirs\n");
     EXPECT_FALSE(ours.ApplyChangesTo(theirs));
-    EXPECT_EQ(Merged(theirs), "[A]\nnumber=1.0 ; ohms\ntext=\"2.0\" ; theirs\nboth=a ; b\n"
-                              "[B]\nnumber=1.0 ; ohms\ntext=\"1.0\" ; theirs\nboth=a ; b\n");
+    EXPECT_EQ(Merged(theirs), "[A]\nnumber=1.0 ; ohms\ntext=\"2.0\" ; theirs\nboth=\"a ; b\"\n"
+                              "[B]\nnumber=1.0 ; ohms\ntext=\"1.0\" ; theirs\nboth=\"a ; b\"\n");
 }
