@@ -66,7 +66,16 @@ void ClaimLines(const PlainIni& before, const Lines& expected, const PlainIni& a
     std::size_t added = 0;
     std::size_t blanks = 0;
     const auto countAdded = [&](const PlainIni::Line& line) {
-        ++(line.parsed.kind == IniLineKind::Blank ? blanks : added);
+        const bool isBelowBackslash = &line != &after.Lines().front() &&
+                                      (&line)[-1].parsed.kind != IniLineKind::Section &&
+                                      (&line)[-1].content.ends_with('\\');
+        Claim(!isBelowBackslash || line.parsed.kind != IniLineKind::Key,
+              "no new key continues a value that ends in a backslash");
+        const bool isBlank = line.parsed.kind == IniLineKind::Blank;
+        const bool keepsKeyApart = isBlank && isBelowBackslash && &line != &after.Lines().back() &&
+                                   (&line)[1].parsed.kind == IniLineKind::Key;
+        if (!keepsKeyApart)
+            ++(isBlank ? blanks : added);
     };
     const bool hasLastEnd = before.Lines().empty() || !before.Lines().back().end.empty();
     auto next = after.Lines().begin();

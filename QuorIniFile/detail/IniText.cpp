@@ -167,6 +167,25 @@ std::size_t AppendLine(std::string& text, std::size_t start, std::string_view li
     return text.size() - line.size() - end.size();
 }
 
+/// Whether the last line of `text` is one of a value and ends in a backslash.
+bool EndsInBackslash(std::string_view text, std::size_t start) {
+    if (text.ends_with('\n'))
+        text.remove_suffix(text.ends_with("\r\n") ? 2 : 1);
+    if (!text.ends_with('\\'))
+        return false;
+    const std::size_t above = text.rfind('\n');
+    return !IsHeader(ClassifyLine(text.substr(above == npos ? start : above + 1)).kind);
+}
+
+/// The same for a key line. Below a value that ends in a backslash it gets a blank line above: programs that
+/// continue such a value on the next line would take the key for a part of it.
+std::size_t AppendKeyLine(std::string& text, std::size_t start, std::string_view line) {
+    if (!EndsInBackslash(text, start))
+        return AppendLine(text, start, line);
+    const std::string_view blank = LineEndOf(text);
+    return AppendLine(text, start, std::string(blank).append(line)) + blank.size();
+}
+
 // What was spelled for another text is spelled anew for this one, which may have another encoding.
 
 std::string NameFor(IniText& text, std::string_view name) {
@@ -754,7 +773,7 @@ void IniText::AppendKey(Keys& keys, std::string_view spelling, const IniNewValue
     const std::size_t length = m_text.size();
     try {
         Key key = ComposeLine(keys, spelling, value);
-        const std::size_t start = AppendLine(m_text, MarkLength(m_text), m_line);
+        const std::size_t start = AppendKeyLine(m_text, MarkLength(m_text), m_line);
         if (start >= none)
             throw std::bad_alloc();
         key.start = static_cast<std::uint32_t>(start);
@@ -891,7 +910,7 @@ std::optional<std::string> IniText::ComposedText() const {
     const std::vector<Patch> patches = Patches();
     std::size_t size = m_text.size();
     for (const Patch& patch : patches)
-        size += patch.bytes.size() + 2; // with a line end
+        size += patch.bytes.size() + 4; // with a line end, and that of a blank line above
     std::string text;
     text.reserve(size);
     const std::size_t mark = MarkLength(m_text);
@@ -900,7 +919,7 @@ std::optional<std::string> IniText::ComposedText() const {
         for (; patch != patches.end() && patch->end <= to; ++patch) {
             text.append(m_text, from, patch->start - from);
             if (patch->isLine)
-                AppendLine(text, mark, patch->bytes);
+                AppendKeyLine(text, mark, patch->bytes);
             else
                 text.append(patch->bytes);
             from = patch->end;

@@ -57,7 +57,8 @@ public:
     [[nodiscard]] std::optional<std::string_view> FindValue(Section section, std::wstring_view key);
 
     /// Puts `value` behind `key`. The first key line of that name is rewritten; without one, a line is added
-    /// behind the last key of the section, with `spelling` as the bytes of the key.
+    /// behind the last key of the section, with `spelling` as the bytes of the key; below a blank line where
+    /// the line above ends in a backslash.
     void Write(Section section, std::wstring_view key, std::string_view spelling, const IniNewValue& value);
     /// Adds a section with its first key at the end, below a blank line of its own. `name` is spelled as it
     /// will stand in the text, and no section of that name is there. One that the text had when it was read

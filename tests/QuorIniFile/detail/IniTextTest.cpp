@@ -118,8 +118,31 @@ TEST(IniText, ANewKeyFollowsTheLineBelowALastValueThatEndsInABackslash) {
     EXPECT_EQ(With("[A]\r\nx=1\\\r\n\r\n[B]\r\n", "A", "y", "2"), "[A]\r\nx=1\\\r\n\r\ny=2\r\n[B]\r\n")
         << "right below the backslash it would become a part of the value";
     EXPECT_EQ(With("[A]\nx=1\\\n; remark\n2\n", "A", "y", "3"), "[A]\nx=1\\\n; remark\n2\ny=3\n");
-    EXPECT_EQ(With("[A]\nx=1\\\n  [B]\n", "A", "y", "2"), "[A]\nx=1\\\ny=2\n  [B]\n")
+    EXPECT_EQ(With("[A]\nx=1\\\n  [B]\n", "A", "y", "2"), "[A]\nx=1\\\n\ny=2\n  [B]\n")
         << "a header is a header wherever it stands";
+}
+
+TEST(IniText, ANewKeyBelowALineThatEndsInABackslashGetsABlankLineAbove) {
+    EXPECT_EQ(With("[A]\nFolder=C:\\Data\\\n[B]\n", "A", "New", "7"),
+              "[A]\nFolder=C:\\Data\\\n\nNew=7\n[B]\n");
+    EXPECT_EQ(With("[A]\r\nx=C:\\\r\n", "A", "y", "2"), "[A]\r\nx=C:\\\r\n\r\ny=2\r\n");
+    EXPECT_EQ(With("[A]\r\nx=C:\\", "A", "y", "2"), "[A]\r\nx=C:\\\r\n\r\ny=2")
+        << "also where the last line has no end, which stays so";
+    EXPECT_EQ(With("[A]\nx=1 ; C:\\\n; remark\n", "A", "y", "2"), "[A]\nx=1 ; C:\\\n\ny=2\n; remark\n");
+    EXPECT_EQ(With("\xEF\xBB\xBF[A] ; C:\\\n", "A", "y", "2"), "\xEF\xBB\xBF[A] ; C:\\\ny=2\n")
+        << "a header is no value";
+}
+
+TEST(IniText, AKeyBelowAWrittenTextThatEndsInABackslashGetsABlankLineAboveToo) {
+    IniText text("[A]\nx=C:\\\n");
+    Write(text, "A", "y", {"D:\\", true, {}});
+    Write(text, "A", "z", {"1", false, {}});
+    Write(text, "B", "y", {"E:\\", true, {}});
+    Write(text, "B", "z", {"2", false, {}});
+    EXPECT_EQ(Merged(text), "[A]\nx=C:\\\n\ny=D:\\\n\nz=1\n\n[B]\ny=E:\\\n\nz=2\n");
+    EXPECT_EQ(ValueOf(text, "B", "z"), "2");
+    Write(text, "A", "x", {"1", false, {}});
+    EXPECT_EQ(Merged(text), "[A]\nx=1\ny=D:\\\n\nz=1\n\n[B]\ny=E:\\\n\nz=2\n");
 }
 
 TEST(IniText, ANewKeyDoesNotFollowLinesThatContinueNothing) {
