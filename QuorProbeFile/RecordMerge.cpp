@@ -76,7 +76,8 @@ std::vector<RecordConflict> RecordMerge::Conflicts() const {
 }
 
 void RecordMerge::WriteChanges() {
-    Write(m_versions);
+    if (!m_changes.empty())
+        Write(m_versions);
     Write(m_changes);
 }
 

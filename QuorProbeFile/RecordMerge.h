@@ -34,8 +34,8 @@ struct RecordConflict {
 /// conflicts and says so; all of it is done inside one edit of the store, so that the file stays as it is
 /// meanwhile. Reads read what the file holds now.
 ///
-/// "Version" is no value of the record: it never makes a conflict, and is written where it was missing or
-/// another one and nobody has changed it.
+/// "Version" is no value of the record: it never makes a conflict, and is written along with a change, where
+/// it was missing or another one and nobody has changed it.
 class QUORPROBEFILE_EXPORT RecordMerge final : public QuorIniFile::INIFile {
 public:
     /// The record was read from `before`, which still gives what it gave then, and stood there in the section
@@ -54,7 +54,7 @@ public:
     /// those that we know, then.
     [[nodiscard]] bool HasAnotherType() const { return m_typeConflict.has_value(); }
 
-    /// Writes the changes.
+    /// Writes the changes; where there are none, nothing.
     void WriteChanges();
     /// Writes the changes, and again what others have removed of the record.
     void WriteChangesAndRemoved();

@@ -169,16 +169,29 @@ TEST_F(RecordMergeTest, ARecordThatIsGoneAndWasNotChangedIsNotBegunAgain) {
     EXPECT_EQ(File(), "[Other]\n");
 }
 
-TEST_F(RecordMergeTest, AVersionThatIsMissingOrAnotherOneIsWrittenAndNeverAConflict) {
+TEST_F(RecordMergeTest, WhereNothingHasChangedNotAByteIsWritten) {
+    for (const char* const version : {"", "Version=0.9\n", "Version=1.0 ; from the certificate\n"}) {
+        const std::string text = Replaced(record, "Version=1.0\n", version);
+        before = std::make_shared<IniStore>();
+        file = std::make_shared<IniStore>();
+        Read(text);
+        EXPECT_EQ(Conflicts(), Lines{});
+        merge->WriteChanges();
+        EXPECT_EQ(File(), text);
+    }
+}
+
+TEST_F(RecordMergeTest, AVersionThatIsMissingOrAnotherOneIsWrittenWithAChangeAndNeverAConflict) {
     const std::string missing =
         Replaced(Replaced(record, "Version=1.0\n", ""), "Version=1.0\n", "Version=0.9\n");
     Read(missing);
+    Cvd().SetCoefficients(CVD_R0, 100.5);
     EXPECT_EQ(Conflicts(), Lines{});
     merge->WriteChanges();
-    EXPECT_EQ(File(), Replaced(Replaced(missing, "ConversionType=2\n", "ConversionType=2\nVersion=1.0\n"),
+    const std::string changed = Replaced(missing, "100.0\n", "100.5\n");
+    EXPECT_EQ(File(), Replaced(Replaced(changed, "ConversionType=2\n", "ConversionType=2\nVersion=1.0\n"),
                                "Version=0.9", "Version=1.0"));
 
-    Cvd().SetCoefficients(CVD_R0, 100.5);
     const std::string theirs = Replaced(missing, "Version=0.9", "Version=7");
     Others(theirs);
     file->Reload();
