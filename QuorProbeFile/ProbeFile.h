@@ -128,7 +128,13 @@ public:
     /// or another one on the same file - and nothing else: what other programs have written about it
     /// meanwhile stays, and so do keys that are missing or cannot be read, as long as the conversion holds
     /// what Read has given it for them. Keys that they have changed too, to other values, are returned, and
-    /// nothing is written then. What counts as read is the text that `before` holds when this is called.
+    /// nothing is written then.
+    ///
+    /// What counts as read is the text that `before` holds when this is called. This object itself serves for
+    /// one call after each Read: every call that writes loads the file anew, and so does this one when it
+    /// finds conflicts; what others had saved by then counts as read in the next call. Who writes several
+    /// times, or asks a person what to do with conflicts, keeps another object, or reads again.
+    ///
     /// Raises PROBE_NO_SUCH_SECTION, PROBE_NO_RECORD and PROBE_TYPE_UNREADABLE as Read of `before` does,
     /// PROBE_OF_ANOTHER_TYPE when the conversion is of another type than the record in `before`, which only
     /// Write can replace, and PROBE_CANNOT_BE_WRITTEN.

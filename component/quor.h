@@ -615,10 +615,13 @@ QUOR_API int32_t quor_conversion_put_ConversionType(quor_object conversion, quor
 QUOR_API int32_t quor_conversion_ConversionName(quor_object conversion, int32_t Value, quor_text* result);
 /* Shows the settings dialog. False when the user cancelled, or it failed, which was reported. */
 QUOR_API int32_t quor_conversion_Edit(quor_object conversion, quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
+/* Writes the record into the section; without INIFile into the file fname. A failure is told to the user alone, by
+ * show_message of the platform; the call itself raises no error, as Write of ProbeFile does. */
 QUOR_API int32_t quor_conversion_WriteToFile(quor_object conversion, quor_object* INIFile, quor_text fname,
                                              quor_text secname);
-/* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
+/* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. Beware: a
+ * section that is not there, or says no type, makes the conversion an ITS-90 one, and its coefficients are lost.
+ * Read of ProbeFile refuses such a section. */
 QUOR_API int32_t quor_conversion_ReadFromFile(quor_object conversion, quor_object* INIFile, quor_text fname,
                                               quor_text secname, quor_bool* result);
 
@@ -657,7 +660,8 @@ QUOR_API int32_t quor_its90_OpenFile(quor_object its90, int32_t hwnd, quor_text 
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_its90_SaveFileAs(quor_object its90, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
                                        quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
+/* Writes the record into the section; without INIFile into the file fname. A failure is told to the user alone, by
+ * show_message of the platform; the call itself raises no error, as Write of ProbeFile does. */
 QUOR_API int32_t quor_its90_WriteToFile(quor_object its90, quor_object* INIFile, quor_text fname, quor_text secname);
 /* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_its90_ReadFromFile(quor_object its90, quor_object* INIFile, quor_text fname, quor_text secname,
@@ -704,7 +708,8 @@ QUOR_API int32_t quor_its90_low_range_get_ValueFormat(quor_object its90_low_rang
 QUOR_API int32_t quor_its90_low_range_put_ValueFormat(quor_object its90_low_range, quor_text value);
 /* Fills a list with "<none>" and the ranges, each with its number as item data. */
 QUOR_API int32_t quor_its90_low_range_FillRangeCombo(quor_object its90_low_range, quor_object ctrl);
-/* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
+/* Writes the record into the section; without INIFile into the file fname. A failure is told to the user alone, by
+ * show_message of the platform; the call itself raises no error, as Write of ProbeFile does. */
 QUOR_API int32_t quor_its90_low_range_WriteToFile(quor_object its90_low_range, quor_object* INIFile, quor_text fname,
                                                   quor_text secname);
 /* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
@@ -752,7 +757,8 @@ QUOR_API int32_t quor_its90_high_range_get_ValueFormat(quor_object its90_high_ra
 QUOR_API int32_t quor_its90_high_range_put_ValueFormat(quor_object its90_high_range, quor_text value);
 /* Fills a list with "<none>" and the ranges, each with its number as item data. */
 QUOR_API int32_t quor_its90_high_range_FillRangeCombo(quor_object its90_high_range, quor_object ctrl);
-/* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
+/* Writes the record into the section; without INIFile into the file fname. A failure is told to the user alone, by
+ * show_message of the platform; the call itself raises no error, as Write of ProbeFile does. */
 QUOR_API int32_t quor_its90_high_range_WriteToFile(quor_object its90_high_range, quor_object* INIFile,
                                                    quor_text fname, quor_text secname);
 /* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
@@ -802,7 +808,8 @@ QUOR_API int32_t quor_ipts68_OpenFile(quor_object ipts68, int32_t hwnd, quor_tex
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_ipts68_SaveFileAs(quor_object ipts68, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
                                         quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
+/* Writes the record into the section; without INIFile into the file fname. A failure is told to the user alone, by
+ * show_message of the platform; the call itself raises no error, as Write of ProbeFile does. */
 QUOR_API int32_t quor_ipts68_WriteToFile(quor_object ipts68, quor_object* INIFile, quor_text fname,
                                          quor_text secname);
 /* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
@@ -848,7 +855,8 @@ QUOR_API int32_t quor_cvd_OpenFile(quor_object cvd, int32_t hwnd, quor_text File
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_cvd_SaveFileAs(quor_object cvd, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
                                      quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
+/* Writes the record into the section; without INIFile into the file fname. A failure is told to the user alone, by
+ * show_message of the platform; the call itself raises no error, as Write of ProbeFile does. */
 QUOR_API int32_t quor_cvd_WriteToFile(quor_object cvd, quor_object* INIFile, quor_text fname, quor_text secname);
 /* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_cvd_ReadFromFile(quor_object cvd, quor_object* INIFile, quor_text fname, quor_text secname,
@@ -891,7 +899,8 @@ QUOR_API int32_t quor_pt100_OpenFile(quor_object pt100, int32_t hwnd, quor_text 
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_pt100_SaveFileAs(quor_object pt100, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
                                        quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
+/* Writes the record into the section; without INIFile into the file fname. A failure is told to the user alone, by
+ * show_message of the platform; the call itself raises no error, as Write of ProbeFile does. */
 QUOR_API int32_t quor_pt100_WriteToFile(quor_object pt100, quor_object* INIFile, quor_text fname, quor_text secname);
 /* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_pt100_ReadFromFile(quor_object pt100, quor_object* INIFile, quor_text fname, quor_text secname,
@@ -930,7 +939,8 @@ QUOR_API int32_t quor_htprt_OpenFile(quor_object htprt, int32_t hwnd, quor_text 
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_htprt_SaveFileAs(quor_object htprt, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
                                        quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
+/* Writes the record into the section; without INIFile into the file fname. A failure is told to the user alone, by
+ * show_message of the platform; the call itself raises no error, as Write of ProbeFile does. */
 QUOR_API int32_t quor_htprt_WriteToFile(quor_object htprt, quor_object* INIFile, quor_text fname, quor_text secname);
 /* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_htprt_ReadFromFile(quor_object htprt, quor_object* INIFile, quor_text fname, quor_text secname,
@@ -967,7 +977,8 @@ QUOR_API int32_t quor_wt90_OpenFile(quor_object wt90, int32_t hwnd, quor_text Fi
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_wt90_SaveFileAs(quor_object wt90, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
                                       quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
+/* Writes the record into the section; without INIFile into the file fname. A failure is told to the user alone, by
+ * show_message of the platform; the call itself raises no error, as Write of ProbeFile does. */
 QUOR_API int32_t quor_wt90_WriteToFile(quor_object wt90, quor_object* INIFile, quor_text fname, quor_text secname);
 /* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
 QUOR_API int32_t quor_wt90_ReadFromFile(quor_object wt90, quor_object* INIFile, quor_text fname, quor_text secname,
@@ -1013,7 +1024,8 @@ QUOR_API int32_t quor_thermistor_OpenFile(quor_object thermistor, int32_t hwnd, 
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_thermistor_SaveFileAs(quor_object thermistor, int32_t hwnd, quor_text Filename,
                                             quor_text* Filename_out, quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
+/* Writes the record into the section; without INIFile into the file fname. A failure is told to the user alone, by
+ * show_message of the platform; the call itself raises no error, as Write of ProbeFile does. */
 QUOR_API int32_t quor_thermistor_WriteToFile(quor_object thermistor, quor_object* INIFile, quor_text fname,
                                              quor_text secname);
 /* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
@@ -1062,7 +1074,8 @@ QUOR_API int32_t quor_polynomial_OpenFile(quor_object polynomial, int32_t hwnd, 
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_polynomial_SaveFileAs(quor_object polynomial, int32_t hwnd, quor_text Filename,
                                             quor_text* Filename_out, quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
+/* Writes the record into the section; without INIFile into the file fname. A failure is told to the user alone, by
+ * show_message of the platform; the call itself raises no error, as Write of ProbeFile does. */
 QUOR_API int32_t quor_polynomial_WriteToFile(quor_object polynomial, quor_object* INIFile, quor_text fname,
                                              quor_text secname);
 /* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
@@ -1117,7 +1130,8 @@ QUOR_API int32_t quor_tc_polynomial_OpenFile(quor_object tc_polynomial, int32_t 
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_tc_polynomial_SaveFileAs(quor_object tc_polynomial, int32_t hwnd, quor_text Filename,
                                                quor_text* Filename_out, quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
+/* Writes the record into the section; without INIFile into the file fname. A failure is told to the user alone, by
+ * show_message of the platform; the call itself raises no error, as Write of ProbeFile does. */
 QUOR_API int32_t quor_tc_polynomial_WriteToFile(quor_object tc_polynomial, quor_object* INIFile, quor_text fname,
                                                 quor_text secname);
 /* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
@@ -1173,7 +1187,8 @@ QUOR_API int32_t quor_tc_table_OpenFile(quor_object tc_table, int32_t hwnd, quor
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_tc_table_SaveFileAs(quor_object tc_table, int32_t hwnd, quor_text Filename,
                                           quor_text* Filename_out, quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
+/* Writes the record into the section; without INIFile into the file fname. A failure is told to the user alone, by
+ * show_message of the platform; the call itself raises no error, as Write of ProbeFile does. */
 QUOR_API int32_t quor_tc_table_WriteToFile(quor_object tc_table, quor_object* INIFile, quor_text fname,
                                            quor_text secname);
 /* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
@@ -1246,7 +1261,8 @@ QUOR_API int32_t quor_tc_typex_OpenFile(quor_object tc_typex, int32_t hwnd, quor
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_tc_typex_SaveFileAs(quor_object tc_typex, int32_t hwnd, quor_text Filename,
                                           quor_text* Filename_out, quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
+/* Writes the record into the section; without INIFile into the file fname. A failure is told to the user alone, by
+ * show_message of the platform; the call itself raises no error, as Write of ProbeFile does. */
 QUOR_API int32_t quor_tc_typex_WriteToFile(quor_object tc_typex, quor_object* INIFile, quor_text fname,
                                            quor_text secname);
 /* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
@@ -1297,7 +1313,8 @@ QUOR_API int32_t quor_tc_typepoly_OpenFile(quor_object tc_typepoly, int32_t hwnd
 /* Asks for a file and writes a settings file. False when cancelled. */
 QUOR_API int32_t quor_tc_typepoly_SaveFileAs(quor_object tc_typepoly, int32_t hwnd, quor_text Filename,
                                              quor_text* Filename_out, quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. Failures are reported. */
+/* Writes the record into the section; without INIFile into the file fname. A failure is told to the user alone, by
+ * show_message of the platform; the call itself raises no error, as Write of ProbeFile does. */
 QUOR_API int32_t quor_tc_typepoly_WriteToFile(quor_object tc_typepoly, quor_object* INIFile, quor_text fname,
                                               quor_text secname);
 /* Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told. */
@@ -1530,7 +1547,8 @@ QUOR_API int32_t quor_probe_file_get_Messages(quor_object probe_file, int32_t In
 QUOR_API int32_t quor_probe_file_Write(quor_object probe_file, quor_text Section, quor_object Conversion);
 /* Writes the values that differ from those in Before, the file object that the probe was read from: this one, or
  * another. What other programs have written beside them stays. False when they have changed the same values: there
- * are conflicts, and nothing is written. */
+ * are conflicts, and nothing is written. This object itself serves for one call after each Read, because every
+ * call that writes loads the file anew, as one that finds conflicts does; for more keep another object. */
 QUOR_API int32_t quor_probe_file_WriteChanges(quor_object probe_file, quor_text Section, quor_object Conversion,
                                               quor_object Before, quor_bool* result);
 /* How many values others have changed, too, as the last WriteChanges or Release has found. */

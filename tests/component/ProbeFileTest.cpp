@@ -217,6 +217,35 @@ TEST_F(ProbeFileFromC, WritesNothingOfABracketInWhichOneThingFails) {
     EXPECT_EQ(File(), hostFile);
 }
 
+TEST_F(ProbeFileFromC, RefusesASectionThatCostsAFacadeItsCoefficientsWhenItReadsByItself) {
+    const Handle file = Open();
+    const Handle conversion = Read(file);
+    std::int16_t whole = -1;
+    EXPECT_EQ(quor_probe_file_Read(file, Text("Z"), conversion, &whole), 75);
+    EXPECT_EQ(ErrorCode(file), QUOR_PROBE_NO_SUCH_SECTION);
+    quor_EQuorConversionType type = 0;
+    ASSERT_EQ(quor_conversion_get_ConversionType(conversion, &type), 0);
+    EXPECT_EQ(type, QUOR_CONV_CVD);
+
+    testing::internal::CaptureStderr();
+    ASSERT_EQ(quor_conversion_ReadFromFile(conversion, nullptr, Text(Path()), Text("Z"), &whole), 0);
+    EXPECT_TRUE(testing::internal::GetCapturedStderr().starts_with(
+        "Quor Scientific: Cannot read the selected settings file because the file version is incorrect."));
+    EXPECT_EQ(whole, 0);
+    ASSERT_EQ(quor_conversion_get_ConversionType(conversion, &type), 0);
+    EXPECT_EQ(type, QUOR_CONV_ITS90);
+}
+
+TEST_F(ProbeFileFromC, AWriteThatFailsIsAnErrorOfProbeFileAndAMessageOfAFacade) {
+    const Handle file = Open();
+    const Handle conversion = Read(file);
+    ASSERT_EQ(quor_probe_file_SaveAs(file, Text(Path("no folder/a.ini"))), 76);
+    testing::internal::CaptureStderr();
+    ASSERT_EQ(quor_conversion_WriteToFile(conversion, nullptr, Text(Path("no folder/a.ini")), Text("P")), 0);
+    EXPECT_TRUE(testing::internal::GetCapturedStderr().starts_with(
+        "Quor Scientific: An error occurred while attempting to write settings."));
+}
+
 TEST_F(ProbeFileFromC, LeavesWhatOthersHaveChangedAndTellsConflicts) {
     const Handle file = Open();
     const Handle conversion = Read(file);

@@ -380,12 +380,15 @@ class CQuorConversion(Object):
         return result.value != 0
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. Failures are reported."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
+        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_conversion_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told."""
+        """Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told.
+        Beware: a section that is not there, or says no type, makes the conversion an ITS-90 one, and its
+        coefficients are lost. Read of ProbeFile refuses such a section."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_conversion_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -505,7 +508,8 @@ class CQuorITS90(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. Failures are reported."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
+        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_its90_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
@@ -651,7 +655,8 @@ class CQuorITS90LowRange(Object):
             check(_library.quor_its90_low_range_FillRangeCombo(self._handle, ctrl_handle))
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. Failures are reported."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
+        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_its90_low_range_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
@@ -797,7 +802,8 @@ class CQuorITS90HighRange(Object):
             check(_library.quor_its90_high_range_FillRangeCombo(self._handle, ctrl_handle))
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. Failures are reported."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
+        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_its90_high_range_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
@@ -946,7 +952,8 @@ class CQuorIPTS68(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. Failures are reported."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
+        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_ipts68_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
@@ -1083,7 +1090,8 @@ class CQuorCVD(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. Failures are reported."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
+        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_cvd_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
@@ -1215,7 +1223,8 @@ class CQuorPT100(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. Failures are reported."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
+        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_pt100_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
@@ -1331,7 +1340,8 @@ class CQuorHTPRT(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. Failures are reported."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
+        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_htprt_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
@@ -1442,7 +1452,8 @@ class CQuorWT90(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. Failures are reported."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
+        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_wt90_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
@@ -1576,7 +1587,8 @@ class CQuorThermistor(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. Failures are reported."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
+        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_thermistor_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
@@ -1718,7 +1730,8 @@ class CQuorPolynomial(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. Failures are reported."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
+        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_polynomial_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
@@ -1883,7 +1896,8 @@ class CQuorTCPolynomial(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. Failures are reported."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
+        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_polynomial_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
@@ -2052,7 +2066,8 @@ class CQuorTCTable(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. Failures are reported."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
+        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_table_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
@@ -2275,7 +2290,8 @@ class CQuorTCTypeX(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. Failures are reported."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
+        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_typex_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
@@ -2424,7 +2440,8 @@ class CQuorTCTypePoly(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. Failures are reported."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
+        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_typepoly_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
@@ -3077,7 +3094,9 @@ class ProbeFile(Object):
     def WriteChanges(self, Section, Conversion, Before):
         """Writes the values that differ from those in Before, the file object that the probe was read from: this
         one, or another. What other programs have written beside them stays. False when they have changed the
-        same values: there are conflicts, and nothing is written."""
+        same values: there are conflicts, and nothing is written. This object itself serves for one call after
+        each Read, because every call that writes loads the file anew, as one that finds conflicts does; for more
+        keep another object."""
         result = c_int16()
         with lent(Conversion) as Conversion_handle, lent(Before) as Before_handle:
             check(_library.quor_probe_file_WriteChanges(self._handle, text(Section), Conversion_handle, Before_handle, byref(result)))
