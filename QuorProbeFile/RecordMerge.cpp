@@ -3,7 +3,9 @@
 #include "QuorConversions/core/RecordNames.h"
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/detail/KeptValues.h"
+#include "QuorProbeFile/detail/RecordMeaning.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace QuorProbeFile {
@@ -33,60 +35,81 @@ void RecordMerge::SetSection(std::wstring_view section) {
     m_file->SetSection(section);
 }
 
-void RecordMerge::Take(std::wstring_view key, Value ours) {
-    Change change{m_section, std::wstring(key), std::move(ours)};
-    // Both sections are selected each time: the two may be one object. The names of nested sections begin
-    // with that of the record, which it may have got since.
+bool RecordMerge::Key::TheyChanged() const { return !Same(read, theirs); }
+bool RecordMerge::Key::WeChanged() const { return !isAsRead && !Same(read, ours); }
+bool RecordMerge::Key::Differs() const { return !Same(theirs, ours); }
+
+/// What the key has in both files, selected in each. They may be one object.
+RecordMerge::Key RecordMerge::Look(std::wstring_view name, Value ours) {
+    Key key{m_section,       std::wstring(name), std::nullopt, std::nullopt,
+            std::move(ours), GivesMeaning(name), false};
+    // The names of nested sections begin with that of the record, which it may have got since.
     const std::wstring sectionBefore = m_sectionBefore + m_section.substr(m_recordSection.size());
     m_before->SetSection(sectionBefore);
-    const std::optional<Value> read = ReadValue(*m_before, change.key, change.value);
+    key.read = ReadValue(*m_before, key.name, key.ours);
     m_file->SetSection(m_section);
-    const std::optional<Value> theirs = ReadValue(*m_file, change.key, change.value);
-    const bool theyChanged = !Same(read, theirs);
-    if (m_asRead)
+    key.theirs = ReadValue(*m_file, key.name, key.ours);
+    if (m_asRead && name != versionKey) {
         m_asRead->SetSection(sectionBefore);
-    const bool weChanged = !Same(read, change.value) && !IsAsRead(change.key, change.value);
-    if (theyChanged && key != versionKey) {
-        RecordConflict conflict{change.section, change.key, read, theirs, change.value};
-        if (key == conversionTypeKey) // of which the facade has the only one
-            m_typeConflict = std::move(conflict);
-        else if (weChanged && !Same(theirs, change.value))
-            m_conflicts.push_back(std::move(conflict));
+        key.isAsRead = Same(ReadValue(*m_asRead, key.name, key.ours), key.ours);
     }
-    if (!weChanged) {
-        if (!theirs)
-            m_removed.push_back(std::move(change));
-    } else if (key != versionKey) {
-        m_changes.push_back(std::move(change));
-    } else if (!theyChanged) {
-        m_versions.push_back(std::move(change));
+    return key;
+}
+
+void RecordMerge::Take(std::wstring_view name, Value ours) {
+    const Key& key = m_keys.emplace_back(Look(name, std::move(ours)));
+    // What a smaller count leaves in the file may have been changed by others, who still count it.
+    for (const std::wstring& beyond : KeysBeyond(name, key.ours, key.read)) {
+        Key left = Look(beyond, 0.0);
+        if (!left.read)
+            continue;
+        left.ours = *left.read;
+        m_keys.push_back(std::move(left));
     }
 }
 
-/// Whether a key of the section that is selected in m_asRead has the value that a read has given it.
-bool RecordMerge::IsAsRead(const std::wstring& key, const Value& ours) const {
-    return m_asRead && key != versionKey && Same(ReadValue(*m_asRead, key, ours), ours);
+/// Whether `deciding` has other values in the file and in ours, and gives `key` other meanings by that.
+bool RecordMerge::Decides(const Key& deciding, const Key& key) const {
+    return deciding.givesMeaning && deciding.section == key.section && deciding.Differs() &&
+           HasOtherMeaning(key.name, deciding.name, deciding.theirs, deciding.ours);
+}
+
+bool RecordMerge::IsConflict(const Key& key) const {
+    if (key.name == versionKey || !key.TheyChanged())
+        return false;
+    if (key.name == conversionTypeKey) // of which the facade has the only one
+        return HasChanges();
+    if (key.WeChanged())
+        return key.Differs();
+    // Nor may their value stand beside one of ours that gives it another meaning, or gets one from it.
+    return !HasAnotherType() && std::any_of(m_keys.begin(), m_keys.end(), [&](const Key& other) {
+        if (key.givesMeaning)
+            return other.WeChanged() && other.Differs() && Decides(key, other);
+        return Decides(other, key) && (other.WeChanged() || IsConflict(other));
+    });
+}
+
+bool RecordMerge::HasAnotherType() const {
+    return std::any_of(m_keys.begin(), m_keys.end(),
+                       [](const Key& key) { return key.name == conversionTypeKey && key.TheyChanged(); });
+}
+
+bool RecordMerge::HasChanges() const {
+    return std::any_of(m_keys.begin(), m_keys.end(),
+                       [](const Key& key) { return key.name != versionKey && key.WeChanged(); });
 }
 
 std::vector<RecordConflict> RecordMerge::Conflicts() const {
-    std::vector<RecordConflict> conflicts = m_conflicts;
-    if (m_typeConflict && !m_changes.empty())
-        conflicts.insert(conflicts.begin(), *m_typeConflict);
+    std::vector<RecordConflict> conflicts;
+    for (const Key& key : m_keys) {
+        if (IsConflict(key))
+            conflicts.push_back({key.section, key.name, key.read, key.theirs, key.ours});
+    }
     return conflicts;
 }
 
-void RecordMerge::WriteChanges() {
-    if (!m_changes.empty())
-        Write(m_versions);
-    Write(m_changes);
-}
-
-void RecordMerge::WriteChangesAndRemoved() {
-    Write(m_removed);
-    WriteChanges();
-}
-
-void RecordMerge::Write(const std::vector<Change>& changes) {
+template <class IsToBeWritten>
+void RecordMerge::Write(const IsToBeWritten& isToBeWritten) {
     struct Visitor {
         INIFile& file;
         const std::wstring& key;
@@ -95,10 +118,26 @@ void RecordMerge::Write(const std::vector<Change>& changes) {
         void operator()(double value) const { file.WriteDouble(key, value, L""); }
         void operator()(bool value) const { file.WriteBoolean(key, value); }
     };
-    for (const Change& change : changes) {
-        m_file->SetSection(change.section);
-        std::visit(Visitor{*m_file, change.key}, change.value);
+    for (const Key& key : m_keys) {
+        if (!isToBeWritten(key))
+            continue;
+        m_file->SetSection(key.section);
+        std::visit(Visitor{*m_file, key.name}, key.ours);
     }
+}
+
+void RecordMerge::WriteChanges() {
+    if (!HasChanges())
+        return;
+    Write([](const Key& key) { return key.name == versionKey && key.WeChanged() && !key.TheyChanged(); });
+    Write([](const Key& key) { return key.name != versionKey && key.WeChanged(); });
+}
+
+void RecordMerge::WriteChangesAndRemoved() {
+    Write([this](const Key& key) {
+        return !key.WeChanged() && key.TheyChanged() && (!key.theirs || IsConflict(key));
+    });
+    WriteChanges();
 }
 
 } // namespace QuorProbeFile

@@ -13,8 +13,9 @@
 namespace QuorProbeFile {
 
 /// A key that another program has changed in the file since the record was read, and that we are to change to
-/// another value. A value that is missing was not there, or is gone; text stands for one that cannot be read
-/// as a value of its kind.
+/// another value; or have changed the meaning of, or that changes the meaning of what we have changed. A
+/// value that is missing was not there, or is gone; text stands for one that cannot be read as a value of its
+/// kind.
 struct RecordConflict {
     std::wstring section;
     std::wstring key;
@@ -48,15 +49,17 @@ public:
                 std::shared_ptr<QuorIniFile::INIFile> file, std::wstring section,
                 std::shared_ptr<QuorIniFile::INIFile> asRead = nullptr);
 
-    /// The changes that cannot be merged. Another conversion type than was read makes every change one.
+    /// The changes that cannot be merged. Another conversion type than was read makes every change one. So
+    /// does a key that says what others beside it mean (a count, a scale, a range, "UsePolynomial", "TCType")
+    /// for those: of them one side may not have changed one and the other side the other.
     [[nodiscard]] std::vector<RecordConflict> Conflicts() const;
     /// Whether the record has lost its conversion type, or has another one than was read. Its keys are not
     /// those that we know, then.
-    [[nodiscard]] bool HasAnotherType() const { return m_typeConflict.has_value(); }
+    [[nodiscard]] bool HasAnotherType() const;
 
     /// Writes the changes; where there are none, nothing.
     void WriteChanges();
-    /// Writes the changes, and again what others have removed of the record.
+    /// Writes the changes, and again what others have removed of the record, and what conflicts.
     void WriteChangesAndRemoved();
 
     void SetFileName(std::wstring_view /*fileName*/) override {}
@@ -81,14 +84,27 @@ public:
     }
 
 private:
-    struct Change {
+    /// A key of the record, as it was read, as it stands in the file now, and as it is to be.
+    struct Key {
         std::wstring section;
-        std::wstring key;
-        Value value;
+        std::wstring name;
+        std::optional<Value> read;
+        std::optional<Value> theirs;
+        Value ours;
+        bool givesMeaning; // to other keys
+        bool isAsRead;     // ours is what a read has made of a key that is missing or cannot be read
+
+        [[nodiscard]] bool TheyChanged() const;
+        [[nodiscard]] bool WeChanged() const;
+        [[nodiscard]] bool Differs() const; // theirs from ours
     };
-    void Take(std::wstring_view key, Value ours);
-    [[nodiscard]] bool IsAsRead(const std::wstring& key, const Value& ours) const;
-    void Write(const std::vector<Change>& changes);
+    [[nodiscard]] Key Look(std::wstring_view name, Value ours);
+    void Take(std::wstring_view name, Value ours);
+    [[nodiscard]] bool Decides(const Key& deciding, const Key& key) const;
+    [[nodiscard]] bool IsConflict(const Key& key) const;
+    [[nodiscard]] bool HasChanges() const;
+    template <class IsToBeWritten>
+    void Write(const IsToBeWritten& isToBeWritten);
 
     std::shared_ptr<QuorIniFile::INIFile> m_before;
     std::wstring m_sectionBefore;
@@ -96,11 +112,7 @@ private:
     std::wstring m_recordSection;
     std::shared_ptr<QuorIniFile::INIFile> m_asRead;
     std::wstring m_section;
-    std::vector<Change> m_versions;
-    std::vector<Change> m_changes;
-    std::vector<Change> m_removed; // by others, and not changed by us
-    std::vector<RecordConflict> m_conflicts;
-    std::optional<RecordConflict> m_typeConflict;
+    std::vector<Key> m_keys;
 };
 
 } // namespace QuorProbeFile

@@ -1,8 +1,13 @@
 #include "QuorProbeFile/RecordMerge.h"
 
 #include "QuorConversions/core/CQuorConversion.h"
+#include "QuorConversions/polynomial/CQuorPolynomial.h"
 #include "QuorConversions/rtd/CQuorCVD.h"
+#include "QuorConversions/rtd/CQuorITS90.h"
+#include "QuorConversions/rtd/CQuorITS90LowRange.h"
+#include "QuorConversions/thermocouple/CQuorTCTypeX.h"
 #include "QuorIniFile/IniStore.h"
+#include "QuorProbeFile/ProbeFile.h"
 #include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -159,6 +164,119 @@ TEST_F(RecordMergeTest, AnotherConversionTypeIsAConflictAsSoonAsAnythingWasChang
     EXPECT_EQ(Conflicts(),
               (Lines{L"[P] ConversionType: 2, none, 2", L"[P - Settings] Coefficients0: 100, none, 100.5"}));
     EXPECT_TRUE(merge->HasAnotherType());
+}
+
+TEST_F(RecordMergeTest, AChangedCoefficientIsAConflictWhereOthersHaveGivenTheCoefficientsAnotherMeaning) {
+    Read(record);
+    Cvd().SetCoefficients(CVD_ALPHA, 0.0039);
+    const std::string theirs =
+        Replaced(Replaced(record, "=False", "=True"), "Coefficients2=1.50", "Coefficients2=-5.8E-7");
+    Others(theirs);
+    EXPECT_EQ(Conflicts(), (Lines{L"[P - Settings] UsePolynomial: False, True, False",
+                                  L"[P - Settings] Coefficients2: 1.5, -5.8e-07, 1.5"}));
+    merge->WriteChangesAndRemoved();
+    EXPECT_EQ(File(), Replaced(Replaced(record, "3.9083E-3", "0.0039"), "1.50", "1.5"))
+        << "ours are one record again";
+}
+
+TEST_F(RecordMergeTest, AnotherMeaningOfTheCoefficientsIsAConflictWhereOthersHaveChangedOne) {
+    Read(record);
+    Cvd().SetUsePolynomial(true);
+    Others(Replaced(record, "1.50", "1.6"));
+    EXPECT_EQ(Conflicts(), Lines{L"[P - Settings] Coefficients2: 1.5, 1.6, 1.5"});
+    merge->WriteChangesAndRemoved();
+    EXPECT_EQ(File(), Replaced(Replaced(record, "=False", "=True"), "1.50", "1.5"));
+
+    Others(Replaced(record, "100.0\n", "99\n"));
+    file->Reload();
+    EXPECT_EQ(Conflicts(), Lines{}) << "R0 is R0 either way";
+    Others(Replaced(Replaced(record, "=False", "=True"), "1.50", "-5.8E-7"));
+    file->Reload();
+    EXPECT_EQ(Conflicts(), Lines{}) << "both have given them the same meaning";
+}
+
+TEST_F(RecordMergeTest, AChangedCoefficientThatOthersCountNoMoreIsAConflict) {
+    const std::string text = "[P]\nVersion=1.0\nConversionType=4\n[P - Settings]\nVersion=1.0\nOrder=6\n"
+                             "Coefficients0=0\nCoefficients1=1\nCoefficients2=2\nCoefficients3=3\n"
+                             "Coefficients4=4\nCoefficients5=5\nCoefficients6=6\n";
+    Read(text);
+    ASSERT_EQ(probe.ConversionType(), CONV_POLYNOMIAL);
+    const auto polynomial = SettingsAs<CQuorPolynomial>(probe);
+    polynomial->SetCoefficients(6, 6.5);
+    Others(Replaced(text, "Order=6", "Order=5"));
+    EXPECT_EQ(Conflicts(), Lines{L"[P - Settings] Order: 6, 5, 6"});
+    Others(Replaced(text, "Order=6", "Order=7"));
+    file->Reload();
+    EXPECT_EQ(Conflicts(), Lines{}) << "it is counted as before";
+
+    polynomial->SetCoefficients(6, 6);
+    polynomial->SetCoefficients(5, 5.5);
+    Others(Replaced(text, "Order=6", "Order=5"));
+    file->Reload();
+    EXPECT_EQ(Conflicts(), Lines{}) << "they count this one";
+}
+
+TEST_F(RecordMergeTest, ASmallerCountIsAConflictWhereOthersHaveChangedWhatItLeavesOut) {
+    Read(record);
+    Cvd().SetNumCoefficients(3);
+    Others(Replaced(record, "Coefficients3=0", "Coefficients3=0.5"));
+    EXPECT_EQ(Conflicts(), Lines{L"[P - Settings] Coefficients3: 0, 0.5, 0"});
+    Others(Replaced(record, "1.50", "1.6"));
+    file->Reload();
+    EXPECT_EQ(Conflicts(), Lines{});
+    merge->WriteChanges();
+    EXPECT_EQ(File(), Replaced(Replaced(record, "1.50", "1.6"), "=4\n", "=3\n"));
+}
+
+TEST_F(RecordMergeTest, ASmallerCountThatAFileWritesIsAConflictWithWhatOthersHaveChangedBeyondIt) {
+    folder.Write("a.ini", record);
+    ProbeFile probes(folder.Name("a.ini"));
+    ASSERT_TRUE(probes.Read(L"P", probe).IsWhole());
+    Cvd().SetNumCoefficients(3);
+    const std::string theirs = Replaced(record, "Coefficients3=0", "Coefficients3=0.5");
+    Others(theirs);
+    const auto conflicts = probes.WriteChanges(L"P", probe, probes);
+    ASSERT_EQ(conflicts.size(), 1U);
+    EXPECT_EQ(conflicts[0].key, L"Coefficients3");
+    EXPECT_EQ(conflicts[0].theirs, Value(0.5));
+    EXPECT_EQ(File(), theirs);
+}
+
+TEST_F(RecordMergeTest, ADeviationIsAConflictWhereOthersHaveChosenAnotherThermocoupleOrUnit) {
+    CQuorConversion fresh;
+    fresh.SetConversionType(CONV_TCTYPEX);
+    folder.Write("a.ini", "");
+    file->SetFileName(folder.Name("a.ini"));
+    std::shared_ptr<INIFile> iniFile = file;
+    fresh.WriteToFile(iniFile, L"", L"P");
+    const std::string text = File();
+    Read(text);
+    SettingsAs<CQuorTCTypeX>(probe)->SetOffsets(1, 0.25);
+    Others(Replaced(text, "TCType=4", "TCType=2"));
+    file->Reload();
+    EXPECT_EQ(Conflicts(), Lines{L"[P - Settings] TCType: 4, 2, 4"});
+    Others(Replaced(text, "OffsetScale=", "OffsetScale=K"));
+    file->Reload();
+    EXPECT_EQ(Conflicts().size(), 1U);
+    EXPECT_EQ(merge->Conflicts().front().key, L"OffsetScale");
+    Others(Replaced(text, "TempScale=", "TempScale=K"));
+    file->Reload();
+    EXPECT_EQ(Conflicts(), Lines{});
+}
+
+TEST_F(RecordMergeTest, ADeviationCoefficientIsAConflictWhereOthersHaveChosenAnotherRange) {
+    const std::string text =
+        "[P]\nVersion=1.0\nConversionType=0\n[P - Settings]\nVersion=1.0\nRTPW=25.5\n"
+        "[P - Settings - High Range]\nVersion=1.0\nRange=9\nCoefficients0=0\nCoefficients1=0\n"
+        "[P - Settings - Low Range]\nVersion=1.0\nRange=4\nCoefficients0=0\nCoefficients1=0\n";
+    Read(text);
+    ASSERT_EQ(probe.ConversionType(), CONV_ITS90);
+    SettingsAs<CQuorITS90>(probe)->LowRange()->SetCoefficients(1, 1e-5);
+    Others(Replaced(text, "Range=9", "Range=8"));
+    EXPECT_EQ(Conflicts(), Lines{}) << "of another section";
+    Others(Replaced(text, "Range=4", "Range=5"));
+    file->Reload();
+    EXPECT_EQ(Conflicts(), Lines{L"[P - Settings - Low Range] Range: 4, 5, 4"});
 }
 
 TEST_F(RecordMergeTest, ARecordThatIsGoneAndWasNotChangedIsNotBegunAgain) {
