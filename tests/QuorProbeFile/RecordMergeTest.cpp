@@ -257,7 +257,7 @@ TEST_F(RecordMergeTest, ADeviationIsAConflictWhereOthersHaveChosenAnotherThermoc
     EXPECT_EQ(Conflicts(), Lines{L"[P - Settings] TCType: 4, 2, 4"});
     Others(Replaced(text, "OffsetScale=", "OffsetScale=K"));
     file->Reload();
-    EXPECT_EQ(Conflicts().size(), 1U);
+    ASSERT_EQ(Conflicts().size(), 1U);
     EXPECT_EQ(merge->Conflicts().front().key, L"OffsetScale");
     Others(Replaced(text, "TempScale=", "TempScale=K"));
     file->Reload();
