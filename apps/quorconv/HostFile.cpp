@@ -4,6 +4,7 @@
 #include "apps/quorconv/Failure.h"
 #include "apps/quorconv/UnifiedDiff.h"
 
+#include <cstdio>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -24,7 +25,7 @@ std::string StandardInput() {
     if (std::exchange(isRead, true))
         throw UsageError{L"\"-\" can stand once: the standard input can be read once"};
     std::string bytes{std::istreambuf_iterator<char>(std::cin), {}};
-    if (std::cin.bad())
+    if (std::cin.bad() || std::ferror(stdin) != 0)
         throw Problem{L"-: the standard input cannot be read"};
     return bytes;
 }
@@ -53,7 +54,11 @@ struct NothingIsSaved {};
 std::string ReadAll(const std::wstring& path) {
     if (path == standardInput)
         return StandardInput();
-    std::ifstream file(QuorIniFile::ToUtf8(path), std::ios::binary);
+    const std::string name = QuorIniFile::ToUtf8(path);
+    std::error_code ignored;
+    if (std::filesystem::is_directory(name, ignored))
+        throw Problem{path + L": this is a folder"};
+    std::ifstream file(name, std::ios::binary);
     if (!file)
         throw Problem{L"File not found: " + path};
     std::string bytes{std::istreambuf_iterator<char>(file), {}};

@@ -207,6 +207,8 @@ void ReadJsonObjects(std::string_view text, const std::function<void(const JsonV
         rapidjson::SkipWhitespace(stream);
         return stream.Tell() < text.size();
     };
+    if (!skipBlanks())
+        builder.FailAt(text.size(), L"an object or a list of objects expected");
     while (skipBlanks()) {
         if (builder.WasList())
             builder.FailAt(stream.Tell(), L"nothing may follow the list");

@@ -146,9 +146,12 @@ public:
             Fail(line, m_type == none ? m_section : m_type, L"\"" + probe.type + L"\" is no conversion type");
         RequireKeys(info->code);
         for (std::size_t i = 0; i < fields.size(); ++i) {
-            if (i == m_section || i == m_type || fields[i].empty())
+            if (i == m_section || i == m_type)
                 continue;
             const RecordKey* const key = FindRecordKey(info->code, m_columns[i].key, RecordForm::Any);
+            // An empty field is no value, but of a text, which may be empty.
+            if (fields[i].empty() && !(key && std::holds_alternative<std::wstring>(key->initial)))
+                continue;
             const bool isNumber = !key || std::holds_alternative<double>(key->initial);
             std::wstring text = fields[i];
             if (isNumber && decimal == DecimalSign::Comma) {

@@ -1,5 +1,6 @@
 #include "apps/quorconv/ProbeJson.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorIniFile/Utf8.h"
 #include "QuorIniFile/ValueText.h"
 #include "QuorProbeFile/ProbeNames.h"
@@ -24,7 +25,7 @@ struct Indexed {
 };
 
 Indexed SplitIndex(std::wstring_view key) {
-    static const std::wstring_view lists[] = {L"Coefficients", L"Temperatures", L"Voltages", L"Offsets"};
+    static const std::wstring_view lists[] = {coefficientsKey, temperaturesKey, voltagesKey, offsetsKey};
     for (const std::wstring_view list : lists) {
         if (key.size() > list.size() && key.starts_with(list)) {
             const auto index = QuorIniFile::IntegerOf(key.substr(list.size()));
@@ -331,6 +332,12 @@ JsonProbe ReadJsonProbe(const JsonValue& object) {
                                                                  : RecordForm::AlphaDeltaBeta;
     SettingsReader reader(info->code, form);
     reader.Read(settings, L"");
+    const auto& keys = RecordKeys(info->code);
+    const bool hasForms = std::any_of(keys.begin(), keys.end(),
+                                      [](const RecordKey& key) { return key.form != RecordForm::Any; });
+    const JsonValue* const coefficients = settings.Find(coefficientsKey);
+    if (hasForms && !flag && coefficients && coefficients->items.size() > 1) // R0 is the same in both
+        Fail(settings, L"\"UsePolynomial\" is missing, which says what the coefficients are");
     probe.values = std::move(reader.values);
     return probe;
 }

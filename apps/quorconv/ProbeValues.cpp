@@ -1,4 +1,5 @@
 #include "apps/quorconv/ProbeValues.h"
+#include "apps/quorconv/Failure.h"
 
 #include "QuorProbeFile/ProbeNames.h"
 #include "apps/quorconv/Progress.h"
@@ -25,6 +26,12 @@ bool SameValues(const ProbeValues& a, const ProbeValues& b) {
 }
 
 ProbeTable::ProbeTable(ProbeFile& file) {
+    using QuorIniFile::IniWarningKind;
+    for (const QuorIniFile::IniWarning& warning : file.Store()->Warnings()) {
+        if (warning.kind == IniWarningKind::UnclosedHeader || warning.kind == IniWarningKind::LineEndsInCr)
+            throw Problem{file.Path() + L":" + std::to_wstring(warning.line) +
+                          L": what stands here cannot be read; \"quorconv check\" tells why"};
+    }
     const std::vector<ProbeEntry> entries = file.Probes();
     Progress progress(L"probes", entries.size());
     m_probes.reserve(entries.size());

@@ -73,9 +73,13 @@ void RenameProbe(ProbeFile& file, const std::wstring& section, const std::wstrin
 void RetypeProbe(ProbeFile& file, const std::wstring& section, const std::wstring& type,
                  const std::vector<Assignment>& assignments, const ValueRules& rules) {
     const TypeInfo& info = RequireSettingsType(type);
-    if (!file.Find(section)) {
+    const auto present = file.Find(section);
+    if (!present) {
         Probe none(section);
         static_cast<void>(file.Read(section, none.Conversion())); // which tells why there is none
+    } else if (present->type == info.code) {
+        throw Problem{Place(file.Path(), section) +
+                      L": the probe has this type already; its values would be lost"};
     }
     Probe probe(section);
     probe.Conversion().SetConversionType(info.code);

@@ -8,6 +8,7 @@
 #include "apps/quorconv/Json.h"
 #include "apps/quorconv/Nearest.h"
 #include "apps/quorconv/Progress.h"
+#include "apps/quorconv/Records.h"
 #include "apps/quorconv/Selection.h"
 
 #include <algorithm>
@@ -214,8 +215,11 @@ class Check final : public Command {
         HostFile file(path);
         std::unordered_set<std::wstring> chosen;
         if (IsSelecting()) {
-            for (const std::wstring& section : m_selection.In(*file))
+            for (const std::wstring& section : m_selection.In(*file)) {
+                if (!file->Find(section) && !file->Store()->HasSection(section))
+                    throw Problem{Place(path, section) + L": there is no such section"};
                 chosen.insert(Folded(section));
+            }
             m_count += chosen.size();
         }
         std::vector<Finding> findings;

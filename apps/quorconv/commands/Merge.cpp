@@ -34,7 +34,10 @@ class Merge final : public Command {
         HostFile file(m_ours);
         const ProbeTable base(*baseFile);
         const ProbeTable theirs(*theirFile);
+        if (theirs.Probes().empty() && !base.Probes().empty())
+            throw Problem{m_theirs + L": there is no probe in this file; nothing was written"};
         std::size_t count = 0;
+        std::size_t gone = 0;
         file.Edit(m_isDryRun, [&] {
             const ProbeTable ours(*file);
             std::vector<std::wstring> conflicts;
@@ -58,9 +61,12 @@ class Merge final : public Command {
                 Write(*file, *theirFile, *their, changes);
             for (const std::wstring& section : removed)
                 file->Remove(section);
-            count = written.size() + removed.size();
+            count = written.size();
+            gone = removed.size();
         });
         TellCount(count, L"probe", m_isDryRun ? "would be merged" : "merged");
+        if (gone > 0)
+            TellCount(gone, L"probe", m_isDryRun ? "would be removed" : "removed");
         return fine;
     }
 
@@ -106,12 +112,21 @@ class Merge final : public Command {
                                 m_theirs);
             isFine = false;
         }
-        // A count that has become smaller takes coefficients away that the other file may have changed.
-        const bool isShorter = std::any_of(changes.begin(), changes.end(),
-                                           [](const ValueChange& change) { return !change.after; });
-        if (isFine && isShorter) {
-            conflicts.push_back(place + L": other keys in " + m_theirs + L", and other values here");
-            isFine = false;
+        // A flag, a code, a count or a scale says what the other values are.
+        const auto decides = [](const ValueChange& change) {
+            const Value* const value = change.before ? change.before : change.after;
+            return !std::holds_alternative<double>(*value);
+        };
+        if (isFine && !changes.empty() && !ourChanges.empty() &&
+            (std::any_of(changes.begin(), changes.end(), decides) ||
+             std::any_of(ourChanges.begin(), ourChanges.end(), decides))) {
+            const bool isTheirs = std::any_of(changes.begin(), changes.end(), decides);
+            const auto& list = isTheirs ? changes : ourChanges;
+            const ValueChange& deciding = *std::find_if(list.begin(), list.end(), decides);
+            conflicts.push_back(place + L" " + deciding.key + L": changed " +
+                                (isTheirs ? L"in " + m_theirs : L"here") +
+                                L", and other values of the probe in the other file");
+            return;
         }
         if (isFine && !changes.empty())
             written.emplace_back(&their, std::move(changes));

@@ -2,6 +2,8 @@
 
 #include "tests/apps/quorconv/Quorconv.h"
 
+#include <algorithm>
+
 namespace {
 
 class QuorconvCompareTest : public QuorconvTest {
@@ -103,7 +105,8 @@ TEST_F(QuorconvCompareTest, MergesWhatOnlyOneOfTheFilesHasChanged) {
 TEST_F(QuorconvCompareTest, MergesWhatTheOtherFileHasRemovedAndRetyped) {
     ExpectFine({"remove", "theirs.ini", "A"});
     ExpectFine({"retype", "theirs.ini", "B", "pt1", "Coefficients0=100"});
-    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 2 probes merged\n");
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "",
+                "quorconv: 1 probe merged\nquorconv: 1 probe removed\n");
     EXPECT_EQ(Quorconv({"diff", "ours.ini", "theirs.ini"}).code, 0);
 }
 
@@ -127,11 +130,40 @@ TEST_F(QuorconvCompareTest, NamesAConflictOfTypesOfSizesAndOfNewProbes) {
     folder.Write("theirs.ini", base);
     ExpectFine({"set", "theirs.ini", "A", "NumCoefficients=1"});
     ExpectFine({"set", "ours.ini", "A", "Coefficients0=101"});
-    ExpectConflicts("  [A]: other keys in theirs.ini, and other values here\n");
+    ExpectConflicts(
+        "  [A] NumCoefficients: changed in theirs.ini, and other values of the probe in the other file\n");
     folder.Write("theirs.ini", base);
     ExpectFine({"new", "ours.ini", "N", "10"});
     ExpectFine({"new", "theirs.ini", "N", "11"});
     ExpectConflicts("  [N]: added in both files, with different values\n");
+}
+
+TEST_F(QuorconvCompareTest, AFlagOfOneFileAndValuesOfTheOtherAreAConflict) {
+    ExpectFine({"set", "theirs.ini", "A", "UsePolynomial=True"});
+    ExpectFine({"set", "ours.ini", "A", "Coefficients1=0.0039"});
+    ExpectConflicts(
+        "  [A] UsePolynomial: changed in theirs.ini, and other values of the probe in the other file\n");
+    folder.Write("ours.ini", base);
+    folder.Write("theirs.ini", base);
+    ExpectFine({"set", "ours.ini", "A", "NumCoefficients=3"});
+    ExpectFine({"set", "theirs.ini", "A", "Coefficients0=101"});
+    ExpectConflicts("  [A] NumCoefficients: changed here, and other values of the probe in the other file\n");
+}
+
+TEST_F(QuorconvCompareTest, AnotherFileThatIsEmptyOrDamagedRemovesNothing) {
+    folder.Write("theirs.ini", "");
+    Outcome refused = Quorconv({"merge", "base.ini", "ours.ini", "theirs.ini"});
+    EXPECT_EQ(refused.code, 1);
+    EXPECT_EQ(refused.err, "quorconv: theirs.ini: there is no probe in this file; nothing was written\n");
+    std::string damaged = base;
+    std::replace(damaged.begin(), damaged.end(), '\n', '\r');
+    folder.Write("theirs.ini", damaged);
+    refused = Quorconv({"merge", "base.ini", "ours.ini", "theirs.ini"});
+    EXPECT_EQ(refused.code, 1);
+    EXPECT_EQ(refused.err,
+              "quorconv: theirs.ini:1: what stands here cannot be read; \"quorconv check\" tells why\n");
+    EXPECT_EQ(Quorconv({"diff", "ours.ini", "theirs.ini"}).code, 2);
+    EXPECT_EQ(folder.Read("ours.ini"), base);
 }
 
 TEST_F(QuorconvCompareTest, ShowsWhatAMergeWouldWrite) {

@@ -126,6 +126,26 @@ TEST_F(QuorconvExchangeTest, RefusesJsonThatNoProbeIsWithLineAndColumn) {
     ExpectRefusedJson("{\"a\": \"\xFF\"}", "in.json:1:8: invalid encoding in string");
 }
 
+TEST_F(QuorconvExchangeTest, NamesOfCoefficientsNeedTheFlagThatSaysWhatTheyMean) {
+    ExpectRefusedJson(
+        Probe("{\"Coefficients\": [{\"value\": 100}, {\"name\": \"ALPHA\", \"value\": 0.00385}]}"),
+        "in.json:1:50: \"UsePolynomial\" is missing, which says what the coefficients are");
+}
+
+TEST_F(QuorconvExchangeTest, AnEmptyTextGoesThroughATable) {
+    std::filesystem::copy_file(QUOR_SAMPLES "/laboratory.ini", folder.Path("laboratory.ini"));
+    ExpectFine({"set", "laboratory.ini", "Probe 17 TCK-5122", "TempScale="});
+    ExpectShell("quorconv export laboratory.ini 'Probe 17*' --csv --type tcx | quorconv put copy.ini --csv",
+                "", "quorconv: 1 probe exported\nquorconv: 1 probe put\n");
+    ExpectFine({"get", "copy.ini", "Probe 17 TCK-5122", "TempScale"}, "\n");
+}
+
+TEST_F(QuorconvExchangeTest, AnInputWithoutAProbeIsNoSuccess) {
+    ExpectRefusedJson("", "in.json:1:1: an object or a list of objects expected");
+    std::filesystem::create_directory(folder.Path("in"));
+    ExpectRefused({"put", "host.ini", "in", "--json"}, "quorconv: in: this is a folder\n");
+}
+
 TEST_F(QuorconvExchangeTest, WritesNoneOfManyProbesWhenOneIsWrong) {
     folder.Write("in.jsonl", Probe("{\"RTPW\": 25.5}", "CONV_WT90") + "\n" +
                                  Replaced(Probe("{}", "CONV_WT90"), "\"P\"", "\"Q\"") + "\n");

@@ -143,6 +143,8 @@ TEST_F(QuorconvManyTest, GivesAProbeAnotherTypeWithNewSettings) {
                                            "[Oven - Settings]\nVersion=1.0\nRTPW=25.6\n");
     ExpectRefused({"retype", "host.ini", "Instrument", "w90"},
                   "quorconv: host.ini: [Instrument]: the section is not the record of a probe\n");
+    ExpectRefused({"retype", "host.ini", "Oven", "w90"},
+                  "quorconv: host.ini: [Oven]: the probe has this type already; its values would be lost\n");
     ExpectRefused({"retype", "host.ini", "Oven 9", "w90"},
                   "quorconv: host.ini: [Oven 9]: there is no such section\n");
 }
@@ -356,6 +358,11 @@ TEST_F(QuorconvManyTest, ChecksTheProbesOfATypeAlone) {
     ExpectShell("quorconv check host.ini --type w90",
                 "host.ini:11: [Bath A - Settings] RTPW: \"x\" is not a number\n",
                 "quorconv: 2 probes checked\n", 1);
+}
+
+TEST_F(QuorconvManyTest, ASectionToCheckThatIsNotThereIsNoSuccess) {
+    ExpectRefused({"check", "--section", "Oven 9", "host.ini"},
+                  "quorconv: host.ini: [Oven 9]: there is no such section\n");
 }
 
 TEST_F(QuorconvManyTest, ColoursATerminalAloneAndOnlyWhereColoursAreWanted) {
