@@ -25,14 +25,19 @@ namespace {
 
 constexpr std::int32_t changedMeanwhile = 75;
 
-/// The same conversion with the same values, without a platform. Raises what writing it would raise.
+/// The same conversion with the same values, without a platform. Raises what writing it would raise, and for
+/// values that cannot be read back, such as a negative count.
 [[nodiscard]] std::shared_ptr<CQuorConversion> Copied(const CQuorConversion& conversion) {
     auto copy = std::make_shared<CQuorConversion>();
     copy->SetConversionType(conversion.ConversionType());
     if (const auto settings = conversion.Settings()) {
         const auto image = std::make_shared<RecordImage>();
         settings->WriteOrRaise(image, L"");
-        RecordImage::Apply(image, *copy->Settings());
+        std::shared_ptr<QuorIniFile::INIFile> iniFile = image;
+        const bool isWhole = copy->Settings()->ReadFromFile(iniFile, L"", L"");
+        if (!isWhole || !RecordImage::Same(*RecordImage::Of(*copy->Settings()), *image))
+            Throw(QUOR_ERROR_ARGUMENT,
+                  L"The values of the settings do not go together: no file gives them back");
     }
     return copy;
 }

@@ -76,7 +76,7 @@ def argument_types(table, c, member, kind, own):
 
 def value_in(table, name, of_type):
     if of_type == "bool":
-        return f"-1 if {name} else 0"
+        return f"flag({name})"
     return f"{CHECKED[ctype(table, of_type)]}({name})"
 
 
@@ -208,7 +208,7 @@ def layer(table, c_function, functions_of):
     code = [NOTE, '"""The component interface as it is, class by class: what the rest of the package stands on."""\n',
             "from ctypes import POINTER, byref, c_double, c_int16, c_int32, c_uint64",
             "from enum import IntEnum\n",
-            "from ._runtime import (Doubles, Int32s, Object, Text, TextIn, check, declare, double, exchanged, int16, int32, "
+            "from ._runtime import (Doubles, Int32s, Object, Text, TextIn, check, declare, double, exchanged, flag, int16, int32, "
             "known,\n                       lent, library as _library, taken, text, wrap_as)\n"]
     types = [NOTE, "from array import array", "from enum import IntEnum\n",
              "from ._runtime import HostObject, Object\n"]

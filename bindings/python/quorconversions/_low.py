@@ -5,7 +5,7 @@
 from ctypes import POINTER, byref, c_double, c_int16, c_int32, c_uint64
 from enum import IntEnum
 
-from ._runtime import (Doubles, Int32s, Object, Text, TextIn, check, declare, double, exchanged, int16, int32, known,
+from ._runtime import (Doubles, Int32s, Object, Text, TextIn, check, declare, double, exchanged, flag, int16, int32, known,
                        lent, library as _library, taken, text, wrap_as)
 
 
@@ -302,7 +302,7 @@ class CQuorConversion(Object):
 
     @AllowEdit.setter
     def AllowEdit(self, value):
-        check(_library.quor_conversion_put_AllowEdit(self._handle, -1 if value else 0))
+        check(_library.quor_conversion_put_AllowEdit(self._handle, flag(value)))
 
     @property
     def HelpFile(self):
@@ -336,7 +336,7 @@ class CQuorConversion(Object):
 
     @Changed.setter
     def Changed(self, value):
-        check(_library.quor_conversion_put_Changed(self._handle, -1 if value else 0))
+        check(_library.quor_conversion_put_Changed(self._handle, flag(value)))
 
     @property
     def FilePath(self):
@@ -409,7 +409,7 @@ class CQuorITS90(Object):
 
     @AllowEdit.setter
     def AllowEdit(self, value):
-        check(_library.quor_its90_put_AllowEdit(self._handle, -1 if value else 0))
+        check(_library.quor_its90_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
         """Keeps a reference to the host's registry, which may be none."""
@@ -432,7 +432,7 @@ class CQuorITS90(Object):
 
     @Changed.setter
     def Changed(self, value):
-        check(_library.quor_its90_put_Changed(self._handle, -1 if value else 0))
+        check(_library.quor_its90_put_Changed(self._handle, flag(value)))
 
     @property
     def FilePath(self):
@@ -535,7 +535,7 @@ class CQuorITS90LowRange(Object):
 
     @ShowCoefRange.setter
     def ShowCoefRange(self, value):
-        check(_library.quor_its90_low_range_put_ShowCoefRange(self._handle, -1 if value else 0))
+        check(_library.quor_its90_low_range_put_ShowCoefRange(self._handle, flag(value)))
 
     @property
     def AllowChangeRange(self):
@@ -546,7 +546,7 @@ class CQuorITS90LowRange(Object):
 
     @AllowChangeRange.setter
     def AllowChangeRange(self, value):
-        check(_library.quor_its90_low_range_put_AllowChangeRange(self._handle, -1 if value else 0))
+        check(_library.quor_its90_low_range_put_AllowChangeRange(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
         """Keeps a reference to the host's registry, which may be none."""
@@ -569,7 +569,7 @@ class CQuorITS90LowRange(Object):
 
     @Changed.setter
     def Changed(self, value):
-        check(_library.quor_its90_low_range_put_Changed(self._handle, -1 if value else 0))
+        check(_library.quor_its90_low_range_put_Changed(self._handle, flag(value)))
 
     @property
     def RangeEnabled(self):
@@ -580,7 +580,7 @@ class CQuorITS90LowRange(Object):
 
     @RangeEnabled.setter
     def RangeEnabled(self, value):
-        check(_library.quor_its90_low_range_put_RangeEnabled(self._handle, -1 if value else 0))
+        check(_library.quor_its90_low_range_put_RangeEnabled(self._handle, flag(value)))
 
     def RangeName(self, vData=-2):
         """The name of a range of this side, empty for any other value. -2: of the current one."""
@@ -682,7 +682,7 @@ class CQuorITS90HighRange(Object):
 
     @ShowCoefRange.setter
     def ShowCoefRange(self, value):
-        check(_library.quor_its90_high_range_put_ShowCoefRange(self._handle, -1 if value else 0))
+        check(_library.quor_its90_high_range_put_ShowCoefRange(self._handle, flag(value)))
 
     @property
     def AllowChangeRange(self):
@@ -693,7 +693,7 @@ class CQuorITS90HighRange(Object):
 
     @AllowChangeRange.setter
     def AllowChangeRange(self, value):
-        check(_library.quor_its90_high_range_put_AllowChangeRange(self._handle, -1 if value else 0))
+        check(_library.quor_its90_high_range_put_AllowChangeRange(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
         """Keeps a reference to the host's registry, which may be none."""
@@ -716,7 +716,7 @@ class CQuorITS90HighRange(Object):
 
     @Changed.setter
     def Changed(self, value):
-        check(_library.quor_its90_high_range_put_Changed(self._handle, -1 if value else 0))
+        check(_library.quor_its90_high_range_put_Changed(self._handle, flag(value)))
 
     @property
     def RangeEnabled(self):
@@ -727,7 +727,7 @@ class CQuorITS90HighRange(Object):
 
     @RangeEnabled.setter
     def RangeEnabled(self, value):
-        check(_library.quor_its90_high_range_put_RangeEnabled(self._handle, -1 if value else 0))
+        check(_library.quor_its90_high_range_put_RangeEnabled(self._handle, flag(value)))
 
     def RangeName(self, vData=-2):
         """The name of a range of this side, empty for any other value. -2: of the current one."""
@@ -829,7 +829,7 @@ class CQuorIPTS68(Object):
 
     @AllowEdit.setter
     def AllowEdit(self, value):
-        check(_library.quor_ipts68_put_AllowEdit(self._handle, -1 if value else 0))
+        check(_library.quor_ipts68_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
         """Keeps a reference to the host's registry, which may be none."""
@@ -852,7 +852,7 @@ class CQuorIPTS68(Object):
 
     @Changed.setter
     def Changed(self, value):
-        check(_library.quor_ipts68_put_Changed(self._handle, -1 if value else 0))
+        check(_library.quor_ipts68_put_Changed(self._handle, flag(value)))
 
     @property
     def FilePath(self):
@@ -874,7 +874,7 @@ class CQuorIPTS68(Object):
 
     @ScaleEnabled.setter
     def ScaleEnabled(self, value):
-        check(_library.quor_ipts68_put_ScaleEnabled(self._handle, -1 if value else 0))
+        check(_library.quor_ipts68_put_ScaleEnabled(self._handle, flag(value)))
 
     @property
     def NumCoefficients(self):
@@ -979,7 +979,7 @@ class CQuorCVD(Object):
 
     @AllowEdit.setter
     def AllowEdit(self, value):
-        check(_library.quor_cvd_put_AllowEdit(self._handle, -1 if value else 0))
+        check(_library.quor_cvd_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
         """Keeps a reference to the host's registry, which may be none."""
@@ -1002,7 +1002,7 @@ class CQuorCVD(Object):
 
     @Changed.setter
     def Changed(self, value):
-        check(_library.quor_cvd_put_Changed(self._handle, -1 if value else 0))
+        check(_library.quor_cvd_put_Changed(self._handle, flag(value)))
 
     @property
     def NumCoefficients(self):
@@ -1034,7 +1034,7 @@ class CQuorCVD(Object):
 
     @UsePolynomial.setter
     def UsePolynomial(self, value):
-        check(_library.quor_cvd_put_UsePolynomial(self._handle, -1 if value else 0))
+        check(_library.quor_cvd_put_UsePolynomial(self._handle, flag(value)))
 
     def get_ValueFormat(self, Index):
         """How the dialog shows a coefficient. Never a change."""
@@ -1123,7 +1123,7 @@ class CQuorPT100(Object):
 
     @AllowEdit.setter
     def AllowEdit(self, value):
-        check(_library.quor_pt100_put_AllowEdit(self._handle, -1 if value else 0))
+        check(_library.quor_pt100_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
         """Keeps a reference to the host's registry, which may be none."""
@@ -1146,7 +1146,7 @@ class CQuorPT100(Object):
 
     @Changed.setter
     def Changed(self, value):
-        check(_library.quor_pt100_put_Changed(self._handle, -1 if value else 0))
+        check(_library.quor_pt100_put_Changed(self._handle, flag(value)))
 
     @property
     def NumCoefficients(self):
@@ -1250,7 +1250,7 @@ class CQuorHTPRT(Object):
 
     @AllowEdit.setter
     def AllowEdit(self, value):
-        check(_library.quor_htprt_put_AllowEdit(self._handle, -1 if value else 0))
+        check(_library.quor_htprt_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
         """Keeps a reference to the host's registry, which may be none."""
@@ -1273,7 +1273,7 @@ class CQuorHTPRT(Object):
 
     @Changed.setter
     def Changed(self, value):
-        check(_library.quor_htprt_put_Changed(self._handle, -1 if value else 0))
+        check(_library.quor_htprt_put_Changed(self._handle, flag(value)))
 
     @property
     def FilePath(self):
@@ -1367,7 +1367,7 @@ class CQuorWT90(Object):
 
     @AllowEdit.setter
     def AllowEdit(self, value):
-        check(_library.quor_wt90_put_AllowEdit(self._handle, -1 if value else 0))
+        check(_library.quor_wt90_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
         """Keeps a reference to the host's registry, which may be none."""
@@ -1390,7 +1390,7 @@ class CQuorWT90(Object):
 
     @Changed.setter
     def Changed(self, value):
-        check(_library.quor_wt90_put_Changed(self._handle, -1 if value else 0))
+        check(_library.quor_wt90_put_Changed(self._handle, flag(value)))
 
     @property
     def FilePath(self):
@@ -1479,7 +1479,7 @@ class CQuorThermistor(Object):
 
     @AllowEdit.setter
     def AllowEdit(self, value):
-        check(_library.quor_thermistor_put_AllowEdit(self._handle, -1 if value else 0))
+        check(_library.quor_thermistor_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
         """Keeps a reference to the host's registry, which may be none."""
@@ -1502,7 +1502,7 @@ class CQuorThermistor(Object):
 
     @Changed.setter
     def Changed(self, value):
-        check(_library.quor_thermistor_put_Changed(self._handle, -1 if value else 0))
+        check(_library.quor_thermistor_put_Changed(self._handle, flag(value)))
 
     @property
     def FilePath(self):
@@ -1614,7 +1614,7 @@ class CQuorPolynomial(Object):
 
     @AllowEdit.setter
     def AllowEdit(self, value):
-        check(_library.quor_polynomial_put_AllowEdit(self._handle, -1 if value else 0))
+        check(_library.quor_polynomial_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
         """Keeps a reference to the host's registry, which may be none."""
@@ -1637,7 +1637,7 @@ class CQuorPolynomial(Object):
 
     @Changed.setter
     def Changed(self, value):
-        check(_library.quor_polynomial_put_Changed(self._handle, -1 if value else 0))
+        check(_library.quor_polynomial_put_Changed(self._handle, flag(value)))
 
     @property
     def FilePath(self):
@@ -1790,7 +1790,7 @@ class CQuorTCPolynomial(Object):
 
     @ShowmV25C.setter
     def ShowmV25C(self, value):
-        check(_library.quor_tc_polynomial_put_ShowmV25C(self._handle, -1 if value else 0))
+        check(_library.quor_tc_polynomial_put_ShowmV25C(self._handle, flag(value)))
 
     @property
     def AllowEdit(self):
@@ -1801,7 +1801,7 @@ class CQuorTCPolynomial(Object):
 
     @AllowEdit.setter
     def AllowEdit(self, value):
-        check(_library.quor_tc_polynomial_put_AllowEdit(self._handle, -1 if value else 0))
+        check(_library.quor_tc_polynomial_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
         """Keeps a reference to the host's registry, which may be none."""
@@ -1824,7 +1824,7 @@ class CQuorTCPolynomial(Object):
 
     @Changed.setter
     def Changed(self, value):
-        check(_library.quor_tc_polynomial_put_Changed(self._handle, -1 if value else 0))
+        check(_library.quor_tc_polynomial_put_Changed(self._handle, flag(value)))
 
     @property
     def FilePath(self):
@@ -1923,7 +1923,7 @@ class CQuorTCTable(Object):
 
     @AllowEdit.setter
     def AllowEdit(self, value):
-        check(_library.quor_tc_table_put_AllowEdit(self._handle, -1 if value else 0))
+        check(_library.quor_tc_table_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
         """Keeps a reference to the host's registry, which may be none."""
@@ -1946,7 +1946,7 @@ class CQuorTCTable(Object):
 
     @Changed.setter
     def Changed(self, value):
-        check(_library.quor_tc_table_put_Changed(self._handle, -1 if value else 0))
+        check(_library.quor_tc_table_put_Changed(self._handle, flag(value)))
 
     @property
     def FilePath(self):
@@ -2093,7 +2093,7 @@ class CQuorTCTypeX(Object):
 
     @ShowDCCoefs.setter
     def ShowDCCoefs(self, value):
-        check(_library.quor_tc_typex_put_ShowDCCoefs(self._handle, -1 if value else 0))
+        check(_library.quor_tc_typex_put_ShowDCCoefs(self._handle, flag(value)))
 
     @property
     def AllowEdit(self):
@@ -2104,7 +2104,7 @@ class CQuorTCTypeX(Object):
 
     @AllowEdit.setter
     def AllowEdit(self, value):
-        check(_library.quor_tc_typex_put_AllowEdit(self._handle, -1 if value else 0))
+        check(_library.quor_tc_typex_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
         """Keeps a reference to the host's registry, which may be none."""
@@ -2127,7 +2127,7 @@ class CQuorTCTypeX(Object):
 
     @Changed.setter
     def Changed(self, value):
-        check(_library.quor_tc_typex_put_Changed(self._handle, -1 if value else 0))
+        check(_library.quor_tc_typex_put_Changed(self._handle, flag(value)))
 
     @property
     def TempScale(self):
@@ -2323,7 +2323,7 @@ class CQuorTCTypePoly(Object):
 
     @AllowEdit.setter
     def AllowEdit(self, value):
-        check(_library.quor_tc_typepoly_put_AllowEdit(self._handle, -1 if value else 0))
+        check(_library.quor_tc_typepoly_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
         """Keeps a reference to the host's registry, which may be none."""
@@ -2346,7 +2346,7 @@ class CQuorTCTypePoly(Object):
 
     @Changed.setter
     def Changed(self, value):
-        check(_library.quor_tc_typepoly_put_Changed(self._handle, -1 if value else 0))
+        check(_library.quor_tc_typepoly_put_Changed(self._handle, flag(value)))
 
     @property
     def FilePath(self):
@@ -2487,7 +2487,7 @@ class INIFile(Object):
 
     def ReadBoolean(self, Key, Value):
         """True when the key was found, with a value of that kind, which Value is then."""
-        Value_out = c_int16(-1 if Value else 0)
+        Value_out = c_int16(flag(Value))
         result = c_int16()
         check(_library.quor_inifile_ReadBoolean(self._handle, text(Key), byref(Value_out), byref(result)))
         return result.value != 0, Value_out.value != 0
@@ -2515,7 +2515,7 @@ class INIFile(Object):
 
     def WriteBoolean(self, Key, Value):
         """Writes a value under a key."""
-        check(_library.quor_inifile_WriteBoolean(self._handle, text(Key), -1 if Value else 0))
+        check(_library.quor_inifile_WriteBoolean(self._handle, text(Key), flag(Value)))
 
     def WriteDouble(self, Key, Value, Comment=""):
         """Writes a value under a key. A Comment stands behind it in the file."""
@@ -2736,7 +2736,7 @@ class Dialog(Object):
 
     def PressTab(self, Backwards=False):
         """The Tab key, with Shift when Backwards."""
-        check(_library.quor_dialog_PressTab(self._handle, -1 if Backwards else 0))
+        check(_library.quor_dialog_PressTab(self._handle, flag(Backwards)))
 
     def KeyPress(self, KeyAscii):
         """A key was pressed in the box that has the focus. The key that counts: another one, or 0 for none."""
@@ -2949,7 +2949,7 @@ class ProbeFile(Object):
 
     def __init__(self, path, mayBeNew=False):
         result = c_uint64()
-        check(_library.quor_probe_file_create(text(path), -1 if mayBeNew else 0, byref(result)))
+        check(_library.quor_probe_file_create(text(path), flag(mayBeNew), byref(result)))
         self._own(result.value)
 
     @property

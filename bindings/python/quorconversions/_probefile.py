@@ -184,9 +184,21 @@ class ProbeFile(MutableMapping[str, Conversion]):
         if not isinstance(conversion, Conversion):
             raise TypeError(f"a Conversion is needed, not {conversion!r}")
         folded = _folded(section)
+        for name, (other, known_conversion, _) in self._probes.items():
+            if known_conversion is conversion and name != folded:
+                raise ValueError(f"this conversion is that of [{other}] already; duplicate makes another one")
         there = self._probes.get(folded)
         if there is None or there[1] is not conversion:
             self._probes[folded] = section, conversion, False
+
+    def duplicate(self, section: str, name: str) -> None:
+        """Writes the probe again under another name, as it stands in the file, at once. What is not saved yet must be
+        saved or discarded before: ValueError."""
+        if any(True for _ in self._steps()):
+            raise ValueError("there are changes that are not saved")
+        self._call(lambda: self._file.Copy(section, name))
+        self._probes = {}
+        self._before = {}
 
     def __delitem__(self, section: str) -> None:
         if section not in self:

@@ -18,6 +18,13 @@ from typing import Any, Dict, Iterable, List, Optional, Type, TypeVar, Union
 UNEXPECTED = -2147467259  # 0x80004005
 
 
+def flag(value: object) -> int:
+    """True is -1. A text is no flag: "False" would be one that is set."""
+    if isinstance(value, (str, bytes)):
+        raise TypeError(f"True or False is needed, not {value!r}")
+    return -1 if value else 0
+
+
 def _load() -> ctypes.CDLL:
     """The library of the variable QUORCONVERSIONS_LIBRARY, or that beside the package, or that of the system."""
     given = os.environ.get("QUORCONVERSIONS_LIBRARY")

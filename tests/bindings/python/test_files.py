@@ -3,7 +3,7 @@
 import pytest
 
 import quorconversions as quor
-from quorconversions import Conversion, ConversionType, ProbeFile
+from quorconversions import Conversion, ConversionType, ProbeFile, QuorError
 
 PROBE = "Probe 9 PRT-1182"
 
@@ -225,3 +225,33 @@ def test_a_relative_path_is_that_of_the_folder_in_which_it_was_opened(tmp_path, 
         monkeypatch.chdir("/")
         file["P"].type = ConversionType.VOLTS
     assert "ConversionType=11" in (tmp_path / "host.ini").read_text()
+
+
+def test_a_conversion_stands_for_one_probe_and_duplicate_makes_another(laboratory):
+    before = laboratory.read_bytes()
+    with ProbeFile(laboratory) as file:
+        probe = file["Probe 9 PRT-1182"]
+        with pytest.raises(ValueError, match=r"that of \[Probe 9 PRT-1182\] already; duplicate makes another one"):
+            file["Probe 99"] = probe
+    assert laboratory.read_bytes() == before
+    file = ProbeFile(laboratory)
+    file.duplicate("Probe 9 PRT-1182", "Probe 99")
+    file["Probe 99"].settings.R0 = 50
+    file.save()
+    assert (file["Probe 9 PRT-1182"].settings.R0, file["Probe 99"].settings.R0) == (100.0, 50)
+
+
+@pytest.mark.parametrize("section, key, value", [("Probe 13 THM-3302", "ConvType", 1),
+                                                 ("Probe 9 PRT-1182", "NumCoefficients", -1)])
+def test_settings_that_no_file_gives_back_are_not_saved(laboratory, section, key, value):
+    before = laboratory.read_bytes()
+    with pytest.raises(QuorError, match="do not go together"):
+        with ProbeFile(laboratory) as file:
+            setattr(file[section].settings, key, value)
+    assert laboratory.read_bytes() == before
+
+
+def test_a_text_is_no_flag(laboratory):
+    cvd = ProbeFile(laboratory)["Probe 9 PRT-1182"].settings
+    with pytest.raises(TypeError):
+        cvd.UsePolynomial = "False"
