@@ -74,15 +74,12 @@ void ClaimLines(const PlainIni& before, const Lines& expected, const PlainIni& a
               "no new key continues a value that ends in a backslash");
         ++(line.parsed.kind == IniLineKind::Blank ? blanks : added);
     };
-    // Blank lines that keep a key apart from such a value; which of them are new, and which the text had,
-    // nobody can tell.
+    // A blank line keeps a new key apart from a value that ends in a backslash, or did when the key was
+    // added. Which of those above a key are new, and which the text had, nobody can tell.
     std::size_t apart = 0;
     for (std::size_t number = 1; number < after.Lines().size(); ++number) {
-        const PlainIni::Line& line = after.Lines()[number - 1];
-        apart += line.parsed.kind == IniLineKind::Blank && isBelowBackslash(line) &&
-                         after.Lines()[number].parsed.kind == IniLineKind::Key
-                     ? 1
-                     : 0;
+        const bool isAboveKey = after.Lines()[number].parsed.kind == IniLineKind::Key;
+        apart += isAboveKey && after.Lines()[number - 1].parsed.kind == IniLineKind::Blank ? 1 : 0;
     }
     const bool hasLastEnd = before.Lines().empty() || !before.Lines().back().end.empty();
     auto next = after.Lines().begin();
