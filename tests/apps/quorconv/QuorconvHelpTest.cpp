@@ -46,7 +46,7 @@ protected:
     /// What bash completes at the end of a line.
     [[nodiscard]] std::string Completed(const std::string& words) const {
         const std::string completion =
-            std::filesystem::path(QUORCONV).parent_path().string() + "/quorconv.bash";
+            std::filesystem::path(QUORCONV).parent_path().string() + "/made/quorconv.bash";
         const Outcome run = Shell("source '" + completion + "'\nCOMP_WORDS=(" + words +
                                   ")\nCOMP_CWORD=$((${#COMP_WORDS[@]} - 1))\ncompopt() { :; "
                                   "}\n_quorconv\nprintf '%s\\n' \"${COMPREPLY[@]}\"");
