@@ -278,9 +278,11 @@ ReadOutcome ProbeFile::Read(std::wstring_view section, CQuorConversion& conversi
     if (!probe.standAlone)
         static_cast<void>(RequireType(probe));
     LinePlaces& places = Places();
-    const SectionIndex::Section& place = *places.Section(probe.section);
-    probe.section = places.NameOf(place);
-    probe.line = place.header.number;
+    WhereThereIsAFile([&] { // else the record is one that is held, and has no line yet
+        const SectionIndex::Section& place = *places.Section(probe.section);
+        probe.section = places.NameOf(place);
+        probe.line = place.header.number;
+    });
     const RecordReading reading(m_store, m_path, probe);
     probe.type = reading.Conversion().ConversionType();
     ReadOutcome outcome;

@@ -41,6 +41,17 @@ void WriteRecord(const std::shared_ptr<INIFile>& iniFile, const ListedProbe& pro
     }
 }
 
+/// None where there is no file yet.
+std::vector<std::wstring> SectionsOf(QuorIniFile::IniStore& store) {
+    try {
+        return store.Sections();
+    } catch (const QuorIniFile::QuorError& error) {
+        if (error.Number() != QuorIniFile::ERR_FILE_NOT_FOUND)
+            throw;
+        return {};
+    }
+}
+
 } // namespace
 
 DocumentSave::DocumentSave(ProbeFile& before, const std::vector<ListedProbe>& probes,
@@ -70,7 +81,7 @@ bool DocumentSave::WriteInto(ProbeFile& file, const OthersChanges& replaced) con
 void DocumentSave::WriteWhole(const ProbeFile& file, const ListedProbe& probe) {
     if (probe.content.replacesRecord && !MayHaveSettings(probe.typeInFile) &&
         MayHaveSettings(probe.content.type)) {
-        for (const std::wstring& section : file.Store()->Sections()) {
+        for (const std::wstring& section : SectionsOf(*file.Store())) {
             if (HoldsSettingsOf(section, probe.name)) // which is the host's
                 throw DocumentError{
                     Failure::CannotWrite,
