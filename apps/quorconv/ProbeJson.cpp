@@ -90,7 +90,7 @@ public:
 private:
     void NewLine() {
         if (!m_inOneLine)
-            text += "\n" + std::string(static_cast<std::size_t>(m_depth) * 2, ' ');
+            text.append(1, '\n').append(static_cast<std::size_t>(m_depth) * 2, ' ');
     }
     bool m_inOneLine;
     int m_depth;
