@@ -154,7 +154,7 @@ enum class IniEncoding : std::uint8_t { Utf8, Latin1 };
     const auto compare = [&](std::size_t from, std::size_t count) {
         for (std::size_t at = from; at < from + count; ++at) {
             const std::uint32_t byte = static_cast<unsigned char>(name[at]);
-            // NOLINTNEXTLINE(bugprone-signed-char-misuse,cert-str34-c): a wide character, whatever its sign
+            // NOLINTNEXTLINE(bugprone-signed-char-misuse): a wide character, whatever its sign
             bits |= (static_cast<std::uint32_t>(wanted[at]) ^ byte) | (byte & 0x80U);
         }
     };

@@ -126,7 +126,7 @@ std::string ToPrintable(std::wstring_view text) { return ToUtf8(EscapeControls(t
 bool IsAscii(std::wstring_view text) {
     std::uint32_t bits = 0; // of all characters at once: a look at each would take longer
     for (const wchar_t c : text)
-        bits |= static_cast<std::uint32_t>(c); // NOLINT(bugprone-signed-char-misuse,cert-str34-c): as above
+        bits |= static_cast<std::uint32_t>(c); // NOLINT(bugprone-signed-char-misuse): as above
     return bits < 0x80;
 }
 
@@ -137,7 +137,7 @@ bool CopyAscii(std::wstring_view text, std::string& bytes) {
     char* const to = bytes.data();
     std::uint32_t bits = 0; // of all characters at once, as above
     for (std::size_t at = 0; at < text.size(); ++at) {
-        // NOLINTNEXTLINE(bugprone-signed-char-misuse,cert-str34-c): a wide character, whatever its sign
+        // NOLINTNEXTLINE(bugprone-signed-char-misuse): a wide character, whatever its sign
         const auto code = static_cast<std::uint32_t>(from[at]);
         bits |= code;
         to[at] = static_cast<char>(code);

@@ -40,7 +40,7 @@ inline constexpr std::uint32_t noCharacter = 0xFFFFFFFF;
 /// bits a pair of surrogates is one code; a wider unit is a code of its own.
 template <class Unit>
 [[nodiscard]] std::uint32_t NextCode(std::basic_string_view<Unit> text, std::size_t& at) {
-    // NOLINTNEXTLINE(bugprone-signed-char-misuse,cert-str34-c): a wide character, whatever its sign
+    // NOLINTNEXTLINE(bugprone-signed-char-misuse): a wide character, whatever its sign
     auto code = static_cast<std::uint32_t>(text[at++]);
     if constexpr (sizeof(Unit) == 2) {
         code &= 0xFFFFU;

@@ -369,7 +369,7 @@ TEST_F(IniStoreHostile, AMillionKeysOfOneSectionAreReadAndWritten) {
 }
 
 TEST_F(IniStoreHostile, NoiseIsNeverMoreThanNoise) {
-    std::mt19937 random(1); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same noise in every run
+    std::mt19937 random(1); // NOLINT(cert-msc51-cpp): the same noise in every run
     const std::string alphabet = "[[]]==;#\"\\\n\n\n\r \tAxy1\xC3\xB6\xF6\xEF\xBB\xBF"s + '\0';
     store.Hold();
     for (int i = 0; i < 2000; ++i) {

@@ -202,7 +202,7 @@ TEST(IniValue, QuotedTextOfOtherProgramsIsReadAsTheyMeanIt) {
 }
 
 TEST(IniValue, EveryWideStringComesBackFromEitherEncoding) {
-    std::mt19937 random(1); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same strings in every run
+    std::mt19937 random(1); // NOLINT(cert-msc51-cpp): the same strings in every run
     const wchar_t special[] = L" \t\"\\;#=\r\n{}u[]\u00B0\u00C3\u00E4\u2126n";
     for (int i = 0; i < 100'000; ++i) {
         std::wstring text(random() % 8, L'\0');
