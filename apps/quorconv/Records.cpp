@@ -71,6 +71,12 @@ void ValueRules::Declare(Arguments& arguments) {
     arguments.Flag("--allow-nan", allowsNan, "Take NaN and Infinity for numbers");
 }
 
+void ValueRules::DeclareDrop(Arguments& arguments) {
+    arguments.Flag("--drop", drops,
+                   "Let go of values that the new count, order or range leaves out; without it,\n"
+                   "such a change is refused, and names them");
+}
+
 RecordForm FormOf(const RecordImage& image) {
     const auto flag =
         std::find_if(image.Entries().begin(), image.Entries().end(), [](const RecordImage::Entry& entry) {
@@ -115,70 +121,174 @@ std::wstring MeantKey(const Probe& probe, const RecordImage& image, const std::w
     return named.empty() ? DidYouMean(typed, known) : named + L"?";
 }
 
-// NOLINTNEXTLINE(readability-function-cognitive-complexity): the steps of one assignment in their order
+namespace {
+
+using Entries = std::vector<RecordImage::Entry>;
+
+/// Whether something is lost with a value. Counts, codes and flags follow from others where nobody gives
+/// them.
+bool SaysSomething(const Value& value) {
+    const double* const number = std::get_if<double>(&value);
+    const std::wstring* const text = std::get_if<std::wstring>(&value);
+    return (number && *number != 0.0) || (text && !text->empty());
+}
+
+/// One assignment of values to the settings of a probe: its steps, in their order.
+class Assigning {
+public:
+    Assigning(Probe& probe, const std::wstring& file, const std::vector<Assignment>& assignments,
+              const ValueRules& rules)
+        : m_probe(probe),
+          m_settings(*probe.Settings()),
+          m_place(Place(file, probe.Section()) + L" "),
+          m_rules(rules),
+          m_pending(assignments),
+          m_image(RecordImage::Of(m_settings)),
+          m_before(m_image->Entries()) {
+        probe.ForgetMessages();
+    }
+
+    /// Gives the settings the values. A value may need another one first (a coefficient past the count needs
+    /// the count), so those that have no place yet are tried again as long as new places appear.
+    void Assign() {
+        while (!m_pending.empty()) {
+            const auto unplaced =
+                std::stable_partition(m_pending.begin(), m_pending.end(), [&](const Assignment& assignment) {
+                    return m_image->Find(assignment.key) != nullptr;
+                });
+            if (unplaced == m_pending.begin())
+                throw Problem{m_place + m_pending.front().key +
+                              L": there is no such key in a record of this type" +
+                              MeantKey(m_probe, *m_image, m_pending.front().key)};
+            std::for_each(m_pending.begin(), unplaced,
+                          [this](const Assignment& assignment) { Put(assignment); });
+            m_pending.erase(m_pending.begin(), unplaced);
+            RecordImage::Apply(m_image, m_settings);
+            if (!m_probe.Messages().empty())
+                throw Problem{m_place + L"the values are refused", Reasons(m_probe.Messages(), {})};
+            m_image = RecordImage::Of(m_settings);
+        }
+        RequireTaken();
+    }
+
+    /// Raises Problem for a value that was not given.
+    void RequireAll() const {
+        for (std::size_t at = 0; at < Result().size(); ++at)
+            if (!m_isAssigned[at])
+                throw Problem{m_place + Result()[at].path +
+                              L": the value is missing, and the probe is a new one"};
+    }
+
+    /// Raises Problem with the values that the record has lost, or that are others now, without being given.
+    void RequireNothingLost() const {
+        std::vector<std::wstring> lost;
+        for (const RecordImage::Entry& entry : m_before) {
+            const RecordImage::Entry* const stored = m_image->Find(entry.path);
+            const bool isKept =
+                stored && (m_isAssigned[PlaceOf(stored)] || SameValue(stored->value, entry.value));
+            if (!isKept && SaysSomething(entry.value))
+                lost.push_back(entry.path + L"=" + ToText(entry.value));
+        }
+        RefuseLoss(m_place, std::move(lost));
+    }
+
+    [[nodiscard]] Entries Changed() const {
+        Entries changed;
+        for (std::size_t at = 0; at < Result().size(); ++at) {
+            const bool isSame = at < m_before.size() && m_before[at].path == Result()[at].path &&
+                                SameValue(m_before[at].value, Result()[at].value);
+            if (!isSame)
+                changed.push_back(Result()[at]);
+        }
+        return changed;
+    }
+
+    static void RefuseLoss(const std::wstring& place, std::vector<std::wstring> lost) {
+        if (!lost.empty())
+            throw Problem{place + L"values of the probe would be lost; --drop lets them go", std::move(lost)};
+    }
+
+private:
+    [[nodiscard]] const Entries& Result() const { return m_image->Entries(); }
+    [[nodiscard]] std::size_t PlaceOf(const RecordImage::Entry* entry) const {
+        return static_cast<std::size_t>(entry - Result().data());
+    }
+
+    void Put(const Assignment& assignment) {
+        RecordImage::Entry& entry = *m_image->Find(assignment.key);
+        const auto value = ParseAs(entry.value, assignment.value);
+        if (!value)
+            throw Problem{m_place + assignment.key + L": " + WhatIsWrong(entry.value, assignment.value)};
+        const double* const number = std::get_if<double>(&*value);
+        if (number && !std::isfinite(*number) && !m_rules.allowsNan)
+            throw Problem{m_place + assignment.key + L": " + ToText(*value) +
+                          L" gives no temperature; --allow-nan stores it"};
+        const auto* const code = std::get_if<std::int16_t>(&*value);
+        if (code && !SameValue(entry.value, *value))
+            RequireCode(entry.path, *code);
+        entry.value = *value;
+        m_assigned.push_back(entry);
+    }
+
+    /// Raises Problem for a code that stands for nothing, and for a count below zero, which the settings
+    /// would refuse in words that say nothing of it.
+    void RequireCode(const std::wstring& path, std::int16_t code) const {
+        const RecordKey* const key =
+            FindRecordKey(m_probe.Conversion().ConversionType(), path, RecordForm::Any);
+        if (key && (key->choices.empty() ? code < 0 : ChoiceName(*key, code).empty()))
+            throw Problem{m_place + path + L": " + std::to_wstring(code) + NotInRange(key)};
+    }
+
+    [[nodiscard]] static std::wstring NotInRange(const RecordKey* key) {
+        return L" is not accepted" + (key && !key->range.empty() ? L"; range: " + key->range : L"");
+    }
+
+    /// Raises Problem for a value that the settings have not taken. Of what was given several times the last
+    /// one counts.
+    void RequireTaken() {
+        m_isAssigned.assign(Result().size(), false);
+        for (auto entry = m_assigned.rbegin(); entry != m_assigned.rend(); ++entry) {
+            const RecordImage::Entry* const stored = m_image->Find(entry->path);
+            if (stored && m_isAssigned[PlaceOf(stored)])
+                continue;
+            if (!stored || !SameValue(stored->value, entry->value))
+                throw Problem{m_place + entry->path + L": the value " + ToText(entry->value) +
+                              NotInRange(std::holds_alternative<std::int16_t>(entry->value)
+                                             ? FindRecordKey(m_probe.Conversion().ConversionType(),
+                                                             entry->path, RecordForm::Any)
+                                             : nullptr)};
+            m_isAssigned[PlaceOf(stored)] = true;
+        }
+    }
+
+    Probe& m_probe;
+    SettingsObject& m_settings;
+    std::wstring m_place;
+    const ValueRules& m_rules;
+    std::vector<Assignment> m_pending;
+    std::shared_ptr<RecordImage> m_image; // of the settings as they are now
+    Entries m_before;
+    Entries m_assigned;
+    std::vector<bool> m_isAssigned; // of the entries of m_image
+};
+
+} // namespace
+
 std::vector<RecordImage::Entry> Assign(Probe& probe, const std::wstring& file,
                                        const std::vector<Assignment>& assignments, const ValueRules& rules,
                                        Assigned which) {
-    const std::wstring place = Place(file, probe.Section()) + L" ";
-    SettingsObject* const settings = probe.Settings();
-    if (!settings && assignments.empty())
+    if (!probe.Settings() && assignments.empty())
         return {};
-    if (!settings)
-        throw Problem{place + assignments.front().key + L": " + probe.TypeName() + L" has no settings"};
-    probe.ForgetMessages();
-    auto image = RecordImage::Of(*settings);
-    const std::vector<RecordImage::Entry> before = image->Entries();
-    // A value may need another one first (a coefficient past the count needs the count), so those that have
-    // no place yet are tried again as long as new places appear.
-    std::vector<Assignment> pending = assignments;
-    std::vector<RecordImage::Entry> assigned;
-    while (!pending.empty()) {
-        const auto unplaced = std::stable_partition(pending.begin(), pending.end(), [&](const Assignment& a) {
-            return image->Find(a.key) != nullptr;
-        });
-        if (unplaced == pending.begin())
-            throw Problem{place + pending.front().key + L": there is no such key in a record of this type" +
-                          MeantKey(probe, *image, pending.front().key)};
-        for (auto assignment = pending.begin(); assignment != unplaced; ++assignment) {
-            RecordImage::Entry& entry = *image->Find(assignment->key);
-            const auto value = ParseAs(entry.value, assignment->value);
-            if (!value)
-                throw Problem{place + assignment->key + L": " + WhatIsWrong(entry.value, assignment->value)};
-            const double* const number = std::get_if<double>(&*value);
-            if (number && !std::isfinite(*number) && !rules.allowsNan)
-                throw Problem{place + assignment->key + L": " + ToText(*value) +
-                              L" gives no temperature; --allow-nan stores it"};
-            entry.value = *value;
-            assigned.push_back(entry);
-        }
-        pending.erase(pending.begin(), unplaced);
-        RecordImage::Apply(image, *settings);
-        if (!probe.Messages().empty())
-            throw Problem{place + L"the values are refused", Reasons(probe.Messages(), {})};
-        image = RecordImage::Of(*settings);
-    }
-    const std::vector<RecordImage::Entry>& result = image->Entries();
-    std::vector<bool> isAssigned(result.size(), false); // of what was given several times the last one counts
-    std::reverse(assigned.begin(), assigned.end());
-    for (const RecordImage::Entry& entry : assigned) {
-        const RecordImage::Entry* const stored = image->Find(entry.path);
-        const auto at = stored ? static_cast<std::size_t>(stored - result.data()) : 0;
-        if (stored && isAssigned[at])
-            continue;
-        if (!stored || !SameValue(stored->value, entry.value))
-            throw Problem{place + entry.path + L": the value " + ToText(entry.value) + L" is not accepted"};
-        isAssigned[at] = true;
-    }
-    std::vector<RecordImage::Entry> changed;
-    for (std::size_t at = 0; at < result.size(); ++at) {
-        if (which == Assigned::All && !isAssigned[at])
-            throw Problem{place + result[at].path + L": the value is missing, and the probe is a new one"};
-        const bool isSame = at < before.size() && before[at].path == result[at].path &&
-                            SameValue(before[at].value, result[at].value);
-        if (!isSame)
-            changed.push_back(result[at]);
-    }
-    return changed;
+    if (!probe.Settings())
+        throw Problem{Place(file, probe.Section()) + L" " + assignments.front().key + L": " +
+                      probe.TypeName() + L" has no settings"};
+    Assigning assigning(probe, file, assignments, rules);
+    assigning.Assign();
+    if (which == Assigned::All)
+        assigning.RequireAll();
+    else if (!rules.drops)
+        assigning.RequireNothingLost();
+    return assigning.Changed();
 }
 
 namespace {
@@ -193,6 +303,17 @@ bool ReadWhole(ProbeFile& file, Probe& probe) {
            probe.Messages().empty();
 }
 
+/// Selects the section of an entry in a record of settings, and returns its key there.
+std::wstring SelectKey(QuorIniFile::INIFile& store, const std::wstring& settings, const std::wstring& path) {
+    const auto slash = path.find(L'/');
+    if (slash == std::wstring::npos) {
+        store.SetSection(settings);
+        return path;
+    }
+    store.SetSection(settings + std::wstring(nestedMark) + path.substr(0, slash));
+    return path.substr(slash + 1);
+}
+
 void WriteEntry(QuorIniFile::INIFile& store, const std::wstring& settings, const RecordImage::Entry& entry) {
     struct Visitor {
         QuorIniFile::INIFile& store;
@@ -202,26 +323,46 @@ void WriteEntry(QuorIniFile::INIFile& store, const std::wstring& settings, const
         void operator()(double value) const { store.WriteDouble(key, value, L""); }
         void operator()(bool value) const { store.WriteBoolean(key, value); }
     };
-    const auto slash = entry.path.find(L'/');
-    const bool isNested = slash != std::wstring::npos;
-    store.SetSection(isNested ? settings + std::wstring(nestedMark) + entry.path.substr(0, slash) : settings);
-    std::visit(Visitor{store, isNested ? entry.path.substr(slash + 1) : entry.path}, entry.value);
+    const std::wstring key = SelectKey(store, settings, entry.path);
+    std::visit(Visitor{store, key}, entry.value);
+}
+
+/// Raises Problem with the values that stand in the file beside a count which left them out, and that a
+/// greater count would write over with 0.
+void RequireNothingWrittenOver(ProbeFile& file, const std::wstring& section, const std::wstring& settings,
+                               const Entries& changed, const std::vector<Assignment>& assignments) {
+    std::vector<std::wstring> lost;
+    for (const RecordImage::Entry& entry : changed) {
+        const bool isGiven =
+            std::any_of(assignments.begin(), assignments.end(),
+                        [&](const Assignment& given) { return EqualFolded(given.key, entry.path); });
+        std::wstring text;
+        if (isGiven || !file.Store()->ReadString(SelectKey(*file.Store(), settings, entry.path), text))
+            continue;
+        const auto present = ParseAs(entry.value, text);
+        if (!text.empty() && !(present && (SameValue(*present, entry.value) || !SaysSomething(*present))))
+            lost.push_back(entry.path + L"=" + text);
+    }
+    Assigning::RefuseLoss(Place(file.Path(), section) + L" ", std::move(lost));
 }
 
 } // namespace
 
 void AssignInFile(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& assignments,
                   const ValueRules& rules) {
-    Probe whole(section);
-    if (ReadWhole(file, whole)) {
-        const std::wstring settings = SettingsSection(section);
-        for (const RecordImage::Entry& entry : Assign(whole, file.Path(), assignments, rules))
-            WriteEntry(*file.Store(), settings, entry);
-        return;
-    }
-    Probe probe = ReadProbe(file, section, assignments); // which tells what is wrong with it
-    Assign(probe, file.Path(), assignments, rules);
-    file.Write(section, probe.Conversion());
+    Probe probe(section);
+    const bool isWhole = ReadWhole(file, probe);
+    if (!isWhole)
+        probe = ReadProbe(file, section, assignments); // which tells what is wrong with it
+    const Entries changed = Assign(probe, file.Path(), assignments, rules);
+    const std::wstring settings =
+        isWhole || !file.Find(section)->standAlone ? SettingsSection(section) : section;
+    if (!rules.drops)
+        RequireNothingWrittenOver(file, section, settings, changed, assignments);
+    if (!isWhole)
+        return file.Write(section, probe.Conversion());
+    for (const RecordImage::Entry& entry : changed)
+        WriteEntry(*file.Store(), settings, entry);
 }
 
 void WriteChanges(const Probe& probe, ProbeFile& before, ProbeFile& now) {

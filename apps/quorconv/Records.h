@@ -25,8 +25,11 @@ struct Assignment {
 /// What values may be given.
 struct ValueRules {
     bool allowsNan = false; ///< NaN and infinities, too
+    bool drops = false;     ///< values that are not 0 may be lost to a smaller count or another range
     /// Declares "--allow-nan".
     void Declare(Arguments& arguments);
+    /// Declares "--drop".
+    void DeclareDrop(Arguments& arguments);
 };
 
 /// "file: [section]", with which a failure begins.
@@ -52,7 +55,7 @@ enum class Assigned : std::uint8_t {
 
 /// Gives the settings the values of the assignments, through the object itself, so that its own rules decide.
 /// Returns the entries of the record that are new ones, or have other values. Raises Problem when one of them
-/// is not taken as it is. `file` is told then.
+/// is not taken as it is, and when the record would lose others by it. `file` is told then.
 std::vector<QuorProbeFile::RecordImage::Entry> Assign(Probe& probe, const std::wstring& file,
                                                       const std::vector<Assignment>& assignments,
                                                       const ValueRules& rules,

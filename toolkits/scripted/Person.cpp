@@ -166,11 +166,20 @@ std::wstring Person::Advice(std::wstring_view box) const {
     return static_cast<const TextBox&>(control).Advice();
 }
 
+std::vector<std::wstring> Person::AllAdvice() const {
+    std::vector<std::wstring> all;
+    for (const auto& control : m_dialog.Controls()) {
+        if (control->Kind() != ControlKind::TextBox)
+            continue;
+        if (const std::wstring& advice = static_cast<const TextBox&>(*control).Advice(); !advice.empty())
+            all.push_back(advice);
+    }
+    return all;
+}
+
 bool Person::SeesAdvice(std::wstring_view advice) const {
-    return std::any_of(m_dialog.Controls().begin(), m_dialog.Controls().end(), [&](const auto& control) {
-        return control->Kind() == ControlKind::TextBox &&
-               static_cast<const TextBox&>(*control).Advice() == advice;
-    });
+    const auto all = AllAdvice();
+    return std::find(all.begin(), all.end(), advice) != all.end();
 }
 
 std::wstring Person::Focused() const {

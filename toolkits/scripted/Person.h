@@ -59,6 +59,8 @@ public:
     [[nodiscard]] std::wstring Focused() const;
     /// What the dialog advises of the text of a box; empty for nothing.
     [[nodiscard]] std::wstring Advice(std::wstring_view box) const;
+    /// What it advises of all boxes, in tab order.
+    [[nodiscard]] std::vector<std::wstring> AllAdvice() const;
     /// Whether the dialog gives this advice of any box.
     [[nodiscard]] bool SeesAdvice(std::wstring_view advice) const;
     /// The whole dialog as text: its title, and a line a row with what stands in it; advice stands behind its

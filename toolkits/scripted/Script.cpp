@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <iterator>
+#include <map>
+#include <optional>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -69,7 +72,54 @@ std::wstring Unescaped(std::wstring_view text) {
     return result;
 }
 
+/// Of what is expected the text of an advice; nothing for a message.
+std::optional<std::wstring> AdviceIn(std::wstring_view expected) {
+    constexpr std::wstring_view advice = L"advice ";
+    if (!expected.starts_with(advice))
+        return std::nullopt;
+    return std::wstring(Trimmed(expected.substr(advice.size())));
+}
+
+/// Tells the platform of each advice that a person has seen and the script has not expected.
+class AdviceLog {
+public:
+    AdviceLog(ScriptedPlatform& platform, const Person& person) : m_platform(platform), m_person(person) {
+        m_platform.ForgetAdvice();
+    }
+    ~AdviceLog() {
+        for (auto& [advice, place] : m_seen)
+            m_platform.TellAdvice(place.empty() ? std::move(advice) : advice + L" (" + place + L")");
+    }
+    AdviceLog(const AdviceLog&) = delete;
+    AdviceLog& operator=(const AdviceLog&) = delete;
+
+    void Begin(std::size_t line, const std::wstring& command, const std::optional<std::wstring>& expected) {
+        m_place = L"line " + std::to_wstring(line) + L": " + command;
+        if (!expected)
+            return;
+        m_expected.insert(*expected);
+        m_seen.erase(*expected);
+    }
+    /// At what stands on the screen now.
+    void Look() {
+        for (std::wstring& advice : m_person.AllAdvice())
+            if (!m_expected.contains(advice))
+                m_seen.try_emplace(std::move(advice), m_place);
+    }
+
+private:
+    ScriptedPlatform& m_platform;
+    const Person& m_person;
+    std::wstring m_place; // of the line that is carried out; empty before the first one
+    std::map<std::wstring, std::wstring> m_seen; // with its place
+    std::set<std::wstring> m_expected;
+};
+
 } // namespace
+
+std::optional<std::wstring> Script::Line::AnnouncedAdvice() const {
+    return verb == L"expect" ? AdviceIn(rest) : std::nullopt;
+}
 
 ScriptError::ScriptError(std::size_t lineNumber, const std::wstring& what)
     : std::runtime_error(QuorIniFile::ToUtf8(L"line " + std::to_wstring(lineNumber) + L": " + what)),
@@ -127,12 +177,11 @@ const Script::Verb* Script::FindVerb(const std::wstring& name) {
          [](const Verb::Stage& stage, const std::wstring&) { stage.platform.CancelFile(); }},
         {L"expect", true,
          [](const Verb::Stage& stage, const std::wstring& rest) {
-             constexpr std::wstring_view advice = L"advice ";
-             if (!rest.starts_with(advice))
-                 return stage.platform.ExpectMessage(rest);
-             const std::wstring text(Trimmed(std::wstring_view(rest).substr(advice.size())));
-             if (!stage.person.SeesAdvice(text))
-                 throw CannotDo(L"there is no advice \"" + text + L"\"");
+             const auto advice = AdviceIn(rest);
+             if (!advice)
+                 stage.platform.ExpectMessage(rest);
+             else if (!stage.person.SeesAdvice(*advice))
+                 throw CannotDo(L"there is no advice \"" + *advice + L"\"");
          }},
         {L"show", false,
          [](const Verb::Stage& stage, const std::wstring&) { stage.print(stage.person.Screen()); }},
@@ -170,6 +219,8 @@ void Script::PlayOn(ScriptedPlatform& platform, std::function<void(const std::ws
             throw CannotDo(L"in line " + std::to_wstring(line.number) + L": " + line.verb + L" " + line.rest);
         };
         std::vector<const Line*> announced; // the messages that were, in that order
+        AdviceLog advice(platform, person);
+        advice.Look();
         const auto endAtWhatDidNotCome = [&] {
             platform.ComplainOfWhatDidNotCome();
             if (const std::size_t missing = platform.MessagesToCome(); missing > 0)
@@ -178,6 +229,7 @@ void Script::PlayOn(ScriptedPlatform& platform, std::function<void(const std::ws
         for (const Line& line : lines) {
             const std::size_t before = platform.Complaints().size();
             const std::size_t toCome = platform.MessagesToCome();
+            advice.Begin(line.number, line.verb + L" " + line.rest, line.AnnouncedAdvice());
             try {
                 FindVerb(line.verb)->run({person, platform, print}, line.rest);
             } catch (const CannotDo& error) {
@@ -187,6 +239,7 @@ void Script::PlayOn(ScriptedPlatform& platform, std::function<void(const std::ws
             }
             if (platform.Complaints().size() > before)
                 endAt(line);
+            advice.Look();
             if (platform.MessagesToCome() > toCome)
                 announced.push_back(&line);
         }

@@ -2,6 +2,7 @@
 
 #include "toolkits/scripted/ScriptedPlatform.h"
 
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -42,7 +43,8 @@ public:
     /// Plays the script in the next dialog that `platform` shows. What `show` prints goes to `print`. What
     /// the person cannot do ends the script; it, and messages that were not expected, are complaints of the
     /// platform, with the number of the line; so are, at the end, messages and file dialogs that were
-    /// announced and did not come, and a dialog that is still open.
+    /// announced and did not come, and a dialog that is still open. Advice that was seen and not expected is
+    /// ScriptedPlatform::UnexpectedAdvice: who stores what was accepted looks at it first.
     void PlayOn(ScriptedPlatform& platform, std::function<void(const std::wstring&)> print) const;
 
 private:
@@ -50,6 +52,7 @@ private:
         std::size_t number;
         std::wstring verb;
         std::wstring rest;
+        [[nodiscard]] std::optional<std::wstring> AnnouncedAdvice() const;
     };
     struct Verb;
     [[nodiscard]] static const Verb* FindVerb(const std::wstring& name);

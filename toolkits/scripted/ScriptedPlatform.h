@@ -46,6 +46,11 @@ public:
     void ComplainOfWhatDidNotCome();
     /// How many of the announced messages have not come yet.
     [[nodiscard]] std::size_t MessagesToCome() const { return m_expected.size(); }
+    /// What the dialog has advised while the last script was played, without that which the script expected;
+    /// each with the line after which it came.
+    [[nodiscard]] const std::vector<std::wstring>& UnexpectedAdvice() const { return m_advice; }
+    void TellAdvice(std::wstring text) { m_advice.push_back(std::move(text)); }
+    void ForgetAdvice() { m_advice.clear(); }
     void Complain(std::wstring text) { m_complaints.push_back(std::move(text)); }
     /// Whether all answers, dialogs and expected messages were used up, without a complaint.
     [[nodiscard]] bool NothingLeft() const {
@@ -89,6 +94,7 @@ private:
     bool m_expectsMessages = false;
     std::deque<std::wstring> m_expected;
     std::vector<std::wstring> m_complaints;
+    std::vector<std::wstring> m_advice;
     std::function<std::shared_ptr<QuorIniFile::INIFile>()> m_iniFiles;
     std::function<void()> m_whileShown;
     EMousePointer m_pointer = POINTER_DEFAULT;

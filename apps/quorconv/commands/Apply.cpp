@@ -20,6 +20,7 @@ class Apply final : public Command {
             "but the file; a name with blanks stands in double quotes, and \"#\" begins a remark.\n"
             "Without it the standard input");
         m_rules.Declare(arguments);
+        m_rules.DeclareDrop(arguments);
         DeclareDryRun(arguments, m_isDryRun);
     }
 

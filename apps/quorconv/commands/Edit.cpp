@@ -93,8 +93,13 @@ class Edit final : public Command {
         if (const auto& complaints = probe.Screen().Complaints(); !complaints.empty())
             throw Problem{Place(m_path, m_section) + L": the dialog did not go as the script says",
                           complaints};
-        if (accepted)
-            WriteEdited(probe, file);
+        if (!accepted)
+            return;
+        if (const auto& advice = probe.Screen().UnexpectedAdvice(); !advice.empty())
+            throw Problem{Place(m_path, m_section) +
+                              L": nothing was written, because of advice that the script does not expect",
+                          advice};
+        WriteEdited(probe, file);
     }
 };
 

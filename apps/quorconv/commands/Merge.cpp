@@ -147,7 +147,7 @@ class Merge final : public Command {
         for (const ValueChange& change : changes)
             values.push_back({change.key, ToText(*change.after)});
         Probe probe = ReadProbe(file, their.section, values);
-        Assign(probe, file.Path(), values, ValueRules{true});
+        Assign(probe, file.Path(), values, ValueRules{true, true});
         file.Write(their.section, probe.Conversion());
     }
 };

@@ -83,6 +83,7 @@ class Put final : public Command {
         arguments.Option("--type", "TYPE", m_type, Meaning::Type, "The type of a table without the column");
         arguments.Choice("--decimal", m_decimal, {"point", "comma"}, "The decimal sign of the table");
         m_rules.Declare(arguments);
+        m_rules.DeclareDrop(arguments);
         DeclareDryRun(arguments, m_isDryRun);
     }
 

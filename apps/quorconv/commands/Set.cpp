@@ -31,6 +31,7 @@ class Set final : public Command {
                          "A file of lines SECTION KEY=VALUE..., all of which are done, or none;\n"
                          "a name with blanks stands in double quotes");
         m_rules.Declare(arguments);
+        m_rules.DeclareDrop(arguments);
         DeclareDryRun(arguments, m_isDryRun);
     }
 
@@ -68,7 +69,7 @@ const CommandRow setRow{
     "set",
     "Change values of a probe, or of all probes that are like a pattern",
     {"quorconv set laboratory.ini \"Probe 1 CSP-0417\" \"Low Range/Coefficients0\"=-2.1E-4",
-     "quorconv set laboratory.ini \"Probe 1* PRT-*\" --type cvd UsePolynomial=True --dry-run"},
+     "quorconv set laboratory.ini \"Probe 1* PRT-*\" --type cvd NumCoefficients=4 --dry-run"},
     Create<Set>};
 
 } // namespace quorconv

@@ -128,7 +128,7 @@ TEST_F(QuorconvCompareTest, NamesAConflictOfTypesOfSizesAndOfNewProbes) {
     ExpectFine({"set", "ours.ini", "B", "RTPW=1"});
     ExpectConflicts("  [B] ConversionType: changed in one file, and the record in the other\n");
     folder.Write("theirs.ini", base);
-    ExpectFine({"set", "theirs.ini", "A", "NumCoefficients=1"});
+    ExpectFine({"set", "theirs.ini", "A", "NumCoefficients=1", "--drop"});
     ExpectFine({"set", "ours.ini", "A", "Coefficients0=101"});
     ExpectConflicts(
         "  [A] NumCoefficients: changed in theirs.ini, and other values of the probe in the other file\n");

@@ -56,8 +56,22 @@ TEST_F(QuorconvEditTest, WritesWhatWasTypedAndAcceptedAndNothingElse) {
 }
 
 TEST_F(QuorconvEditTest, WritesTheNumberThatAPasteMeans) {
-    ExpectFine(Playing("paste R0 = 1 234.5 \u03A9 into R0\nclick OK\n"));
+    ExpectFine(Playing("paste R0 = 1 234.5 \u03A9 into R0\nexpect advice Pasted as 1234.5\nclick OK\n"));
     EXPECT_EQ(folder.Read("host.ini"), Replaced(before, "=100.0\n", "=1234.5\n"));
+}
+
+TEST_F(QuorconvEditTest, WritesNothingWhenTheDialogAdvisesWhatTheScriptDoesNotExpect) {
+    const std::string refusal = "quorconv: host.ini: [Probe 1]: nothing was written, because of advice that "
+                                "the script does not expect\n";
+    const std::string separator = "The decimal separator here is the point";
+    ExpectRefused(Playing("type R0 100,5\nclick OK"),
+                  refusal + "  " + separator + " (line 1: type R0 100,5)\n");
+    ExpectRefused(Playing("paste 100,012 into R0\ntype ALPHA 0.0039\nclick OK"),
+                  refusal + "  Nothing pasted: 100,012 can be read in two ways (line 1: paste 100,012 into "
+                            "R0)\n");
+    EXPECT_EQ(folder.Read("host.ini"), before);
+    ExpectFine(Playing("type R0 100,5\nescape"));
+    EXPECT_EQ(folder.Read("host.ini"), before);
 }
 
 TEST_F(QuorconvEditTest, PrintsAndExpectsWhatTheDialogAdvises) {

@@ -252,6 +252,16 @@ TEST_F(ScriptTest, ExpectsAdvice) {
     EXPECT_EQ(platform->Complaints(), Texts{});
 }
 
+TEST_F(ScriptTest, TellsThePlatformOfAdviceThatTheScriptDoesNotExpect) {
+    EXPECT_TRUE(Edit(L"type DELTA 1.5\npaste 100,012 into R0\ntype R0 7\npaste 1 234.5 into ALPHA\n"
+                     L"expect advice Pasted as 1234.5\nclick OK"));
+    EXPECT_EQ(platform->Complaints(), Texts{});
+    EXPECT_EQ(platform->UnexpectedAdvice(),
+              Texts{L"Nothing pasted: 100,012 can be read in two ways (line 2: paste 100,012 into R0)"});
+    EXPECT_FALSE(Edit(L"escape"));
+    EXPECT_EQ(platform->UnexpectedAdvice(), Texts{}) << "that was another script";
+}
+
 TEST_F(ScriptTest, EndsAtAnAdviceThatIsNotThere) {
     EXPECT_FALSE(Edit(L"expect advice Boo\nclick OK"));
     EXPECT_EQ(platform->Complaints().at(0), L"there is no advice \"Boo\"");
