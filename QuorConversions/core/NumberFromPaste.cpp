@@ -84,6 +84,11 @@ constexpr Text tellingBeginnings[] = {L"ln",       L"log",         L"exp",      
                                       L"kilo",     L"milli",       L"micro",     L"mega",        L"nano",
                                       L"thousand", L"tausendstel", L"hundredth", L"hundertstel", L"promille",
                                       L"prozent",  L"negativ"};
+/// Words in which a letter that may begin a factor stands in front of a number, and begins none.
+constexpr Text wordsBeforeNumbers[] = {
+    L"temperature", L"voltage", L"range", L"value", L"probe", L"type",  L"line",  L"page",  L"table",
+    L"side",        L"stage",   L"index", L"zeile", L"seite", L"reihe", L"sonde", L"stufe", L"grad",
+};
 /// What is a prefix of a unit where it stands behind a name by itself: "R0 (k)", "R0 k".
 constexpr Text lonePrefixes[] = {L"k", L"m", L"M", L"G", L"\u03BC", L"u", L"n"};
 
@@ -403,7 +408,7 @@ bool IsPlainWord(Text word, bool first) {
         reader.rest.remove_prefix(1);
     }
     const Text number = reader.TakeAllOf(allDigits);
-    reader.TakeAllOf(subscripts);
+    const bool isNumbered = !reader.TakeAllOf(subscripts).empty() || !number.empty();
     if (!reader.rest.empty())
         return false;
     if (letters.empty()) // "Temperature 2"
@@ -413,7 +418,10 @@ bool IsPlainWord(Text word, bool first) {
     };
     const bool isFactor =
         !first && (letters == L"x" || (letters == L"e" && !number.empty()) || isOneOf(word, lonePrefixes));
-    return number.size() <= 2 && !isFactor && !isOneOf(letters, tellingWords) &&
+    const bool mayEndInFactor = letters.size() > 1 && isNumbered && // "Ax10", "Ae3"
+                                Text(L"edx").find(letters.back()) != Text::npos &&
+                                !isOneOf(letters, wordsBeforeNumbers);
+    return number.size() <= 2 && !isFactor && !mayEndInFactor && !isOneOf(letters, tellingWords) &&
            std::none_of(std::begin(tellingBeginnings), std::end(tellingBeginnings),
                         [&](Text beginning) { return letters.starts_with(beginning); });
 }
@@ -485,7 +493,7 @@ PastedNumber NumberFromPaste(std::wstring_view text, std::wstring_view separator
         behindEquals = quantity[end] == L'=';
         quantity = Trimmed(quantity.substr(end + 1), L" \u2003");
     }
-    PastedNumber result = ReadQuantity(quantity, separator.front(), behindEquals);
+    PastedNumber result = ReadQuantity(quantity, separator.empty() ? L'.' : separator.front(), behindEquals);
     if (!result.number)
         return Refused(result.refusal);
     result.name = std::move(name->text);

@@ -47,8 +47,8 @@ struct PastedNumber {
 };
 
 /// The number that a person means who copies `text` from a certificate, a PDF or a web page; `separator` is
-/// the user's decimal separator. A text with two readings, or none, is refused, and no character is ever left
-/// out.
+/// the user's decimal separator: its first character, and the point where it is empty. A text with two
+/// readings, or none, is refused, and no character is ever left out.
 ///
 ///     signs        - + and U+2212, U+2010 to U+2013, U+FE63, U+FF0D, U+FF0B. A dash and a blank in front of
 ///                  the digits is the mark of a list, but for U+2212 and behind "="
@@ -67,7 +67,8 @@ struct PastedNumber {
 ///                  "1/" only behind a blank: "5K" may be five thousand. Degrees and kelvins in the powers -1
 ///                  to -4, in the writings of exponents
 ///     names        in front, up to "=" or ":", that say nothing of a factor, a scaling unit, a sign or a
-///                  function: "R0 =", "A[7]:", "R(TPW) =". Whose name it is, is the caller's to judge
+///                  function, not glued to them either ("Ax10 =", "Ae3 ="): "R0 =", "A[7]:", "R(TPW) =".
+///                  Whose name it is, is the caller's to judge
 ///     digits       0 to 9 and the full-width ones
 ///
 /// Everything else refuses: uncertainties, brackets, fractions, trailing signs, other digits, control

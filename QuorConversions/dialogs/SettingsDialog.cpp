@@ -102,7 +102,7 @@ SettingsDialog::Field& SettingsDialog::AddField(Label& label, TextBox& box, std:
 }
 
 void SettingsDialog::ShowValue(const Field& field) {
-    m_pasteNotes.erase(&field.box);
+    ForgetNotes(field.box);
     field.box.SetText(FormatValue(field.get(), field.format(), UserSeparators(*m_platform)));
     Advise(field);
 }
@@ -239,13 +239,23 @@ void SettingsDialog::OnLostFocus(Control& control) {
     const Field* const field = FieldOf(control);
     if (!field || !control.Enabled())
         return; // nobody can have typed into a disabled box: what it shows is the object's
+    FormatText(*field);
+}
+
+void SettingsDialog::FormatText(const Field& field) {
     try {
-        const std::wstring format = field->format();
-        const auto number = ParseWholeNumber(PointText(field->box.Text()));
-        if (number && !IsGeneralFormat(format))
-            field->box.SetText(FormatValue(*number, format, UserSeparators(*m_platform)));
-        if (number && !IsGeneralFormat(format))
-            Advise(*field);
+        const std::wstring format = field.format();
+        const NumberSeparators separators = UserSeparators(*m_platform);
+        const auto number = ParseWholeNumber(PointText(field.box.Text()));
+        if (!number || IsGeneralFormat(format))
+            return;
+        const std::wstring text = FormatValue(*number, format, separators);
+        // As long as nothing else is typed: what the format has taken away is seen nowhere else.
+        const std::wstring lost = AdviceOnShownValue(*number, text, separators);
+        if (!lost.empty())
+            m_formatNotes[&field.box] = lost;
+        field.box.SetText(text);
+        Advise(field);
     } catch (...) { // a row that the object refuses by now keeps the text that was typed
     }
 }
@@ -274,7 +284,9 @@ void SettingsDialog::Advise(const Field& field) const {
     const std::wstring format = field.format();
     const std::wstring& text = field.box.Text();
     std::wstring advice;
-    if (text != FormatValue(field.get(), format, separators))
+    if (const auto note = m_formatNotes.find(&field.box); note != m_formatNotes.end())
+        advice = note->second;
+    else if (text != FormatValue(field.get(), format, separators))
         advice = AdviceOnText(text, &field.box == ActiveControl() ? format : std::wstring{}, separators);
     else if (!IsGeneralFormat(format)) // without a format it stays as it is, NaN too
         advice = AdviceOnShownValue(field.get(), text, separators);
@@ -300,7 +312,7 @@ void SettingsDialog::OnEdit(TextBox& box) {
     if (mayMiss)
         return; // what was told of it still holds
     m_separatorMissing = nullptr;
-    m_pasteNotes.erase(&box);
+    ForgetNotes(box);
     AdviseIfItCan(*field);
 }
 
@@ -338,12 +350,19 @@ void SettingsDialog::PasteNumber(TextBox& box, std::wstring_view text) {
 void SettingsDialog::PutPasted(TextBox& box, const PastedNumber& pasted, std::wstring_view text) {
     box.ReplaceSelection(*pasted.number);
     m_separatorMissing = nullptr;
-    m_pasteNotes.erase(&box);
+    ForgetNotes(box);
     if (IsOfAnother(box, pasted))
         m_pasteNotes[&box] = AdviceOnPastedFrom(text);
     else if (pasted.isToBeTold)
         m_pasteNotes[&box] = AdviceOnPasted(*pasted.number);
     AdviseIfItCan(*FieldOf(box));
+    if (&box != ActiveControl())
+        FormatText(*FieldOf(box)); // it will not be left, as the box that is pasted into
+}
+
+void SettingsDialog::ForgetNotes(const TextBox& box) {
+    m_pasteNotes.erase(&box);
+    m_formatNotes.erase(&box);
 }
 
 bool SettingsDialog::IsOfAnother(const TextBox& box, const PastedNumber& pasted) const {

@@ -118,6 +118,10 @@ private:
     void Advise(const Field& field) const;
     /// The same, quietly where the object refuses the row by now.
     void AdviseIfItCan(const Field& field) const;
+    /// Puts the text of a box into the format of its field, where it is a number.
+    void FormatText(const Field& field);
+    /// What was told of a text in a box holds no longer.
+    void ForgetNotes(const TextBox& box);
     void PasteNumber(TextBox& box, std::wstring_view text);
     void PasteCells(TextBox& box, const PastedCells& cells);
     /// Puts a number into the place of the selection.
@@ -138,6 +142,8 @@ private:
     std::deque<Field> m_fields;
     /// What is told of a number that was pasted, until it is changed.
     std::map<const TextBox*, std::wstring> m_pasteNotes;
+    /// What the format has done to a number that was typed or pasted, until it is changed.
+    std::map<const TextBox*, std::wstring> m_formatNotes;
     /// The box in which a decimal separator of another country was swallowed, and the text in front of it: as
     /// long as the text begins so, the separator may be missing.
     const TextBox* m_separatorMissing = nullptr;

@@ -47,6 +47,14 @@ TEST(NumberFromPaste, ReadsWhatAPersonMeansOrRefuses) {
     });
 }
 
+TEST(NumberFromPaste, TakesThePointForAnEmptySeparatorAndTheFirstCharacterOfALongOne) {
+    EXPECT_EQ(NumberFromPaste(L"1.234,5", L"").number, L"1234.5");
+    EXPECT_EQ(NumberFromPaste(L"0,003", L"").number, L"0.003");
+    EXPECT_EQ(NumberFromPaste(L"100,012", L"").refusal, PasteRefusal::TwoReadings);
+    EXPECT_EQ(NumberFromPaste(L"100,012", L",.").number, L"100,012");
+    EXPECT_EQ(NumberFromPaste(L"", L"").refusal, PasteRefusal::NoNumber);
+}
+
 TEST(NumberFromPaste, GivesTextThatTheDialogsReadAsAWhole) {
     ForEachPaste([](const PasteRow& row, const std::wstring& separator, const std::wstring& number) {
         const PastedNumber pasted = NumberFromPaste(row.text, separator);

@@ -334,6 +334,33 @@ TEST_F(PasteTest, SeveralLinesFillTheBoxesOfAListFromThereOn) {
     });
 }
 
+TEST_F(PasteTest, WhatAFormatDoesToSeveralPastedNumbersIsToldOfEachBeforeItIsStored) {
+    for (std::int16_t index = 0; index < 3; ++index)
+        settings->SetValueFormat(index, L"0.00");
+    settings->SetValueFormat(3, L"#,##0.0");
+    EditAndTake([](Person& person) {
+        person.Paste(L"R0", L"1.2391\n2.25\n10.003\n1234.5");
+        EXPECT_EQ(Boxes(person), (Texts{L"1.2391", L"2.25", L"10.00", L"1,234.5"}));
+        EXPECT_EQ(person.Advice(L"R0"), L"1.24 would be stored for 1.2391");
+        EXPECT_EQ(person.Advice(L"ALPHA"), L"");
+        EXPECT_EQ(person.Advice(L"DELTA"), L"10 would be stored for 10.003. Pasted as 10.003");
+        EXPECT_EQ(person.Advice(L"BETA"), L"1 would be stored for 1234.5");
+        person.Type(L"BETA", L"0.5");
+        EXPECT_EQ(person.Advice(L"BETA"), L"");
+        EXPECT_EQ(person.Reads(L"R0"), L"1.24") << "the box was left";
+        EXPECT_EQ(person.Advice(L"R0"), L"1.24 would be stored for 1.2391") << "and still tells what it held";
+        person.GoTo(L"DELTA");
+        person.GoTo(L"ALPHA");
+        EXPECT_EQ(person.Advice(L"DELTA"), L"10 would be stored for 10.003. Pasted as 10.003");
+        person.Type(L"DELTA", L"10");
+        EXPECT_EQ(person.Advice(L"DELTA"), L"");
+    });
+    EXPECT_EQ(settings->Coefficients(0), 1.24);
+    EXPECT_EQ(settings->Coefficients(1), 2.25);
+    EXPECT_EQ(settings->Coefficients(2), 10);
+    EXPECT_EQ(settings->Coefficients(3), 0.5);
+}
+
 TEST_F(PasteTest, OneCellThatIsNoNumberKeepsAllOthersOut) {
     Edit([](Person& person) {
         person.Paste(L"R0", L"1\n100,012\n3");
