@@ -42,6 +42,8 @@ public:
     /// Opens a host's file, or adds the probe of a stand-alone one. False when the user kept the present
     /// file, or the file could not be read.
     bool OpenPath(const QString& path);
+    /// Gives up the file that is being loaded; false where none is.
+    bool CancelLoading() { return m_loader.Cancel(); }
     /// Opens the first host's file among these, and adds the probes of all stand-alone ones.
     void OpenPaths(const QStringList& paths);
     /// Opens the present file anew, with the same probe selected. False when the user kept the changes, or

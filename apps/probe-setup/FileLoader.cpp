@@ -40,7 +40,10 @@ std::unique_ptr<ProbeDocument::Loaded> FileLoader::Load(const QString& path) {
 
     QApplication::setOverrideCursor(Qt::WaitCursor);
     m_window.setEnabled(false);
+    m_isLoading = true;
+    m_isGivenUp = false;
     const auto restore = qScopeGuard([this] {
+        m_isLoading = false;
         m_window.setEnabled(true);
         QApplication::restoreOverrideCursor();
     });
@@ -58,13 +61,18 @@ std::unique_ptr<ProbeDocument::Loaded> FileLoader::Load(const QString& path) {
         // Only the dialog may be used, once it is there.
         QCoreApplication::processEvents(progress.isVisible() ? QEventLoop::AllEvents
                                                              : QEventLoop::ExcludeUserInputEvents);
-        if (progress.wasCanceled()) {
+        if (m_isGivenUp || progress.wasCanceled()) {
             state->isCancelled = true;
             m_cancelled.push_back(std::move(result));
             return nullptr;
         }
     }
     return result.get();
+}
+
+bool FileLoader::Cancel() {
+    m_isGivenUp = m_isLoading;
+    return m_isLoading;
 }
 
 } // namespace ProbeSetup

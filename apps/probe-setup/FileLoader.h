@@ -24,12 +24,16 @@ public:
 
     /// Nothing when the person has cancelled. Raises what ProbeDocument::Read raises.
     [[nodiscard]] std::unique_ptr<ProbeDocument::Loaded> Load(const QString& path);
+    /// Gives up the reading that goes on, as a person does who cancels it; false where none does.
+    bool Cancel();
 
 private:
     using Result = std::future<std::unique_ptr<ProbeDocument::Loaded>>;
 
     QWidget& m_window;
     const ProbeDocument& m_document;
+    bool m_isLoading = false;
+    bool m_isGivenUp = false;
     std::vector<Result> m_cancelled; // still running, perhaps: at the end they are waited for
 };
 

@@ -67,6 +67,13 @@ void FindingPane::Check() {
     m_found(findings);
 }
 
+void FindingPane::GoToList() {
+    if (m_list->topLevelItemCount() == 0)
+        return;
+    m_list->setCurrentItem(m_list->topLevelItem(0));
+    m_list->setFocus();
+}
+
 void FindingPane::Fill(const std::vector<ProbeFinding>& findings) {
     m_list->clear();
     QList<QTreeWidgetItem*> items;

@@ -31,6 +31,8 @@ public:
     void Refresh();
     /// Checks and shows the findings, whatever the size of the file.
     void Check();
+    /// Gives the list the keyboard, at its first finding; without findings it stays where it is.
+    void GoToList();
     /// Whether the findings are those of the document as it is.
     [[nodiscard]] bool IsUpToDate() const { return m_checked == m_document.Revision(); }
 

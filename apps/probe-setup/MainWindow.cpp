@@ -6,11 +6,13 @@
 #include "apps/probe-setup/FindingPane.h"
 #include "apps/probe-setup/MessageBox.h"
 #include "apps/probe-setup/ProbeList.h"
+#include "apps/probe-setup/ProbeTableModel.h"
 #include "apps/probe-setup/ReloadBar.h"
 #include "apps/probe-setup/ValuePane.h"
 #include "apps/probe-setup/Wording.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -248,6 +250,21 @@ void MainWindow::MakeViewMenu() {
     m_values->toggleViewAction()->setText(tr("&Values"));
     m_findings->toggleViewAction()->setText(tr("&Findings"));
     view.addActions({m_values->toggleViewAction(), m_findings->toggleViewAction()});
+    view.addSeparator();
+    QMenu& sort = *view.addMenu(tr("&Sort by"));
+    auto* const orders = new QActionGroup(&sort);
+    const auto addOrder = [&](const char* name, const QString& text, const QString& tip, int column) {
+        auto* const action = AddAction(sort, name, text, {}, tip, [this, column] { m_list->SortBy(column); });
+        action->setCheckable(true);
+        orders->addAction(action);
+        connect(&sort, &QMenu::aboutToShow, action,
+                [this, action, column] { action->setChecked(m_list->SortColumn() == column); });
+    };
+    const QString again = tr("Sort the list; the second time, the other way round");
+    addOrder("sortByName", tr("&Name"), again, ProbeTableModel::NameColumn);
+    addOrder("sortByConversion", tr("&Conversion"), again, ProbeTableModel::ConversionColumn);
+    addOrder("sortByChanged", tr("C&hanged"), again, ProbeTableModel::ChangedColumn);
+    addOrder("sortByFile", tr("&Order of the file"), tr("Show the probes as they stand in the file"), -1);
     connect(m_values, &QDockWidget::visibilityChanged, this, [this] { ShowState(); });
 }
 
@@ -294,6 +311,7 @@ void MainWindow::Check() {
     m_findings->Check();
     m_findings->show();
     m_findings->raise();
+    m_findings->GoToList();
 }
 
 void MainWindow::ShowHelp(std::int32_t topic) {
@@ -369,6 +387,10 @@ void MainWindow::ShowWhetherOthersWrote() {
 // Events
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    if (m_files.CancelLoading()) { // its window is not there yet
+        event->ignore();
+        return;
+    }
     // What is typed in a dialog is no change yet that one could be asked about.
     if (QApplication::activeModalWidget() || !m_list->FinishEditing() || !m_files.MayLoseChanges()) {
         event->ignore();

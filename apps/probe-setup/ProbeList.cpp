@@ -145,6 +145,16 @@ void ProbeList::Select(const std::vector<std::size_t>& probes) {
     m_table->scrollTo(first);
 }
 
+void ProbeList::SortBy(int column) {
+    const QHeaderView& header = *m_table->header();
+    const bool isUp =
+        header.sortIndicatorSection() == column && header.sortIndicatorOrder() == Qt::AscendingOrder;
+    m_table->header()->setSortIndicator(column,
+                                        isUp && column >= 0 ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+int ProbeList::SortColumn() const { return m_table->header()->sortIndicatorSection(); }
+
 void ProbeList::EditName() {
     m_table->edit(m_table->currentIndex().siblingAtColumn(ProbeTableModel::NameColumn));
 }

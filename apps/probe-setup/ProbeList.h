@@ -55,6 +55,12 @@ public:
     /// Selects probes that have a row, and makes the first of them the current one.
     void Select(const std::vector<std::size_t>& probes);
 
+    /// Sorts by a column of the table; the second time in a row, the other way round. By none (-1) in the
+    /// order of the file.
+    void SortBy(int column);
+    /// The column that it is sorted by; -1 for none.
+    [[nodiscard]] int SortColumn() const;
+
     /// Opens an editor for the name of the current probe.
     void EditName();
     /// Ends the editing of a name as Enter does. False when the name is refused; the person has been told.

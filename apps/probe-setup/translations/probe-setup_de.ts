@@ -491,6 +491,34 @@
         <translation>&amp;Befunde</translation>
     </message>
     <message>
+        <source>&amp;Sort by</source>
+        <translation>&amp;Sortieren nach</translation>
+    </message>
+    <message>
+        <source>Sort the list; the second time, the other way round</source>
+        <translation>Die Liste sortieren; beim zweiten Mal andersherum</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message>
+        <source>&amp;Conversion</source>
+        <translation>&amp;Konversion</translation>
+    </message>
+    <message>
+        <source>C&amp;hanged</source>
+        <translation>&amp;Geändert</translation>
+    </message>
+    <message>
+        <source>&amp;Order of the file</source>
+        <translation>&amp;Reihenfolge der Datei</translation>
+    </message>
+    <message>
+        <source>Show the probes as they stand in the file</source>
+        <translation>Die Fühler zeigen, wie sie in der Datei stehen</translation>
+    </message>
+    <message>
         <source>Probe Setup %1</source>
         <translation>Probe Setup %1</translation>
     </message>

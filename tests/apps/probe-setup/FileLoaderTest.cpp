@@ -7,6 +7,7 @@
 #include "tests/support/InterceptedFiles.h"
 
 #include <QProgressDialog>
+#include <QTimer>
 
 #include <ctime>
 #include <fstream>
@@ -81,6 +82,15 @@ TEST_F(FileLoading, IsCancelledByEscapeAndByTheFrameOfItsWindow) {
     EXPECT_FALSE(Load());
     EXPECT_TRUE(widget.isEnabled());
     EXPECT_EQ(document.Count(), 0U);
+}
+
+TEST_F(FileLoading, IsGivenUpBeforeItsWindowIsThere) {
+    EXPECT_FALSE(loader.Cancel()) << "there is nothing to give up";
+    QTimer::singleShot(0, &widget, [this] { EXPECT_TRUE(loader.Cancel()); });
+    EXPECT_FALSE(Load());
+    EXPECT_TRUE(widget.isEnabled());
+    LetDiskGive();
+    EXPECT_TRUE(Load()) << "the next one is not";
 }
 
 TEST_F(FileLoading, RaisesWhatReadingRaises) {

@@ -154,6 +154,19 @@ TEST_F(ManyProbesWindow, AClickOnAHeadingSortsAndTheThirdOneGivesTheOrderOfTheFi
     EXPECT_FALSE(window->Document().Find(L"P 9"));
 }
 
+TEST_F(ManyProbesWindow, TheMenuSortsAsTheHeadingsDo) {
+    Open("[P 10]\nConversionType=11\n[P 9]\nConversionType=10\n[p 1]\nConversionType=11\n");
+    Action("sortByName").trigger();
+    EXPECT_EQ(Names(), (QStringList{"p 1", "P 9", "P 10"}));
+    Action("sortByName").trigger();
+    EXPECT_EQ(Names(), (QStringList{"P 10", "P 9", "p 1"}));
+    Action("sortByConversion").trigger();
+    EXPECT_EQ(Names(), (QStringList{"P 9", "P 10", "p 1"}));
+    Action("sortByFile").trigger();
+    EXPECT_EQ(Names(), (QStringList{"P 10", "P 9", "p 1"}));
+    EXPECT_EQ(Table().header()->sortIndicatorSection(), -1);
+}
+
 TEST_F(ManyProbesWindow, APageSaysAllOfAProbeAndHasLinesForDateAndSignature) {
     QTextDocument paper;
     QuorConversions::QtToolkit::QtPlatform platform;
