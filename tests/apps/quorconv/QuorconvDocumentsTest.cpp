@@ -72,9 +72,9 @@ protected:
 
 } // namespace
 
-TEST_F(QuorconvDocumentsTest, TheScriptOfReadmeChangesR0OfReadmesProbeAndNothingElse) {
+TEST_F(QuorconvDocumentsTest, TheScriptOfTheGuideChangesR0OfItsProbeAndNothingElse) {
     std::string script;
-    for (const std::string& line : Block(Document("README.md"), "paste "))
+    for (const std::string& line : Block(Document("docs/guide.md"), "paste "))
         script += line + "\n";
     folder.Write("steps.txt", script);
     const std::string before = folder.Read("laboratory.ini");

@@ -19,6 +19,13 @@ def test_the_notebook_runs_as_it_is_written(laboratory, monkeypatch):
     assert result.attempted >= 20
 
 
+def test_the_host_of_the_handbook_runs_as_it_is_written(laboratory, monkeypatch):
+    monkeypatch.chdir(laboratory.parent)
+    result = doctest.testfile(str(ROOT / "docs/handbook/hosts.md"), module_relative=False, encoding="utf-8")
+    assert result.failed == 0
+    assert result.attempted == 3
+
+
 def plain_blocks(document):
     text = (ROOT / document).read_text(encoding="utf-8")
     return [block for block in re.findall(r"^```python\n(.*?)^```$", text, re.M | re.S) if ">>>" not in block]
