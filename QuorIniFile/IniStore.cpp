@@ -32,15 +32,6 @@ struct NameRule {
 constexpr NameRule sectionNames{IsSectionName, INI_CAUSE_BAD_SECTION_NAME};
 constexpr NameRule keyNames{IsKeyName, INI_CAUSE_BAD_KEY_NAME};
 
-/// Takes over what a value could be read as.
-template <class Value>
-bool Assign(Value& value, std::optional<Value> read) {
-    if (!read)
-        return false;
-    value = *std::move(read);
-    return true;
-}
-
 } // namespace
 
 /// One file and the section that is selected in it.
@@ -129,6 +120,10 @@ public:
         return m_text->FindSection(name).has_value();
     }
 
+    [[nodiscard]] bool HasText() {
+        Load();
+        return m_stamp.exists || m_text->IsDifferent();
+    }
     [[nodiscard]] std::string_view PresentText() {
         LoadExisting();
         if (!m_composed)
@@ -381,8 +376,7 @@ private:
     }
 
     void LoadExisting() {
-        Load();
-        if (!m_stamp.exists && !m_text->IsDifferent())
+        if (!HasText())
             throw FileError(ERR_FILE_NOT_FOUND, FileName());
     }
 
@@ -567,23 +561,16 @@ void IniStore::SetSection(std::wstring_view section) { m_session->SetSection(sec
 std::wstring_view IniStore::Section() const { return m_session->Section(); }
 
 bool IniStore::ReadBoolean(std::wstring_view key, bool& value) {
-    const auto line = m_session->Read(key);
-    return line && Assign(value, ParseBoolean(SplitComment(*line).plain));
+    return TakeValue(m_session->Read(key), value);
 }
-
 bool IniStore::ReadDouble(std::wstring_view key, double& value) {
-    const auto line = m_session->Read(key);
-    return line && Assign(value, ParseDouble(SplitComment(*line).plain));
+    return TakeValue(m_session->Read(key), value);
 }
-
 bool IniStore::ReadInteger(std::wstring_view key, std::int16_t& value) {
-    const auto line = m_session->Read(key);
-    return line && Assign(value, ParseInteger(SplitComment(*line).plain));
+    return TakeValue(m_session->Read(key), value);
 }
-
 bool IniStore::ReadString(std::wstring_view key, std::wstring& value) {
-    const auto line = m_session->Read(key);
-    return line && Assign(value, std::optional(DecodeText(*line)));
+    return TakeValue(m_session->Read(key), value);
 }
 
 void IniStore::WriteBoolean(std::wstring_view key, bool value) {
@@ -608,6 +595,8 @@ void IniStore::WriteString(std::wstring_view key, std::wstring_view value) {
     m_session->WriteText(key, value);
 }
 
+bool IniStore::HasText() { return m_session->HasText(); }
+std::string_view IniStore::Text() { return m_session->PresentText(); }
 std::vector<std::wstring> IniStore::Sections() { return m_session->Sections(); }
 std::vector<IniWarning> IniStore::Warnings() { return m_session->Warnings(); }
 bool IniStore::CanNameSection(std::wstring_view name) {

@@ -85,6 +85,12 @@ public:
     void WriteInteger(std::wstring_view key, std::int16_t value, std::wstring_view comment) override;
     void WriteString(std::wstring_view key, std::wstring_view value) override;
 
+    /// Whether there is a text: a file, or what was written for one that is not there yet. Without one there
+    /// are no sections.
+    [[nodiscard]] bool HasText();
+    /// The text as it is now, with what was written: the bytes of the file, of a UTF-16 file the same text as
+    /// UTF-8. The view lives as long as what Lines returns. Raises 53 when there is no file.
+    [[nodiscard]] std::string_view Text();
     /// The names of all sections, in the order of the file with what was written; of a name that stands
     /// several times the first. Raises 53 when there is no file.
     [[nodiscard]] std::vector<std::wstring> Sections();

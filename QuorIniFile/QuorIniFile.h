@@ -7,6 +7,7 @@
 #include "QuorIniFile/IniLeftover.h"
 #include "QuorIniFile/IniLines.h"
 #include "QuorIniFile/IniStore.h"
+#include "QuorIniFile/IniTextReader.h"
 #include "QuorIniFile/IniWarning.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/Utf8.h"

@@ -10,6 +10,7 @@
 #include "QuorProbeFile/SectionPlan.h"
 #include "QuorProbeFile/detail/FileCheck.h"
 #include "QuorProbeFile/detail/KeptValues.h"
+#include "QuorProbeFile/detail/RecordBaseline.h"
 #include "QuorProbeFile/detail/RecordProblems.h"
 #include "QuorProbeFile/detail/RecordReading.h"
 #include "QuorProbeFile/detail/SectionIndex.h"
@@ -49,19 +50,6 @@ void Assign(CQuorConversion& to, const CQuorConversion& from) {
         RecordImage::Apply(RecordImage::Of(*settings), *to.Settings());
 }
 
-/// Looks into a file, unless it is still to be created; false then.
-template <class Look>
-bool WhereThereIsAFile(const Look& look) {
-    try {
-        look();
-        return true;
-    } catch (const QuorError& error) {
-        if (error.Number() != QuorIniFile::ERR_FILE_NOT_FOUND)
-            throw;
-        return false;
-    }
-}
-
 /// Selects the section again that is selected now, when it goes.
 class SelectedSection {
 public:
@@ -91,9 +79,9 @@ ProbeFile::~ProbeFile() = default;
 void ProbeFile::Load(std::wstring_view path, Opening opening) {
     m_store->SetFileName(path);
     if (opening == Opening::Existing)
-        static_cast<void>(m_store->Lines());
+        static_cast<void>(m_store->Text());
     else
-        static_cast<void>(HasSection({}));
+        static_cast<void>(Exists());
 }
 
 ProbeFileError ProbeFile::Error(EProbeFileError code, std::wstring_view section,
@@ -104,7 +92,7 @@ ProbeFileError ProbeFile::Error(EProbeFileError code, std::wstring_view section,
 // What is there
 
 void ProbeFile::Survey() {
-    const bool exists = WhereThereIsAFile([&] { static_cast<void>(m_store->Lines()); });
+    const bool exists = Exists();
     if (m_surveyed == m_store->TextNumber())
         return;
     m_probes.clear();
@@ -166,6 +154,12 @@ LinePlaces& ProbeFile::Places() {
     return *m_places;
 }
 
+std::vector<std::wstring> ProbeFile::Sections() {
+    return Exists() ? m_store->Sections() : std::vector<std::wstring>();
+}
+
+std::string_view ProbeFile::Text() { return Exists() ? m_store->Text() : std::string_view(); }
+
 const std::vector<ProbeEntry>& ProbeFile::Probes() {
     Survey();
     return m_probes;
@@ -216,8 +210,9 @@ std::wstring ProbeFile::ConversionName(const ProbeEntry& probe) {
 }
 
 std::vector<IniWarning> ProbeFile::DuplicateSections() {
-    std::vector<IniWarning> warnings;
-    WhereThereIsAFile([&] { warnings = m_store->Warnings(); });
+    if (!Exists())
+        return {};
+    std::vector<IniWarning> warnings = m_store->Warnings();
     warnings.erase(std::remove_if(warnings.begin(), warnings.end(),
                                   [](const IniWarning& warning) {
                                       return warning.kind != IniWarningKind::DuplicateSection;
@@ -226,11 +221,7 @@ std::vector<IniWarning> ProbeFile::DuplicateSections() {
     return warnings;
 }
 
-bool ProbeFile::HasSection(std::wstring_view section) {
-    bool found = false;
-    WhereThereIsAFile([&] { found = m_store->HasSection(section); });
-    return found;
-}
+bool ProbeFile::HasSection(std::wstring_view section) { return Exists() && m_store->HasSection(section); }
 
 /// The probe of a section, without its line: that would take a walk through the whole file.
 std::optional<ProbeEntry> ProbeFile::Locate(std::wstring_view section) {
@@ -278,19 +269,19 @@ ReadOutcome ProbeFile::Read(std::wstring_view section, CQuorConversion& conversi
     if (!probe.standAlone)
         static_cast<void>(RequireType(probe));
     LinePlaces& places = Places();
-    WhereThereIsAFile([&] { // else the record is one that is held, and has no line yet
-        const SectionIndex::Section& place = *places.Section(probe.section);
-        probe.section = places.NameOf(place);
-        probe.line = place.header.number;
-    });
+    const SectionIndex::Section& place = *places.Section(probe.section);
+    probe.section = places.NameOf(place);
+    probe.line = place.header.number;
     const RecordReading reading(m_store, m_path, probe);
     probe.type = reading.Conversion().ConversionType();
     ReadOutcome outcome;
     outcome.problems = ProblemsOf(reading, probe, places);
-    outcome.probe = std::move(probe);
     for (const MessageCollector::Message& message : reading.Messages())
         outcome.messages.push_back(message.text);
-    if (IsRefused(outcome.problems)) { // what it was read up to is no record either
+    const bool isRefused = IsRefused(outcome.problems);
+    outcome.record = RecordOf(reading, probe, isRefused);
+    outcome.probe = std::move(probe);
+    if (isRefused) { // what it was read up to is no record either
         CQuorConversion defaults;
         defaults.SetConversionType(reading.Conversion().ConversionType());
         Assign(conversion, defaults);
@@ -301,11 +292,41 @@ ReadOutcome ProbeFile::Read(std::wstring_view section, CQuorConversion& conversi
     return outcome;
 }
 
+/// Keeps the text of the sections that were read.
+RecordAsRead ProbeFile::RecordOf(const RecordReading& reading, const ProbeEntry& probe, bool isRefused) {
+    auto state = std::make_shared<RecordAsRead::State>();
+    state->probe = probe;
+    state->isRefused = isRefused;
+    std::vector<std::wstring> sections;
+    const auto add = [&sections](const std::wstring& section) {
+        if (std::find(sections.begin(), sections.end(), section) == sections.end())
+            sections.push_back(section);
+    };
+    for (const ReadLog::Read& read : reading.Reads())
+        add(read.section);
+    if (isRefused) { // before it has asked for all of its sections
+        const auto unchanged = state->Unchanged();
+        for (const auto& [place, value] : unchanged->Written())
+            add(place.first);
+    }
+    const std::string_view text = m_store->Text();
+    for (const std::wstring& section : sections) {
+        const SectionIndex::Section* const place = Places().Section(section);
+        if (!place)
+            continue;
+        IniLines lines = m_store->Lines(place->header);
+        static_cast<void>(lines.Next());
+        const std::size_t end = lines.NextHeader() ? lines.Here().offset : text.size();
+        state->text.append(text.substr(place->header.offset, end - place->header.offset)).append("\n");
+    }
+    return RecordAsRead(std::move(state));
+}
+
 std::vector<ProbeProblem> ProbeFile::Check() {
+    if (!Exists())
+        return {};
     const SelectedSection selected(*m_store);
-    std::vector<ProbeProblem> problems;
-    WhereThereIsAFile([&] { problems = CheckFile(m_store, m_path, Probes(), LostSections()); });
-    return problems;
+    return CheckFile(m_store, m_path, Probes(), LostSections());
 }
 
 // Writing
@@ -313,21 +334,22 @@ std::vector<ProbeProblem> ProbeFile::Check() {
 void ProbeFile::Edit(const std::function<void()>& edit) { m_store->Edit(edit); }
 
 /// The sections of the probe `except`, if there is one, do not count.
-TakenNames ProbeFile::NamesBut(std::optional<std::wstring_view> except) {
+TakenNames ProbeFile::NamesBut(const ProbeEntry* except) {
+    const auto isOfIt = [except](const std::wstring& section) {
+        return except && (EqualFolded(section, except->section) ||
+                          (MayHaveSettings(except->type) && HoldsSettingsOf(section, except->section)));
+    };
     TakenNames names;
-    WhereThereIsAFile([&] {
-        for (const std::wstring& section : m_store->Sections()) {
-            if (!except || (!EqualFolded(section, *except) && !HoldsSettingsOf(section, *except)))
-                names.Add(section);
-        }
-    });
+    for (const std::wstring& section : Sections()) {
+        if (!isOfIt(section))
+            names.Add(section);
+    }
     return names;
 }
 
-void ProbeFile::RequireName(std::wstring_view name, std::optional<std::wstring_view> except,
-                            const TakenNames& names) {
+void ProbeFile::RequireName(std::wstring_view name, const ProbeEntry* except, const TakenNames& names) {
     const auto isProbe = [&](std::wstring_view owner) {
-        return !(except && EqualFolded(owner, *except)) && Locate(owner).has_value();
+        return !(except && EqualFolded(owner, except->section)) && Locate(owner).has_value();
     };
     if (const auto obstacle = names.ObstacleTo(name, isProbe))
         throw Error(obstacle->code, name, obstacle->other);
@@ -366,11 +388,11 @@ void ProbeFile::WriteOne(const ProbeToWrite& probe) {
     const bool getsSettings =
         present && !present->standAlone && !MayHaveSettings(present->type) && MayHaveSettings(type);
     if ((!present || getsSettings) && m_namesText != m_store->TextNumber()) {
-        m_names = NamesBut(std::nullopt);
+        m_names = NamesBut(nullptr);
         m_namesText = m_store->TextNumber();
     }
     if (!present)
-        RequireName(probe.section, std::nullopt, m_names);
+        RequireName(probe.section, nullptr, m_names);
     else if (const auto other = getsSettings ? m_names.SettingsOf(probe.section) : std::nullopt)
         throw Error(PROBE_SETTINGS_ARE_TAKEN, probe.section, *other);
     const auto standAlone = StandAloneSection(m_path);
@@ -383,6 +405,7 @@ void ProbeFile::WriteOne(const ProbeToWrite& probe) {
         if (!info || info->extension != Folded(GetExtensionPart(m_path)))
             throw Error(PROBE_DOES_NOT_FIT_FILE, probe.section, TypeName(type));
     }
+    RequireConsistent(probe.section, probe.conversion);
     const bool namesAreKnown = m_namesText == m_store->TextNumber();
     WriteRecord(m_store, probe.section, probe.conversion, isStandAlone);
     if (!namesAreKnown)
@@ -394,43 +417,82 @@ void ProbeFile::WriteOne(const ProbeToWrite& probe) {
     m_namesText = m_store->TextNumber();
 }
 
-void ProbeFile::WriteRecord(const std::shared_ptr<INIFile>& to, std::wstring_view section,
-                            const CQuorConversion& conversion, bool standAlone) const {
-    const std::wstring name(section);
+/// Calls what the conversion itself may refuse.
+template <class Body>
+void ProbeFile::WithRefusal(std::wstring_view section, const Body& body) const {
     try {
-        if (standAlone)
-            conversion.Settings()->WriteOrRaise(to, name);
-        else
-            conversion.WriteOrRaise(to, name);
+        body();
     } catch (const QuorError& error) {
         if (error.Cause()) // it is the store's, which has told the file
             throw;
-        throw ProbeFileError(m_path, name, error);
+        throw ProbeFileError(m_path, std::wstring(section), error);
     }
 }
 
+void ProbeFile::WriteRecord(const std::shared_ptr<INIFile>& to, std::wstring_view section,
+                            const CQuorConversion& conversion, bool standAlone) const {
+    WithRefusal(section, [&] { WriteRecordTo(to, std::wstring(section), conversion, standAlone); });
+}
+
+bool ProbeFile::IsConsistent(const CQuorConversion& conversion) {
+    const auto settings = conversion.Settings();
+    if (!settings)
+        return true;
+    const auto written = std::make_shared<RecordImage>();
+    settings->WriteOrRaise(written, L"");
+    const RecordReading reading(written, {{}, 0, conversion.ConversionType(), true});
+    return reading.Messages().empty() && !reading.LacksKeys() &&
+           RecordImage::Same(*RecordImage::Of(*reading.Settings()), *written);
+}
+
+void ProbeFile::RequireConsistent(std::wstring_view section, const CQuorConversion& conversion) const {
+    bool isConsistent = false;
+    WithRefusal(section, [&] { isConsistent = IsConsistent(conversion); });
+    if (!isConsistent)
+        throw Error(PROBE_INCONSISTENT, section);
+}
+
 std::vector<RecordConflict> ProbeFile::WriteChanges(std::wstring_view section,
-                                                    const CQuorConversion& conversion, ProbeFile& before) {
-    // What was read is kept before the edit begins: `before` may be this object, whose store loads the file
-    // anew then.
-    const SelectedSection selected(*before.m_store);
-    CQuorConversion unchanged;
-    const ProbeEntry probe = before.Read(section, unchanged).probe;
+                                                    const CQuorConversion& conversion, RecordAsRead& record) {
+    if (!record.m_state)
+        throw Error(PROBE_NO_RECORD, section);
+    const RecordAsRead::State& state = *record.m_state;
+    const ProbeEntry& probe = state.probe;
     if (probe.type != conversion.ConversionType())
-        throw Error(PROBE_OF_ANOTHER_TYPE, section, TypeName(unchanged.ConversionType()));
-    const auto read = std::make_shared<KeptValues>(before.m_store);
-    WriteRecord(read, probe.section, conversion, probe.standAlone);
-    const auto asRead = std::make_shared<KeptValues>();
-    WriteRecord(asRead, probe.section, unchanged, probe.standAlone);
+        throw Error(PROBE_OF_ANOTHER_TYPE, section, TypeName(*probe.type));
+    RequireConsistent(section, conversion);
+    const std::wstring name = EqualFolded(section, probe.section) ? probe.section : std::wstring(section);
+    const auto read = state.Record();
+    const auto unchanged = state.Unchanged();
+    const auto changesIn = [&](const std::shared_ptr<INIFile>& file, const std::wstring& to) {
+        const auto merge = std::make_shared<RecordMerge>(read, probe.section, file, to, unchanged);
+        WriteRecord(merge, to, conversion, probe.standAlone);
+        return merge;
+    };
     std::vector<RecordConflict> conflicts;
     Edit([&] {
-        const auto merge = std::make_shared<RecordMerge>(read, probe.section, m_store, probe.section, asRead);
-        WriteRecord(merge, probe.section, conversion, probe.standAlone);
+        const auto merge = changesIn(m_store, name);
         conflicts = merge->Conflicts();
         if (conflicts.empty())
             merge->WriteChanges();
     });
-    return conflicts;
+    if (!conflicts.empty())
+        return conflicts;
+    // The same changes in what was read, and in nothing that others have written.
+    const auto written = state.Record();
+    changesIn(written, probe.section)->WriteChanges();
+    const auto held = std::make_shared<KeptValues>();
+    WriteRecord(held, probe.section, conversion, probe.standAlone);
+    auto now = std::make_shared<RecordAsRead::State>(state);
+    now->read = written->Written();
+    now->held = held->Written();
+    record.m_state = std::move(now);
+    return {};
+}
+
+RecordAsRead ProbeFile::Record(std::wstring_view section) {
+    CQuorConversion conversion;
+    return Read(section, conversion).record;
 }
 
 void ProbeFile::Write(std::wstring_view section, const CQuorConversion& conversion) {
@@ -455,7 +517,7 @@ void ProbeFile::Write(const std::vector<ProbeToWrite>& probes) {
 void ProbeFile::Rename(std::wstring_view section, std::wstring_view name) {
     Edit([this, section = std::wstring(section), name = std::wstring(name)] {
         const ProbeEntry probe = Require(section);
-        RequireName(name, section, NamesBut(section));
+        RequireName(name, &probe, NamesBut(&probe));
         const auto standAlone = StandAloneSection(m_path);
         if (probe.standAlone || (standAlone && !EqualFolded(section, name) && EqualFolded(*standAlone, name)))
             throw Error(PROBE_DOES_NOT_FIT_FILE, name, section);

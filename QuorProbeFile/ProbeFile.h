@@ -6,6 +6,7 @@
 #include "QuorProbeFile/ProbeEntry.h"
 #include "QuorProbeFile/ProbeFileError.h"
 #include "QuorProbeFile/ProbeProblem.h"
+#include "QuorProbeFile/RecordAsRead.h"
 #include "QuorProbeFile/RecordMerge.h"
 #include "QuorProbeFile/TakenNames.h"
 
@@ -22,6 +23,7 @@
 namespace QuorProbeFile {
 
 class LinePlaces;
+class RecordReading;
 struct ProbeMove;
 
 /// What came of reading a probe. Nothing is wrong when there are neither problems nor messages.
@@ -31,6 +33,8 @@ struct ReadOutcome {
     std::vector<ProbeProblem> problems;
     /// What the library has said about that, in its words, each on one line.
     std::vector<std::wstring> messages;
+    /// For WriteChanges.
+    RecordAsRead record;
     [[nodiscard]] bool IsWhole() const { return problems.empty() && messages.empty(); }
 };
 
@@ -77,6 +81,14 @@ public:
     /// Whether a write would be refused, because this user may not write the file or its folder.
     [[nodiscard]] bool IsReadOnly() const { return m_store->IsReadOnly(); }
 
+    /// Whether there is a file, or something was written for one that is not there yet.
+    [[nodiscard]] bool Exists() { return m_store->HasText(); }
+    /// The names of all sections, those of the host among them, in the order of the file; none without one.
+    [[nodiscard]] std::vector<std::wstring> Sections();
+    /// The text of the file as reads see it (IniStore::Text); empty without one. The view lives until the
+    /// next call that writes or reloads.
+    [[nodiscard]] std::string_view Text();
+
     /// The probes, in the order of the file. The reference lives until the next call that writes or reloads.
     [[nodiscard]] const std::vector<ProbeEntry>& Probes();
     /// The probe of that section; nothing when there is none.
@@ -109,38 +121,46 @@ public:
     /// comes last. Each section that is missing is told once.
     [[nodiscard]] std::vector<ProbeProblem> Check();
 
+    /// Whether a file gives back what the conversion holds. Not so with a count below zero, with settings
+    /// that are no more of the conversion's type (a thermistor of the other direction), and with whatever
+    /// else a read refuses or replaces. Raises what the conversion raises when it is written.
+    [[nodiscard]] static bool IsConsistent(const QuorConversions::CQuorConversion& conversion);
+
     /// Writes a probe into a section, which is added when it is not there. Of a probe that stands there only
     /// the lines of values that differ change; when that one is of another type, or of one that cannot be
     /// read, its settings go first.
     ///
     /// Raises PROBE_SECTION_OF_HOST for a section that is there and is no record, PROBE_BAD_NAME,
     /// PROBE_NAME_OF_SETTINGS and PROBE_SETTINGS_ARE_TAKEN for a new one - the last also for one of a type
-    /// without settings that gets another type -, PROBE_DOES_NOT_FIT_FILE, PROBE_SECTION_IS_SHARED, and
-    /// PROBE_CANNOT_BE_WRITTEN when the conversion itself refuses it. Changed of the conversion stays as it
-    /// is.
+    /// without settings that gets another type -, PROBE_DOES_NOT_FIT_FILE, PROBE_SECTION_IS_SHARED,
+    /// PROBE_CANNOT_BE_WRITTEN when the conversion itself refuses it, and PROBE_INCONSISTENT when
+    /// IsConsistent does. Changed of the conversion stays as it is.
     void Write(std::wstring_view section, const QuorConversions::CQuorConversion& conversion);
     /// Writes many, durable together: all of them, or none. Stops at the first one that cannot be written,
     /// with the error that Write of it alone raises, which names its section; nothing is told of those behind
     /// it. Raises PROBE_NAME_IS_TAKEN when two of them have one section.
     void Write(const std::vector<ProbeToWrite>& probes);
 
-    /// Writes of a probe the keys that have got other values since it was read from `before` - this object,
-    /// or another one on the same file - and nothing else: what other programs have written about it
-    /// meanwhile stays, and so do keys that are missing or cannot be read, as long as the conversion holds
-    /// what Read has given it for them. Keys that they have changed too, to other values, are returned, and
-    /// nothing is written then.
+    /// Writes of a probe the keys that have got other values since `record` was read - from this object, or
+    /// another one on the same file - and nothing else: what other programs have written about it meanwhile
+    /// stays, and so do keys that are missing or cannot be read, as long as the conversion holds what Read
+    /// has given it for them. Keys that they have changed too, to other values, are returned, and nothing is
+    /// written then.
     ///
-    /// What counts as read is the text that `before` holds when this is called. This object itself serves for
-    /// one call after each Read: every call that writes loads the file anew, and so does this one when it
-    /// finds conflicts; what others had saved by then counts as read in the next call. Who writes several
-    /// times, or asks a person what to do with conflicts, keeps another object, or reads again.
+    /// What was written is a part of `record` afterwards, so that the same two can be given again and again,
+    /// after each change of the conversion. What others have written is not: the conversion does not hold it.
+    /// `record` stays as it is when nothing was written. `section` is another one than that of `record` where
+    /// the probe has got another name since.
     ///
-    /// Raises PROBE_NO_SUCH_SECTION, PROBE_NO_RECORD and PROBE_TYPE_UNREADABLE as Read of `before` does,
-    /// PROBE_OF_ANOTHER_TYPE when the conversion is of another type than the record in `before`, which only
-    /// Write can replace, and PROBE_CANNOT_BE_WRITTEN.
+    /// Raises PROBE_NO_RECORD for a record of no probe, PROBE_OF_ANOTHER_TYPE when the conversion is of
+    /// another type than the record, which only Write can replace, PROBE_CANNOT_BE_WRITTEN and
+    /// PROBE_INCONSISTENT.
     [[nodiscard]] std::vector<RecordConflict> WriteChanges(std::wstring_view section,
                                                            const QuorConversions::CQuorConversion& conversion,
-                                                           ProbeFile& before);
+                                                           RecordAsRead& record);
+    /// The record of a probe as it stands in the file, for WriteChanges of a conversion that Write has
+    /// written there. Raises as Read does.
+    [[nodiscard]] RecordAsRead Record(std::wstring_view section);
 
     /// Gives a probe another name, and so the sections of its settings. The same in another case of letters
     /// is another name, too. Raises as Read and Write do, and PROBE_NAME_IS_TAKEN; the record of a
@@ -184,14 +204,19 @@ private:
     [[nodiscard]] ProbeFileError Error(EProbeFileError code, std::wstring_view section,
                                        std::wstring_view other = {}) const;
     [[nodiscard]] QuorConversions::EQuorConversionType RequireType(const ProbeEntry& probe);
-    [[nodiscard]] TakenNames NamesBut(std::optional<std::wstring_view> except);
-    void RequireName(std::wstring_view name, std::optional<std::wstring_view> except,
-                     const TakenNames& names);
+    [[nodiscard]] TakenNames NamesBut(const ProbeEntry* except);
+    void RequireName(std::wstring_view name, const ProbeEntry* except, const TakenNames& names);
     void MoveSections(const std::function<void(ProbeMove&)>& move);
     void RemoveOldSettings(const std::vector<ProbeToWrite>& probes);
     void WriteOne(const ProbeToWrite& probe);
+    template <class Body>
+    void WithRefusal(std::wstring_view section, const Body& body) const;
+    void RequireConsistent(std::wstring_view section,
+                           const QuorConversions::CQuorConversion& conversion) const;
     void WriteRecord(const std::shared_ptr<QuorIniFile::INIFile>& to, std::wstring_view section,
                      const QuorConversions::CQuorConversion& conversion, bool standAlone) const;
+    [[nodiscard]] RecordAsRead RecordOf(const RecordReading& reading, const ProbeEntry& probe,
+                                        bool isRefused);
 
     std::wstring m_path;
     std::shared_ptr<QuorIniFile::IniStore> m_store;

@@ -31,6 +31,7 @@ constexpr Text texts[] = {
     {PROBE_DOES_NOT_FIT_FILE, L"in a file of this kind the section is not for ~"},
     {PROBE_SECTION_OF_HOST, L"the section exists and is not the record of a probe"},
     {PROBE_CANNOT_BE_WRITTEN, L"the record cannot be written: ~"},
+    {PROBE_INCONSISTENT, L"the values of the settings do not go together: no file gives them back"},
 };
 
 std::wstring TextOf(EProbeFileError code, const std::wstring& other) {

@@ -28,6 +28,7 @@ enum EProbeFileError : std::int32_t {
                                   ///< the type, or for the probe that is to be renamed, `Other()`
     PROBE_CANNOT_BE_WRITTEN = 13, ///< see Cause()
     PROBE_SECTION_OF_HOST = 14,   ///< no probe can be written into a section that is there and is no record
+    PROBE_INCONSISTENT = 15,      ///< no file gives back what the conversion holds: ProbeFile::IsConsistent
 };
 
 /// A ProbeFile cannot do what it is asked. Failures of the file itself are raised as the store raises them.

@@ -9,6 +9,7 @@
 #include "QuorProbeFile/ProbeTypes.h"
 #include "QuorProbeFile/ProbeWarning.h"
 #include "QuorProbeFile/ReadLog.h"
+#include "QuorProbeFile/RecordAsRead.h"
 #include "QuorProbeFile/RecordImage.h"
 #include "QuorProbeFile/RecordMerge.h"
 #include "QuorProbeFile/RecordReference.h"

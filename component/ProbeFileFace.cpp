@@ -25,20 +25,15 @@ namespace {
 
 constexpr std::int32_t changedMeanwhile = 75;
 
-/// The same conversion with the same values, without a platform. Raises what writing it would raise, and for
-/// values that cannot be read back, such as a negative count.
-[[nodiscard]] std::shared_ptr<CQuorConversion> Copied(const CQuorConversion& conversion) {
+/// The same conversion with the same values, without a platform. Raises what writing it would raise.
+[[nodiscard]] std::shared_ptr<CQuorConversion> Copied(const ProbeFile& file, std::wstring_view section,
+                                                      const CQuorConversion& conversion) {
+    if (!ProbeFile::IsConsistent(conversion))
+        throw ProbeFileError(QuorProbeFile::PROBE_INCONSISTENT, file.Path(), std::wstring(section));
     auto copy = std::make_shared<CQuorConversion>();
     copy->SetConversionType(conversion.ConversionType());
-    if (const auto settings = conversion.Settings()) {
-        const auto image = std::make_shared<RecordImage>();
-        settings->WriteOrRaise(image, L"");
-        std::shared_ptr<QuorIniFile::INIFile> iniFile = image;
-        const bool isWhole = copy->Settings()->ReadFromFile(iniFile, L"", L"");
-        if (!isWhole || !RecordImage::Same(*RecordImage::Of(*copy->Settings()), *image))
-            Throw(QUOR_ERROR_ARGUMENT,
-                  L"The values of the settings do not go together: no file gives them back");
-    }
+    if (const auto settings = conversion.Settings())
+        RecordImage::Apply(RecordImage::Of(*settings), *copy->Settings());
     return copy;
 }
 
@@ -154,9 +149,10 @@ std::wstring ProbeFileFace::ConflictOurs(std::int32_t index) const { return ToTe
 
 // ---- Reading
 
-bool ProbeFileFace::Read(std::wstring_view section, CQuorConversion& conversion) {
+bool ProbeFileFace::Read(std::wstring_view section, const Conversion& conversion) {
     return Do([&] {
-        QuorProbeFile::ReadOutcome outcome = m_file.Read(section, conversion);
+        QuorProbeFile::ReadOutcome outcome = m_file.Read(section, *conversion);
+        Remember(conversion, outcome.record);
         const bool isWhole = outcome.IsWhole();
         m_problems = std::move(outcome.problems);
         m_messages = std::move(outcome.messages);
@@ -187,57 +183,65 @@ std::int32_t ProbeFileFace::Check() {
     });
 }
 
-bool ProbeFileFace::Differs(std::wstring_view section, const CQuorConversion& conversion) {
+bool ProbeFileFace::Differs(std::wstring_view section, const Conversion& conversion) {
     return Do([&] {
-        CQuorConversion present;
-        static_cast<void>(m_file.Read(section, present));
-        if (present.ConversionType() != conversion.ConversionType())
-            return true;
-        const auto settings = conversion.Settings();
-        return settings &&
-               !RecordImage::Same(*RecordImage::Of(*present.Settings()), *RecordImage::Of(*settings));
+        const auto known = m_records.find(conversion);
+        return (known == m_records.end() ? m_file.Record(section) : known->second).IsChanged(*conversion);
     });
 }
 
 // ---- Writing
 
+void ProbeFileFace::Remember(const std::weak_ptr<CQuorConversion>& conversion, RecordAsRead record) {
+    m_records.insert_or_assign(conversion, std::move(record));
+    if (m_records.size() < m_recordsToLookThrough)
+        return;
+    std::erase_if(m_records, [](const auto& known) { return known.first.expired(); });
+    m_recordsToLookThrough = std::max(m_recordsToLookThrough, m_records.size() * 2);
+}
+
 void ProbeFileFace::Take(std::function<void()> step) {
     if (m_depth == 0)
         Do(step);
     else
-        m_steps.push_back({{}, nullptr, std::move(step)});
+        Do([&] { m_steps.push_back({.other = std::move(step)}); });
 }
 
-void ProbeFileFace::Write(std::wstring_view section, const CQuorConversion& conversion) {
-    if (m_depth == 0)
-        Do([&] { m_file.Write(section, conversion); });
-    else
-        m_steps.push_back({std::wstring(section), Copied(conversion), nullptr});
+void ProbeFileFace::Write(std::wstring_view section, const Conversion& conversion) {
+    if (m_depth == 0) {
+        Do([&] {
+            m_file.Write(section, *conversion);
+            Remember(conversion, m_file.Record(section));
+        });
+    } else {
+        Do([&] {
+            m_steps.push_back({std::wstring(section), Copied(m_file, section, *conversion), conversion});
+        });
+    }
 }
 
 bool ProbeFileFace::MergeInto(std::wstring_view section, const CQuorConversion& conversion,
-                              ProbeFileFace& before) {
-    auto conflicts = m_file.WriteChanges(section, conversion, before.m_file);
+                              RecordAsRead& record) {
+    auto conflicts = m_file.WriteChanges(section, conversion, record);
     const bool isWritten = conflicts.empty();
     m_conflicts = std::move(conflicts);
     return isWritten;
 }
 
-bool ProbeFileFace::WriteChanges(std::wstring_view section, const CQuorConversion& conversion,
-                                 ProbeFileFace& before) {
-    if (m_depth == 0)
-        return Do([&] { return MergeInto(section, conversion, before); });
-    if (&before == this)
-        Throw(QUOR_ERROR_ARGUMENT, L"Between Hold and Release another object holds what was read before");
-    Take([this, name = std::wstring(section), copy = Copied(conversion), read = before.weak_from_this()] {
-        if (MergeInto(name, *copy, *StillThere(read)))
-            return;
-        const RecordConflict& first = m_conflicts.front();
-        throw QuorIniFile::QuorError(changedMeanwhile, L"QuorProbeFile",
-                                     Path() + L": [" + first.section + L"] " + first.key +
-                                         L": another program has changed the value meanwhile");
+bool ProbeFileFace::WriteChanges(std::wstring_view section, const Conversion& conversion) {
+    const auto isWritten = [&](const Step& step) { // in this bracket
+        return step.written && !step.host.owner_before(conversion) && !conversion.owner_before(step.host);
+    };
+    return Do([&] {
+        const auto known = m_records.find(conversion);
+        if (known == m_records.end() && std::none_of(m_steps.begin(), m_steps.end(), isWritten))
+            Throw(QUOR_ERROR_ARGUMENT, L"This object has neither read nor written the conversion");
+        if (m_depth == 0)
+            return MergeInto(section, *conversion, known->second);
+        m_steps.push_back({std::wstring(section), Copied(m_file, section, *conversion), conversion,
+                           known == m_records.end() ? RecordAsRead() : known->second});
+        return true;
     });
-    return true;
 }
 
 void ProbeFileFace::Rename(std::wstring section, std::wstring name) {
@@ -258,18 +262,42 @@ void ProbeFileFace::CopyFrom(ProbeFileFace& source, std::wstring section, std::w
     });
 }
 
-void ProbeFileFace::TakeAll(const std::vector<Step>& steps) {
+auto ProbeFileFace::TakeAll(const std::vector<Step>& steps) -> Written {
+    Written records;
     for (auto step = steps.begin(); step != steps.end();) {
         if (!step->written) {
             (step++)->other();
             continue;
         }
+        if (step->record) {
+            TakeChanges(*step, records);
+            ++step;
+            continue;
+        }
         std::vector<QuorProbeFile::ProbeToWrite> probes; // many in one call, which is faster
         std::unordered_set<std::wstring> sections;       // of which each is written once
-        for (; step != steps.end() && step->written && sections.insert(Folded(step->section)).second; ++step)
+        for (; step != steps.end() && step->written && !step->record &&
+               sections.insert(Folded(step->section)).second;
+             ++step) {
             probes.push_back({step->section, *step->written});
+            records.insert_or_assign(step->host, std::pair(RecordAsRead(), step->section));
+        }
         m_file.Write(probes);
     }
+    return records;
+}
+
+void ProbeFileFace::TakeChanges(const Step& step, Written& records) {
+    const auto [known, isFirst] = records.try_emplace(step.host, *step.record, std::wstring());
+    auto& [record, section] = known->second;
+    if (!section.empty())
+        record = m_file.Record(std::exchange(section, {}));
+    if (MergeInto(step.section, *step.written, record))
+        return;
+    const RecordConflict& first = m_conflicts.front();
+    throw QuorIniFile::QuorError(changedMeanwhile, L"QuorProbeFile",
+                                 Path() + L": [" + first.section + L"] " + first.key +
+                                     L": another program has changed the value meanwhile");
 }
 
 void ProbeFileFace::Release() {
@@ -278,7 +306,21 @@ void ProbeFileFace::Release() {
     const std::vector<Step> steps = std::exchange(m_steps, {});
     if (std::exchange(m_isAbandoned, false))
         Throw(changedMeanwhile, Path() + L": nothing is written: a bracket was abandoned");
-    Do([&] { m_file.Edit([&] { TakeAll(steps); }); });
+    Do([&] {
+        Written records;
+        m_file.Edit([&] { records = TakeAll(steps); });
+        for (auto& [host, written] : records) {
+            auto& [record, section] = written;
+            if (host.expired())
+                continue;
+            if (section.empty())
+                Remember(host, std::move(record));
+            else if (m_file.Find(section)) // else it has gone, or got another name, in the same bracket
+                Remember(host, m_file.Record(section));
+            else
+                m_records.erase(host);
+        }
+    });
 }
 
 void ProbeFileFace::Abandon() {

@@ -2,6 +2,7 @@
 
 #include "QuorProbeFile/QuorProbeFile.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -11,12 +12,14 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace QuorConversions::Component {
 
 using QuorProbeFile::EProbeFileError;
 using QuorProbeFile::EProbeProblem;
+using QuorProbeFile::RecordAsRead;
 using enum QuorProbeFile::EProbeFileError;
 using enum QuorProbeFile::EProbeProblem;
 
@@ -50,6 +53,8 @@ private:
 /// The probes of a file, as a host reaches them: rows by their index, and what was wrong with the last call.
 class ProbeFileFace : public std::enable_shared_from_this<ProbeFileFace> {
 public:
+    using Conversion = std::shared_ptr<CQuorConversion>;
+
     ProbeFileFace(std::wstring_view path, bool mayBeNew);
 
     [[nodiscard]] const std::wstring& Path() const { return m_file.Path(); }
@@ -63,7 +68,7 @@ public:
     [[nodiscard]] std::wstring ConversionName(std::int32_t index);
     [[nodiscard]] std::int32_t FindProbe(std::wstring_view section);
 
-    [[nodiscard]] bool Read(std::wstring_view section, CQuorConversion& conversion);
+    [[nodiscard]] bool Read(std::wstring_view section, const Conversion& conversion);
     [[nodiscard]] std::shared_ptr<ProbeTableFace> ReadAll();
     [[nodiscard]] std::int32_t Check();
     [[nodiscard]] std::int32_t ProblemCount() const { return static_cast<std::int32_t>(m_problems.size()); }
@@ -75,9 +80,8 @@ public:
     [[nodiscard]] std::int32_t MessageCount() const { return static_cast<std::int32_t>(m_messages.size()); }
     [[nodiscard]] const std::wstring& Messages(std::int32_t index) const;
 
-    void Write(std::wstring_view section, const CQuorConversion& conversion);
-    [[nodiscard]] bool WriteChanges(std::wstring_view section, const CQuorConversion& conversion,
-                                    ProbeFileFace& before);
+    void Write(std::wstring_view section, const Conversion& conversion);
+    [[nodiscard]] bool WriteChanges(std::wstring_view section, const Conversion& conversion);
     [[nodiscard]] std::int32_t ConflictCount() const { return static_cast<std::int32_t>(m_conflicts.size()); }
     [[nodiscard]] const std::wstring& ConflictSection(std::int32_t i) const { return Conflict(i).section; }
     [[nodiscard]] const std::wstring& ConflictKey(std::int32_t index) const { return Conflict(index).key; }
@@ -99,15 +103,24 @@ public:
     [[nodiscard]] std::shared_ptr<QuorIniFile::INIFile> Store() const { return m_file.Store(); }
     [[nodiscard]] EProbeFileError ErrorCode() const { return m_errorCode; }
     [[nodiscard]] const std::wstring& ErrorOther() const { return m_errorOther; }
-    [[nodiscard]] bool Differs(std::wstring_view section, const CQuorConversion& conversion);
+    [[nodiscard]] bool Differs(std::wstring_view section, const Conversion& conversion);
 
 private:
     /// What is to be done at the end of a bracket.
     struct Step {
-        std::wstring section;
-        std::shared_ptr<const CQuorConversion> written; ///< as it was; null for another step than a write
-        std::function<void()> other;
+        std::wstring section = {};
+        std::shared_ptr<const CQuorConversion> written =
+            {};                                   ///< as it was; null for another step than a write
+        std::weak_ptr<CQuorConversion> host = {}; ///< of which it is a copy
+        std::optional<RecordAsRead> record = {};  ///< of a write of changes
+        std::function<void()> other = {};
     };
+    /// What was read into the conversions of a host, or written from them.
+    using Records = std::map<std::weak_ptr<CQuorConversion>, RecordAsRead, std::owner_less<>>;
+    /// The same of those that a bracket writes; or the section of one whose record is to be looked at when
+    /// the file is saved.
+    using Written =
+        std::map<std::weak_ptr<CQuorConversion>, std::pair<RecordAsRead, std::wstring>, std::owner_less<>>;
 
     [[nodiscard]] const QuorProbeFile::ProbeEntry& Probe(std::int32_t index);
     [[nodiscard]] const QuorProbeFile::ProbeProblem& Problem(std::int32_t index) const;
@@ -117,9 +130,12 @@ private:
     auto Do(Body&& body);
     /// Takes the step now, or at the end of the bracket.
     void Take(std::function<void()> step);
-    void TakeAll(const std::vector<Step>& steps);
+    /// Takes all steps. What the records of the conversions are then.
+    [[nodiscard]] Written TakeAll(const std::vector<Step>& steps);
+    void TakeChanges(const Step& step, Written& records);
     [[nodiscard]] bool MergeInto(std::wstring_view section, const CQuorConversion& conversion,
-                                 ProbeFileFace& before);
+                                 RecordAsRead& record);
+    void Remember(const std::weak_ptr<CQuorConversion>& conversion, RecordAsRead record);
 
     QuorProbeFile::ProbeFile m_file;
     std::unordered_map<std::wstring, std::int32_t> m_places; ///< of the probes, by their folded sections
@@ -129,6 +145,8 @@ private:
     std::vector<QuorProbeFile::RecordConflict> m_conflicts;
     EProbeFileError m_errorCode{};
     std::wstring m_errorOther;
+    Records m_records;
+    std::size_t m_recordsToLookThrough = 64; ///< for conversions that are gone, when there are so many
     std::vector<Step> m_steps;
     int m_depth = 0;
     bool m_isAbandoned = false;

@@ -542,7 +542,8 @@ enum {
     QUOR_PROBE_OF_ANOTHER_TYPE = 11, /* a probe of another type, ErrorOther, stands in the section */
     QUOR_PROBE_DOES_NOT_FIT_FILE = 12, /* the section of a stand-alone settings file is not for the type, or not for a renamed probe */
     QUOR_PROBE_CANNOT_BE_WRITTEN = 13, /* by its conversion, whose error is raised */
-    QUOR_PROBE_SECTION_OF_HOST = 14 /* no probe can be written into a section that is there and is no record */
+    QUOR_PROBE_SECTION_OF_HOST = 14, /* no probe can be written into a section that is there and is no record */
+    QUOR_PROBE_INCONSISTENT = 15 /* no file gives back what the conversion holds: a count below zero, settings of another type */
 };
 
 typedef int32_t quor_EProbeProblem;
@@ -1493,9 +1494,8 @@ QUOR_API int32_t quor_control_get_Advice(quor_object control, quor_text* result)
  * error 53; one that may be new has no probes, and the first write makes it. What is written is durable when the
  * call returns, and every call that writes does so in one turn, upon the file as it is then. All reads see one
  * text, that which was loaded first or saved last, until Reload. Between Hold and Release nothing is written:
- * Release does all of it together, or when one thing fails nothing, and raises what that raises. A file that such a
- * call reads, Before and Source, stays until then, and is another object. An error of a probe is 75 or the number
- * of its cause; ErrorCode says which it is. */
+ * Release does all of it together, or when one thing fails nothing, and raises what that raises. Source, which such
+ * a call reads, stays until then. An error of a probe is 75 or the number of its cause; ErrorCode says which it is. */
 
 QUOR_API int32_t quor_probe_file_create(quor_text path, quor_bool mayBeNew, quor_object* result);
 /* The path as it was given. */
@@ -1545,12 +1545,12 @@ QUOR_API int32_t quor_probe_file_get_MessageCount(quor_object probe_file, int32_
 QUOR_API int32_t quor_probe_file_get_Messages(quor_object probe_file, int32_t Index, quor_text* result);
 /* Writes a probe, over that of the section or as a new one: only lines of values that differ change. */
 QUOR_API int32_t quor_probe_file_Write(quor_object probe_file, quor_text Section, quor_object Conversion);
-/* Writes the values that differ from those in Before, the file object that the probe was read from: this one, or
- * another. What other programs have written beside them stays. False when they have changed the same values: there
- * are conflicts, and nothing is written. This object itself serves for one call after each Read, because every
- * call that writes loads the file anew, as one that finds conflicts does; for more keep another object. */
+/* Writes the values of a probe that have become others since this object has read them into the conversion, or has
+ * written them from it. What other programs have written beside them stays, now and in later calls. False when
+ * they have changed the same values: there are conflicts, and nothing is written. Error 5 for a conversion that
+ * this object has neither read nor written. */
 QUOR_API int32_t quor_probe_file_WriteChanges(quor_object probe_file, quor_text Section, quor_object Conversion,
-                                              quor_object Before, quor_bool* result);
+                                              quor_bool* result);
 /* How many values others have changed, too, as the last WriteChanges or Release has found. */
 QUOR_API int32_t quor_probe_file_get_ConflictCount(quor_object probe_file, int32_t* result);
 /* The section of such a value. */
@@ -1590,7 +1590,8 @@ QUOR_API int32_t quor_probe_file_get_Store(quor_object probe_file, quor_object* 
 QUOR_API int32_t quor_probe_file_get_ErrorCode(quor_object probe_file, quor_EProbeFileError* result);
 /* What else that concerns: another probe or section, or a type; mostly empty. */
 QUOR_API int32_t quor_probe_file_get_ErrorOther(quor_object probe_file, quor_text* result);
-/* Whether a conversion has another type or other values than the probe, as Read would give it. */
+/* Whether WriteChanges would write anything; of a conversion that this object has neither read nor written,
+ * whether it has another type or other values than the probe, as Read would give it. */
 QUOR_API int32_t quor_probe_file_Differs(quor_object probe_file, quor_text Section, quor_object Conversion,
                                          quor_bool* result);
 

@@ -186,6 +186,19 @@ std::size_t AppendKeyLine(std::string& text, std::size_t start, std::string_view
     return AppendLine(text, start, std::string(blank).append(line)) + blank.size();
 }
 
+/// What a line needs below that is rewritten, from `start` to `end`, as `line`: a blank line where it ends in
+/// a backslash and did not before, above whatever stands there. For a part of a line nothing.
+std::string_view BlankLineBelow(std::string_view text, std::size_t start, std::size_t end,
+                                std::string_view line) {
+    if (!line.ends_with('\\') || text.substr(start, end - start).ends_with('\\'))
+        return {};
+    const std::string_view below = text.substr(end);
+    const std::size_t lineEnd = below.starts_with("\r\n") ? 2 : below.starts_with('\n') ? 1 : 0;
+    if (lineEnd == 0 || lineEnd == below.size() || KindAt(text, end + lineEnd) == IniLineKind::Blank)
+        return {};
+    return below.substr(0, lineEnd);
+}
+
 // What was spelled for another text is spelled anew for this one, which may have another encoding.
 
 std::string NameFor(IniText& text, std::string_view name) {
@@ -921,7 +934,8 @@ std::optional<std::string> IniText::ComposedText() const {
             if (patch->isLine)
                 AppendKeyLine(text, mark, patch->bytes);
             else
-                text.append(patch->bytes);
+                text.append(patch->bytes)
+                    .append(BlankLineBelow(m_text, patch->start, patch->end, patch->bytes));
             from = patch->end;
         }
         text.append(m_text, from, to - from);

@@ -7,6 +7,8 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <utility>
 
 // How values are spelled in an INI file, both ways. Pure functions; the user's locale plays no part in them.
 // What is written reads back as the very value. Where a value cannot be read as that kind, the answer is
@@ -55,5 +57,27 @@ using NumberText = std::array<char, 32>;
 
 /// A remark as it stands behind a value: "; remark", with line breaks as blanks. Empty for an empty remark.
 [[nodiscard]] std::string FormatComment(std::wstring_view comment, IniEncoding encoding);
+
+/// Reads the bytes behind a key as a value of that kind. False, and `value` stays as it was, where there is
+/// no key, or where they are none.
+template <class Value>
+[[nodiscard]] bool TakeValue(const std::optional<std::string_view>& bytes, Value& value) {
+    const auto take = [&value](auto&& read) {
+        if (!read)
+            return false;
+        value = *std::forward<decltype(read)>(read);
+        return true;
+    };
+    if (!bytes)
+        return false;
+    if constexpr (std::is_same_v<Value, bool>)
+        return take(ParseBoolean(SplitComment(*bytes).plain));
+    else if constexpr (std::is_same_v<Value, double>)
+        return take(ParseDouble(SplitComment(*bytes).plain));
+    else if constexpr (std::is_same_v<Value, std::int16_t>)
+        return take(ParseInteger(SplitComment(*bytes).plain));
+    else
+        return take(std::optional(DecodeText(*bytes)));
+}
 
 } // namespace QuorIniFile

@@ -1,7 +1,5 @@
 #include "QuorProbeFile/detail/KeptValues.h"
 
-#include "QuorProbeFile/detail/RecordMeaning.h"
-
 #include <variant>
 
 namespace QuorProbeFile {
@@ -24,23 +22,6 @@ std::optional<Value> ReadValue(INIFile& file, const std::wstring& key, const Val
     if (file.ReadString(key, text))
         return text;
     return std::nullopt;
-}
-
-void KeptValues::Keep(std::wstring_view key, const Value& kind) {
-    std::wstring name(key);
-    if (!m_file) {
-        m_values.insert_or_assign({m_section, std::move(name)}, kind);
-        return;
-    }
-    m_file->SetSection(m_section);
-    auto value = ReadValue(*m_file, name, kind);
-    // What a smaller count leaves in the file was read with the greater one.
-    for (const std::wstring& beyond : KeysBeyond(name, kind, value)) {
-        if (auto left = ReadValue(*m_file, beyond, 0.0))
-            m_values.insert_or_assign({m_section, beyond}, *std::move(left));
-    }
-    if (value)
-        m_values.insert_or_assign({m_section, std::move(name)}, *std::move(value));
 }
 
 } // namespace QuorProbeFile

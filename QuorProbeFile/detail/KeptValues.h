@@ -1,6 +1,7 @@
 #pragma once
 
 #include "QuorIniFile/INIFile.h"
+#include "QuorIniFile/IniTextReader.h"
 #include "QuorProbeFile/RecordValue.h"
 
 #include <map>
@@ -17,14 +18,17 @@ namespace QuorProbeFile {
 [[nodiscard]] std::optional<Value> ReadValue(QuorIniFile::INIFile& file, const std::wstring& key,
                                              const Value& kind);
 
-/// What a file holds of the keys of a record, kept while the file becomes another one.
-///
-/// A settings object or facade is written to it as to a file: that tells it the keys, whose values it reads
-/// from the file then. Nothing is written. Reads give what was kept. Without a file it keeps the values that
-/// are written to it.
+/// Values in memory, above the text of a file: reads give the value that was written, and that of the text
+/// where none was.
 class KeptValues final : public QuorIniFile::INIFile {
 public:
-    explicit KeptValues(std::shared_ptr<QuorIniFile::INIFile> file = nullptr) : m_file(std::move(file)) {}
+    using Values = std::map<std::pair<std::wstring, std::wstring>, Value>; // by section and key
+
+    explicit KeptValues(std::string text = {}, Values written = {})
+        : m_text(std::move(text)), m_written(std::move(written)) {}
+
+    /// What was written.
+    [[nodiscard]] const Values& Written() const { return m_written; }
 
     void SetFileName(std::wstring_view /*fileName*/) override {}
     void SetSection(std::wstring_view section) override { m_section = section; }
@@ -44,19 +48,23 @@ public:
     }
 
 private:
-    void Keep(std::wstring_view key, const Value& kind);
+    void Keep(std::wstring_view key, Value value) {
+        m_written.insert_or_assign({m_section, std::wstring(key)}, std::move(value));
+    }
     template <class T>
-    bool Give(std::wstring_view key, T& value) const {
-        const auto kept = m_values.find({m_section, std::wstring(key)});
-        const T* const found = kept == m_values.end() ? nullptr : std::get_if<T>(&kept->second);
+    bool Give(std::wstring_view key, T& value) {
+        const auto written = m_written.find({m_section, std::wstring(key)});
+        if (written == m_written.end())
+            return m_text.Read(m_section, key, value);
+        const T* const found = std::get_if<T>(&written->second);
         if (found)
             value = *found;
         return found != nullptr;
     }
 
-    std::shared_ptr<QuorIniFile::INIFile> m_file;
+    QuorIniFile::IniTextReader m_text;
     std::wstring m_section;
-    std::map<std::pair<std::wstring, std::wstring>, Value> m_values; // by section and key
+    Values m_written;
 };
 
 } // namespace QuorProbeFile

@@ -9,7 +9,6 @@
 namespace QuorProbeFile {
 
 using namespace QuorConversions;
-using QuorIniFile::IniStore;
 
 namespace {
 
@@ -30,33 +29,42 @@ void MessageCollector::ShowMessage(const MessageRequest& request) {
         {OnOneLine(request.text), m_reads->Count(), request.textId == IDS_WRONG_FILE_VERSION});
 }
 
-RecordReading::RecordReading(const std::shared_ptr<IniStore>& store, std::wstring_view path,
+RecordReading::RecordReading(const std::shared_ptr<INIFile>& file, std::wstring_view path,
                              const ProbeEntry& entry)
     : m_standAlone(entry.standAlone) {
-    StartAnew(store);
-    std::shared_ptr<INIFile> iniFile = m_reads;
     if (!m_standAlone) {
-        m_conversion->ReadFromFile(iniFile, L"", entry.section);
+        Read(file, entry);
         return;
     }
     // Several types share an extension (the two directions of a thermistor): the first that reads the record
     // without a complaint is meant, else the first of all.
     std::vector<const TypeInfo*> candidates = TypesOfExtension(GetExtensionPart(path));
     candidates.push_back(candidates.front());
+    ProbeEntry candidate = entry;
     for (const TypeInfo* const type : candidates) {
-        StartAnew(store);
-        m_conversion->SetConversionType(type->code);
-        iniFile = m_reads;
-        Settings()->ReadFromFile(iniFile, L"", entry.section);
+        candidate.type = type->code;
+        Read(file, candidate);
         if (Messages().empty())
             break;
     }
 }
 
-void RecordReading::StartAnew(const std::shared_ptr<IniStore>& store) {
-    m_reads = std::make_shared<ReadLog>(store);
+RecordReading::RecordReading(const std::shared_ptr<INIFile>& file, const ProbeEntry& entry)
+    : m_standAlone(entry.standAlone) {
+    Read(file, entry);
+}
+
+void RecordReading::Read(const std::shared_ptr<INIFile>& file, const ProbeEntry& entry) {
+    m_reads = std::make_shared<ReadLog>(file);
     m_messages = std::make_shared<MessageCollector>(m_reads);
     m_conversion = std::make_unique<CQuorConversion>(m_messages);
+    std::shared_ptr<INIFile> iniFile = m_reads;
+    if (m_standAlone) {
+        m_conversion->SetConversionType(*entry.type);
+        Settings()->ReadFromFile(iniFile, L"", entry.section);
+    } else {
+        m_conversion->ReadFromFile(iniFile, L"", entry.section);
+    }
 }
 
 bool RecordReading::HasType() const { return m_standAlone || (!Reads().empty() && Reads().front().found); }

@@ -2,7 +2,7 @@
 
 #include "QuorConversions/core/CQuorConversion.h"
 #include "QuorConversions/platform/HeadlessPlatform.h"
-#include "QuorIniFile/IniStore.h"
+#include "QuorIniFile/INIFile.h"
 #include "QuorProbeFile/ProbeEntry.h"
 #include "QuorProbeFile/ProbeProblem.h"
 #include "QuorProbeFile/ReadLog.h"
@@ -37,9 +37,12 @@ private:
 /// what the library had to say.
 class RecordReading {
 public:
-    /// Reads the record `entry` of the file `path`, which `store` is bound to.
-    RecordReading(const std::shared_ptr<QuorIniFile::IniStore>& store, std::wstring_view path,
+    /// Reads the record `entry` of the file `path`, which `file` is bound to. The type of a stand-alone one
+    /// is found out.
+    RecordReading(const std::shared_ptr<QuorIniFile::INIFile>& file, std::wstring_view path,
                   const ProbeEntry& entry);
+    /// Reads the record `entry`, which is of the type that it says.
+    RecordReading(const std::shared_ptr<QuorIniFile::INIFile>& file, const ProbeEntry& entry);
 
     [[nodiscard]] const QuorConversions::CQuorConversion& Conversion() const { return *m_conversion; }
     [[nodiscard]] std::shared_ptr<QuorConversions::SettingsObject> Settings() const {
@@ -55,7 +58,7 @@ public:
     [[nodiscard]] bool LacksKeys() const;
 
 private:
-    void StartAnew(const std::shared_ptr<QuorIniFile::IniStore>& store);
+    void Read(const std::shared_ptr<QuorIniFile::INIFile>& file, const ProbeEntry& entry);
 
     bool m_standAlone;
     std::shared_ptr<ReadLog> m_reads;

@@ -27,7 +27,7 @@ const char* const usage = "Usage: probe-edit FILE SECTION\n"
 void EditOnScreen(const std::wstring& path, const std::wstring& section) {
     QuorProbeFile::ProbeFile file(path);
     const auto present = file.Find(section);
-    const Probe probe = ReadProbeWithSettings(file, present ? present->section : section);
+    Probe probe = ReadProbeWithSettings(file, present ? present->section : section);
     const QuorConversions::QtToolkit::QtSession session("probe-edit");
     QuorConversions::CQuorConversion shown(session.Platform());
     shown.SetConversionType(probe.Conversion().ConversionType());
@@ -36,7 +36,7 @@ void EditOnScreen(const std::wstring& path, const std::wstring& section) {
     if (!shown.Edit())
         return;
     RecordImage::Apply(RecordImage::Of(*shown.Settings()), *probe.Settings());
-    WriteEdited(probe, file);
+    WriteEdited(probe, path);
 }
 
 int Refuse(const char* why) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "QuorConversions/core/CQuorConversion.h"
+#include "QuorProbeFile/RecordAsRead.h"
 #include "toolkits/scripted/ScriptedPlatform.h"
 
 #include <cstdint>
@@ -39,6 +40,9 @@ public:
     [[nodiscard]] std::wstring Name() const;
     [[nodiscard]] std::wstring TypeName() const { return quorconv::TypeName(m_conversion->ConversionType()); }
 
+    /// The record as the conversion was read from it.
+    [[nodiscard]] QuorProbeFile::RecordAsRead& Record() { return m_record; }
+
     [[nodiscard]] const std::vector<std::wstring>& Messages() const { return m_messages->Messages(); }
     void ForgetMessages() { m_messages->Forget(); }
     /// The screen on which the library shows its dialogs.
@@ -48,6 +52,7 @@ private:
     std::wstring m_section;
     std::shared_ptr<MessageLog> m_messages;
     std::unique_ptr<QuorConversions::CQuorConversion> m_conversion;
+    QuorProbeFile::RecordAsRead m_record;
 };
 
 } // namespace quorconv

@@ -90,6 +90,7 @@ RecordForm FormOf(const RecordImage& image) {
 Probe ReadProbe(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& completion) {
     Probe probe(section);
     const ReadOutcome outcome = file.Read(section, probe.Conversion());
+    probe.Record() = outcome.record;
     const std::wstring settings = outcome.probe.standAlone ? section : SettingsSection(section);
     if (!IsCompletedBy(outcome, settings, completion))
         throw Problem{Place(file.Path(), section) + L": the record cannot be read",
@@ -365,17 +366,14 @@ void AssignInFile(ProbeFile& file, const std::wstring& section, const std::vecto
         WriteEntry(*file.Store(), settings, entry);
 }
 
-void WriteChanges(const Probe& probe, ProbeFile& before, ProbeFile& now) {
+void WriteEdited(Probe& probe, const std::wstring& path) {
+    ProbeFile file(path);
     std::vector<std::wstring> told;
-    for (const RecordConflict& conflict : now.WriteChanges(probe.Section(), probe.Conversion(), before))
-        told.push_back(TellConflict(now.Path(), conflict));
+    for (const RecordConflict& conflict :
+         file.WriteChanges(probe.Section(), probe.Conversion(), probe.Record()))
+        told.push_back(TellConflict(path, conflict));
     if (!told.empty())
         throw Problem{told.front(), {std::next(told.begin()), told.end()}};
-}
-
-void WriteEdited(const Probe& probe, ProbeFile& before) {
-    ProbeFile now(before.Path());
-    WriteChanges(probe, before, now);
 }
 
 void RequireName(const std::wstring& file, const std::wstring& name) {

@@ -66,11 +66,9 @@ std::vector<QuorProbeFile::RecordImage::Entry> Assign(Probe& probe, const std::w
 void AssignInFile(QuorProbeFile::ProbeFile& file, const std::wstring& section,
                   const std::vector<Assignment>& assignments, const ValueRules& rules);
 
-/// Writes what has become another value since the probe was read from `before`, into `now`, and nothing else.
-/// Raises Problem when another program has changed the same.
-void WriteChanges(const Probe& probe, QuorProbeFile::ProbeFile& before, QuorProbeFile::ProbeFile& now);
-/// The same into the file as it is now, of what a person has changed, who may have taken his time.
-void WriteEdited(const Probe& probe, QuorProbeFile::ProbeFile& before);
+/// Writes what has become another value since the probe was read, by a person who may have taken his time,
+/// into the file as it is now, and nothing else. Raises Problem when another program has changed the same.
+void WriteEdited(Probe& probe, const std::wstring& path);
 
 /// Raises Problem with the reason when no probe can have that name in a file.
 void RequireName(const std::wstring& file, const std::wstring& name);

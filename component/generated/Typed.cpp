@@ -173,6 +173,7 @@ static_assert(+QUOR_PROBE_OF_ANOTHER_TYPE == +PROBE_OF_ANOTHER_TYPE);
 static_assert(+QUOR_PROBE_DOES_NOT_FIT_FILE == +PROBE_DOES_NOT_FIT_FILE);
 static_assert(+QUOR_PROBE_CANNOT_BE_WRITTEN == +PROBE_CANNOT_BE_WRITTEN);
 static_assert(+QUOR_PROBE_SECTION_OF_HOST == +PROBE_SECTION_OF_HOST);
+static_assert(+QUOR_PROBE_INCONSISTENT == +PROBE_INCONSISTENT);
 static_assert(+QUOR_PROBLEM_SECTION_MISSING == +PROBLEM_SECTION_MISSING);
 static_assert(+QUOR_PROBLEM_KEY_MISSING == +PROBLEM_KEY_MISSING);
 static_assert(+QUOR_PROBLEM_VALUE_UNREADABLE == +PROBLEM_VALUE_UNREADABLE);
@@ -2400,7 +2401,7 @@ int32_t quor_probe_file_FindProbe(quor_object probe_file, quor_text Section, int
 }
 
 int32_t quor_probe_file_Read(quor_object probe_file, quor_text Section, quor_object Conversion, quor_bool* result) {
-    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.Read(Wide(Section), *Reference<CQuorConversion>(Conversion))); });
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.Read(Wide(Section), Reference<CQuorConversion>(Conversion))); });
 }
 
 int32_t quor_probe_file_ReadAll(quor_object probe_file, quor_object* result) {
@@ -2444,12 +2445,12 @@ int32_t quor_probe_file_get_Messages(quor_object probe_file, int32_t Index, quor
 }
 
 int32_t quor_probe_file_Write(quor_object probe_file, quor_text Section, quor_object Conversion) {
-    return Call<ProbeFileFace>(probe_file, [&](auto& it) { it.Write(Wide(Section), *Reference<CQuorConversion>(Conversion)); });
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { it.Write(Wide(Section), Reference<CQuorConversion>(Conversion)); });
 }
 
 int32_t quor_probe_file_WriteChanges(quor_object probe_file, quor_text Section, quor_object Conversion,
-                                     quor_object Before, quor_bool* result) {
-    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.WriteChanges(Wide(Section), *Reference<CQuorConversion>(Conversion), *Reference<ProbeFileFace>(Before))); });
+                                     quor_bool* result) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.WriteChanges(Wide(Section), Reference<CQuorConversion>(Conversion))); });
 }
 
 int32_t quor_probe_file_get_ConflictCount(quor_object probe_file, int32_t* result) {
@@ -2530,7 +2531,7 @@ int32_t quor_probe_file_get_ErrorOther(quor_object probe_file, quor_text* result
 
 int32_t quor_probe_file_Differs(quor_object probe_file, quor_text Section, quor_object Conversion,
                                 quor_bool* result) {
-    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.Differs(Wide(Section), *Reference<CQuorConversion>(Conversion))); });
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.Differs(Wide(Section), Reference<CQuorConversion>(Conversion))); });
 }
 
 int32_t quor_probe_table_get_ProbeCount(quor_object probe_table, int32_t* result) {

@@ -94,8 +94,7 @@ static class Quor {
     [DllImport(Library)]
     public static extern int quor_probe_file_Read(ulong file, Text section, ulong conversion, out short whole);
     [DllImport(Library)]
-    public static extern int quor_probe_file_WriteChanges(ulong file, Text section, ulong conversion, ulong before,
-                                                          out short written);
+    public static extern int quor_probe_file_WriteChanges(ulong file, Text section, ulong conversion, out short written);
     [DllImport(Library)] public static extern int quor_dialog_Activate(ulong dialog);
     [DllImport(Library)] public static extern int quor_dialog_get_Title(ulong dialog, out Text title);
     [DllImport(Library)] public static extern int quor_dialog_FindControl(ulong dialog, Text name, out ulong control);
@@ -182,7 +181,7 @@ static class Host {
             }
 
             // What another program has written about the probe meanwhile stays.
-            Quor.Must(Quor.quor_probe_file_WriteChanges(file, name, probe, file, out written));
+            Quor.Must(Quor.quor_probe_file_WriteChanges(file, name, probe, out written));
             if (written == 0)
                 return 1;
         }

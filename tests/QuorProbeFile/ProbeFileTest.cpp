@@ -4,6 +4,7 @@
 #include "QuorConversions/rtd/CQuorCVD.h"
 #include "QuorConversions/rtd/CQuorITS90.h"
 #include "QuorConversions/rtd/CQuorWT90.h"
+#include "QuorConversions/thermistor/CQuorThermistor.h"
 #include "QuorConversions/thermocouple/CQuorTCTypePoly.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorProbeFile/ProbeTypes.h"
@@ -476,15 +477,58 @@ TEST_F(ProbeFileTest, AProbeMayBeRenamedToTheNameThatItsOwnSectionLooksLikeSetti
     EXPECT_EQ(File(), "[X]\nConversionType=14\n[X - Settings]\nRTPW=25.5\n");
 }
 
+TEST_F(ProbeFileTest, AProbeWithoutSettingsDoesNotGetTheNameOfASectionThatIsCalledLikeItsSettings) {
+    const std::string text = "[P]\nConversionType=10\n[P - Settings]\nOfTheHost=1\n";
+    Host(text);
+    ProbeFile file(Path());
+    EXPECT_EQ(ErrorOf([&] { file.Rename(L"P", L"p - settings"); }), L"7 [p - settings] ");
+    EXPECT_EQ(File(), text);
+    file.Rename(L"P", L"P - Notes");
+    EXPECT_EQ(File(), Replaced(text, "[P]", "[P - Notes]"));
+}
+
+TEST_F(ProbeFileTest, WritesNothingThatNoFileGivesBack) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    const auto isRefused = [&](const CQuorConversion& conversion, RecordAsRead& record) {
+        EXPECT_FALSE(ProbeFile::IsConsistent(conversion));
+        EXPECT_EQ(ErrorOf([&] { file.Write(L"New", conversion); }), L"15 [New] ");
+        EXPECT_EQ(ErrorOf([&] { static_cast<void>(file.WriteChanges(L"P", conversion, record)); }),
+                  L"15 [P] ");
+        EXPECT_EQ(File(), hostFile);
+    };
+    CQuorConversion conversion;
+    RecordAsRead record = file.Read(L"P", conversion).record;
+    EXPECT_TRUE(ProbeFile::IsConsistent(conversion));
+    try {
+        SettingsAs<CQuorCVD>(conversion)->SetNumCoefficients(-1);
+    } catch (const QuorError&) { // it is stored all the same
+    }
+    isRefused(conversion, record);
+
+    Host("[P]\nConversionType=5\n");
+    file.Reload();
+    record = file.Read(L"P", conversion).record;
+    Host(hostFile);
+    SettingsAs<CQuorThermistor>(conversion)->SetConvType(EThermistorConvType{1}); // the other
+    isRefused(conversion, record);
+}
+
+TEST_F(ProbeFileTest, NewSettingsOfEachTypeAreGivenBackByAFile) {
+    for (const TypeInfo& type : Types()) {
+        CQuorConversion conversion;
+        conversion.SetConversionType(type.code);
+        EXPECT_TRUE(ProbeFile::IsConsistent(conversion)) << type.code;
+    }
+}
+
 TEST_F(ProbeFileTest, AFailureOfTheFileIsRaisedAsTheStoreRaisesIt) {
     Host(hostFile);
     Support::InterceptedFiles files;
     ProbeFile file(Path(), files);
     CQuorConversion conversion;
-    ASSERT_TRUE(file.Read(L"P", conversion).IsWhole());
+    RecordAsRead record = file.Read(L"P", conversion).record;
     SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_R0, 100.5);
-    ProbeFile before(Path());
-    ASSERT_EQ(before.Probes().size(), 2U);
     const auto numberOf = [](const auto& call) {
         try {
             call();
@@ -500,9 +544,28 @@ TEST_F(ProbeFileTest, AFailureOfTheFileIsRaisedAsTheStoreRaisesIt) {
     EXPECT_EQ(File(), hostFile);
     files.onCall = [](std::string_view) { return 0; };
     std::filesystem::remove(folder.Path("host.ini"));
-    EXPECT_EQ(numberOf([&] { static_cast<void>(file.WriteChanges(L"P", conversion, before)); }),
+    EXPECT_EQ(numberOf([&] { static_cast<void>(file.WriteChanges(L"P", conversion, record)); }),
               QuorIniFile::ERR_FILE_NOT_FOUND);
     EXPECT_FALSE(std::filesystem::exists(folder.Path("host.ini")));
+}
+
+TEST_F(ProbeFileTest, AFileThatIsNotThereYetHasNoTextNoSectionsAndNoProbes) {
+    ProbeFile file(Path(), ProbeFile::Opening::OrNew);
+    EXPECT_FALSE(file.Exists());
+    EXPECT_EQ(file.Text(), "");
+    EXPECT_TRUE(file.Sections().empty());
+    EXPECT_TRUE(file.Probes().empty());
+    EXPECT_TRUE(file.Check().empty());
+    CQuorConversion conversion;
+    conversion.SetConversionType(CONV_OHMS);
+    file.Edit([&] {
+        file.Write(L"P", conversion);
+        EXPECT_TRUE(file.Exists()) << "what was written for it counts";
+        EXPECT_EQ(file.Text(), "[P]\nVersion=1.0\nConversionType=10\n");
+        EXPECT_EQ(file.Sections(), std::vector<std::wstring>{L"P"});
+        EXPECT_EQ(file.Read(L"p", conversion).probe, (ProbeEntry{L"P", 1, CONV_OHMS}));
+    });
+    EXPECT_EQ(file.Text(), File());
 }
 
 TEST_F(ProbeFileTest, WritesIntoNoSectionThatIsAnotherOnes) {
@@ -673,53 +736,143 @@ TEST_F(ProbeFileTest, CopiesNoProbeThatCannotBeReadWholly) {
 
 TEST_F(ProbeFileTest, WritesChangesIntoWhatOthersHaveWrittenAndTellsConflicts) {
     Host(hostFile);
-    ProbeFile before(Path());
     CQuorConversion conversion;
-    ASSERT_TRUE(before.Read(L"P", conversion).IsWhole());
+    RecordAsRead record = ProbeFile(Path()).Read(L"P", conversion).record;
+    EXPECT_EQ(record.Section(), L"P");
     SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_R0, 100.5);
     const std::string theirs = Replaced(hostFile, "Coefficients2=1.5", "Coefficients2=1.6");
     Host(theirs);
     ProbeFile now(Path());
-    EXPECT_TRUE(now.WriteChanges(L"P", conversion, before).empty());
+    EXPECT_TRUE(now.WriteChanges(L"P", conversion, record).empty());
     EXPECT_EQ(File(), Replaced(theirs, "100.0 ;", "100.5 ;"));
 
     SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_DELTA, 1.7);
-    const auto conflicts = now.WriteChanges(L"P", conversion, before);
-    ASSERT_EQ(conflicts.size(), 1U);
-    EXPECT_EQ(conflicts[0].key, L"Coefficients2");
-    EXPECT_EQ(conflicts[0].theirs, Value(1.6));
-    EXPECT_EQ(conflicts[0].ours, Value(1.7));
-    EXPECT_EQ(File(), Replaced(theirs, "100.0 ;", "100.5 ;"));
-}
-
-TEST_F(ProbeFileTest, ChangesOfAProbeThatWasReadFromTheSameObjectKeepWhatOthersHaveSaved) {
-    Host(hostFile);
-    ProbeFile file(Path());
-    CQuorConversion conversion;
-    ASSERT_TRUE(file.Read(L"P", conversion).IsWhole());
-    SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_R0, 100.5);
-    const std::string theirs = Replaced(hostFile, "Coefficients2=1.5", "Coefficients2=1.6");
-    Host(theirs);
-    EXPECT_TRUE(file.WriteChanges(L"P", conversion, file).empty());
-    EXPECT_EQ(File(), Replaced(theirs, "100.0 ;", "100.5 ;"));
-}
-
-TEST_F(ProbeFileTest, AKeyThatOthersHaveChangedSinceTheSameObjectReadItIsAConflict) {
-    Host(hostFile);
-    ProbeFile file(Path());
-    CQuorConversion conversion;
-    ASSERT_TRUE(file.Read(L"P", conversion).IsWhole());
-    SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_DELTA, 1.7);
-    const std::string theirs = Replaced(hostFile, "Coefficients2=1.5", "Coefficients2=1.6");
-    Host(theirs);
-    const auto conflicts = file.WriteChanges(L"P", conversion, file);
+    const auto conflicts = now.WriteChanges(L"P", conversion, record);
     ASSERT_EQ(conflicts.size(), 1U);
     EXPECT_EQ(conflicts[0].section, L"P - Settings");
     EXPECT_EQ(conflicts[0].key, L"Coefficients2");
     EXPECT_EQ(conflicts[0].read, Value(1.5));
     EXPECT_EQ(conflicts[0].theirs, Value(1.6));
     EXPECT_EQ(conflicts[0].ours, Value(1.7));
+    EXPECT_EQ(File(), Replaced(theirs, "100.0 ;", "100.5 ;"));
+}
+
+TEST_F(ProbeFileTest, TwoWritersOfOneProbeMayWriteTheirChangesInTurnAsOftenAsTheyLike) {
+    Host(hostFile);
+    ProbeFile ourFile(Path());
+    ProbeFile theirFile(Path());
+    CQuorConversion ours;
+    CQuorConversion theirs;
+    RecordAsRead ourRecord = ourFile.Read(L"P", ours).record;
+    RecordAsRead theirRecord = theirFile.Read(L"P", theirs).record;
+    std::string expected = hostFile;
+    std::string r0 = "100.0 ;";
+    std::string delta = "Coefficients2=1.5";
+    for (int round = 1; round <= 3; ++round) {
+        SettingsAs<CQuorCVD>(ours)->SetCoefficients(CVD_R0, 100.0 + round);
+        EXPECT_TRUE(ourFile.WriteChanges(L"P", ours, ourRecord).empty());
+        expected = Replaced(expected, r0, std::to_string(100 + round) + " ;");
+        r0 = std::to_string(100 + round) + " ;";
+        EXPECT_EQ(File(), expected);
+
+        SettingsAs<CQuorCVD>(theirs)->SetCoefficients(CVD_DELTA, 1.5 + round);
+        EXPECT_TRUE(theirFile.WriteChanges(L"P", theirs, theirRecord).empty());
+        expected = Replaced(expected, delta, "Coefficients2=" + std::to_string(1 + round) + ".5");
+        delta = "Coefficients2=" + std::to_string(1 + round) + ".5";
+        EXPECT_EQ(File(), expected) << "neither writes the other's value back";
+
+        EXPECT_TRUE(ourFile.WriteChanges(L"P", ours, ourRecord).empty());
+        EXPECT_EQ(File(), expected) << "nothing has changed since";
+    }
+}
+
+TEST_F(ProbeFileTest, AValueThatOthersHaveWrittenBetweenTwoWritesOfOursIsAConflictWithTheSecond) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    RecordAsRead record = file.Read(L"P", conversion).record;
+    const auto write = [&](double r0) {
+        SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_R0, r0);
+        return file.WriteChanges(L"P", conversion, record);
+    };
+    EXPECT_TRUE(write(100.5).empty());
+    const std::string theirs = Replaced(hostFile, "100.0 ;", "100.75 ;");
+    Host(theirs);
+    for (const double again : {101.0, 102.0}) { // a conflict changes nothing of what counts as read
+        const auto conflicts = write(again);
+        ASSERT_EQ(conflicts.size(), 1U);
+        EXPECT_EQ(conflicts[0].read, Value(100.5));
+        EXPECT_EQ(conflicts[0].theirs, Value(100.75));
+        EXPECT_EQ(conflicts[0].ours, Value(again));
+        EXPECT_EQ(File(), theirs);
+    }
+    EXPECT_TRUE(write(100.5).empty()) << "nothing of ours has changed since the last write";
     EXPECT_EQ(File(), theirs);
+}
+
+TEST_F(ProbeFileTest, AValueThatGetsBackTheOneThatWasReadIsAChangeOnceAnotherOneWasWritten) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    RecordAsRead record = file.Read(L"P", conversion).record;
+    EXPECT_FALSE(record.IsChanged(conversion));
+    for (const double r0 : {100.5, 100.0, 100.5}) {
+        SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_R0, r0);
+        EXPECT_TRUE(record.IsChanged(conversion));
+        EXPECT_TRUE(file.WriteChanges(L"P", conversion, record).empty());
+        EXPECT_FALSE(record.IsChanged(conversion));
+        EXPECT_EQ(file.Read(L"P", conversion).problems.size(), 0U);
+        EXPECT_EQ(SettingsAs<CQuorCVD>(conversion)->Coefficients(CVD_R0), r0);
+    }
+    conversion.SetConversionType(CONV_WT90);
+    EXPECT_TRUE(record.IsChanged(conversion));
+    EXPECT_TRUE(RecordAsRead().IsChanged(conversion));
+}
+
+TEST_F(ProbeFileTest, ChangesOfAProbeThatWasRenamedMeanwhileAreWrittenUnderItsNewName) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    RecordAsRead record = file.Read(L"P", conversion).record;
+    file.Rename(L"P", L"New");
+    const std::string renamed = File();
+    for (const double r0 : {100.5, 100.75}) {
+        SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_R0, r0);
+        EXPECT_TRUE(file.WriteChanges(L"New", conversion, record).empty());
+    }
+    EXPECT_EQ(File(), Replaced(renamed, "100.0 ;", "100.75 ;"));
+}
+
+TEST_F(ProbeFileTest, ChangesOfAProbeThatWasWrittenWholeAreThoseSinceThen) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    conversion.SetConversionType(CONV_WT90);
+    file.Write(L"W", conversion);
+    RecordAsRead record = file.Record(L"W");
+    SettingsAs<CQuorWT90>(conversion)->SetRTPW(25.5);
+    EXPECT_TRUE(file.WriteChanges(L"W", conversion, record).empty());
+    EXPECT_EQ(File(), std::string(hostFile) + "\n[W]\nVersion=1.0\nConversionType=14\n\n[W - Settings]\n"
+                                              "Version=1.0\nRTPW=25.5\n");
+}
+
+TEST_F(ProbeFileTest, AFewerAndThenAGreaterCountConflictWithNothingThatStoodThereBefore) {
+    const std::string text = "[P]\nVersion=1.0\nConversionType=4\n[P - Settings]\nVersion=1.0\nOrder=5\n"
+                             "Coefficients0=1\nCoefficients1=2\nCoefficients2=3\nCoefficients3=4\n"
+                             "Coefficients4=5\nCoefficients5=6\nCoefficients6=7\n";
+    Host(text);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    RecordAsRead record = file.Read(L"P", conversion).record;
+    const auto polynomial = SettingsAs<CQuorPolynomial>(conversion);
+    const auto writes = [&](std::int16_t order) {
+        polynomial->SetOrder(order);
+        return file.WriteChanges(L"P", conversion, record).empty();
+    };
+    EXPECT_TRUE(writes(4));
+    EXPECT_EQ(File(), Replaced(text, "Order=5", "Order=4"));
+    EXPECT_TRUE(writes(6)); // which has kept one coefficient beyond the count
+    EXPECT_EQ(File(), Replaced(Replaced(text, "Order=5", "Order=6"), "Coefficients6=7", "Coefficients6=0"));
 }
 
 TEST_F(ProbeFileTest, ChangesOfARecordThatCouldNotBeReadWhollyLeaveWhatCouldNotBeRead) {
@@ -728,15 +881,19 @@ TEST_F(ProbeFileTest, ChangesOfARecordThatCouldNotBeReadWhollyLeaveWhatCouldNotB
     Host(text);
     ProbeFile file(Path());
     CQuorConversion conversion;
-    EXPECT_EQ(file.Read(L"P", conversion).problems.size(), 2U);
-    EXPECT_TRUE(file.WriteChanges(L"P", conversion, file).empty());
+    ReadOutcome outcome = file.Read(L"P", conversion);
+    EXPECT_EQ(outcome.problems.size(), 2U);
+    EXPECT_TRUE(file.WriteChanges(L"P", conversion, outcome.record).empty());
     EXPECT_EQ(File(), text) << "nothing has changed";
     SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_R0, 100.5);
-    EXPECT_TRUE(file.WriteChanges(L"P", conversion, file).empty());
+    EXPECT_TRUE(file.WriteChanges(L"P", conversion, outcome.record).empty());
     EXPECT_EQ(File(), Replaced(text, "100.0 ;", "100.5 ;"));
-    SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_ALPHA, 0.0039083);
-    EXPECT_TRUE(file.WriteChanges(L"P", conversion, file).empty());
-    EXPECT_EQ(File(), Replaced(Replaced(text, "100.0 ;", "100.5 ;"), "0,0039083", "0.0039083"));
+    for (const double alpha : {0.0039083, 0.0}) { // 0 is what a read gives for it
+        SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_ALPHA, alpha);
+        EXPECT_TRUE(file.WriteChanges(L"P", conversion, outcome.record).empty());
+        EXPECT_EQ(File(), Replaced(Replaced(text, "100.0 ;", "100.5 ;"), "0,0039083",
+                                   alpha == 0.0 ? "0" : "0.0039083"));
+    }
 }
 
 TEST_F(ProbeFileTest, AKeyThatCouldNotBeReadAndThatOthersHaveMendedStaysAsTheyHaveWrittenIt) {
@@ -744,10 +901,10 @@ TEST_F(ProbeFileTest, AKeyThatCouldNotBeReadAndThatOthersHaveMendedStaysAsTheyHa
     Host(text);
     ProbeFile file(Path());
     CQuorConversion conversion;
-    EXPECT_FALSE(file.Read(L"P", conversion).IsWhole());
+    RecordAsRead record = file.Read(L"P", conversion).record;
     SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_R0, 100.5);
     Host(hostFile);
-    EXPECT_TRUE(file.WriteChanges(L"P", conversion, file).empty());
+    EXPECT_TRUE(file.WriteChanges(L"P", conversion, record).empty());
     EXPECT_EQ(File(), Replaced(hostFile, "100.0 ;", "100.5 ;"));
 }
 
@@ -757,27 +914,31 @@ TEST_F(ProbeFileTest, ChangesOfARecordThatWasGivenUpLeaveItsOtherKeys) {
     Host(text);
     ProbeFile file(Path());
     CQuorConversion conversion;
-    EXPECT_FALSE(file.Read(L"P", conversion).IsWhole());
-    EXPECT_EQ(SettingsAs<CQuorTCTypePoly>(conversion)->Coefficients(0), 0.0);
-    SettingsAs<CQuorTCTypePoly>(conversion)->SetTCType(TCTYPE_C);
-    EXPECT_TRUE(file.WriteChanges(L"P", conversion, file).empty());
-    EXPECT_EQ(File(), Replaced(text, "TCType=4", "TCType=1"));
+    ReadOutcome outcome = file.Read(L"P", conversion);
+    EXPECT_FALSE(outcome.IsWhole());
+    const auto settings = SettingsAs<CQuorTCTypePoly>(conversion);
+    EXPECT_EQ(settings->Coefficients(0), 0.0);
+    EXPECT_FALSE(outcome.record.IsChanged(conversion));
+    const auto initial = settings->TCType();
+    for (const auto type : {TCTYPE_C, initial}) { // the second is that of an object that has read nothing
+        settings->SetTCType(type);
+        EXPECT_TRUE(file.WriteChanges(L"P", conversion, outcome.record).empty());
+        EXPECT_EQ(File(), Replaced(text, "TCType=4", "TCType=" + std::to_string(type)));
+    }
 }
 
 TEST_F(ProbeFileTest, ChangesOfAnotherTypeThanWasReadAreRefused) {
-    const std::string text = std::string(hostFile) + "[R]\nConversionType=two\n";
-    Host(text);
+    Host(hostFile);
     ProbeFile file(Path());
     CQuorConversion conversion;
+    RecordAsRead record = file.Read(L"P", conversion).record;
     conversion.SetConversionType(CONV_WT90);
-    const auto write = [&](const wchar_t* section) {
-        return ErrorOf([&] { static_cast<void>(file.WriteChanges(section, conversion, file)); });
-    };
-    EXPECT_EQ(write(L"P"), L"11 [P] CONV_CVD");
-    EXPECT_EQ(write(L"R"), L"3 [R] two");
-    EXPECT_EQ(write(L"Z"), L"1 [Z] ");
-    EXPECT_EQ(write(L"Instrument"), L"2 [Instrument] ");
-    EXPECT_EQ(File(), text);
+    RecordAsRead none;
+    EXPECT_EQ(ErrorOf([&] { static_cast<void>(file.WriteChanges(L"P", conversion, record)); }),
+              L"11 [P] CONV_CVD");
+    EXPECT_EQ(ErrorOf([&] { static_cast<void>(file.WriteChanges(L"P", conversion, none)); }), L"2 [P] ");
+    EXPECT_EQ(none.Section(), L"");
+    EXPECT_EQ(File(), hostFile);
 }
 
 TEST_F(ProbeFileTest, WritesUponWhatAnotherProgramHasSavedMeanwhile) {
@@ -814,8 +975,9 @@ TEST_F(ProbeFileTest, ANameOutOfTheProbesMeansThatProbeAlsoWhenAnotherProgramHas
     const auto copy = [](ProbeFile& file, std::wstring_view section) { file.Copy(L"P3", section); };
     const auto change = [](ProbeFile& file, std::wstring_view section) {
         CQuorConversion conversion;
+        RecordAsRead record = file.Record(section);
         conversion.SetConversionType(CONV_OHMS);
-        EXPECT_TRUE(file.WriteChanges(section, conversion, file).empty());
+        EXPECT_TRUE(file.WriteChanges(section, conversion, record).empty());
     };
     EXPECT_EQ(afterTheyHaveSaved(p2 + p1, remove), p2);
     EXPECT_EQ(afterTheyHaveSaved("[P9]\nConversionType=10\n" + p1 + p2, remove),

@@ -231,11 +231,11 @@ TEST_F(RecordMergeTest, ASmallerCountIsAConflictWhereOthersHaveChangedWhatItLeav
 TEST_F(RecordMergeTest, ASmallerCountThatAFileWritesIsAConflictWithWhatOthersHaveChangedBeyondIt) {
     folder.Write("a.ini", record);
     ProbeFile probes(folder.Name("a.ini"));
-    ASSERT_TRUE(probes.Read(L"P", probe).IsWhole());
+    RecordAsRead asRead = probes.Read(L"P", probe).record;
     Cvd().SetNumCoefficients(3);
     const std::string theirs = Replaced(record, "Coefficients3=0", "Coefficients3=0.5");
     Others(theirs);
-    const auto conflicts = probes.WriteChanges(L"P", probe, probes);
+    const auto conflicts = probes.WriteChanges(L"P", probe, asRead);
     ASSERT_EQ(conflicts.size(), 1U);
     EXPECT_EQ(conflicts[0].key, L"Coefficients3");
     EXPECT_EQ(conflicts[0].theirs, Value(0.5));

@@ -252,14 +252,13 @@ TEST_F(ProbeFileFromC, LeavesWhatOthersHaveChangedAndTellsConflicts) {
     Put(Replaced(hostFile, "0.0039083", "0.0039")); // another program, another coefficient
     SetR0(conversion, 101);
     std::int16_t written = 0;
-    ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, file, &written), 0);
+    ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, &written), 0);
     EXPECT_EQ(written, -1);
     EXPECT_EQ(File(), Replaced(Replaced(hostFile, "0.0039083", "0.0039"), "100.01 ;", "101 ;"));
 
-    const Handle before = Open();
     Put(Replaced(hostFile, "100.01 ;", "103 ;"));
     SetR0(conversion, 102);
-    ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, before, &written), 0);
+    ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, &written), 0);
     EXPECT_EQ(written, 0);
     std::int32_t count = 0;
     ASSERT_EQ(quor_probe_file_get_ConflictCount(file, &count), 0);
@@ -271,8 +270,7 @@ TEST_F(ProbeFileFromC, LeavesWhatOthersHaveChangedAndTellsConflicts) {
     EXPECT_EQ(Row(quor_probe_file_get_ConflictOurs, file, 0), "102");
 
     ASSERT_EQ(quor_probe_file_Hold(file), 0);
-    EXPECT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, file, &written), QUOR_ERROR_ARGUMENT);
-    ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, before, &written), 0);
+    ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, &written), 0);
     EXPECT_EQ(written, -1);
     EXPECT_EQ(quor_probe_file_Release(file), 75);
     EXPECT_EQ(LastError(),
@@ -282,6 +280,102 @@ TEST_F(ProbeFileFromC, LeavesWhatOthersHaveChangedAndTellsConflicts) {
     ASSERT_EQ(quor_probe_file_get_ConflictCount(file, &count), 0);
     EXPECT_EQ(count, 1);
     EXPECT_EQ(File(), Replaced(hostFile, "100.01 ;", "103 ;"));
+}
+
+TEST_F(ProbeFileFromC, WritesTheChangesOfTwoConversionsInTurnAndNeitherTakesBackTheOthers) {
+    const Handle file = Open();
+    const Handle one = Read(file);
+    const Handle other = Read(file);
+    const auto change = [&](quor_object conversion, std::int32_t index, double value) {
+        EXPECT_EQ(quor_cvd_put_Coefficients(SettingsOf(conversion), index, value), 0);
+        std::int16_t differs = 0;
+        EXPECT_EQ(quor_probe_file_Differs(file, Text("P"), conversion, &differs), 0);
+        EXPECT_EQ(differs, -1);
+        std::int16_t written = 0;
+        EXPECT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, &written), 0);
+        EXPECT_EQ(written, -1);
+        EXPECT_EQ(quor_probe_file_Differs(file, Text("P"), conversion, &differs), 0);
+        EXPECT_EQ(differs, 0);
+    };
+    for (const char* const r0 : {"101", "102", "103"}) {
+        change(one, QUOR_CVD_R0, std::stod(r0));
+        change(other, QUOR_CVD_ALPHA, std::stod(r0) / 1000);
+        EXPECT_EQ(File(), Replaced(Replaced(hostFile, "100.01 ;", std::string(r0) + " ;"), "0.0039083",
+                                   "0." + std::string(r0)));
+    }
+}
+
+TEST_F(ProbeFileFromC, WritesChangesSeveralTimesInOneBracketUponWhatWasWrittenBefore) {
+    const Handle file = Open();
+    const Handle conversion = Read(file);
+    const Handle added = Read(file);
+    ASSERT_EQ(quor_probe_file_Hold(file), 0);
+    SetR0(added, 200);
+    ASSERT_EQ(quor_probe_file_Write(file, Text("R"), added), 0);
+    for (const double r0 : {101.0, 102.0}) {
+        SetR0(conversion, r0);
+        SetR0(added, r0 + 100);
+        ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, nullptr), 0);
+        ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("R"), added, nullptr), 0);
+    }
+    EXPECT_EQ(File(), hostFile);
+    ASSERT_EQ(quor_probe_file_Release(file), 0);
+    SetR0(conversion, 103);
+    SetR0(added, 203);
+    std::int16_t written = 0;
+    ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, &written), 0);
+    EXPECT_EQ(written, -1);
+    ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("R"), added, &written), 0);
+    EXPECT_EQ(written, -1);
+    EXPECT_EQ(File(), Replaced(hostFile, "100.01 ;", "103 ;") +
+                          "\n[R]\nVersion=1.0\nConversionType=2\n\n[R - Settings]\nVersion=1.0\n"
+                          "NumCoefficients=4\nUsePolynomial=True\nCoefficients0=203\n"
+                          "Coefficients1=0.0039083\nCoefficients2=-5.775e-07\nCoefficients3=-4.183e-12\n");
+}
+
+TEST_F(ProbeFileFromC, ABracketThatFailsLeavesWhatCountsAsRead) {
+    const Handle file = Open();
+    const Handle conversion = Read(file);
+    SetR0(conversion, 101);
+    ASSERT_EQ(quor_probe_file_Hold(file), 0);
+    ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, nullptr), 0);
+    ASSERT_EQ(quor_probe_file_Remove(file, Text("No probe")), 0);
+    EXPECT_EQ(quor_probe_file_Release(file), 75);
+    EXPECT_EQ(File(), hostFile);
+    std::int16_t written = 0;
+    ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, &written), 0);
+    EXPECT_EQ(written, -1);
+    EXPECT_EQ(File(), Replaced(hostFile, "100.01 ;", "101 ;"));
+}
+
+TEST_F(ProbeFileFromC, WritesNothingThatNoFileGivesBackInABracketOrWithoutOne) {
+    const Handle file = Open();
+    const Handle conversion = Read(file);
+    quor_cvd_put_NumCoefficients(SettingsOf(conversion), -1);
+    const auto writes = [&] {
+        EXPECT_EQ(quor_probe_file_Write(file, Text("P"), conversion), 75);
+        EXPECT_EQ(ErrorCode(file), QUOR_PROBE_INCONSISTENT);
+        EXPECT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, nullptr), 75);
+        EXPECT_EQ(ErrorCode(file), QUOR_PROBE_INCONSISTENT);
+    };
+    writes();
+    ASSERT_EQ(quor_probe_file_Hold(file), 0);
+    writes();
+    ASSERT_EQ(quor_probe_file_Release(file), 0);
+    EXPECT_EQ(File(), hostFile);
+}
+
+TEST_F(ProbeFileFromC, TheChangesOfAConversionThatItHasNeitherReadNorWrittenAreNotKnown) {
+    const Handle file = Open();
+    const Handle other = Open();
+    const Handle conversion = Read(other);
+    std::int16_t written = 0;
+    EXPECT_EQ(quor_probe_file_WriteChanges(file, Text("P"), conversion, &written), QUOR_ERROR_ARGUMENT);
+    EXPECT_EQ(LastError(), (Error{5, "quor", "This object has neither read nor written the conversion"}));
+    std::int16_t differs = -1;
+    ASSERT_EQ(quor_probe_file_Differs(file, Text("P"), conversion, &differs), 0);
+    EXPECT_EQ(differs, 0) << "of such a one the probe in the file counts";
+    EXPECT_EQ(File(), hostFile);
 }
 
 TEST_F(ProbeFileFromC, AFileThatReleaseNeedsAndThatIsGoneIsAnError) {

@@ -99,7 +99,7 @@ class Edit final : public Command {
             throw Problem{Place(m_path, m_section) +
                               L": nothing was written, because of advice that the script does not expect",
                           advice};
-        WriteEdited(probe, file);
+        WriteEdited(probe, m_path);
     }
 };
 

@@ -241,6 +241,7 @@ class ProbeFileError(IntEnum):
     DOES_NOT_FIT_FILE = 12  # the section of a stand-alone settings file is not for the type, or not for a renamed probe
     CANNOT_BE_WRITTEN = 13  # by its conversion, whose error is raised
     SECTION_OF_HOST = 14  # no probe can be written into a section that is there and is no record
+    INCONSISTENT = 15  # no file gives back what the conversion holds: a count below zero, settings of another type
 
 
 class ProbeProblem(IntEnum):
@@ -2943,7 +2944,7 @@ class Control(Object):
 
 
 class ProbeFile(Object):
-    """The probes of a host's file, or the one of a stand-alone settings file. A file that is not there is error 53; one that may be new has no probes, and the first write makes it. What is written is durable when the call returns, and every call that writes does so in one turn, upon the file as it is then. All reads see one text, that which was loaded first or saved last, until Reload. Between Hold and Release nothing is written: Release does all of it together, or when one thing fails nothing, and raises what that raises. A file that such a call reads, Before and Source, stays until then, and is another object. An error of a probe is 75 or the number of its cause; ErrorCode says which it is."""
+    """The probes of a host's file, or the one of a stand-alone settings file. A file that is not there is error 53; one that may be new has no probes, and the first write makes it. What is written is durable when the call returns, and every call that writes does so in one turn, upon the file as it is then. All reads see one text, that which was loaded first or saved last, until Reload. Between Hold and Release nothing is written: Release does all of it together, or when one thing fails nothing, and raises what that raises. Source, which such a call reads, stays until then. An error of a probe is 75 or the number of its cause; ErrorCode says which it is."""
 
     __slots__ = ()
 
@@ -3091,15 +3092,14 @@ class ProbeFile(Object):
         with lent(Conversion) as Conversion_handle:
             check(_library.quor_probe_file_Write(self._handle, text(Section), Conversion_handle))
 
-    def WriteChanges(self, Section, Conversion, Before):
-        """Writes the values that differ from those in Before, the file object that the probe was read from: this
-        one, or another. What other programs have written beside them stays. False when they have changed the
-        same values: there are conflicts, and nothing is written. This object itself serves for one call after
-        each Read, because every call that writes loads the file anew, as one that finds conflicts does; for more
-        keep another object."""
+    def WriteChanges(self, Section, Conversion):
+        """Writes the values of a probe that have become others since this object has read them into the conversion,
+        or has written them from it. What other programs have written beside them stays, now and in later calls.
+        False when they have changed the same values: there are conflicts, and nothing is written. Error 5 for a
+        conversion that this object has neither read nor written."""
         result = c_int16()
-        with lent(Conversion) as Conversion_handle, lent(Before) as Before_handle:
-            check(_library.quor_probe_file_WriteChanges(self._handle, text(Section), Conversion_handle, Before_handle, byref(result)))
+        with lent(Conversion) as Conversion_handle:
+            check(_library.quor_probe_file_WriteChanges(self._handle, text(Section), Conversion_handle, byref(result)))
         return result.value != 0
 
     @property
@@ -3205,7 +3205,8 @@ class ProbeFile(Object):
         return result.take()
 
     def Differs(self, Section, Conversion):
-        """Whether a conversion has another type or other values than the probe, as Read would give it."""
+        """Whether WriteChanges would write anything; of a conversion that this object has neither read nor written,
+        whether it has another type or other values than the probe, as Read would give it."""
         result = c_int16()
         with lent(Conversion) as Conversion_handle:
             check(_library.quor_probe_file_Differs(self._handle, text(Section), Conversion_handle, byref(result)))
@@ -3736,7 +3737,7 @@ for _name, *_types in (
     ("quor_probe_file_get_MessageCount", c_uint64, POINTER(c_int32)),
     ("quor_probe_file_get_Messages", c_uint64, c_int32, POINTER(Text)),
     ("quor_probe_file_Write", c_uint64, TextIn, c_uint64),
-    ("quor_probe_file_WriteChanges", c_uint64, TextIn, c_uint64, c_uint64, POINTER(c_int16)),
+    ("quor_probe_file_WriteChanges", c_uint64, TextIn, c_uint64, POINTER(c_int16)),
     ("quor_probe_file_get_ConflictCount", c_uint64, POINTER(c_int32)),
     ("quor_probe_file_get_ConflictSection", c_uint64, c_int32, POINTER(Text)),
     ("quor_probe_file_get_ConflictKey", c_uint64, c_int32, POINTER(Text)),

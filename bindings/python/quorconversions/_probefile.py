@@ -5,6 +5,7 @@ from __future__ import annotations
 import os
 from array import array
 from dataclasses import dataclass
+from functools import partial
 from types import TracebackType
 from typing import Any, Callable, Dict, Iterator, List, MutableMapping, NoReturn, Optional, Tuple, Type, TypeVar, Union
 
@@ -245,15 +246,16 @@ class ProbeFile(MutableMapping[str, Conversion]):
         steps = list(self._steps())
         if not steps:
             return
-        writer = _low.ProbeFile(self._path, self._create)
+        self._file.Hold()
         try:
-            writer.Hold()
             for step in steps:
-                step(writer)
-            writer.Release()
-        except QuorError as error:
-            self._raise(writer, error)
-        self._file.Reload()
+                step()
+        except BaseException as error:
+            self._file.Abandon()
+            if isinstance(error, QuorError):
+                self._raise(self._file, error)
+            raise
+        self._call(self._file.Release)
         probes = [(section, conversion) for section, conversion, _ in self._probes.values() if conversion is not None]
         self._probes = {}
         self._before = {}
@@ -266,15 +268,14 @@ class ProbeFile(MutableMapping[str, Conversion]):
         self._probes[_folded(section)] = section, conversion, True
         self._before[_folded(section)] = conversion.ConversionType
 
-    def _steps(self) -> Iterator[Callable[[_low.ProbeFile], object]]:
+    def _steps(self) -> Iterator[Callable[[], object]]:
         for folded, (section, conversion, was_read) in self._probes.items():
             if conversion is None:
-                yield lambda writer, name=section: writer.Remove(name)  # type: ignore[misc]
+                yield partial(self._file.Remove, section)
             elif not was_read or conversion.ConversionType != self._before[folded]:
-                yield lambda writer, name=section, new=conversion: writer.Write(name, new)  # type: ignore[misc]
+                yield partial(self._file.Write, section, conversion)
             elif self._file.Differs(section, conversion):
-                yield lambda writer, name=section, new=conversion: writer.WriteChanges(  # type: ignore[misc]
-                    name, new, self._file)
+                yield partial(self._file.WriteChanges, section, conversion)
 
     def discard(self) -> None:
         """Forgets what was not saved, and loads the file as it is now."""

@@ -145,6 +145,27 @@ TEST(IniText, AKeyBelowAWrittenTextThatEndsInABackslashGetsABlankLineAboveToo) {
     EXPECT_EQ(Merged(text), "[A]\nx=1\ny=D:\\\n\nz=1\n\n[B]\ny=E:\\\n\nz=2\n");
 }
 
+TEST(IniText, AValueThatIsWrittenSoThatItEndsInABackslashGetsABlankLineBelow) {
+    const auto written = [](const char* before) {
+        IniText text(before);
+        Write(text, "A", "x", {"C:\\", true, {}});
+        return Merged(text);
+    };
+    EXPECT_EQ(written("[A]\nx=C:\ny=2\n"), "[A]\nx=C:\\\n\ny=2\n");
+    EXPECT_EQ(written("[A]\r\nx=C:\r\n[B]\r\n"), "[A]\r\nx=C:\\\r\n\r\n[B]\r\n");
+    EXPECT_EQ(written("[A]\nx=C:\n\ny=2\n"), "[A]\nx=C:\\\n\ny=2\n") << "there is one already";
+    EXPECT_EQ(written("[A]\nx=1 \\\n2\n"), "[A]\nx=C:\\\n2\n") << "the lines below stay those of the value";
+    EXPECT_EQ(written("[A]\nx=C:\n"), "[A]\nx=C:\\\n");
+    EXPECT_EQ(written("[A]\nx=C:"), "[A]\nx=C:\\");
+    IniText text("[A]\nx=C:\n[B]\ny=1\n");
+    Write(text, "A", "x", {"C:\\", true, {}});
+    Write(text, "A", "z", {"2", false, {}});
+    EXPECT_EQ(Merged(text), "[A]\nx=C:\\\n\nz=2\n[B]\ny=1\n") << "one blank line, not two";
+    IniText renamed("[A]\nx=1\n");
+    ASSERT_TRUE(renamed.RenameSection(Find(renamed, "A").value(), "C:\\"));
+    EXPECT_EQ(Merged(renamed), "[C:\\]\nx=1\n");
+}
+
 TEST(IniText, ANewKeyDoesNotFollowLinesThatContinueNothing) {
     EXPECT_EQ(With("[A]\nx=1\nno key\n  more\n", "A", "y", "2"), "[A]\nx=1\ny=2\nno key\n  more\n");
     EXPECT_EQ(With("[A]\nx=1\n  ; about B\n  [B]\n", "A", "y", "2"), "[A]\nx=1\ny=2\n  ; about B\n  [B]\n");

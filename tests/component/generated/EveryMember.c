@@ -5565,11 +5565,10 @@ void every_member_of_probe_file(quor_object object) {
         quor_value result = {0};
         args[0].kind = QUOR_TEXT; args[0].as.text = quor_text_of("sample");
         args[1].kind = QUOR_OBJECT; args[1].as.object = sample_CQuorConversion;
-        args[2].kind = QUOR_OBJECT; args[2].as.object = sample_ProbeFile;
         before_call();
-        const int32_t code = quor_probe_file_WriteChanges(object, quor_text_of("sample"), sample_CQuorConversion, sample_ProbeFile, &typed);
+        const int32_t code = quor_probe_file_WriteChanges(object, quor_text_of("sample"), sample_CQuorConversion, &typed);
         before_call();
-        const int32_t same = by_name(object, "WriteChanges", QUOR_CALL, args, 3, &result);
+        const int32_t same = by_name(object, "WriteChanges", QUOR_CALL, args, 2, &result);
         check(code, same, typed == result.as.boolean && result.kind == QUOR_BOOL, "quor_probe_file_WriteChanges");
         quor_value_clear(&result);
     }
