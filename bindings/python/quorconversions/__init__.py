@@ -20,7 +20,7 @@ from ._low import Registry as FileRegistry
 from ._probefile import (Conflict, ConflictError, IncompleteProbeError, Problem, ProbeFile, ProbeFileError, ProbeTable)
 from ._runtime import QuorError, handle_count, version
 from ._settings import (CVD, HTPRT, IPTS68, ITS90, PT100, WT90, Conversion, ITS90HighRange, ITS90LowRange, Polynomial,
-                        Settings, TCPolynomial, TCTable, TCTypePoly, TCTypeX, Thermistor, Values)
+                        Settings, TCPolynomial, TCTable, TCTypePoly, TCTypeX, Thermistor, Values, allow_nan)
 
 __all__ = [
     "CVD", "CVDCoefficients", "Conflict", "ConflictError", "Control", "ControlKind", "Conversion", "ConversionType",
@@ -31,5 +31,6 @@ __all__ = [
     "PolynomialCoefficients", "ProbeFile", "ProbeFileError", "ProbeFileErrorCode", "ProbeProblem", "ProbeTable",
     "Problem", "QuorError", "Registry", "Settings", "TCPolynomial", "TCPolynomialCoefficients", "TCTable",
     "TCTableCoefficients", "TCType", "TCTypePoly", "TCTypeX", "TCTypeXCoefficients", "Thermistor",
-    "ThermistorCoefficients", "ThermistorConvType", "Values", "WT90", "handle_count", "version",
+    "ThermistorCoefficients", "ThermistorConvType", "Values", "WT90", "allow_nan", "handle_count",
+    "version",
 ]

@@ -3,6 +3,7 @@
 from __future__ import annotations
 
 import os
+import weakref
 from array import array
 from dataclasses import dataclass
 from functools import partial
@@ -68,7 +69,10 @@ class ConflictError(QuorError):
     """Another program has changed the same values meanwhile. Nothing was written."""
 
     def __init__(self, error: QuorError, conflicts: Tuple[Conflict, ...]) -> None:
-        super().__init__(error.number, error.source, error.description, error.help_file, error.help_context)
+        values = "; ".join(f"[{one.section}] {one.key}: {one.read or '(none)'} was read, theirs is "
+                           f"{one.theirs or '(none)'}, ours {one.ours or '(none)'}" for one in conflicts)
+        super().__init__(error.number, error.source, f"{error.description}: {values}", error.help_file,
+                         error.help_context)
         self.conflicts = conflicts
 
 
@@ -107,6 +111,23 @@ class ProbeTable:
 def _folded(section: str) -> str:
     """Names of sections are the same in any case of ASCII letters."""
     return section.translate(_LOWER)
+
+
+def _section(section: object) -> str:
+    if not isinstance(section, str):
+        raise TypeError(f"probes are named by their sections, texts, and not by {section!r}")
+    return section
+
+
+def _require_name(name: str) -> None:
+    """ValueError for a name that a file cannot give back, or that other programs take for something else."""
+    reason = ("a name needs a character" if not name else
+              'a "]" ends the name in the file' if "]" in name else
+              "it has a line break" if "\n" in name or "\r" in name else
+              "what begins so is a comment to other programs" if name[0] in "#;" else
+              "blanks around it are lost in the file" if name != name.strip() else None)
+    if reason is not None:
+        raise ValueError(f"no section can have the name {name!r}: {reason}")
 
 
 class ProbeFile(MutableMapping[str, Conversion]):
@@ -160,6 +181,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
         raise error
 
     def __getitem__(self, section: str) -> Conversion:
+        _section(section)
         pending = self._probes.get(_folded(section))
         if pending is not None:
             if pending[1] is None:
@@ -177,6 +199,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
     def read(self, section: str) -> Tuple[Conversion, Tuple[Problem, ...]]:
         """The probe as it stands in the file, with default values where something is missing, and what is wrong with
         it. It is one of the caller's own: nothing is saved of it unless it is put into this mapping."""
+        _section(section)
         conversion = Conversion(platform=self._platform)
         self._call(lambda: self._file.Read(section, conversion))
         return conversion, _problems(self._file)
@@ -184,6 +207,14 @@ class ProbeFile(MutableMapping[str, Conversion]):
     def __setitem__(self, section: str, conversion: Conversion) -> None:
         if not isinstance(conversion, Conversion):
             raise TypeError(f"a Conversion is needed, not {conversion!r}")
+        if _section(section) not in self:
+            _require_name(section)
+        other_file = getattr(conversion, "_file", lambda: None)()
+        if other_file is not None and other_file is not self:
+            for other, known_conversion, _ in other_file._probes.values():
+                if known_conversion is conversion:
+                    raise ValueError(f"this conversion is that of [{other}] in {other_file.path} already; "
+                                     "read gives another one")
         folded = _folded(section)
         for name, (other, known_conversion, _) in self._probes.items():
             if known_conversion is conversion and name != folded:
@@ -191,18 +222,21 @@ class ProbeFile(MutableMapping[str, Conversion]):
         there = self._probes.get(folded)
         if there is None or there[1] is not conversion:
             self._probes[folded] = section, conversion, False
+            conversion._file = weakref.ref(self)
 
     def duplicate(self, section: str, name: str) -> None:
         """Writes the probe again under another name, as it stands in the file, at once. What is not saved yet must be
         saved or discarded before: ValueError."""
         if any(True for _ in self._steps()):
             raise ValueError("there are changes that are not saved")
-        self._call(lambda: self._file.Copy(section, name))
+        if _section(name) not in self:
+            _require_name(name)
+        self._call(lambda: self._file.Copy(_section(section), name))
         self._probes = {}
         self._before = {}
 
     def __delitem__(self, section: str) -> None:
-        if section not in self:
+        if _section(section) not in self:
             raise KeyError(section)
         if self._file.FindProbe(section) < 0:
             del self._probes[_folded(section)]  # it was only added here
@@ -267,6 +301,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
     def _remember(self, section: str, conversion: Conversion) -> None:
         self._probes[_folded(section)] = section, conversion, True
         self._before[_folded(section)] = conversion.ConversionType
+        conversion._file = weakref.ref(self)
 
     def _steps(self) -> Iterator[Callable[[], object]]:
         for folded, (section, conversion, was_read) in self._probes.items():
@@ -297,7 +332,8 @@ class ProbeFile(MutableMapping[str, Conversion]):
         or discarded before: ValueError."""
         if any(True for _ in self._steps()):
             raise ValueError("there are changes that are not saved")
-        self._call(lambda: self._file.Rename(section, name))
+        _require_name(_section(name))
+        self._call(lambda: self._file.Rename(_section(section), name))
         self._probes = {}
         self._before = {}
 

@@ -3,11 +3,14 @@ their own names (`AllowEdit`, `GetName()`), and beside them what reads better he
 
 from __future__ import annotations
 
+import math
 import operator
 import os
+from contextlib import contextmanager
+from contextvars import ContextVar
 from enum import IntEnum
-from typing import (Any, Callable, ClassVar, Iterator, List, Optional, Sequence, Tuple, Type, TypeVar, Union, cast,
-                    overload)
+from typing import (TYPE_CHECKING, Any, Callable, ClassVar, Iterator, List, Mapping, Optional, Sequence, Tuple, Type,
+                    TypeVar, Union, cast, overload)
 
 from . import _low
 from ._host import INIFile, PathText, Platform
@@ -31,26 +34,47 @@ def _stands_for(class_name: str) -> Callable[[_Class], _Class]:
     return take
 
 
+_nan_is_allowed: ContextVar[bool] = ContextVar("nan_is_allowed", default=False)
+
+
+@contextmanager
+def allow_nan() -> Iterator[None]:
+    """Inside such a block coefficients, points and resistances take NaN and infinities, which give no temperature.
+    Outside it they are a ValueError."""
+    token = _nan_is_allowed.set(True)
+    try:
+        yield
+    finally:
+        _nan_is_allowed.reset(token)
+
+
+def _number(value: Any) -> Any:
+    """A value that is to be stored; ValueError for NaN and infinities."""
+    if not _nan_is_allowed.get() and not math.isfinite(value):
+        raise ValueError(f"{float(value)} gives no temperature; inside \"with allow_nan():\" it is stored")
+    return value
+
+
 class Values(Sequence[float]):
     """Numbers of a settings object: a sequence whose elements are read from it and put into it, by their index or,
-    where they have names, by these."""
+    where they have names, by these. ValueError for NaN and infinities, unless inside `allow_nan`."""
 
     __slots__ = ("_get", "_put", "_count", "_names")
 
     def __init__(self, get: Callable[[int], float], put: Callable[[int, float], None], count: Callable[[], int],
-                 names: Optional[Type[IntEnum]] = None) -> None:
+                 names: Optional[Mapping[str, int]] = None) -> None:
         self._get = get
         self._put = put
         self._count = count
-        self._names = names
+        self._names = names or {}
 
     def __len__(self) -> int:
         return max(self._count(), 0)
 
     def _index(self, index: Union[int, str]) -> int:
         if isinstance(index, str):
-            if self._names is None or index not in self._names.__members__:
-                raise KeyError(index)
+            if index not in self._names:
+                raise KeyError(f"there is no {index!r} here" + (", but " + ", ".join(self._names) if self._names else ""))
             place = int(self._names[index])
         else:
             place = operator.index(index)
@@ -72,10 +96,10 @@ class Values(Sequence[float]):
 
     def __setitem__(self, index: Union[int, str, slice], value: Any) -> None:
         if not isinstance(index, slice):
-            self._put(self._index(index), value)
+            self._put(self._index(index), _number(value))
             return
         places = range(*index.indices(len(self)))
-        values = list(value)
+        values = [_number(one) for one in value]
         if len(values) != len(places):
             raise ValueError(f"{len(values)} values for {len(places)} places")
         for place, one in zip(places, values):
@@ -109,10 +133,16 @@ class Coefficient:
     def __get__(self, settings: Optional[Object], owner: object = None) -> Union[Coefficient, float]:
         if settings is None:
             return self
-        return cast(float, cast(Any, settings).coefficients[self._name])
+        try:
+            return cast(float, cast(Any, settings).coefficients[self._name])
+        except KeyError as error:
+            raise AttributeError(error.args[0]) from None
 
     def __set__(self, settings: Object, value: float) -> None:
-        cast(Any, settings).coefficients[self._name] = value
+        try:
+            cast(Any, settings).coefficients[self._name] = value
+        except KeyError as error:
+            raise AttributeError(error.args[0]) from None
 
 
 class _Shown:
@@ -129,7 +159,7 @@ class _Shown:
 
 def _named(values: Values) -> Iterator[Tuple[str, float]]:
     """Each value with its first name."""
-    names = {} if values._names is None else {e.value: e.name for e in values._names}
+    names = {int(place): name for name, place in reversed(list(values._names.items()))}
     for place, value in enumerate(values):
         yield names.get(place, f"coefficients[{place}]"), value
 
@@ -194,7 +224,11 @@ class _Coefficients:
         """The coefficients, by index or name. numpy.asarray takes them."""
         own = cast(Any, self)
         return Values(own.get_Coefficients, own.put_Coefficients, lambda: min(int(own.NumCoefficients), self._most),
-                      self._names)
+                      self._present_names())
+
+    def _present_names(self) -> Mapping[str, int]:
+        """Of the coefficients, in the form that the record has now."""
+        return self._names.__members__
 
     def _shown(self) -> Iterator[Tuple[str, object]]:
         return _named(self.coefficients)
@@ -203,23 +237,20 @@ class _Coefficients:
 @_stands_for("CQuorCVD")
 class CVD(_Coefficients, Settings, _low.CQuorCVD):
     """A Callendar-Van Dusen conversion. Its coefficients are R0 with ALPHA, DELTA and BETA, or, when UsePolynomial is True,
-    with A, B and C in the same places."""
+    with A, B and C in the same places. A name of the other form is an AttributeError, and a KeyError of `coefficients`."""
 
     __slots__ = ()
     _names = CVDCoefficients
     R0 = Coefficient("Resistance at 0 degrees Celsius, ohms.")
-    ALPHA = Coefficient("1/degree Celsius; A, of the same unit, in the polynomial form.")
-    DELTA = Coefficient("Degrees Celsius; B, in 1/degree Celsius^2, in the polynomial form.")
-    BETA = Coefficient("Degrees Celsius; C, in 1/degree Celsius^4, in the polynomial form.")
-    A = Coefficient("1/degree Celsius, in the polynomial form.", "ALPHA")
-    B = Coefficient("1/degree Celsius^2, in the polynomial form.", "DELTA")
-    C = Coefficient("1/degree Celsius^4, in the polynomial form.", "BETA")
+    ALPHA = Coefficient("1/degree Celsius, unless UsePolynomial.")
+    DELTA = Coefficient("Degrees Celsius, unless UsePolynomial.")
+    BETA = Coefficient("Degrees Celsius, unless UsePolynomial.")
+    A = Coefficient("1/degree Celsius, with UsePolynomial.")
+    B = Coefficient("1/degree Celsius^2, with UsePolynomial.")
+    C = Coefficient("1/degree Celsius^4, with UsePolynomial.")
 
-    def _shown(self) -> Iterator[Tuple[str, object]]:
-        if not self.UsePolynomial:
-            return super()._shown()
-        letters = dict(zip(("ALPHA", "DELTA", "BETA"), "ABC"))
-        return ((letters.get(name, name), value) for name, value in _named(self.coefficients))
+    def _present_names(self) -> Mapping[str, int]:
+        return {"R0": 0, "A": 1, "B": 2, "C": 3} if self.UsePolynomial else self._names.__members__
 
 
 @_stands_for("CQuorPT100")
@@ -257,16 +288,17 @@ class HTPRT(_Coefficients, Settings, _low.CQuorHTPRT):
 
 @_stands_for("CQuorThermistor")
 class Thermistor(_Coefficients, Settings, _low.CQuorThermistor):
-    """A thermistor's polynomial: T(R) with A0 to A3, or R(T) with B0 to B3, which are the same places (ConvType)."""
+    """A thermistor's polynomial: T(R) with A0 to A3, or R(T) with B0 to B3, which are the same places (ConvType). A name
+    of the other direction is an AttributeError, and a KeyError of `coefficients`."""
 
     __slots__ = ()
     _names = ThermistorCoefficients
     A0, A1, A2, A3 = (Coefficient("With T(R).") for _ in range(4))
     B0, B1, B2, B3 = (Coefficient("With R(T).") for _ in range(4))
 
-    def _shown(self) -> Iterator[Tuple[str, object]]:
+    def _present_names(self) -> Mapping[str, int]:
         letter = "B" if self.ConvType == ThermistorConvType.THRMR_T else "A"
-        return ((f"{letter}{place}", value) for place, value in enumerate(self.coefficients))
+        return {f"{letter}{place}": place for place in range(4)}
 
 
 @_stands_for("CQuorPolynomial")
@@ -353,8 +385,25 @@ class TCTypeX(Settings, _low.CQuorTCTypeX):
         yield "coefficients", self.coefficients
 
 
+class _WithRTPW:
+    """What has a resistance at the triple point of water beside coefficients. It stands before a class of the
+    interface."""
+
+    __slots__ = ()
+
+    if not TYPE_CHECKING:
+        @property
+        def RTPW(self) -> float:
+            """Resistance at the triple point of water, ohms. ValueError for NaN and infinities, as of coefficients."""
+            return super().RTPW
+
+        @RTPW.setter
+        def RTPW(self, value: float) -> None:
+            super(_WithRTPW, type(self)).RTPW.fset(self, _number(value))
+
+
 @_stands_for("CQuorWT90")
-class WT90(Settings, _low.CQuorWT90):
+class WT90(_WithRTPW, Settings, _low.CQuorWT90):
     """W(T90): the reference function of the ITS-90 alone. RTPW is the resistance at the triple point of water, ohms."""
 
     __slots__ = ()
@@ -392,7 +441,7 @@ class ITS90HighRange(_Range, _low.CQuorITS90HighRange):
 
 
 @_stands_for("CQuorITS90")
-class ITS90(Settings, _low.CQuorITS90):
+class ITS90(_WithRTPW, Settings, _low.CQuorITS90):
     """Deviation coefficients of the ITS-90 in two sub-ranges. RTPW is the resistance at the triple point of water,
     ohms."""
 
@@ -418,7 +467,8 @@ class ITS90(Settings, _low.CQuorITS90):
 class Conversion(_low.CQuorConversion):
     """The conversion of one probe: its type, and the settings that belong to the type. It computes no temperatures."""
 
-    __slots__ = ()
+    __slots__ = ("_file",)
+    _file: Any  # a weak reference to the ProbeFile of which it is a probe
 
     def __init__(self, type: int = ConversionType.NONE, platform: Union[Platform, None] = None) -> None:  # noqa: A002
         super().__init__(platform)

@@ -90,10 +90,10 @@ def test_what_another_program_has_written_meanwhile_stays(laboratory):
     with ProbeFile(laboratory) as mine:
         mine[PROBE].settings.R0 = 101
         with ProbeFile(laboratory) as theirs:
-            theirs[PROBE].settings.BETA = 0.5
+            theirs[PROBE].settings.C = 0.5
         assert mine.changed_by_others
     cvd = ProbeFile(laboratory)[PROBE].settings
-    assert (cvd.R0, cvd.BETA) == (101, 0.5)
+    assert (cvd.R0, cvd.C) == (101, 0.5)
 
 
 def test_a_probe_that_is_kept_over_a_save_gets_what_others_have_written_and_writes_none_of_it_back(laboratory):
@@ -101,12 +101,12 @@ def test_a_probe_that_is_kept_over_a_save_gets_what_others_have_written_and_writ
     cvd = mine[PROBE].settings
     cvd.R0 = 101
     with ProbeFile(laboratory) as theirs:
-        theirs[PROBE].settings.BETA = 0.5
+        theirs[PROBE].settings.C = 0.5
     mine.save()
     assert mine[PROBE].settings is cvd
-    assert (cvd.R0, cvd.BETA) == (101, 0.5)
+    assert (cvd.R0, cvd.C) == (101, 0.5)
     with ProbeFile(laboratory) as theirs:
-        theirs[PROBE].settings.BETA = 0.25
+        theirs[PROBE].settings.C = 0.25
     cvd.R0 = 102
     mine.save()
     assert list(ProbeFile(laboratory)[PROBE].settings.coefficients)[::3] == [102, 0.25]
@@ -131,6 +131,7 @@ def test_a_value_that_both_have_changed_is_a_conflict_and_nothing_is_written(lab
     assert raised.value.conflicts == (
         quor.Conflict(f"{PROBE} - Settings", "Coefficients0", f"{read:g}", "102", "101"),)
     assert laboratory.read_bytes() == before
+    assert f"[{PROBE} - Settings] Coefficients0: {read:g} was read, theirs is 102, ours 101" in str(raised.value)
     assert mine[PROBE].settings.R0 == 101  # and still to be saved
     mine.discard()
     assert mine[PROBE].settings.R0 == 102
@@ -255,3 +256,38 @@ def test_a_text_is_no_flag(laboratory):
     cvd = ProbeFile(laboratory)["Probe 9 PRT-1182"].settings
     with pytest.raises(TypeError):
         cvd.UsePolynomial = "False"
+
+
+def test_a_section_that_is_no_text_is_told_as_such(laboratory):
+    file = ProbeFile(laboratory)
+    for wrong in (lambda: file[3], lambda: file.read(None), lambda: file.__delitem__(3), lambda: file.rename(3, "P"),
+                  lambda: file.__setitem__(3, Conversion(ConversionType.OHMS))):
+        with pytest.raises(TypeError, match="probes are named by their sections, texts, and not by (3|None)"):
+            wrong()
+
+
+@pytest.mark.parametrize("name, reason", [("", "a name needs a character"), ("N]2", 'a "]" ends the name'),
+                                          ("#c", "a comment to other programs"), (";c", "a comment"),
+                                          ("N\n2", "it has a line break"), (" N", "blanks around it are lost")])
+def test_a_name_that_a_file_cannot_give_back_is_refused(laboratory, name, reason):
+    before = laboratory.read_bytes()
+    file = ProbeFile(laboratory)
+    for wrong in (lambda: file.__setitem__(name, Conversion(ConversionType.OHMS)), lambda: file.rename(PROBE, name),
+                  lambda: file.duplicate(PROBE, name)):
+        with pytest.raises(ValueError, match=reason):
+            wrong()
+    file.save()
+    assert laboratory.read_bytes() == before
+
+
+def test_a_conversion_is_not_that_of_two_files(tmp_path):
+    one, two = ProbeFile(tmp_path / "one.ini", create=True), ProbeFile(tmp_path / "two.ini", create=True)
+    conversion = Conversion(ConversionType.CVD)
+    one["P"] = conversion
+    with pytest.raises(ValueError, match=r"that of \[P\] in .*one.ini already"):
+        two["P"] = conversion
+    one.discard()
+    two["P"] = conversion
+    two.save()
+    assert not (tmp_path / "one.ini").exists()
+    assert list(ProbeFile(tmp_path / "two.ini")) == ["P"]

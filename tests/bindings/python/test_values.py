@@ -44,9 +44,42 @@ def test_a_hundred_thousand_doubles_come_back_bit_for_bit(tmp_path):
 
 def test_nan_and_the_sign_of_zero_are_kept():
     cvd = Conversion(ConversionType.CVD).settings
-    cvd.R0, cvd.BETA = float("nan"), -0.0
+    with quor.allow_nan():
+        cvd.R0, cvd.BETA = float("nan"), -0.0
     assert math.isnan(cvd.R0)
     assert bits(cvd.BETA) == bits(-0.0)
+
+
+@pytest.mark.parametrize("number", [float("nan"), float("inf"), float("-inf"), numpy.float64("nan")])
+def test_nan_and_infinities_are_stored_where_they_are_allowed_alone(number):
+    cvd, wt90 = Conversion(ConversionType.CVD).settings, Conversion(ConversionType.WT90).settings
+    for store in (lambda: setattr(cvd, "R0", number), lambda: cvd.coefficients.__setitem__(0, number),
+                  lambda: cvd.coefficients.__setitem__(slice(0, 2), [1.0, number]), lambda: setattr(wt90, "RTPW", number)):
+        with pytest.raises(ValueError, match="gives no temperature; inside \"with allow_nan"):
+            store()
+        assert (cvd.R0, cvd.coefficients[1], wt90.RTPW) == (0.0, 0.0, 0.0)
+    with quor.allow_nan():
+        wt90.RTPW = number
+    assert bits(wt90.RTPW) == bits(float(number))
+
+
+def test_a_name_of_the_other_form_is_refused():
+    cvd = Conversion(ConversionType.CVD).settings
+    with pytest.raises(AttributeError, match="there is no 'A' here, but R0, ALPHA, DELTA, BETA"):
+        cvd.A = 3.9083e-3
+    cvd.UsePolynomial = True
+    for name in ("ALPHA", "DELTA", "BETA"):
+        with pytest.raises(AttributeError, match="here, but R0, A, B, C"):
+            setattr(cvd, name, 1.0)
+        assert not hasattr(cvd, name)
+        with pytest.raises(KeyError):
+            cvd.coefficients[name] = 1.0
+    assert list(cvd.coefficients) == [0.0] * 4
+    cvd.R0, cvd.A, cvd.coefficients["B"], cvd.C = 100, 3.9083e-3, -5.775e-7, -4.183e-12
+    assert list(cvd.coefficients) == [100.0, 3.9083e-3, -5.775e-7, -4.183e-12]
+    thermistor = Conversion(ConversionType.THERMISTORT_R).settings
+    with pytest.raises(AttributeError, match="there is no 'B0' here, but A0, A1, A2, A3"):
+        thermistor.B0 = 1.0
 
 
 def test_coefficients_are_a_sequence_that_has_names():
@@ -111,6 +144,8 @@ def test_each_coefficient_has_its_name_its_place_and_a_doc(kind, part, names):
     assert len(reached) == (4 if kind == ConversionType.TCTYPEPOLY else len(names.__members__))
     assert len(settings.coefficients) == len(set(reached.values()))
     for name, member in reached.items():
+        if kind == ConversionType.THERMISTORT_R:
+            settings.ConvType = 1 if name.startswith("B") else 0
         setattr(settings, name, 1.5 + member)
         assert settings.get_Coefficients(member) == 1.5 + member
         assert getattr(type(settings), name).__doc__.endswith((".", "form."))
