@@ -5,25 +5,21 @@
 
 namespace quorconv {
 
-bool Batch::Do(const std::wstring& place, const std::function<void()>& piece) {
-    bool goesOn = true;
+void Batch::Do(const std::wstring& place, const std::function<void()>& piece) {
     Problem failure;
     try {
-        piece();
-        return true;
+        return piece();
     } catch (const Problem& problem) {
         failure = problem;
     } catch (const UsageError& error) {
         failure = {error.text};
-    } catch (const QuorProbeFile::ProbeFileError&) {
+    } catch (const QuorProbeFile::ProbeFileError&) { // raised before anything was written
         failure = CurrentFailure();
-        goesOn = false;
     }
     ++m_wrong;
     m_failures.push_back(place + failure.text);
     for (const std::wstring& reason : failure.reasons)
         m_failures.push_back(L"  " + reason);
-    return goesOn;
 }
 
 std::wstring Batch::PlaceOf(std::size_t line) const { return m_from + L":" + std::to_wstring(line) + L": "; }

@@ -6,8 +6,9 @@
 
 namespace quorconv {
 
-std::string CsvField(std::string_view field) {
-    if (field.find_first_of(",\"\r\n") == std::string_view::npos)
+std::string CsvField(std::string_view field, CsvSeparator separator) {
+    const char special[] = {static_cast<char>(separator), '"', '\r', '\n', '\0'};
+    if (field.find_first_of(special) == std::string_view::npos)
         return std::string(field);
     std::string quoted = "\"";
     for (const char character : field) {
@@ -18,58 +19,104 @@ std::string CsvField(std::string_view field) {
     return quoted + '"';
 }
 
-// NOLINTNEXTLINE(readability-function-cognitive-complexity): the grammar of RFC 4180 in one piece
-void ReadCsv(std::string_view text,
-             const std::function<void(const std::vector<std::wstring>& fields, std::size_t line)>& use) {
-    if (text.starts_with("\xEF\xBB\xBF"))
-        text.remove_prefix(3);
-    std::size_t line = 1;
-    std::size_t at = 0;
-    const auto fail = [&](const wchar_t* what) { throw CsvError{line, what}; };
-    while (at < text.size()) {
-        const std::size_t rowLine = line;
+namespace {
+
+/// The grammar of RFC 4180.
+class CsvReader {
+public:
+    CsvReader(std::string_view text, CsvSeparator separator)
+        : m_text(text), m_separator(static_cast<char>(separator)) {
+        if (m_text.starts_with("\xEF\xBB\xBF"))
+            m_text.remove_prefix(3);
+    }
+
+    [[nodiscard]] bool IsAtEnd() const { return m_at >= m_text.size(); }
+    [[nodiscard]] std::size_t Line() const { return m_line; }
+
+    /// The fields of the next row; none of an empty line.
+    std::vector<std::wstring> Row() {
         std::vector<std::wstring> fields;
         bool isEmpty = true;
-        for (bool goesOn = true; goesOn;) {
-            std::string field;
-            if (at < text.size() && text[at] == '"') {
-                isEmpty = false;
-                for (++at;; ++at) {
-                    if (at >= text.size())
-                        fail(L"a quote is not closed");
-                    if (text[at] == '"') {
-                        if (at + 1 == text.size() || text[at + 1] != '"')
-                            break;
-                        ++at;
-                    }
-                    line += text[at] == '\n' ? 1U : 0U;
-                    field += text[at];
-                }
-                ++at;
-            } else {
-                while (at < text.size() && text[at] != ',' && text[at] != '\r' && text[at] != '\n') {
-                    if (text[at] == '"')
-                        fail(L"a quote inside a field: the whole field stands in quotes then, and the quote "
-                             L"twice");
-                    field += text[at++];
-                }
-            }
+        do {
+            isEmpty = isEmpty && !Is('"');
+            const std::string field = Is('"') ? QuotedField() : PlainField();
             auto decoded = QuorIniFile::FromUtf8(field);
             if (!decoded)
-                fail(L"the text is not UTF-8");
+                Fail(L"the text is not UTF-8");
             isEmpty = isEmpty && field.empty();
             fields.push_back(*std::move(decoded));
-            goesOn = at < text.size() && text[at] == ',';
-            at += goesOn ? 1U : 0U;
+        } while (Skip(m_separator));
+        Skip('\r');
+        if (!IsAtEnd() && !Is('\n'))
+            Fail(std::wstring(L"a ") + Name(m_separator) +
+                 L" or the end of the line expected behind a field in quotes" + Hint(m_text[m_at]));
+        ++m_at;
+        ++m_line;
+        if (isEmpty && fields.size() == 1)
+            fields.clear();
+        return fields;
+    }
+
+private:
+    [[noreturn]] void Fail(std::wstring what) const { throw CsvError{m_line, std::move(what)}; }
+    [[nodiscard]] bool Is(char character) const { return !IsAtEnd() && m_text[m_at] == character; }
+    bool Skip(char character) {
+        const bool isThere = Is(character);
+        m_at += isThere ? 1U : 0U;
+        return isThere;
+    }
+
+    std::string QuotedField() {
+        std::string field;
+        for (++m_at;; ++m_at) {
+            if (IsAtEnd())
+                Fail(L"a quote is not closed");
+            if (m_text[m_at] == '"') {
+                if (m_at + 1 == m_text.size() || m_text[m_at + 1] != '"')
+                    break;
+                ++m_at;
+            }
+            m_line += m_text[m_at] == '\n' ? 1U : 0U;
+            field += m_text[m_at];
         }
-        if (at < text.size() && text[at] == '\r')
-            ++at;
-        if (at < text.size() && text[at] != '\n')
-            fail(L"a comma or the end of the line expected behind a field in quotes");
-        ++at;
-        if (fields.size() > 1 || !isEmpty)
-            use(fields, rowLine);
-        ++line;
+        ++m_at;
+        return field;
+    }
+
+    std::string PlainField() {
+        std::string field;
+        for (; !IsAtEnd() && !Is(m_separator) && !Is('\r') && !Is('\n'); ++m_at) {
+            if (Is('"'))
+                Fail(L"a quote inside a field: the whole field stands in quotes then, and the quote twice");
+            field += m_text[m_at];
+        }
+        return field;
+    }
+
+    static const wchar_t* Name(char separator) {
+        return separator == ';' ? L"semicolon" : separator == '\t' ? L"tab" : L"comma";
+    }
+    /// For what stands where a separator is expected.
+    static std::wstring Hint(char found) {
+        const bool isOther = found == ';' || found == '\t' || found == ',';
+        return isOther ? std::wstring(L"; \"--separator ") + Name(found) + L"\" reads such a table" : L"";
+    }
+
+    std::string_view m_text;
+    char m_separator;
+    std::size_t m_line = 1;
+    std::size_t m_at = 0;
+};
+
+} // namespace
+
+void ReadCsv(std::string_view text, CsvSeparator separator,
+             const std::function<void(const std::vector<std::wstring>& fields, std::size_t line)>& use) {
+    CsvReader reader(text, separator);
+    while (!reader.IsAtEnd()) {
+        const std::size_t line = reader.Line();
+        if (const auto fields = reader.Row(); !fields.empty())
+            use(fields, line);
     }
 }
 

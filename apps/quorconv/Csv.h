@@ -8,8 +8,12 @@
 
 namespace quorconv {
 
-/// A field as CSV has it (RFC 4180): in quotes where it has a comma, a quote or a line break.
-[[nodiscard]] std::string CsvField(std::string_view field);
+/// What stands between the fields of a line: "comma" as RFC 4180 has it, or what spreadsheets write where the
+/// comma is the decimal sign. Never guessed.
+enum class CsvSeparator : char { Comma = ',', Semicolon = ';', Tab = '\t' };
+
+/// A field as CSV has it (RFC 4180): in quotes where it has a separator, a quote or a line break.
+[[nodiscard]] std::string CsvField(std::string_view field, CsvSeparator separator = CsvSeparator::Comma);
 
 /// A CSV text that cannot be read.
 struct CsvError {
@@ -19,7 +23,7 @@ struct CsvError {
 
 /// Reads a CSV text (RFC 4180; line ends may be LF alone, and a byte-order mark may stand first) and calls
 /// `use` with each row and the line in which it begins. Empty lines are no rows. Raises CsvError.
-void ReadCsv(std::string_view text,
+void ReadCsv(std::string_view text, CsvSeparator separator,
              const std::function<void(const std::vector<std::wstring>& fields, std::size_t line)>& use);
 
 } // namespace quorconv

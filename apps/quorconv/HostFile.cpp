@@ -8,6 +8,7 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <memory>
 #include <string_view>
 #include <system_error>
 #include <utility>
@@ -20,30 +21,59 @@ using QuorProbeFile::ProbeFile;
 
 namespace {
 
-std::string StandardInput() {
-    static bool isRead = false;
-    if (std::exchange(isRead, true))
-        throw UsageError{L"\"-\" can stand once: the standard input can be read once"};
-    std::string bytes{std::istreambuf_iterator<char>(std::cin), {}};
-    if (std::cin.bad() || std::ferror(stdin) != 0)
-        throw Problem{L"-: the standard input cannot be read"};
+/// All that is still to be read.
+std::string Rest(std::istream& in) {
+    std::string bytes;
+    constexpr std::size_t step = std::size_t{1} << 20U;
+    for (std::size_t size = 0; in; bytes.resize(size)) {
+        bytes.resize(size + step);
+        in.read(bytes.data() + size, static_cast<std::streamsize>(step));
+        size += static_cast<std::size_t>(in.gcount());
+    }
     return bytes;
 }
 
-/// The text of a file as it is now, with what was written.
-std::string TextOf(QuorIniFile::IniStore& store) {
+std::string StandardInput(bool mayBeEmpty = false) {
+    static bool isRead = false;
+    if (std::exchange(isRead, true))
+        throw UsageError{L"\"-\" can stand once: the standard input can be read once"};
+    std::string bytes = Rest(std::cin);
+    if (std::cin.bad() || std::ferror(stdin) != 0)
+        throw Problem{L"-: the standard input cannot be read"};
+    if (bytes.empty() && !mayBeEmpty)
+        throw Problem{L"-: there is nothing in the standard input"};
+    return bytes;
+}
+
+/// The text of a file as it is now, with what was written, until that changes; and whether it has a header
+/// that is not closed.
+struct FileText {
+    std::string_view bytes;
+    bool hasUnclosedHeader = false;
+};
+
+FileText TextOf(QuorIniFile::IniStore& store) {
+    FileText text;
     try {
         auto lines = store.Lines();
-        while (lines.Next()) {
-        }
+        while (lines.Next())
+            text.hasUnclosedHeader =
+                text.hasUnclosedHeader || lines.Is(QuorIniFile::IniLines::Kind::UnclosedHeader);
         const std::string_view last = lines.Bytes(); // also of a comment behind the last line that counts
         const char* const begin = last.data() - lines.Here().offset;
-        return {begin, last.data() + last.size()};
+        text.bytes = {begin, static_cast<std::size_t>(last.data() + last.size() - begin)};
     } catch (const QuorIniFile::QuorError& error) {
         if (error.Number() != QuorIniFile::ERR_FILE_NOT_FOUND)
             throw;
-        return {};
     }
+    return text;
+}
+
+bool HasLoneCr(std::string_view text) {
+    for (auto at = text.find('\r'); at != std::string_view::npos; at = text.find('\r', at + 1))
+        if (at + 1 == text.size() || text[at + 1] != '\n')
+            return true;
+    return false;
 }
 
 /// Ends the turn of a dry run.
@@ -61,10 +91,41 @@ std::string ReadAll(const std::wstring& path) {
     std::ifstream file(name, std::ios::binary);
     if (!file)
         throw Problem{L"File not found: " + path};
-    std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    std::string bytes = Rest(file);
     if (file.bad())
         throw Problem{path + L": the file cannot be read"};
     return bytes;
+}
+
+std::wstring ReadText(const std::wstring& path) {
+    constexpr wchar_t byteOrderMark = L'\uFEFF';
+    std::wstring text = QuorIniFile::DecodeBytes(ReadAll(path));
+    return text.starts_with(byteOrderMark) ? text.substr(1) : text;
+}
+
+std::vector<std::wstring> UnreadableLines(ProbeFile& file) {
+    using QuorIniFile::IniWarningKind;
+    std::vector<std::wstring> told;
+    const FileText text = TextOf(*file.Store());
+    if (text.hasUnclosedHeader || HasLoneCr(text.bytes)) {
+        for (const QuorIniFile::IniWarning& warning : file.Store()->Warnings()) {
+            const bool isUnclosed = warning.kind == IniWarningKind::UnclosedHeader;
+            if (isUnclosed || warning.kind == IniWarningKind::LineEndsInCr)
+                told.push_back(L"line " + std::to_wstring(warning.line) + L": " +
+                               (isUnclosed ? L"the header has no \"]\"; nobody can read what stands below it"
+                                           : L"the line ends in a carriage return alone; nobody can read "
+                                             L"what stands behind it"));
+        }
+    }
+    if (text.bytes.find('\0') != std::string_view::npos)
+        told.emplace_back(L"there are zero bytes: this is no text");
+    return told;
+}
+
+void RequireReadable(ProbeFile& file) {
+    if (auto lines = UnreadableLines(file); !lines.empty())
+        throw Problem{file.Path() + L": not all of this file can be read, and nothing was written",
+                      std::move(lines)};
 }
 
 PrivateFolder::PrivateFolder() {
@@ -84,7 +145,7 @@ HostFile::HostFile(const std::wstring& path, ProbeFile::Opening opening) {
         m_file.emplace(path, opening);
         return;
     }
-    const std::string bytes = StandardInput();
+    const std::string bytes = StandardInput(opening == ProbeFile::Opening::OrNew);
     m_folder.emplace();
     std::ofstream file(m_folder->Path() / "-", std::ios::binary);
     if (!file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush())
@@ -107,14 +168,55 @@ void HostFile::Edit(bool isDryRun, const std::function<void()>& edit) {
     std::string after;
     try {
         m_file->Edit([&] {
-            before = TextOf(*m_file->Store());
+            before = TextOf(*m_file->Store()).bytes;
             edit();
-            after = TextOf(*m_file->Store());
+            after = TextOf(*m_file->Store()).bytes;
             throw NothingIsSaved();
         });
     } catch (const NothingIsSaved&) {
         std::cout << UnifiedDiff(QuorIniFile::ToPrintable(m_file->Path()), before, after);
     }
+}
+
+void HostFile::Try(const std::function<void()>& edit) {
+    try {
+        m_file->Edit([&] {
+            edit();
+            throw NothingIsSaved();
+        });
+    } catch (const NothingIsSaved&) { // as it should be
+    }
+}
+
+std::size_t EditFiles(const std::vector<std::wstring>& paths, bool isDryRun,
+                      const std::function<std::size_t(ProbeFile&)>& edit) {
+    std::vector<std::unique_ptr<HostFile>> files;
+    for (const std::wstring& path : paths) {
+        for (const auto& before : files)
+            if (path != standardInput && (*before)->Store()->IsOwnFile(path))
+                throw UsageError{L"the file is named twice: " + path};
+        files.push_back(std::make_unique<HostFile>(path));
+    }
+    if (files.size() > 1 && !isDryRun)
+        for (const auto& file : files)
+            file->Try([&] { static_cast<void>(edit(**file)); });
+    std::size_t sum = 0;
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        std::size_t count = 0; // an edit may be done again
+        try {
+            (*file)->Edit(isDryRun, [&] { count = edit(***file); });
+        } catch (...) {
+            if (file == files.begin() || isDryRun)
+                throw;
+            Problem problem = CurrentFailure();
+            for (auto other = files.begin(); other != files.end(); ++other)
+                problem.reasons.push_back((**other)->Path() +
+                                          (other < file ? L": is written" : L": is not written"));
+            throw Problem(problem);
+        }
+        sum += count;
+    }
+    return sum;
 }
 
 void DeclareDryRun(Arguments& arguments, bool& isDryRun) {

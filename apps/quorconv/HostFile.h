@@ -7,14 +7,24 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quorconv {
 
 /// The path that means the standard input, and the standard output for what is written.
 inline constexpr const wchar_t* standardInput = L"-";
 
-/// All that a file holds, or the standard input. Raises Problem when it cannot be read.
+/// All that a file holds, or the standard input. Raises Problem when it cannot be read, and for a standard
+/// input in which there is nothing: the program before it in the pipe has failed, most likely.
 [[nodiscard]] std::string ReadAll(const std::wstring& path);
+/// The same as text, without a byte-order mark.
+[[nodiscard]] std::wstring ReadText(const std::wstring& path);
+
+/// Lines of a file that keep what stands below them, or behind them, from being read, each told with its
+/// number; and that the file is no text.
+[[nodiscard]] std::vector<std::wstring> UnreadableLines(QuorProbeFile::ProbeFile& file);
+/// Raises Problem with them: a probe that is added to such a file may stand in it already, or be lost there.
+void RequireReadable(QuorProbeFile::ProbeFile& file);
 
 /// A folder of its own, for files that a person never sees. It goes with all that is in it.
 class PrivateFolder {
@@ -41,11 +51,19 @@ public:
     /// Does what `edit` does in one turn, saves it, and of the standard input prints the new text. A dry run
     /// saves nothing, and prints the unified diff of what would have been saved.
     void Edit(bool isDryRun, const std::function<void()>& edit);
+    /// Does it and saves nothing.
+    void Try(const std::function<void()>& edit);
 
 private:
     std::optional<PrivateFolder> m_folder; // in which the standard input stands as a file of the name "-"
     std::optional<QuorProbeFile::ProbeFile> m_file;
 };
+
+/// Does the same in several files, in each all or nothing, and returns the sum of what `edit` returns. It is
+/// tried in each of them before the first one is saved; when a file cannot be saved after others were, the
+/// failure says which ones were.
+std::size_t EditFiles(const std::vector<std::wstring>& paths, bool isDryRun,
+                      const std::function<std::size_t(QuorProbeFile::ProbeFile&)>& edit);
 
 /// Declares "--dry-run".
 void DeclareDryRun(Arguments& arguments, bool& isDryRun);

@@ -116,6 +116,18 @@ public:
         Fail(std::move(text));
     }
 
+    /// The names and indices that lead to the value that is being read: "settings/Coefficients[2]/value".
+    [[nodiscard]] std::wstring Path() const {
+        std::wstring path;
+        for (const JsonValue& open : m_open) {
+            if (open.kind == JsonValue::Kind::List)
+                path += L"[" + std::to_wstring(open.items.size()) + L"]";
+            else if (!open.names.empty())
+                path += (path.empty() ? L"" : L"/") + open.names.back();
+        }
+        return path;
+    }
+
 private:
     static constexpr std::size_t mostMembers = 1000;
     static constexpr std::size_t deepest = 20; // nobody needs more, and a hostile text no more stack
@@ -218,6 +230,8 @@ void ReadJsonObjects(std::string_view text, const std::function<void(const JsonV
             const std::string_view what = rapidjson::GetParseError_En(reader.GetParseErrorCode());
             std::wstring reason(what.begin(), what.end() - 1);
             reason.front() = QuorIniFile::Small(reason.front());
+            if (reader.GetParseErrorCode() == rapidjson::kParseErrorNumberTooBig)
+                reason = builder.Path() + L": the number is too large for a double";
             builder.FailAt(std::min(reader.GetErrorOffset(), text.size()), std::move(reason));
         }
     }

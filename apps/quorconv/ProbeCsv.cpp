@@ -10,7 +10,8 @@
 #include "apps/quorconv/Selection.h"
 
 #include <algorithm>
-#include <unordered_map>
+#include <iterator>
+#include <ostream>
 #include <unordered_set>
 
 namespace quorconv {
@@ -44,69 +45,94 @@ std::wstring FieldText(const Value& value, DecimalSign decimal) {
     return text;
 }
 
-bool HaveSameKeys(const std::vector<RecordImage::Entry>& a, const std::vector<RecordImage::Entry>& b) {
-    return std::equal(
-        a.begin(), a.end(), b.begin(), b.end(),
-        [](const RecordImage::Entry& x, const RecordImage::Entry& y) { return x.path == y.path; });
-}
-
 } // namespace
 
-void CsvTable::Add(const Probe& probe) {
-    m_rows.push_back({probe.Section(), {}});
-    if (probe.Settings())
-        m_rows.back().entries = RecordImage::Of(*probe.Settings())->Entries();
+void CsvStyle::Declare(Arguments& arguments) {
+    arguments.Choice("--decimal", decimal, {"point", "comma"}, "The decimal sign of the table");
+    arguments.Choice("--separator", separator, {"comma", "semicolon", "tab"},
+                     "What stands between the fields of the table");
 }
 
-// NOLINTNEXTLINE(readability-function-cognitive-complexity): the head and the lines of one table
-std::string CsvTable::Text() const {
-    // The columns in the order of the keys in records; keys that the reference does not have come last.
-    std::vector<std::wstring> columns;
-    std::unordered_map<std::wstring, std::size_t> places;
-    const auto addColumn = [&](const std::wstring& path) {
-        if (places.emplace(path, columns.size()).second)
-            columns.push_back(path);
-    };
-    std::unordered_set<std::wstring> used;
-    std::vector<std::wstring> further;
-    const std::vector<RecordImage::Entry>* above = nullptr; // most records of a type have the same keys
-    for (const Row& row : m_rows) {
-        if (above && HaveSameKeys(*above, row.entries))
-            continue;
-        above = &row.entries;
-        for (const auto& entry : row.entries)
-            if (used.insert(entry.path).second)
-                further.push_back(entry.path);
-    }
-    for (const RecordKey& key : RecordKeys(m_type))
-        if (m_rows.empty() || used.contains(key.path))
-            addColumn(key.path);
-    std::for_each(further.begin(), further.end(), addColumn);
+DecimalSign CsvStyle::Decimal() const {
+    return decimal == L"comma" ? DecimalSign::Comma : DecimalSign::Point;
+}
 
-    std::string text = ToUtf8(sectionColumn) + "," + ToUtf8(typeColumn);
-    for (const std::wstring& column : columns)
-        text += "," + CsvField(ToUtf8(ColumnName(m_type, column)));
-    text += "\r\n";
-    const std::string type = ToUtf8(TypeName(m_type));
-    above = nullptr;
-    std::vector<std::size_t> columnsOfEntries;
-    std::vector<std::string> fields(columns.size());
-    for (const Row& row : m_rows) {
-        if (!above || !HaveSameKeys(*above, row.entries)) {
-            columnsOfEntries.clear();
-            for (const auto& entry : row.entries)
-                columnsOfEntries.push_back(places.at(entry.path));
-            fields.assign(columns.size(), "");
-            above = &row.entries;
-        }
-        for (std::size_t i = 0; i < row.entries.size(); ++i)
-            fields[columnsOfEntries[i]] = CsvField(ToUtf8(FieldText(row.entries[i].value, m_decimal)));
-        text += CsvField(ToUtf8(row.section)) + "," + type;
-        for (const std::string& field : fields)
-            text.append(1, ',').append(field);
-        text += "\r\n";
+CsvSeparator CsvStyle::Separator() const {
+    return separator == L"semicolon" ? CsvSeparator::Semicolon
+           : separator == L"tab"     ? CsvSeparator::Tab
+                                     : CsvSeparator::Comma;
+}
+
+void CsvTable::AddField(std::string_view field) {
+    const std::string ready = CsvField(field, m_separator);
+    m_fields.append(std::to_string(ready.size())).append(1, ':').append(ready);
+}
+
+void CsvTable::Add(const Probe& probe) {
+    m_rows.push_back({m_fields.size(), 0});
+    AddField(ToUtf8(probe.Section()));
+    const auto image =
+        probe.Settings() ? RecordImage::Of(*probe.Settings()) : std::make_shared<RecordImage>();
+    Paths paths;
+    for (const RecordImage::Entry& entry : image->Entries()) {
+        AddField(ToUtf8(FieldText(entry.value, m_decimal)));
+        paths.push_back(entry.path);
     }
-    return text;
+    const auto layout = std::find(m_layouts.rbegin(), m_layouts.rend(), paths);
+    m_rows.back().layout = layout == m_layouts.rend()
+                               ? m_layouts.size()
+                               : static_cast<std::size_t>(m_layouts.rend() - layout) - 1;
+    if (layout == m_layouts.rend())
+        m_layouts.push_back(std::move(paths));
+}
+
+/// In the order of the keys in records; keys that the reference does not have come last.
+CsvTable::Paths CsvTable::Columns() const {
+    Paths columns;
+    std::unordered_set<std::wstring> used;
+    Paths further;
+    for (const Paths& paths : m_layouts)
+        for (const std::wstring& path : paths)
+            if (used.insert(path).second)
+                further.push_back(path);
+    for (const RecordKey& key : RecordKeys(m_type))
+        if (m_rows.empty() ? std::find(columns.begin(), columns.end(), key.path) == columns.end()
+                           : used.erase(key.path) > 0)
+            columns.push_back(key.path);
+    std::copy_if(further.begin(), further.end(), std::back_inserter(columns),
+                 [&](const std::wstring& path) { return used.contains(path); });
+    return columns;
+}
+
+void CsvTable::Print(std::ostream& out) const {
+    const char separator = static_cast<char>(m_separator);
+    const Paths columns = Columns();
+    out << ToUtf8(sectionColumn) << separator << ToUtf8(typeColumn);
+    for (const std::wstring& column : columns)
+        out << separator << CsvField(ToUtf8(ColumnName(m_type, column)), m_separator);
+    out << "\r\n";
+    std::vector<std::vector<std::size_t>> places(m_layouts.size()); // the column of each key of a layout
+    for (std::size_t layout = 0; layout < m_layouts.size(); ++layout)
+        for (const std::wstring& path : m_layouts[layout])
+            places[layout].push_back(
+                static_cast<std::size_t>(std::find(columns.begin(), columns.end(), path) - columns.begin()));
+    const std::string type = ToUtf8(TypeName(m_type));
+    for (const Row& row : m_rows) {
+        std::size_t at = row.begin;
+        const auto next = [&] {
+            const std::size_t colon = m_fields.find(':', at);
+            const std::size_t length = std::stoul(m_fields.substr(at, colon - at));
+            at = colon + 1 + length;
+            return std::string_view(m_fields).substr(colon + 1, length);
+        };
+        out << next() << separator << type;
+        std::vector<std::string_view> fields(columns.size());
+        for (const std::size_t place : places[row.layout])
+            fields[place] = next();
+        for (const std::string_view field : fields)
+            out << separator << field;
+        out << "\r\n";
+    }
 }
 
 namespace {
@@ -129,7 +155,7 @@ public:
             m_columns.push_back(std::move(column));
         }
         if (m_section == none)
-            throw Problem{place + L"1: there is no column \"section\""};
+            throw Problem{place + L"1: there is no column \"section\"" + OtherSeparator(names)};
         if (m_type == none && type.empty())
             throw Problem{place + L"1: there is no column \"type\", and no --type says it"};
     }
@@ -140,11 +166,15 @@ public:
             throw Problem{m_place + std::to_wstring(line) + L": the line has " +
                           std::to_wstring(fields.size()) + L" fields, and the first one has " +
                           std::to_wstring(m_columns.size())};
+        if (std::all_of(fields.begin(), fields.end(), [](const std::wstring& f) { return f.empty(); }))
+            throw Problem{m_place + std::to_wstring(line) + L": all fields of the line are empty"};
         CsvProbe probe{line, fields[m_section], m_type == none ? type : fields[m_type], {}, {}};
         const TypeInfo* const info = ParseType(probe.type);
         if (!info || info->code == CONV_NONE)
             Fail(line, m_type == none ? m_section : m_type, L"\"" + probe.type + L"\" is no conversion type");
+        m_isWrong = true;
         RequireKeys(info->code);
+        m_isWrong = false;
         for (std::size_t i = 0; i < fields.size(); ++i) {
             if (i == m_section || i == m_type)
                 continue;
@@ -171,7 +201,20 @@ public:
         return probe;
     }
 
+    /// Whether the first line is wrong, which was raised: nothing can be read then.
+    [[nodiscard]] bool AreWrong() const { return m_isWrong; }
+
 private:
+    /// For a first line that has another separator in it.
+    static std::wstring OtherSeparator(const std::vector<std::wstring>& names) {
+        constexpr std::pair<wchar_t, const wchar_t*> separators[] = {
+            {L';', L"semicolon"}, {L'\t', L"tab"}, {L',', L"comma"}};
+        for (const auto& [sign, name] : separators)
+            if (names.size() == 1 && names.front().find(sign) != std::wstring::npos)
+                return std::wstring(L"; \"--separator ") + name + L"\" reads a table like this";
+        return {};
+    }
+
     static constexpr std::size_t none = static_cast<std::size_t>(-1);
     struct Column {
         std::wstring key;
@@ -219,25 +262,28 @@ private:
     std::size_t m_section = none;
     std::size_t m_type = none;
     std::optional<EQuorConversionType> m_checked;
+    bool m_isWrong = false;
 };
 
 } // namespace
 
-void ReadProbeTable(std::string_view text, const std::wstring& place, DecimalSign decimal,
-                    const std::wstring& type, const std::function<void(const CsvProbe&)>& use) {
+void ReadProbeTable(std::string_view text, const std::wstring& place, const CsvStyle& style,
+                    const std::wstring& type, Batch& batch, const std::function<void(CsvProbe&&)>& use) {
     std::optional<Columns> columns;
-    try {
-        ReadCsv(text, [&](const std::vector<std::wstring>& fields, std::size_t line) {
-            if (!columns)
-                columns.emplace(fields, type, place);
-            else
-                use(columns->Read(fields, line, type, decimal));
-        });
-    } catch (const CsvError& error) {
-        throw Problem{place + std::to_wstring(error.line) + L": " + error.text};
-    }
-    if (!columns)
-        throw Problem{place + L"1: there is no line of column names"};
+    batch.Do(L"", [&] {
+        try {
+            ReadCsv(text, style.Separator(), [&](const std::vector<std::wstring>& fields, std::size_t line) {
+                if (!columns)
+                    columns.emplace(fields, type, place);
+                else if (!columns->AreWrong())
+                    batch.Do(L"", [&] { use(columns->Read(fields, line, type, style.Decimal())); });
+            });
+        } catch (const CsvError& error) {
+            throw Problem{place + std::to_wstring(error.line) + L": " + error.text};
+        }
+        if (!columns)
+            throw Problem{place + L"1: there is no line of column names"};
+    });
 }
 
 } // namespace quorconv

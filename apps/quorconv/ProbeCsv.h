@@ -1,11 +1,15 @@
 #pragma once
 
 #include "QuorConversions/core/EQuorConversionType.h"
+#include "apps/quorconv/Arguments.h"
+#include "apps/quorconv/Batch.h"
+#include "apps/quorconv/Csv.h"
 #include "apps/quorconv/Probe.h"
 #include "apps/quorconv/Records.h"
 
 #include <cstddef>
 #include <functional>
+#include <iosfwd>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,24 +19,42 @@ namespace quorconv {
 /// How numbers are spelled in a table; never guessed.
 enum class DecimalSign { Point, Comma };
 
+/// How a table is spelled.
+struct CsvStyle {
+    std::wstring decimal;   ///< "point" or "comma"
+    std::wstring separator; ///< "comma", "semicolon" or "tab"
+    /// Declares "--decimal" and "--separator".
+    void Declare(Arguments& arguments);
+    [[nodiscard]] DecimalSign Decimal() const;
+    [[nodiscard]] CsvSeparator Separator() const;
+};
+
 /// Probes of one type as a table: a line a probe, with the columns "section", "type" and one for each key
 /// that one of them has, with its name and unit in brackets: "Coefficients1 [ALPHA, 1/degC]". A field is
 /// empty where the record does not have the key.
 class CsvTable {
 public:
-    CsvTable(QuorConversions::EQuorConversionType type, DecimalSign decimal)
-        : m_type(type), m_decimal(decimal) {}
+    CsvTable(QuorConversions::EQuorConversionType type, const CsvStyle& style)
+        : m_type(type), m_decimal(style.Decimal()), m_separator(style.Separator()) {}
     void Add(const Probe& probe);
-    [[nodiscard]] std::string Text() const;
+    void Print(std::ostream& out) const;
 
 private:
+    using Paths = std::vector<std::wstring>;
+    /// Of a row the fields, ready and each with its length in front, and which keys they are of.
     struct Row {
-        std::wstring section;
-        std::vector<QuorProbeFile::RecordImage::Entry> entries;
+        std::size_t begin;
+        std::size_t layout;
     };
+    [[nodiscard]] Paths Columns() const;
+    void AddField(std::string_view field);
+
     QuorConversions::EQuorConversionType m_type;
     DecimalSign m_decimal;
+    CsvSeparator m_separator;
+    std::vector<Paths> m_layouts; // most records of a type have the same keys
     std::vector<Row> m_rows;
+    std::string m_fields;
 };
 
 /// A line of such a table.
@@ -46,8 +68,8 @@ struct CsvProbe {
 
 /// Reads a table and calls `use` with each of its lines. Columns may stand in any order, and without the
 /// brackets; what stands in brackets must be the name and the unit of the key. `type` is that of a table
-/// without the column, or empty. Raises Problem, which names line and column under `place`.
-void ReadProbeTable(std::string_view text, const std::wstring& place, DecimalSign decimal,
-                    const std::wstring& type, const std::function<void(const CsvProbe&)>& use);
+/// without the column, or empty. What is wrong goes into `batch`, with line and column.
+void ReadProbeTable(std::string_view text, const std::wstring& place, const CsvStyle& style,
+                    const std::wstring& type, Batch& batch, const std::function<void(CsvProbe&&)>& use);
 
 } // namespace quorconv

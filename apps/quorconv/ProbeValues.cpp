@@ -2,7 +2,7 @@
 #include "apps/quorconv/Failure.h"
 
 #include "QuorProbeFile/ProbeNames.h"
-#include "apps/quorconv/Progress.h"
+#include "apps/quorconv/HostFile.h"
 #include "apps/quorconv/Records.h"
 
 #include <algorithm>
@@ -25,29 +25,33 @@ bool SameValues(const ProbeValues& a, const ProbeValues& b) {
                       });
 }
 
-ProbeTable::ProbeTable(ProbeFile& file) {
-    using QuorIniFile::IniWarningKind;
-    for (const QuorIniFile::IniWarning& warning : file.Store()->Warnings()) {
-        if (warning.kind == IniWarningKind::UnclosedHeader || warning.kind == IniWarningKind::LineEndsInCr)
-            throw Problem{file.Path() + L":" + std::to_wstring(warning.line) +
-                          L": what stands here cannot be read; \"quorconv check\" tells why"};
-    }
-    const std::vector<ProbeEntry> entries = file.Probes();
-    Progress progress(L"probes", entries.size());
-    m_probes.reserve(entries.size());
-    for (const ProbeEntry& entry : entries) {
-        progress.Step();
-        const Probe probe = ReadProbe(file, entry.section);
-        m_bySection.emplace(Folded(entry.section), m_probes.size());
-        m_probes.push_back({entry.section, probe.Conversion().ConversionType(), {}});
-        if (probe.Settings())
-            m_probes.back().entries = RecordImage::Of(*probe.Settings())->Entries();
-    }
+ProbeTable::ProbeTable(ProbeFile& file) : m_file(file) {
+    if (auto lines = UnreadableLines(file); !lines.empty())
+        throw Problem{file.Path() + L": not all of this file can be read", std::move(lines)};
+    m_probes = file.Probes();
 }
 
-const ProbeValues* ProbeTable::Find(const std::wstring& section) const {
-    const auto found = m_bySection.find(Folded(section));
-    return found == m_bySection.end() ? nullptr : &m_probes[found->second];
+bool ProbeTable::Has(const std::wstring& section) const {
+    QuorIniFile::IniStore& store = *m_file.Store();
+    if (!store.HasSection(section))
+        return false;
+    std::wstring type;
+    store.SetSection(section);
+    return store.ReadString(QuorConversions::conversionTypeKey, type) ||
+           (m_probes.size() == 1 && m_probes.front().standAlone &&
+            EqualFolded(m_probes.front().section, section));
+}
+
+std::optional<ProbeValues> ProbeTable::Find(const std::wstring& section) const {
+    return Has(section) ? std::optional(Read({section, 0, {}, false})) : std::nullopt;
+}
+
+ProbeValues ProbeTable::Read(const ProbeEntry& entry) const {
+    const Probe probe = ReadProbe(m_file, entry.section);
+    ProbeValues values{entry.section, probe.Conversion().ConversionType(), {}};
+    if (probe.Settings())
+        values.entries = RecordImage::Of(*probe.Settings())->Entries();
+    return values;
 }
 
 std::vector<ValueChange> ChangesOf(const ProbeValues& before, const ProbeValues& after) {

@@ -4,9 +4,8 @@
 #include "QuorProbeFile/RecordImage.h"
 
 #include <cstdint>
-#include <memory>
+#include <optional>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 namespace quorconv {
@@ -24,18 +23,22 @@ struct ProbeValues {
 /// Whether both have the same type and the same values, bit for bit.
 [[nodiscard]] bool SameValues(const ProbeValues& a, const ProbeValues& b);
 
-/// All probes of a file, in its order. Raises Problem for one that cannot be read wholly: nobody could tell
-/// what differs then.
+/// The probes of a file, whose values are read when they are asked for: there may be a hundred thousand.
+/// Raises Problem for a file of which not all can be read, and for a probe that cannot be read wholly: nobody
+/// could tell what differs then.
 class ProbeTable {
 public:
     explicit ProbeTable(QuorProbeFile::ProbeFile& file);
-    [[nodiscard]] const std::vector<ProbeValues>& Probes() const { return m_probes; }
-    /// Null when there is none of that name.
-    [[nodiscard]] const ProbeValues* Find(const std::wstring& section) const;
+    /// The probes in the order of the file, as they were when the table was made.
+    [[nodiscard]] const std::vector<QuorProbeFile::ProbeEntry>& Probes() const { return m_probes; }
+    [[nodiscard]] bool Has(const std::wstring& section) const;
+    /// Nothing when there is none of that name.
+    [[nodiscard]] std::optional<ProbeValues> Find(const std::wstring& section) const;
+    [[nodiscard]] ProbeValues Read(const QuorProbeFile::ProbeEntry& probe) const;
 
 private:
-    std::vector<ProbeValues> m_probes;
-    std::unordered_map<std::wstring, std::size_t> m_bySection; // folded
+    QuorProbeFile::ProbeFile& m_file;
+    std::vector<QuorProbeFile::ProbeEntry> m_probes;
 };
 
 /// What has become another value from one record to another of the same type.

@@ -45,8 +45,8 @@ void Progress::Step() {
         return;
     m_next = std::chrono::steady_clock::now() + pause;
     m_isShown = true;
-    std::cerr << '\r' << m_done << " of " << m_all << ' ' << QuorIniFile::ToPrintable(m_what) << "\x1B[K"
-              << std::flush;
+    std::cerr << '\r' << m_done << (m_all > 0 ? " of " + std::to_string(m_all) : "") << ' '
+              << QuorIniFile::ToPrintable(m_what) << "\x1B[K" << std::flush;
 }
 
 } // namespace quorconv

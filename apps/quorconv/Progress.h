@@ -13,7 +13,7 @@ namespace quorconv {
 /// Tells on the standard error, where that is a terminal, how far a long work is: from its first second on.
 class Progress {
 public:
-    /// `all` steps of that name.
+    /// `all` steps of that name; 0 where nobody knows how many there are.
     Progress(std::wstring what, std::size_t all);
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;

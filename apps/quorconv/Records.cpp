@@ -1,6 +1,7 @@
 #include "apps/quorconv/Records.h"
 
 #include "QuorProbeFile/ProbeNames.h"
+#include "QuorProbeFile/ProbeTypes.h"
 #include "apps/quorconv/Failure.h"
 #include "apps/quorconv/Nearest.h"
 
@@ -37,6 +38,15 @@ bool IsCompletedBy(const ReadOutcome& outcome, const std::wstring& settings,
                           return EqualFolded(a.key, PathOf(settings, problem.section, problem.key));
                       });
            });
+}
+
+/// Reads a record of a host as it stands, when there is nothing wrong with it: that costs least.
+bool ReadWhole(ProbeFile& file, Probe& probe) {
+    std::shared_ptr<QuorIniFile::INIFile> store = file.Store();
+    std::int16_t code = 0;
+    store->SetSection(probe.Section());
+    return store->ReadInteger(conversionTypeKey, code) && FindType(code) &&
+           probe.Conversion().ReadFromFile(store, L"", probe.Section()) && probe.Messages().empty();
 }
 
 std::wstring TellConflict(const std::wstring& file, const RecordConflict& conflict) {
@@ -88,6 +98,8 @@ RecordForm FormOf(const RecordImage& image) {
 }
 
 Probe ReadProbe(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& completion) {
+    if (Probe whole(section); ReadWhole(file, whole))
+        return whole;
     Probe probe(section);
     const ReadOutcome outcome = file.Read(section, probe.Conversion());
     probe.Record() = outcome.record;
@@ -294,16 +306,6 @@ std::vector<RecordImage::Entry> Assign(Probe& probe, const std::wstring& file,
 
 namespace {
 
-/// Reads a record of a host as it stands, when there is nothing wrong with it.
-bool ReadWhole(ProbeFile& file, Probe& probe) {
-    std::shared_ptr<QuorIniFile::INIFile> store = file.Store();
-    std::int16_t code = 0;
-    store->SetSection(probe.Section());
-    return store->ReadInteger(conversionTypeKey, code) &&
-           probe.Conversion().ReadFromFile(store, L"", probe.Section()) && probe.Settings() &&
-           probe.Messages().empty();
-}
-
 /// Selects the section of an entry in a record of settings, and returns its key there.
 std::wstring SelectKey(QuorIniFile::INIFile& store, const std::wstring& settings, const std::wstring& path) {
     const auto slash = path.find(L'/');
@@ -352,7 +354,7 @@ void RequireNothingWrittenOver(ProbeFile& file, const std::wstring& section, con
 void AssignInFile(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& assignments,
                   const ValueRules& rules) {
     Probe probe(section);
-    const bool isWhole = ReadWhole(file, probe);
+    const bool isWhole = ReadWhole(file, probe) && probe.Settings();
     if (!isWhole)
         probe = ReadProbe(file, section, assignments); // which tells what is wrong with it
     const Entries changed = Assign(probe, file.Path(), assignments, rules);

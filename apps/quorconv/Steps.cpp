@@ -99,10 +99,14 @@ void CopyProbe(ProbeFile& from, const std::wstring& section, ProbeFile& to, cons
 
 namespace {
 
-struct Step {
-    std::size_t line;
-    std::function<void(ProbeFile&)> run;
-};
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+std::wstring FromLatin1(std::string_view bytes) {
+    std::wstring text;
+    for (const char byte : bytes)
+        text += static_cast<wchar_t>(static_cast<unsigned char>(byte));
+    return text;
+}
 
 using Strings = std::vector<std::wstring>;
 
@@ -186,7 +190,9 @@ std::function<void(ProbeFile&)> MakeStep(Strings words, StepLanguage language, c
 Strings Words(std::wstring_view line) {
     Strings words;
     std::size_t at = 0;
-    const auto isBlank = [&] { return line[at] == L' ' || line[at] == L'\t' || line[at] == L'\r'; };
+    const auto isBlank = [&] {
+        return line[at] == L' ' || line[at] == L'\t' || line[at] == L'\r' || line[at] == L'\n';
+    };
     while (true) {
         while (at < line.size() && isBlank())
             ++at;
@@ -211,34 +217,34 @@ Strings Words(std::wstring_view line) {
 
 ExitCode RunSteps(const std::wstring& path, const std::wstring& from, StepLanguage language,
                   const ValueRules& rules, bool isDryRun) {
-    const std::wstring text = QuorIniFile::DecodeBytes(ReadAll(from));
-    std::vector<Step> steps;
-    Batch batch(path, from);
-    std::size_t number = 0;
-    for (std::size_t begin = 0; begin < text.size();) {
-        const std::size_t end = std::min(text.find(L'\n', begin), text.size());
-        const std::wstring_view line = std::wstring_view(text).substr(begin, end - begin);
-        begin = end + 1;
-        ++number;
-        batch.Do(batch.PlaceOf(number), [&] {
-            if (auto words = Words(line); !words.empty())
-                steps.push_back({number, MakeStep(std::move(words), language, rules)});
-        });
-    }
-    batch.RequireFine();
-
+    const std::string text = ReadAll(from); // a line of which is made text when it is its turn
+    const bool isUtf8 = QuorIniFile::FromUtf8(text).has_value();
+    std::size_t count = 0;
     HostFile file(path, ProbeFile::Opening::OrNew);
     file.Edit(isDryRun, [&] {
-        batch.Forget();
-        Progress progress(L"steps", steps.size());
-        for (const Step& step : steps) {
+        RequireReadable(*file);
+        Batch batch(path, from);
+        Progress progress(L"steps", static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')));
+        count = 0;
+        std::string_view rest = text;
+        if (rest.starts_with(byteOrderMark))
+            rest.remove_prefix(byteOrderMark.size());
+        for (std::size_t number = 1; !rest.empty(); ++number) {
+            const std::size_t end = std::min(rest.find('\n'), rest.size() - 1) + 1;
+            const std::string_view line = rest.substr(0, end);
+            rest.remove_prefix(end);
             progress.Step();
-            if (!batch.Do(batch.PlaceOf(step.line), [&] { step.run(*file); }))
-                break;
+            batch.Do(batch.PlaceOf(number), [&] {
+                auto words = Words(isUtf8 ? *QuorIniFile::FromUtf8(line) : FromLatin1(line));
+                if (words.empty())
+                    return;
+                ++count;
+                MakeStep(std::move(words), language, rules)(*file);
+            });
         }
         batch.RequireFine();
     });
-    TellCount(steps.size(), L"step", isDryRun ? "would be done" : "done");
+    TellCount(count, L"step", isDryRun ? "would be done" : "done");
     return fine;
 }
 

@@ -42,6 +42,7 @@ const std::pair<EProbeProblem, const wchar_t*> problemIds[] = {
     {PROBLEM_MALFORMED_LINE, L"malformed-line"},
     {PROBLEM_KEPT_FILE, L"kept-file"},
     {PROBLEM_INTERRUPTED_SAVE, L"interrupted-save"},
+    {PROBLEM_LINE_ENDS_IN_CR, L"line-ends-in-cr"},
 };
 
 std::wstring IdOf(const ProbeProblem& problem) {

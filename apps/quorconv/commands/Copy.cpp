@@ -39,6 +39,7 @@ class Copy final : public Command {
         HostFile to(m_to, ProbeFile::Opening::OrNew);
         const auto sections = m_selection.In(*from);
         to.Edit(m_isDryRun, [&] {
+            RequireReadable(*to);
             for (const std::wstring& section : sections)
                 CopyProbe(*from, section, *to, m_name.value_or(section), m_replaces);
         });

@@ -1,6 +1,7 @@
 #include "apps/quorconv/commands/Rows.h"
 
 #include "QuorIniFile/Utf8.h"
+#include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/RecordValue.h"
 #include "apps/quorconv/HostFile.h"
 #include "apps/quorconv/Json.h"
@@ -8,7 +9,9 @@
 #include "apps/quorconv/ProbeValues.h"
 #include "apps/quorconv/Progress.h"
 
+#include <algorithm>
 #include <iostream>
+#include <sstream>
 #include <utility>
 
 #include <unistd.h>
@@ -26,6 +29,7 @@ class Diff final : public Command {
     bool m_isJson = false;
     bool m_isColoured = false;
     bool m_differs = false;
+    std::ostringstream m_out; // what differs: a probe that cannot be read leaves no half of it
 
     void Declare(Arguments& arguments) override {
         arguments.One("FILE", m_before, Meaning::File, "A file");
@@ -41,9 +45,14 @@ class Diff final : public Command {
         HostFile afterFile(m_after);
         const ProbeTable before(*beforeFile);
         const ProbeTable after(*afterFile);
+        TellDuplicates(*beforeFile, before);
+        TellDuplicates(*afterFile, after);
         m_isColoured = !m_isJson && ShowsColour(STDOUT_FILENO);
-        for (const ProbeValues& probe : before.Probes()) {
-            const ProbeValues* const now = after.Find(probe.section);
+        Progress progress(L"probes", before.Probes().size() + after.Probes().size());
+        for (const ProbeEntry& entry : before.Probes()) {
+            progress.Step();
+            const ProbeValues probe = before.Read(entry);
+            const auto now = after.Find(probe.section);
             if (!now)
                 PrintProbe('-', "removed", probe);
             else if (now->code != probe.code)
@@ -52,13 +61,30 @@ class Diff final : public Command {
                 for (const ValueChange& change : ChangesOf(probe, *now))
                     Print(probe.section, change.key, TextOf(change.before), TextOf(change.after));
         }
-        for (const ProbeValues& probe : after.Probes()) {
-            if (!before.Find(probe.section))
-                PrintProbe('+', "added", probe);
+        for (const ProbeEntry& entry : after.Probes()) {
+            progress.Step();
+            if (!before.Has(entry.section))
+                PrintProbe('+', "added", after.Read(entry));
         }
         if (m_isJson)
-            std::cout << (m_differs ? "\n]\n" : "[]\n");
+            m_out << (m_differs ? "\n]\n" : "[]\n");
+        std::cout << m_out.view();
         return m_differs ? problemFound : fine;
+    }
+
+    /// Sections of probes that stand twice: only the first one is read, and compared.
+    static void TellDuplicates(ProbeFile& file, const ProbeTable& table) {
+        for (const QuorIniFile::IniWarning& warning : file.DuplicateSections()) {
+            const auto owners = PossibleOwners(warning.section);
+            const bool isOfProbe = table.Has(warning.section) ||
+                                   std::any_of(owners.begin(), owners.end(), [&](std::wstring_view owner) {
+                                       return table.Has(std::wstring(owner));
+                                   });
+            if (isOfProbe)
+                PrintFailure({file.Path() + L":" + std::to_wstring(warning.line) + L": [" + warning.section +
+                              L"]: the section stands twice; the one in line " +
+                              std::to_wstring(warning.first) + L" is compared"});
+        }
     }
 
     static std::optional<std::wstring> TextOf(const Value* value) {
@@ -66,36 +92,36 @@ class Diff final : public Command {
     }
 
     void BeginJson(const std::wstring& section, const char* change) {
-        std::cout << (std::exchange(m_differs, true) ? ",\n  " : "[\n  ")
-                  << "{\"section\": " << JsonText(section) << ", \"change\": \"" << change << '"';
+        m_out << (std::exchange(m_differs, true) ? ",\n  " : "[\n  ") << "{\"section\": " << JsonText(section)
+              << ", \"change\": \"" << change << '"';
     }
 
     void PrintProbe(char sign, const char* change, const ProbeValues& probe) {
         if (m_isJson) {
             BeginJson(probe.section, change);
-            std::cout << ", \"type\": " << JsonText(TypeName(probe.code)) << '}';
+            m_out << ", \"type\": " << JsonText(TypeName(probe.code)) << '}';
             return;
         }
         m_differs = true;
         const char* const colour = sign == '-' ? "\x1B[31m" : "\x1B[32m";
-        std::cout << (m_isColoured ? colour : "") << sign << ' '
-                  << ToPrintable(L"[" + probe.section + L"] " + TypeName(probe.code))
-                  << (m_isColoured ? "\x1B[0m\n" : "\n");
+        m_out << (m_isColoured ? colour : "") << sign << ' '
+              << ToPrintable(L"[" + probe.section + L"] " + TypeName(probe.code))
+              << (m_isColoured ? "\x1B[0m\n" : "\n");
     }
 
     void Print(const std::wstring& section, const std::wstring& key,
                const std::optional<std::wstring>& before, const std::optional<std::wstring>& after) {
         if (m_isJson) {
             BeginJson(section, "changed");
-            std::cout << ", \"key\": " << JsonText(key)
-                      << ", \"before\": " << (before ? JsonText(*before) : "null")
-                      << ", \"after\": " << (after ? JsonText(*after) : "null") << '}';
+            m_out << ", \"key\": " << JsonText(key)
+                  << ", \"before\": " << (before ? JsonText(*before) : "null")
+                  << ", \"after\": " << (after ? JsonText(*after) : "null") << '}';
             return;
         }
         m_differs = true;
-        std::cout << ToPrintable(L"  [" + section + L"] " + key + L": " + before.value_or(L"(none)") +
-                                 L" -> " + after.value_or(L"(none)"))
-                  << '\n';
+        m_out << ToPrintable(L"  [" + section + L"] " + key + L": " + before.value_or(L"(none)") + L" -> " +
+                             after.value_or(L"(none)"))
+              << '\n';
     }
 };
 

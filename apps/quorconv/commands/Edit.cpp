@@ -80,7 +80,7 @@ class Edit final : public Command {
         QuorProbeFile::ProbeFile file(m_path);
         Probe probe = ReadProbeWithSettings(file, SpelledInFile(file, m_section));
         std::wstring commands = m_show ? L"show\n" : L"";
-        commands += m_script ? QuorIniFile::DecodeBytes(ReadAll(*m_script)) : L"escape";
+        commands += m_script ? ReadText(*m_script) : L"escape";
         const std::size_t added = m_show ? 1 : 0; // lines that the script does not have
         try {
             Scripted::Script(commands, added).PlayOn(probe.Screen(), [](const std::wstring& screen) {

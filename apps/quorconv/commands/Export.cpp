@@ -14,7 +14,7 @@ namespace {
 class Export final : public Command {
     std::wstring m_path;
     Selection m_selection;
-    std::wstring m_decimal;
+    CsvStyle m_style;
     bool m_isCsv = false;
     bool m_isJsonLines = false;
 
@@ -25,7 +25,7 @@ class Export final : public Command {
         m_selection.DeclareType(arguments);
         arguments.Flag("--csv", m_isCsv, "A table of the probes of one --type: RFC 4180, a line a probe");
         arguments.Flag("--jsonl", m_isJsonLines, "JSON Lines: an object a line, of all types");
-        arguments.Choice("--decimal", m_decimal, {"point", "comma"}, "The decimal sign of the table");
+        m_style.Declare(arguments);
     }
 
     ExitCode Run() override {
@@ -38,8 +38,7 @@ class Export final : public Command {
         Progress progress(L"probes", sections.size());
         std::optional<CsvTable> table;
         if (m_isCsv)
-            table.emplace(RequireType(*m_selection.type).code,
-                          m_decimal == L"comma" ? DecimalSign::Comma : DecimalSign::Point);
+            table.emplace(RequireType(*m_selection.type).code, m_style);
         bool isFine = true;
         std::size_t count = 0;
         for (const std::wstring& section : sections) {
@@ -57,7 +56,7 @@ class Export final : public Command {
             }
         }
         if (table)
-            std::cout << table->Text();
+            table->Print(std::cout);
         TellCount(count, L"probe", "exported");
         return isFine ? fine : problemFound;
     }

@@ -1,11 +1,13 @@
 #include "apps/quorconv/commands/Rows.h"
 
+#include "QuorProbeFile/ProbeNames.h"
 #include "apps/quorconv/HostFile.h"
 #include "apps/quorconv/ProbeValues.h"
 #include "apps/quorconv/Records.h"
 #include "apps/quorconv/Selection.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -20,6 +22,12 @@ class Merge final : public Command {
     std::wstring m_ours;
     std::wstring m_theirs;
     bool m_isDryRun = false;
+
+    /// What is written of theirs: those values, or all of the probe where there are none.
+    struct Change {
+        std::wstring section;
+        std::vector<Assignment> values;
+    };
 
     void Declare(Arguments& arguments) override {
         arguments.One("BASE", m_base, Meaning::File, "The file from which both come");
@@ -41,24 +49,28 @@ class Merge final : public Command {
         file.Edit(m_isDryRun, [&] {
             const ProbeTable ours(*file);
             std::vector<std::wstring> conflicts;
-            std::vector<std::pair<const ProbeValues*, std::vector<ValueChange>>> written; // of theirs
+            std::vector<Change> written; // of theirs
             std::vector<std::wstring> removed;
-            for (const ProbeValues& their : theirs.Probes())
-                MergeProbe(base.Find(their.section), ours.Find(their.section), their, written, conflicts);
-            for (const ProbeValues& old : base.Probes()) {
-                const ProbeValues* const our = ours.Find(old.section);
-                if (theirs.Find(old.section) || !our)
+            for (const ProbeEntry& their : theirs.Probes())
+                MergeProbe(base.Find(their.section), ours.Find(their.section), theirs.Read(their), written,
+                           conflicts);
+            for (const ProbeEntry& old : base.Probes()) {
+                if (theirs.Has(old.section))
                     continue;
-                if (SameValues(*our, old))
+                const auto our = ours.Find(old.section);
+                if (!our)
+                    continue;
+                if (SameValues(*our, base.Read(old)))
                     removed.push_back(our->section);
                 else
                     conflicts.push_back(L"[" + old.section + L"]: changed here, removed in " + m_theirs);
             }
+            FindTwoNames(base, ours, theirs, conflicts);
             if (!conflicts.empty())
                 throw Problem{m_ours + L": nothing was written, because both files have changed the same",
                               std::move(conflicts)};
-            for (const auto& [their, changes] : written)
-                Write(*file, *theirFile, *their, changes);
+            for (const Change& change : written)
+                Write(*file, *theirFile, change);
             for (const std::wstring& section : removed)
                 file->Remove(section);
             count = written.size();
@@ -70,9 +82,47 @@ class Merge final : public Command {
         return fine;
     }
 
+    /// A probe of the base that both files lack, and that both have added under another name: it would be
+    /// there twice.
+    void FindTwoNames(const ProbeTable& base, const ProbeTable& ours, const ProbeTable& theirs,
+                      std::vector<std::wstring>& conflicts) const {
+        const auto ourNames = AddedByRecord(base, ours);
+        const auto theirNames = AddedByRecord(base, theirs);
+        if (ourNames.empty() || theirNames.empty())
+            return;
+        for (const ProbeEntry& old : base.Probes()) {
+            if (ours.Has(old.section) || theirs.Has(old.section))
+                continue;
+            const std::wstring record = RecordText(base.Read(old));
+            const auto our = ourNames.find(record);
+            const auto their = theirNames.find(record);
+            if (our != ourNames.end() && their != theirNames.end() &&
+                !EqualFolded(our->second, their->second))
+                conflicts.push_back(L"[" + old.section + L"]: renamed to [" + our->second + L"] here, to [" +
+                                    their->second + L"] in " + m_theirs);
+        }
+    }
+
+    /// The names of the probes that the base does not have, by their values.
+    static std::unordered_map<std::wstring, std::wstring> AddedByRecord(const ProbeTable& base,
+                                                                        const ProbeTable& table) {
+        std::unordered_map<std::wstring, std::wstring> names;
+        for (const ProbeEntry& probe : table.Probes())
+            if (!base.Has(probe.section))
+                names.emplace(RecordText(table.Read(probe)), probe.section);
+        return names;
+    }
+
+    static std::wstring RecordText(const ProbeValues& probe) {
+        std::wstring text = std::to_wstring(probe.code);
+        for (const RecordImage::Entry& entry : probe.entries)
+            text += L"\n" + entry.path + L"=" + ToText(entry.value);
+        return text;
+    }
+
     /// Decides what becomes of a probe of theirs.
-    void MergeProbe(const ProbeValues* base, const ProbeValues* our, const ProbeValues& their,
-                    std::vector<std::pair<const ProbeValues*, std::vector<ValueChange>>>& written,
+    void MergeProbe(const std::optional<ProbeValues>& base, const std::optional<ProbeValues>& our,
+                    const ProbeValues& their, std::vector<Change>& written,
                     std::vector<std::wstring>& conflicts) const {
         const std::wstring place = L"[" + their.section + L"]";
         if ((our && SameValues(*our, their)) || (base && SameValues(*base, their)))
@@ -80,7 +130,7 @@ class Merge final : public Command {
         if (!our && base)
             conflicts.push_back(place + L": removed here, changed in " + m_theirs);
         else if (!our || (base && SameValues(*base, *our)))
-            written.emplace_back(&their, std::vector<ValueChange>{});
+            written.push_back({their.section, {}});
         else if (!base)
             conflicts.push_back(place + L": added in both files, with different values");
         else if (base->code != their.code || base->code != our->code)
@@ -90,8 +140,7 @@ class Merge final : public Command {
     }
 
     void MergeValues(const ProbeValues& base, const ProbeValues& our, const ProbeValues& their,
-                     const std::wstring& place,
-                     std::vector<std::pair<const ProbeValues*, std::vector<ValueChange>>>& written,
+                     const std::wstring& place, std::vector<Change>& written,
                      std::vector<std::wstring>& conflicts) const {
         const auto ourChanges = ChangesOf(base, our);
         std::vector<ValueChange> changes; // that we have not made as well
@@ -128,27 +177,24 @@ class Merge final : public Command {
                                 L", and other values of the probe in the other file");
             return;
         }
-        if (isFine && !changes.empty())
-            written.emplace_back(&their, std::move(changes));
+        if (!isFine || changes.empty())
+            return;
+        written.push_back({their.section, {}});
+        for (const ValueChange& change : changes)
+            written.back().values.push_back({change.key, ToText(*change.after)});
     }
 
     static std::wstring TextOf(const Value* value) { return value ? ToText(*value) : L"(none)"; }
 
-    /// Writes those changes of theirs, or all of the probe where there are none.
-    static void Write(ProbeFile& file, ProbeFile& theirFile, const ProbeValues& their,
-                      const std::vector<ValueChange>& changes) {
-        if (changes.empty()) {
-            const Probe probe = ReadProbe(theirFile, their.section);
-            file.Write(their.section, probe.Conversion());
+    static void Write(ProbeFile& file, ProbeFile& theirFile, const Change& change) {
+        if (change.values.empty()) {
+            const Probe probe = ReadProbe(theirFile, change.section);
+            file.Write(change.section, probe.Conversion());
             return;
         }
-        std::vector<Assignment> values;
-        values.reserve(changes.size());
-        for (const ValueChange& change : changes)
-            values.push_back({change.key, ToText(*change.after)});
-        Probe probe = ReadProbe(file, their.section, values);
-        Assign(probe, file.Path(), values, ValueRules{true, true});
-        file.Write(their.section, probe.Conversion());
+        Probe probe = ReadProbe(file, change.section, change.values);
+        Assign(probe, file.Path(), change.values, ValueRules{true, true});
+        file.Write(change.section, probe.Conversion());
     }
 };
 

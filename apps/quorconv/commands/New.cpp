@@ -33,7 +33,10 @@ class New final : public Command {
         const auto assignments = Assignments(m_values);
         static_cast<void>(RequireSettingsType(m_type));
         HostFile file(m_path, ProbeFile::Opening::OrNew);
-        file.Edit(m_isDryRun, [&] { NewProbe(*file, m_section, m_type, assignments, m_rules); });
+        file.Edit(m_isDryRun, [&] {
+            RequireReadable(*file);
+            NewProbe(*file, m_section, m_type, assignments, m_rules);
+        });
         return fine;
     }
 };

@@ -68,7 +68,7 @@ class Put final : public Command {
     std::wstring m_path;
     std::optional<std::wstring> m_from;
     std::optional<std::wstring> m_type;
-    std::wstring m_decimal;
+    CsvStyle m_style;
     bool m_isJson = false;
     bool m_isCsv = false;
     ValueRules m_rules;
@@ -81,7 +81,7 @@ class Put final : public Command {
                        "The input is JSON as \"show --json\" prints it: an object, an array, or JSON Lines");
         arguments.Flag("--csv", m_isCsv, "The input is a table as \"export --csv\" prints it");
         arguments.Option("--type", "TYPE", m_type, Meaning::Type, "The type of a table without the column");
-        arguments.Choice("--decimal", m_decimal, {"point", "comma"}, "The decimal sign of the table");
+        m_style.Declare(arguments);
         m_rules.Declare(arguments);
         m_rules.DeclareDrop(arguments);
         DeclareDryRun(arguments, m_isDryRun);
@@ -92,22 +92,33 @@ class Put final : public Command {
             throw UsageError{L"--json or --csv expected"};
         const std::wstring from = m_from.value_or(standardInput);
         const std::string text = ReadAll(from);
-        Batch batch(m_path, from);
-        const std::vector<Entry> entries =
-            m_isJson ? ReadJson(text, from, batch) : ReadTable(text, from, batch);
-        batch.RequireFine();
+        std::size_t count = 0;
         HostFile file(m_path, ProbeFile::Opening::OrNew);
         file.Edit(m_isDryRun, [&] {
-            batch.Forget();
-            Progress progress(L"probes", entries.size());
-            for (const Entry& entry : entries) {
+            RequireReadable(*file);
+            Batch batch(m_path, from);
+            Progress progress(L"probes", 0);
+            std::unordered_set<std::wstring> sections;
+            count = 0;
+            const auto put = [&](const Entry& entry) {
                 progress.Step();
-                if (!batch.Do(entry.place, [&] { PutProbe(*file, entry, m_rules); }))
-                    break;
-            }
+                ++count;
+                batch.Do(entry.place, [&] {
+                    RequireNew(sections, entry.section);
+                    PutProbe(*file, entry, m_rules);
+                });
+            };
+            if (m_isJson)
+                ReadJson(text, from, batch, put);
+            else
+                ReadProbeTable(text, from + L":", m_style, m_type.value_or(L""), batch,
+                               [&](CsvProbe&& probe) {
+                                   put({batch.PlaceOf(probe.line), std::move(probe.section),
+                                        std::move(probe.type), std::move(probe.values)});
+                               });
             batch.RequireFine();
         });
-        TellCount(entries.size(), L"probe", m_isDryRun ? "would be put" : "put");
+        TellCount(count, L"probe", m_isDryRun ? "would be put" : "put");
         return fine;
     }
 
@@ -117,9 +128,8 @@ class Put final : public Command {
             throw Problem{L"[" + section + L"]: the section stands twice"};
     }
 
-    static std::vector<Entry> ReadJson(const std::string& text, const std::wstring& from, Batch& batch) {
-        std::vector<Entry> entries;
-        std::unordered_set<std::wstring> sections;
+    static void ReadJson(const std::string& text, const std::wstring& from, Batch& batch,
+                         const std::function<void(const Entry&)>& use) {
         const auto placeOf = [&](std::size_t line, std::size_t column) {
             return from + L":" + std::to_wstring(line) + L":" + std::to_wstring(column) + L": ";
         };
@@ -127,10 +137,8 @@ class Put final : public Command {
             ReadJsonObjects(text, [&](const JsonValue& object) {
                 try {
                     JsonProbe probe = ReadJsonProbe(object);
-                    const std::wstring place = placeOf(object.line, object.column);
-                    batch.Do(place, [&] { RequireNew(sections, probe.section); });
-                    entries.push_back(
-                        {place, std::move(probe.section), std::move(probe.type), std::move(probe.values)});
+                    use({placeOf(object.line, object.column), std::move(probe.section), std::move(probe.type),
+                         std::move(probe.values)});
                 } catch (const JsonError& error) {
                     batch.Do(placeOf(error.line, error.column), [&] { throw Problem{error.text}; });
                 }
@@ -138,22 +146,6 @@ class Put final : public Command {
         } catch (const JsonError& error) {
             batch.Do(placeOf(error.line, error.column), [&] { throw Problem{error.text}; });
         }
-        return entries;
-    }
-
-    [[nodiscard]] std::vector<Entry> ReadTable(const std::string& text, const std::wstring& from,
-                                               Batch& batch) const {
-        std::vector<Entry> entries;
-        std::unordered_set<std::wstring> sections;
-        batch.Do(L"", [&] {
-            ReadProbeTable(
-                text, from + L":", m_decimal == L"comma" ? DecimalSign::Comma : DecimalSign::Point,
-                m_type.value_or(L""), [&](const CsvProbe& probe) {
-                    batch.Do(batch.PlaceOf(probe.line), [&] { RequireNew(sections, probe.section); });
-                    entries.push_back({batch.PlaceOf(probe.line), probe.section, probe.type, probe.values});
-                });
-        });
-        return entries;
     }
 };
 

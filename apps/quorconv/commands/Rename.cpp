@@ -21,7 +21,10 @@ class Rename final : public Command {
 
     ExitCode Run() override {
         HostFile file(m_path);
-        file.Edit(m_isDryRun, [&] { RenameProbe(*file, m_section, m_name); });
+        file.Edit(m_isDryRun, [&] {
+            RequireReadable(*file);
+            RenameProbe(*file, m_section, m_name);
+        });
         return fine;
     }
 };

@@ -47,16 +47,12 @@ class Set final : public Command {
         m_selection.patterns = {*m_pattern};
         std::vector<std::wstring> paths{m_path};
         paths.insert(paths.end(), m_also.begin(), m_also.end());
-        std::size_t count = 0;
-        for (const std::wstring& path : paths) {
-            HostFile file(path);
-            file.Edit(m_isDryRun, [&] {
-                const auto sections = m_selection.In(*file);
-                for (const std::wstring& section : sections)
-                    SetValues(*file, section, assignments, m_rules);
-                count += sections.size();
-            });
-        }
+        const std::size_t count = EditFiles(paths, m_isDryRun, [&](QuorProbeFile::ProbeFile& file) {
+            const auto sections = m_selection.In(file);
+            for (const std::wstring& section : sections)
+                SetValues(file, section, assignments, m_rules);
+            return sections.size();
+        });
         if (m_selection.IsMany() || paths.size() > 1)
             TellCount(count, L"probe", m_isDryRun ? "would be set" : "set");
         return fine;

@@ -40,27 +40,42 @@ class Show final : public Command {
         std::vector<std::wstring> paths{m_path};
         paths.insert(paths.end(), m_also.begin(), m_also.end());
         const bool isArray = m_isJson && !m_isJsonLines && (m_selection.IsMany() || paths.size() > 1);
-        if (isArray)
-            std::cout << '[';
         bool isFine = true;
         std::size_t count = 0;
         for (const std::wstring& path : paths) {
-            HostFile file(path);
-            if (paths.size() > 1 && !m_isJson && !m_isJsonLines)
-                std::cout << std::exchange(m_separator, "\n") << "# " << ToPrintable(path) << "\n";
-            const auto sections = m_selection.In(*file);
-            Progress progress(L"probes", sections.size());
-            for (const std::wstring& section : sections) {
-                progress.Step();
-                isFine = ShowProbe(*file, section, isArray) && isFine;
+            try {
+                isFine = ShowFile(path, paths.size() > 1, isArray, count) && isFine;
+            } catch (const UsageError&) {
+                throw;
+            } catch (...) {
+                PrintFailure(CurrentFailure());
+                isFine = false;
             }
-            count += sections.size();
         }
-        if (isArray)
-            std::cout << (*m_separator != '\0' ? "\n]\n" : "]\n");
+        if (isArray && *m_separator != '\0')
+            std::cout << "\n]\n";
+        else if (isArray && isFine)
+            std::cout << "[]\n";
         if (m_selection.IsMany() && (m_selection.type || !m_selection.patterns.empty()))
             TellCount(count, L"probe", "shown");
         return isFine ? fine : problemFound;
+    }
+
+    /// False when one of its probes cannot be read, which is told.
+    bool ShowFile(const std::wstring& path, bool hasTitle, bool isInArray, std::size_t& count) {
+        HostFile file(path);
+        if (hasTitle && !m_isJson && !m_isJsonLines)
+            std::cout << std::exchange(m_separator, "\n") << "# " << ToPrintable(path) << "\n";
+        const auto sections = m_selection.In(*file);
+        Progress progress(L"probes", sections.size());
+        bool isFine = true;
+        for (const std::wstring& section : sections) {
+            progress.Step();
+            const bool isShown = ShowProbe(*file, section, isInArray);
+            count += isShown ? 1U : 0U;
+            isFine = isFine && isShown;
+        }
+        return isFine;
     }
 
     /// False when it cannot be read, which is told.
@@ -70,7 +85,8 @@ class Show final : public Command {
             if (m_isJsonLines) {
                 std::cout << ToJson(probe, true) << '\n';
             } else if (isInArray) {
-                std::cout << std::exchange(m_separator, ",") << "\n  " << ToJson(probe, false, 2);
+                std::cout << (*std::exchange(m_separator, ",") != '\0' ? "," : "[") << "\n  "
+                          << ToJson(probe, false, 2);
             } else if (m_isJson) {
                 std::cout << ToJson(probe, false) << '\n';
             } else {

@@ -161,7 +161,8 @@ TEST_F(QuorconvCompareTest, AnotherFileThatIsEmptyOrDamagedRemovesNothing) {
     refused = Quorconv({"merge", "base.ini", "ours.ini", "theirs.ini"});
     EXPECT_EQ(refused.code, 1);
     EXPECT_EQ(refused.err,
-              "quorconv: theirs.ini:1: what stands here cannot be read; \"quorconv check\" tells why\n");
+              "quorconv: theirs.ini: not all of this file can be read\n"
+              "  line 1: the line ends in a carriage return alone; nobody can read what stands behind it\n");
     EXPECT_EQ(Quorconv({"diff", "ours.ini", "theirs.ini"}).code, 2);
     EXPECT_EQ(folder.Read("ours.ini"), base);
 }

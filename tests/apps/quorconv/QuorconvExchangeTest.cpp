@@ -93,7 +93,7 @@ TEST_F(QuorconvExchangeTest, RefusesJsonThatNoProbeIsWithLineAndColumn) {
     ExpectRefusedJson("[\n  {\"section\": 1}\n]", "in.json:2:15: \"section\" is not a text");
     ExpectRefusedJson("{\"section\": \"P\"", "in.json:1:16: missing a comma or '}' after an object member");
     ExpectRefusedJson("[1]", "in.json:1:2: an object expected");
-    ExpectRefusedJson(Probe("{}") + " x", "in.json:1:54: invalid value");
+    ExpectRefusedJson(Probe("{}", "CONV_OHMS") + " x", "in.json:1:55: invalid value");
     ExpectRefusedJson(Probe("{}", "CONV_CDV"),
                       "in.json:1:26: \"CONV_CDV\" is no conversion type; did you mean \"CONV_CVD\"?");
     ExpectRefusedJson("{\"section\": \"P\", \"section\": \"Q\"}",
@@ -118,7 +118,7 @@ TEST_F(QuorconvExchangeTest, RefusesJsonThatNoProbeIsWithLineAndColumn) {
                       "in.json:1:26: the code of CONV_CVD is 2");
     ExpectRefusedJson(Probe("{\"NumCoefficients\": 01}"),
                       "in.json:1:71: missing a comma or '}' after an object member");
-    ExpectRefusedJson("[" + Probe("{}") + "] x", "in.json:1:56: nothing may follow the list");
+    ExpectRefusedJson("[" + Probe("{}", "CONV_OHMS") + "] x", "in.json:1:57: nothing may follow the list");
     ExpectRefusedJson("{\"a\": NaN}", "in.json:1:7: invalid value");
     ExpectRefusedJson(std::string(100000, '['), "in.json:1:2: an object expected");
     ExpectRefusedJson("{\"a\":" + std::string(100000, '['), "in.json:1:26: values are nested too deeply");

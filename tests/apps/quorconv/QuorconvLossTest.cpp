@@ -67,3 +67,130 @@ TEST_F(QuorconvLossTest, StepsAndTablesNameTheirLineWhenTheyWouldLoseValues) {
                 "quorconv: 1 probe put\n");
     EXPECT_EQ(folder.Read("a.ini"), Replaced(before, "NumCoefficients=4", "NumCoefficients=1"));
 }
+
+TEST_F(QuorconvLossTest, SeveralFilesAreTriedBeforeTheFirstOneIsSaved) {
+    ExpectFine({"new", "a.ini", "P", "w90", "RTPW=1"});
+    ExpectFine({"new", "b.ini", "Q", "w90", "RTPW=1"});
+    const std::string a = folder.Read("a.ini");
+    ExpectRefused({"set", "a.ini", "P", "--also", "b.ini", "RTPW=2"},
+                  "quorconv: b.ini: [P]: there is no such section\n");
+    ExpectRefused({"remove", "a.ini", "P", "--also", "b.ini"},
+                  "quorconv: b.ini: [P]: there is no such section\n");
+    ExpectRefused({"set", "a.ini", "P", "--also", "./a.ini", "RTPW=2"},
+                  "quorconv: the file is named twice: ./a.ini\n", 2);
+    EXPECT_EQ(folder.Read("a.ini"), a);
+}
+
+TEST_F(QuorconvLossTest, TwoNamesForOneProbeAreAConflict) {
+    ExpectFine({"new", "base.ini", "P", "w90", "RTPW=25.5"});
+    folder.Write("ours.ini", folder.Read("base.ini"));
+    folder.Write("theirs.ini", folder.Read("base.ini"));
+    ExpectFine({"rename", "ours.ini", "P", "P 1"});
+    ExpectFine({"rename", "theirs.ini", "P", "P one"});
+    const std::string ours = folder.Read("ours.ini");
+    ExpectRefused({"merge", "base.ini", "ours.ini", "theirs.ini"},
+                  "quorconv: ours.ini: nothing was written, because both files have changed the same\n"
+                  "  [P]: renamed to [P 1] here, to [P one] in theirs.ini\n");
+    EXPECT_EQ(folder.Read("ours.ini"), ours);
+    ExpectFine({"rename", "theirs.ini", "P one", "p 1"});
+    EXPECT_EQ(Quorconv({"merge", "base.ini", "ours.ini", "theirs.ini"}).code, 0);
+    EXPECT_EQ(folder.Read("ours.ini"), ours);
+}
+
+TEST_F(QuorconvLossTest, NothingIsAddedToAFileThatCannotBeReadWholly) {
+    folder.Write("lost.ini", "[A\nVersion=1.0\nConversionType=14\n");
+    folder.Write("zero.ini", std::string("\x7F"
+                                         "ELF\0\0\n",
+                                         7));
+    ExpectFine({"new", "good.ini", "A", "w90", "RTPW=1"});
+    folder.Write("in.csv", "section,type,RTPW\nA,w90,1\n");
+    const std::string refused = ": not all of this file can be read, and nothing was written\n";
+    const std::string unclosed = "quorconv: lost.ini" + refused +
+                                 "  line 1: the header has no \"]\"; nobody can read what stands below it\n";
+    const std::string zero = "quorconv: zero.ini" + refused + "  there are zero bytes: this is no text\n";
+    for (const std::string command :
+         {"new FILE A w90 RTPW=1", "put FILE in.csv --csv", "copy good.ini A FILE"}) {
+        ExpectShell("quorconv " + Replaced(command, "FILE", "lost.ini"), "", unclosed, 1);
+        ExpectShell("quorconv " + Replaced(command, "FILE", "zero.ini"), "", zero, 1);
+    }
+    ExpectShell("echo new A w90 RTPW=1 | quorconv apply zero.ini", "", zero, 1);
+    ExpectShell("quorconv diff good.ini lost.ini", "",
+                "quorconv: lost.ini: not all of this file can be read\n"
+                "  line 1: the header has no \"]\"; nobody can read what stands below it\n",
+                2);
+}
+
+TEST_F(QuorconvLossTest, ATableOfASpreadsheetIsReadByItsOwnSeparatorAloneAndNeverGuessed) {
+    const std::string table = "section;type;RTPW\nA;w90;25,5\n";
+    folder.Write("in.csv", table);
+    const std::string head = "quorconv: a.ini: nothing was written, because a line of in.csv is wrong\n";
+    ExpectRefused({"put", "a.ini", "in.csv", "--csv"},
+                  head +
+                      "  in.csv:1: there is no column \"section\"; \"--separator semicolon\" reads a table "
+                      "like this\n");
+    ExpectRefused({"put", "a.ini", "in.csv", "--csv", "--separator", "semicolon"},
+                  head + "  in.csv:2: column 3 (RTPW): \"25,5\" is not a number; the decimal sign is a point "
+                         "without --decimal comma\n");
+    ExpectShell("quorconv put a.ini in.csv --csv --separator semicolon --decimal comma", "",
+                "quorconv: 1 probe put\n");
+    ExpectShell("quorconv export a.ini --csv --type w90 --separator semicolon --decimal comma",
+                "section;type;RTPW [ohm]\r\nA;CONV_WT90;25,5\r\n", "quorconv: 1 probe exported\n");
+    ExpectShell(
+        "quorconv export a.ini --csv --type w90 --separator tab | quorconv put b.ini --csv --separator tab",
+        "", "quorconv: 1 probe exported\nquorconv: 1 probe put\n");
+    EXPECT_EQ(folder.Read("a.ini"), folder.Read("b.ini"));
+    folder.Write("in.csv", "\"section\";\"type\"\n");
+    ExpectRefused({"put", "a.ini", "in.csv", "--csv"},
+                  head + "  in.csv:1: a comma or the end of the line expected behind a field in quotes; "
+                         "\"--separator semicolon\" reads such a table\n");
+}
+
+TEST_F(QuorconvLossTest, EachWrongLineOfATableAndEachWrongStepIsTold) {
+    folder.Write("in.csv", "section,type,RTPW\nA,w90,1\n,,\nB,w90,x\nC,w99,2\n");
+    ExpectRefused({"put", "a.ini", "in.csv", "--csv"},
+                  "quorconv: a.ini: nothing was written, because 3 lines of in.csv are wrong\n"
+                  "  in.csv:3: all fields of the line are empty\n"
+                  "  in.csv:4: column 3 (RTPW): \"x\" is not a number\n"
+                  "  in.csv:5: column 2 (type): \"w99\" is no conversion type\n");
+    ExpectFine({"new", "a.ini", "A", "w90", "RTPW=1"});
+    folder.Write("steps.txt", "\xEF\xBB\xBFremove X\nset A RTPW=3\nrename Y Z\nset A R0=1\n");
+    const std::string before = folder.Read("a.ini");
+    ExpectRefused({"apply", "a.ini", "steps.txt"},
+                  "quorconv: a.ini: nothing was written, because 3 lines of steps.txt are wrong\n"
+                  "  steps.txt:1: a.ini: [X]: there is no such section\n"
+                  "  steps.txt:3: a.ini: [Y]: there is no such section\n"
+                  "  steps.txt:4: a.ini: [A] R0: there is no such key in a record of this type\n");
+    EXPECT_EQ(folder.Read("a.ini"), before);
+}
+
+TEST_F(QuorconvLossTest, AnEmptyStandardInputIsNoSuccess) {
+    ExpectFine({"new", "a.ini", "A", "w90", "RTPW=1"});
+    for (const std::string command :
+         {"check -", "list -", "export - --jsonl", "apply a.ini", "set a.ini --from -", "put a.ini --json"})
+        ExpectShell("quorconv " + command + " </dev/null", "",
+                    "quorconv: -: there is nothing in the standard input\n", 1);
+    ExpectShell("quorconv new - A w90 RTPW=1 </dev/null", folder.Read("a.ini"));
+}
+
+TEST_F(QuorconvLossTest, ShownJsonIsWholeOrNothing) {
+    ExpectFine({"new", "a.ini", "A", "10"});
+    ExpectRefused({"show", "--json", "none.ini"}, "quorconv: File not found: none.ini\n");
+    ExpectShell("quorconv show --json none.ini --also a.ini",
+                "[\n  {\n    \"section\": \"A\",\n    \"code\": 10,\n    \"type\": \"CONV_OHMS\",\n    "
+                "\"name\": \"Ohms\",\n    \"settings\": {}\n  }\n]\n",
+                "quorconv: File not found: none.ini\n", 1);
+    folder.Write(
+        "in.json",
+        R"({"section": "A", "type": "cvd", "settings": {"Coefficients": [{"value": 1}, {"value": 1e400}]}})");
+    ExpectRefused({"put", "b.ini", "in.json", "--json"},
+                  "quorconv: b.ini: nothing was written, because a line of in.json is wrong\n"
+                  "  in.json:1:87: settings/Coefficients[1]/value: the number is too large for a double\n");
+}
+
+TEST_F(QuorconvLossTest, SectionsThatStandTwiceAreNamedByDiff) {
+    ExpectFine({"new", "a.ini", "A", "w90", "RTPW=1"});
+    folder.Write("b.ini", folder.Read("a.ini") + "[A - Settings]\nRTPW=2\n[Host]\n[Host]\n");
+    ExpectShell(
+        "quorconv diff a.ini b.ini", "",
+        "quorconv: b.ini:8: [A - Settings]: the section stands twice; the one in line 5 is compared\n");
+}

@@ -276,8 +276,9 @@ TEST_F(QuorconvManyTest, TellsEachWrongStepWithItsLineAndDoesNoneOfThem) {
         "point\n"
         "  steps.txt:3: host.ini: [Bath A] Coefficients0: there is no such key in a record of this type\n");
     refused("set Oven Coefficients0=1\nremove Bath\nset Bath RTPW=1\n",
-            "quorconv: host.ini: nothing was written, because a line of steps.txt is wrong\n"
-            "  steps.txt:2: host.ini: [Bath]: there is no such section\n");
+            "quorconv: host.ini: nothing was written, because 2 lines of steps.txt are wrong\n"
+            "  steps.txt:2: host.ini: [Bath]: there is no such section\n"
+            "  steps.txt:3: host.ini: [Bath]: there is no such section\n");
 }
 
 TEST_F(QuorconvManyTest, SetsWhatTheLinesOfAFileSay) {
@@ -300,7 +301,7 @@ TEST_F(QuorconvManyTest, ReadsTheStandardInputAndWritesTheStandardOutputForADash
                 "-:11: [Bath A - Settings] RTPW: \"x\" is not a number\n", "", 1);
     ExpectShell("printf 'type RTPW 7\\nclick OK\\n' | quorconv edit host.ini 'Bath A' --script -", "");
     EXPECT_EQ(folder.Read("host.ini"), Replaced(before, "25.5", "7"));
-    ExpectShell("quorconv copy - Oven - P </dev/null", "",
+    ExpectShell("quorconv copy - Oven - P <host.ini", "",
                 "quorconv: \"-\" can stand once: the standard input can be read once\n", 2);
 }
 
