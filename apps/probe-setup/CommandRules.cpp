@@ -8,15 +8,25 @@ void CommandRules::Add(QAction& action, const Needs& needs) {
     m_rules.push_back({&action, needs, action.statusTip()});
 }
 
-void CommandRules::Apply(std::size_t selected, bool isWritable) const {
+QString CommandRules::ReasonAgainst(const Needs& needs, const State& state) {
+    if (needs.writable && !state.isWritable)
+        return tr("The file is read-only");
+    if (needs.probe && state.selected == 0)
+        return tr("No probe is selected");
+    if (needs.one && state.selected > 1)
+        return tr("This can be done with one probe only");
+    if (needs.changes && !state.hasChanges)
+        return tr("There are no changes to save");
+    if (needs.undo && !state.canUndo)
+        return tr("There is no change to take back");
+    if (needs.redo && !state.canRedo)
+        return tr("There is no change to make again");
+    return {};
+}
+
+void CommandRules::Apply(const State& state) const {
     for (const Rule& rule : m_rules) {
-        QString reason;
-        if (rule.needs.writable && !isWritable)
-            reason = tr("The file is read-only");
-        else if (rule.needs.probe && selected == 0)
-            reason = tr("No probe is selected");
-        else if (rule.needs.one && selected > 1)
-            reason = tr("This can be done with one probe only");
+        const QString reason = ReasonAgainst(rule.needs, state);
         rule.action->setEnabled(reason.isEmpty());
         const QString tip = reason.isEmpty() ? rule.tip : reason;
         rule.action->setStatusTip(tip);

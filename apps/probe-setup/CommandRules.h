@@ -20,14 +20,28 @@ public:
         bool probe = false;    ///< at least one is selected
         bool one = false;      ///< no more than one is selected
         bool writable = false; ///< the file may be written
+        bool changes = false;  ///< there is something to save
+        bool undo = false;     ///< there is a step to take back
+        bool redo = false;     ///< there is a step to make again
+    };
+    /// What there is.
+    struct State {
+        std::size_t selected = 0;
+        bool isWritable = true;
+        bool hasChanges = false;
+        bool canUndo = false;
+        bool canRedo = false;
     };
 
     /// The action has its status tip already. It outlives the rules.
     void Add(QAction& action, const Needs& needs);
     /// Enables and disables the actions.
-    void Apply(std::size_t selected, bool isWritable) const;
+    void Apply(const State& state) const;
 
 private:
+    /// Why a command cannot be run; empty when it can.
+    [[nodiscard]] static QString ReasonAgainst(const Needs& needs, const State& state);
+
     struct Rule {
         QAction* action;
         Needs needs;

@@ -103,7 +103,7 @@ MainWindow::MainWindow(std::shared_ptr<QuorRegistryII::Registry> registry, const
     resizeDocks({m_values}, {character * 58}, Qt::Horizontal);
     restoreGeometry(QByteArray::fromBase64(m_settings.Read(geometryName).toLatin1()));
     Table().header()->restoreState(QByteArray::fromBase64(m_settings.Read(columnsName).toLatin1()));
-    restoreState(QByteArray::fromBase64(m_settings.Read(panesName).toLatin1()));
+    m_findingsHaveHeight = restoreState(QByteArray::fromBase64(m_settings.Read(panesName).toLatin1()));
     m_list->Show({});
     Table().setFocus();
 }
@@ -151,8 +151,9 @@ void MainWindow::MakeFileMenu() {
               tr("Open the file of a host, or add the probe of a settings file"), [this] { m_files.Open(); });
     file.addMenu(m_recentMenu);
     file.addSeparator();
-    AddAction(file, "save", tr("&Save"), QKeySequence::Save, tr("Write the changes into the file"),
-              [this] { m_files.Save(); });
+    m_rules.Add(*AddAction(file, "save", tr("&Save"), QKeySequence::Save,
+                           tr("Write the changes into the file"), [this] { m_files.Save(); }),
+                {.writable = true, .changes = true});
     AddAction(file, "saveAs", tr("Save &as\u2026"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
               tr("Write the file with the changes under another name, and go on with that file"),
               [this] { m_files.SaveAs(); });
@@ -182,13 +183,15 @@ void MainWindow::MakeFileMenu() {
 
 void MainWindow::MakeEditMenu() {
     QMenu& edit = AddMenu(tr("&Edit"));
-    AddAction(edit, "undo", tr("&Undo"), QKeySequence::Undo, tr("Take the last change back"), [this] {
-        m_probes.Undo();
-    })->setIconText(tr("Undo"));
+    auto* const undo = AddAction(edit, "undo", tr("&Undo"), QKeySequence::Undo,
+                                 tr("Take the last change back"), [this] { m_probes.Undo(); });
+    undo->setIconText(tr("Undo"));
     auto* const redo = AddAction(edit, "redo", tr("&Redo"), QKeySequence::Redo, tr("Make the change again"),
                                  [this] { m_probes.Redo(); });
     redo->setShortcuts(QKeySequence::Redo); // some people know another one
     redo->setIconText(tr("Redo"));
+    m_rules.Add(*undo, {.undo = true});
+    m_rules.Add(*redo, {.redo = true});
     edit.addSeparator();
     auto* const copy = AddAction(edit, "copy", tr("&Copy probes"), QKeySequence::Copy,
                                  tr("Put the selected probes on the clipboard, as text of an INI file"),
@@ -311,6 +314,8 @@ void MainWindow::Check() {
     m_findings->Check();
     m_findings->show();
     m_findings->raise();
+    if (!std::exchange(m_findingsHaveHeight, true)) // the list of probes keeps most of the room
+        resizeDocks({m_findings}, {fontMetrics().height() * 10}, Qt::Vertical);
     m_findings->GoToList();
 }
 
@@ -356,8 +361,6 @@ void MainWindow::ShowState() {
     setWindowModified(changed);
     const bool writable = !m_document->IsReadOnly();
     const std::vector<std::size_t> selected = m_list->Selected();
-    m_rules.Apply(selected.size(), writable);
-    Action("save").setEnabled(writable && (changed || m_document->Path().empty()));
     m_watch.Watch(ToQt(m_document->Path()));
     ShowWhetherOthersWrote();
     m_findings->Refresh();
@@ -366,8 +369,11 @@ void MainWindow::ShowState() {
 
     const auto undo = m_document->UndoKind();
     const auto redo = m_document->RedoKind();
-    Action("undo").setEnabled(undo.has_value());
-    Action("redo").setEnabled(redo.has_value());
+    m_rules.Apply({.selected = selected.size(),
+                   .isWritable = writable,
+                   .hasChanges = changed || m_document->Path().empty(),
+                   .canUndo = undo.has_value(),
+                   .canRedo = redo.has_value()});
     Action("undo").setText(undo ? tr("&Undo: %1").arg(Wording::Of(*undo)) : tr("&Undo"));
     Action("redo").setText(redo ? tr("&Redo: %1").arg(Wording::Of(*redo)) : tr("&Redo"));
 

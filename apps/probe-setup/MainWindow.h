@@ -98,6 +98,7 @@ private:
     ValuePane* m_values;
     FindingPane* m_findings;
     FileWatch m_watch;
+    bool m_findingsHaveHeight = false; ///< one that the person has given them, or the first one
     QLabel* m_readOnly;
     QLabel* m_count;
 };

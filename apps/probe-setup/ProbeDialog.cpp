@@ -27,6 +27,7 @@ ProbeDialog::ProbeDialog(QWidget* parent, const QString& probes, const TypeChoic
     Build(type, tr("Another type starts with values of its own; the present ones are not carried over."),
           std::move(help));
     m_types->List().setFocus();
+    CheckInput();
 }
 
 ProbeDialog::ProbeDialog(QWidget* parent, const ProbeDocument& document, const QString& name,

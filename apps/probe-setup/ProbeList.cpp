@@ -4,6 +4,8 @@
 #include "apps/probe-setup/FindBox.h"
 #include "apps/probe-setup/MessageBox.h"
 #include "apps/probe-setup/ProbeTable.h"
+#include "apps/probe-setup/TypeChoice.h"
+#include "apps/probe-setup/TypeTexts.h"
 #include "apps/probe-setup/Wording.h"
 
 #include <QHeaderView>
@@ -11,6 +13,8 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -72,7 +76,19 @@ void ProbeList::MakeTable() {
     m_table->header()->setSortIndicator(-1, Qt::AscendingOrder);
     m_table->setSortingEnabled(true);
     m_table->header()->setSectionResizeMode(ProbeTableModel::ChangedColumn, QHeaderView::ResizeToContents);
-    m_table->header()->resizeSection(ProbeTableModel::NameColumn, fontMetrics().averageCharWidth() * 34);
+    const int nameWidth = fontMetrics().averageCharWidth() * 30;
+    m_table->header()->resizeSection(ProbeTableModel::NameColumn, nameWidth);
+    // Names of conversions are not cut where the screen has room for them: the panes give way.
+    int conversionWidth = 0;
+    for (const TypeChoice& type : TypeChoice::All())
+        conversionWidth =
+            std::max(conversionWidth, fontMetrics().horizontalAdvance(TypeTexts::OfConversion(type)));
+    const int margins = m_table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) * 2 + 4;
+    const int rest = m_table->header()->sectionSizeHint(ProbeTableModel::ChangedColumn) +
+                     m_table->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * m_table->frameWidth();
+    constexpr int part = 3; // of four parts of the screen: the panes need some of it
+    m_table->setMinimumWidth(
+        std::min(nameWidth + conversionWidth + margins + rest, screen()->availableSize().width() * part / 4));
     m_table->header()->setSectionResizeMode(ProbeTableModel::ConversionColumn, QHeaderView::Stretch);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { m_changed(); });
     connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { m_changed(); });

@@ -39,7 +39,7 @@ TypeChooser::TypeChooser(const TypeChoice& selected, std::function<void()> chang
     wanted.high.reset();
     for (const TypeChoice& choice : m_choices) {
         auto* const item = new QListWidgetItem(TypeTexts::OfChoice(choice), m_list);
-        if (choice == wanted || (m_list->count() == 1))
+        if (choice == wanted)
             m_list->setCurrentItem(item);
     }
     m_list->setMinimumHeight(m_list->sizeHintForRow(0) * 12);
@@ -61,7 +61,7 @@ TypeChooser::TypeChooser(const TypeChoice& selected, std::function<void()> chang
     layout->addWidget(m_ranges);
     ShowRanges();
     connect(m_filter, &QLineEdit::textChanged, this, &TypeChooser::Filter);
-    connect(m_list, &QListWidget::currentRowChanged, this, [this] {
+    connect(m_list, &QListWidget::itemSelectionChanged, this, [this] {
         ShowRanges();
         m_changed();
     });
@@ -96,7 +96,8 @@ void TypeChooser::ShowRanges() {
 
 std::optional<TypeChoice> TypeChooser::Chosen() const {
     const QListWidgetItem* const item = m_list->currentItem();
-    if (!item || item->isHidden())
+    // A list that gets the keyboard makes its first item the current one, without selecting it.
+    if (!item || item->isHidden() || !item->isSelected())
         return std::nullopt;
     TypeChoice choice = m_choices[static_cast<std::size_t>(m_list->row(item))];
     if (choice.type == CONV_ITS90) {
@@ -104,6 +105,12 @@ std::optional<TypeChoice> TypeChooser::Chosen() const {
         choice.high = EITS90RangeNumber{m_high->currentData().toInt()};
     }
     return choice;
+}
+
+void TypeChooser::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (m_list->currentItem()) // its place is known when the list has its size
+        m_list->scrollToItem(m_list->currentItem(), QAbstractItemView::PositionAtCenter);
 }
 
 bool TypeChooser::eventFilter(QObject* watched, QEvent* event) {

@@ -22,15 +22,16 @@ class TypeChooser final : public QWidget {
     Q_DECLARE_TR_FUNCTIONS(TypeChooser)
 
 public:
-    /// `selected` is chosen at first. `changed` is called when something else is, `accepted` on a double
-    /// click.
+    /// `selected` is chosen at first; a type that is no choice, as one of another program, leaves nothing
+    /// chosen. `changed` is called when something else is, `accepted` on a double click.
     TypeChooser(const TypeChoice& selected, std::function<void()> changed, std::function<void()> accepted);
 
-    /// Nothing when the filter hides all.
+    /// Nothing when the filter hides all, or nothing is chosen.
     [[nodiscard]] std::optional<TypeChoice> Chosen() const;
     [[nodiscard]] QListWidget& List() const { return *m_list; }
 
 protected:
+    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -43,11 +43,15 @@ QString TypeTexts::OfProbe(ProbeType type, const QString& name) {
     return text.contains(QLatin1String("%1")) ? text.arg(name) : text;
 }
 
-QString TypeTexts::OfChoice(const TypeChoice& choice) {
+QString TypeTexts::OfConversion(const TypeChoice& choice) {
     // As its settings call themselves when they are new; a type without settings has its name in the table.
     CQuorConversion conversion;
     choice.ApplyTo(conversion);
-    QString name = OfProbe(choice.type, ToQt(QuorProbeFile::NameOf(conversion)));
+    return OfProbe(choice.type, ToQt(QuorProbeFile::NameOf(conversion)));
+}
+
+QString TypeTexts::OfChoice(const TypeChoice& choice) {
+    QString name = OfConversion(choice);
     if (!choice.polynomial)
         return name;
     return *choice.polynomial ? tr("%1, A, B and C").arg(name) : tr("%1, alpha, delta and beta").arg(name);

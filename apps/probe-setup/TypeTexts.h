@@ -15,6 +15,8 @@ class TypeTexts {
 public:
     /// The conversion of a probe: `name` is what its settings call themselves, or its type where it has none.
     [[nodiscard]] static QString OfProbe(ProbeType type, const QString& name);
+    /// The conversion of a probe of this type that is new.
+    [[nodiscard]] static QString OfConversion(const TypeChoice& choice);
     /// A type to choose.
     [[nodiscard]] static QString OfChoice(const TypeChoice& choice);
 };

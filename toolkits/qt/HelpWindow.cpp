@@ -43,6 +43,21 @@ QUrl PageOf(const QHelpEngineCore& engine, const QString& keyword) {
     return engine.documentsForIdentifier(keyword).value(0).url;
 }
 
+/// A palette of the desktop, with a colour of links that can be read on a dark ground: not each dark palette
+/// has one.
+QPalette WithReadableLinks(QPalette palette) {
+    const auto isDark = [&palette](QPalette::ColorRole role) {
+        constexpr double half = 0.5;
+        const QColor colour = palette.color(role);
+        return 0.299 * colour.redF() + 0.587 * colour.greenF() + 0.114 * colour.blueF() < half;
+    };
+    const QColor light(0x80, 0xC0, 0xFF);
+    for (const QPalette::ColorRole link : {QPalette::Link, QPalette::LinkVisited})
+        if (isDark(QPalette::Base) && isDark(link))
+            palette.setColor(link, light);
+    return palette;
+}
+
 /// Shows pages of the collection alone.
 class Page final : public QTextBrowser {
 public:
@@ -77,6 +92,7 @@ HelpWindow::HelpWindow(QWidget* parent)
     setWindowTitle(tr("Help"));
 
     m_page->setAccessibleName(tr("Help page"));
+    m_page->setPalette(WithReadableLinks(palette()));
     m_topics->setAccessibleName(tr("Topics"));
     m_topics->setHeaderHidden(true);
     m_topics->header()->setStretchLastSection(false);
@@ -131,6 +147,8 @@ QWidget* HelpWindow::MakeTopics() {
     auto* const rows = new QVBoxLayout(box);
     rows->setContentsMargins(0, 0, 0, 0);
     auto* const line = new QHBoxLayout;
+    const int margin = style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing) / 2;
+    line->setContentsMargins(margin, margin, margin, 0);
     line->addWidget(label);
     line->addWidget(m_searchText);
     rows->addLayout(line);
@@ -178,7 +196,7 @@ void HelpWindow::Search(const QString& text) {
 void HelpWindow::FitTopics() {
     const int wanted = m_topics->header()->length() + 2 * m_topics->frameWidth() +
                        style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    const int topics = std::min(wanted, width() * 2 / 5);
+    const int topics = std::min(wanted, width() * 9 / 20);
     m_columns->setSizes({topics, width() - topics});
 }
 
@@ -360,8 +378,10 @@ void HelpWindow::StandOnModalWindow() {
 
 void HelpWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
+    if (event->type() == QEvent::PaletteChange) {
+        m_page->setPalette(WithReadableLinks(palette()));
         m_page->reload(); // the colours of links are taken when a page is read
+    }
 }
 
 } // namespace QuorConversions::QtToolkit

@@ -46,6 +46,18 @@
         <source>This can be done with one probe only</source>
         <translation>Das geht nur mit einem einzelnen Fühler</translation>
     </message>
+    <message>
+        <source>There are no changes to save</source>
+        <translation>Es gibt keine Änderungen zu speichern</translation>
+    </message>
+    <message>
+        <source>There is no change to take back</source>
+        <translation>Es gibt keine Änderung zurückzunehmen</translation>
+    </message>
+    <message>
+        <source>There is no change to make again</source>
+        <translation>Es gibt keine Änderung zu wiederholen</translation>
+    </message>
 </context>
 <context>
     <name>FileCommands</name>

@@ -2,6 +2,7 @@
 // programs do to the file meanwhile.
 
 #include "QuorConversions/qt/QtPlatform.h"
+#include "apps/probe-setup/ProbeDialog.h"
 #include "apps/probe-setup/ProbeReport.h"
 #include "apps/probe-setup/ReportCommands.h"
 #include "apps/probe-setup/TypeTexts.h"
@@ -9,6 +10,7 @@
 
 #include <QClipboard>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFrame>
 #include <QHeaderView>
@@ -20,6 +22,7 @@
 #include <QTextDocument>
 
 #include <filesystem>
+#include <map>
 
 using namespace ProbeSetup;
 using QuorConversions::QtToolkit::FromQt;
@@ -55,6 +58,161 @@ TEST_F(ManyProbesWindow, ACommandForOneProbeSaysWhyItIsDisabled) {
         EXPECT_TRUE(Action(name).isEnabled()) << name;
     Table().clearSelection();
     EXPECT_EQ(Action("remove").toolTip(), "No probe is selected");
+}
+
+TEST_F(ManyProbesWindow, EveryCommandCanBeUsedOrItsToolTipSaysWhyNot) {
+    const std::map<QString, QString> none{{"export", "No probe is selected"},
+                                          {"print", "No probe is selected"},
+                                          {"pdf", "No probe is selected"},
+                                          {"copy", "No probe is selected"},
+                                          {"edit", "No probe is selected"},
+                                          {"rename", "No probe is selected"},
+                                          {"changeType", "No probe is selected"},
+                                          {"duplicate", "No probe is selected"},
+                                          {"remove", "No probe is selected"},
+                                          {"save", "There are no changes to save"},
+                                          {"undo", "There is no change to take back"},
+                                          {"redo", "There is no change to make again"}};
+    const std::map<QString, QString> one{{"save", "There are no changes to save"},
+                                         {"undo", "There is no change to take back"},
+                                         {"redo", "There is no change to make again"}};
+    std::map<QString, QString> several = one;
+    several["edit"] = several["rename"] = "This can be done with one probe only";
+    std::map<QString, QString> readOnly = one;
+    for (const char* const name :
+         {"save", "import", "paste", "add", "rename", "changeType", "duplicate", "remove"})
+        readOnly[name] = "The file is read-only";
+
+    const auto disabled = [this] {
+        std::map<QString, QString> reasons;
+        for (QAction* const action : window->findChildren<QAction*>()) {
+            const bool isCommand = !action->objectName().isEmpty() && !action->menu() &&
+                                   !action->objectName().startsWith('_') && !action->isSeparator();
+            if (isCommand && !action->isEnabled() && action->parent() != Table().viewport()) {
+                EXPECT_EQ(action->toolTip(), action->statusTip()) << action->objectName().toStdString();
+                reasons[action->objectName()] = action->toolTip();
+            }
+        }
+        return reasons;
+    };
+    Table().clearSelection();
+    EXPECT_EQ(disabled(), none);
+    GoTo(0);
+    EXPECT_EQ(disabled(), one);
+    SelectAll();
+    EXPECT_EQ(disabled(), several);
+    GoTo(0);
+    Press(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(disabled(), (std::map<QString, QString>{{"redo", "There is no change to make again"}}));
+    EXPECT_EQ(Action("save").toolTip(), "Write the changes into the file");
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(disabled(), (std::map<QString, QString>{{"save", "There are no changes to save"},
+                                                      {"undo", "There is no change to take back"}}));
+    std::filesystem::permissions(folder.Path("host.ini"), std::filesystem::perms::owner_read);
+    ASSERT_TRUE(window->OpenPath(Path("host.ini")));
+    if (!window->Document().IsReadOnly())
+        GTEST_SKIP() << "this user may write every file";
+    GoTo(0);
+    EXPECT_EQ(disabled(), readOnly);
+}
+
+TEST_F(ManyProbesWindow, EveryCommandForProbesTakesTheWholeSelection) {
+    SelectAll();
+    Press(Qt::Key_C, Qt::ControlModifier);
+    const QString copied = QApplication::clipboard()->text();
+    EXPECT_TRUE(copied.contains("[Probe 1]") && copied.contains("[Probe 2]")) << copied.toStdString();
+    Action("duplicate").trigger();
+    EXPECT_EQ(Names(), (QStringList{"Probe 1", "Probe 2", "Probe 1 (2)", "Probe 2 (2)"}));
+    Action("remove").trigger(); // the copies, which are selected
+    EXPECT_EQ(Names(), (QStringList{"Probe 1", "Probe 2"}));
+    SelectAll();
+    WhenShown<QDialog>([](QDialog& dialog) {
+        QTest::keyClicks(dialog.findChild<QLineEdit*>("typeFilter"), "Ratio");
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    Action("changeType").trigger();
+    EXPECT_EQ(window->Document().Type(0), QuorConversions::CONV_RATIO);
+    EXPECT_EQ(window->Document().Type(1), QuorConversions::CONV_RATIO);
+    SelectAll();
+    WhenShown<QFileDialog>([this](QFileDialog& dialog) {
+        dialog.findChild<QLineEdit*>("fileNameEdit")->setText(Path("both.pdf"));
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    Action("pdf").trigger();
+    const std::string pdf = folder.Read("both.pdf");
+    std::size_t pages = 0;
+    for (auto at = pdf.find("/Type /Page\n"); at != std::string::npos; at = pdf.find("/Type /Page\n", at + 1))
+        ++pages;
+    EXPECT_EQ(pages, 2U);
+    Action("remove").trigger();
+    EXPECT_EQ(Names(), QStringList{});
+}
+
+TEST_F(ManyProbesWindow, ChangeTypeBeginsWithTheTypeOfEachProbeOfTheLaboratory) {
+    std::filesystem::copy_file(QUOR_SAMPLES "/laboratory.ini", folder.Path("laboratory.ini"));
+    ASSERT_TRUE(window->OpenPath(Path("laboratory.ini")));
+    ASSERT_EQ(Table().model()->rowCount(), 29);
+    for (int row = 0; row < Table().model()->rowCount(); ++row) {
+        SCOPED_TRACE(Row(row).data().toString().toStdString());
+        const auto probe = static_cast<std::size_t>(row);
+        const TypeChoice own = TypeChoice::Of(window->Document().Conversion(probe));
+        ProbeDialog dialog(window.get(), "it", own, [] {});
+        EXPECT_EQ(dialog.ChosenType(), own);
+        dialog.show();
+        const auto& list = *dialog.findChild<QListWidget*>("probeType");
+        EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.currentItem()))) << "in sight";
+    }
+}
+
+TEST_F(ManyProbesWindow, ChangeTypeBeginsWithNoneWhereTheTypeOfTheProbeIsNoChoice) {
+    Open("[Probe 1]\nConversionType=99\n");
+    GoTo(0);
+    WhenShown<QDialog>([](QDialog& dialog) {
+        auto& types = *dialog.findChild<QListWidget*>("probeType");
+        EXPECT_TRUE(types.hasFocus());
+        EXPECT_EQ(types.selectedItems(), QList<QListWidgetItem*>());
+        const auto& ok = *dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+        EXPECT_FALSE(ok.isEnabled()) << "Return gives the probe no type by chance";
+        QTest::keyClick(&types, Qt::Key_Down);
+        EXPECT_TRUE(ok.isEnabled());
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    Action("changeType").trigger();
+    EXPECT_FALSE(window->Document().Changed());
+}
+
+TEST_F(ManyProbesWindow, TheFilterOfTheTypesShowsThoseThatContainItsText) {
+    ProbeDialog dialog(window.get(), "it", QuorConversions::CONV_PT100, [] {});
+    auto& filter = *dialog.findChild<QLineEdit*>("typeFilter");
+    const auto& list = *dialog.findChild<QListWidget*>("probeType");
+    const auto& ok = *dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+    dialog.show();
+    const auto shown = [&list] {
+        QStringList texts;
+        for (int row = 0; row < list.count(); ++row)
+            if (!list.item(row)->isHidden())
+                texts += list.item(row)->text();
+        return texts;
+    };
+    const QStringList all = shown();
+    QTest::keyClicks(&filter, "type K");
+    EXPECT_EQ(shown(), (QStringList{"TC Type K, deviation points", "TC Type K, deviation polynomial"}));
+    EXPECT_EQ(list.currentItem()->text(), "TC Type K, deviation points") << "the first that is left";
+    QTest::keyClick(&filter, Qt::Key_Down);
+    EXPECT_EQ(list.currentItem()->text(), "TC Type K, deviation polynomial") << "the keys go to the list";
+    ASSERT_TRUE(dialog.ChosenType());
+    EXPECT_EQ(dialog.ChosenType()->type, QuorConversions::CONV_TCTYPEPOLY);
+    EXPECT_EQ(dialog.ChosenType()->letter, QuorConversions::TCTYPE_K);
+    QTest::keyClicks(&filter, "?");
+    EXPECT_EQ(shown(), QStringList{});
+    EXPECT_FALSE(dialog.ChosenType());
+    EXPECT_FALSE(ok.isEnabled());
+    filter.clear();
+    EXPECT_EQ(shown(), all);
+    EXPECT_TRUE(ok.isEnabled());
+    EXPECT_FALSE(all.contains("<keep existing>"));
+    for (const char* const letter : {"B", "C", "E", "J", "K", "L", "M", "N", "R", "S", "T", "U", "AuPt"})
+        EXPECT_GE(all.filter(QStringLiteral("TC Type %1,").arg(letter)).size(), 1) << letter;
 }
 
 TEST_F(ManyProbesWindow, DuplicateTakesTheWholeSelectionAndUndoTakesItBackAtOnce) {

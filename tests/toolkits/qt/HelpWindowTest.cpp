@@ -9,6 +9,7 @@
 #include <QHelpContentWidget>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QTest>
 #include <QTextBrowser>
@@ -175,6 +176,42 @@ TEST_F(HelpWindowTest, FindsTextInThePageAndSaysWhenThereIsNone) {
     Press(Qt::Key_Return);
     EXPECT_TRUE(Says("The page does not contain this text."));
     EXPECT_EQ(Page().textCursor().selectedText(), "1.11807") << "a search without result moves nothing";
+}
+
+TEST_F(HelpWindowTest, SearchesInAllPagesAndOpensWhatIsFound) {
+    auto& text = *window.findChild<QLineEdit*>("search");
+    auto& results = *window.findChild<QListWidget*>("searchResults");
+    const auto titles = [&results] {
+        QStringList found;
+        for (int row = 0; row < results.count(); ++row)
+            found += results.item(row)->text();
+        return found;
+    };
+    Press(Qt::Key_S, Qt::AltModifier);
+    ASSERT_TRUE(text.hasFocus());
+    EXPECT_FALSE(results.isVisible());
+    Type("Steinhart");
+    EXPECT_TRUE(results.isVisible());
+    EXPECT_FALSE(Topics().isVisible());
+    EXPECT_TRUE(titles().contains("Thermistor")) << titles().join(", ").toStdString();
+    EXPECT_FALSE(titles().contains("Callendar-Van Dusen"));
+    const qsizetype some = titles().size();
+    Type(" zzz"); // every word must be there
+    EXPECT_EQ(titles(), QStringList{"No page contains this."});
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Shown(), "ITS-90") << "which leads nowhere";
+    text.clear();
+    EXPECT_FALSE(results.isVisible());
+    EXPECT_TRUE(Topics().isVisible());
+    Type("sTEINHART");
+    EXPECT_EQ(titles().size(), some) << "in any case of letters";
+    results.setCurrentRow(static_cast<int>(titles().indexOf("Thermistor")));
+    results.setFocus();
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Shown(), "Thermistor");
+    text.setFocus();
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Shown(), titles().front().toStdString()) << "Return opens the first page";
 }
 
 TEST_F(HelpWindowTest, ClosesFirstTheFindBarByEscapeAndThenItself) {

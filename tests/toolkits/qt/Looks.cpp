@@ -22,6 +22,23 @@ QPalette Dark() {
     return palette;
 }
 
+QPalette HighContrast() {
+    QPalette palette(Qt::black);
+    for (const QPalette::ColorRole text : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        palette.setColor(text, Qt::white);
+    for (const QPalette::ColorRole ground :
+         {QPalette::Base, QPalette::AlternateBase, QPalette::Window, QPalette::Button, QPalette::ToolTipBase})
+        palette.setColor(ground, Qt::black);
+    palette.setColor(QPalette::ToolTipText, Qt::yellow);
+    palette.setColor(QPalette::Link, Qt::yellow);
+    palette.setColor(QPalette::LinkVisited, Qt::yellow);
+    palette.setColor(QPalette::Highlight, Qt::yellow);
+    palette.setColor(QPalette::HighlightedText, Qt::black);
+    for (const QPalette::ColorRole text : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, text, Qt::green);
+    return palette;
+}
+
 } // namespace
 
 std::string TestName(const Look& look) {
@@ -34,7 +51,7 @@ void PrintTo(const Look& look, std::ostream* out) { *out << look.name; }
 
 Dressed::Dressed(const Look& look) : m_palette(QApplication::palette()), m_font(QApplication::font()) {
     if (look.dark)
-        QApplication::setPalette(Dark());
+        QApplication::setPalette(look.highContrast ? HighContrast() : Dark());
     QFont font = m_font;
     if (look.pointSize > 0)
         font.setPointSize(look.pointSize);

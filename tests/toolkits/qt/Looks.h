@@ -18,6 +18,7 @@ struct Look {
     QLocale::Language language;
     int pointSize; ///< 0 for the usual one
     Qt::LayoutDirection direction;
+    bool highContrast = false; ///< white and yellow on black
 };
 
 inline constexpr Look looks[] = {
@@ -26,6 +27,7 @@ inline constexpr Look looks[] = {
     {"german", false, QLocale::German, 0, Qt::LeftToRight},
     {"large", false, QLocale::English, 18, Qt::LeftToRight},
     {"large-german", true, QLocale::German, 15, Qt::LeftToRight},
+    {"high-contrast", true, QLocale::English, 0, Qt::LeftToRight, true},
     {"mirrored", false, QLocale::English, 0, Qt::RightToLeft},
 };
 
