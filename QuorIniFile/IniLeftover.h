@@ -4,13 +4,13 @@
 
 namespace QuorIniFile {
 
-/// A file that a save has left beside its own.
+/// A file that a save has left beside the saved one.
 struct IniLeftover {
-    /// A path as names of files are given; bytes in it that are no UTF-8 stand for Latin-1.
+    /// Its path; bytes that are not UTF-8 are read as Latin-1.
     std::wstring path;
-    /// What another program had put in the place of the file at the very moment of a save, which has told so.
-    /// It stays until somebody removes it. Others are what an interrupted save has left: the next save
-    /// removes them, or, where their lock file is gone, nobody does.
+    /// True for a version of the file that another program wrote at the very moment of a save, which reported
+    /// it. It stays until somebody removes it. Other leftovers are from an interrupted save: the next save
+    /// removes them, unless their lock file is gone.
     bool isKept = false;
 };
 

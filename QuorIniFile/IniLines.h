@@ -16,51 +16,53 @@ namespace QuorIniFile {
 ///     while (lines.Next())
 ///         if (lines.Is(IniLines::Kind::Key))
 ///             use(lines.Number(), lines.Name(), lines.Value());
-/// It looks at the text of the store that made it, and lives until that store is next written to, saved,
-/// edited, discarded, reloaded or given another file. It tells what stands in the lines: a key that stands
-/// twice is told twice.
+/// It refers to the text of the store that made it, and is valid until that store is next written to, saved,
+/// edited, discarded, reloaded or given another file. It visits every line: a key that occurs twice is
+/// visited twice.
 class QUORINIFILE_EXPORT IniLines {
 public:
     /// What a line is.
     enum class Kind : std::uint8_t {
         Header,         // "[name]"
-        UnclosedHeader, // '[' without ']': it begins a section without a name, whose keys nobody can read
+        UnclosedHeader, // '[' without ']': it begins a section without a name, whose keys cannot be read
         Key,            // "key=value"
         Malformed,      // none of these, no comment and not blank
     };
     /// Where a line begins.
     struct Place {
-        std::size_t offset = 0; // in the text
-        std::size_t number = 1; // of the line
+        std::size_t offset = 0; ///< in the text, in bytes
+        std::size_t number = 1; ///< of the line, from 1
     };
 
-    /// Moves to the next line that is no comment and not blank, at first to the first one. False behind the
+    /// Moves to the next line that is neither blank nor a comment, at first to the first one. False after the
     /// last.
     [[nodiscard]] bool Next();
 
-    /// Moves to the next header, closed or not, and passes everything else over: cheaper than to walk there.
+    /// Moves to the next header, closed or not, and skips everything else: faster than calling Next. False
+    /// after the last.
     [[nodiscard]] bool NextHeader();
 
     /// The number of the line, from 1.
     [[nodiscard]] std::size_t Number() const { return m_line.number; }
-    /// Where the line begins, to walk on from there later: IniStore::Lines.
+    /// Where the line begins, to continue from there later: IniStore::Lines.
     [[nodiscard]] Place Here() const { return m_line; }
+    /// What the line is.
     [[nodiscard]] bool Is(Kind kind) const { return m_kind == kind; }
     [[nodiscard]] Kind What() const { return m_kind; }
 
-    /// The line as it stands in the text, with its end.
+    /// The line unchanged, including its line end.
     [[nodiscard]] std::string_view Bytes() const {
         return m_text.substr(m_line.offset, m_next.offset - m_line.offset);
     }
-    /// The name in a header, or of a key; empty in other lines.
+    /// The name in a header, or of a key; empty for other lines.
     [[nodiscard]] std::wstring Name() const;
-    /// The same as its bytes stand in the text, UTF-8 or Latin-1.
+    /// The same as the bytes of the text, UTF-8 or Latin-1.
     [[nodiscard]] std::string_view NameBytes() const { return m_name; }
-    /// Whether Name() is `name`, which is ASCII, in any case of letters. Cheaper than to compare the texts.
+    /// Whether Name() is `name`, which is ASCII, ignoring case. Faster than comparing the texts.
     [[nodiscard]] bool HasName(std::string_view name) const;
-    /// The value of a key as it stands, in its quotes, but without the comment that may follow a number.
+    /// The value of a key unchanged, with its quotes, but without the comment that may follow a number.
     [[nodiscard]] std::wstring Value() const;
-    /// The value of a key as a whole number; nothing when it is none of 16 bits.
+    /// The value of a key as a whole number; nothing if it is not one, or not within 16 bits.
     [[nodiscard]] std::optional<std::int16_t> Integer() const;
 
 private:

@@ -17,167 +17,167 @@ namespace QuorIniFile {
 
 class IniFileSystem;
 
-/// The built-in INI-file component: it stands on the file of that name and changes nothing in it but the
+/// The built-in INI-file component. It works on the file with that name and changes nothing in it except the
 /// lines that are written.
 ///
-/// The file is loaded by the first read or write. A read from a file that does not exist is error 53; a write
-/// creates it, in a folder that must exist (76). A key that is missing, or whose value is not of the kind
-/// asked for, reads as False and leaves `value` as it was. All reads see one and the same text, with what was
-/// written through this object: that which was loaded, until a save finds that another program has changed
-/// it, or until Reload.
+/// The file is loaded by the first read or write. Reading from a file that does not exist raises 53; a write
+/// creates it, in a folder that must exist (76). Reading a key that is missing, or whose value is not of the
+/// requested type, returns False and leaves `value` unchanged. All reads see the same text, including what
+/// was written through this object: the text that was loaded, until a save finds that another program has
+/// changed the file, or until Reload.
 ///
 /// A write is durable when it returns. Between Hold and Release the writes are kept in memory; the outermost
-/// Release makes them durable together. A value that stands in the file already writes nothing. A save
-/// replaces the file as a whole, atomically, and one process at a time: it takes the lock, reads the file,
-/// and writes what we have written into the text that it finds. Success is told when the file is what was
-/// written, whatever others have done to the lock and to temporary files meanwhile. A save that fails raises
-/// and keeps the changes; the next write or Release tries again.
+/// Release makes them durable together. Writing a value that the file already has changes nothing. A save
+/// replaces the whole file, atomically, and one process at a time: it takes the lock, reads the file, and
+/// merges the written values into the text that it finds. It succeeds only if the file then is what was
+/// written, whatever other programs have done to the lock and to temporary files in the meantime. A save that
+/// fails raises and keeps the changes; the next write or Release tries again.
 ///
-/// A section that another program has removed or renamed in the file is added again by a save when each key
-/// that it had in the text that was loaded was written; when only a part of it was written the save, and
-/// Reload, raise 75. A file that was deleted or emptied gets whatever was written.
+/// A section that another program has removed from the file, or renamed, is added again by a save if every
+/// key that it had when it was loaded was written; if only some were, the save and Reload raise 75. A file
+/// that was deleted or emptied receives everything that was written.
 ///
-/// A value that another program has changed since it was read is overwritten by a write. A program that
-/// changes what it has read (a counter, one coefficient of a record) reads and writes inside Edit: no other
-/// process comes in between.
+/// A write overwrites a value that another program has changed since it was read. A program that changes what
+/// it has read (a counter, one coefficient of a record) reads and writes inside Edit, where no other process
+/// can interfere.
 ///
 /// A UTF-16 file with a byte-order mark, of either byte order, is edited like any other and stays UTF-16.
 ///
 /// Errors are QuorError with the source "QuorIniFile" and the file's name in the description: bad file name
-/// 52, device error 57, disk full 61, permission denied 70, path not found 76, anything else that cannot be
-/// read or written 75, among it UTF-16 text that is not valid or has no byte-order mark, and names that the
-/// file could not give back; why, for programs, in QuorError::Cause(). A file that another process has been
-/// saving for ten seconds is 70, "In use by" whom. A lack of memory is std::bad_alloc. After any of them the
-/// file is as it was or complete, and the object holds what it held before.
+/// 52, device error 57, disk full 61, permission denied 70, path not found 76, and 75 for anything else that
+/// cannot be read or written, such as UTF-16 text that is invalid or has no byte-order mark, and names that
+/// could not be read back from the file; QuorError::Cause() has the reason for programs. If another process
+/// has been saving the file for ten seconds, the error is 70, "In use by" that process. Lack of memory is
+/// std::bad_alloc. After any of them the file is either unchanged or complete, and the object holds what it
+/// held before.
 class QUORINIFILE_EXPORT IniStore final : public INIFile {
 public:
-    /// On the files of this computer.
+    /// A store on the files of this computer. SetFileName must follow before the first read or write (52).
     IniStore();
-    /// On other files, which must outlive the store: those of a test, which fail when they are told to.
+    /// A store on other files, which must outlive it: those of a test, which fail on demand.
     explicit IniStore(IniFileSystem& files);
     IniStore(const IniStore&) = delete;
     IniStore& operator=(const IniStore&) = delete;
-    /// Saves what is still held; failures are swallowed, so a caller that must know calls Release. What a
-    /// save has raised for is not tried again.
+    /// Saves what is still held, ignoring failures: a caller that must know calls Release. A save that has
+    /// raised is not tried again.
     ~IniStore() override;
 
-    /// Remembers the name; the file is not touched. A relative name means the file in what is the current
-    /// folder now, whatever becomes of that. An empty name, or one that no file can have, is error 52.
-    /// Pending changes of another file are saved first, even when held, unless a record among them was
-    /// abandoned. The same name changes nothing.
+    /// Stores the name; the file is not touched. A relative name refers to the current folder at the time of
+    /// the call. An empty name, or one that no file can have, raises 52. Pending changes of another file are
+    /// saved first, even if held, unless a record among them was abandoned. The same name changes nothing.
     void SetFileName(std::wstring_view fileName) override;
+    /// The name as it was set; empty at first.
     [[nodiscard]] std::wstring_view FileName() const;
-    /// Creates the folder of the file, and those above it, where they are missing. What is created is for the
-    /// user alone. Raises 52 without a file name, 76 where a file stands in the place of a folder, 70 or 75
-    /// where it is not possible for another reason.
+    /// Creates the folder of the file, and those above it, if they are missing, accessible to the user only.
+    /// Raises 52 without a file name, 76 if a file is in the place of a folder, 70 or 75 if it is impossible
+    /// for another reason.
     void MakeFolder();
-    /// Without a call the section without a name is selected.
+    /// The section without a name is selected at first.
     void SetSection(std::wstring_view section) override;
+    /// The selected section.
     [[nodiscard]] std::wstring_view Section() const;
 
     [[nodiscard]] bool ReadBoolean(std::wstring_view key, bool& value) override;
     [[nodiscard]] bool ReadDouble(std::wstring_view key, double& value) override;
     [[nodiscard]] bool ReadInteger(std::wstring_view key, std::int16_t& value) override;
     [[nodiscard]] bool ReadString(std::wstring_view key, std::wstring& value) override;
+    /// A comment is written after the value as " ; comment"; an empty one keeps the comment of the line.
     void WriteBoolean(std::wstring_view key, bool value) override;
-    /// A comment stands behind the value as " ; comment"; an empty one leaves that of the line as it is.
     void WriteDouble(std::wstring_view key, double value, std::wstring_view comment) override;
     void WriteInteger(std::wstring_view key, std::int16_t value, std::wstring_view comment) override;
     void WriteString(std::wstring_view key, std::wstring_view value) override;
 
-    /// Whether there is a text: a file, or what was written for one that is not there yet. Without one there
-    /// are no sections.
+    /// Whether there is a text: a file, or what was written for one that does not exist yet. Without a text
+    /// there are no sections.
     [[nodiscard]] bool HasText();
-    /// The text as it is now, with what was written: the bytes of the file, of a UTF-16 file the same text as
-    /// UTF-8. The view lives as long as what Lines returns. Raises 53 when there is no file.
+    /// The current text, including what was written: the bytes of the file, or of a UTF-16 file the same text
+    /// as UTF-8. The view is valid as long as what Lines returns. Raises 53 if there is no file.
     [[nodiscard]] std::string_view Text();
-    /// The names of all sections, in the order of the file with what was written; of a name that stands
-    /// several times the first. Raises 53 when there is no file.
+    /// The names of all sections, including those written, in the order of the file; a name that occurs
+    /// several times is listed once, in its first place. Raises 53 if there is no file.
     [[nodiscard]] std::vector<std::wstring> Sections();
-    /// Lines in which something may be wrong, such as a key that stands twice in its section, in their order.
-    /// They are lines of the text that was loaded or last saved: what is held does not count. Raises 53 when
-    /// there is no file.
+    /// Lines in which something may be wrong, such as a key that occurs twice in its section, in their order.
+    /// They refer to the text that was loaded or last saved, without what is held. Raises 53 if there is no
+    /// file.
     [[nodiscard]] std::vector<IniWarning> Warnings();
-    /// Whether a new section can have that name: no line break, no ']' that would end it, nothing that a file
-    /// could not give back.
+    /// Whether a new section can have that name: it has no line break, no ']', which would end it, and
+    /// nothing that could not be read back from a file.
     [[nodiscard]] static bool CanNameSection(std::wstring_view name);
-    /// Whether there is a section of that name, also one without keys. Raises 53 when there is no file.
+    /// Whether there is a section of that name, even one without keys. Raises 53 if there is no file.
     [[nodiscard]] bool HasSection(std::wstring_view name);
-    /// The lines of the text as it is now, with what was written, from a line on that an earlier walk through
-    /// the same text has passed. Raises 53 when there is no file.
+    /// The lines of the current text, including what was written, starting at a line that was visited earlier
+    /// in the same text (IniLines::Here). Raises 53 if there is no file.
     [[nodiscard]] IniLines Lines(const IniLines::Place& from = {});
-    /// Another number whenever the text may have become another one: something was written or discarded, or
-    /// the text of another program was loaded. For those who keep what Lines has told.
+    /// A number that changes whenever the text may have changed: something was written or discarded, or
+    /// another program's text was loaded. For callers that store results of Lines.
     [[nodiscard]] std::uint64_t TextNumber() const;
-    /// Removes a section with its header, the comments that touch the header from above, and its body down to
-    /// the last key and the comments that touch that one. Comments that stand apart stay, and so do those
-    /// that open the file. Later sections of that name, which nobody has read, go too. A section that is not
-    /// there needs no removal. One that is written into afterwards comes back in its old place.
+    /// Removes a section: its header, the comments directly above it, and its body down to the last key and
+    /// the comments directly below that. Comments set apart by a blank line stay, as do those at the start of
+    /// the file. Later sections of the same name, which are never read, are removed too. A section that does
+    /// not exist is no error. If it is written into afterwards, it returns to its old place.
     void RemoveSection(std::wstring_view name);
-    /// Rewrites the name in the header of a section and nothing else, and so for later sections of that name.
-    /// Raises 75 when there is no section `from`, when another section has the name `to`, and when the file
-    /// could not give that name back.
+    /// Rewrites the name in the header of a section and in those of later sections of that name, and nothing
+    /// else. Raises 75 if there is no section `from`, if another section is called `to`, or if that name
+    /// could not be read back from the file.
     void RenameSection(std::wstring_view from, std::wstring_view to);
-    /// Forgets what was written, removed and renamed and is not in the file yet: what was held, or what could
-    /// not be saved. The file is loaded anew when it is next needed.
+    /// Discards what was written, removed or renamed and is not in the file yet because it was held or could
+    /// not be saved. The file is loaded again when it is next needed.
     void Discard();
 
-    /// Calls `edit` under the lock between processes: it reads the file as it is then, through this store,
+    /// Calls `edit` while holding the inter-process lock: `edit` reads the current file through this store,
     /// and what it writes is saved together before Edit returns. No update of another process that saves
-    /// through a store, or edits, is lost. Where there is no file yet, reads raise 53 until something is
-    /// written.
+    /// through a store is lost. If there is no file yet, reads raise 53 until something is written.
     ///
-    /// The function is called again, upon the file as it is then, when a program that takes no lock has
-    /// changed the file meanwhile: it must be repeatable, with no effects but those on this store. Others
-    /// wait for the lock ten seconds at most, another store on the same file in this process too: it must be
-    /// short, and must not wait for a person. A child that it forks must not return from it.
+    /// If a program that takes no lock changes the file in the meantime, the function is called again on the
+    /// new text: it must be repeatable and affect nothing but this store. Other processes, and other stores
+    /// in this process, wait at most ten seconds for the lock: the function must be short and must not wait
+    /// for the user. A child process that it forks must not return from it.
     ///
-    /// When the function raises, its exception passes through; when the file cannot be saved, Edit raises
-    /// what a save raises. Either way nothing is saved, what the function wrote is forgotten, as by Discard,
-    /// and Edit can be called again. (As after every save, an error of the disk may come when the file is
-    /// complete and new but may not outlive a power cut.) A function that writes nothing, or what stands
-    /// there already, leaves the file alone. Changes that an earlier save has failed for are saved first.
+    /// If the function raises, its exception passes through; if the file cannot be saved, Edit raises what a
+    /// save raises. In both cases nothing is saved, what the function wrote is discarded, and Edit can be
+    /// called again. (As after every save, a disk error may be reported although the file is complete and
+    /// new, but may not survive a power failure.) A function that writes nothing, or only values that the
+    /// file already has, leaves the file alone. Changes from an earlier save that failed are saved first.
     ///
-    /// Between Hold and Release Edit raises 75 and does nothing. Inside an edit:
-    /// - Edit calls the function as a part of the outer edit, which saves. One that raises leaves nothing to
-    ///   be saved by the outer one.
-    /// - Hold and Release nest and save nothing; what is still held is saved with the rest. Abandon, also
+    /// Between Hold and Release, Edit raises 75 and does nothing. Inside an edit:
+    /// - A nested Edit is part of the outer one, which saves. If it raises, the outer one saves nothing.
+    /// - Hold and Release nest and save nothing; what is still held is saved with the rest. Abandon, even
     ///   without a Hold, makes the edit save nothing and raise 75 at its end, as Release does.
-    /// - The function begins with the section that was selected before, which is selected again afterwards.
-    /// - Discard forgets what the edit has written so far; Reload keeps it.
+    /// - The section that was selected before is selected at the start, and again afterwards.
+    /// - Discard discards what the edit has written so far; Reload keeps it.
     /// - SetFileName with another name raises 75.
     void Edit(const std::function<void()>& edit);
 
     void Hold() override;
-    /// Without a Hold it does nothing. Raises 75, and does as Discard does, when a bracket inside this one
-    /// was abandoned.
+    /// Without a Hold it does nothing. If a bracket inside this one was abandoned, discards everything and
+    /// raises 75.
     void Release() override;
-    /// Without a Hold it does nothing. That of the outermost bracket does as Discard does.
+    /// Without a Hold it does nothing. In the outermost bracket it is the same as Discard.
     void Abandon() override;
 
-    /// Whether the file holds another text now than the one that was loaded or last saved; that it has come
-    /// or gone counts too. Costs a look at the folder, or reading the file when it was touched. False as long
-    /// as nothing was loaded. Raises what loading would raise.
+    /// Whether the file now differs from what was loaded or last saved, or has appeared or disappeared. Looks
+    /// at the file's attributes, and reads the file only if they have changed. False if nothing was loaded
+    /// yet. Raises what loading would raise.
     [[nodiscard]] bool FileChanged();
-    /// Whether a save would be refused, because this user may not write the file or nothing can be put into
-    /// its folder. A symbolic link is followed.
+    /// Whether a save would be refused because the user has no permission to write the file or to create
+    /// files in its folder. Follows symbolic links.
     [[nodiscard]] bool IsReadOnly() const;
-    /// Whether a save to `fileName` would be a save of the own file, whichever links lead there.
-    /// Raises when the system does not tell.
+    /// Whether `fileName` is this store's own file, also through links. Raises QuorError if the system cannot
+    /// say.
     [[nodiscard]] bool IsOwnFile(std::wstring_view fileName) const;
-    /// What saves of the file have left beside it, as paths from where the name of the file starts. Of
-    /// interrupted saves nothing as long as a save is under way, or where nobody can tell (a file system
-    /// without locks, a lock file that only another user may open).
+    /// What saves of the file have left beside it; the paths are relative if the file's name is. Leftovers of
+    /// interrupted saves are not listed while a save is under way, or if that cannot be determined (a file
+    /// system without locks, a lock file that only another user may open).
     [[nodiscard]] std::vector<IniLeftover> Leftovers() const;
-    /// Gives another file the text as it is now, with what was written, in place of whatever stands there: in
-    /// the same encoding, durably and at once, as a save does it, and through symbolic links. This object
-    /// stays with its own file, and what was held for that stays held. Raises 53 when there is no text, and
-    /// what a save raises; the other file is as it was, then. The own file is saved as ever, be it held or
-    /// not; where it is gone it gets the whole text. Raises 75 inside an edit, which saves by itself, and
-    /// when a bracket was abandoned.
+    /// Replaces another file with the current text, including what was written: in the same encoding, durably
+    /// and atomically like a save, and through symbolic links. This object keeps its own file, and what is
+    /// held for that stays held. Raises 53 if there is no text, and what a save raises; the other file is
+    /// then unchanged. If `fileName` is the own file, it is saved as usual, held or not; if that file was
+    /// deleted, it receives the whole text. Raises 75 inside an edit, which saves by itself, and if a bracket
+    /// was abandoned.
     void SaveAs(std::wstring_view fileName);
-    /// Loads the file as it is now. What was written and not saved stays, upon the new text. On an error the
-    /// object is as before. Before the first read or write there is nothing to load anew.
+    /// Loads the current file. What was written and not yet saved is kept and applied to the new text. On an
+    /// error the object is unchanged. Before the first read or write it does nothing.
     void Reload();
 
 private:

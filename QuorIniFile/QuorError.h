@@ -10,9 +10,8 @@
 
 namespace QuorIniFile {
 
-/// Numbers of the errors that the three libraries raise. They leave the process in error reports, so a number
-/// keeps its meaning for ever; new ones are only added. (Not ERROR_...: system headers have macros of such
-/// names.)
+/// Numbers of the errors that the libraries raise. They appear in error reports, so a number never changes
+/// its meaning; new ones are only added. (Not ERROR_...: system headers have macros with such names.)
 enum EErrorNumber : std::int32_t {
     ERR_OVERFLOW = 6,
     ERR_OUT_OF_MEMORY = 7,
@@ -31,27 +30,33 @@ enum EErrorNumber : std::int32_t {
     ERR_UNEXPECTED = -2147467259,         // 0x80004005, any exception that carries no number of its own
 };
 
-/// The one exception of the libraries. It carries what an error report prints: number, source (the class or
-/// component that raised it), description, and optionally a help file with a topic. An error of the INI-file
-/// store, and of the registry that stands on it, also carries its cause.
+/// The one exception class of the libraries, with what an error report prints: number, source, description,
+/// and optionally a help file with a topic. An error of the INI-file store, or of the registry built on it,
+/// also has a cause.
 class QUORINIFILE_EXPORT QuorError : public std::exception {
 public:
+    /// `number` is an EErrorNumber or a number of the host's own, not 0; `source` is the class or component
+    /// that raises it. `description` names the file, if there is one.
     QuorError(std::int32_t number, std::wstring source, std::wstring description, std::wstring helpFile = {},
               std::int32_t helpContext = 0);
     QuorError(std::int32_t number, std::wstring source, std::wstring description, IniCause cause);
 
+    /// By which programs distinguish errors: an EErrorNumber, or a number of the host's own.
     [[nodiscard]] std::int32_t Number() const noexcept { return m_number; }
+    /// The class or component that raised it, such as "CQuorCVD" or "QuorIniFile".
     [[nodiscard]] const std::wstring& Source() const noexcept { return m_source; }
+    /// What went wrong; names of files, sections and keys are unchanged (see what()).
     [[nodiscard]] const std::wstring& Description() const noexcept { return m_description; }
+    /// The help file and the topic in it that explain the error; empty and 0 if there is none.
     [[nodiscard]] const std::wstring& HelpFile() const noexcept { return m_helpFile; }
     [[nodiscard]] std::int32_t HelpContext() const noexcept { return m_helpContext; }
-    /// What the description says, for programs; null for an error that neither the store nor
-    /// the registry that stands on it has raised.
+    /// The reason in a form for programs; null for an error that was raised neither by the store nor by the
+    /// registry built on it.
     [[nodiscard]] const IniCause* Cause() const noexcept { return m_cause ? &*m_cause : nullptr; }
 
-    /// The description as UTF-8, for hosts that catch std::exception. It is what a window shows as plain
-    /// text: names of files, sections and keys stand in it as they are, control characters included. Whoever
-    /// prints it on a terminal or in a log prints ToPrintable(Description()) instead (Utf8.h).
+    /// The description as UTF-8, for hosts that catch std::exception. It may be shown in a window as plain
+    /// text: names of files, sections and keys are unchanged, control characters included. On a terminal or
+    /// in a log, print ToPrintable(Description()) instead (Utf8.h).
     [[nodiscard]] const char* what() const noexcept override { return m_what.c_str(); }
 
 private:

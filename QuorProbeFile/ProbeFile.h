@@ -26,172 +26,173 @@ class LinePlaces;
 class RecordReading;
 struct ProbeMove;
 
-/// What came of reading a probe. Nothing is wrong when there are neither problems nor messages.
+/// The result of reading a probe.
 struct ReadOutcome {
-    ProbeEntry probe; ///< that was read, of the type that it was read as
-    /// What is missing, unreadable or refused, key by key, in the order in which the keys were looked for.
+    ProbeEntry probe; ///< the probe that was read, with the type that was used
+    /// What is missing, unreadable or refused, key by key, in the order in which the keys were read.
     std::vector<ProbeProblem> problems;
-    /// What the library has said about that, in its words, each on one line.
+    /// The messages of the library about that, each on one line.
     std::vector<std::wstring> messages;
-    /// For WriteChanges.
+    /// What WriteChanges needs.
     RecordAsRead record;
+    /// Whether the probe was read completely: there are neither problems nor messages.
     [[nodiscard]] bool IsWhole() const { return problems.empty() && messages.empty(); }
 };
 
-/// A probe that is to be written: the section of its record, and its conversion, which lives until it is
-/// written: no temporary can be given.
+/// A probe to be written.
 struct ProbeToWrite {
-    std::wstring section;
+    std::wstring section; ///< of its record
+    /// Its conversion, which must exist until it is written: a temporary is not accepted.
     std::reference_wrapper<const QuorConversions::CQuorConversion> conversion;
 };
 
-/// The probes of a host's file, or the one of a stand-alone settings file ("prt-1188.cvd"): what is there,
-/// read, written, renamed, removed, copied, checked.
+/// The probes of a host's file, or the one of a stand-alone settings file ("prt-1188.cvd"): list, read,
+/// write, rename, remove, copy and check them.
 ///
-/// What is written is durable when the call returns, and every call that writes does so in one turn, under
-/// the lock between processes, upon the file as it is then: nothing that another program has saved meanwhile
-/// is lost, and of a call that fails nothing is written. All reads see one and the same text, that which was
-/// loaded first or saved last, until Reload; Changed tells whether another program has written since.
+/// What is written is durable when the call returns. Every call that writes holds the inter-process lock and
+/// works on the current file: nothing that another program has saved in the meantime is lost, and a call that
+/// fails writes nothing. All reads see the same text, the one that was loaded first or saved last, until
+/// Reload; Changed is True if another program has written since.
 ///
-/// Names of sections are the same in any case of ASCII letters. Where a section stands twice the first one
-/// counts. A section is a probe's record when it has the key "ConversionType", and in a stand-alone settings
-/// file when it has the name that its type gives it. Calls that only read leave the section that is selected
-/// in Store() as it is.
+/// Names of sections ignore the case of ASCII letters. If a section occurs twice, the first one counts. A
+/// section is the record of a probe if it has the key "ConversionType", and in a stand-alone settings file if
+/// it has the name that belongs to its type. Calls that only read keep the section that is selected in
+/// Store().
 ///
-/// What cannot be done with a probe is raised as ProbeFileError, failures of the file as the QuorError of the
-/// store (IniStore.h): the file itself, its folder, the disk. A lack of memory is std::bad_alloc.
+/// An operation that is not possible raises ProbeFileError; failures of the file, its folder or the disk
+/// raise the QuorError of the store (IniStore.h). Lack of memory is std::bad_alloc.
 class QUORPROBEFILE_EXPORT ProbeFile {
 public:
-    /// How a file is opened that may not be there.
+    /// Whether the file must exist.
     enum class Opening : std::uint8_t {
-        Existing, ///< raises 53 when there is no file
-        OrNew,    ///< a file that is not there has no probes, and is created by the first one that is written
+        Existing, ///< raises 53 if there is no file
+        OrNew,    ///< a file that does not exist has no probes, and is created by the first write
     };
 
-    /// Loads the file. Raises QuorError when it cannot be read.
+    /// Loads the file. Raises QuorError if it cannot be read.
     explicit ProbeFile(std::wstring_view path, Opening opening = Opening::Existing);
-    /// The same on other files, which must outlive this object: those of a test.
+    /// The same on other files, such as those of a test, which must outlive this object.
     ProbeFile(std::wstring_view path, QuorIniFile::IniFileSystem& files, Opening opening = Opening::Existing);
     ProbeFile(const ProbeFile&) = delete;
     ProbeFile& operator=(const ProbeFile&) = delete;
     ~ProbeFile();
 
-    /// The path as it was given.
+    /// The path that the constructor received.
     [[nodiscard]] const std::wstring& Path() const { return m_path; }
-    /// Whether a write would be refused, because this user may not write the file or its folder.
+    /// Whether a write would be refused because the user has no permission to write the file or its folder.
     [[nodiscard]] bool IsReadOnly() const { return m_store->IsReadOnly(); }
 
-    /// Whether there is a file, or something was written for one that is not there yet.
+    /// Whether there is a file, or something was written for one that does not exist yet.
     [[nodiscard]] bool Exists() { return m_store->HasText(); }
-    /// The names of all sections, those of the host among them, in the order of the file; none without one.
+    /// The names of all sections, including those of the host, in the order of the file; none without a file.
     [[nodiscard]] std::vector<std::wstring> Sections();
-    /// The text of the file as reads see it (IniStore::Text); empty without one. The view lives until the
-    /// next call that writes or reloads.
+    /// The text of the file as reads see it (IniStore::Text); empty without a file. The view is valid until
+    /// the next call that writes or reloads.
     [[nodiscard]] std::string_view Text();
 
-    /// The probes, in the order of the file. The reference lives until the next call that writes or reloads.
+    /// The probes, in the order of the file. The reference is valid until the next call that writes or
+    /// reloads.
     [[nodiscard]] const std::vector<ProbeEntry>& Probes();
-    /// The probe of that section; nothing when there is none.
+    /// The probe in that section; nothing if there is none.
     [[nodiscard]] std::optional<ProbeEntry> Find(std::wstring_view section);
-    /// The name of a probe's conversion: its settings' own ("TC Type K"), or that of its type where it has
-    /// none; empty where the type cannot be read.
+    /// The name of a probe's conversion: that of its settings ("TC Type K"), or of its type if it has none;
+    /// empty if the type cannot be read.
     [[nodiscard]] std::wstring ConversionName(const ProbeEntry& probe);
-    /// The lines of headers without a "]" above what would be the record of a probe: nobody can read it. It
+    /// The lines of headers without a "]" above what would be the record of a probe. It cannot be read, and
     /// stays in the file.
     [[nodiscard]] const std::vector<std::size_t>& LostSections();
-    /// The sections that stand twice, with the line of the one that is read.
+    /// The sections that occur twice, with the line of the one that is read.
     [[nodiscard]] std::vector<QuorIniFile::IniWarning> DuplicateSections();
 
-    /// Reads the probe of a section into `conversion`, which becomes one of its type. What is missing or
-    /// unreadable has the default value of the type then, never one that the conversion held before, and is
-    /// told, key by key; nothing of it is shown to the user. Changed of the conversion is False afterwards:
-    /// what was read is no change.
+    /// Reads the probe in a section into `conversion`, which receives its type. Values that are missing or
+    /// unreadable get the defaults of the type, never what the conversion held before, and are returned as
+    /// problems, key by key; the user sees no messages. Afterwards Changed of the conversion is False:
+    /// reading is not a change.
     ///
-    /// A type that is the code of no conversion is told as a problem, and the conversion gets that type,
-    /// which has no settings.
+    /// A type that is not the code of a conversion is returned as a problem, and the conversion receives that
+    /// type, which has no settings.
     ///
-    /// Raises PROBE_NO_SUCH_SECTION, PROBE_NO_RECORD and PROBE_TYPE_UNREADABLE, and leaves the conversion as
-    /// it was.
+    /// Raises PROBE_NO_SUCH_SECTION, PROBE_NO_RECORD and PROBE_TYPE_UNREADABLE, and leaves the conversion
+    /// unchanged.
     [[nodiscard]] ReadOutcome Read(std::wstring_view section, QuorConversions::CQuorConversion& conversion);
 
-    /// All that is wrong with the probes of the file, and with the file around them: what is missing or
-    /// cannot be read, what the settings objects refuse or take for another value, what stands twice, what no
-    /// record holds, and what saves have left beside the file; and warnings of values that can be read and
-    /// hardly be meant (ProbeProblem::IsWarning). In the order of the lines; what stands beside the file
-    /// comes last. Each section that is missing is told once.
+    /// Everything that is wrong with the probes of the file, and with the file itself: what is missing or
+    /// cannot be read, what the settings objects refuse or replace, duplicates, unknown keys, and what saves
+    /// have left beside the file; and warnings about values that are readable but implausible
+    /// (ProbeProblem::IsWarning). In the order of the lines, files beside it last. Each missing section is
+    /// listed once.
     [[nodiscard]] std::vector<ProbeProblem> Check();
 
-    /// Whether a file gives back what the conversion holds. Not so with a count below zero, with settings
-    /// that are no more of the conversion's type (a thermistor of the other direction), and with whatever
-    /// else a read refuses or replaces. Raises what the conversion raises when it is written.
+    /// Whether a file gives back what the conversion holds. It does not for a count below zero, for settings
+    /// that no longer belong to the conversion's type (a thermistor of the other direction), and for anything
+    /// else that reading refuses or replaces. Raises what the conversion raises when it is written.
     [[nodiscard]] static bool IsConsistent(const QuorConversions::CQuorConversion& conversion);
 
-    /// Writes a probe into a section, which is added when it is not there. Of a probe that stands there only
-    /// the lines of values that differ change; when that one is of another type, or of one that cannot be
-    /// read, its settings go first.
+    /// Writes a probe into a section, which is added if it does not exist. If a probe is already there, only
+    /// the lines of values that differ change; if it has another type, or one that cannot be read, its
+    /// settings are removed first.
     ///
-    /// Raises PROBE_SECTION_OF_HOST for a section that is there and is no record, PROBE_BAD_NAME,
-    /// PROBE_NAME_OF_SETTINGS and PROBE_SETTINGS_ARE_TAKEN for a new one - the last also for one of a type
-    /// without settings that gets another type -, PROBE_DOES_NOT_FIT_FILE, PROBE_SECTION_IS_SHARED,
-    /// PROBE_CANNOT_BE_WRITTEN when the conversion itself refuses it, and PROBE_INCONSISTENT when
-    /// IsConsistent does. Changed of the conversion stays as it is.
+    /// Raises PROBE_SECTION_OF_HOST for an existing section that is not a record; for a new one
+    /// PROBE_BAD_NAME, PROBE_NAME_OF_SETTINGS and PROBE_SETTINGS_ARE_TAKEN, the last also if a probe without
+    /// settings receives a type with settings; PROBE_DOES_NOT_FIT_FILE, PROBE_SECTION_IS_SHARED,
+    /// PROBE_CANNOT_BE_WRITTEN if the conversion itself refuses, and PROBE_INCONSISTENT if IsConsistent is
+    /// false. Changed of the conversion is not affected.
     void Write(std::wstring_view section, const QuorConversions::CQuorConversion& conversion);
-    /// Writes many, durable together: all of them, or none. Stops at the first one that cannot be written,
-    /// with the error that Write of it alone raises, which names its section; nothing is told of those behind
-    /// it. Raises PROBE_NAME_IS_TAKEN when two of them have one section.
+    /// Writes several probes: all of them, or none. Stops at the first one that cannot be written, with the
+    /// error that writing it alone would raise, which names its section; later ones are not examined. Raises
+    /// PROBE_NAME_IS_TAKEN if two of them have the same section.
     void Write(const std::vector<ProbeToWrite>& probes);
 
-    /// Writes of a probe the keys that have got other values since `record` was read - from this object, or
-    /// another one on the same file - and nothing else: what other programs have written about it meanwhile
-    /// stays, and so do keys that are missing or cannot be read, as long as the conversion holds what Read
-    /// has given it for them. Keys that they have changed too, to other values, are returned, and nothing is
-    /// written then.
+    /// Writes only those values of a probe that have changed since `record` was read from this object, or
+    /// from another one on the same file. What other programs have written in the meantime is kept, and so
+    /// are keys that are missing or cannot be read, as long as the conversion holds what Read has set for
+    /// them. If other programs have changed some of the same keys to other values, these are returned and
+    /// nothing is written.
     ///
-    /// What was written is a part of `record` afterwards, so that the same two can be given again and again,
-    /// after each change of the conversion. What others have written is not: the conversion does not hold it.
-    /// `record` stays as it is when nothing was written. `section` is another one than that of `record` where
-    /// the probe has got another name since.
+    /// Afterwards `record` includes what was written, so that the same two can be passed again after each
+    /// change of the conversion. It does not include what others have written: the conversion does not hold
+    /// that. If nothing was written, `record` is unchanged. `section` differs from the section of `record` if
+    /// the probe was renamed since.
     ///
-    /// Raises PROBE_NO_RECORD for a record of no probe, PROBE_OF_ANOTHER_TYPE when the conversion is of
-    /// another type than the record, which only Write can replace, PROBE_CANNOT_BE_WRITTEN and
-    /// PROBE_INCONSISTENT.
+    /// Raises PROBE_NO_RECORD for a record of no probe, PROBE_OF_ANOTHER_TYPE if the conversion has another
+    /// type than the record, which only Write can replace, PROBE_CANNOT_BE_WRITTEN and PROBE_INCONSISTENT.
     [[nodiscard]] std::vector<RecordConflict> WriteChanges(std::wstring_view section,
                                                            const QuorConversions::CQuorConversion& conversion,
                                                            RecordAsRead& record);
-    /// The record of a probe as it stands in the file, for WriteChanges of a conversion that Write has
-    /// written there. Raises as Read does.
+    /// The record of a probe as it is in the file, for WriteChanges of a conversion that Write has written
+    /// there. Raises what Read raises.
     [[nodiscard]] RecordAsRead Record(std::wstring_view section);
 
-    /// Gives a probe another name, and so the sections of its settings. The same in another case of letters
-    /// is another name, too. Raises as Read and Write do, and PROBE_NAME_IS_TAKEN; the record of a
-    /// stand-alone settings file keeps its name, and no other probe gets that (PROBE_DOES_NOT_FIT_FILE).
+    /// Renames a probe and the sections of its settings. `name` may differ only in case. Raises what Read and
+    /// Write raise, and PROBE_NAME_IS_TAKEN; the record of a stand-alone settings file cannot be renamed, and
+    /// no other probe can receive its name (PROBE_DOES_NOT_FIT_FILE).
     void Rename(std::wstring_view section, std::wstring_view name);
-    /// Removes a probe with the sections of its settings, or those that are nested in a stand-alone one. What
-    /// is called like the settings of a probe whose type has none belongs to the host and stays.
-    /// Comments that stand apart stay. Raises PROBE_NO_SUCH_SECTION, PROBE_NO_RECORD and
+    /// Removes a probe with the sections of its settings, or those nested in a stand-alone one. A section
+    /// that is named like settings, of a probe whose type has none, belongs to the host and stays. Comments
+    /// set apart by a blank line stay. Raises PROBE_NO_SUCH_SECTION, PROBE_NO_RECORD and
     /// PROBE_SECTION_IS_SHARED.
     void Remove(std::wstring_view section);
-    /// Writes the values of a probe into another section of this file, or of a probe of another file, as it
-    /// was loaded. Into a new one, or over a probe of the same type; PROBE_OF_ANOTHER_TYPE for any other
-    /// one. Raises PROBE_INCOMPLETE for a record that cannot be read wholly, PROBE_UNKNOWN_TYPE for one whose
-    /// type is the code of no conversion, and what Read and Write raise.
+    /// Copies the values of a probe of this file, or of another file as it was loaded, into the section
+    /// `toSection`, which is new or has a probe of the same type; otherwise raises PROBE_OF_ANOTHER_TYPE.
+    /// Raises PROBE_INCOMPLETE for a record that cannot be read completely, PROBE_UNKNOWN_TYPE for one whose
+    /// type is not the code of a conversion, and what Read and Write raise.
     void Copy(std::wstring_view section, std::wstring_view toSection);
     void CopyFrom(ProbeFile& source, std::wstring_view section, std::wstring_view toSection);
 
-    /// Does several of these in one turn under the lock, and saves them together: no other program comes in
-    /// between what `edit` reads and what it writes. What it raises passes through, and nothing is saved
-    /// then. It may be called again, upon the file as it is then: IniStore::Edit has the details.
+    /// Calls `edit` while holding the inter-process lock, and saves everything that it writes together: no
+    /// other program can write between its reads and its writes. If it raises, the exception passes through
+    /// and nothing is saved. It may be called again on a newer text: see IniStore::Edit.
     void Edit(const std::function<void()>& edit);
 
-    /// Gives another file the text of this one as it was loaded or saved last, in place of what stands there.
-    /// This object stays with its own file.
+    /// Replaces another file with the text of this one as it was last loaded or saved. This object keeps its
+    /// own file. Raises as IniStore::SaveAs does.
     void SaveAs(std::wstring_view path) { m_store->SaveAs(path); }
-    /// Whether another program has changed the file since it was loaded or saved, or has removed it.
+    /// Whether another program has changed or deleted the file since it was loaded or saved.
     [[nodiscard]] bool Changed() { return m_store->FileChanged(); }
-    /// Loads the file as it is now.
+    /// Loads the current file.
     void Reload() { m_store->Reload(); }
 
-    /// The store that this object stands on, for those who read and write other sections of the file too.
+    /// The underlying store, for hosts that also read and write other sections of the file.
     [[nodiscard]] const std::shared_ptr<QuorIniFile::IniStore>& Store() const { return m_store; }
 
 private:

@@ -10,26 +10,29 @@
 
 namespace QuorProbeFile {
 
-/// Passes everything on to another INI-file object and remembers what was read through it, so that a
-/// host learns from the library itself which keys a record consists of.
+/// Passes everything on to another INI-file object and records what was read through it, so that a host
+/// learns from the library itself which keys a record consists of.
 class ReadLog final : public QuorIniFile::INIFile {
 public:
-    /// One read: where, and what it found.
+    /// One read.
     struct Read {
-        std::wstring section;
-        std::wstring key;
-        Value value; ///< what the variable held afterwards; of its kind also when nothing was found
-        bool found;
+        std::wstring section; ///< the section that was selected
+        std::wstring key;     ///< the key that was read
+        Value value; ///< what the variable held afterwards; has the right type even if nothing was found
+        bool found;  ///< whether the key was found with a value of that type
     };
 
+    /// Records the reads of `store`, which is not null.
     explicit ReadLog(std::shared_ptr<QuorIniFile::INIFile> store) : m_store(std::move(store)) {
         constexpr std::size_t mostRecords = 16; // have no more keys
         m_reads.reserve(mostRecords);
     }
 
+    /// All reads so far, in their order.
     [[nodiscard]] const std::vector<Read>& Reads() const { return m_reads; }
-    /// How many reads there had been when a message was shown, and so on: a place in Reads().
+    /// How many reads there are: a position in Reads() that can be remembered.
     [[nodiscard]] std::size_t Count() const { return m_reads.size(); }
+    /// Forgets all reads.
     void Forget() { m_reads.clear(); }
 
     void SetFileName(std::wstring_view fileName) override { m_store->SetFileName(fileName); }

@@ -13,15 +13,15 @@
 
 namespace QuorProbeFile {
 
-/// A settings record in memory: what the library writes, in its order and with its kinds, so that a
-/// host knows the keys of no class. It can be read back into an object; a key that it does not hold counts
-/// as found and leaves the object's own value.
+/// A settings record in memory: what the library writes, in that order and with its types, so that a host
+/// need not know the keys of any class. It can be read back into an object; a key that it does not have
+/// counts as found and leaves the object's value unchanged.
 class QUORPROBEFILE_EXPORT RecordImage final : public QuorIniFile::INIFile {
 public:
     /// A key of the record with its value.
     struct Entry {
-        std::wstring path; ///< the key; behind "High Range/" or the like in a nested record
-        Value value;
+        std::wstring path; ///< the key, with "High Range/" or the like before it in a nested record
+        Value value;       ///< its value
     };
 
     /// All values of `settings`, without "Version".
@@ -31,8 +31,9 @@ public:
     /// Whether two images have the same values under the same paths, in the same order.
     [[nodiscard]] static bool Same(const RecordImage& a, const RecordImage& b);
 
+    /// All keys, in the order of the record.
     [[nodiscard]] const std::vector<Entry>& Entries() const { return m_entries; }
-    /// The entry of a path, in any ASCII case; null when there is none.
+    /// The entry with that path, ignoring case; null if there is none.
     [[nodiscard]] Entry* Find(std::wstring_view path);
 
     void SetFileName(std::wstring_view fileName) override;

@@ -12,54 +12,52 @@
 
 namespace QuorProbeFile {
 
-/// A key that another program has changed in the file since the record was read, and that we are to change to
-/// another value; or have changed the meaning of, or that changes the meaning of what we have changed. A
-/// value that is missing was not there, or is gone; text stands for one that cannot be read as a value of its
-/// kind.
+/// A key that both sides have changed since the record was read, to different values; or that one side has
+/// changed while the other has changed its meaning. Text represents a value that cannot be read as its type.
 struct RecordConflict {
-    std::wstring section;
-    std::wstring key;
-    std::optional<Value> read;
-    std::optional<Value> theirs;
-    Value ours;
+    std::wstring section;        ///< the section in the file
+    std::wstring key;            ///< the key
+    std::optional<Value> read;   ///< what was read; nothing if the key was missing
+    std::optional<Value> theirs; ///< what the file has now; nothing if the key is gone
+    Value ours;                  ///< what should be written
 
-    /// Whether the same stands against the same. (A NaN counts as another one: the user is asked again.)
+    /// Whether all fields are equal. (NaN differs from NaN: the user is asked again.)
     friend bool operator==(const RecordConflict&, const RecordConflict&) = default;
 };
 
-/// The changes of a record since it was read, to be merged into the file as it is now, which other programs
-/// may have changed as well.
+/// The changes of a record since it was read, to be merged into the current file, which other programs may
+/// have changed too.
 ///
-/// A settings object or facade is written to it as to a file. That takes the changes down: the keys whose
-/// value is another one than that which was read. Nothing is written before the host has looked at the
-/// conflicts and says so; all of it is done inside one edit of the store, so that the file stays as it is
-/// meanwhile. Reads read what the file holds now.
+/// A settings object or a conversion is written to it as to a file, which records the changes: the keys whose
+/// values differ from those that were read. The host then examines the conflicts and calls WriteChanges,
+/// inside the same edit of the store, so that the file cannot change in between. Reads read the current file.
 ///
-/// "Version" is no value of the record: it never makes a conflict, and is written along with a change, where
-/// it was missing or another one and nobody has changed it.
+/// "Version" is not a value of the record: it never causes a conflict, and is written together with a change
+/// if it was missing or different and nobody has changed it.
 class QUORPROBEFILE_EXPORT RecordMerge final : public QuorIniFile::INIFile {
 public:
-    /// The record was read from `before`, which still gives what it gave then, and stood there in the section
-    /// `sectionBefore`; now it stands in `section` of `file`. Both may be the same object.
+    /// The record was read from the section `sectionBefore` of `before`, which still has what it had then;
+    /// now it is in the section `section` of `file`. Both may be the same object.
     ///
-    /// `asRead` gives, in the sections of `before`, the values that an object holds that has read the record
-    /// from there: defaults for the keys that are missing or cannot be read. A value that is still the same
-    /// is no change. Null: such keys are written.
+    /// `asRead` has, in the sections of `before`, the values of an object that has read the record from
+    /// there, including the defaults of keys that are missing or cannot be read. A value that is still the
+    /// same is not a change. If it is null, such keys are written.
     RecordMerge(std::shared_ptr<QuorIniFile::INIFile> before, std::wstring sectionBefore,
                 std::shared_ptr<QuorIniFile::INIFile> file, std::wstring section,
                 std::shared_ptr<QuorIniFile::INIFile> asRead = nullptr);
 
-    /// The changes that cannot be merged. Another conversion type than was read makes every change one. So
-    /// does a key that says what others beside it mean (a count, a scale, a range, "UsePolynomial", "TCType")
-    /// for those: of them one side may not have changed one and the other side the other.
+    /// The changes that cannot be merged. If the conversion type differs from the one that was read, every
+    /// change is one. The same holds for keys that determine the meaning of others (a count, a scale, a
+    /// range, "UsePolynomial", "TCType"): one side must not change such a key and the other side those
+    /// others.
     [[nodiscard]] std::vector<RecordConflict> Conflicts() const;
-    /// Whether the record has lost its conversion type, or has another one than was read. Its keys are not
-    /// those that we know, then.
+    /// Whether the record has lost its conversion type or has another one than was read. Its keys are then
+    /// different ones.
     [[nodiscard]] bool HasAnotherType() const;
 
-    /// Writes the changes; where there are none, nothing.
+    /// Writes the changes, if there are any. Raises what the file raises.
     void WriteChanges();
-    /// Writes the changes, and again what others have removed of the record, and what conflicts.
+    /// Writes the changes, including conflicting ones, and what others have removed from the record.
     void WriteChangesAndRemoved();
 
     void SetFileName(std::wstring_view /*fileName*/) override {}

@@ -11,30 +11,31 @@
 
 namespace QuorProbeFile {
 
-/// The sections of a file, to ask for many names whether a new probe can have them: nobody may read what is
-/// written of it as another's, nor the sections of others as its settings.
+/// The sections of a file, to check for many names whether a new probe can have them: what is written for it
+/// must not be read as part of another probe, nor other sections as its settings.
 class QUORPROBEFILE_EXPORT TakenNames {
 public:
     /// Why a new probe cannot have a name.
     struct Obstacle {
-        EProbeFileError code;
-        std::wstring other; ///< as ProbeFileError has it
+        EProbeFileError code; ///< the reason
+        std::wstring other;   ///< as ProbeFileError::Other
     };
 
-    /// Adds a section of the file, that of a probe or any other. One that goes, or moves, is not added.
+    /// Adds a section of the file, whether it belongs to a probe or not. Do not add one that is removed or
+    /// renamed.
     void Add(const std::wstring& section);
 
-    /// What keeps a new probe from getting that name:
-    /// - PROBE_BAD_NAME: no section can have it,
-    /// - PROBE_NAME_IS_TAKEN: it is that of a section,
-    /// - PROBE_NAME_OF_SETTINGS: it is that of settings of a probe, `other`, which `isProbe` tells from
-    /// others,
-    /// - PROBE_SETTINGS_ARE_TAKEN: a section, `other`, would be part of its settings.
-    /// Nothing when it can get it.
+    /// Why a new probe cannot have that name; nothing if it can:
+    /// - PROBE_BAD_NAME: a section cannot have it,
+    /// - PROBE_NAME_IS_TAKEN: a section has it,
+    /// - PROBE_NAME_OF_SETTINGS: it is that of settings of the probe `other`; `isProbe` is asked whether a
+    /// name is
+    ///   that of a probe,
+    /// - PROBE_SETTINGS_ARE_TAKEN: the section `other` would become part of its settings.
     [[nodiscard]] std::optional<Obstacle>
     ObstacleTo(std::wstring_view name, const std::function<bool(std::wstring_view)>& isProbe) const;
 
-    /// The section that is called like settings of that probe; nothing when there is none.
+    /// A section that is named like settings of that probe; nothing if there is none.
     [[nodiscard]] std::optional<std::wstring> SettingsOf(std::wstring_view probe) const;
 
 private:

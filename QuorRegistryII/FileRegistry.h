@@ -9,21 +9,23 @@
 namespace QuorRegistryII {
 
 /// The built-in registry: an INI file of the application, by default in the user's configuration folder.
-/// Each call looks at the file anew, so that all registries of an application agree.
+/// Each call reads the current file, so that all registries of an application agree.
 class QUORREGISTRYII_EXPORT FileRegistry final : public Registry {
 public:
-    /// Keeps the values in `folder` in a file named after `application`, with the extension "ini". Without a
-    /// folder: in the folder named after the application below $XDG_CONFIG_HOME (where that is an absolute
-    /// path) or else below $HOME/.config.
-    /// Raises 52 for a name that no file can have, and 76 when the user has no such folder.
+    /// Keeps the values in the file `application`.ini in `folder`. Without a folder: in the folder
+    /// `application` below $XDG_CONFIG_HOME (if that is an absolute path), otherwise below $HOME/.config.
+    /// Raises 52 for a name that no file can have, and 76 if the user has no such folder.
     explicit FileRegistry(std::wstring_view application, std::wstring_view folder = {});
 
+    /// The path of the file, which need not exist yet.
     [[nodiscard]] const std::wstring& FileName() const { return m_fileName; }
 
-    /// False also when there is no file yet. Raises QuorError when there is one that cannot be read.
+    /// As Registry::ReadValue; False also if there is no file yet. Raises QuorError if the file cannot be
+    /// read.
     [[nodiscard]] bool ReadValue(std::wstring_view section, std::wstring_view name,
                                  std::wstring& value) override;
-    /// Durable when it returns. Creates the file and, for the user alone, the folders that are missing.
+    /// As Registry::WriteValue; durable when it returns. Creates the file and the missing folders, the latter
+    /// accessible to the user only.
     void WriteValue(std::wstring_view section, std::wstring_view name, std::wstring_view value) override;
 
 private:

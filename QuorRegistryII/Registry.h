@@ -7,8 +7,8 @@
 
 namespace QuorRegistryII {
 
-/// Where a host keeps what belongs to the user rather than to a probe: named values in named sections.
-/// The conversions hold and pass it on; the dialogs keep their placement in it.
+/// Where a host stores what belongs to the user rather than to a probe: named values in named sections.
+/// The conversions hold it and pass it on; the dialogs store their positions in it.
 class QUORREGISTRYII_EXPORT Registry {
 public:
     Registry() = default;
@@ -16,11 +16,11 @@ public:
     Registry& operator=(const Registry&) = delete;
     virtual ~Registry();
 
-    /// Found: `value` receives what was written; returns true.
-    /// Not found: `value` keeps what it held; returns false.
+    /// Reads the value `name` of `section`. Found: `value` receives what was written; returns True.
+    /// Not found: `value` is unchanged; returns False. Raises QuorError if it cannot be read.
     [[nodiscard]] virtual bool ReadValue(std::wstring_view section, std::wstring_view name,
                                          std::wstring& value) = 0;
-    /// Keeps `value` for later runs. Raises QuorError when it cannot be kept.
+    /// Stores `value` as `name` in `section` for later runs. Raises QuorError if it cannot be stored.
     virtual void WriteValue(std::wstring_view section, std::wstring_view name, std::wstring_view value) = 0;
 };
 

@@ -12,7 +12,7 @@ namespace QuorConversions {
 
 class DialogInput;
 
-/// Follows what a dialog shows. One follows at a time.
+/// Is informed when a dialog changes. A dialog has one listener at a time.
 class QUORCONVERSIONS_EXPORT DialogListener {
 public:
     DialogListener() = default;
@@ -20,11 +20,13 @@ public:
     DialogListener& operator=(const DialogListener&) = delete;
     virtual ~DialogListener();
 
-    /// Text, caption, selection, items, tabs, enabled or visible state of a control may be another one now.
+    /// Text, caption, selection, items, tabs, enabled or visible state of a control may have changed.
     virtual void OnControlChanged(const Control& control) = 0;
+    /// Another control has the focus; null if none has.
     virtual void OnFocusMoved(const Control* focused) = 0;
+    /// Dialog::Title has changed.
     virtual void OnTitleChanged() = 0;
-    /// The dialog was hidden: the modal loop is to end.
+    /// The dialog was hidden: the modal loop must end.
     virtual void OnHidden() = 0;
 };
 
@@ -38,58 +40,65 @@ public:
 
     /// The name of the class of dialog: "frmCVDSettings".
     [[nodiscard]] const std::wstring& Name() const { return m_name; }
+    /// The title of the window, in the language of the string table.
     [[nodiscard]] const std::wstring& Title() const { return m_title; }
     void SetTitle(std::wstring value);
+    /// The context number of the dialog's help topic; 0 if it has none.
     [[nodiscard]] std::int32_t HelpContext() const { return m_helpContext; }
     void SetHelpContext(std::int32_t value) { m_helpContext = value; }
 
     /// All controls, in tab order.
     [[nodiscard]] const std::vector<std::unique_ptr<Control>>& Controls() const { return m_controls; }
-    /// The control of that name; null when there is none.
+    /// The control with that name; null if there is none.
     [[nodiscard]] Control* Find(std::wstring_view name) const;
     /// The frames and button groups of the dialog, from left to right.
     [[nodiscard]] const std::vector<const Frame*>& Columns() const { return m_columns; }
-    /// The button that the Escape key presses; null when there is none. No button answers the Enter key.
+    /// The button that the Escape key presses; null if there is none. No button responds to the Enter key.
     [[nodiscard]] const PushButton* CancelButton() const { return m_cancelButton; }
 
-    /// The boxes whose advice is to be shown: of those on the screen, which are marked, the one that has the
-    /// focus, when it has any, or else the first one; and all that are hidden, or on another page.
+    /// The boxes whose advice should be shown: of those on the screen, which are marked, the one with the
+    /// focus if it has advice, otherwise the first; and all that are hidden or on another page.
     [[nodiscard]] std::vector<const TextBox*> AdvisedBoxes() const;
-    /// The first of them; null when there is no advice.
+    /// The first of them; null if there is no advice.
     [[nodiscard]] const TextBox* AdvisedBox() const {
         const auto boxes = AdvisedBoxes();
         return boxes.empty() ? nullptr : boxes.front();
     }
 
-    /// The button that the F1 key presses; null when there is none.
+    /// The button that the F1 key presses; null if there is none.
     [[nodiscard]] const PushButton* HelpButton() const { return m_helpButton; }
 
-    /// Where the window stands, in the toolkit's units; nothing known at first. A toolkit keeps them up to
-    /// date.
+    /// The position of a window, in the toolkit's units.
     struct Placement {
-        std::int32_t left = 0;
-        std::int32_t top = 0;
+        std::int32_t left = 0; ///< of its left edge
+        std::int32_t top = 0;  ///< of its top edge
     };
+    /// Where the window is; nothing if not known, as at first. The toolkit keeps it up to date.
     [[nodiscard]] const std::optional<Placement>& Place() const { return m_place; }
     void SetPlace(std::optional<Placement> value) { m_place = value; }
     /// The handle of the window while it is shown; 0 otherwise. The toolkit sets it.
     [[nodiscard]] std::int32_t WindowHandle() const { return m_windowHandle; }
     void SetWindowHandle(std::int32_t value) { m_windowHandle = value; }
 
+    /// Whether the dialog is still open; False once it was hidden, and for good.
     [[nodiscard]] bool IsOpen() const { return m_open; }
-    /// The control that has the focus; null before the first one has got it.
+    /// The control that has the focus; null before the first one has received it.
     [[nodiscard]] Control* ActiveControl() const { return m_active; }
-    /// Moves the focus, with LostFocus and GotFocus. False, and nothing happens, when the control is hidden
+    /// Moves the focus, with LostFocus and GotFocus. Does nothing and returns False if the control is hidden
     /// or disabled or takes no focus.
     bool SetFocus(Control& control);
-    /// Moves the focus to the next control in tab order, as the Tab key does; backwards as with Shift.
+    /// Moves the focus to the next control in tab order, as the Tab key does; backwards as Shift+Tab does.
     void FocusNext(bool backwards = false);
 
+    /// Sets the listener, which must outlive the dialog or be replaced; null for none.
     void SetListener(DialogListener* listener) { m_listener = listener; }
 
 protected:
+    /// A dialog without controls; `name` is that of its class.
     explicit Dialog(std::wstring name) : m_name(std::move(name)) {}
 
+    /// Adds a control of the class T at the end of the tab order; with an index, as an element of a control
+    /// array.
     template <class T>
     T& Add(std::wstring name) {
         auto control = std::make_unique<T>(*this, std::move(name));
@@ -97,11 +106,12 @@ protected:
         m_controls.push_back(std::move(control));
         return added;
     }
+    /// Adds an element of a control array: its name is `name` with the index.
     template <class T>
     T& Add(std::wstring name, std::size_t index) {
         return Add<T>(std::move(name) + L"(" + std::to_wstring(index) + L")");
     }
-    /// A control array, indices from 0.
+    /// Adds a control array, indices from 0.
     template <class T>
     std::vector<T*> AddArray(const std::wstring& name, std::size_t count) {
         std::vector<T*> controls;
@@ -109,25 +119,29 @@ protected:
             controls.push_back(&Add<T>(name, index));
         return controls;
     }
+    /// Adds a frame or group of buttons to the right of the others.
     void AddColumn(const Frame& frame) { m_columns.push_back(&frame); }
+    /// Which button the Escape key presses, and which the F1 key.
     void SetCancelButton(const PushButton& button) { m_cancelButton = &button; }
     void SetHelpButton(const PushButton& button) { m_helpButton = &button; }
-    /// Ends the modal loop.
+    /// Closes the dialog, which ends the modal loop.
     void Hide();
-    /// What the dialog's own code hands to the toolkit that runs it.
+    /// By which the toolkit that runs the dialog reports what the user does.
     [[nodiscard]] DialogInput Input();
 
-    // What the events do. Activate comes each time the window becomes the active one.
+    /// The window has become the active one, for the first time or again.
     virtual void OnActivate() {}
+    /// A button was pressed, or an item or a tab was selected.
     virtual void OnClick(Control& /*control*/) {}
+    /// A control has received the focus.
     virtual void OnGotFocus(Control& /*control*/) {}
+    /// A control has lost the focus.
     virtual void OnLostFocus(Control& /*control*/) {}
-    /// `keyAscii` may be replaced; 0 swallows the key.
+    /// A key with a character code was pressed in a box. `keyAscii` may be replaced; 0 discards the key.
     virtual void OnKeyPress(TextBox& /*box*/, std::int16_t& /*keyAscii*/) {}
     /// The user has changed the text of a box.
     virtual void OnEdit(TextBox& /*box*/) {}
-    /// A text comes into a box from the clipboard, or is dropped on it: by itself, in the place of the
-    /// selection.
+    /// Text is pasted into a box or dropped on it. By default it replaces the selection.
     virtual void OnPaste(TextBox& box, const std::wstring& text) { box.ReplaceSelection(text); }
     /// The user closes the window by its frame.
     virtual void OnClose() { Hide(); }
@@ -154,33 +168,35 @@ private:
     DialogListener* m_listener = nullptr;
 };
 
-/// By which a toolkit reports what the user did. Only whoever runs a dialog gets one. What the user cannot do
-/// is refused quietly: a click on a disabled button, a key in a hidden box.
+/// By which a toolkit reports what the user did. Only the code that runs a dialog receives one. What the user
+/// cannot do is ignored: a click on a disabled button, a key in a hidden box.
 class QUORCONVERSIONS_EXPORT DialogInput {
 public:
     /// The window has become the active one. The first control in tab order gets the focus if none has it.
     void Activate();
-    /// A push button was pressed. It gets the focus first, as a mouse click gives it.
+    /// A push button was pressed. It receives the focus first, as from a mouse click.
     void Click(PushButton& button);
-    /// An item was chosen.
+    /// An item was chosen, from 0.
     void Choose(DropDownList& list, std::int32_t index);
+    /// A tab was chosen, from 0.
     void SelectTab(TabStrip& tabs, std::size_t tab);
+    /// The user moved the focus to a control.
     void Focus(Control& control);
+    /// The Tab key was pressed, with Shift if `backwards`.
     void Tab(bool backwards = false) { m_dialog.FocusNext(backwards); }
-    /// A key with a character code was pressed in the box that has the focus. Returns the key that counts:
-    /// another one, or 0 for none. The toolkit then does to the text what that key does, and reports it by
-    /// Edit.
+    /// A key with a character code was pressed in the box that has the focus. Returns the key to use instead,
+    /// or 0 for none. The toolkit then changes the text as that key does, and reports it by Edit.
     [[nodiscard]] std::int16_t KeyPress(std::int16_t keyAscii);
-    /// The text or the selection of a box is what the user has made it.
+    /// The user has changed the text or the selection of a box.
     void Edit(TextBox& box, std::wstring text, std::size_t selStart, std::size_t selLength);
-    /// A text is pasted into a box, or dropped on it, which gets the focus. The box decides what becomes of
-    /// it, and may fill the boxes behind it, too.
+    /// Text was pasted into a box or dropped on it; the box receives the focus. The dialog decides what is
+    /// inserted, and may fill the following boxes as well.
     void Paste(TextBox& box, const std::wstring& text);
-    /// The Escape key.
+    /// The Escape key was pressed.
     void Escape() { Press(m_dialog.CancelButton()); }
-    /// The F1 key.
+    /// The F1 key was pressed.
     void Help() { Press(m_dialog.HelpButton()); }
-    /// The window's own close box.
+    /// The user closed the window by its frame.
     void Close();
 
 private:

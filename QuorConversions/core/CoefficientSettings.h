@@ -11,8 +11,8 @@
 
 namespace QuorConversions {
 
-/// A settings class that is essentially a list of coefficients with a count. Its members are published by the
-/// classes that have them.
+/// A settings class that is essentially a list of coefficients with a count. Derived classes publish those of
+/// its members that they have.
 class QUORCONVERSIONS_EXPORT CoefficientSettings : public SettingsObject {
 protected:
     /// For a class whose indices are limited by its count alone.
@@ -22,22 +22,24 @@ protected:
     CoefficientSettings(std::shared_ptr<Platform> platform, const SettingsTraits& traits,
                         std::int32_t highestIndex);
 
+    /// How many coefficients there are; valid indices are below it.
     [[nodiscard]] std::int16_t NumCoefficients() const { return m_slots.Count(); }
-    /// Marks the object changed and resizes when the count differs. Raises 9 "Subscript out of range" for a
-    /// negative count, after count and mark are set.
+    /// Marks the object changed and resizes if the count differs. Raises 9 "Subscript out of range" for a
+    /// negative count, after the count and the mark were set.
     void ResizeCoefficients(std::int16_t count);
-    /// The same, but a negative count is taken silently.
+    /// The same, but a negative count is accepted silently.
     void SetNumCoefficients(std::int16_t value);
 
-    /// Both raise "Index out of range" (0x800401F5) and store nothing for an index that is not valid.
+    /// A coefficient, in the unit that the enumeration of its class gives; any double is accepted. An invalid
+    /// index raises "Index out of range" (0x800401F5), and nothing is stored.
     [[nodiscard]] double Coefficients(std::int32_t index) const { return m_slots.At(index).value; }
     void SetCoefficients(std::int32_t index, double value) { Assign(m_slots.At(index).value, value); }
 
-    /// How the dialog shows the coefficient (see ValueFormatter.h); never stored in a file and never a
-    /// change. Under an empty format, or "General Number", nothing is lost. Under any other the dialog stores
-    /// what it shows: digits that the format leaves out are gone after OK. Formats that group digits, scale,
-    /// or add percent signs or brackets are not for boxes that people edit, because the number is read as it
-    /// stands.
+    /// How the dialog shows the coefficient (see ValueFormatter.h); not stored in files, and never a change.
+    /// With an empty format, or "General Number", nothing is lost. With any other format the dialog stores
+    /// what it shows: digits that the format omits are lost on OK. Do not use formats that group digits,
+    /// scale, or add percent signs or brackets for boxes that users edit, because the text is read back as a
+    /// plain number. An invalid index raises "Index out of range".
     [[nodiscard]] const std::wstring& ValueFormat(std::int32_t index) const {
         return m_slots.At(index).format;
     }
@@ -45,11 +47,11 @@ protected:
         m_slots.At(index).format = std::move(value);
     }
 
-    /// "NumCoefficients".
+    /// Writes the count under "NumCoefficients".
     void WriteCount(RecordWriter& record) const;
-    /// The count that the record holds; the class applies it by its own rule.
+    /// The count in the record, which the class applies by its own rule.
     [[nodiscard]] std::int16_t ReadCount(RecordReader& record) const;
-    /// "Coefficients0" to the last one of the count. A negative count marks the reading as failed.
+    /// Write and read "Coefficients0" to the last one of the count. A negative count makes the reading fail.
     void WriteCoefficients(RecordWriter& record) const;
     void ReadCoefficients(RecordReader& record);
 

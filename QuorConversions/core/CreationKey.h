@@ -2,8 +2,8 @@
 
 namespace QuorConversions {
 
-/// Most settings classes are public but come into being only through the facade, and the ITS-90 ranges only
-/// through their owner: their constructors ask for this key, which nobody else can make.
+/// Most settings objects are created only by a conversion, and the ITS-90 ranges only by their owner: their
+/// constructors require this key, which no other class can create.
 class CreationKey {
     CreationKey() = default; // NOLINT(modernize-use-equals-default): private on purpose, not an aggregate
     friend struct ConversionTable;

@@ -6,7 +6,7 @@
 
 namespace QuorConversions {
 
-/// The conversion types. The values stand in files; they are only ever added to.
+/// The conversion types. The values are stored in files; they are only ever added to.
 enum EQuorConversionType : std::int32_t {
     CONV_NONE = -1,
     CONV_ITS90 = 0,
@@ -32,7 +32,7 @@ enum EQuorConversionType : std::int32_t {
     CONV_TCTYPEPOLY = 20,
 };
 
-/// The name of a code as it stands in the enumeration ("CONV_CVD"), for scripts; null for a code without one.
+/// The name of a code in the enumeration ("CONV_CVD"), for scripts; null for a code without one.
 [[nodiscard]] QUORCONVERSIONS_EXPORT const wchar_t* ConversionEnumerator(std::int32_t code);
 
 } // namespace QuorConversions

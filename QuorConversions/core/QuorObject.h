@@ -21,64 +21,68 @@ using QuorIniFile::QuorError;
 class RecordReader;
 class RecordWriter;
 
-/// What the facade, the settings objects and the ITS-90 ranges share: the platform they speak through, the
-/// host's registry, the changed flag, and the frame around every save and load.
+/// What the conversion, the settings objects and the ITS-90 ranges have in common: the host's platform and
+/// registry, the changed flag, and saving and loading.
 class QUORCONVERSIONS_EXPORT QuorObject {
 public:
     QuorObject(const QuorObject&) = delete;
     QuorObject& operator=(const QuorObject&) = delete;
     virtual ~QuorObject();
 
-    /// Keeps the reference, which may be null; the object behind it stays the host's.
+    /// Keeps the reference to the host's registry, which may be null.
     virtual void SetRegistry(std::shared_ptr<QuorRegistryII::Registry>& vData);
+    /// The registry that was set; null at first. The dialogs store their positions in it.
     [[nodiscard]] std::shared_ptr<QuorRegistryII::Registry> Registry() const { return m_registry; }
 
     /// Whether a value has been changed since the flag was last cleared. Only a host clears it; no save does.
     [[nodiscard]] virtual bool Changed() const;
     virtual void SetChanged(bool value);
 
-    /// Writes the record into the section `secname`. With a null `iniFile` an INI-file object is made for the
-    /// call on the file `fname` and released before it returns; otherwise `fname` is not used and may be
-    /// empty. Every failure is reported to the user. After an error of the object itself (an index that it
-    /// refuses, a code of more than 16 bits) the file keeps what was written before it. After a failure of
-    /// the INI-file object, or of memory, nothing of the record is saved: its bracket is abandoned.
+    /// Writes the record into the section `secname`. If `iniFile` is null, the call creates an INI-file
+    /// object for the file `fname` and releases it before it returns; otherwise `fname` is not used and may
+    /// be empty. Every failure is reported to the user. After an error of the object itself (an index that it
+    /// refuses, a code beyond 16 bits) the file keeps what was written before it. After a failure of the
+    /// INI-file object, or lack of memory, nothing of the record is saved: its bracket is abandoned.
     void WriteToFile(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname,
                      const std::wstring& secname) const;
 
-    /// The same into the file `fname`, which is created when it does not exist, in a folder that must exist.
+    /// The same into the file `fname`, which is created if it does not exist, in a folder that must exist.
     ///
-    /// Nothing is returned: a failure is told to the user, through the platform, and to nobody else. A host
-    /// that must know brackets the writes by Hold and Release of a store of its own, whose Release raises,
-    /// calls WriteOrRaise, or keeps its probes in a QuorProbeFile::ProbeFile.
+    /// Failures are reported to the user through the platform; the caller is not informed. A host that must
+    /// know brackets the writes with Hold and Release of a store of its own, whose Release raises, calls
+    /// WriteOrRaise, or keeps its probes in a QuorProbeFile::ProbeFile.
     void WriteToFile(const std::wstring& fname, const std::wstring& secname) const;
 
-    /// The same as WriteToFile with an INI-file object, but what fails is raised and nobody is told. Then a
-    /// part of the record has been written: call it inside an edit of the store, which is given up by it.
+    /// The same as WriteToFile with an INI-file object, but failures are raised instead of being reported. A
+    /// part of the record may have been written then: call it inside an edit of the store, which then saves
+    /// nothing.
     void WriteOrRaise(const std::shared_ptr<INIFile>& iniFile, const std::wstring& secname) const;
 
-    /// Reads the record from the section `secname`; `iniFile` and `fname` as in WriteToFile. True when every
-    /// key was found. A key that is missing or cannot be read leaves the object's own value standing, and the
-    /// user is told once; any other failure is reported. There is no rollback.
+    /// Reads the record from the section `secname`; `iniFile` and `fname` as in WriteToFile. True if every
+    /// key was found. A key that is missing or cannot be read leaves the object's value unchanged, and the
+    /// user is informed once; any other failure is reported too. Values that were read before a failure stay.
     bool ReadFromFile(std::shared_ptr<INIFile>& iniFile, const std::wstring& fname,
                       const std::wstring& secname);
     /// The same from the file `fname`.
     bool ReadFromFile(const std::wstring& fname, const std::wstring& secname);
 
 protected:
-    /// `className` is the source of the object's errors. A null platform is the headless one.
+    /// `className` is the source of the object's errors. A null platform means the headless one.
     QuorObject(std::shared_ptr<Platform> platform, const wchar_t* className);
 
+    /// The platform; never null.
     [[nodiscard]] const std::shared_ptr<Platform>& HostPlatform() const { return m_platform; }
+    /// The source of the object's errors.
     [[nodiscard]] const wchar_t* ClassName() const { return m_className; }
 
-    /// An error of this class with a text of the string table.
+    /// An error of this class with a text from the string table.
     [[nodiscard]] QuorError Error(std::int32_t number, EStringId text) const;
     /// Shows `text`, which is made from the string-table entry `id`.
     void ShowMessage(EStringId id, const std::wstring& text) const;
-    /// Reports the error that is being handled; call it inside a catch block.
+    /// Reports the current exception to the user; call it inside a catch block.
     void ReportCurrentError(EStringId context) const noexcept;
 
-    /// Marks the object changed when the new value differs, then stores it. NaN equals NaN here, and -0.0
+    /// Marks the object changed if the new value differs, then stores it. NaN equals NaN here, and -0.0
     /// equals 0.0 but is stored.
     template <class T>
     void Assign(T& field, const T& value) {
@@ -87,13 +91,14 @@ protected:
         field = value;
     }
 
-    /// The same, but a value that does not differ (a zero of the other sign) is not stored.
+    /// The same, but a value that does not differ (a zero with the other sign) is not stored.
     template <class T>
     void AssignDifferent(T& field, const T& value) {
         if (Differs(field, value))
             Assign(field, value);
     }
 
+    /// Whether a value counts as a change; NaN equals NaN.
     template <class T>
     [[nodiscard]] static bool Differs(const T& stored, const T& value) {
         return stored != value;

@@ -6,9 +6,9 @@
 // class alone writes and reads is named beside it.
 namespace QuorConversions {
 
-/// What follows the name of a probe in that of the section of its settings: "P - Settings".
+/// The end of the name of the section with the settings of a probe: "P - Settings".
 inline constexpr std::wstring_view settingsMark = L" - Settings";
-/// What stands between the name of a section and that of a record nested in it.
+/// What separates the name of a section from that of a record nested in it.
 inline constexpr std::wstring_view nestedMark = settingsMark.substr(0, 3);
 
 // Nested records.

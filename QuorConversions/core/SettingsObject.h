@@ -9,10 +9,10 @@
 namespace QuorConversions {
 
 /// The argument of the name functions (ConversionName, RangeName, GetName, ...) that means the object's
-/// current value. It is no member of any of their enumerations.
+/// current value. It is not a member of any of their enumerations.
 inline constexpr std::int32_t currentValue = -2;
 
-/// What one settings class differs in from the others as data.
+/// What distinguishes one settings class from the others, as data.
 struct SettingsTraits {
     const wchar_t* className;     ///< the source of its errors
     EStringId name;               ///< string-table entry of GetName
@@ -20,7 +20,7 @@ struct SettingsTraits {
     const wchar_t* sectionName;   ///< the section of its stand-alone files; never translated
 };
 
-/// What every settings class offers besides its own coefficients. A settings object holds the settings of one
+/// What every settings class has besides its own coefficients. A settings object holds the settings of one
 /// conversion type; it computes nothing.
 class QUORCONVERSIONS_EXPORT SettingsObject : public QuorObject {
 public:
@@ -30,8 +30,8 @@ public:
 
     // SetRegistry, Registry, Changed and SetChanged stand here in the order of the contract.
 
-    /// Shows the settings dialog on this live object. False when the user cancelled, or when the dialog could
-    /// not be shown, which has been reported then.
+    /// Shows the settings dialog directly on this object. False if the user cancelled, or if the dialog could
+    /// not be shown, which was reported to the user.
     bool Edit();
 
     /// The display name, in the language of the string table.
@@ -41,20 +41,20 @@ public:
     [[nodiscard]] const std::wstring& FilePath() const { return m_filePath; }
     void SetFilePath(std::wstring value);
 
-    /// Reads a stand-alone settings file: `filename` if it is not empty, else the one that the user chooses
-    /// in a file dialog owned by the window `hwnd`, which is then put into `filename`. True when the call ran
-    /// to its end, also when the file could not be read: that has been reported. False, and `filename` as it
-    /// was, when the user cancelled or the dialog failed.
+    /// Reads a stand-alone settings file: `filename` if it is not empty, otherwise the one that the user
+    /// chooses in a file dialog owned by the window `hwnd`, whose path is then stored in `filename`. True if
+    /// the user did not cancel, even if the file could not be read, which was reported. False, with
+    /// `filename` unchanged, if the user cancelled or the dialog failed.
     bool OpenFile(std::int32_t hwnd, std::wstring& filename);
 
-    /// Asks for a file, starting at `filename` if it is not empty, and writes a stand-alone settings file.
-    /// The chosen path is put into `filename`. A name without an extension gets the class's extension
-    /// appended as it stands, without a point; file dialogs add their own before that. Result as in OpenFile.
+    /// Asks for a file, starting with `filename` if it is not empty, and writes a stand-alone settings file.
+    /// The chosen path is stored in `filename`. A name without an extension gets the extension of the class
+    /// appended without a point; file dialogs normally add it with the point first. Result as in OpenFile.
     bool SaveFileAs(std::int32_t hwnd, std::wstring& filename);
 
     // WriteToFile and ReadFromFile stand here in the order of the contract.
 
-    /// Which stand-alone files hold this class: their extension, without a point, and their section.
+    /// The stand-alone files of this class: their extension, without a point, and their section.
     [[nodiscard]] std::wstring FileExtension() const { return m_traits.fileExtension; }
     [[nodiscard]] std::wstring SectionName() const { return m_traits.sectionName; }
 

@@ -10,8 +10,8 @@
 
 namespace QuorConversions {
 
-/// Slots with indices 0 to count, of which 0 to count - 1 can be reached; the last one is spare. On purpose:
-/// a shorter array keeps in its spare slot what the longer one held there, and shows it again when it grows.
+/// Slots with indices 0 to count, of which 0 to count - 1 are accessible; the last one is spare. On purpose,
+/// an array that was shortened keeps the value in its spare slot and shows it again when it grows.
 template <class Slot>
 class SpareArray {
 public:
@@ -20,17 +20,18 @@ public:
                         std::int32_t highestIndex = std::numeric_limits<std::int32_t>::max())
         : m_source(source), m_highestIndex(highestIndex) {}
 
+    /// How many slots are accessible; may be negative, as SetCount has stored it.
     [[nodiscard]] std::int16_t Count() const { return m_count; }
 
-    /// Resizes to 0 .. count; values are kept, new slots are empty. A negative count is stored, refuses every
-    /// index, and leaves the slots alone, so that a later valid count finds them again.
+    /// Resizes to 0 .. count; values are kept, new slots are empty. A negative count is stored, makes every
+    /// index invalid, and leaves the slots alone, so that a later valid count shows them again.
     void SetCount(std::int16_t count) {
         if (count >= 0)
             m_slots.resize(static_cast<std::size_t>(count) + 1);
         m_count = count; // last: without memory for the slots the old count must stand
     }
 
-    /// SetCount that raises 9 "Subscript out of range" for a negative count, after it was stored.
+    /// As SetCount, but raises 9 "Subscript out of range" for a negative count, after storing it.
     void Resize(std::int16_t count) {
         SetCount(count);
         if (count < 0)
@@ -38,17 +39,19 @@ public:
                                          TableText(IDS_SUBSCRIPT_OUT_OF_RANGE));
     }
 
+    /// Whether the index is accessible.
     [[nodiscard]] bool IsValid(std::int32_t index) const {
         return index >= 0 && index < m_count && index <= m_highestIndex;
     }
 
-    /// Raises "Index out of range" for an index that is not valid.
+    /// The slot at an index, from 0. Raises "Index out of range" (0x800401F5) for an invalid index.
     [[nodiscard]] const Slot& At(std::int32_t index) const {
         if (!IsValid(index))
             throw QuorIniFile::QuorError(QuorIniFile::ERR_INDEX_OUT_OF_RANGE, m_source,
                                          TableText(IDS_INDEX_OUT_OF_RANGE));
         return m_slots[static_cast<std::size_t>(index)];
     }
+    /// The same, to be changed.
     [[nodiscard]] Slot& At(std::int32_t index) {
         return const_cast<Slot&>(static_cast<const SpareArray&>(*this).At(index)); // NOLINT: the slot is ours
     }

@@ -7,40 +7,40 @@
 
 namespace QuorConversions {
 
-/// What a formatted number shows for "." and for "," of its format.
+/// What a formatted number shows for "." and for "," in its format.
 struct NumberSeparators {
-    std::wstring decimal = L".";
-    std::wstring grouping = L",";
+    std::wstring decimal = L".";  ///< for ".", the decimal separator
+    std::wstring grouping = L","; ///< for ",", which groups thousands
 };
 
-/// The text of `value` under a value format. Never raises on account of the format.
+/// The text of `value` in a value format. No format is an error.
 ///
 /// An empty format gives the shortest text that reads back to the same bits: plain decimal for
 /// 1E-5 <= |value| < 1E15, else "1.5E-07". Minus zero is "-0" there, for the same reason.
 ///
-/// Otherwise a format is up to three sections, "positive;negative;zero"; a section that is missing or empty
-/// is the positive one, and any further one is ignored. The value itself chooses, before it is rounded. Only
-/// the positive section puts a minus sign in front of its text, and not when it shows zero.
+/// Otherwise a format has up to three sections, "positive;negative;zero"; the positive one replaces a section
+/// that is missing or empty, and further ones are ignored. The section is chosen by the value before
+/// rounding. Only the positive section puts a minus sign before its text, and not if it shows zero.
 ///
 ///     0 #      a digit; "0" shows at least a zero, "#" shows nothing where the number has no digit;
 ///              between two zeros, and on one side of the point between a zero and a digit, "#" is a zero
-///     .        the decimal separator, shown also when no digit follows it
-///     ,        behind a place: groups of three digits, when a place before the point follows;
-///              otherwise, also behind the point, each divides by a thousand
+///     .        the decimal separator, shown even if no digit follows
+///     ,        after a place: groups of three digits, if a place before the point follows;
+///              otherwise, also after the point, each divides by a thousand
 ///     %        a percent sign; multiplies by a hundred, once
 ///     E+00     exponent of at least so many digits, after the places of the mantissa; "E+" always shows its
 ///              sign, "E-" a minus only, "e" shows a small letter. With n places before the point the
 ///              exponent is a multiple of n
-///     "x" \x   the text, the character as it stands
+///     "x" \x   the text or the character itself
 ///
-/// Every other character, and each of these where it makes no sense, shows as it stands; a format without
-/// places shows no digits.
-/// Rounding is half away from zero on the shortest decimal text: 1.005 under "0.00" is "1.01".
+/// Every other character, and each of these where it has no meaning, is shown unchanged; a format without
+/// places shows no digits. Rounding is half away from zero on the shortest decimal text: 1.005 under "0.00"
+/// is "1.01".
 ///
 /// Named formats, in any case: "General Number" is the empty format, "Fixed" is "0.00", "Standard"
 /// "#,##0.00", "Percent" "0.00%", "Scientific" "0.00E+00".
 ///
-/// "NaN", "Infinity" and "-Infinity" are shown under any format.
+/// "NaN", "Infinity" and "-Infinity" are shown in any format.
 [[nodiscard]] QUORCONVERSIONS_EXPORT std::wstring FormatValue(double value, std::wstring_view format,
                                                               const NumberSeparators& separators = {});
 

@@ -12,7 +12,7 @@ namespace QuorConversions {
 
 /// The text up to the last separator, separator included; empty when there is none.
 [[nodiscard]] QUORCONVERSIONS_EXPORT std::wstring GetFolderPart(std::wstring_view path) noexcept;
-/// What follows the last separator.
+/// The text after the last separator; the whole path if there is none.
 [[nodiscard]] QUORCONVERSIONS_EXPORT std::wstring GetFileNamePart(std::wstring_view path) noexcept;
 /// The extension of the last component, without the point; empty when there is none.
 [[nodiscard]] QUORCONVERSIONS_EXPORT std::wstring GetExtensionPart(std::wstring_view path) noexcept;

@@ -1,4 +1,4 @@
 #pragma once
 
-// The ids of the string table by name, for all that stands on the core.
+// The ids of the string table by name, for everything that builds on the core.
 #include "QuorConversions/resources/StringIds.h"

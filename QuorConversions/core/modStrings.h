@@ -9,9 +9,9 @@
 
 namespace QuorConversions {
 
-/// The text of a string-table entry with each "~" filled, from left to right, by the next of `values`.
-/// `values` are separated by "|" and trimmed of blanks at both ends. Surplus values are ignored; a "~" for
-/// which no value is left becomes empty text. A "|" in the template means nothing.
+/// The text of a string-table entry with each "~" replaced, from left to right, by the next of `values`. The
+/// values are separated by "|"; blanks at both ends are removed. Surplus values are ignored; a "~" for which
+/// no value is left is removed. A "|" in the template has no meaning.
 [[nodiscard]] QUORCONVERSIONS_EXPORT std::wstring ReplaceTildes(std::wstring_view textTemplate,
                                                                 std::wstring_view values);
 

@@ -16,6 +16,7 @@ enum EHTPRTCoefficients : std::int32_t {
 /// coefficients of its deviation function. Stand-alone files: "hpt".
 class QUORCONVERSIONS_EXPORT CQuorHTPRT final : public CoefficientSettings {
 public:
+    /// Made by a conversion of the type CONV_HTPRT, with three coefficients, all 0.
     CQuorHTPRT(CreationKey key, std::shared_ptr<Platform> platform);
 
     using SettingsObject::AllowEdit, SettingsObject::SetAllowEdit;
@@ -23,11 +24,13 @@ public:
     using SettingsObject::Changed, SettingsObject::SetChanged;
     using SettingsObject::FilePath, SettingsObject::SetFilePath;
 
-    /// 3 unless a file held another count.
+    /// 3, unless a file had another count.
     using CoefficientSettings::NumCoefficients;
-    /// Index: EHTPRTCoefficients, below NumCoefficients. Raises "Index out of range".
+    /// A coefficient, in the unit that EHTPRTCoefficients gives; any double is accepted. The index must be
+    /// below NumCoefficients; otherwise "Index out of range" (0x800401F5) is raised and nothing is stored.
     using CoefficientSettings::Coefficients, CoefficientSettings::SetCoefficients;
-    /// Index as for Coefficients.
+    /// How the dialog shows a coefficient; index and errors as for Coefficients. Never a change, not in
+    /// files.
     using CoefficientSettings::ValueFormat, CoefficientSettings::SetValueFormat;
 
     using SettingsObject::Edit, SettingsObject::GetName;

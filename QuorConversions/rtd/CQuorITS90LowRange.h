@@ -4,7 +4,7 @@
 
 namespace QuorConversions {
 
-/// Indices of the coefficients of a low range.
+/// Indices of the coefficients of a low range, all dimensionless.
 enum EITS90LowRangeCoefficients : std::int32_t {
     ITS90_LOW_A = 0,
     ITS90_LOW_B = 1,
@@ -18,6 +18,7 @@ enum EITS90LowRangeCoefficients : std::int32_t {
 /// The sub-range below the triple point of water: ranges 1 to 5.
 class QUORCONVERSIONS_EXPORT CQuorITS90LowRange final : public CQuorITS90Range {
 public:
+    /// Made by CQuorITS90, with no range selected.
     CQuorITS90LowRange(CreationKey key, std::shared_ptr<Platform> platform);
 
 private:

@@ -5,7 +5,7 @@
 
 namespace QuorConversions {
 
-/// Indices of the points of CQuorTCTable; both groups address the same ten.
+/// Indices of the points of CQuorTCTable; both groups are the same ten.
 enum ETCTableCoefficients : std::int32_t {
     TCTABLE_T1 = 0, ///< temperatures
     TCTABLE_T2 = 1,
@@ -33,6 +33,7 @@ enum ETCTableCoefficients : std::int32_t {
 /// measured there. Stand-alone files: "tct".
 class QUORCONVERSIONS_EXPORT CQuorTCTable final : public PointSettings {
 public:
+    /// Made by a conversion of the type CONV_TCTABLE, with ten points, all 0.
     CQuorTCTable(CreationKey key, std::shared_ptr<Platform> platform);
 
     using SettingsObject::AllowEdit, SettingsObject::SetAllowEdit;
@@ -40,26 +41,28 @@ public:
     using SettingsObject::Changed, SettingsObject::SetChanged;
     using SettingsObject::FilePath, SettingsObject::SetFilePath;
 
-    /// 10 at first. A value above 10 is ignored; a negative one is stored and then raises 9 "Subscript out of
-    /// range".
+    /// How many points there are; 10 at first. A value above 10 is ignored; a negative one is stored and then
+    /// raises 9 "Subscript out of range".
     using PointSettings::NumPoints, PointSettings::SetNumPoints;
-    /// Index: ETCTableCoefficients, below NumPoints. Raises "Index out of range" (0x800401F5). Any value is
-    /// taken.
+    /// The temperature and the voltage of a point, in the units of TempScale and VoltageScale; any double is
+    /// accepted. The index must be below NumPoints; otherwise "Index out of range" (0x800401F5) is raised and
+    /// nothing is stored.
     using PointSettings::Temperatures, PointSettings::SetTemperatures;
     [[nodiscard]] double Voltages(std::int32_t index) const { return PointValues(index); }
     void SetVoltages(std::int32_t index, double value) { SetPointValues(index, value); }
-    /// How the dialog shows temperatures and voltages. Setting a format is never a change.
+    /// How the dialog shows temperatures and voltages (see ValueFormatter.h). Setting a format is never a
+    /// change, and files do not have it.
     using PointSettings::TempFormat, PointSettings::SetTempFormat;
     [[nodiscard]] const std::wstring& VoltageFormat() const { return PointValueFormat(); }
     void SetVoltageFormat(std::wstring value) { SetPointValueFormat(std::move(value)); }
-    /// Unit texts beside the values; they convert nothing and are not stored in files. Another text is a
-    /// change.
+    /// The unit texts beside temperatures and voltages; they convert nothing and are not stored in files.
+    /// Another text is a change.
     using PointSettings::TempScale, PointSettings::SetTempScale;
     [[nodiscard]] const std::wstring& VoltageScale() const { return ValueScale(); }
     void SetVoltageScale(const std::wstring& value) { SetValueScale(value); }
 
     using SettingsObject::Edit, SettingsObject::GetName;
-    /// "1" to "10", each with its number as item data.
+    /// Fills a list with "1" to "10", each with its number as item data.
     using PointSettings::FillPointsCombo;
 
     using SettingsObject::OpenFile, SettingsObject::SaveFileAs;

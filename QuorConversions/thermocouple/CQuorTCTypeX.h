@@ -6,8 +6,7 @@
 
 namespace QuorConversions {
 
-/// Indices of the points and DC coefficients of CQuorTCTypeX; the first two groups address the same three
-/// points.
+/// Indices of the points and DC coefficients of CQuorTCTypeX; the first two groups are the same three points.
 enum ETCTypeXCoefficients : std::int32_t {
     TCTYPEX_T1 = 0, ///< temperatures of the deviation points
     TCTYPEX_T2 = 1,
@@ -19,13 +18,14 @@ enum ETCTypeXCoefficients : std::int32_t {
     TCTYPEX_DC2 = 1,
 };
 
-/// A standard thermocouple type corrected by up to three deviation points and two deviation coefficients
-/// (DC). It knows the types B, E, J, K, N, R, S, T and AuPt. Stand-alone files: "tcx".
+/// A standard thermocouple type with up to three deviation points and two deviation coefficients (DC). It has
+/// the types B, E, J, K, N, R, S, T and AuPt. Stand-alone files: "tcx".
 class QUORCONVERSIONS_EXPORT CQuorTCTypeX final : public PointSettings {
 public:
+    /// Made by a conversion of the type CONV_TCTYPEX, which sets TCTYPE_K, with three points, all 0.
     CQuorTCTypeX(CreationKey key, std::shared_ptr<Platform> platform);
 
-    /// Whether the dialog shows the DC coefficients; True at first. Never a change; files hold them always.
+    /// Whether the dialog shows the DC coefficients; True at first. Never a change; files always have them.
     [[nodiscard]] bool ShowDCCoefs() const { return m_showDCCoefs; }
     void SetShowDCCoefs(bool value) { m_showDCCoefs = value; }
 
@@ -33,33 +33,38 @@ public:
     using SettingsObject::SetRegistry, SettingsObject::Registry;
     using SettingsObject::Changed, SettingsObject::SetChanged;
 
-    /// Unit texts beside the values; they convert nothing. Another text is a change.
+    /// The unit texts beside temperatures and offsets; they convert nothing. Another text is a change.
     using PointSettings::TempScale, PointSettings::SetTempScale;
     [[nodiscard]] const std::wstring& OffsetScale() const { return ValueScale(); }
     void SetOffsetScale(const std::wstring& value) { SetValueScale(value); }
     using SettingsObject::FilePath, SettingsObject::SetFilePath;
-    /// TCTYPE_NONE at first; any value is stored.
+    /// The standard thermocouple type; TCTYPE_NONE at first (a conversion sets TCTYPE_K). Any value is
+    /// stored.
     [[nodiscard]] ETCType TCType() const { return m_type; }
     void SetTCType(ETCType value) { Assign(m_type, value); }
-    /// The plain name of a type; of the current one for -2.
+    /// The name of a type, such as "K", of the current one for -2; "<unknown>" for one that the class does
+    /// not have.
     [[nodiscard]] std::wstring GetTCTypeName(std::int32_t tc) const;
     /// Fills a list with the types that have names, each with its value as item data. Selects nothing.
     void FillTCTypeNameCombo(ListControl& ctrl) const;
 
-    /// 3 at first. A value above 3 is ignored; a negative one is stored and then raises 9 "Subscript out of
-    /// range".
+    /// How many points there are; 3 at first. A value above 3 is ignored; a negative one is stored and then
+    /// raises 9 "Subscript out of range".
     using PointSettings::NumPoints, PointSettings::SetNumPoints;
-    /// Index: ETCTypeXCoefficients, below NumPoints. For any other the user is told "TC type index out of
-    /// range: " and the index; nothing is stored, and 0.0 is returned. On purpose nothing is raised here.
+    /// The temperature of a point, in the unit of TempScale; any double is accepted. The index must be below
+    /// NumPoints; otherwise the message "TC type index out of range: " with the index is shown, nothing is
+    /// stored, and 0.0 is returned. On purpose nothing is raised.
     [[nodiscard]] double Temperatures(std::int32_t index) const;
     void SetTemperatures(std::int32_t index, double value);
-    /// Index: TCTYPEX_DC1 or TCTYPEX_DC2. Raises "Index out of range" (0x800401F5) for any other.
+    /// A DC coefficient, in the unit that the instrument defines. Any index but TCTYPEX_DC1 and TCTYPEX_DC2
+    /// raises "Index out of range" (0x800401F5), and nothing is stored.
     [[nodiscard]] double Coefficients(std::int32_t index) const { return m_coefficients.At(index); }
     void SetCoefficients(std::int32_t index, double value) { Assign(m_coefficients.At(index), value); }
-    /// As Temperatures.
+    /// The offset of a point, in the unit of OffsetScale; index and errors as for Temperatures.
     [[nodiscard]] double Offsets(std::int32_t index) const;
     void SetOffsets(std::int32_t index, double value);
-    /// How the dialog shows temperatures, DC coefficients and offsets. Setting a format is never a change.
+    /// How the dialog shows temperatures, DC coefficients and offsets (see ValueFormatter.h). Setting a
+    /// format is never a change, and files do not have it.
     using PointSettings::TempFormat, PointSettings::SetTempFormat;
     [[nodiscard]] const std::wstring& ValueFormat() const { return m_coefficientFormat; }
     void SetValueFormat(std::wstring value) { m_coefficientFormat = std::move(value); }
@@ -67,7 +72,7 @@ public:
     void SetOffsetFormat(std::wstring value) { SetPointValueFormat(std::move(value)); }
 
     using SettingsObject::Edit;
-    /// The plain name of a type; of the current one, behind "TC Type ", for -2. Without an argument: for -2.
+    /// As GetTCTypeName, but "TC Type " and the name for -2. Without an argument: for -2.
     [[nodiscard]] std::wstring GetName(std::int32_t tc) const;
     [[nodiscard]] std::wstring GetName() const override;
     using PointSettings::FillPointsCombo;

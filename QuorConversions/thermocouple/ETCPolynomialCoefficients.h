@@ -4,7 +4,8 @@
 
 namespace QuorConversions {
 
-/// Indices of the coefficients of CQuorTCPolynomial; CQuorTCTypePoly has the first four.
+/// Indices of the coefficients of CQuorTCPolynomial, of which CQuorTCTypePoly has the first four. C[i] is in
+/// millivolts per degree Celsius to the i-th power.
 enum ETCPolynomialCoefficients : std::int32_t {
     TC_POLY_C0 = 0,
     TC_POLY_C1 = 1,

@@ -27,13 +27,13 @@ enum ETCType : std::int32_t {
     TCTYPE_AUPT = 12,
 };
 
-/// The thermocouple types that one class knows: the name of each value from TCTYPE_B to TCTYPE_AUPT, null for
-/// one that the class neither names nor offers. The letters are the same in every language.
+/// The thermocouple types of one class. The letters are the same in every language.
 struct TCTypeCatalogue {
+    /// The name of each type from TCTYPE_B to TCTYPE_AUPT; null for one that the class does not have.
     std::array<const wchar_t*, 13> names;
 
-    /// The name of `type`, behind "TC Type " for the current type (-2), which is `current`. No type has an
-    /// empty name; a type that the class does not know is "<unknown>", without the prefix.
+    /// The name of `type`, or, for -2, "TC Type " and the name of `current`. TCTYPE_NONE has an empty name; a
+    /// type that the class does not have is "<unknown>", without the prefix.
     [[nodiscard]] std::wstring Name(std::int32_t type, std::int32_t current) const;
     /// Fills a list with the names, each with its value as item data. Selects nothing.
     void Fill(ListControl& ctrl) const;

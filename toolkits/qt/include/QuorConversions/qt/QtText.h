@@ -7,6 +7,7 @@
 
 namespace QuorConversions::QtToolkit {
 
+/// A text of the library as one of Qt, and back.
 [[nodiscard]] inline QString ToQt(std::wstring_view text) {
     return QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
 }
