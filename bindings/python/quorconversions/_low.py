@@ -241,7 +241,7 @@ class ProbeFileError(IntEnum):
     DOES_NOT_FIT_FILE = 12  # the section of a stand-alone settings file is not for the type, or not for a renamed probe
     CANNOT_BE_WRITTEN = 13  # by its conversion, whose error is raised
     SECTION_OF_HOST = 14  # no probe can be written into a section that is there and is no record
-    INCONSISTENT = 15  # no file gives back what the conversion holds: a count below zero, settings of another type
+    INCONSISTENT = 15  # a file would not give back what the conversion holds: a count below zero, settings of another type
 
 
 class ProbeProblem(IntEnum):
@@ -317,7 +317,7 @@ class CQuorConversion(Object):
         check(_library.quor_conversion_put_HelpFile(self._handle, text(value)))
 
     def SetRegistry(self, vData):
-        """Keeps a reference to the host's registry, which may be none."""
+        """Sets the host's registry, which may be none."""
         with exchanged(vData) as vData_handle:
             check(_library.quor_conversion_SetRegistry(self._handle, byref(vData_handle)))
 
@@ -330,7 +330,7 @@ class CQuorConversion(Object):
 
     @property
     def Changed(self):
-        """Whether a value has been changed since a host last cleared the flag. No save clears it."""
+        """Whether a value has changed since the host last cleared the flag. Saving does not clear it."""
         result = c_int16()
         check(_library.quor_conversion_get_Changed(self._handle, byref(result)))
         return result.value != 0
@@ -359,7 +359,7 @@ class CQuorConversion(Object):
 
     @property
     def ConversionType(self):
-        """CONV_NONE at first. Another value drops the settings object and makes a fresh one."""
+        """CONV_NONE at first. Another value replaces the settings object by a new one."""
         result = c_int32()
         check(_library.quor_conversion_get_ConversionType(self._handle, byref(result)))
         return known(ConversionType, result.value)
@@ -375,19 +375,19 @@ class CQuorConversion(Object):
         return result.take()
 
     def Edit(self):
-        """Shows the settings dialog. False when the user cancelled, or it failed, which was reported."""
+        """Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user."""
         result = c_int16()
         check(_library.quor_conversion_Edit(self._handle, byref(result)))
         return result.value != 0
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
-        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
+        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_conversion_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told.
+        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed.
         Beware: a section that is not there, or says no type, makes the conversion an ITS-90 one, and its
         coefficients are lost. Read of ProbeFile refuses such a section."""
         result = c_int16()
@@ -413,7 +413,7 @@ class CQuorITS90(Object):
         check(_library.quor_its90_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
-        """Keeps a reference to the host's registry, which may be none."""
+        """Sets the host's registry, which may be none."""
         with exchanged(vData) as vData_handle:
             check(_library.quor_its90_SetRegistry(self._handle, byref(vData_handle)))
 
@@ -426,7 +426,7 @@ class CQuorITS90(Object):
 
     @property
     def Changed(self):
-        """Whether a value has been changed since a host last cleared the flag. No save clears it."""
+        """Whether a value has changed since the host last cleared the flag. Saving does not clear it."""
         result = c_int16()
         check(_library.quor_its90_get_Changed(self._handle, byref(result)))
         return result.value != 0
@@ -473,7 +473,7 @@ class CQuorITS90(Object):
 
     @property
     def RTPWFormat(self):
-        """How the dialog shows RTPW. Never a change."""
+        """How the dialog shows RTPW: a value format. Never a change."""
         result = Text()
         check(_library.quor_its90_get_RTPWFormat(self._handle, byref(result)))
         return result.take()
@@ -483,7 +483,7 @@ class CQuorITS90(Object):
         check(_library.quor_its90_put_RTPWFormat(self._handle, text(value)))
 
     def Edit(self):
-        """Shows the settings dialog. False when the user cancelled, or it failed, which was reported."""
+        """Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user."""
         result = c_int16()
         check(_library.quor_its90_Edit(self._handle, byref(result)))
         return result.value != 0
@@ -495,27 +495,27 @@ class CQuorITS90(Object):
         return result.take()
 
     def OpenFile(self, hwnd, Filename):
-        """Reads the settings file Filename, or the one that the user chooses. False when cancelled."""
+        """Reads the settings file Filename, or the one that the user chooses. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_its90_OpenFile(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def SaveFileAs(self, hwnd, Filename):
-        """Asks for a file and writes a settings file. False when cancelled."""
+        """Asks for a file and writes a settings file. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_its90_SaveFileAs(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
-        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
+        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_its90_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told."""
+        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_its90_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -529,7 +529,7 @@ class CQuorITS90LowRange(Object):
 
     @property
     def ShowCoefRange(self):
-        """Whether the dialog's labels carry the range number; True at first. Never a change."""
+        """Whether the labels of the dialog include the range number; True at first. Never a change."""
         result = c_int16()
         check(_library.quor_its90_low_range_get_ShowCoefRange(self._handle, byref(result)))
         return result.value != 0
@@ -540,7 +540,7 @@ class CQuorITS90LowRange(Object):
 
     @property
     def AllowChangeRange(self):
-        """Whether the dialog lets the user pick another range; True at first. Never a change."""
+        """Whether the dialog lets the user choose another range; True at first. Never a change."""
         result = c_int16()
         check(_library.quor_its90_low_range_get_AllowChangeRange(self._handle, byref(result)))
         return result.value != 0
@@ -550,7 +550,7 @@ class CQuorITS90LowRange(Object):
         check(_library.quor_its90_low_range_put_AllowChangeRange(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
-        """Keeps a reference to the host's registry, which may be none."""
+        """Sets the host's registry, which may be none."""
         with exchanged(vData) as vData_handle:
             check(_library.quor_its90_low_range_SetRegistry(self._handle, byref(vData_handle)))
 
@@ -563,7 +563,7 @@ class CQuorITS90LowRange(Object):
 
     @property
     def Changed(self):
-        """Whether a value has been changed since a host last cleared the flag. No save clears it."""
+        """Whether a value has changed since the host last cleared the flag. Saving does not clear it."""
         result = c_int16()
         check(_library.quor_its90_low_range_get_Changed(self._handle, byref(result)))
         return result.value != 0
@@ -574,7 +574,7 @@ class CQuorITS90LowRange(Object):
 
     @property
     def RangeEnabled(self):
-        """True at first. False selects the first range that is of this side alone."""
+        """True at first. False selects the first range that only this side has."""
         result = c_int16()
         check(_library.quor_its90_low_range_get_RangeEnabled(self._handle, byref(result)))
         return result.value != 0
@@ -630,13 +630,15 @@ class CQuorITS90LowRange(Object):
         check(_library.quor_its90_low_range_put_MinRange(self._handle, int32(value)))
 
     def get_Coefficients(self, Index):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         result = c_double()
         check(_library.quor_its90_low_range_get_Coefficients(self._handle, int32(Index), byref(result)))
         return result.value
 
     def put_Coefficients(self, Index, value):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         check(_library.quor_its90_low_range_put_Coefficients(self._handle, int32(Index), double(value)))
 
     @property
@@ -656,13 +658,13 @@ class CQuorITS90LowRange(Object):
             check(_library.quor_its90_low_range_FillRangeCombo(self._handle, ctrl_handle))
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
-        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
+        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_its90_low_range_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told."""
+        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_its90_low_range_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -676,7 +678,7 @@ class CQuorITS90HighRange(Object):
 
     @property
     def ShowCoefRange(self):
-        """Whether the dialog's labels carry the range number; True at first. Never a change."""
+        """Whether the labels of the dialog include the range number; True at first. Never a change."""
         result = c_int16()
         check(_library.quor_its90_high_range_get_ShowCoefRange(self._handle, byref(result)))
         return result.value != 0
@@ -687,7 +689,7 @@ class CQuorITS90HighRange(Object):
 
     @property
     def AllowChangeRange(self):
-        """Whether the dialog lets the user pick another range; True at first. Never a change."""
+        """Whether the dialog lets the user choose another range; True at first. Never a change."""
         result = c_int16()
         check(_library.quor_its90_high_range_get_AllowChangeRange(self._handle, byref(result)))
         return result.value != 0
@@ -697,7 +699,7 @@ class CQuorITS90HighRange(Object):
         check(_library.quor_its90_high_range_put_AllowChangeRange(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
-        """Keeps a reference to the host's registry, which may be none."""
+        """Sets the host's registry, which may be none."""
         with exchanged(vData) as vData_handle:
             check(_library.quor_its90_high_range_SetRegistry(self._handle, byref(vData_handle)))
 
@@ -710,7 +712,7 @@ class CQuorITS90HighRange(Object):
 
     @property
     def Changed(self):
-        """Whether a value has been changed since a host last cleared the flag. No save clears it."""
+        """Whether a value has changed since the host last cleared the flag. Saving does not clear it."""
         result = c_int16()
         check(_library.quor_its90_high_range_get_Changed(self._handle, byref(result)))
         return result.value != 0
@@ -721,7 +723,7 @@ class CQuorITS90HighRange(Object):
 
     @property
     def RangeEnabled(self):
-        """True at first. False selects the first range that is of this side alone."""
+        """True at first. False selects the first range that only this side has."""
         result = c_int16()
         check(_library.quor_its90_high_range_get_RangeEnabled(self._handle, byref(result)))
         return result.value != 0
@@ -777,13 +779,15 @@ class CQuorITS90HighRange(Object):
         check(_library.quor_its90_high_range_put_MinRange(self._handle, int32(value)))
 
     def get_Coefficients(self, Index):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         result = c_double()
         check(_library.quor_its90_high_range_get_Coefficients(self._handle, int32(Index), byref(result)))
         return result.value
 
     def put_Coefficients(self, Index, value):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         check(_library.quor_its90_high_range_put_Coefficients(self._handle, int32(Index), double(value)))
 
     @property
@@ -803,13 +807,13 @@ class CQuorITS90HighRange(Object):
             check(_library.quor_its90_high_range_FillRangeCombo(self._handle, ctrl_handle))
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
-        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
+        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_its90_high_range_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told."""
+        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_its90_high_range_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -833,7 +837,7 @@ class CQuorIPTS68(Object):
         check(_library.quor_ipts68_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
-        """Keeps a reference to the host's registry, which may be none."""
+        """Sets the host's registry, which may be none."""
         with exchanged(vData) as vData_handle:
             check(_library.quor_ipts68_SetRegistry(self._handle, byref(vData_handle)))
 
@@ -846,7 +850,7 @@ class CQuorIPTS68(Object):
 
     @property
     def Changed(self):
-        """Whether a value has been changed since a host last cleared the flag. No save clears it."""
+        """Whether a value has changed since the host last cleared the flag. Saving does not clear it."""
         result = c_int16()
         check(_library.quor_ipts68_get_Changed(self._handle, byref(result)))
         return result.value != 0
@@ -902,13 +906,15 @@ class CQuorIPTS68(Object):
         return result.take()
 
     def get_Coefficients(self, Index):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         result = c_double()
         check(_library.quor_ipts68_get_Coefficients(self._handle, int32(Index), byref(result)))
         return result.value
 
     def put_Coefficients(self, Index, value):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         check(_library.quor_ipts68_put_Coefficients(self._handle, int32(Index), double(value)))
 
     def get_ValueFormat(self, Index):
@@ -927,7 +933,7 @@ class CQuorIPTS68(Object):
             check(_library.quor_ipts68_FillScaleCombo(self._handle, ctrl_handle))
 
     def Edit(self):
-        """Shows the settings dialog. False when the user cancelled, or it failed, which was reported."""
+        """Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user."""
         result = c_int16()
         check(_library.quor_ipts68_Edit(self._handle, byref(result)))
         return result.value != 0
@@ -939,27 +945,27 @@ class CQuorIPTS68(Object):
         return result.take()
 
     def OpenFile(self, hwnd, Filename):
-        """Reads the settings file Filename, or the one that the user chooses. False when cancelled."""
+        """Reads the settings file Filename, or the one that the user chooses. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_ipts68_OpenFile(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def SaveFileAs(self, hwnd, Filename):
-        """Asks for a file and writes a settings file. False when cancelled."""
+        """Asks for a file and writes a settings file. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_ipts68_SaveFileAs(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
-        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
+        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_ipts68_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told."""
+        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_ipts68_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -983,7 +989,7 @@ class CQuorCVD(Object):
         check(_library.quor_cvd_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
-        """Keeps a reference to the host's registry, which may be none."""
+        """Sets the host's registry, which may be none."""
         with exchanged(vData) as vData_handle:
             check(_library.quor_cvd_SetRegistry(self._handle, byref(vData_handle)))
 
@@ -996,7 +1002,7 @@ class CQuorCVD(Object):
 
     @property
     def Changed(self):
-        """Whether a value has been changed since a host last cleared the flag. No save clears it."""
+        """Whether a value has changed since the host last cleared the flag. Saving does not clear it."""
         result = c_int16()
         check(_library.quor_cvd_get_Changed(self._handle, byref(result)))
         return result.value != 0
@@ -1017,13 +1023,15 @@ class CQuorCVD(Object):
         check(_library.quor_cvd_put_NumCoefficients(self._handle, int16(value)))
 
     def get_Coefficients(self, Index):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         result = c_double()
         check(_library.quor_cvd_get_Coefficients(self._handle, int32(Index), byref(result)))
         return result.value
 
     def put_Coefficients(self, Index, value):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         check(_library.quor_cvd_put_Coefficients(self._handle, int32(Index), double(value)))
 
     @property
@@ -1048,13 +1056,13 @@ class CQuorCVD(Object):
         check(_library.quor_cvd_put_ValueFormat(self._handle, int32(Index), text(value)))
 
     def MaxCoefficients(self):
-        """How many coefficients the class knows."""
+        """The greatest useful number of coefficients."""
         result = c_int16()
         check(_library.quor_cvd_MaxCoefficients(self._handle, byref(result)))
         return result.value
 
     def Edit(self):
-        """Shows the settings dialog. False when the user cancelled, or it failed, which was reported."""
+        """Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user."""
         result = c_int16()
         check(_library.quor_cvd_Edit(self._handle, byref(result)))
         return result.value != 0
@@ -1077,27 +1085,27 @@ class CQuorCVD(Object):
         check(_library.quor_cvd_put_FilePath(self._handle, text(value)))
 
     def OpenFile(self, hwnd, Filename):
-        """Reads the settings file Filename, or the one that the user chooses. False when cancelled."""
+        """Reads the settings file Filename, or the one that the user chooses. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_cvd_OpenFile(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def SaveFileAs(self, hwnd, Filename):
-        """Asks for a file and writes a settings file. False when cancelled."""
+        """Asks for a file and writes a settings file. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_cvd_SaveFileAs(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
-        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
+        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_cvd_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told."""
+        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_cvd_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -1127,7 +1135,7 @@ class CQuorPT100(Object):
         check(_library.quor_pt100_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
-        """Keeps a reference to the host's registry, which may be none."""
+        """Sets the host's registry, which may be none."""
         with exchanged(vData) as vData_handle:
             check(_library.quor_pt100_SetRegistry(self._handle, byref(vData_handle)))
 
@@ -1140,7 +1148,7 @@ class CQuorPT100(Object):
 
     @property
     def Changed(self):
-        """Whether a value has been changed since a host last cleared the flag. No save clears it."""
+        """Whether a value has changed since the host last cleared the flag. Saving does not clear it."""
         result = c_int16()
         check(_library.quor_pt100_get_Changed(self._handle, byref(result)))
         return result.value != 0
@@ -1161,13 +1169,15 @@ class CQuorPT100(Object):
         check(_library.quor_pt100_put_NumCoefficients(self._handle, int16(value)))
 
     def get_Coefficients(self, Index):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         result = c_double()
         check(_library.quor_pt100_get_Coefficients(self._handle, int32(Index), byref(result)))
         return result.value
 
     def put_Coefficients(self, Index, value):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         check(_library.quor_pt100_put_Coefficients(self._handle, int32(Index), double(value)))
 
     def get_ValueFormat(self, Index):
@@ -1181,13 +1191,13 @@ class CQuorPT100(Object):
         check(_library.quor_pt100_put_ValueFormat(self._handle, int32(Index), text(value)))
 
     def MaxCoefficients(self):
-        """How many coefficients the class knows."""
+        """The greatest useful number of coefficients."""
         result = c_int16()
         check(_library.quor_pt100_MaxCoefficients(self._handle, byref(result)))
         return result.value
 
     def Edit(self):
-        """Shows the settings dialog. False when the user cancelled, or it failed, which was reported."""
+        """Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user."""
         result = c_int16()
         check(_library.quor_pt100_Edit(self._handle, byref(result)))
         return result.value != 0
@@ -1210,27 +1220,27 @@ class CQuorPT100(Object):
         check(_library.quor_pt100_put_FilePath(self._handle, text(value)))
 
     def OpenFile(self, hwnd, Filename):
-        """Reads the settings file Filename, or the one that the user chooses. False when cancelled."""
+        """Reads the settings file Filename, or the one that the user chooses. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_pt100_OpenFile(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def SaveFileAs(self, hwnd, Filename):
-        """Asks for a file and writes a settings file. False when cancelled."""
+        """Asks for a file and writes a settings file. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_pt100_SaveFileAs(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
-        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
+        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_pt100_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told."""
+        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_pt100_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -1254,7 +1264,7 @@ class CQuorHTPRT(Object):
         check(_library.quor_htprt_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
-        """Keeps a reference to the host's registry, which may be none."""
+        """Sets the host's registry, which may be none."""
         with exchanged(vData) as vData_handle:
             check(_library.quor_htprt_SetRegistry(self._handle, byref(vData_handle)))
 
@@ -1267,7 +1277,7 @@ class CQuorHTPRT(Object):
 
     @property
     def Changed(self):
-        """Whether a value has been changed since a host last cleared the flag. No save clears it."""
+        """Whether a value has changed since the host last cleared the flag. Saving does not clear it."""
         result = c_int16()
         check(_library.quor_htprt_get_Changed(self._handle, byref(result)))
         return result.value != 0
@@ -1295,13 +1305,15 @@ class CQuorHTPRT(Object):
         return result.value
 
     def get_Coefficients(self, Index):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         result = c_double()
         check(_library.quor_htprt_get_Coefficients(self._handle, int32(Index), byref(result)))
         return result.value
 
     def put_Coefficients(self, Index, value):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         check(_library.quor_htprt_put_Coefficients(self._handle, int32(Index), double(value)))
 
     def get_ValueFormat(self, Index):
@@ -1315,7 +1327,7 @@ class CQuorHTPRT(Object):
         check(_library.quor_htprt_put_ValueFormat(self._handle, int32(Index), text(value)))
 
     def Edit(self):
-        """Shows the settings dialog. False when the user cancelled, or it failed, which was reported."""
+        """Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user."""
         result = c_int16()
         check(_library.quor_htprt_Edit(self._handle, byref(result)))
         return result.value != 0
@@ -1327,27 +1339,27 @@ class CQuorHTPRT(Object):
         return result.take()
 
     def OpenFile(self, hwnd, Filename):
-        """Reads the settings file Filename, or the one that the user chooses. False when cancelled."""
+        """Reads the settings file Filename, or the one that the user chooses. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_htprt_OpenFile(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def SaveFileAs(self, hwnd, Filename):
-        """Asks for a file and writes a settings file. False when cancelled."""
+        """Asks for a file and writes a settings file. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_htprt_SaveFileAs(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
-        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
+        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_htprt_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told."""
+        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_htprt_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -1371,7 +1383,7 @@ class CQuorWT90(Object):
         check(_library.quor_wt90_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
-        """Keeps a reference to the host's registry, which may be none."""
+        """Sets the host's registry, which may be none."""
         with exchanged(vData) as vData_handle:
             check(_library.quor_wt90_SetRegistry(self._handle, byref(vData_handle)))
 
@@ -1384,7 +1396,7 @@ class CQuorWT90(Object):
 
     @property
     def Changed(self):
-        """Whether a value has been changed since a host last cleared the flag. No save clears it."""
+        """Whether a value has changed since the host last cleared the flag. Saving does not clear it."""
         result = c_int16()
         check(_library.quor_wt90_get_Changed(self._handle, byref(result)))
         return result.value != 0
@@ -1417,7 +1429,7 @@ class CQuorWT90(Object):
 
     @property
     def RTPWFormat(self):
-        """How the dialog shows RTPW. Never a change."""
+        """How the dialog shows RTPW: a value format. Never a change."""
         result = Text()
         check(_library.quor_wt90_get_RTPWFormat(self._handle, byref(result)))
         return result.take()
@@ -1427,7 +1439,7 @@ class CQuorWT90(Object):
         check(_library.quor_wt90_put_RTPWFormat(self._handle, text(value)))
 
     def Edit(self):
-        """Shows the settings dialog. False when the user cancelled, or it failed, which was reported."""
+        """Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user."""
         result = c_int16()
         check(_library.quor_wt90_Edit(self._handle, byref(result)))
         return result.value != 0
@@ -1439,27 +1451,27 @@ class CQuorWT90(Object):
         return result.take()
 
     def OpenFile(self, hwnd, Filename):
-        """Reads the settings file Filename, or the one that the user chooses. False when cancelled."""
+        """Reads the settings file Filename, or the one that the user chooses. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_wt90_OpenFile(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def SaveFileAs(self, hwnd, Filename):
-        """Asks for a file and writes a settings file. False when cancelled."""
+        """Asks for a file and writes a settings file. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_wt90_SaveFileAs(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
-        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
+        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_wt90_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told."""
+        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_wt90_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -1483,7 +1495,7 @@ class CQuorThermistor(Object):
         check(_library.quor_thermistor_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
-        """Keeps a reference to the host's registry, which may be none."""
+        """Sets the host's registry, which may be none."""
         with exchanged(vData) as vData_handle:
             check(_library.quor_thermistor_SetRegistry(self._handle, byref(vData_handle)))
 
@@ -1496,7 +1508,7 @@ class CQuorThermistor(Object):
 
     @property
     def Changed(self):
-        """Whether a value has been changed since a host last cleared the flag. No save clears it."""
+        """Whether a value has changed since the host last cleared the flag. Saving does not clear it."""
         result = c_int16()
         check(_library.quor_thermistor_get_Changed(self._handle, byref(result)))
         return result.value != 0
@@ -1541,13 +1553,15 @@ class CQuorThermistor(Object):
         return result.value
 
     def get_Coefficients(self, Index):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         result = c_double()
         check(_library.quor_thermistor_get_Coefficients(self._handle, int32(Index), byref(result)))
         return result.value
 
     def put_Coefficients(self, Index, value):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         check(_library.quor_thermistor_put_Coefficients(self._handle, int32(Index), double(value)))
 
     @property
@@ -1562,7 +1576,7 @@ class CQuorThermistor(Object):
         check(_library.quor_thermistor_put_ValueFormat(self._handle, text(value)))
 
     def Edit(self):
-        """Shows the settings dialog. False when the user cancelled, or it failed, which was reported."""
+        """Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user."""
         result = c_int16()
         check(_library.quor_thermistor_Edit(self._handle, byref(result)))
         return result.value != 0
@@ -1574,27 +1588,27 @@ class CQuorThermistor(Object):
         return result.take()
 
     def OpenFile(self, hwnd, Filename):
-        """Reads the settings file Filename, or the one that the user chooses. False when cancelled."""
+        """Reads the settings file Filename, or the one that the user chooses. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_thermistor_OpenFile(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def SaveFileAs(self, hwnd, Filename):
-        """Asks for a file and writes a settings file. False when cancelled."""
+        """Asks for a file and writes a settings file. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_thermistor_SaveFileAs(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
-        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
+        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_thermistor_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told."""
+        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_thermistor_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -1618,7 +1632,7 @@ class CQuorPolynomial(Object):
         check(_library.quor_polynomial_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
-        """Keeps a reference to the host's registry, which may be none."""
+        """Sets the host's registry, which may be none."""
         with exchanged(vData) as vData_handle:
             check(_library.quor_polynomial_SetRegistry(self._handle, byref(vData_handle)))
 
@@ -1631,7 +1645,7 @@ class CQuorPolynomial(Object):
 
     @property
     def Changed(self):
-        """Whether a value has been changed since a host last cleared the flag. No save clears it."""
+        """Whether a value has changed since the host last cleared the flag. Saving does not clear it."""
         result = c_int16()
         check(_library.quor_polynomial_get_Changed(self._handle, byref(result)))
         return result.value != 0
@@ -1684,11 +1698,13 @@ class CQuorPolynomial(Object):
         return result.value
 
     def put_Coefficients(self, Index, value):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         check(_library.quor_polynomial_put_Coefficients(self._handle, int32(Index), double(value)))
 
     def get_Coefficients(self, Index):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         result = c_double()
         check(_library.quor_polynomial_get_Coefficients(self._handle, int32(Index), byref(result)))
         return result.value
@@ -1705,7 +1721,7 @@ class CQuorPolynomial(Object):
         check(_library.quor_polynomial_put_ValueFormat(self._handle, text(value)))
 
     def Edit(self):
-        """Shows the settings dialog. False when the user cancelled, or it failed, which was reported."""
+        """Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user."""
         result = c_int16()
         check(_library.quor_polynomial_Edit(self._handle, byref(result)))
         return result.value != 0
@@ -1717,27 +1733,27 @@ class CQuorPolynomial(Object):
         return result.take()
 
     def OpenFile(self, hwnd, Filename):
-        """Reads the settings file Filename, or the one that the user chooses. False when cancelled."""
+        """Reads the settings file Filename, or the one that the user chooses. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_polynomial_OpenFile(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def SaveFileAs(self, hwnd, Filename):
-        """Asks for a file and writes a settings file. False when cancelled."""
+        """Asks for a file and writes a settings file. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_polynomial_SaveFileAs(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
-        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
+        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_polynomial_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told."""
+        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_polynomial_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -1745,7 +1761,7 @@ class CQuorPolynomial(Object):
 
     @property
     def CoefficientLabelPrefix(self):
-        """What the dialog's labels begin with: "A" gives "A0", "A1" and so on. Never a change."""
+        """The letter in the labels of the dialog: "A" gives "A0", "A1" and so on. Never a change."""
         result = Text()
         check(_library.quor_polynomial_get_CoefficientLabelPrefix(self._handle, byref(result)))
         return result.take()
@@ -1805,7 +1821,7 @@ class CQuorTCPolynomial(Object):
         check(_library.quor_tc_polynomial_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
-        """Keeps a reference to the host's registry, which may be none."""
+        """Sets the host's registry, which may be none."""
         with exchanged(vData) as vData_handle:
             check(_library.quor_tc_polynomial_SetRegistry(self._handle, byref(vData_handle)))
 
@@ -1818,7 +1834,7 @@ class CQuorTCPolynomial(Object):
 
     @property
     def Changed(self):
-        """Whether a value has been changed since a host last cleared the flag. No save clears it."""
+        """Whether a value has changed since the host last cleared the flag. Saving does not clear it."""
         result = c_int16()
         check(_library.quor_tc_polynomial_get_Changed(self._handle, byref(result)))
         return result.value != 0
@@ -1850,13 +1866,15 @@ class CQuorTCPolynomial(Object):
         check(_library.quor_tc_polynomial_put_NumCoefficients(self._handle, int16(value)))
 
     def get_Coefficients(self, Index):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         result = c_double()
         check(_library.quor_tc_polynomial_get_Coefficients(self._handle, int32(Index), byref(result)))
         return result.value
 
     def put_Coefficients(self, Index, value):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         check(_library.quor_tc_polynomial_put_Coefficients(self._handle, int32(Index), double(value)))
 
     @property
@@ -1871,7 +1889,7 @@ class CQuorTCPolynomial(Object):
         check(_library.quor_tc_polynomial_put_ValueFormat(self._handle, text(value)))
 
     def Edit(self):
-        """Shows the settings dialog. False when the user cancelled, or it failed, which was reported."""
+        """Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user."""
         result = c_int16()
         check(_library.quor_tc_polynomial_Edit(self._handle, byref(result)))
         return result.value != 0
@@ -1883,27 +1901,27 @@ class CQuorTCPolynomial(Object):
         return result.take()
 
     def OpenFile(self, hwnd, Filename):
-        """Reads the settings file Filename, or the one that the user chooses. False when cancelled."""
+        """Reads the settings file Filename, or the one that the user chooses. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_tc_polynomial_OpenFile(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def SaveFileAs(self, hwnd, Filename):
-        """Asks for a file and writes a settings file. False when cancelled."""
+        """Asks for a file and writes a settings file. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_tc_polynomial_SaveFileAs(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
-        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
+        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_polynomial_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told."""
+        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_polynomial_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -1927,7 +1945,7 @@ class CQuorTCTable(Object):
         check(_library.quor_tc_table_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
-        """Keeps a reference to the host's registry, which may be none."""
+        """Sets the host's registry, which may be none."""
         with exchanged(vData) as vData_handle:
             check(_library.quor_tc_table_SetRegistry(self._handle, byref(vData_handle)))
 
@@ -1940,7 +1958,7 @@ class CQuorTCTable(Object):
 
     @property
     def Changed(self):
-        """Whether a value has been changed since a host last cleared the flag. No save clears it."""
+        """Whether a value has changed since the host last cleared the flag. Saving does not clear it."""
         result = c_int16()
         check(_library.quor_tc_table_get_Changed(self._handle, byref(result)))
         return result.value != 0
@@ -1982,13 +2000,13 @@ class CQuorTCTable(Object):
         check(_library.quor_tc_table_put_Temperatures(self._handle, int32(Index), double(value)))
 
     def get_Voltages(self, Index):
-        """The voltage of a point, in the unit that VoltageScale names. Error 0x800401F5 for an index that is none."""
+        """The voltage of a point, in the unit that VoltageScale names. Error 0x800401F5 for an invalid index."""
         result = c_double()
         check(_library.quor_tc_table_get_Voltages(self._handle, int32(Index), byref(result)))
         return result.value
 
     def put_Voltages(self, Index, value):
-        """The voltage of a point, in the unit that VoltageScale names. Error 0x800401F5 for an index that is none."""
+        """The voltage of a point, in the unit that VoltageScale names. Error 0x800401F5 for an invalid index."""
         check(_library.quor_tc_table_put_Voltages(self._handle, int32(Index), double(value)))
 
     @property
@@ -2036,7 +2054,7 @@ class CQuorTCTable(Object):
         check(_library.quor_tc_table_put_VoltageScale(self._handle, text(value)))
 
     def Edit(self):
-        """Shows the settings dialog. False when the user cancelled, or it failed, which was reported."""
+        """Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user."""
         result = c_int16()
         check(_library.quor_tc_table_Edit(self._handle, byref(result)))
         return result.value != 0
@@ -2053,27 +2071,27 @@ class CQuorTCTable(Object):
             check(_library.quor_tc_table_FillPointsCombo(self._handle, ctrl_handle))
 
     def OpenFile(self, hwnd, Filename):
-        """Reads the settings file Filename, or the one that the user chooses. False when cancelled."""
+        """Reads the settings file Filename, or the one that the user chooses. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_tc_table_OpenFile(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def SaveFileAs(self, hwnd, Filename):
-        """Asks for a file and writes a settings file. False when cancelled."""
+        """Asks for a file and writes a settings file. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_tc_table_SaveFileAs(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
-        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
+        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_table_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told."""
+        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_table_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -2108,7 +2126,7 @@ class CQuorTCTypeX(Object):
         check(_library.quor_tc_typex_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
-        """Keeps a reference to the host's registry, which may be none."""
+        """Sets the host's registry, which may be none."""
         with exchanged(vData) as vData_handle:
             check(_library.quor_tc_typex_SetRegistry(self._handle, byref(vData_handle)))
 
@@ -2121,7 +2139,7 @@ class CQuorTCTypeX(Object):
 
     @property
     def Changed(self):
-        """Whether a value has been changed since a host last cleared the flag. No save clears it."""
+        """Whether a value has changed since the host last cleared the flag. Saving does not clear it."""
         result = c_int16()
         check(_library.quor_tc_typex_get_Changed(self._handle, byref(result)))
         return result.value != 0
@@ -2175,7 +2193,7 @@ class CQuorTCTypeX(Object):
         check(_library.quor_tc_typex_put_TCType(self._handle, int32(value)))
 
     def GetTCTypeName(self, tc=-2):
-        """The plain name of a thermocouple type. -2: of the current one."""
+        """The name of a thermocouple type, such as "K". -2: of the current one."""
         result = Text()
         check(_library.quor_tc_typex_GetTCTypeName(self._handle, int32(tc), byref(result)))
         return result.take()
@@ -2260,7 +2278,7 @@ class CQuorTCTypeX(Object):
         check(_library.quor_tc_typex_put_OffsetFormat(self._handle, text(value)))
 
     def Edit(self):
-        """Shows the settings dialog. False when the user cancelled, or it failed, which was reported."""
+        """Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user."""
         result = c_int16()
         check(_library.quor_tc_typex_Edit(self._handle, byref(result)))
         return result.value != 0
@@ -2277,27 +2295,27 @@ class CQuorTCTypeX(Object):
             check(_library.quor_tc_typex_FillPointsCombo(self._handle, ctrl_handle))
 
     def OpenFile(self, hwnd, Filename):
-        """Reads the settings file Filename, or the one that the user chooses. False when cancelled."""
+        """Reads the settings file Filename, or the one that the user chooses. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_tc_typex_OpenFile(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def SaveFileAs(self, hwnd, Filename):
-        """Asks for a file and writes a settings file. False when cancelled."""
+        """Asks for a file and writes a settings file. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_tc_typex_SaveFileAs(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
-        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
+        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_typex_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told."""
+        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_typex_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -2327,7 +2345,7 @@ class CQuorTCTypePoly(Object):
         check(_library.quor_tc_typepoly_put_AllowEdit(self._handle, flag(value)))
 
     def SetRegistry(self, vData):
-        """Keeps a reference to the host's registry, which may be none."""
+        """Sets the host's registry, which may be none."""
         with exchanged(vData) as vData_handle:
             check(_library.quor_tc_typepoly_SetRegistry(self._handle, byref(vData_handle)))
 
@@ -2340,7 +2358,7 @@ class CQuorTCTypePoly(Object):
 
     @property
     def Changed(self):
-        """Whether a value has been changed since a host last cleared the flag. No save clears it."""
+        """Whether a value has changed since the host last cleared the flag. Saving does not clear it."""
         result = c_int16()
         check(_library.quor_tc_typepoly_get_Changed(self._handle, byref(result)))
         return result.value != 0
@@ -2372,13 +2390,15 @@ class CQuorTCTypePoly(Object):
         check(_library.quor_tc_typepoly_put_NumCoefficients(self._handle, int16(value)))
 
     def get_Coefficients(self, Index):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         result = c_double()
         check(_library.quor_tc_typepoly_get_Coefficients(self._handle, int32(Index), byref(result)))
         return result.value
 
     def put_Coefficients(self, Index, value):
-        """A coefficient. Error 0x800401F5 for an index that is none."""
+        """A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid
+        index."""
         check(_library.quor_tc_typepoly_put_Coefficients(self._handle, int32(Index), double(value)))
 
     @property
@@ -2404,7 +2424,7 @@ class CQuorTCTypePoly(Object):
         check(_library.quor_tc_typepoly_put_TCType(self._handle, int32(value)))
 
     def GetTCTypeName(self, tc=-2):
-        """The plain name of a thermocouple type. -2: of the current one."""
+        """The name of a thermocouple type, such as "K". -2: of the current one."""
         result = Text()
         check(_library.quor_tc_typepoly_GetTCTypeName(self._handle, int32(tc), byref(result)))
         return result.take()
@@ -2415,7 +2435,7 @@ class CQuorTCTypePoly(Object):
             check(_library.quor_tc_typepoly_FillTCTypeNameCombo(self._handle, ctrl_handle))
 
     def Edit(self):
-        """Shows the settings dialog. False when the user cancelled, or it failed, which was reported."""
+        """Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user."""
         result = c_int16()
         check(_library.quor_tc_typepoly_Edit(self._handle, byref(result)))
         return result.value != 0
@@ -2427,27 +2447,27 @@ class CQuorTCTypePoly(Object):
         return result.take()
 
     def OpenFile(self, hwnd, Filename):
-        """Reads the settings file Filename, or the one that the user chooses. False when cancelled."""
+        """Reads the settings file Filename, or the one that the user chooses. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_tc_typepoly_OpenFile(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def SaveFileAs(self, hwnd, Filename):
-        """Asks for a file and writes a settings file. False when cancelled."""
+        """Asks for a file and writes a settings file. False if the user cancelled."""
         Filename_out = Text()
         result = c_int16()
         check(_library.quor_tc_typepoly_SaveFileAs(self._handle, int32(hwnd), text(Filename), byref(Filename_out), byref(result)))
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is told to the user
-        alone, by show_message of the platform; the call itself raises no error, as Write of ProbeFile does."""
+        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
+        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_typepoly_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True when every key was found; otherwise the user is told."""
+        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_typepoly_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -2455,7 +2475,7 @@ class CQuorTCTypePoly(Object):
 
 
 class INIFile(Object):
-    """An INI file: the built-in store, or what a host offers (quor_inifile_from_host)."""
+    """An INI file: the built-in store, or one of a host (quor_inifile_from_host)."""
 
     __slots__ = ()
 
@@ -2477,7 +2497,7 @@ class INIFile(Object):
 
     @property
     def Section(self):
-        """The section that reads and writes address."""
+        """The section that reads and writes use."""
         result = Text()
         check(_library.quor_inifile_get_Section(self._handle, byref(result)))
         return result.take()
@@ -2487,28 +2507,28 @@ class INIFile(Object):
         check(_library.quor_inifile_put_Section(self._handle, text(value)))
 
     def ReadBoolean(self, Key, Value):
-        """True when the key was found, with a value of that kind, which Value is then."""
+        """True if the key was found with a value of that type, which Value then is."""
         Value_out = c_int16(flag(Value))
         result = c_int16()
         check(_library.quor_inifile_ReadBoolean(self._handle, text(Key), byref(Value_out), byref(result)))
         return result.value != 0, Value_out.value != 0
 
     def ReadDouble(self, Key, Value):
-        """True when the key was found, with a value of that kind, which Value is then."""
+        """True if the key was found with a value of that type, which Value then is."""
         Value_out = c_double(double(Value))
         result = c_int16()
         check(_library.quor_inifile_ReadDouble(self._handle, text(Key), byref(Value_out), byref(result)))
         return result.value != 0, Value_out.value
 
     def ReadInteger(self, Key, Value):
-        """True when the key was found, with a value of that kind, which Value is then."""
+        """True if the key was found with a value of that type, which Value then is."""
         Value_out = c_int16(int16(Value))
         result = c_int16()
         check(_library.quor_inifile_ReadInteger(self._handle, text(Key), byref(Value_out), byref(result)))
         return result.value != 0, Value_out.value
 
     def ReadString(self, Key, Value):
-        """True when the key was found; Value is its text then."""
+        """True if the key was found; Value is then its text."""
         Value_out = Text()
         result = c_int16()
         check(_library.quor_inifile_ReadString(self._handle, text(Key), text(Value), byref(Value_out), byref(result)))
@@ -2519,11 +2539,11 @@ class INIFile(Object):
         check(_library.quor_inifile_WriteBoolean(self._handle, text(Key), flag(Value)))
 
     def WriteDouble(self, Key, Value, Comment=""):
-        """Writes a value under a key. A Comment stands behind it in the file."""
+        """Writes a value under a key, followed by Comment in the file."""
         check(_library.quor_inifile_WriteDouble(self._handle, text(Key), double(Value), text(Comment)))
 
     def WriteInteger(self, Key, Value, Comment=""):
-        """Writes a value under a key. A Comment stands behind it in the file."""
+        """Writes a value under a key, followed by Comment in the file."""
         check(_library.quor_inifile_WriteInteger(self._handle, text(Key), int16(Value), text(Comment)))
 
     def WriteString(self, Key, Value):
@@ -2539,12 +2559,12 @@ class INIFile(Object):
         check(_library.quor_inifile_Release(self._handle))
 
     def Abandon(self):
-        """Closes a bracket in place of Release: nothing written since the outermost Hold is saved."""
+        """Closes a bracket instead of Release: nothing written since the outermost Hold is saved."""
         check(_library.quor_inifile_Abandon(self._handle))
 
 
 class Registry(Object):
-    """A registry: the built-in one, in a file of the application, or what a host offers (quor_registry_from_host). Without a folder the built-in one stands in the user's configuration folder."""
+    """A registry: the built-in one, in a file of the application, or one of a host (quor_registry_from_host). Without a folder the built-in one is in the user's configuration folder."""
 
     __slots__ = ()
 
@@ -2554,24 +2574,24 @@ class Registry(Object):
         self._own(result.value)
 
     def ReadValue(self, Section, Name, Value):
-        """True when the value was found; Value is its text then."""
+        """True if the value was found; Value is then its text."""
         Value_out = Text()
         result = c_int16()
         check(_library.quor_registry_ReadValue(self._handle, text(Section), text(Name), text(Value), byref(Value_out), byref(result)))
         return result.value != 0, Value_out.take()
 
     def WriteValue(self, Section, Name, Value):
-        """Keeps a value for later runs."""
+        """Stores a value for later runs."""
         check(_library.quor_registry_WriteValue(self._handle, text(Section), text(Name), text(Value)))
 
 
 class ListControl(Object):
-    """A list, which a host offers (quor_list_control_from_host)."""
+    """A list of a host (quor_list_control_from_host)."""
 
     __slots__ = ()
 
     def Clear(self):
-        """Takes all items out."""
+        """Removes all items."""
         check(_library.quor_list_control_Clear(self._handle))
 
     def AddItem(self, Item):
@@ -2586,18 +2606,18 @@ class ListControl(Object):
         return result.value
 
     def put_ItemData(self, Index, value):
-        """The number that an item carries."""
+        """The number of an item."""
         check(_library.quor_list_control_put_ItemData(self._handle, int32(Index), int32(value)))
 
 
 class Platform(Object):
-    """What a host environment offers (quor_platform_from_host). It is handed to the objects that a host makes."""
+    """The platform of a host (quor_platform_from_host), which is passed to the objects that the host creates."""
 
     __slots__ = ()
 
 
 class Dialog(Object):
-    """A dialog while it runs, for the host that shows it: what it holds, and what the user does with it."""
+    """A dialog while it runs, for the host that shows it: its contents, and what the user does."""
 
     __slots__ = ()
 
@@ -2636,14 +2656,14 @@ class Dialog(Object):
         return taken(result.value)
 
     def FindControl(self, Name):
-        """The control of that name; none when there is none."""
+        """The control with that name; none if there is none."""
         result = c_uint64()
         check(_library.quor_dialog_FindControl(self._handle, text(Name), byref(result)))
         return taken(result.value)
 
     @property
     def ColumnCount(self):
-        """How many frames and button groups stand side by side."""
+        """How many frames and button groups there are side by side."""
         result = c_int32()
         check(_library.quor_dialog_get_ColumnCount(self._handle, byref(result)))
         return result.value
@@ -2656,14 +2676,14 @@ class Dialog(Object):
 
     @property
     def CancelButton(self):
-        """The button that the Escape key presses; none when there is none."""
+        """The button that the Escape key presses; none if there is none."""
         result = c_uint64()
         check(_library.quor_dialog_get_CancelButton(self._handle, byref(result)))
         return taken(result.value)
 
     @property
     def WindowHandle(self):
-        """The handle of the window while it is shown; 0 otherwise. Whoever shows the window sets it."""
+        """The handle of the window while it is shown; 0 otherwise. The host that shows the window sets it."""
         result = c_int32()
         check(_library.quor_dialog_get_WindowHandle(self._handle, byref(result)))
         return result.value
@@ -2674,45 +2694,45 @@ class Dialog(Object):
 
     @property
     def HasPlace(self):
-        """Whether it is known where the window stands."""
+        """Whether the position of the window is known."""
         result = c_int16()
         check(_library.quor_dialog_get_HasPlace(self._handle, byref(result)))
         return result.value != 0
 
     @property
     def Left(self):
-        """Where the window stands, in units of whoever shows it; 0 when it is not known."""
+        """The position of the window, in units of the host; 0 if it is not known."""
         result = c_int32()
         check(_library.quor_dialog_get_Left(self._handle, byref(result)))
         return result.value
 
     @property
     def Top(self):
-        """Where the window stands, in units of whoever shows it; 0 when it is not known."""
+        """The position of the window, in units of the host; 0 if it is not known."""
         result = c_int32()
         check(_library.quor_dialog_get_Top(self._handle, byref(result)))
         return result.value
 
     def SetPlace(self, Left, Top):
-        """Tells where the window stands now."""
+        """Sets the position of the window."""
         check(_library.quor_dialog_SetPlace(self._handle, int32(Left), int32(Top)))
 
     @property
     def IsOpen(self):
-        """False when the dialog was left: the run is to end."""
+        """False once the dialog was closed: run_dialog must return."""
         result = c_int16()
         check(_library.quor_dialog_get_IsOpen(self._handle, byref(result)))
         return result.value != 0
 
     @property
     def ActiveControl(self):
-        """The control that has the focus; none before the first one has got it."""
+        """The control that has the focus; none before the first one has received it."""
         result = c_uint64()
         check(_library.quor_dialog_get_ActiveControl(self._handle, byref(result)))
         return taken(result.value)
 
     def Activate(self):
-        """The window has become the active one. Say it once the window is shown."""
+        """The window has become the active one. Call it once the window is shown."""
         check(_library.quor_dialog_Activate(self._handle))
 
     def Click(self, Button):
@@ -2731,59 +2751,59 @@ class Dialog(Object):
             check(_library.quor_dialog_SelectTab(self._handle, Tabs_handle, int32(Index)))
 
     def Focus(self, Control):
-        """The user went to a control."""
+        """The user moved the focus to a control."""
         with lent(Control) as Control_handle:
             check(_library.quor_dialog_Focus(self._handle, Control_handle))
 
     def PressTab(self, Backwards=False):
-        """The Tab key, with Shift when Backwards."""
+        """The Tab key was pressed, with Shift if Backwards."""
         check(_library.quor_dialog_PressTab(self._handle, flag(Backwards)))
 
     def KeyPress(self, KeyAscii):
-        """A key was pressed in the box that has the focus. The key that counts: another one, or 0 for none."""
+        """A key was pressed in the box that has the focus. Returns the key to use instead, or 0 for none."""
         result = c_int16()
         check(_library.quor_dialog_KeyPress(self._handle, int16(KeyAscii), byref(result)))
         return result.value
 
     def EditText(self, Box, Text, SelStart, SelLength):
-        """Text and selection of a box are what the user has made them. Counted in characters (code points)."""
+        """The user has changed the text or the selection of a box; positions in characters (code points)."""
         with lent(Box) as Box_handle:
             check(_library.quor_dialog_EditText(self._handle, Box_handle, text(Text), int32(SelStart), int32(SelLength)))
 
     def Escape(self):
-        """The Escape key."""
+        """The Escape key was pressed."""
         check(_library.quor_dialog_Escape(self._handle))
 
     def Close(self):
-        """The window's own close box."""
+        """The user closed the window by its frame."""
         check(_library.quor_dialog_Close(self._handle))
 
     def Paste(self, Box, Text):
-        """A text is pasted into a box, or dropped on it. It may fill the boxes behind it, too."""
+        """Text was pasted into a box or dropped on it. It may also fill the following boxes."""
         with lent(Box) as Box_handle:
             check(_library.quor_dialog_Paste(self._handle, Box_handle, text(Text)))
 
     def Help(self):
-        """The F1 key."""
+        """The F1 key was pressed."""
         check(_library.quor_dialog_Help(self._handle))
 
     @property
     def HelpButton(self):
-        """The button that the F1 key presses; none when there is none."""
+        """The button that the F1 key presses; none if there is none."""
         result = c_uint64()
         check(_library.quor_dialog_get_HelpButton(self._handle, byref(result)))
         return taken(result.value)
 
     @property
     def AdvisedBox(self):
-        """The box whose advice is to be shown; none when there is no advice."""
+        """The box whose advice should be shown; none if there is no advice."""
         result = c_uint64()
         check(_library.quor_dialog_get_AdvisedBox(self._handle, byref(result)))
         return taken(result.value)
 
 
 class Control(Object):
-    """A control of a dialog that runs. A member that its kind does not have is error 438."""
+    """A control of a running dialog. A member that its kind does not have is error 438."""
 
     __slots__ = ()
 
@@ -2796,14 +2816,14 @@ class Control(Object):
 
     @property
     def Kind(self):
-        """What kind of control it is."""
+        """The kind of the control."""
         result = c_int32()
         check(_library.quor_control_get_Kind(self._handle, byref(result)))
         return known(ControlKind, result.value)
 
     @property
     def Caption(self):
-        """What stands on the control; "&" marks the access key that follows it."""
+        """The text on the control; "&" precedes the access key."""
         result = Text()
         check(_library.quor_control_get_Caption(self._handle, byref(result)))
         return result.take()
@@ -2817,7 +2837,7 @@ class Control(Object):
 
     @property
     def Visible(self):
-        """The control's own flag: also True on a page that is not shown."""
+        """Whether the control is visible itself; it may nevertheless be in a hidden frame: IsShown."""
         result = c_int16()
         check(_library.quor_control_get_Visible(self._handle, byref(result)))
         return result.value != 0
@@ -2838,7 +2858,7 @@ class Control(Object):
 
     @property
     def Parent(self):
-        """The frame around it; none for a control that stands in the dialog itself."""
+        """The frame around it; none if it is directly in the dialog."""
         result = c_uint64()
         check(_library.quor_control_get_Parent(self._handle, byref(result)))
         return taken(result.value)
@@ -2878,7 +2898,7 @@ class Control(Object):
         return result.take()
 
     def get_ItemData(self, Index):
-        """The number that an item carries."""
+        """The number of an item."""
         result = c_int32()
         check(_library.quor_control_get_ItemData(self._handle, int32(Index), byref(result)))
         return result.value
@@ -2898,20 +2918,20 @@ class Control(Object):
         return result.value
 
     def get_RowLength(self, Row):
-        """How many places a row has, from 0."""
+        """How many cells a row has; rows count from 0."""
         result = c_int32()
         check(_library.quor_control_get_RowLength(self._handle, int32(Row), byref(result)))
         return result.value
 
     def get_RowControls(self, Row, Place):
-        """The control in a place of a row, both from 0; none in an empty place."""
+        """The control in a cell of a row, both from 0; none in an empty cell."""
         result = c_uint64()
         check(_library.quor_control_get_RowControls(self._handle, int32(Row), int32(Place), byref(result)))
         return taken(result.value)
 
     @property
     def TabCount(self):
-        """How many tabs a strip has, those that were taken out among them."""
+        """How many tabs a strip has, including removed ones."""
         result = c_int32()
         check(_library.quor_control_get_TabCount(self._handle, byref(result)))
         return result.value
@@ -2923,7 +2943,7 @@ class Control(Object):
         return result.take()
 
     def get_TabPresent(self, Index):
-        """False for a tab that was taken out."""
+        """False for a tab that was removed."""
         result = c_int16()
         check(_library.quor_control_get_TabPresent(self._handle, int32(Index), byref(result)))
         return result.value != 0
@@ -2937,14 +2957,14 @@ class Control(Object):
 
     @property
     def Advice(self):
-        """What the user is told of the text of a box before it is stored; mostly empty."""
+        """What the user should know about the text of a box before it is stored; usually empty."""
         result = Text()
         check(_library.quor_control_get_Advice(self._handle, byref(result)))
         return result.take()
 
 
 class ProbeFile(Object):
-    """The probes of a host's file, or the one of a stand-alone settings file. A file that is not there is error 53; one that may be new has no probes, and the first write makes it. What is written is durable when the call returns, and every call that writes does so in one turn, upon the file as it is then. All reads see one text, that which was loaded first or saved last, until Reload. Between Hold and Release nothing is written: Release does all of it together, or when one thing fails nothing, and raises what that raises. Source, which such a call reads, stays until then. An error of a probe is 75 or the number of its cause; ErrorCode says which it is."""
+    """The probes of a host's file, or the one of a stand-alone settings file. A file that does not exist is error 53; one that may be new has no probes, and the first write creates it. What is written is durable when the call returns, and every call that writes holds the inter-process lock and works on the current file. All reads see the same text, the one that was loaded first or saved last, until Reload. Between Hold and Release nothing is written: Release does everything together, or, if one call fails, nothing, and raises the error of that call. A Source that such a call reads must exist until then. An error of a probe is 75 or the number of its cause; ErrorCode says which one it is."""
 
     __slots__ = ()
 
@@ -2955,14 +2975,14 @@ class ProbeFile(Object):
 
     @property
     def Path(self):
-        """The path as it was given."""
+        """The path with which the object was created."""
         result = Text()
         check(_library.quor_probe_file_get_Path(self._handle, byref(result)))
         return result.take()
 
     @property
     def IsReadOnly(self):
-        """Whether a write would be refused, because this user may not write the file or its folder."""
+        """Whether a write would be refused because the user has no permission to write the file or its folder."""
         result = c_int16()
         check(_library.quor_probe_file_get_IsReadOnly(self._handle, byref(result)))
         return result.value != 0
@@ -2987,19 +3007,19 @@ class ProbeFile(Object):
         return result.value
 
     def get_ProbeType(self, Index):
-        """The conversion type of a probe, CONV_NONE where HasType is False. It may be a code of none."""
+        """The conversion type of a probe, CONV_NONE if HasType is False. It may be a code that is not a type."""
         result = c_int32()
         check(_library.quor_probe_file_get_ProbeType(self._handle, int32(Index), byref(result)))
         return known(ConversionType, result.value)
 
     def get_HasType(self, Index):
-        """Whether the record of a probe says a type that can be read. False for a stand-alone one."""
+        """Whether the record of a probe has a type that can be read. False for a stand-alone one."""
         result = c_int16()
         check(_library.quor_probe_file_get_HasType(self._handle, int32(Index), byref(result)))
         return result.value != 0
 
     def get_IsStandAlone(self, Index):
-        """Whether the section holds the settings themselves: the probe of a settings file."""
+        """Whether the section itself has the settings: the probe of a settings file."""
         result = c_int16()
         check(_library.quor_probe_file_get_IsStandAlone(self._handle, int32(Index), byref(result)))
         return result.value != 0
@@ -3011,14 +3031,14 @@ class ProbeFile(Object):
         return result.take()
 
     def FindProbe(self, Section):
-        """The index of the probe of a section, in any case of ASCII letters; -1 when there is none."""
+        """The index of the probe in a section, ignoring the case of ASCII letters; -1 if there is none."""
         result = c_int32()
         check(_library.quor_probe_file_FindProbe(self._handle, text(Section), byref(result)))
         return result.value
 
     def Read(self, Section, Conversion):
-        """Reads a probe into a conversion, which gets its type, and defaults for what is missing: False then, and
-        there are rows."""
+        """Reads a probe into a conversion, which receives its type. False if something was missing, for which it
+        has the defaults: see ProblemCount."""
         result = c_int16()
         with lent(Conversion) as Conversion_handle:
             check(_library.quor_probe_file_Read(self._handle, text(Section), Conversion_handle, byref(result)))
@@ -3031,15 +3051,14 @@ class ProbeFile(Object):
         return taken(result.value)
 
     def Check(self):
-        """Looks for all that is wrong with the file and its probes. How many problems there are."""
+        """Finds everything that is wrong with the file and its probes. Returns the number of problems."""
         result = c_int32()
         check(_library.quor_probe_file_Check(self._handle, byref(result)))
         return result.value
 
     @property
     def ProblemCount(self):
-        """How many problems the last Read or Check has found. Their rows are kept until the next call that is no
-        get."""
+        """How many problems the last Read or Check has found. They are kept until the next call that is not a get."""
         result = c_int32()
         check(_library.quor_probe_file_get_ProblemCount(self._handle, byref(result)))
         return result.value
@@ -3051,51 +3070,52 @@ class ProbeFile(Object):
         return known(ProbeProblem, result.value)
 
     def get_ProblemLine(self, Index):
-        """The line of a problem, from 1; 0 for what stands beside the file."""
+        """The line of a problem, from 1; 0 for a file beside it."""
         result = c_int32()
         check(_library.quor_probe_file_get_ProblemLine(self._handle, int32(Index), byref(result)))
         return result.value
 
     def get_ProblemSection(self, Index):
-        """The section of a problem; empty where it has no name."""
+        """The section of a problem; empty if it has no name."""
         result = Text()
         check(_library.quor_probe_file_get_ProblemSection(self._handle, int32(Index), byref(result)))
         return result.take()
 
     def get_ProblemKey(self, Index):
-        """The key of a problem; empty where it is not that of one key."""
+        """The key of a problem; empty if it does not concern a single key."""
         result = Text()
         check(_library.quor_probe_file_get_ProblemKey(self._handle, int32(Index), byref(result)))
         return result.take()
 
     def get_ProblemText(self, Index):
-        """What is wrong, for a person, without the place."""
+        """What is wrong, for people, without the place."""
         result = Text()
         check(_library.quor_probe_file_get_ProblemText(self._handle, int32(Index), byref(result)))
         return result.take()
 
     @property
     def MessageCount(self):
-        """How many messages the last Read has brought, which are shown to nobody."""
+        """How many messages of the library the last Read has collected instead of showing them."""
         result = c_int32()
         check(_library.quor_probe_file_get_MessageCount(self._handle, byref(result)))
         return result.value
 
     def get_Messages(self, Index):
-        """A message of the library, on one line."""
+        """A message of the last Read, on one line."""
         result = Text()
         check(_library.quor_probe_file_get_Messages(self._handle, int32(Index), byref(result)))
         return result.take()
 
     def Write(self, Section, Conversion):
-        """Writes a probe, over that of the section or as a new one: only lines of values that differ change."""
+        """Writes a probe into a section, replacing the one there or as a new one: only the lines of values that
+        differ change."""
         with lent(Conversion) as Conversion_handle:
             check(_library.quor_probe_file_Write(self._handle, text(Section), Conversion_handle))
 
     def WriteChanges(self, Section, Conversion):
-        """Writes the values of a probe that have become others since this object has read them into the conversion,
-        or has written them from it. What other programs have written beside them stays, now and in later calls.
-        False when they have changed the same values: there are conflicts, and nothing is written. Error 5 for a
+        """Writes the values of a probe that have changed since this object has read them into the conversion, or
+        has written them from it. What other programs have written elsewhere is kept, in later calls too. False
+        if they have changed the same values: there are conflicts, and nothing is written. Error 5 for a
         conversion that this object has neither read nor written."""
         result = c_int16()
         with lent(Conversion) as Conversion_handle:
@@ -3104,7 +3124,7 @@ class ProbeFile(Object):
 
     @property
     def ConflictCount(self):
-        """How many values others have changed, too, as the last WriteChanges or Release has found."""
+        """How many values other programs have changed too, as found by the last WriteChanges or Release."""
         result = c_int32()
         check(_library.quor_probe_file_get_ConflictCount(self._handle, byref(result)))
         return result.value
@@ -3128,27 +3148,27 @@ class ProbeFile(Object):
         return result.take()
 
     def get_ConflictTheirs(self, Index):
-        """The value that stands in the file now; empty for none."""
+        """The value that the file has now; empty for none."""
         result = Text()
         check(_library.quor_probe_file_get_ConflictTheirs(self._handle, int32(Index), byref(result)))
         return result.take()
 
     def get_ConflictOurs(self, Index):
-        """The value that was to be written."""
+        """The value that should have been written."""
         result = Text()
         check(_library.quor_probe_file_get_ConflictOurs(self._handle, int32(Index), byref(result)))
         return result.take()
 
     def Rename(self, Section, Name):
-        """Gives a probe another name, and so the sections of its settings."""
+        """Renames a probe and the sections of its settings."""
         check(_library.quor_probe_file_Rename(self._handle, text(Section), text(Name)))
 
     def Remove(self, Section):
-        """Removes a probe with the sections of its settings. Comments that stand apart stay."""
+        """Removes a probe with the sections of its settings. Comments set apart by a blank line stay."""
         check(_library.quor_probe_file_Remove(self._handle, text(Section)))
 
     def Copy(self, Section, ToSection):
-        """Writes the values of a probe into another section, a new one or one of the same type."""
+        """Copies the values of a probe into another section, which is new or has a probe of the same type."""
         check(_library.quor_probe_file_Copy(self._handle, text(Section), text(ToSection)))
 
     def CopyFrom(self, Source, Section, ToSection):
@@ -3165,11 +3185,11 @@ class ProbeFile(Object):
         check(_library.quor_probe_file_Release(self._handle))
 
     def Abandon(self):
-        """Closes a bracket in place of Release: nothing written since the outermost Hold is saved."""
+        """Closes a bracket instead of Release: nothing written since the outermost Hold is saved."""
         check(_library.quor_probe_file_Abandon(self._handle))
 
     def SaveAs(self, Path):
-        """Gives another file the text of this one as it was loaded or saved last."""
+        """Replaces another file with the text of this one as it was last loaded or saved."""
         check(_library.quor_probe_file_SaveAs(self._handle, text(Path)))
 
     @property
@@ -3180,33 +3200,33 @@ class ProbeFile(Object):
         return result.value != 0
 
     def Reload(self):
-        """Loads the file as it is now."""
+        """Loads the current file."""
         check(_library.quor_probe_file_Reload(self._handle))
 
     @property
     def Store(self):
-        """The file itself, for its other sections."""
+        """The store of the file, for its other sections."""
         result = c_uint64()
         check(_library.quor_probe_file_get_Store(self._handle, byref(result)))
         return taken(result.value)
 
     @property
     def ErrorCode(self):
-        """Why the last call has failed; 0 when it has not, or when it is no matter of a probe."""
+        """Why the last call failed; 0 if it did not, or if the error does not concern a probe."""
         result = c_int32()
         check(_library.quor_probe_file_get_ErrorCode(self._handle, byref(result)))
         return known(ProbeFileError, result.value)
 
     @property
     def ErrorOther(self):
-        """What else that concerns: another probe or section, or a type; mostly empty."""
+        """What else the error concerns: another probe or section, or a type; usually empty."""
         result = Text()
         check(_library.quor_probe_file_get_ErrorOther(self._handle, byref(result)))
         return result.take()
 
     def Differs(self, Section, Conversion):
-        """Whether WriteChanges would write anything; of a conversion that this object has neither read nor written,
-        whether it has another type or other values than the probe, as Read would give it."""
+        """Whether WriteChanges would write anything; for a conversion that this object has neither read nor
+        written, whether it has another type or other values than the probe, as Read would give it."""
         result = c_int16()
         with lent(Conversion) as Conversion_handle:
             check(_library.quor_probe_file_Differs(self._handle, text(Section), Conversion_handle, byref(result)))
@@ -3214,7 +3234,7 @@ class ProbeFile(Object):
 
 
 class ProbeTable(Object):
-    """The numbers of all probes of a file, one array behind the other, for hosts in languages with slow calls. It is of the moment in which ReadAll made it. The values of probe i begin where those of probe i - 1 end."""
+    """The numbers of all probes of a file in one array each, for hosts in languages with slow calls, as they were when ReadAll made it. The values of probe i begin where those of probe i - 1 end."""
 
     __slots__ = ()
 
@@ -3227,14 +3247,14 @@ class ProbeTable(Object):
 
     @property
     def Sections(self):
-        """The sections of the probes, each with a line feed (10) behind it."""
+        """The sections of the probes, each followed by a line feed (10)."""
         result = Text()
         check(_library.quor_probe_table_get_Sections(self._handle, byref(result)))
         return result.take()
 
     @property
     def Types(self):
-        """The conversion type of each probe; CONV_NONE where it cannot be read."""
+        """The conversion type of each probe; CONV_NONE if it cannot be read."""
         result = Int32s()
         check(_library.quor_probe_table_get_Types(self._handle, byref(result)))
         return result.take()
@@ -3248,7 +3268,7 @@ class ProbeTable(Object):
 
     @property
     def KeyLists(self):
-        """Each list of keys that occurs, with tabs between the keys and a line feed (10) behind the list."""
+        """The different lists of keys, with tabs between the keys, each list followed by a line feed (10)."""
         result = Text()
         check(_library.quor_probe_table_get_KeyLists(self._handle, byref(result)))
         return result.take()
@@ -3262,14 +3282,14 @@ class ProbeTable(Object):
 
     @property
     def ValueEnds(self):
-        """Where the values of each probe end, and those of the next one begin."""
+        """The index after the last value of each probe, where those of the next one begin."""
         result = Int32s()
         check(_library.quor_probe_table_get_ValueEnds(self._handle, byref(result)))
         return result.take()
 
     @property
     def Values(self):
-        """The values of all probes. Booleans are 1 and 0; texts, such as units, are not among them."""
+        """The values of all probes. Booleans are 1 and 0; texts, such as units, are not included."""
         result = Doubles()
         check(_library.quor_probe_table_get_Values(self._handle, byref(result)))
         return result.take()
