@@ -2,11 +2,10 @@
 
 #include "QuorIniFile/IniStore.h"
 #include "QuorIniFile/QuorError.h"
-#include "QuorIniFile/Utf8.h"
+#include "QuorRegistryII/detail/UserFolder.h"
 
 #include <cstdint>
-#include <cstdlib>
-#include <optional>
+#include <filesystem>
 #include <utility>
 
 using QuorIniFile::QuorError;
@@ -21,31 +20,23 @@ QuorError FileError(std::int32_t number, std::wstring_view fileName, QuorIniFile
     return {number, L"QuorRegistryII", std::move(description), std::move(cause)};
 }
 
-/// The absolute path that an environment variable holds, or nothing.
-std::optional<std::wstring> PathFrom(const char* variable) {
-    const char* const path =
-        std::getenv(variable); // NOLINT(concurrency-mt-unsafe): the library starts no threads
-    return path != nullptr && *path == '/' ? QuorIniFile::FromUtf8(path) : std::nullopt;
-}
+constexpr auto separator = static_cast<wchar_t>(std::filesystem::path::preferred_separator);
 
 std::wstring ConfigurationFolder(const std::wstring& fileName) {
-    if (auto folder = PathFrom("XDG_CONFIG_HOME"))
+    if (auto folder = UserFolder())
         return *std::move(folder);
-    if (const auto home = PathFrom("HOME"))
-        return *home + L"/.config";
     throw FileError(QuorIniFile::ERR_PATH_NOT_FOUND, fileName, QuorIniFile::INI_CAUSE_NO_HOME);
 }
 
 } // namespace
 
 FileRegistry::FileRegistry(std::wstring_view application, std::wstring_view folder) {
-    if (application.empty() || application == L"." || application == L".." ||
-        application.find_first_of(std::wstring_view(L"/\0", 2)) != std::wstring_view::npos)
+    if (!IsFileName(application))
         throw FileError(QuorIniFile::ERR_BAD_FILE_NAME, application, QuorIniFile::INI_CAUSE_NONE);
     const std::wstring fileName = std::wstring(application).append(L".ini");
-    m_fileName = folder.empty() ? ConfigurationFolder(fileName).append(L"/").append(application)
+    m_fileName = folder.empty() ? ConfigurationFolder(fileName).append(1, separator).append(application)
                                 : std::wstring(folder);
-    m_fileName.append(L"/").append(fileName);
+    m_fileName.append(1, separator).append(fileName);
 }
 
 bool FileRegistry::ReadValue(std::wstring_view section, std::wstring_view name, std::wstring& value) {

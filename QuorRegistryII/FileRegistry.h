@@ -13,7 +13,8 @@ namespace QuorRegistryII {
 class QUORREGISTRYII_EXPORT FileRegistry final : public Registry {
 public:
     /// Keeps the values in the file `application`.ini in `folder`. Without a folder: in the folder
-    /// `application` below $XDG_CONFIG_HOME (if that is an absolute path), otherwise below $HOME/.config.
+    /// `application` below $XDG_CONFIG_HOME (if that is an absolute path), otherwise below $HOME/.config;
+    /// on Windows below %APPDATA%.
     /// Raises 52 for a name that no file can have, and 76 if the user has no such folder.
     explicit FileRegistry(std::wstring_view application, std::wstring_view folder = {});
 

@@ -4,6 +4,12 @@
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
+# What is asked of the operating system stands in files of its own: NamePosix.cpp, NameWindows.cpp.
+set(QUOR_SYSTEM Posix)
+if(WIN32)
+    set(QUOR_SYSTEM Windows)
+endif()
+
 # Installed libraries find each other, and installed programs find them, wherever the folder is.
 set(CMAKE_INSTALL_RPATH $ORIGIN $ORIGIN/../${CMAKE_INSTALL_LIBDIR})
 
@@ -14,6 +20,9 @@ target_compile_options(quor_options INTERFACE
 # Sources that are compiled together have no file of their own whose types could be seen elsewhere.
 target_compile_options(quor_options INTERFACE
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>:-Wno-subobject-linkage>)
+if(MINGW) # in optimised code it takes copies of wide texts of one character for ones past their end
+    target_compile_options(quor_options INTERFACE -Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread)
+endif()
 # Warnings are errors for those who work on this project, not for those who build it with compilers of their own.
 if(PROJECT_IS_TOP_LEVEL AND NOT DEFINED CMAKE_COMPILE_WARNING_AS_ERROR)
     set(CMAKE_COMPILE_WARNING_AS_ERROR ON)
@@ -138,6 +147,9 @@ function(quor_version_script name content)
     if(NOT type STREQUAL SHARED_LIBRARY)
         string(TOUPPER ${name} upper)
         target_compile_definitions(${name} PUBLIC ${upper}_STATIC_DEFINE)
+        return()
+    endif()
+    if(WIN32) # it exports what is marked for it, and nothing else
         return()
     endif()
     set(map ${CMAKE_CURRENT_BINARY_DIR}/${name}.map)

@@ -269,23 +269,38 @@ bool HasOnly(const OpenFile& file, std::string_view bytes, const Target& target)
 
 // Paths ----------------------------------------------------------------------------------------------------
 
+/// A path of the file system's interface, which is UTF-8 on every system, and back.
+fs::path PathFrom(std::string_view bytes) { return {std::u8string(bytes.begin(), bytes.end())}; }
+std::string BytesOf(const fs::path& path) {
+    const std::u8string bytes = path.u8string();
+    return {bytes.begin(), bytes.end()};
+}
+
+bool IsAbsolute(const fs::path& path) {
+    // Not every library knows the paths of a network: \\server\share\file.
+    const auto& text = path.native();
+    const auto isSeparator = [](auto c) { return c == '/' || c == fs::path::preferred_separator; };
+    return path.is_absolute() || (fs::path::preferred_separator != '/' && text.size() > 1 &&
+                                  isSeparator(text[0]) && isSeparator(text[1]));
+}
+
 /// The path at the end of all symbolic links, whether there is a file or not.
 fs::path FollowLinks(fs::path path, const Target& target) {
     constexpr int mostLinks = 40;
     for (int links = 0; links <= mostLinks; ++links) {
-        const auto link = Uninterrupted([&] { return target.files.LinkAt(path.string()); });
+        const auto link = Uninterrupted([&] { return target.files.LinkAt(BytesOf(path)); });
         if (link.error == EINVAL || link.error == ENOENT)
             return path;
         if (link.error != 0)
             Raise(link.error, target.fileName, Purpose::Write);
-        path = path.parent_path() / link.value;
+        path = path.parent_path() / PathFrom(link.value);
     }
     Raise(ELOOP, target.fileName, Purpose::Write);
 }
 
 std::string FolderOf(const fs::path& path) {
     const fs::path folder = path.parent_path();
-    return folder.empty() ? "." : folder.string();
+    return folder.empty() ? "." : BytesOf(folder);
 }
 
 std::string Hexadecimal(std::uint64_t number) {
@@ -306,7 +321,7 @@ struct Neighbours {
 
     explicit Neighbours(const fs::path& target) : folder(FolderOf(target)) {
         std::uint64_t number = 0xCBF29CE484222325U;
-        for (const char c : target.filename().string()) {
+        for (const char c : BytesOf(target.filename())) {
             // Where the case of letters makes no difference, it must not make two locks.
             number = (number ^ static_cast<unsigned char>(Small(c))) * 0x100000001B3U;
         }
@@ -315,7 +330,7 @@ struct Neighbours {
         temporaryStart = start + '-';
     }
     [[nodiscard]] std::string Path(const std::string& name) const {
-        return folder == "." ? name : (fs::path(folder) / name).string();
+        return folder == "." ? name : BytesOf(PathFrom(folder) / PathFrom(name));
     }
     [[nodiscard]] std::string Temporary(std::uint64_t random) const {
         return Path(temporaryStart + Hexadecimal(random) + std::string(temporaryEnd));
@@ -337,6 +352,23 @@ struct Neighbours {
     }
 };
 
+/// Creates a folder, and those above it that are missing.
+void MakeFolder(const fs::path& folder, const Target& target) {
+    const std::string path = BytesOf(folder);
+    const auto make = [&] { return Uninterrupted([&] { return target.files.MakeFolder(path); }); };
+    int error = make();
+    if (error == ENOENT && folder.has_parent_path() && folder.parent_path() != folder) {
+        MakeFolder(folder.parent_path(), target);
+        error = make();
+    }
+    if (error == EEXIST) { // a folder, or a link to one?
+        const auto there = Uninterrupted([&] { return target.files.StatusAt(path); });
+        error = there.error == 0 && there.value.kind != IniFileStatus::Kind::Folder ? ENOTDIR : there.error;
+    }
+    if (error != 0)
+        Raise(error, target.fileName, Purpose::Write);
+}
+
 } // namespace
 
 // Names ----------------------------------------------------------------------------------------------------
@@ -348,12 +380,12 @@ IniFileName IniFileName::Absolute(std::wstring_view text, IniFileSystem& files) 
     if (text.empty() || text.find(L'\0') != std::wstring_view::npos || !NameToFind(text))
         throw FileError(ERR_BAD_FILE_NAME, text);
     IniFileName name{std::wstring(text)};
-    if (fs::path(name.m_path).is_absolute())
+    if (IsAbsolute(PathFrom(name.m_path)))
         return name;
     const auto folder = Uninterrupted([&] { return files.CurrentFolder(); });
     if (folder.error != 0)
         Raise(folder.error, text, Purpose::Write);
-    std::string path = (fs::path(folder.value) / name.m_path).string();
+    std::string path = BytesOf(PathFrom(folder.value) / PathFrom(name.m_path));
     constexpr std::size_t longest = 4095; // bytes; what is below such a folder can be named from there only
     if (path.size() <= longest)
         name.m_path = std::move(path);
@@ -387,8 +419,8 @@ bool HasBytes(const IniFileName& fileName, std::string_view bytes, IniFileSystem
 }
 
 bool IsSamePlace(const IniFileName& a, const IniFileName& b, IniFileSystem& files) {
-    const fs::path one = FollowLinks(fs::path(a.Path()), {files, a.Text()});
-    const fs::path other = FollowLinks(fs::path(b.Path()), {files, b.Text()});
+    const fs::path one = FollowLinks(PathFrom(a.Path()), {files, a.Text()});
+    const fs::path other = FollowLinks(PathFrom(b.Path()), {files, b.Text()});
     // An answer that is not known is no "no": the one file would be overwritten as another one.
     const auto statusOf = [&files](const std::string& path, const IniFileName& name) {
         const auto status = Uninterrupted([&] { return files.StatusAt(path); });
@@ -402,34 +434,25 @@ bool IsSamePlace(const IniFileName& a, const IniFileName& b, IniFileSystem& file
     if (one.filename() == other.filename() && isOne(statusOf(FolderOf(one), a), statusOf(FolderOf(other), b)))
         return true;
     // Where the case of letters makes no difference, one file answers to two spellings of its only name.
-    const auto file = statusOf(one.string(), a);
-    return file.value.links == 1 && isOne(file, statusOf(other.string(), b));
+    const auto file = statusOf(BytesOf(one), a);
+    return file.value.links == 1 && isOne(file, statusOf(BytesOf(other), b));
 }
 
 bool IsReadOnly(const IniFileName& fileName, IniFileSystem& files) {
-    const fs::path path = FollowLinks(fs::path(fileName.Path()), {files, fileName.Text()});
-    const int error = Uninterrupted([&] { return files.MayWrite(path.string()); });
+    const fs::path path = FollowLinks(PathFrom(fileName.Path()), {files, fileName.Text()});
+    const int error = Uninterrupted([&] { return files.MayWrite(BytesOf(path)); });
     return (error != 0 && error != ENOENT) ||
            Uninterrupted([&] { return files.MayWrite(FolderOf(path)); }) != 0;
 }
 
 void MakeFolderOf(const IniFileName& fileName, IniFileSystem& files) {
-    fs::path made;
-    for (const fs::path& part : fs::path(fileName.Path()).parent_path()) {
-        made /= part;
-        int error = Uninterrupted([&] { return files.MakeFolder(made.string()); });
-        if (error == EEXIST) { // a folder, or a link to one?
-            const auto there = Uninterrupted([&] { return files.StatusAt(made.string()); });
-            error =
-                there.error == 0 && there.value.kind != IniFileStatus::Kind::Folder ? ENOTDIR : there.error;
-        }
-        if (error != 0)
-            Raise(error, fileName.Text(), Purpose::Write);
-    }
+    const fs::path folder = PathFrom(fileName.Path()).parent_path();
+    if (!folder.empty())
+        MakeFolder(folder, {files, fileName.Text()});
 }
 
 std::vector<IniLeftover> LeftoversOf(const IniFileName& fileName, IniFileSystem& files) {
-    const Neighbours neighbours(FollowLinks(fs::path(fileName.Path()), {files, fileName.Text()}));
+    const Neighbours neighbours(FollowLinks(PathFrom(fileName.Path()), {files, fileName.Text()}));
     // A relative name was completed by the folder that was the current one then.
     const std::string_view path = fileName.Path();
     const std::string given = ToUtf8(fileName.Text());
@@ -475,8 +498,8 @@ public:
     Work(const IniFileName& fileName, IniFileSystem& files)
         : m_fileName(fileName.Text()),
           m_files(files),
-          m_path(FollowLinks(fs::path(fileName.Path()), {files, m_fileName}).string()),
-          m_neighbours(fs::path(m_path)) {}
+          m_path(BytesOf(FollowLinks(PathFrom(fileName.Path()), {files, m_fileName}))),
+          m_neighbours(PathFrom(m_path)) {}
     Work(const Work&) = delete;
     Work& operator=(const Work&) = delete;
     ~Work() {
@@ -490,7 +513,6 @@ public:
     }
 
     void Begin() {
-        constexpr std::chrono::seconds patience(10);
         constexpr std::chrono::milliseconds step(1);             // short, so that each of many has its turn
         const std::chrono::milliseconds start = m_files.Clock(); // calls take their time, too
         for (;;) {
@@ -536,8 +558,11 @@ public:
     [[nodiscard]] const QuorError& Setback() const { return m_setback.value(); }
 
 private:
+    static constexpr std::chrono::seconds patience{10};
+
     enum class SetbackKind : std::uint8_t {
         FileChanged,
+        FileOpen, // the system does not replace it as long as somebody has it open
         LockLost,
         TemporaryLost,
         NeedsName, // the new text has to have a name from the start
@@ -595,6 +620,7 @@ private:
         case SetbackKind::Stolen:
             return FileError(ERR_PATH_FILE_ACCESS, m_fileName, INI_CAUSE_KEEPS_REMOVING,
                              {DecodeBytes(m_temporary)});
+        case SetbackKind::FileOpen: // waited for where it is told
         case SetbackKind::FileChanged:
             break;
         }
@@ -782,7 +808,24 @@ private:
         WriteText(bytes);
         if (StatusOf(m_text->file, Here(), Purpose::Write).size != bytes.size())
             Raise(EIO, m_fileName, Purpose::Write); // the system has not done what it said
-        return Replace(read);
+        return ReplaceWhenFree(read);
+    }
+
+    /// Where the system replaces no file that is open: waits until whoever has it open has closed it.
+    std::optional<SetbackKind> ReplaceWhenFree(std::optional<std::string_view> read) {
+        constexpr std::chrono::milliseconds step(5);
+        const std::chrono::milliseconds start = m_files.Clock();
+        for (;;) {
+            const auto setback = Replace(read);
+            if (setback != SetbackKind::FileOpen)
+                return setback;
+            if (m_files.Clock() - start >= patience)
+                throw InUse({});
+            m_files.Pause(step);
+            m_old = OpenRegular(m_path, Here());
+            if (!m_old || m_old->stamp != m_stamp)
+                return SetbackKind::FileChanged;
+        }
     }
 
     /// The same until it has succeeded, or something has come in between that is not a theft.
@@ -941,7 +984,12 @@ private:
 
     /// Where files cannot change names, or there is no old one.
     std::optional<SetbackKind> Overwrite() {
-        if (const int error = Uninterrupted([&] { return m_files.Rename(m_temporary, m_path); }))
+        if (m_old)
+            m_old->file = OpenFile(); // some systems replace no file that is open
+        const int error = Uninterrupted([&] { return m_files.Rename(m_temporary, m_path); });
+        if (error == EWOULDBLOCK)
+            return SetbackKind::FileOpen;
+        if (error != 0)
             return WhyNot(error);
         m_hasTemporary = false;
         if (FileAt(m_path) == m_text->id)

@@ -110,7 +110,8 @@ public:
     /// Gives a file the rights that its status said, or its owner's alone (`ownerOnly`).
     [[nodiscard]] virtual int SetRights(Handle file, std::uint32_t rights) = 0;
     static constexpr std::uint32_t ownerOnly = 0600;
-    /// In one step, in place of what has the name `to`. EBUSY when that is a mount point.
+    /// In one step, in place of what has the name `to`. EBUSY when that is a mount point, EWOULDBLOCK when
+    /// somebody has it open and the system replaces no such file.
     [[nodiscard]] virtual int Rename(const std::string& from, const std::string& to) = 0;
     /// Lets two files change names, in one step. ENOTSUP where the system or the file system cannot do that.
     [[nodiscard]] virtual int Exchange(const std::string& one, const std::string& other) = 0;

@@ -2,6 +2,7 @@
 
 #include "QuorIniFile/Utf8.h"
 #include "apps/quorconv/Failure.h"
+#include "apps/quorconv/System.h"
 #include "apps/quorconv/UnifiedDiff.h"
 
 #include <cstdio>
@@ -12,8 +13,6 @@
 #include <string_view>
 #include <system_error>
 #include <utility>
-
-#include <stdlib.h> // NOLINT(modernize-deprecated-headers): mkdtemp is not in cstdlib
 
 namespace quorconv {
 
@@ -81,10 +80,15 @@ struct NothingIsSaved {};
 
 } // namespace
 
+std::filesystem::path PathOf(const std::wstring& path) {
+    const std::string bytes = QuorIniFile::ToUtf8(path);
+    return {std::u8string(bytes.begin(), bytes.end())};
+}
+
 std::string ReadAll(const std::wstring& path) {
     if (path == standardInput)
         return StandardInput();
-    const std::string name = QuorIniFile::ToUtf8(path);
+    const std::filesystem::path name = PathOf(path);
     std::error_code ignored;
     if (std::filesystem::is_directory(name, ignored))
         throw Problem{path + L": this is a folder"};
@@ -129,10 +133,11 @@ void RequireReadable(ProbeFile& file) {
 }
 
 PrivateFolder::PrivateFolder() {
-    std::string path = (std::filesystem::temp_directory_path() / "quorconv-XXXXXX").string();
-    if (::mkdtemp(path.data()) == nullptr)
-        throw Problem{L"no temporary folder can be made: " + QuorIniFile::DecodeBytes(path)};
-    m_path = path;
+    auto path = NewPrivateFolder();
+    if (!path)
+        throw Problem{L"no temporary folder can be made in " +
+                      std::filesystem::temp_directory_path().wstring()};
+    m_path = *std::move(path);
 }
 
 PrivateFolder::~PrivateFolder() {

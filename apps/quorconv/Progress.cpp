@@ -4,26 +4,17 @@
 
 #include <cstdlib>
 #include <iostream>
-#include <string_view>
 #include <utility>
-
-#include <unistd.h>
 
 namespace quorconv {
 
 namespace {
 
-/// One that can move its cursor and shows colours.
-bool IsTerminal(int stream) {
-    const char* const kind = std::getenv("TERM");
-    return ::isatty(stream) != 0 && kind != nullptr && std::string_view(kind) != "dumb";
-}
-
 constexpr auto pause = std::chrono::seconds(1);
 
 } // namespace
 
-bool ShowsColour(int stream) {
+bool ShowsColour(Stream stream) {
     const char* const noColour = std::getenv("NO_COLOR");
     return (noColour == nullptr || *noColour == '\0') && IsTerminal(stream);
 }
@@ -31,7 +22,7 @@ bool ShowsColour(int stream) {
 Progress::Progress(std::wstring what, std::size_t all)
     : m_what(std::move(what)),
       m_all(all),
-      m_isTerminal(IsTerminal(STDERR_FILENO)),
+      m_isTerminal(IsTerminal(Stream::Error)),
       m_next(std::chrono::steady_clock::now() + pause) {}
 
 Progress::~Progress() {

@@ -1,14 +1,15 @@
 #pragma once
 
+#include "apps/quorconv/System.h"
+
 #include <chrono>
 #include <cstddef>
 #include <string>
 
 namespace quorconv {
 
-/// Whether the standard output, or the standard error, is a terminal that shows colours; not where NO_COLOR
-/// is set.
-[[nodiscard]] bool ShowsColour(int stream);
+/// Whether that is a terminal that shows colours; not where NO_COLOR is set.
+[[nodiscard]] bool ShowsColour(Stream stream);
 
 /// Tells on the standard error, where that is a terminal, how far a long work is: from its first second on.
 class Progress {

@@ -3,6 +3,7 @@
 #include "QuorIniFile/IniStore.h"
 
 #include "QuorIniFile/QuorError.h"
+#include "QuorIniFile/detail/IniDisk.h"
 #include "tests/support/InterceptedFiles.h"
 #include "tests/support/TempFolder.h"
 
@@ -12,8 +13,6 @@
 #include <stdexcept>
 #include <string>
 #include <vector>
-
-#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 using namespace QuorIniFile;
@@ -42,11 +41,7 @@ protected:
     void Add(const wchar_t* key, std::int16_t number) {
         Put(key, static_cast<std::int16_t>(Get(key) + number));
     }
-    [[nodiscard]] auto Inode() const {
-        struct stat status {};
-        EXPECT_EQ(::stat(folder.Path("a.ini").c_str(), &status), 0);
-        return status.st_ino;
-    }
+    [[nodiscard]] auto Inode() const { return StampOf(folder.Name("a.ini")).inode; }
     /// What `action` raises, with the file's name alone in place of its path; "" when it raises nothing.
     template <class Action>
     [[nodiscard]] std::string RaisedBy(const Action& action, std::int32_t number) const {
@@ -289,13 +284,13 @@ TEST_F(IniStoreEdit, CannotGoOnInAnotherFile) {
 
 TEST_F(IniStoreEdit, SavesFirstWhatAnEarlierSaveHasFailedFor) {
     File("[A]\nx=1\ny=1\n");
-    ASSERT_EQ(::chmod(folder.Path("a.ini").c_str(), 0444), 0);
+    folder.SetMode("a.ini", 0444);
     EXPECT_EQ(RaisedBy([&] { Put(L"x", 2); }, 70), "Permission denied: a.ini: The file is read-only");
     bool called = false;
     EXPECT_EQ(RaisedBy([&] { store.Edit([&] { called = true; }); }, 70),
               "Permission denied: a.ini: The file is read-only");
     EXPECT_FALSE(called);
-    ASSERT_EQ(::chmod(folder.Path("a.ini").c_str(), 0644), 0);
+    folder.SetMode("a.ini", 0644);
     EXPECT_THROW(store.Edit([&] {
         EXPECT_EQ(File(), "[A]\nx=2\ny=1\n");
         Add(L"y", 1);
@@ -307,11 +302,11 @@ TEST_F(IniStoreEdit, SavesFirstWhatAnEarlierSaveHasFailedFor) {
 
 TEST_F(IniStoreEdit, ThatCannotBeSavedForgetsWhatItWrote) {
     File("[A]\nx=1\n");
-    ASSERT_EQ(::chmod(folder.Path("a.ini").c_str(), 0444), 0);
+    folder.SetMode("a.ini", 0444);
     EXPECT_EQ(RaisedBy([&] { store.Edit([&] { Add(L"x", 1); }); }, 70),
               "Permission denied: a.ini: The file is read-only");
     EXPECT_EQ(Get(L"x"), 1);
-    ASSERT_EQ(::chmod(folder.Path("a.ini").c_str(), 0644), 0);
+    folder.SetMode("a.ini", 0644);
     Put(L"y", 1);
     EXPECT_EQ(File(), "[A]\nx=1\ny=1\n");
     store.Edit([&] { Add(L"x", 1); });

@@ -12,8 +12,6 @@
 #include <memory>
 #include <string>
 
-#include <sys/stat.h>
-
 namespace fs = std::filesystem;
 using namespace QuorIniFile;
 
@@ -80,7 +78,7 @@ TEST_F(IniStoreSaving, AReleaseWithoutAHoldIsIgnored) {
 
 TEST_F(IniStoreSaving, NothingIsSavedWhereNothingHasChanged) {
     File("[A]\nx=1\n");
-    ASSERT_EQ(::chmod(folder.Path("a.ini").c_str(), 0444), 0); // a save would be refused
+    folder.SetMode("a.ini", 0444); // a save would be refused
     store->Hold();
     Put(L"x", 1);
     store->Release();
@@ -105,7 +103,7 @@ TEST_F(IniStoreSaving, AStoreThatCannotSaveAnyMoreEndsQuietly) {
     File("[A]\nx=1\n");
     store->Hold();
     Put(L"x", 2);
-    ASSERT_EQ(::chmod(folder.Path("a.ini").c_str(), 0444), 0);
+    folder.SetMode("a.ini", 0444);
     store.reset();
     EXPECT_EQ(File(), "[A]\nx=1\n");
     EXPECT_EQ(folder.Files().size(), 1U);
@@ -129,7 +127,7 @@ TEST_F(IniStoreSaving, AFailedSaveKeepsTheFileNameAndTheChanges) {
     File("[A]\nx=1\n");
     store->Hold();
     Put(L"x", 2);
-    ASSERT_EQ(::chmod(folder.Path("a.ini").c_str(), 0444), 0);
+    folder.SetMode("a.ini", 0444);
     EXPECT_EQ(NumberRaisedBy([&] { store->SetFileName(folder.Name("b.ini")); }), 70);
     EXPECT_EQ(store->FileName(), folder.Name("a.ini"));
     EXPECT_EQ(NumberRaisedBy([&] { store->Release(); }), 70);
@@ -138,7 +136,7 @@ TEST_F(IniStoreSaving, AFailedSaveKeepsTheFileNameAndTheChanges) {
     EXPECT_TRUE(store->ReadInteger(L"x", value));
     EXPECT_EQ(value, 2);
 
-    ASSERT_EQ(::chmod(folder.Path("a.ini").c_str(), 0644), 0);
+    folder.SetMode("a.ini", 0644);
     Put(L"x", 2); // the value stands in memory already; it is the file that lacks it
     EXPECT_EQ(File(), "[A]\nx=2\n");
 }
@@ -192,7 +190,7 @@ TEST_F(IniStoreSaving, AValueThatAnotherProgramHasReplacedIsWrittenAgain) {
 
 TEST_F(IniStoreSaving, AHeldValueThatIsTakenBackSavesNothing) {
     File("[A]\nx=1 ; ohms\n");
-    ASSERT_EQ(::chmod(folder.Path("a.ini").c_str(), 0444), 0); // a save would be refused
+    folder.SetMode("a.ini", 0444); // a save would be refused
     store->Hold();
     Put(L"x", 2);
     Put(L"x", 1);
@@ -264,7 +262,7 @@ TEST_F(IniStoreSaving, AfterAnotherProgramHasWrittenTheSameNothingIsSaved) {
     Put(L"x", 2);
     fs::remove(folder.Path("a.ini"));
     File("[A]\nx=2\n; theirs\n");
-    ASSERT_EQ(::chmod(folder.Path("a.ini").c_str(), 0444), 0); // a save would be refused
+    folder.SetMode("a.ini", 0444); // a save would be refused
     store->Release();
     EXPECT_EQ(File(), "[A]\nx=2\n; theirs\n");
 }

@@ -13,8 +13,6 @@
 #include <utility>
 #include <vector>
 
-#include <sys/stat.h>
-
 namespace fs = std::filesystem;
 using namespace QuorIniFile;
 

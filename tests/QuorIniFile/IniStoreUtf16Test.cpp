@@ -4,6 +4,7 @@
 #include "QuorIniFile/IniStore.h"
 
 #include "QuorIniFile/QuorError.h"
+#include "QuorIniFile/detail/IniDisk.h"
 #include "tests/support/TempFolder.h"
 #include "tests/support/Utf16.h"
 
@@ -15,8 +16,6 @@
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 using namespace QuorIniFile;
@@ -39,11 +38,7 @@ protected:
     }
     void File(std::string_view bytes) const { folder.Write("a.ini", bytes); }
     [[nodiscard]] std::string File() const { return folder.Read("a.ini"); }
-    [[nodiscard]] auto Inode() const {
-        struct stat status {};
-        EXPECT_EQ(::stat(folder.Path("a.ini").c_str(), &status), 0);
-        return status.st_ino;
-    }
+    [[nodiscard]] auto Inode() const { return StampOf(folder.Name("a.ini")).inode; }
     void Put(const wchar_t* key, std::int16_t value) { store.WriteInteger(key, value, L""); }
     std::wstring Text(const wchar_t* key) {
         std::wstring text = L"-";

@@ -13,8 +13,6 @@
 #include <string>
 #include <string_view>
 
-#include <sys/stat.h>
-
 namespace fs = std::filesystem;
 using namespace QuorIniFile;
 
@@ -95,7 +93,7 @@ TEST(IniStoreWatchingASave, SeesWhatAnotherProgramMakesOfTheFileWhileTheFolderIs
 TEST_F(IniStoreWatching, TheSameTextIsNoChangeHoweverItCame) {
     File("[A]\nx=1\n");
     EXPECT_EQ(Read(L"x"), 1);
-    ASSERT_EQ(::chmod(folder.Path("a.ini").c_str(), 0600), 0);
+    folder.SetMode("a.ini", 0600);
     EXPECT_FALSE(store.FileChanged());
     File("[A]\nx=1\n");
     EXPECT_FALSE(store.FileChanged());

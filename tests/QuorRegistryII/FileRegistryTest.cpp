@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -14,33 +13,6 @@ using QuorIniFile::QuorError;
 using QuorRegistryII::FileRegistry;
 
 namespace {
-
-/// Sets or, with nothing, removes a variable of the environment while it lives.
-class Environment {
-public:
-    Environment(const char* variable, const char* value) : m_variable(variable) {
-        if (const char* const before = std::getenv(variable)) {
-            m_wasSet = true;
-            m_before = before;
-        }
-        Set(value);
-    }
-    Environment(const Environment&) = delete;
-    Environment& operator=(const Environment&) = delete;
-    ~Environment() { Set(m_wasSet ? m_before.c_str() : nullptr); }
-
-private:
-    void Set(const char* value) const {
-        if (value != nullptr)
-            ::setenv(m_variable, value, 1);
-        else
-            ::unsetenv(m_variable);
-    }
-
-    const char* m_variable;
-    bool m_wasSet = false;
-    std::string m_before;
-};
 
 template <class Action>
 std::int32_t NumberRaisedBy(const Action& action) {
@@ -87,14 +59,6 @@ TEST(FileRegistry, WhatIsMissingLeavesTheVariableAndMakesNoFile) {
     EXPECT_EQ(value, L"kept");
 }
 
-TEST(FileRegistry, TheFirstWriteMakesItsFoldersForTheUserAlone) {
-    const TempFolder folder;
-    FileRegistry registry(L"Probe Setup", folder.Name("new/folder"));
-    registry.WriteValue(L"A", L"x", L"1");
-    EXPECT_EQ(fs::status(folder.Path("new/folder")).permissions(), fs::perms::owner_all);
-    EXPECT_EQ(folder.Read("new/folder/Probe Setup.ini"), "[A]\nx=1\n");
-}
-
 TEST(FileRegistry, TwoRegistriesOfOneApplicationAgree) {
     const TempFolder folder;
     FileRegistry one(L"Probe Setup", folder.Path().wstring());
@@ -104,31 +68,6 @@ TEST(FileRegistry, TwoRegistriesOfOneApplicationAgree) {
     std::wstring value;
     EXPECT_TRUE(one.ReadValue(L"A", L"x", value));
     EXPECT_EQ(value, L"2");
-}
-
-TEST(FileRegistry, WithoutAFolderItIsTheUsersConfigurationFolder) {
-    const TempFolder folder;
-    const Environment home("HOME", folder.Path().c_str());
-    {
-        const Environment xdg("XDG_CONFIG_HOME", folder.Path("xdg").c_str());
-        EXPECT_EQ(FileRegistry(L"App").FileName(), folder.Name("xdg/App/App.ini"));
-    }
-    for (const char* notAbsolute : {static_cast<const char*>(nullptr), "", "relative"}) {
-        const Environment xdg("XDG_CONFIG_HOME", notAbsolute);
-        EXPECT_EQ(FileRegistry(L"App").FileName(), folder.Name(".config/App/App.ini"));
-    }
-}
-
-TEST(FileRegistry, AUserWithoutAHomeHasNoRegistry) {
-    const Environment home("HOME", nullptr);
-    const Environment xdg("XDG_CONFIG_HOME", nullptr);
-    const QuorError error = ErrorOf([] { const FileRegistry registry(L"App"); });
-    EXPECT_EQ(error.Number(), 76);
-    EXPECT_EQ(error.Source(), L"QuorRegistryII");
-    EXPECT_EQ(error.Description(), L"Path not found: App.ini: The user's configuration folder is not known, "
-                                   L"because HOME is not set");
-    ASSERT_NE(error.Cause(), nullptr) << "another language says it in its words";
-    EXPECT_EQ(error.Cause()->code, QuorIniFile::INI_CAUSE_NO_HOME);
 }
 
 TEST(FileRegistry, AnApplicationNameMustBeAFileName) {

@@ -7,7 +7,6 @@
 #include <fstream>
 #include <iterator>
 #include <set>
-#include <unistd.h>
 
 quor_object sample_Registry = 0;
 quor_object sample_INIFile = 0;

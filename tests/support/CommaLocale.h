@@ -1,20 +1,21 @@
 #pragma once
 
+#include "tests/support/Environment.h"
+
 #include <clocale>
 #include <locale>
 #include <sstream>
 #include <stdexcept>
 #include <string>
 
-#include <stdlib.h> // NOLINT(modernize-deprecated-headers): setenv is not in cstdlib
-
 /// Makes the whole process, C and C++, write numbers the German way while it lives, and proves that the
 /// decimal separator is a comma then. QUOR_TEST_LOCALES is the folder in which the build has made the locale.
 class CommaLocale {
 public:
     CommaLocale() {
-        ::setenv("LOCPATH", QUOR_TEST_LOCALES, 1);
-        std::setlocale(LC_ALL, "de_DE.UTF-8");
+        Support::SetVariable("LOCPATH", QUOR_TEST_LOCALES);
+        if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr)
+            std::setlocale(LC_ALL, "German"); // where locales are not files
         // std::locale by name would leak inside the C library, which the sanitizer rightly reports.
         m_before = std::locale::global(std::locale(std::locale::classic(), new GermanNumbers));
         std::ostringstream text;
@@ -27,7 +28,7 @@ public:
     ~CommaLocale() {
         std::locale::global(m_before);
         std::setlocale(LC_ALL, "C");
-        ::unsetenv("LOCPATH");
+        Support::SetVariable("LOCPATH", nullptr);
     }
 
 private:

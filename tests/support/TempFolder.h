@@ -3,21 +3,21 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include <stdlib.h> // NOLINT(modernize-deprecated-headers): mkdtemp is not in cstdlib
-
 /// A folder of its own for one test. It vanishes, with all that is in it, when the test ends.
 class TempFolder {
 public:
     TempFolder() {
-        std::string path = (std::filesystem::temp_directory_path() / "quor-test-XXXXXX").string();
-        if (::mkdtemp(path.data()) == nullptr)
-            throw std::runtime_error("no temporary folder: " + path);
-        m_path = path;
+        do {
+            std::random_device device;
+            m_path = std::filesystem::temp_directory_path() / ("quor-test-" + std::to_string(device()));
+        } while (!std::filesystem::create_directory(m_path));
+        std::filesystem::permissions(m_path, std::filesystem::perms::owner_all);
     }
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;
@@ -28,7 +28,9 @@ public:
     }
 
     [[nodiscard]] const std::filesystem::path& Path() const { return m_path; }
-    [[nodiscard]] std::filesystem::path Path(std::string_view file) const { return m_path / file; }
+    [[nodiscard]] std::filesystem::path Path(std::string_view file) const {
+        return m_path / std::u8string(file.begin(), file.end());
+    }
     /// The path of a file as the libraries take it.
     [[nodiscard]] std::wstring Name(std::string_view file) const { return Path(file).wstring(); }
 
@@ -45,11 +47,17 @@ public:
             throw std::runtime_error("cannot read " + Path(file).string());
         return bytes;
     }
+    /// Who may do what with a file, as chmod takes it; elsewhere whether it may be written.
+    void SetMode(std::string_view file, unsigned mode) const {
+        std::filesystem::permissions(Path(file), static_cast<std::filesystem::perms>(mode));
+    }
     /// The names of all that is in the folder, sorted.
     [[nodiscard]] std::vector<std::string> Files() const {
         std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(m_path))
-            names.push_back(entry.path().filename().string());
+        for (const auto& entry : std::filesystem::directory_iterator(m_path)) {
+            const std::u8string name = entry.path().filename().u8string();
+            names.emplace_back(name.begin(), name.end());
+        }
         std::sort(names.begin(), names.end());
         return names;
     }

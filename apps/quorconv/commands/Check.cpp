@@ -17,8 +17,6 @@
 #include <unordered_set>
 #include <utility>
 
-#include <unistd.h>
-
 namespace quorconv {
 
 using namespace QuorProbeFile;
@@ -99,7 +97,7 @@ class TextReport final : public Report {
             std::cout << "\x1B[0m";
         std::cout << '\n';
     }
-    bool m_isColoured = ShowsColour(STDOUT_FILENO);
+    bool m_isColoured = ShowsColour(Stream::Output);
 };
 
 /// As compilers do, for editors that go to a line.

@@ -14,8 +14,6 @@
 #include <sstream>
 #include <utility>
 
-#include <unistd.h>
-
 namespace quorconv {
 
 using namespace QuorProbeFile;
@@ -47,7 +45,7 @@ class Diff final : public Command {
         const ProbeTable after(*afterFile);
         TellDuplicates(*beforeFile, before);
         TellDuplicates(*afterFile, after);
-        m_isColoured = !m_isJson && ShowsColour(STDOUT_FILENO);
+        m_isColoured = !m_isJson && ShowsColour(Stream::Output);
         Progress progress(L"probes", before.Probes().size() + after.Probes().size());
         for (const ProbeEntry& entry : before.Probes()) {
             progress.Step();

@@ -4,15 +4,10 @@
 #include "apps/quorconv/HostFile.h"
 #include "apps/quorconv/Records.h"
 #include "apps/quorconv/Selection.h"
+#include "apps/quorconv/System.h"
 #include "toolkits/scripted/Script.h"
 
-#include <algorithm>
-#include <cstdlib>
-#include <filesystem>
 #include <iostream>
-#include <iterator>
-
-#include <unistd.h>
 
 namespace quorconv {
 
@@ -25,26 +20,10 @@ UsageError NeedsScript(const std::wstring& why) {
             {L"type R0 100.0123", L"click OK"}};
 }
 
-/// Whether a window can be shown.
-bool HasDisplay() {
-    static constexpr const char* names[] = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
-    return std::any_of(std::begin(names), std::end(names), [](const char* name) {
-        const char* const value = std::getenv(name);
-        return value != nullptr && *value != '\0';
-    });
-}
-
-/// Goes on as probe-edit, the program with the windows: that beside this one, or the one that is installed.
+/// Goes on as probe-edit, the program with the windows.
 [[noreturn]] void BecomeProbeEdit(const std::wstring& path, const std::wstring& section) {
-    std::error_code ignored;
-    const auto beside = std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path() / "probe-edit";
-    std::string file = QuorIniFile::ToUtf8(path);
-    std::string name = QuorIniFile::ToUtf8(section);
-    std::string separator = "--"; // a name may begin with "-"
-    for (std::string program : {beside.string(), std::string("probe-edit")}) {
-        char* const arguments[] = {program.data(), separator.data(), file.data(), name.data(), nullptr};
-        ::execvp(arguments[0], arguments);
-    }
+    // A name may begin with "-".
+    BecomeProgram("probe-edit", {"--", QuorIniFile::ToUtf8(path), QuorIniFile::ToUtf8(section)});
     throw NeedsScript(L"the program \"probe-edit\" is not installed; the package \"probe-setup\" has it");
 }
 

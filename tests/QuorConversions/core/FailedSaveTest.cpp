@@ -11,8 +11,6 @@
 #include "tests/support/SettingsClasses.h"
 #include "tests/support/TempFolder.h"
 
-#include <sys/stat.h>
-
 using namespace QuorConversions;
 using QuorIniFile::IniStore;
 using Support::ErrorReport;
@@ -86,7 +84,7 @@ TEST_F(RecordWithARefusedValue, LeavesTheOtherRecordsOfABracketToBeSavedAndItsRe
 
 TEST_F(RecordWithARefusedValue, IsNotSavedAndTheFailureOfTheFileIsToldWhereTheFileCannotBeSaved) {
     folder.Write("host.ini", "; mine\n");
-    ASSERT_EQ(::chmod(folder.Path("host.ini").c_str(), 0444), 0);
+    folder.SetMode("host.ini", 0444);
     std::shared_ptr<INIFile> none;
     conversion.Settings()->WriteToFile(none, folder.Name("host.ini"), L"Probe - Settings");
     EXPECT_EQ(File(), "; mine\n");
@@ -238,7 +236,7 @@ TEST_P(FailedSave, LeavesTheFileTheObjectAndItsChangedFlagAsTheyWere) {
     const TempFolder folder;
     const std::string before = "; mine\n[Host]\nVersion=0.9\n";
     folder.Write("a.ini", before);
-    ASSERT_EQ(::chmod(folder.Path("a.ini").c_str(), 0444), 0);
+    folder.SetMode("a.ini", 0444);
     const std::wstring report = ErrorReport(
         writingSettings, 70, L"Permission denied: " + folder.Name("a.ini") + L": The file is read-only",
         L"QuorIniFile");

@@ -14,19 +14,16 @@
 #include "QuorIniFile/IniStore.h"
 #include "QuorIniFile/Utf8.h"
 #include "QuorIniFile/detail/IniDisk.h"
+#include "tests/QuorIniFile/saver/SaverSystem.h"
 
 #include <chrono>
-#include <csignal>
 #include <cstdint>
 #include <exception>
 #include <fstream>
 #include <iostream>
+#include <stdexcept>
 #include <string>
-#include <thread>
 #include <vector>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 using namespace QuorIniFile;
 
@@ -74,38 +71,6 @@ void KeepLock(const std::wstring& file) {
     }
 }
 
-void ForkWithLock(const std::wstring& file) {
-    const IniReplacement replacement(file);
-    const pid_t child = ::fork();
-    if (child == 0) {
-        for (;;)
-            ::pause();
-    }
-    std::cout << child << std::endl;
-    for (char c = 0; std::cin.get(c);) {
-    }
-}
-
-void Lease(const std::string& file) {
-    sigset_t asked;
-    ::sigemptyset(&asked);
-    ::sigaddset(&asked, SIGIO);
-    ::sigprocmask(SIG_BLOCK, &asked, nullptr);
-    const int handle = ::open(file.c_str(), O_RDWR | O_CLOEXEC); // NOLINT(cppcoreguidelines-pro-type-vararg)
-    if (::fcntl(handle, F_SETLEASE, F_WRLCK) != 0) {             // NOLINT(cppcoreguidelines-pro-type-vararg)
-        std::cout << "no leases here" << std::endl;
-        return;
-    }
-    std::cout << "leased" << std::endl;
-    int signal = 0;
-    ::sigwait(&asked, &signal);
-    std::this_thread::sleep_for(std::chrono::milliseconds(200));
-    static_cast<void>(::fcntl(handle, F_SETLEASE, F_UNLCK)); // NOLINT(cppcoreguidelines-pro-type-vararg)
-    std::cout << "given back" << std::endl;
-    for (char c = 0; std::cin.get(c);) {
-    }
-}
-
 /// Goes on behind what the log says, because a storm kills savers and starts them again.
 void SaveInAStorm(const std::wstring& file, const std::wstring& section, const std::string& log,
                   int seconds) {
@@ -138,16 +103,14 @@ int main(int argc, char** argv) {
             SaveKeys(file, Wide(arguments.at(3)), std::stoi(arguments.at(4)));
         else if (task == "records")
             SaveRecords(file, std::stoi(arguments.at(3)), std::stoi(arguments.at(4)));
-        else if (task == "fork")
-            ForkWithLock(file);
-        else if (task == "lease")
-            Lease(arguments.at(2));
         else if (task == "storm")
             SaveInAStorm(file, Wide(arguments.at(3)), arguments.at(4), std::stoi(arguments.at(5)));
         else if (task == "add")
             Add(file, std::stoi(arguments.at(3)));
-        else
+        else if (task == "lock")
             KeepLock(file);
+        else if (!RunSystemTask(task, arguments.at(2)))
+            throw std::invalid_argument(task);
     } catch (const std::exception& error) {
         std::cout << error.what() << std::endl;
         return 1;

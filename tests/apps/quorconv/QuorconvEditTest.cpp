@@ -1,4 +1,5 @@
 #include "tests/apps/quorconv/Quorconv.h"
+#include "tests/support/Environment.h"
 
 namespace {
 
@@ -203,9 +204,9 @@ TEST_F(QuorconvEditTest, RefusesWhatHasNoDialog) {
 }
 
 TEST_F(QuorconvEditTest, TellsThatNobodyCanClickHere) {
-    unsetenv("DISPLAY");
-    unsetenv("WAYLAND_DISPLAY");
-    unsetenv("QT_QPA_PLATFORM");
+    Support::SetVariable("DISPLAY", nullptr);
+    Support::SetVariable("WAYLAND_DISPLAY", nullptr);
+    Support::SetVariable("QT_QPA_PLATFORM", nullptr);
     const Outcome run = Quorconv({"edit", "host.ini", "Probe 1"});
     EXPECT_EQ(run.code, 2);
     EXPECT_EQ(run.err.find("quorconv: edit needs --script FILE or --show here: "), 0U) << run.err;
