@@ -59,9 +59,7 @@ public:
         EXCEPINFO info{};
         UINT wrong = 0;
         const HRESULT code =
-            m_script
-                ? m_script->InvokeEx(*id, LOCALE_USER_DEFAULT, flags, &given, &result, &info, nullptr)
-                : m_object->Invoke(*id, IID_NULL, LOCALE_USER_DEFAULT, flags, &given, &result, &info, &wrong);
+            m_object->Invoke(*id, IID_NULL, LOCALE_USER_DEFAULT, flags, &given, &result, &info, &wrong);
         if (code == DISP_E_EXCEPTION)
             throw FromExcepInfo(info);
         if (FAILED(code))

@@ -1,7 +1,9 @@
 #include "component/windows/Server.h"
 
+#include "component/Handles.h"
 #include "component/windows/Failure.h"
 #include "component/windows/Object.h"
+#include "component/windows/ServerPlatform.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -98,19 +100,25 @@ HRESULT TypeInfoOf(const GUID& id, ITypeInfo** info) noexcept {
 
 quor_object Create(const ClassRow& row) {
     const std::string_view name = row.name;
-    const quor_text className{name.data(), name.size()};
-    quor_object made = 0;
-    if (name != "Registry") {
-        Check(quor_create(className, nullptr, 0, &made));
-        return made;
-    }
-    std::wstring program(MAX_PATH, L'\0');
-    program.resize(GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size())));
-    const std::string application = Utf8(std::filesystem::path(program).stem().wstring());
+    std::string application;
     quor_value argument{};
-    argument.kind = QUOR_TEXT;
-    argument.as.text = {application.data(), application.size()};
-    Check(quor_create(className, &argument, 1, &made));
+    if (name == "Registry") {
+        std::wstring program(MAX_PATH, L'\0');
+        program.resize(GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size())));
+        application = Utf8(std::filesystem::path(program).stem().wstring());
+        argument.kind = QUOR_TEXT;
+        argument.as.text = {application.data(), application.size()};
+    } else if (name.starts_with("CQuor")) {
+        const std::shared_ptr<Platform> platform = std::make_shared<ServerPlatform>();
+        argument.kind = QUOR_OBJECT;
+        argument.as.object = Component::HandleTable::Instance().Give(platform);
+        argument.owned = 1;
+    }
+    quor_object made = 0;
+    const std::int32_t code =
+        quor_create({name.data(), name.size()}, &argument, argument.kind == QUOR_EMPTY ? 0 : 1, &made);
+    quor_value_clear(&argument);
+    Check(code);
     return made;
 }
 

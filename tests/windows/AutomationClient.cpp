@@ -486,6 +486,8 @@ public:
             info->scode = static_cast<SCODE>(0x800A0007);
             info->bstrSource = SysAllocString(L"The list");
             info->bstrDescription = SysAllocString(L"The list is full");
+            info->bstrHelpFile = SysAllocString(L"list.hlp");
+            info->dwHelpContext = 7;
             return DISP_E_EXCEPTION;
         }
         if (id == 101 && flags == DISPATCH_METHOD) {
@@ -529,8 +531,13 @@ void FillLists() {
     BSTR source = nullptr;
     BSTR description = nullptr;
     Good(error->GetSource(&source));
+    BSTR helpFile = nullptr;
+    DWORD helpContext = 0;
     Good(error->GetDescription(&description));
-    Print("An error of the list: " + Code(code) + " [" + Taken(source) + "] " + Taken(description));
+    Good(error->GetHelpFile(&helpFile));
+    Good(error->GetHelpContext(&helpContext));
+    Print("An error of the list: " + Code(code) + " [" + Taken(source) + "] " + Taken(description) + " [" +
+          Taken(helpFile) + "] " + std::to_string(helpContext));
 
     Ref<ICQuorConversion> other;
     Good(CoCreateInstance(CLSID_CQuorConversion, nullptr, CLSCTX_INPROC_SERVER, IID_ICQuorConversion,

@@ -130,6 +130,48 @@ WScript.Echo own.Log
 WScript.Echo "Read: " & again.ReadFromFile(own, , "Probe 9") & ", " & again.Settings.Coefficients(0) & " " & _
     (again.Settings.Coefficients(3) = 13 + 1 / 3) & ", " & again.Settings.UsePolynomial
 
+Class ScriptList
+    Public Items
+    Public Last
+    Public Sub Clear
+        Items = ""
+        Last = -1
+    End Sub
+    Public Sub AddItem(Item)
+        Items = Items & Item
+        Last = Last + 1
+    End Sub
+    Public Property Get NewIndex
+        NewIndex = Last
+    End Property
+    Public Property Let ItemData(Index, Data)
+        Items = Items & " (" & Index & ": " & Data & "); "
+    End Property
+End Class
+
+Dim list
+Set list = New ScriptList
+again.ConversionType = 1
+again.Settings.FillScaleCombo list
+WScript.Echo "List: " & list.Items
+
+' The error of a script goes through the library. Wine's VBScript hands out its number alone.
+Class FullList
+    Public Sub Clear
+        Err.Raise 61, "The list", "The list is full", "list.hlp", 7
+    End Sub
+End Class
+Dim full
+Set full = New FullList
+On Error Resume Next
+again.Settings.FillScaleCombo full
+WScript.Echo "Error: " & Err.Number & " [" & Err.Source & "] " & Err.Description & " [" & Err.HelpFile & "] " & Err.HelpContext
+Err.Clear
+again.Settings.FillScaleCombo probe
+WScript.Echo "Error: " & Err.Number & " " & Err.Description
+Err.Clear
+On Error GoTo 0
+
 ' The registry component, in the file of the host's program.
 Dim kept
 Set kept = CreateObject("QuorRegistryII.Registry")
