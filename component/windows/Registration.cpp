@@ -14,6 +14,8 @@ std::wstring Braced(const GUID& id) {
     return text;
 }
 
+std::wstring Version() { return std::to_wstring(server.major) + L'.' + std::to_wstring(server.minor); }
+
 /// Sets a text of a key, which is made where it is missing. An empty name: that of the key itself.
 void Set(const std::wstring& key, const wchar_t* name, const std::wstring& text) {
     const LSTATUS code = RegSetKeyValueW(HKEY_CLASSES_ROOT, key.c_str(), name, REG_SZ, text.c_str(),
@@ -22,7 +24,7 @@ void Set(const std::wstring& key, const wchar_t* name, const std::wstring& text)
         throw Failure{HRESULT_FROM_WIN32(static_cast<DWORD>(code))};
 }
 
-void SetClass(const ClassRow& row, const std::wstring& path, const std::wstring& version) {
+void SetClass(const ClassRow& row, const std::wstring& path) {
     const std::wstring id = Braced(row.clsid);
     const std::wstring key = L"CLSID\\" + id;
     Set(row.programId, nullptr, row.programId);
@@ -33,7 +35,7 @@ void SetClass(const ClassRow& row, const std::wstring& path, const std::wstring&
     Set(key + L"\\ProgID", nullptr, row.programId);
     Set(key + L"\\Programmable", nullptr, {});
     Set(key + L"\\TypeLib", nullptr, Braced(server.typeLibrary));
-    Set(key + L"\\Version", nullptr, version);
+    Set(key + L"\\Version", nullptr, Version());
 }
 
 [[nodiscard]] bool Remove(const std::wstring& key) {
@@ -41,15 +43,22 @@ void SetClass(const ClassRow& row, const std::wstring& path, const std::wstring&
     return code == ERROR_SUCCESS || code == ERROR_FILE_NOT_FOUND;
 }
 
+[[nodiscard]] bool IsThere(const std::wstring& key) {
+    HKEY opened = nullptr;
+    if (RegOpenKeyExW(HKEY_CLASSES_ROOT, key.c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS)
+        return false;
+    RegCloseKey(opened);
+    return true;
+}
+
 } // namespace
 
 HRESULT Register() noexcept {
     try {
         const std::wstring path = ModulePath();
-        const std::wstring version = std::to_wstring(server.major) + L'.' + std::to_wstring(server.minor);
         for (const ClassRow& row : server.classes)
             if (row.programId)
-                SetClass(row, path, version);
+                SetClass(row, path);
         ITypeLib* library = nullptr;
         if (FAILED(LoadTypeLibEx(path.c_str(), REGKIND_REGISTER, &library)))
             return SELFREG_E_TYPELIB;
@@ -66,9 +75,9 @@ HRESULT Unregister() noexcept {
         for (const ClassRow& row : server.classes)
             if (row.programId)
                 isGone = Remove(row.programId) && Remove(L"CLSID\\" + Braced(row.clsid)) && isGone;
-        const HRESULT library =
-            UnRegisterTypeLib(server.typeLibrary, server.major, server.minor, LOCALE_NEUTRAL, SYS_WIN64);
-        if (FAILED(library) && library != TYPE_E_REGISTRYACCESS) // that: it is not registered
+        if (IsThere(L"TypeLib\\" + Braced(server.typeLibrary) + L'\\' + Version()) &&
+            FAILED(
+                UnRegisterTypeLib(server.typeLibrary, server.major, server.minor, LOCALE_NEUTRAL, SYS_WIN64)))
             return SELFREG_E_TYPELIB;
         return isGone ? S_OK : SELFREG_E_CLASS;
     } catch (...) {

@@ -57,3 +57,15 @@ var ini = {
 probe.WriteToFile(ini, "", "Probe 9");
 WScript.Echo(log);
 WScript.Echo("The file: " + ini.Section);
+
+// A record and a settings file, in files. Arguments: a folder.
+var folder = WScript.Arguments(0);
+var file = new ActiveXObject("QuorIniFile.INIFile");
+file.FileName = folder + "\\jscript.ini";
+probe.WriteToFile(file, "", "Probe 1");
+var again = new ActiveXObject("QuorConversions.CQuorConversion");
+WScript.Echo("Read: " + again.ReadFromFile(file, "", "Probe 1") + " " + again.ConversionType + " " +
+    (again.Settings.Coefficients(1) === 1 / 3));
+cvd.WriteToFile(null, folder + "\\jscript.cvd", "Callendar-Van Dusen");
+again.Settings.Coefficients(0) = 0;
+WScript.Echo("Opened: " + again.Settings.OpenFile(0, folder + "\\jscript.cvd") + " " + again.Settings.Coefficients(0));
