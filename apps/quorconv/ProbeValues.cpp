@@ -2,6 +2,7 @@
 #include "apps/quorconv/Failure.h"
 
 #include "QuorProbeFile/ProbeNames.h"
+#include "QuorProbeFile/ProbeTypes.h"
 #include "apps/quorconv/HostFile.h"
 #include "apps/quorconv/Records.h"
 
@@ -28,7 +29,17 @@ bool SameValues(const ProbeValues& a, const ProbeValues& b) {
 ProbeTable::ProbeTable(ProbeFile& file) : m_file(file) {
     if (auto lines = UnreadableLines(file); !lines.empty())
         throw Problem{file.Path() + L": not all of this file can be read", std::move(lines)};
-    m_probes = file.Probes();
+    m_duplicates = file.DuplicateSections();
+}
+
+void ProbeTable::ForEach(const std::function<void(const std::wstring&)>& use) const {
+    auto duplicate = m_duplicates.begin();
+    for (auto lines = m_file.Store()->Lines(); lines.NextHeader();) {
+        if (duplicate != m_duplicates.end() && duplicate->line == lines.Number())
+            ++duplicate;
+        else if (const std::wstring name = lines.Name(); Has(name))
+            use(name);
+    }
 }
 
 bool ProbeTable::Has(const std::wstring& section) const {
@@ -37,18 +48,19 @@ bool ProbeTable::Has(const std::wstring& section) const {
         return false;
     std::wstring type;
     store.SetSection(section);
-    return store.ReadString(QuorConversions::conversionTypeKey, type) ||
-           (m_probes.size() == 1 && m_probes.front().standAlone &&
-            EqualFolded(m_probes.front().section, section));
+    if (store.ReadString(QuorConversions::conversionTypeKey, type))
+        return true;
+    const auto standAlone = StandAloneSection(m_file.Path());
+    return standAlone && EqualFolded(*standAlone, section);
 }
 
 std::optional<ProbeValues> ProbeTable::Find(const std::wstring& section) const {
-    return Has(section) ? std::optional(Read({section, 0, {}, false})) : std::nullopt;
+    return Has(section) ? std::optional(Read(section)) : std::nullopt;
 }
 
-ProbeValues ProbeTable::Read(const ProbeEntry& entry) const {
-    const Probe probe = ReadProbe(m_file, entry.section);
-    ProbeValues values{entry.section, probe.Conversion().ConversionType(), {}};
+ProbeValues ProbeTable::Read(const std::wstring& section) const {
+    const Probe probe = ReadProbe(m_file, section);
+    ProbeValues values{section, probe.Conversion().ConversionType(), {}};
     if (probe.Settings())
         values.entries = RecordImage::Of(*probe.Settings())->Entries();
     return values;

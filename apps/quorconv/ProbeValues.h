@@ -4,6 +4,7 @@
 #include "QuorProbeFile/RecordImage.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -29,16 +30,18 @@ struct ProbeValues {
 class ProbeTable {
 public:
     explicit ProbeTable(QuorProbeFile::ProbeFile& file);
-    /// The probes in the order of the file, as they were when the table was made.
-    [[nodiscard]] const std::vector<QuorProbeFile::ProbeEntry>& Probes() const { return m_probes; }
+    /// Calls `use` with the section of each probe, in the order of the file, from which nothing is held.
+    void ForEach(const std::function<void(const std::wstring& section)>& use) const;
     [[nodiscard]] bool Has(const std::wstring& section) const;
     /// Nothing when there is none of that name.
     [[nodiscard]] std::optional<ProbeValues> Find(const std::wstring& section) const;
-    [[nodiscard]] ProbeValues Read(const QuorProbeFile::ProbeEntry& probe) const;
+    [[nodiscard]] ProbeValues Read(const std::wstring& section) const;
+    /// The sections that stand twice, of which the first one is read.
+    [[nodiscard]] const std::vector<QuorIniFile::IniWarning>& Duplicates() const { return m_duplicates; }
 
 private:
     QuorProbeFile::ProbeFile& m_file;
-    std::vector<QuorProbeFile::ProbeEntry> m_probes;
+    std::vector<QuorIniFile::IniWarning> m_duplicates; // by their lines
 };
 
 /// What has become another value from one record to another of the same type.

@@ -46,11 +46,11 @@ class Diff final : public Command {
         TellDuplicates(*beforeFile, before);
         TellDuplicates(*afterFile, after);
         m_isColoured = !m_isJson && ShowsColour(Stream::Output);
-        Progress progress(L"probes", before.Probes().size() + after.Probes().size());
-        for (const ProbeEntry& entry : before.Probes()) {
+        Progress progress(L"probes", 0);
+        before.ForEach([&](const std::wstring& section) {
             progress.Step();
-            const ProbeValues probe = before.Read(entry);
-            const auto now = after.Find(probe.section);
+            const ProbeValues probe = before.Read(section);
+            const auto now = after.Find(section);
             if (!now)
                 PrintProbe('-', "removed", probe);
             else if (now->code != probe.code)
@@ -58,12 +58,11 @@ class Diff final : public Command {
             else
                 for (const ValueChange& change : ChangesOf(probe, *now))
                     Print(probe.section, change.key, TextOf(change.before), TextOf(change.after));
-        }
-        for (const ProbeEntry& entry : after.Probes()) {
-            progress.Step();
-            if (!before.Has(entry.section))
-                PrintProbe('+', "added", after.Read(entry));
-        }
+        });
+        after.ForEach([&](const std::wstring& section) {
+            if (!before.Has(section))
+                PrintProbe('+', "added", after.Read(section));
+        });
         if (m_isJson)
             m_out << (m_differs ? "\n]\n" : "[]\n");
         std::cout << m_out.view();
@@ -72,7 +71,7 @@ class Diff final : public Command {
 
     /// Sections of probes that stand twice: only the first one is read, and compared.
     static void TellDuplicates(ProbeFile& file, const ProbeTable& table) {
-        for (const QuorIniFile::IniWarning& warning : file.DuplicateSections()) {
+        for (const QuorIniFile::IniWarning& warning : table.Duplicates()) {
             const auto owners = PossibleOwners(warning.section);
             const bool isOfProbe = table.Has(warning.section) ||
                                    std::any_of(owners.begin(), owners.end(), [&](std::wstring_view owner) {

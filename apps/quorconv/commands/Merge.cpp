@@ -42,7 +42,7 @@ class Merge final : public Command {
         HostFile file(m_ours);
         const ProbeTable base(*baseFile);
         const ProbeTable theirs(*theirFile);
-        if (theirs.Probes().empty() && !base.Probes().empty())
+        if (theirFile->Probes().empty() && !baseFile->Probes().empty())
             throw Problem{m_theirs + L": there is no probe in this file; nothing was written"};
         std::size_t count = 0;
         std::size_t gone = 0;
@@ -51,20 +51,20 @@ class Merge final : public Command {
             std::vector<std::wstring> conflicts;
             std::vector<Change> written; // of theirs
             std::vector<std::wstring> removed;
-            for (const ProbeEntry& their : theirs.Probes())
-                MergeProbe(base.Find(their.section), ours.Find(their.section), theirs.Read(their), written,
-                           conflicts);
-            for (const ProbeEntry& old : base.Probes()) {
-                if (theirs.Has(old.section))
-                    continue;
-                const auto our = ours.Find(old.section);
+            theirs.ForEach([&](const std::wstring& section) {
+                MergeProbe(base.Find(section), ours.Find(section), theirs.Read(section), written, conflicts);
+            });
+            base.ForEach([&](const std::wstring& section) {
+                if (theirs.Has(section))
+                    return;
+                const auto our = ours.Find(section);
                 if (!our)
-                    continue;
-                if (SameValues(*our, base.Read(old)))
+                    return;
+                if (SameValues(*our, base.Read(section)))
                     removed.push_back(our->section);
                 else
-                    conflicts.push_back(L"[" + old.section + L"]: changed here, removed in " + m_theirs);
-            }
+                    conflicts.push_back(L"[" + section + L"]: changed here, removed in " + m_theirs);
+            });
             FindTwoNames(base, ours, theirs, conflicts);
             if (!conflicts.empty())
                 throw Problem{m_ours + L": nothing was written, because both files have changed the same",
@@ -90,26 +90,27 @@ class Merge final : public Command {
         const auto theirNames = AddedByRecord(base, theirs);
         if (ourNames.empty() || theirNames.empty())
             return;
-        for (const ProbeEntry& old : base.Probes()) {
-            if (ours.Has(old.section) || theirs.Has(old.section))
-                continue;
-            const std::wstring record = RecordText(base.Read(old));
+        base.ForEach([&](const std::wstring& section) {
+            if (ours.Has(section) || theirs.Has(section))
+                return;
+            const std::wstring record = RecordText(base.Read(section));
             const auto our = ourNames.find(record);
             const auto their = theirNames.find(record);
             if (our != ourNames.end() && their != theirNames.end() &&
                 !EqualFolded(our->second, their->second))
-                conflicts.push_back(L"[" + old.section + L"]: renamed to [" + our->second + L"] here, to [" +
+                conflicts.push_back(L"[" + section + L"]: renamed to [" + our->second + L"] here, to [" +
                                     their->second + L"] in " + m_theirs);
-        }
+        });
     }
 
     /// The names of the probes that the base does not have, by their values.
     static std::unordered_map<std::wstring, std::wstring> AddedByRecord(const ProbeTable& base,
                                                                         const ProbeTable& table) {
         std::unordered_map<std::wstring, std::wstring> names;
-        for (const ProbeEntry& probe : table.Probes())
-            if (!base.Has(probe.section))
-                names.emplace(RecordText(table.Read(probe)), probe.section);
+        table.ForEach([&](const std::wstring& section) {
+            if (!base.Has(section))
+                names.emplace(RecordText(table.Read(section)), section);
+        });
         return names;
     }
 
