@@ -12,18 +12,20 @@ namespace QuorIniFile {
 class IniText;
 
 /// Reads values from the text of an INI file, or from a part of it, in memory, by the rules of IniStore: for
-/// those who keep what a file has held (IniStore::Text) while the file becomes another one.
+/// hosts that keep an earlier state of a file (IniStore::Text).
 ///
-/// Names of sections and keys are the same in any case of ASCII letters; where one stands twice the first
-/// counts. Reads return True when the key was found and holds a value of that kind; otherwise `value` stays
-/// as it was. A lack of memory is std::bad_alloc, and the only error.
+/// Names of sections and keys ignore the case of ASCII letters; of duplicates the first counts. The only
+/// error is lack of memory, std::bad_alloc.
 class QUORINIFILE_EXPORT IniTextReader {
 public:
+    /// A reader of `text`, which is UTF-8 or Latin-1.
     explicit IniTextReader(std::string text);
     IniTextReader(const IniTextReader&) = delete;
     IniTextReader& operator=(const IniTextReader&) = delete;
     ~IniTextReader();
 
+    /// Reads the value under `key` in `section`. True, and the value in `value`, if the key exists and holds
+    /// a value of that type; otherwise False, and `value` is unchanged.
     [[nodiscard]] bool Read(std::wstring_view section, std::wstring_view key, bool& value);
     [[nodiscard]] bool Read(std::wstring_view section, std::wstring_view key, double& value);
     [[nodiscard]] bool Read(std::wstring_view section, std::wstring_view key, std::int16_t& value);
