@@ -16,14 +16,14 @@ namespace {
 /// Of which members of a list a key decides.
 enum class Decides : std::uint8_t { All, AllButFirst, Count, CountButOne };
 
-struct Row {
+struct KeyWithMeaning {
     std::wstring_view key;
     Decides decides;
     std::wstring_view list;
 };
 
 // A type of thermocouple, a range and a scale are what the coefficients and points were found for.
-constexpr Row table[] = {
+constexpr KeyWithMeaning table[] = {
     {L"UsePolynomial", Decides::AllButFirst, coefficientsKey},
     {L"ConvType", Decides::All, coefficientsKey},
     {L"IPTS-68 scale", Decides::All, coefficientsKey},
@@ -40,16 +40,18 @@ constexpr Row table[] = {
     {numPointsKey, Decides::Count, voltagesKey},
 };
 
-bool IsCount(const Row& row) { return row.decides == Decides::Count || row.decides == Decides::CountButOne; }
+bool IsCount(const KeyWithMeaning& row) {
+    return row.decides == Decides::Count || row.decides == Decides::CountButOne;
+}
 
 /// How many members a list has.
-int Members(const Row& row, const std::optional<Value>& value) {
+int Members(const KeyWithMeaning& row, const std::optional<Value>& value) {
     const auto* const count = value ? std::get_if<std::int16_t>(&*value) : nullptr;
     return count ? *count + (row.decides == Decides::CountButOne ? 1 : 0) : 0;
 }
 
 /// The first member of the list whose meaning differs.
-int FirstDifferent(const Row& row, const std::optional<Value>& a, const std::optional<Value>& b) {
+int FirstDifferent(const KeyWithMeaning& row, const std::optional<Value>& a, const std::optional<Value>& b) {
     if (IsCount(row))
         return std::min(Members(row, a), Members(row, b));
     return row.decides == Decides::AllButFirst ? 1 : 0;
@@ -66,12 +68,13 @@ std::optional<int> IndexIn(std::wstring_view list, std::wstring_view key) {
 } // namespace
 
 bool GivesMeaning(std::wstring_view key) {
-    return std::any_of(std::begin(table), std::end(table), [&](const Row& row) { return row.key == key; });
+    return std::any_of(std::begin(table), std::end(table),
+                       [&](const KeyWithMeaning& row) { return row.key == key; });
 }
 
 bool HasOtherMeaning(std::wstring_view key, std::wstring_view deciding, const std::optional<Value>& a,
                      const std::optional<Value>& b) {
-    return std::any_of(std::begin(table), std::end(table), [&](const Row& row) {
+    return std::any_of(std::begin(table), std::end(table), [&](const KeyWithMeaning& row) {
         if (row.key != deciding)
             return false;
         const auto index = IndexIn(row.list, key);
@@ -82,7 +85,7 @@ bool HasOtherMeaning(std::wstring_view key, std::wstring_view deciding, const st
 std::vector<std::wstring> KeysBeyond(std::wstring_view key, const Value& now,
                                      const std::optional<Value>& before) {
     std::vector<std::wstring> keys;
-    for (const Row& row : table) {
+    for (const KeyWithMeaning& row : table) {
         if (row.key != key || !IsCount(row))
             continue;
         for (int index = std::max(0, Members(row, now)); index < Members(row, before); ++index)
