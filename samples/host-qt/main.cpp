@@ -12,6 +12,6 @@ int main(int argc, char** argv) {
     std::shared_ptr<INIFile> none; // each call opens the file for itself
     CQuorConversion probe(std::make_shared<QtToolkit::QtPlatform>());
     probe.SetHelpFile(QtToolkit::HelpCollection());
-    if (probe.ReadFromFile(none, file, section) && probe.Edit()) // the user is told what goes wrong
+    if (probe.ReadFromFile(none, file, section) && probe.Edit()) // failures are reported to the user
         probe.WriteToFile(none, file, section);
 }
