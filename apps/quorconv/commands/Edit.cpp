@@ -38,14 +38,14 @@ class Edit final : public Command {
         arguments.One("SECTION", m_section, Meaning::Section, "The section of the probe");
         arguments.Option(
             "--script", "FILE", m_script, Meaning::File,
-            "What the person does, a command a line: type R0 100.0123, choose Type K, click OK;\n"
+            "What the user does, one command per line: type R0 100.0123, choose Type K, click OK;\n"
             "without it the dialog opens on the screen");
         arguments.Flag("--show", m_show, "Print the dialog as text, as it opens");
     }
 
     ExitCode Run() override {
         if (m_path == standardInput)
-            throw UsageError{L"edit needs a file: a dialog takes the time of a person"};
+            throw UsageError{L"edit needs a file: a dialog waits for the user"};
         if (m_script || m_show)
             Play();
         else if (HasDisplay())
@@ -58,6 +58,7 @@ class Edit final : public Command {
     void Play() {
         QuorProbeFile::ProbeFile file(m_path);
         Probe probe = ReadProbeWithSettings(file, SpelledInFile(file, m_section));
+        probe.Record() = file.Record(probe.Section());
         std::wstring commands = m_show ? L"show\n" : L"";
         commands += m_script ? ReadText(*m_script) : L"escape";
         const std::size_t added = m_show ? 1 : 0; // lines that the script does not have
@@ -85,7 +86,7 @@ class Edit final : public Command {
 } // namespace
 
 const CommandRow editRow{"edit",
-                         "Edit a probe in its dialog, on the screen or as a script says",
+                         "Edit a probe in its dialog, on the screen or by a script",
                          {"quorconv edit laboratory.ini \"Probe 9 PRT-1182\" --script steps.txt"},
                          Create<Edit>};
 

@@ -109,7 +109,7 @@ TEST(Documents, TheGuideQuotesTheMessagesAsTheyAreShown) {
     for (const std::string& message : messages)
         EXPECT_NE(guide.find("\n| " + message + " |"), std::string::npos) << message;
     const std::string section = guide.substr(guide.find("\n## Messages\n"));
-    const std::string table = section.substr(0, section.find("\n\nOK checks"));
+    const std::string table = section.substr(0, section.find("\n\nOK refuses"));
     EXPECT_EQ(std::count(table.begin(), table.end(), '\n'), std::ptrdiff_t(messages.size()) + 6)
         << "no other message";
 }
