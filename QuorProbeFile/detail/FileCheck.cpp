@@ -100,7 +100,7 @@ public:
             Report(
                 {isKey ? PROBLEM_DUPLICATE_KEY : PROBLEM_DUPLICATE_SECTION, warning.line, warning.section,
                  warning.key,
-                 what + L" stands twice; the one in line " + std::to_wstring(warning.first) + L" is read"});
+                 what + L" occurs twice; the one in line " + std::to_wstring(warning.first) + L" is read"});
         }
     }
 

@@ -11,10 +11,9 @@ namespace quorconv {
 int RunCommandLine(int argc, const char* const* argv);
 
 inline constexpr const char* version = QUORCONV_VERSION;
-inline constexpr const char* whatItDoes =
-    "Probe records in INI files: look at them, change them, keep them right.";
+inline constexpr const char* whatItDoes = "View, change and check the probe records in INI files.";
 inline constexpr const char* exitCodes =
-    "Exit codes: 0 fine, 1 a problem was found (or files differ), 2 wrong usage (or no comparison).";
+    "Exit codes: 0 success, 1 a problem was found (or files differ), 2 wrong usage (or no comparison).";
 inline constexpr const char* standardStreams =
     "\"-\" for a file is the standard input; what a command writes into it goes to the standard output.";
 

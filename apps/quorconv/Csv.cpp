@@ -49,7 +49,7 @@ public:
         Skip('\r');
         if (!IsAtEnd() && !Is('\n'))
             Fail(std::wstring(L"a ") + Name(m_separator) +
-                 L" or the end of the line expected behind a field in quotes" + Hint(m_text[m_at]));
+                 L" or the end of the line expected after a field in quotes" + Hint(m_text[m_at]));
         ++m_at;
         ++m_line;
         if (isEmpty && fields.size() == 1)
@@ -87,7 +87,7 @@ private:
         std::string field;
         for (; !IsAtEnd() && !Is(m_separator) && !Is('\r') && !Is('\n'); ++m_at) {
             if (Is('"'))
-                Fail(L"a quote inside a field: the whole field stands in quotes then, and the quote twice");
+                Fail(L"a quote inside a field: put the whole field in quotes and double the quote");
             field += m_text[m_at];
         }
         return field;

@@ -35,7 +35,7 @@ std::string Rest(std::istream& in) {
 std::string StandardInput(bool mayBeEmpty = false) {
     static bool isRead = false;
     if (std::exchange(isRead, true))
-        throw UsageError{L"\"-\" can stand once: the standard input can be read once"};
+        throw UsageError{L"\"-\" can be given only once: the standard input can be read only once"};
     std::string bytes = Rest(std::cin);
     if (std::cin.bad() || std::ferror(stdin) != 0)
         throw Problem{L"-: the standard input cannot be read"};
@@ -116,9 +116,9 @@ std::vector<std::wstring> UnreadableLines(ProbeFile& file) {
             const bool isUnclosed = warning.kind == IniWarningKind::UnclosedHeader;
             if (isUnclosed || warning.kind == IniWarningKind::LineEndsInCr)
                 told.push_back(L"line " + std::to_wstring(warning.line) + L": " +
-                               (isUnclosed ? L"the header has no \"]\"; nobody can read what stands below it"
-                                           : L"the line ends in a carriage return alone; nobody can read "
-                                             L"what stands behind it"));
+                               (isUnclosed ? L"the header has no \"]\"; what is below it cannot be read"
+                                           : L"the line ends in a lone carriage return; what follows it "
+                                             L"cannot be read"));
         }
     }
     if (text.bytes.find('\0') != std::string_view::npos)

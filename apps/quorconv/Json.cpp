@@ -93,7 +93,7 @@ public:
         if (object.members.size() == mostMembers)
             Fail(L"an object has no more than 1000 members here");
         if (object.Find(name))
-            Fail(L"the name \"" + name + L"\" stands twice");
+            Fail(L"the name \"" + name + L"\" occurs twice");
         object.names.push_back(std::move(name));
         object.members.emplace_back();
         return true;

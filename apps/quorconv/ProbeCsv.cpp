@@ -48,9 +48,9 @@ std::wstring FieldText(const Value& value, DecimalSign decimal) {
 } // namespace
 
 void CsvStyle::Declare(Arguments& arguments) {
-    arguments.Choice("--decimal", decimal, {"point", "comma"}, "The decimal sign of the table");
+    arguments.Choice("--decimal", decimal, {"point", "comma"}, "The decimal separator of the table");
     arguments.Choice("--separator", separator, {"comma", "semicolon", "tab"},
-                     "What stands between the fields of the table");
+                     "The separator between the fields of the table");
 }
 
 DecimalSign CsvStyle::Decimal() const {
@@ -147,7 +147,7 @@ public:
             Column column{names[i].substr(0, bracket), names[i]};
             for (const Column& before : m_columns)
                 if (EqualFolded(before.key, column.key))
-                    Fail(1, i, L"the column stands twice");
+                    Fail(1, i, L"the column occurs twice");
             if (column.key == sectionColumn)
                 m_section = i;
             else if (column.key == typeColumn)

@@ -78,12 +78,12 @@ std::vector<Assignment> Assignments(const std::vector<std::wstring>& texts) {
 }
 
 void ValueRules::Declare(Arguments& arguments) {
-    arguments.Flag("--allow-nan", allowsNan, "Take NaN and Infinity for numbers");
+    arguments.Flag("--allow-nan", allowsNan, "Accept NaN and Infinity as numbers");
 }
 
 void ValueRules::DeclareDrop(Arguments& arguments) {
     arguments.Flag("--drop", drops,
-                   "Let go of values that the new count, order or range leaves out; without it,\n"
+                   "Allow the loss of values beyond the new count, order or range; without it,\n"
                    "such a change is refused, and names them");
 }
 
@@ -218,7 +218,8 @@ public:
 
     static void RefuseLoss(const std::wstring& place, std::vector<std::wstring> lost) {
         if (!lost.empty())
-            throw Problem{place + L"values of the probe would be lost; --drop lets them go", std::move(lost)};
+            throw Problem{place + L"values of the probe would be lost; use --drop to allow it",
+                          std::move(lost)};
     }
 
 private:
@@ -390,7 +391,7 @@ void RequireName(const std::wstring& file, const std::wstring& name) {
         {name.starts_with(L'#') || name.starts_with(L';'), L"what begins so is a comment to other programs"},
         {!name.empty() && (std::iswspace(static_cast<std::wint_t>(name.front())) != 0 ||
                            std::iswspace(static_cast<std::wint_t>(name.back())) != 0),
-         L"blanks around it are lost in the file"},
+         L"blanks around it would be lost in the file"},
         {!QuorIniFile::IniStore::CanNameSection(name), L"the file could not give it back"},
     };
     for (const auto& [isBroken, reason] : rules) {

@@ -79,7 +79,7 @@ void RetypeProbe(ProbeFile& file, const std::wstring& section, const std::wstrin
         static_cast<void>(file.Read(section, none.Conversion())); // which tells why there is none
     } else if (present->type == info.code) {
         throw Problem{Place(file.Path(), section) +
-                      L": the probe has this type already; its values would be lost"};
+                      L": the probe already has this type; its values would be lost"};
     }
     Probe probe(section);
     probe.Conversion().SetConversionType(info.code);

@@ -1050,13 +1050,13 @@ TEST_F(ProbeFileTest, ChecksAFileAndTellsEachProblemWithLineSectionKeyAndKind) {
     EXPECT_EQ(
         Told(ProbeFile(Path()).Check()),
         (Texts{
-            L"3 [Host] X 9 the key stands twice; the one in line 2 is read",
+            L"3 [Host] X 9 the key occurs twice; the one in line 2 is read",
             L"4 [A - Settings]  1 the section is missing",
             L"7 [B] ConversionType 3 \"14 # W(T90)\" is not a whole number from -32768 to 32767; a comment "
             L"begins with \";\"",
             L"10 [C] Colour 8 unknown key: a record of this type and size does not hold it",
             L"13 [C - Settings]  12 the line is no key=value",
-            L"14 [C - Settings]  10 the section stands twice; the one in line 11 is read",
+            L"14 [C - Settings]  10 the section occurs twice; the one in line 11 is read",
             L"16 [D] ConversionType 4 99 is no conversion type",
             L"17 []  11 the header has no \"]\"; nobody can read the record below it",
             L"22 [F - Settings] NumCoefficients 6 the value -5 is not accepted",

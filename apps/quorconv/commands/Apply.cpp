@@ -16,8 +16,8 @@ class Apply final : public Command {
         arguments.One("FILE", m_path, Meaning::File, "The INI file");
         arguments.Maybe(
             "STEPS", m_from, Meaning::File,
-            "A file with a step a line: new, set, copy, rename, retype, remove, with their arguments\n"
-            "but the file; a name with blanks stands in double quotes, and \"#\" begins a remark.\n"
+            "A file with one step per line: new, set, copy, rename, retype, remove, with their arguments\n"
+            "except the file; put names with blanks in double quotes; \"#\" begins a comment.\n"
             "Without it the standard input");
         m_rules.Declare(arguments);
         m_rules.DeclareDrop(arguments);
@@ -33,7 +33,7 @@ class Apply final : public Command {
 
 const CommandRow applyRow{
     "apply",
-    "Do many steps in one file: all of them, or none",
+    "Carry out several steps in one file: all of them, or none",
     {"quorconv apply laboratory.ini <steps.txt",
      "echo 'set \"Probe 9 PRT-1182\" Coefficients0=100.0123' | quorconv apply laboratory.ini --dry-run"},
     Create<Apply>};

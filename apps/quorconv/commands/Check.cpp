@@ -169,11 +169,11 @@ class Check final : public Command {
 
     void Declare(Arguments& arguments) override {
         arguments.Rest("FILE", m_paths, 1, Meaning::File, "The files");
-        arguments.Flag("--strict", m_isStrict, "End with 1 for a warning, too");
+        arguments.Flag("--strict", m_isStrict, "Exit with 1 for warnings too");
         arguments.Options("--ignore", "ID", m_ignoredIds, Meaning::Text,
-                          "Do not tell the warnings of that ID; may stand several times");
+                          "Do not report warnings with that ID; may be repeated");
         arguments.Options("--section", "SECTION", m_selection.patterns, Meaning::Section,
-                          "Only that probe, or those like a pattern with * and ?; may stand several times");
+                          "Only that probe, or those that match a pattern with * and ?; may be repeated");
         m_selection.DeclareType(arguments);
         arguments.Choice("--format", m_format, {"text", "gcc", "github", "json"},
                          "How problems are printed: for people, as a compiler, for a build server, as JSON");
@@ -260,7 +260,7 @@ class Check final : public Command {
 const CommandRow checkRow{
     "check",
     "Check every probe of the files; each problem is a line FILE:LINE: [SECTION] KEY: ...,\n"
-    "each value that can hardly be meant FILE:LINE: warning: ... [ID]",
+    "each implausible value FILE:LINE: warning: ... [ID]",
     {"quorconv check laboratory.ini *.cvd", "quorconv check laboratory.ini --type cvd --json"},
     Create<Check>};
 

@@ -180,7 +180,7 @@ class Completion final : public Command {
 } // namespace
 
 const CommandRow completionRow{"completion",
-                               "Print the file with which a shell completes commands, sections and keys",
+                               "Print the completion script of a shell, for commands, sections and keys",
                                {"quorconv completion bash >quorconv.bash"},
                                Create<Completion>};
 

@@ -27,7 +27,7 @@ class Copy final : public Command {
         arguments.Maybe("TO-SECTION", m_name, Meaning::Text,
                         "The section to copy to; without it the probes keep their names");
         m_selection.DeclareType(arguments);
-        arguments.Flag("--replace", m_replaces, "Write over probes of the same type that stand there");
+        arguments.Flag("--replace", m_replaces, "Replace existing probes of the same type");
         DeclareDryRun(arguments, m_isDryRun);
     }
 
@@ -52,7 +52,7 @@ class Copy final : public Command {
 } // namespace
 
 const CommandRow copyRow{"copy",
-                         "Copy a probe, or all that are like a pattern, to the same or another file",
+                         "Copy a probe, or all that match a pattern, to the same or another file",
                          {"quorconv copy prt-1188.cvd \"Callendar-Van Dusen\" laboratory.ini \"Probe 38\"",
                           "quorconv copy laboratory.ini \"*\" --type cvd platinum.ini"},
                          Create<Copy>};

@@ -32,7 +32,7 @@ class Diff final : public Command {
     void Declare(Arguments& arguments) override {
         arguments.One("FILE", m_before, Meaning::File, "A file");
         arguments.One("OTHER", m_after, Meaning::File, "Another one");
-        arguments.Flag("--json", m_isJson, "Print a JSON array of what differs");
+        arguments.Flag("--json", m_isJson, "Print the differences as a JSON array");
     }
 
     /// Exit codes of a comparison: 0 the same, 1 different, 2 it could not be made.
@@ -79,7 +79,7 @@ class Diff final : public Command {
                                    });
             if (isOfProbe)
                 PrintFailure({file.Path() + L":" + std::to_wstring(warning.line) + L": [" + warning.section +
-                              L"]: the section stands twice; the one in line " +
+                              L"]: the section occurs twice; the one in line " +
                               std::to_wstring(warning.first) + L" is compared"});
         }
     }
@@ -125,7 +125,7 @@ class Diff final : public Command {
 } // namespace
 
 const CommandRow diffRow{"diff",
-                         "Compare two files by probes and values; ends with 0 for the same, 1 for different",
+                         "Compare two files by probes and values; exits with 0 if they are equal, 1 if not",
                          {"quorconv diff laboratory.ini laboratory-2024.ini"},
                          Create<Diff>};
 

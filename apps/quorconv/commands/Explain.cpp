@@ -92,7 +92,7 @@ class Explain final : public Command {
 } // namespace
 
 const CommandRow explainRow{"explain",
-                            "Tell what a record of a type holds: keys, meaning, unit, range, default",
+                            "Describe the records of a type: keys, meaning, unit, range, default",
                             {"quorconv explain cvd ALPHA"},
                             Create<Explain>};
 

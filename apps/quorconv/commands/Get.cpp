@@ -49,7 +49,7 @@ class Get final : public Command {
 } // namespace
 
 const CommandRow getRow{"get",
-                        "Print one value of a probe, and nothing else",
+                        "Print one value of a probe",
                         {"quorconv get laboratory.ini \"Probe 9 PRT-1182\" Coefficients0"},
                         Create<Get>};
 

@@ -221,7 +221,7 @@ class Manual final : public Command {
 } // namespace
 
 const CommandRow manualRow{"manual",
-                           "Write the pages of the manual: each command, and the format of records",
+                           "Write the manual pages: one for each command, and the file format",
                            {"mkdir man && quorconv manual man"},
                            Create<Manual>};
 

@@ -30,9 +30,9 @@ class Merge final : public Command {
     };
 
     void Declare(Arguments& arguments) override {
-        arguments.One("BASE", m_base, Meaning::File, "The file from which both come");
-        arguments.One("FILE", m_ours, Meaning::File, "The file that gets the changes");
-        arguments.One("OTHER", m_theirs, Meaning::File, "The file whose changes since BASE it gets");
+        arguments.One("BASE", m_base, Meaning::File, "The common base of both");
+        arguments.One("FILE", m_ours, Meaning::File, "The file that receives the changes");
+        arguments.One("OTHER", m_theirs, Meaning::File, "The file whose changes since BASE are merged");
         DeclareDryRun(arguments, m_isDryRun);
     }
 
@@ -203,7 +203,7 @@ class Merge final : public Command {
 
 const CommandRow mergeRow{
     "merge",
-    "Bring the changes of another file since a common base into a file, or tell conflicts",
+    "Merge the changes that another file has since a common base into a file, or report conflicts",
     {"quorconv merge laboratory-2024.ini laboratory.ini from-the-field.ini --dry-run"},
     Create<Merge>};
 

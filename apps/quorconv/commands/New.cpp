@@ -45,7 +45,7 @@ class New final : public Command {
 
 const CommandRow newRow{
     "new",
-    "Add a probe to a file, which is created when it does not exist",
+    "Add a probe to a file, which is created if it does not exist",
     {"quorconv new laboratory.ini \"Probe 37\" cvd Coefficients0=100.012 UsePolynomial=True"},
     Create<New>};
 

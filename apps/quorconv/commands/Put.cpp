@@ -75,8 +75,8 @@ class Put final : public Command {
     bool m_isDryRun = false;
 
     void Declare(Arguments& arguments) override {
-        arguments.One("FILE", m_path, Meaning::File, "The INI file, which is created when it does not exist");
-        arguments.Maybe("INPUT", m_from, Meaning::File, "What to put; without it the standard input");
+        arguments.One("FILE", m_path, Meaning::File, "The INI file, which is created if it does not exist");
+        arguments.Maybe("INPUT", m_from, Meaning::File, "The input file; without it, the standard input");
         arguments.Flag("--json", m_isJson,
                        "The input is JSON as \"show --json\" prints it: an object, an array, or JSON Lines");
         arguments.Flag("--csv", m_isCsv, "The input is a table as \"export --csv\" prints it");
@@ -122,10 +122,10 @@ class Put final : public Command {
         return fine;
     }
 
-    /// Raises Problem for a section that stands twice: one of its probes would be lost.
+    /// Raises Problem for a section that occurs twice: one of its probes would be lost.
     static void RequireNew(std::unordered_set<std::wstring>& sections, const std::wstring& section) {
         if (!sections.insert(Folded(section)).second)
-            throw Problem{L"[" + section + L"]: the section stands twice"};
+            throw Problem{L"[" + section + L"]: the section occurs twice"};
     }
 
     static void ReadJson(const std::string& text, const std::wstring& from, Batch& batch,
@@ -152,7 +152,7 @@ class Put final : public Command {
 } // namespace
 
 const CommandRow putRow{"put",
-                        "Write probes that another program has made: all of them, or none",
+                        "Write probes that another program has produced: all of them, or none",
                         {"quorconv show laboratory.ini --json | quorconv put copy.ini --json",
                          "quorconv put laboratory.ini certificates.csv --csv --decimal comma --dry-run"},
                         Create<Put>};

@@ -18,8 +18,7 @@ class Remove final : public Command {
         arguments.Rest("SECTION", m_selection.patterns, 1, Meaning::Section,
                        "The sections of the probes, or patterns with * and ?");
         m_selection.DeclareType(arguments);
-        arguments.Options("--also", "FILE", m_also, Meaning::File,
-                          "The same in that file; may stand several times");
+        arguments.Options("--also", "FILE", m_also, Meaning::File, "The same in that file; may be repeated");
         DeclareDryRun(arguments, m_isDryRun);
     }
 
@@ -40,7 +39,7 @@ class Remove final : public Command {
 } // namespace
 
 const CommandRow removeRow{"remove",
-                           "Remove probes with their settings; comments that stand apart stay",
+                           "Remove probes with their settings; comments set apart by a blank line stay",
                            {"quorconv remove laboratory.ini \"Probe 9 PRT-1182\"",
                             "quorconv remove laboratory.ini \"*\" --type tct --dry-run"},
                            Create<Remove>};

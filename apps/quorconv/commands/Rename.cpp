@@ -32,7 +32,7 @@ class Rename final : public Command {
 } // namespace
 
 const CommandRow renameRow{"rename",
-                           "Give a probe another name, and so the sections of its settings",
+                           "Rename a probe and the sections of its settings",
                            {"quorconv rename laboratory.ini \"Probe 9 PRT-1182\" \"Probe 9 PRT-1183\""},
                            Create<Rename>};
 

@@ -25,11 +25,10 @@ class Set final : public Command {
         arguments.Rest("KEY=VALUE", m_values, 0, Meaning::Assignment,
                        "Values, by the keys that \"show\" prints");
         m_selection.DeclareType(arguments);
-        arguments.Options("--also", "FILE", m_also, Meaning::File,
-                          "The same in that file; may stand several times");
+        arguments.Options("--also", "FILE", m_also, Meaning::File, "The same in that file; may be repeated");
         arguments.Option("--from", "FILE", m_from, Meaning::File,
-                         "A file of lines SECTION KEY=VALUE..., all of which are done, or none;\n"
-                         "a name with blanks stands in double quotes");
+                         "A file with lines SECTION KEY=VALUE..., all of which are carried out, or none;\n"
+                         "put names with blanks in double quotes");
         m_rules.Declare(arguments);
         m_rules.DeclareDrop(arguments);
         DeclareDryRun(arguments, m_isDryRun);
@@ -63,7 +62,7 @@ class Set final : public Command {
 
 const CommandRow setRow{
     "set",
-    "Change values of a probe, or of all probes that are like a pattern",
+    "Change values of a probe, or of all probes that match a pattern",
     {"quorconv set laboratory.ini \"Probe 1 CSP-0417\" \"Low Range/Coefficients0\"=-2.1E-4",
      "quorconv set laboratory.ini \"Probe 1* PRT-*\" --type cvd NumCoefficients=4 --dry-run"},
     Create<Set>};

@@ -31,9 +31,9 @@ class Show final : public Command {
                        "The sections of probes, or patterns with * and ?; without it, all probes");
         m_selection.DeclareType(arguments);
         arguments.Options("--also", "FILE", m_also, Meaning::File,
-                          "Show those of that file, too; may stand several times");
+                          "Also those of that file; may be repeated");
         arguments.Flag("--json", m_isJson, "Print JSON: an object for one section, an array for more");
-        arguments.Flag("--jsonl", m_isJsonLines, "Print JSON Lines: an object a line");
+        arguments.Flag("--jsonl", m_isJsonLines, "Print JSON Lines: one object per line");
     }
 
     ExitCode Run() override {
@@ -117,7 +117,7 @@ class Show final : public Command {
 
 const CommandRow showRow{
     "show",
-    "Show the settings of probes; those that cannot be read are told, and the others shown",
+    "Show the settings of probes; those that cannot be read are reported, the others shown",
     {"quorconv show laboratory.ini \"Probe 9 PRT-1182\" --json",
      "quorconv show laboratory.ini \"*PRT*\" --type cvd"},
     Create<Show>};

@@ -83,13 +83,13 @@ const BadFile badFiles[] = {
      "host.ini:8: [A - Settings] RTWP: unknown key: a record of this type and size does not hold it\n"},
     {"keys and sections that stand twice are told with the line that counts",
      "[A]\nConversionType=14\n[A - Settings]\nRTPW=25.5\nrtpw=25.6\n[a - settings]\nRTPW=1\n",
-     "host.ini:5: [A - Settings] rtpw: the key stands twice; the one in line 4 is read\n"
-     "host.ini:6: [A - Settings] the section stands twice; the one in line 3 is read\n"},
+     "host.ini:5: [A - Settings] rtpw: the key occurs twice; the one in line 4 is read\n"
+     "host.ini:6: [A - Settings] the section occurs twice; the one in line 3 is read\n"},
     {"keys and sections of the host that stand twice are told, too: whoever reads them sees the first",
      "[Host]\nColour=red\nSize=1\ncolour=blue\n[Other]\nx=1\n[HOST]\nColour=green\n[Host]\n",
-     "host.ini:4: [Host] colour: the key stands twice; the one in line 2 is read\n"
-     "host.ini:7: [Host] the section stands twice; the one in line 1 is read\n"
-     "host.ini:9: [Host] the section stands twice; the one in line 1 is read\n"},
+     "host.ini:4: [Host] colour: the key occurs twice; the one in line 2 is read\n"
+     "host.ini:7: [Host] the section occurs twice; the one in line 1 is read\n"
+     "host.ini:9: [Host] the section occurs twice; the one in line 1 is read\n"},
     {"a line that is no key is told",
      "[A]\nConversionType=14\n[A - Settings]\nRTPW=25.5\nRTPW 25.6\n", //
      "host.ini:5: [A - Settings] the line is no key=value\n"},

@@ -162,7 +162,7 @@ TEST_F(QuorconvCompareTest, AnotherFileThatIsEmptyOrDamagedRemovesNothing) {
     EXPECT_EQ(refused.code, 1);
     EXPECT_EQ(refused.err,
               "quorconv: theirs.ini: not all of this file can be read\n"
-              "  line 1: the line ends in a carriage return alone; nobody can read what stands behind it\n");
+              "  line 1: the line ends in a lone carriage return; what follows it cannot be read\n");
     EXPECT_EQ(Quorconv({"diff", "ours.ini", "theirs.ini"}).code, 2);
     EXPECT_EQ(folder.Read("ours.ini"), base);
 }

@@ -97,7 +97,7 @@ TEST_F(QuorconvExchangeTest, RefusesJsonThatNoProbeIsWithLineAndColumn) {
     ExpectRefusedJson(Probe("{}", "CONV_CDV"),
                       "in.json:1:26: \"CONV_CDV\" is no conversion type; did you mean \"CONV_CVD\"?");
     ExpectRefusedJson("{\"section\": \"P\", \"section\": \"Q\"}",
-                      "in.json:1:18: the name \"section\" stands twice");
+                      "in.json:1:18: the name \"section\" occurs twice");
     ExpectRefusedJson("{\"sektion\": \"P\"}",
                       "in.json:1:13: there is no member \"sektion\" here; did you mean \"section\"?");
     ExpectRefusedJson(Probe("{\n \"Coeficients\": []}"),
@@ -155,7 +155,7 @@ TEST_F(QuorconvExchangeTest, WritesNoneOfManyProbesWhenOneIsWrong) {
     folder.Write("in.jsonl", Probe("{\"RTPW\": 25.5}", "CONV_WT90") + Probe("{\"RTPW\": 1}", "CONV_WT90"));
     const Outcome twice = Quorconv({"put", "host.ini", "in.jsonl", "--json"});
     EXPECT_EQ(twice.err, "quorconv: host.ini: nothing was written, because a line of in.jsonl is wrong\n"
-                         "  in.jsonl:1:66: [P]: the section stands twice\n");
+                         "  in.jsonl:1:66: [P]: the section occurs twice\n");
     folder.Write("in.jsonl", Replaced(Probe("{\"RTPW\": 25.5}", "CONV_WT90"), "\"P\"", "\"Bath\""));
     ExpectRefused({"put", "host.ini", "in.jsonl", "--json"},
                   "quorconv: host.ini: nothing was written, because a line of in.jsonl is wrong\n"
@@ -233,7 +233,7 @@ TEST_F(QuorconvExchangeTest, RefusesATableThatIsWrongWithLineAndColumn) {
         "[R0, ohm]\"",
         cvd);
     ExpectRefusedTable("section,Coefficients0,coefficients0\nBath,1,2\n",
-                       "in.csv:1: column 3: the column stands twice", cvd);
+                       "in.csv:1: column 3: the column occurs twice", cvd);
     ExpectRefusedTable(
         "section,Coefficients0\n\nBath,\"99,5\"\n",
         "in.csv:3: column 2 (Coefficients0): \"99,5\" is not a number; the decimal sign is a point "
@@ -247,9 +247,9 @@ TEST_F(QuorconvExchangeTest, RefusesATableThatIsWrongWithLineAndColumn) {
                        "in.csv:2: the line has 3 fields, and the first one has 2", cvd);
     ExpectRefusedTable("section,Coefficients0\nBath,\"1\n", "in.csv:3: a quote is not closed", cvd);
     ExpectRefusedTable("section,Coefficients0\nBath,\"1\"2\n",
-                       "in.csv:2: a comma or the end of the line expected behind a field in quotes", cvd);
+                       "in.csv:2: a comma or the end of the line expected after a field in quotes", cvd);
     ExpectRefusedTable("section,Coefficients0\nBath,1\nbath,2\n",
-                       "in.csv:3: [bath]: the section stands twice", cvd);
+                       "in.csv:3: [bath]: the section occurs twice", cvd);
     ExpectRefusedTable(
         "section,Coefficients0\nNew,1\n",
         "in.csv:2: host.ini: [New] NumCoefficients: the value is missing, and the probe is a new one", cvd);

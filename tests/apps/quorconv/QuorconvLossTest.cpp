@@ -6,7 +6,7 @@ namespace {
 
 class QuorconvLossTest : public QuorconvTest {
 protected:
-    const std::string lost = " values of the probe would be lost; --drop lets them go\n";
+    const std::string lost = " values of the probe would be lost; use --drop to allow it\n";
 };
 
 } // namespace
@@ -106,7 +106,7 @@ TEST_F(QuorconvLossTest, NothingIsAddedToAFileThatCannotBeReadWholly) {
     folder.Write("in.csv", "section,type,RTPW\nA,w90,1\n");
     const std::string refused = ": not all of this file can be read, and nothing was written\n";
     const std::string unclosed = "quorconv: lost.ini" + refused +
-                                 "  line 1: the header has no \"]\"; nobody can read what stands below it\n";
+                                 "  line 1: the header has no \"]\"; what is below it cannot be read\n";
     const std::string zero = "quorconv: zero.ini" + refused + "  there are zero bytes: this is no text\n";
     for (const std::string command :
          {"new FILE A w90 RTPW=1", "put FILE in.csv --csv", "copy good.ini A FILE"}) {
@@ -116,7 +116,7 @@ TEST_F(QuorconvLossTest, NothingIsAddedToAFileThatCannotBeReadWholly) {
     ExpectShell("echo new A w90 RTPW=1 | quorconv apply zero.ini", "", zero, 1);
     ExpectShell("quorconv diff good.ini lost.ini", "",
                 "quorconv: lost.ini: not all of this file can be read\n"
-                "  line 1: the header has no \"]\"; nobody can read what stands below it\n",
+                "  line 1: the header has no \"]\"; what is below it cannot be read\n",
                 2);
 }
 
@@ -141,7 +141,7 @@ TEST_F(QuorconvLossTest, ATableOfASpreadsheetIsReadByItsOwnSeparatorAloneAndNeve
     EXPECT_EQ(folder.Read("a.ini"), folder.Read("b.ini"));
     folder.Write("in.csv", "\"section\";\"type\"\n");
     ExpectRefused({"put", "a.ini", "in.csv", "--csv"},
-                  head + "  in.csv:1: a comma or the end of the line expected behind a field in quotes; "
+                  head + "  in.csv:1: a comma or the end of the line expected after a field in quotes; "
                          "\"--separator semicolon\" reads such a table\n");
 }
 
@@ -192,5 +192,5 @@ TEST_F(QuorconvLossTest, SectionsThatStandTwiceAreNamedByDiff) {
     folder.Write("b.ini", folder.Read("a.ini") + "[A - Settings]\nRTPW=2\n[Host]\n[Host]\n");
     ExpectShell(
         "quorconv diff a.ini b.ini", "",
-        "quorconv: b.ini:8: [A - Settings]: the section stands twice; the one in line 5 is compared\n");
+        "quorconv: b.ini:8: [A - Settings]: the section occurs twice; the one in line 5 is compared\n");
 }

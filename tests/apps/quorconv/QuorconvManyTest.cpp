@@ -144,7 +144,7 @@ TEST_F(QuorconvManyTest, GivesAProbeAnotherTypeWithNewSettings) {
     ExpectRefused({"retype", "host.ini", "Instrument", "w90"},
                   "quorconv: host.ini: [Instrument]: the section is not the record of a probe\n");
     ExpectRefused({"retype", "host.ini", "Oven", "w90"},
-                  "quorconv: host.ini: [Oven]: the probe has this type already; its values would be lost\n");
+                  "quorconv: host.ini: [Oven]: the probe already has this type; its values would be lost\n");
     ExpectRefused({"retype", "host.ini", "Oven 9", "w90"},
                   "quorconv: host.ini: [Oven 9]: there is no such section\n");
 }
@@ -186,7 +186,7 @@ TEST_F(QuorconvManyTest, RefusesNamesThatAFileCannotGiveBackAndSaysWhy) {
         {"#c", "what begins so is a comment to other programs"},
         {";c", "what begins so is a comment to other programs"},
         {"N\n2", "it has a line break"},
-        {" N", "blanks around it are lost in the file"},
+        {" N", "blanks around it would be lost in the file"},
     };
     for (const auto& [name, reason] : cases) {
         const std::string printed = std::string(name) == "N\n2" ? "N\\n2" : name;
@@ -302,7 +302,7 @@ TEST_F(QuorconvManyTest, ReadsTheStandardInputAndWritesTheStandardOutputForADash
     ExpectShell("printf 'type RTPW 7\\nclick OK\\n' | quorconv edit host.ini 'Bath A' --script -", "");
     EXPECT_EQ(folder.Read("host.ini"), Replaced(before, "25.5", "7"));
     ExpectShell("quorconv copy - Oven - P <host.ini", "",
-                "quorconv: \"-\" can stand once: the standard input can be read once\n", 2);
+                "quorconv: \"-\" can be given only once: the standard input can be read only once\n", 2);
 }
 
 TEST_F(QuorconvManyTest, ShowsTheProbesThatCanBeReadAndFailsAtTheEnd) {

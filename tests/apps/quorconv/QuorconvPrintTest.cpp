@@ -152,7 +152,7 @@ TEST_F(QuorconvPrintTest, ChecksWithALineAProblem) {
                       fileAsPrinted + ":14" + section + printed +
                           ": unknown key: a record of this type and size does not hold it\n" + fileAsPrinted +
                           ":15" + section + printed +
-                          ": the key stands twice; the one in line 14 is read\n"
+                          ": the key occurs twice; the one in line 14 is read\n"
                           "gone\\n" +
                           printed + ": File not found: gone\\n" + printed + "\n");
     folder.Write(file, Replaced(Record(), "=0.25", "=" + hostile));
