@@ -111,10 +111,10 @@ bool FileCommands::OpenHostFile(const QString& path) {
         std::vector<std::wstring> lines;
         for (const std::size_t line : m_document.LostRecords())
             lines.push_back(FromQt(tr("Line %1").arg(line)));
-        MessageBox(&m_window, QMessageBox::Warning,
-                   tr("%1: these section headers have no \"]\", so nobody can read the probes below them:")
-                       .arg(full),
-                   Wording::Lines(lines))
+        MessageBox(
+            &m_window, QMessageBox::Warning,
+            tr("%1: these section headers have no \"]\", so the probes below them cannot be read:").arg(full),
+            Wording::Lines(lines))
             .exec();
     }
     return true;
@@ -272,7 +272,7 @@ void FileCommands::Export(const std::vector<std::size_t>& probes) {
     std::copy_if(probes.begin(), probes.end(), std::back_inserter(exported),
                  [this](std::size_t probe) { return m_document.HasSettings(probe); });
     if (exported.empty())
-        ShowStatus(tr("What is selected has no settings to export."));
+        ShowStatus(tr("The selected probes have no settings to export."));
     else if (exported.size() == 1)
         ExportOne(exported.front());
     else if (const QString folder = QFileDialog::getExistingDirectory(

@@ -82,7 +82,7 @@ void FindingPane::Fill(const std::vector<ProbeFinding>& findings) {
     m_list->addTopLevelItems(items);
     m_list->setVisible(!items.isEmpty());
     m_summary->setText(items.isEmpty()
-                           ? tr("No findings: all probes can be read, and their values can be meant.")
+                           ? tr("No findings: all probes can be read, and their values are plausible.")
                            : tr("Findings: %1").arg(items.size()));
 }
 

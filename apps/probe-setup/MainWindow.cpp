@@ -155,7 +155,7 @@ void MainWindow::MakeFileMenu() {
                            tr("Write the changes into the file"), [this] { m_files.Save(); }),
                 {.writable = true, .changes = true});
     AddAction(file, "saveAs", tr("Save &as\u2026"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
-              tr("Write the file with the changes under another name, and go on with that file"),
+              tr("Save the file with the changes under another name, and continue with that file"),
               [this] { m_files.SaveAs(); });
     AddAction(file, "saveCopy", tr("Save a &copy as\u2026"), {},
               tr("Write the file with the changes under another name"), [this] { m_files.SaveCopyAs(); });
@@ -173,7 +173,7 @@ void MainWindow::MakeFileMenu() {
                            [this] { m_reports.Print(m_list->Selected()); }),
                 {.probe = true});
     m_rules.Add(*AddAction(file, "pdf", tr("Save as P&DF\u2026"), {},
-                           tr("Put the selected probes into a PDF file, as they would be printed"),
+                           tr("Save the selected probes as a PDF file, as they would be printed"),
                            [this] { m_reports.SavePdf(m_list->Selected()); }),
                 {.probe = true});
     file.addSeparator();
@@ -194,7 +194,7 @@ void MainWindow::MakeEditMenu() {
     m_rules.Add(*redo, {.redo = true});
     edit.addSeparator();
     auto* const copy = AddAction(edit, "copy", tr("&Copy probes"), QKeySequence::Copy,
-                                 tr("Put the selected probes on the clipboard, as text of an INI file"),
+                                 tr("Copy the selected probes to the clipboard, as text of an INI file"),
                                  [this] { m_probes.Copy(); });
     auto* const paste =
         AddAction(edit, "paste", tr("&Paste probes"), QKeySequence::Paste,
@@ -234,7 +234,7 @@ void MainWindow::MakeProbeMenu() {
                                    tr("Remove the selected probes"), [this] { m_probes.Remove(); });
     probe.addSeparator();
     AddAction(probe, "check", tr("&Check"), QKeySequence(Qt::Key_F7),
-              tr("List all that is wrong with the probes of the file"), [this] { Check(); });
+              tr("List everything that is wrong with the probes of the file"), [this] { Check(); });
     m_rules.Add(*add, {.writable = true});
     m_rules.Add(*edit, {.probe = true, .one = true});
     m_rules.Add(*rename, {.probe = true, .one = true, .writable = true});
@@ -263,11 +263,11 @@ void MainWindow::MakeViewMenu() {
         connect(&sort, &QMenu::aboutToShow, action,
                 [this, action, column] { action->setChecked(m_list->SortColumn() == column); });
     };
-    const QString again = tr("Sort the list; the second time, the other way round");
+    const QString again = tr("Sort the list; the second time, in reverse order");
     addOrder("sortByName", tr("&Name"), again, ProbeTableModel::NameColumn);
     addOrder("sortByConversion", tr("&Conversion"), again, ProbeTableModel::ConversionColumn);
     addOrder("sortByChanged", tr("C&hanged"), again, ProbeTableModel::ChangedColumn);
-    addOrder("sortByFile", tr("&Order of the file"), tr("Show the probes as they stand in the file"), -1);
+    addOrder("sortByFile", tr("&Order of the file"), tr("Show the probes in the order of the file"), -1);
     connect(m_values, &QDockWidget::visibilityChanged, this, [this] { ShowState(); });
 }
 
@@ -327,7 +327,7 @@ void MainWindow::ShowHelp(std::int32_t topic) {
 void MainWindow::ShowAbout() {
     MessageBox box(this, QMessageBox::NoIcon,
                    tr("Probe Setup %1").arg(QCoreApplication::applicationVersion()),
-                   tr("The probe conversions of precision thermometers: held, edited, kept in INI files.\n\n"
+                   tr("Edits the probe conversions of precision thermometers and keeps them in INI files.\n\n"
                       "Licence: MIT. Copyright \u00A9 2026 Quor Conversions contributors.\n"
                       "Qt %1, under the LGPL.")
                        .arg(QLatin1String(qVersion())));

@@ -72,8 +72,7 @@ bool ProbeCommands::IsFresh(std::size_t probe) {
         return true;
     MessageBox box(&m_window, QMessageBox::Warning,
                    tr("Another program has changed \"%1\" in the file.").arg(ToQt(m_document.Name(probe))),
-                   tr("Reload the file to see its values as they are now."),
-                   QMessageBox::Save | QMessageBox::Cancel);
+                   tr("Reload the file to see its current values."), QMessageBox::Save | QMessageBox::Cancel);
     box.button(QMessageBox::Save)->setText(tr("&Reload"));
     if (box.exec() == QMessageBox::Save)
         static_cast<void>(m_files.Reload());
@@ -87,12 +86,11 @@ void ProbeCommands::Edit() {
     const ReadProblems& problems = m_document.CheckRecord(*probe);
     if (!problems.IsEmpty()) {
         // Where there is no dialog, no values stand in it.
-        const QString what =
-            m_document.Type(*probe)
-                ? tr("These keys are missing or cannot be read; default values stand in their place:")
-                : tr("This key is missing or cannot be read:");
+        const QString what = m_document.Type(*probe)
+                                 ? tr("These keys are missing or cannot be read; they have default values:")
+                                 : tr("This key is missing or cannot be read:");
         MessageBox(&m_window, QMessageBox::Warning,
-                   tr("The record of \"%1\" in %2 cannot be read wholly.")
+                   tr("The record of \"%1\" in %2 cannot be read completely.")
                        .arg(ToQt(m_document.Name(*probe)), ToQt(m_document.Path())),
                    what + QLatin1Char('\n') + Wording::Lines(problems.Lines()))
             .exec();

@@ -24,7 +24,7 @@ ProbeDialog::ProbeDialog(QWidget* parent, const QString& probes, const TypeChoic
                          std::function<void()> help)
     : QDialog(parent), m_buttons(new QDialogButtonBox) {
     setWindowTitle(tr("Conversion type of %1").arg(probes));
-    Build(type, tr("Another type starts with values of its own; the present ones are not carried over."),
+    Build(type, tr("A new type starts with default values; the present values are not kept."),
           std::move(help));
     m_types->List().setFocus();
     CheckInput();

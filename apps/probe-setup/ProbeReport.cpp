@@ -70,8 +70,7 @@ QString ProbeReport::Page(ProbeDocument& document, QuorConversions::Platform& pl
         for (const std::wstring& key : lost)
             keys += ToQt(key).toHtmlEscaped();
         page += QStringLiteral("<p><b>") +
-                tr("These keys are missing or cannot be read; default values stand in their place:")
-                    .toHtmlEscaped() +
+                tr("These keys are missing or cannot be read; they have default values:").toHtmlEscaped() +
                 QStringLiteral("</b><br>") + keys.join(QLatin1String("<br>")) + QStringLiteral("</p>");
     }
     const QString rule(36, QLatin1Char('_'));

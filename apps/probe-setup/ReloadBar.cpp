@@ -32,7 +32,7 @@ ReloadBar::ReloadBar(const std::function<void()>& reload) : m_text(new QLabel) {
 }
 
 void ReloadBar::ShowFor(const QString& file) {
-    m_text->setText(tr("Another program has changed %1. What you see here is older.").arg(file));
+    m_text->setText(tr("Another program has changed %1. The list shows an older state.").arg(file));
     setVisible(!file.isEmpty());
 }
 

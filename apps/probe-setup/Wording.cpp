@@ -44,45 +44,47 @@ QString Wording::Of(const DocumentError& error) {
     };
     switch (error.failure) {
     case Failure::NoSettingsFile:
-        return tr("%1: this is no settings file. Line %2 is neither a section nor a key, nor any other text "
-                  "that could stand in one.")
+        return tr("%1: this is not a settings file. Line %2 is neither a section nor a key, nor any other "
+                  "text that can be in one.")
             .arg(file, detail(0));
     case Failure::NoStandAloneFile:
-        return tr("%1: this is no settings file of a conversion.").arg(file);
+        return tr("%1: this is not a settings file of a conversion.").arg(file);
     case Failure::UnreadableRecord:
         return tr("%1: these keys are missing or cannot be read:").arg(file) + lines(0);
     case Failure::UnknownType:
-        return tr("%1: \"%2\" has the type %3, which this program does not know. It stays in the file as it "
-                  "is, but it cannot be copied.")
+        return tr("%1: \"%2\" has the type %3, which this program does not know. It stays in the file "
+                  "unchanged, but it cannot be copied.")
             .arg(file, detail(0), detail(1));
     case Failure::ChangedByOthers: {
         QStringList parts;
         if (!error.details.empty())
             parts +=
-                tr("%1: another program has changed or removed these probes meanwhile:").arg(file) + lines(0);
+                tr("%1: another program has changed or removed these probes in the meantime:").arg(file) +
+                lines(0);
         if (!error.conflicts.empty()) {
             std::vector<std::wstring> keys;
             for (const QuorProbeFile::RecordConflict& conflict : error.conflicts)
                 keys.push_back(FromQt(Of(conflict)));
-            parts += tr("%1: another program has changed these values meanwhile:").arg(file) +
+            parts += tr("%1: another program has changed these values in the meantime:").arg(file) +
                      QLatin1Char('\n') + Lines(keys);
         }
         return parts.join(QLatin1Char('\n'));
     }
     case Failure::NameIsTaken:
-        return tr("%1: another program has added a section called \"%2\" meanwhile. Give the probe another "
+        return tr("%1: another program has added a section called \"%2\" in the meantime. Give the probe "
+                  "another "
                   "name and save again.")
             .arg(file, detail(0));
     case Failure::CannotWrite:
         return tr("%1: the probe \"%2\" cannot be written:").arg(file, detail(0)) + lines(1);
     case Failure::NoProbesInText:
-        return tr("There is no probe in it: a probe begins with its name in square brackets, and has a key "
+        return tr("It contains no probe: a probe starts with its name in square brackets and has the key "
                   "\"ConversionType\".");
     case Failure::UnreadableText:
         return tr("These keys are missing in it or cannot be read:") + lines(0);
     case Failure::SharedSection:
-        return tr("%1: the section [%2] belongs to \"%3\" and to \"%4\" at once, so it can neither "
-                  "go nor get another name with one of them alone. Take that change back.")
+        return tr("%1: the section [%2] belongs to both \"%3\" and \"%4\", so it cannot be removed or "
+                  "renamed with only one of them. Undo that change.")
             .arg(file, detail(0), detail(1), detail(2));
     }
     return {};
@@ -103,7 +105,7 @@ QString Wording::Of(NameProblem problem, const QString& name) {
     case NameProblem::IsSettingsOfProbe:
         return tr("Another probe keeps its settings in the section \"%1\".").arg(name);
     case NameProblem::SettingsSectionExists:
-        return tr("The file has a section in which the settings of \"%1\" would stand.").arg(name);
+        return tr("The file already has a section for the settings of \"%1\".").arg(name);
     }
     return {};
 }

@@ -70,7 +70,7 @@ public:
     }
 
     const QCommandLineOption language{QStringLiteral("language"),
-                                      tr("Speak this language, en or de, instead of the system's."),
+                                      tr("Use this language, en or de, instead of the system's."),
                                       QStringLiteral("LANGUAGE")};
     const QCommandLineOption tour{QStringLiteral("tour"),
                                   tr("Show what the program does: edit a value in each of the twelve "

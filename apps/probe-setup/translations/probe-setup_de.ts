@@ -12,7 +12,7 @@
         <translation>Die Datei des Programms oder eine Einstellungsdatei, deren Fühler hinzugefügt wird.</translation>
     </message>
     <message>
-        <source>Speak this language, en or de, instead of the system&apos;s.</source>
+        <source>Use this language, en or de, instead of the system&apos;s.</source>
         <translation>Diese Sprache sprechen, en oder de, statt der des Systems.</translation>
     </message>
     <message>
@@ -94,7 +94,7 @@
         <translation>Zeile %1</translation>
     </message>
     <message>
-        <source>%1: these section headers have no &quot;]&quot;, so nobody can read the probes below them:</source>
+        <source>%1: these section headers have no &quot;]&quot;, so the probes below them cannot be read:</source>
         <translation>%1: Diesen Abschnittsköpfen fehlt die „]“, sodass niemand die Fühler darunter lesen kann:</translation>
     </message>
     <message>
@@ -154,7 +154,7 @@
         <translation>%1 ist neu geladen.</translation>
     </message>
     <message>
-        <source>What is selected has no settings to export.</source>
+        <source>The selected probes have no settings to export.</source>
         <translation>Was ausgewählt ist, hat keine Einstellungen zum Exportieren.</translation>
     </message>
     <message>
@@ -216,7 +216,7 @@
         <translation>Diese Datei ist groß: Sie wird geprüft, wenn Sie es wünschen (F7).</translation>
     </message>
     <message>
-        <source>No findings: all probes can be read, and their values can be meant.</source>
+        <source>No findings: all probes can be read, and their values are plausible.</source>
         <translation>Keine Befunde: Alle Fühler sind lesbar, und ihre Werte können so gemeint sein.</translation>
     </message>
     <message>
@@ -431,7 +431,7 @@
         <translation>Speichern &amp;unter …</translation>
     </message>
     <message>
-        <source>Write the file with the changes under another name, and go on with that file</source>
+        <source>Save the file with the changes under another name, and continue with that file</source>
         <translation>Die Datei mit den Änderungen unter einem anderen Namen schreiben und mit ihr weiterarbeiten</translation>
     </message>
     <message>
@@ -455,7 +455,7 @@
         <translation>&amp;Als PDF speichern …</translation>
     </message>
     <message>
-        <source>Put the selected probes into a PDF file, as they would be printed</source>
+        <source>Save the selected probes as a PDF file, as they would be printed</source>
         <translation>Die ausgewählten Fühler in eine PDF-Datei schreiben, wie sie gedruckt würden</translation>
     </message>
     <message>
@@ -463,7 +463,7 @@
         <translation>Fühler &amp;kopieren</translation>
     </message>
     <message>
-        <source>Put the selected probes on the clipboard, as text of an INI file</source>
+        <source>Copy the selected probes to the clipboard, as text of an INI file</source>
         <translation>Die ausgewählten Fühler als Text einer INI-Datei in die Zwischenablage legen</translation>
     </message>
     <message>
@@ -487,7 +487,7 @@
         <translation>&amp;Prüfen</translation>
     </message>
     <message>
-        <source>List all that is wrong with the probes of the file</source>
+        <source>List everything that is wrong with the probes of the file</source>
         <translation>Alles auflisten, was mit den Fühlern der Datei nicht stimmt</translation>
     </message>
     <message>
@@ -507,7 +507,7 @@
         <translation>&amp;Sortieren nach</translation>
     </message>
     <message>
-        <source>Sort the list; the second time, the other way round</source>
+        <source>Sort the list; the second time, in reverse order</source>
         <translation>Die Liste sortieren; beim zweiten Mal andersherum</translation>
     </message>
     <message>
@@ -527,7 +527,7 @@
         <translation>&amp;Reihenfolge der Datei</translation>
     </message>
     <message>
-        <source>Show the probes as they stand in the file</source>
+        <source>Show the probes in the order of the file</source>
         <translation>Die Fühler zeigen, wie sie in der Datei stehen</translation>
     </message>
     <message>
@@ -535,7 +535,7 @@
         <translation>Probe Setup %1</translation>
     </message>
     <message>
-        <source>The probe conversions of precision thermometers: held, edited, kept in INI files.
+        <source>Edits the probe conversions of precision thermometers and keeps them in INI files.
 
 Licence: MIT. Copyright © 2026 Quor Conversions contributors.
 Qt %1, under the LGPL.</source>
@@ -583,7 +583,7 @@ Qt %1, unter der LGPL.</translation>
         <translation>Ein anderes Programm hat „%1“ in der Datei geändert.</translation>
     </message>
     <message>
-        <source>Reload the file to see its values as they are now.</source>
+        <source>Reload the file to see its current values.</source>
         <translation>Laden Sie die Datei neu, um die Werte zu sehen, wie sie jetzt sind.</translation>
     </message>
     <message>
@@ -591,7 +591,7 @@ Qt %1, unter der LGPL.</translation>
         <translation>&amp;Neu laden</translation>
     </message>
     <message>
-        <source>These keys are missing or cannot be read; default values stand in their place:</source>
+        <source>These keys are missing or cannot be read; they have default values:</source>
         <translation>Diese Schlüssel fehlen oder sind nicht lesbar; an ihrer Stelle stehen Vorgabewerte:</translation>
     </message>
     <message>
@@ -599,7 +599,7 @@ Qt %1, unter der LGPL.</translation>
         <translation>Dieser Schlüssel fehlt oder ist nicht lesbar:</translation>
     </message>
     <message>
-        <source>The record of &quot;%1&quot; in %2 cannot be read wholly.</source>
+        <source>The record of &quot;%1&quot; in %2 cannot be read completely.</source>
         <translation>Der Datensatz von „%1“ in %2 ist nicht ganz lesbar.</translation>
     </message>
     <message>
@@ -642,7 +642,7 @@ Qt %1, unter der LGPL.</translation>
         <translation>Konversionstyp von %1</translation>
     </message>
     <message>
-        <source>Another type starts with values of its own; the present ones are not carried over.</source>
+        <source>A new type starts with default values; the present values are not kept.</source>
         <translation>Ein anderer Typ beginnt mit eigenen Werten; die jetzigen werden nicht übernommen.</translation>
     </message>
     <message>
@@ -720,7 +720,7 @@ Qt %1, unter der LGPL.</translation>
         <translation>Diese Konversion hat keine Werte.</translation>
     </message>
     <message>
-        <source>These keys are missing or cannot be read; default values stand in their place:</source>
+        <source>These keys are missing or cannot be read; they have default values:</source>
         <translation>Diese Schlüssel fehlen oder sind nicht lesbar; an ihrer Stelle stehen Vorgabewerte:</translation>
     </message>
     <message>
@@ -766,7 +766,7 @@ Qt %1, unter der LGPL.</translation>
         <translation>Die Datei neu laden</translation>
     </message>
     <message>
-        <source>Another program has changed %1. What you see here is older.</source>
+        <source>Another program has changed %1. The list shows an older state.</source>
         <translation>Ein anderes Programm hat %1 geändert. Was Sie hier sehen, ist älter.</translation>
     </message>
 </context>
@@ -913,11 +913,11 @@ Qt %1, unter der LGPL.</translation>
         <translation>%1: aus der Datei entfernt, %2 hier</translation>
     </message>
     <message>
-        <source>%1: this is no settings file. Line %2 is neither a section nor a key, nor any other text that could stand in one.</source>
+        <source>%1: this is not a settings file. Line %2 is neither a section nor a key, nor any other text that can be in one.</source>
         <translation>%1: Das ist keine Einstellungsdatei. Zeile %2 ist weder ein Abschnitt noch ein Schlüssel noch sonst ein Text, der in einer stehen könnte.</translation>
     </message>
     <message>
-        <source>%1: this is no settings file of a conversion.</source>
+        <source>%1: this is not a settings file of a conversion.</source>
         <translation>%1: Das ist keine Einstellungsdatei einer Konversion.</translation>
     </message>
     <message>
@@ -925,19 +925,19 @@ Qt %1, unter der LGPL.</translation>
         <translation>%1: Diese Schlüssel fehlen oder sind nicht lesbar:</translation>
     </message>
     <message>
-        <source>%1: &quot;%2&quot; has the type %3, which this program does not know. It stays in the file as it is, but it cannot be copied.</source>
+        <source>%1: &quot;%2&quot; has the type %3, which this program does not know. It stays in the file unchanged, but it cannot be copied.</source>
         <translation>%1: „%2“ hat den Typ %3, den dieses Programm nicht kennt. Der Fühler bleibt in der Datei, wie er ist, kann aber nicht kopiert werden.</translation>
     </message>
     <message>
-        <source>%1: another program has changed or removed these probes meanwhile:</source>
+        <source>%1: another program has changed or removed these probes in the meantime:</source>
         <translation>%1: Ein anderes Programm hat inzwischen diese Fühler geändert oder entfernt:</translation>
     </message>
     <message>
-        <source>%1: another program has changed these values meanwhile:</source>
+        <source>%1: another program has changed these values in the meantime:</source>
         <translation>%1: Ein anderes Programm hat inzwischen diese Werte geändert:</translation>
     </message>
     <message>
-        <source>%1: another program has added a section called &quot;%2&quot; meanwhile. Give the probe another name and save again.</source>
+        <source>%1: another program has added a section called &quot;%2&quot; in the meantime. Give the probe another name and save again.</source>
         <translation>%1: Ein anderes Programm hat inzwischen einen Abschnitt namens „%2“ hinzugefügt. Geben Sie dem Fühler einen anderen Namen und speichern Sie noch einmal.</translation>
     </message>
     <message>
@@ -945,7 +945,7 @@ Qt %1, unter der LGPL.</translation>
         <translation>%1: Der Fühler „%2“ kann nicht geschrieben werden:</translation>
     </message>
     <message>
-        <source>%1: the section [%2] belongs to &quot;%3&quot; and to &quot;%4&quot; at once, so it can neither go nor get another name with one of them alone. Take that change back.</source>
+        <source>%1: the section [%2] belongs to both &quot;%3&quot; and &quot;%4&quot;, so it cannot be removed or renamed with only one of them. Undo that change.</source>
         <translation>%1: Der Abschnitt [%2] gehört zu „%3“ und zu „%4“ zugleich; er kann also nicht mit einem von beiden allein verschwinden oder einen anderen Namen bekommen. Nehmen Sie diese Änderung zurück.</translation>
     </message>
     <message>
@@ -969,7 +969,7 @@ Qt %1, unter der LGPL.</translation>
         <translation>Ein anderer Fühler bewahrt seine Einstellungen im Abschnitt „%1“ auf.</translation>
     </message>
     <message>
-        <source>The file has a section in which the settings of &quot;%1&quot; would stand.</source>
+        <source>The file already has a section for the settings of &quot;%1&quot;.</source>
         <translation>Die Datei hat einen Abschnitt, in dem die Einstellungen von „%1“ stehen würden.</translation>
     </message>
     <message>
@@ -1009,7 +1009,7 @@ Qt %1, unter der LGPL.</translation>
         <translation>Fehler: %1</translation>
     </message>
     <message>
-        <source>There is no probe in it: a probe begins with its name in square brackets, and has a key &quot;ConversionType&quot;.</source>
+        <source>It contains no probe: a probe starts with its name in square brackets and has the key &quot;ConversionType&quot;.</source>
         <translation>Es ist kein Fühler darin: Ein Fühler beginnt mit seinem Namen in eckigen Klammern und hat einen Schlüssel „ConversionType“.</translation>
     </message>
     <message>

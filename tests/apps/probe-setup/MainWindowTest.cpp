@@ -563,8 +563,8 @@ TEST_F(MainWindowTest, AFileThatIsNoSettingsFileIsToldAndThePresentOneStays) {
     EXPECT_FALSE(window->OpenPath(Path("picture.ini")));
     EXPECT_EQ(text,
               "The file cannot be opened.|" + Path("picture.ini") +
-                  ": this is no settings file. Line 4 is neither a section nor a key, nor any other text "
-                  "that could stand in one.");
+                  ": this is not a settings file. Line 4 is neither a section nor a key, nor any other text "
+                  "that can be in one.");
     EXPECT_EQ(Names(), (QStringList{"Probe 1", "Probe 2"}));
     EXPECT_EQ(window->windowTitle(), QString::fromUtf8("host.ini[*] \u2013 Probe Setup"));
 }
@@ -650,7 +650,7 @@ TEST_F(MainWindowTest, NewerValuesOfAnotherProgramAreAskedFor) {
     QString text;
     WillAnswer(QMessageBox::Cancel, &text);
     Press(Qt::Key_S, Qt::ControlModifier);
-    EXPECT_EQ(text, Path("host.ini") + ": another program has changed these values meanwhile:\n"
+    EXPECT_EQ(text, Path("host.ini") + ": another program has changed these values in the meantime:\n"
                                        "[Probe 1 - Settings] Coefficients0: 99.5 in the file, 100.0123 here|"
                                        "Do you want to replace what the other program has written?");
     EXPECT_EQ(File(), theirs);
@@ -672,10 +672,10 @@ TEST_F(MainWindowTest, ProbesAndValuesThatAnotherProgramHasTakenAwayAreToldApart
     WillAnswer(QMessageBox::Cancel, &text);
     Press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(text, Path("host.ini") +
-                        ": another program has changed or removed these probes meanwhile:\n"
+                        ": another program has changed or removed these probes in the meantime:\n"
                         "Probe 2\n" +
                         Path("host.ini") +
-                        ": another program has changed these values meanwhile:\n"
+                        ": another program has changed these values in the meantime:\n"
                         "[Probe 1 - Settings] Coefficients0: removed from the file, "
                         "100.0123 here|"
                         "Do you want to replace what the other program has written?");
@@ -832,8 +832,9 @@ TEST_F(MainWindowTest, ATypeThatCannotBeReadIsToldWithItsKeyAndWithoutADialog) {
     QString text;
     WillAnswer(QMessageBox::Ok, &text);
     Press(Qt::Key_Return);
-    EXPECT_EQ(text, "The record of \"P\" in " + Path("odd.ini") +
-                        " cannot be read wholly.|This key is missing or cannot be read:\n[P] ConversionType");
+    EXPECT_EQ(text,
+              "The record of \"P\" in " + Path("odd.ini") +
+                  " cannot be read completely.|This key is missing or cannot be read:\n[P] ConversionType");
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
@@ -877,8 +878,8 @@ TEST_F(MainWindowTest, ASectionOfTwoProbesIsNamedWhenItStopsASave) {
     Press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(text,
               "shared.ini cannot be saved.|" + Path("shared.ini") +
-                  ": the section [P - Settings] belongs to \"P - Settings\" and to \"P\" at once, so it "
-                  "can neither go nor get another name with one of them alone. Take that change back.");
+                  ": the section [P - Settings] belongs to both \"P - Settings\" and \"P\", so it cannot be "
+                  "removed or renamed with only one of them. Undo that change.");
     Press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_FALSE(window->isWindowModified());
 }
@@ -888,9 +889,8 @@ TEST_F(MainWindowTest, AProbeBelowABrokenHeaderIsToldWhenItsFileIsOpened) {
     QString text;
     WillAnswer(QMessageBox::Ok, &text);
     ASSERT_TRUE(window->OpenPath(Path("broken.ini")));
-    EXPECT_EQ(text, Path("broken.ini") +
-                        ": these section headers have no \"]\", so nobody can read the probes "
-                        "below them:|Line 25");
+    EXPECT_EQ(text, Path("broken.ini") + ": these section headers have no \"]\", so the probes below them "
+                                         "cannot be read:|Line 25");
     EXPECT_EQ(Names(), (QStringList{"Probe 1", "Probe 2"}));
     EXPECT_FALSE(window->isWindowModified());
 }

@@ -289,9 +289,8 @@ TEST_F(ManyProbesWindow, ProbesGoThroughTheClipboardAsText) {
     WillAnswer(QMessageBox::Ok, &text);
     QApplication::clipboard()->setText("Good morning");
     Press(Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(text,
-              "The text on the clipboard cannot be pasted.|There is no probe in it: a probe begins with "
-              "its name in square brackets, and has a key \"ConversionType\".");
+    EXPECT_EQ(text, "The text on the clipboard cannot be pasted.|It contains no probe: a probe starts with "
+                    "its name in square brackets and has the key \"ConversionType\".");
 }
 
 TEST_F(ManyProbesWindow, AClickOnAHeadingSortsAndTheThirdOneGivesTheOrderOfTheFile) {
@@ -360,7 +359,7 @@ TEST_F(ManyProbesWindow, ABarOffersToReloadWhenAnotherProgramHasChangedTheFile) 
     folder.Write("host.ini", host + "[Probe 3]\nConversionType=11\n");
     ASSERT_TRUE(QTest::qWaitFor([&] { return bar.isVisible(); }));
     EXPECT_EQ(Find<QLabel>("reloadText").text(),
-              "Another program has changed host.ini. What you see here is older.");
+              "Another program has changed host.ini. The list shows an older state.");
     GoTo(1);
     QTest::mouseClick(&Find<QPushButton>("reload"), Qt::LeftButton);
     EXPECT_EQ(Names(), (QStringList{"Probe 1", "Probe 2", "Probe 3"}));
@@ -397,9 +396,9 @@ TEST_F(ManyProbesWindow, NoDialogOpensOnValuesThatAnotherProgramHasChanged) {
     QString text;
     WillAnswer(QMessageBox::Cancel, &text);
     Press(Qt::Key_Return);
-    EXPECT_EQ(text,
-              "Another program has changed \"Probe 1\" in the file.|Reload the file to see its values as "
-              "they are now.");
+    EXPECT_EQ(
+        text,
+        "Another program has changed \"Probe 1\" in the file.|Reload the file to see its current values.");
     EXPECT_TRUE(window->Document().Changed());
 }
 

@@ -86,7 +86,7 @@ TEST_F(Panes, CheckListsAllFindingsAndEnterGoesThere) {
 TEST_F(Panes, CheckSaysThatThereAreNoFindings) {
     Press(Qt::Key_F7);
     EXPECT_EQ(Find<QLabel>("findingSummary").text(),
-              "No findings: all probes can be read, and their values can be meant.");
+              "No findings: all probes can be read, and their values are plausible.");
     EXPECT_EQ(Rows("findingList"), QStringList{});
 }
 
