@@ -1,8 +1,11 @@
 #pragma once
 
+#include "QuorProbeFile/ProbeText.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace QuorProbeFile {
 
@@ -55,9 +58,15 @@ struct ProbeProblem {
     std::wstring section; ///< its section; empty if that has no name
     std::wstring key;     ///< its key; empty if the problem does not concern a single key
     std::wstring text;    ///< what is wrong, for people, without the place: "the key is missing"
+    /// The parts of `text`, for programs that word it in another language.
+    std::vector<ProbePhrase> phrases = {};
     /// Whether it is a warning about an implausible value of a readable record.
     [[nodiscard]] bool IsWarning() const { return kind >= WARNING_R0_NOT_POSITIVE; }
-    friend bool operator==(const ProbeProblem&, const ProbeProblem&) = default;
+    /// The phrases say the same as the text.
+    friend bool operator==(const ProbeProblem& a, const ProbeProblem& b) {
+        return a.kind == b.kind && a.line == b.line && a.section == b.section && a.key == b.key &&
+               a.text == b.text;
+    }
 };
 
 } // namespace QuorProbeFile

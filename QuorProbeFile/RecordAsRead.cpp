@@ -55,4 +55,16 @@ bool RecordAsRead::IsChanged(const CQuorConversion& conversion) const {
         [](const auto& a, const auto& b) { return a.first == b.first && SameValue(a.second, b.second); });
 }
 
+bool RecordAsRead::HasSameValues(const RecordAsRead& other) const {
+    if (!m_state || !other.m_state)
+        return !m_state && !other.m_state;
+    const RecordReading mine(m_state->Record(), m_state->probe);
+    const RecordReading theirs(other.m_state->Record(), m_state->probe);
+    return std::equal(mine.Reads().begin(), mine.Reads().end(), theirs.Reads().begin(), theirs.Reads().end(),
+                      [](const ReadLog::Read& a, const ReadLog::Read& b) {
+                          return a.section == b.section && a.key == b.key && a.found == b.found &&
+                                 (!a.found || SameValue(a.value, b.value));
+                      });
+}
+
 } // namespace QuorProbeFile

@@ -23,6 +23,10 @@ public:
     /// or that WriteChanges has written last. True for one of no probe.
     [[nodiscard]] bool IsChanged(const QuorConversions::CQuorConversion& conversion) const;
 
+    /// Whether a conversion would read the same values from the other one, and miss the same keys. Of two of
+    /// no probe as well.
+    [[nodiscard]] bool HasSameValues(const RecordAsRead& other) const;
+
 private:
     friend class ProbeFile;
     struct State;

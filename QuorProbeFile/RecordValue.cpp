@@ -36,22 +36,22 @@ std::optional<Value> ParseAs(const Value& kind, const std::wstring& text) {
     return text;
 }
 
-std::wstring WhatIsWrong(const Value& kind, const std::wstring& text) {
-    const std::wstring quoted = L"\"" + text + L"\" ";
+ProbePhrase PhraseOfWrong(const Value& kind, const std::wstring& text) {
+    const auto told = [&text](EProbeText phrase) { return ProbePhrase{phrase, {text}}; };
     if (std::holds_alternative<double>(kind)) {
         std::wstring withPoints = text;
         std::replace(withPoints.begin(), withPoints.end(), L',', L'.');
         if (IsBeyondDouble(text))
-            return quoted + L"is a number that no double can hold: too large, or too close to zero";
-        if (ParseAs(kind, withPoints))
-            return quoted + L"is not a number; the decimal separator is a point";
-        return quoted + L"is not a number";
+            return told(PROBE_TEXT_BEYOND_DOUBLE);
+        return told(ParseAs(kind, withPoints) ? PROBE_TEXT_DECIMAL_COMMA : PROBE_TEXT_NO_NUMBER);
     }
     if (std::holds_alternative<std::int16_t>(kind))
-        return quoted + L"is not a whole number from -32768 to 32767";
-    if (std::holds_alternative<bool>(kind))
-        return quoted + L"is neither True nor False";
-    return quoted + L"cannot be read";
+        return told(PROBE_TEXT_NO_WHOLE_NUMBER);
+    return told(std::holds_alternative<bool>(kind) ? PROBE_TEXT_NO_FLAG : PROBE_TEXT_NO_TEXT);
+}
+
+std::wstring WhatIsWrong(const Value& kind, const std::wstring& text) {
+    return Describe({PhraseOfWrong(kind, text)});
 }
 
 bool SameValue(const Value& a, const Value& b) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "QuorProbeFile/Export.h"
+#include "QuorProbeFile/ProbeText.h"
 
 #include <cstdint>
 #include <optional>
@@ -18,6 +19,8 @@ using Value = std::variant<std::wstring, std::int16_t, double, bool>;
 [[nodiscard]] QUORPROBEFILE_EXPORT std::optional<Value> ParseAs(const Value& kind, const std::wstring& text);
 /// Why ParseAs refuses a text: "is not a number", ...
 [[nodiscard]] QUORPROBEFILE_EXPORT std::wstring WhatIsWrong(const Value& kind, const std::wstring& text);
+/// The same, for programs that word it in another language.
+[[nodiscard]] QUORPROBEFILE_EXPORT ProbePhrase PhraseOfWrong(const Value& kind, const std::wstring& text);
 /// Whether two values are the same; numbers are compared bit for bit, so -0.0 is not 0.0, but NaN is NaN.
 [[nodiscard]] QUORPROBEFILE_EXPORT bool SameValue(const Value& a, const Value& b);
 

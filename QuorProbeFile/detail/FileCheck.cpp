@@ -90,17 +90,15 @@ public:
     void CheckHiddenLines() {
         for (const IniWarning& warning : m_store->Warnings()) {
             if (warning.kind == IniWarningKind::LineEndsInCr)
-                Report({PROBLEM_LINE_ENDS_IN_CR, warning.line, warning.section, warning.key,
-                        L"the line goes on behind a carriage return (CR), and what stands there is not read; "
-                        L"a line ends in a line feed (LF or CR LF)"});
+                Report(ProblemIn(PROBLEM_LINE_ENDS_IN_CR, warning.line, warning.section, warning.key,
+                                 {{PROBE_TEXT_LINE_ENDS_IN_CR}}));
             const bool isKey = warning.kind == IniWarningKind::DuplicateKey;
             if (!isKey && warning.kind != IniWarningKind::DuplicateSection)
                 continue;
-            const std::wstring what = isKey ? L"the key" : L"the section";
-            Report(
-                {isKey ? PROBLEM_DUPLICATE_KEY : PROBLEM_DUPLICATE_SECTION, warning.line, warning.section,
-                 warning.key,
-                 what + L" occurs twice; the one in line " + std::to_wstring(warning.first) + L" is read"});
+            Report(ProblemIn(isKey ? PROBLEM_DUPLICATE_KEY : PROBLEM_DUPLICATE_SECTION, warning.line,
+                             warning.section, warning.key,
+                             {{isKey ? PROBE_TEXT_DUPLICATE_KEY : PROBE_TEXT_DUPLICATE_SECTION,
+                               {std::to_wstring(warning.first)}}}));
         }
     }
 
@@ -129,13 +127,9 @@ public:
     /// What saves have left beside the file.
     void CheckLeftovers(std::vector<ProbeProblem>& problems) const {
         for (const IniLeftover& leftover : m_store->Leftovers())
-            problems.push_back({leftover.isKept ? PROBLEM_KEPT_FILE : PROBLEM_INTERRUPTED_SAVE,
-                                0,
-                                {},
-                                {},
-                                (leftover.isKept ? L"what another program had put in its place is kept as "
-                                                 : L"an interrupted save has left ") +
-                                    leftover.path});
+            problems.push_back(ProblemIn(
+                leftover.isKept ? PROBLEM_KEPT_FILE : PROBLEM_INTERRUPTED_SAVE, 0, {}, {},
+                {{leftover.isKept ? PROBE_TEXT_KEPT_FILE : PROBE_TEXT_INTERRUPTED_SAVE, {leftover.path}}}));
     }
 
     [[nodiscard]] std::vector<ProbeProblem> Take() {
@@ -148,7 +142,7 @@ public:
 private:
     void Warn(const RecordReading& reading, const ProbeEntry& probe) {
         for (RecordWarning& warning : WarningsOf(reading))
-            Report(ProblemAt(*warning.read, probe, m_places, warning.kind, std::move(warning.text)));
+            Report(ProblemAt(*warning.read, probe, m_places, warning.kind, {std::move(warning.phrase)}));
     }
 
     /// Whether the library may have asked for no more keys of the record.
@@ -219,12 +213,10 @@ private:
         });
         if (surplus.empty())
             return;
-        const std::wstring value = ToText(read.value);
         Report(ProblemAt(read, probe, m_places, count.warning,
-                         count.warning == WARNING_RANGE_DOES_NOT_FIT
-                             ? L"range " + value + L" does not have these coefficients, which are not 0: " +
-                                   surplus
-                             : value + L" leaves out these values, which are not 0: " + surplus));
+                         {{count.warning == WARNING_RANGE_DOES_NOT_FIT ? PROBE_TEXT_RANGE_LACKS_COEFFICIENTS
+                                                                       : PROBE_TEXT_COUNT_LEAVES_OUT,
+                           {ToText(read.value), surplus}}}));
     }
 
     void CheckSection(const SectionIndex::Section& section, const AskedKeys& known, bool isLookedThrough) {
@@ -232,13 +224,14 @@ private:
         std::set<std::wstring> seen;
         m_places.ForEachLine(section, [&](const IniLines& line) {
             if (line.Is(IniLines::Kind::Malformed)) {
-                Report({PROBLEM_MALFORMED_LINE, line.Number(), name, {}, L"the line is no key=value"});
+                Report(ProblemIn(PROBLEM_MALFORMED_LINE, line.Number(), name, {},
+                                 {{PROBE_TEXT_MALFORMED_LINE}}));
                 return;
             }
             const std::wstring key = Folded(line.Name());
             if (isLookedThrough && !known.Explain(key) && seen.insert(key).second)
-                Report({PROBLEM_UNKNOWN_KEY, line.Number(), name, line.Name(),
-                        L"unknown key: a record of this type and size does not hold it"});
+                Report(ProblemIn(PROBLEM_UNKNOWN_KEY, line.Number(), name, line.Name(),
+                                 {{PROBE_TEXT_UNKNOWN_KEY}}));
         });
     }
 
@@ -255,13 +248,9 @@ std::vector<ProbeProblem> CheckFile(const std::shared_ptr<IniStore>& store, cons
                                     const std::vector<std::size_t>& lostSections) {
     FileCheck check(store);
     if (const auto section = StandAloneSection(path); section && probes.empty())
-        check.Report({PROBLEM_SECTION_MISSING, 1, *section, {}, L"the section is missing"});
+        check.Report(ProblemIn(PROBLEM_SECTION_MISSING, 1, *section, {}, {{PROBE_TEXT_SECTION_MISSING}}));
     for (const std::size_t line : lostSections)
-        check.Report({PROBLEM_UNCLOSED_HEADER,
-                      line,
-                      {},
-                      {},
-                      L"the header has no \"]\"; nobody can read the record below it"});
+        check.Report(ProblemIn(PROBLEM_UNCLOSED_HEADER, line, {}, {}, {{PROBE_TEXT_UNCLOSED_HEADER}}));
     check.CheckHiddenLines();
     for (const ProbeEntry& probe : probes)
         check.CheckRecord(path, probe);

@@ -2,7 +2,7 @@
 
 #include "QuorConversions/core/RecordNames.h"
 #include "QuorIniFile/INIFile.h"
-#include "QuorProbeFile/ReadLog.h"
+#include "QuorProbeFile/detail/ReadLog.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,7 @@
 #include "QuorProbeFile/detail/RecordMeaning.h"
 
 #include "QuorConversions/core/RecordNames.h"
+#include "QuorProbeFile/RecordMeaning.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -80,6 +81,13 @@ bool HasOtherMeaning(std::wstring_view key, std::wstring_view deciding, const st
         const auto index = IndexIn(row.list, key);
         return index && *index >= FirstDifferent(row, a, b);
     });
+}
+
+bool ChangesMeaning(std::wstring_view deciding, const std::optional<Value>& before,
+                    const std::optional<Value>& after, std::wstring_view key) {
+    const std::size_t nested = deciding.rfind(L'/') + 1; // 0: it stands in the record itself
+    return key.rfind(L'/') + 1 == nested && key.substr(0, nested) == deciding.substr(0, nested) &&
+           HasOtherMeaning(key.substr(nested), deciding.substr(nested), before, after);
 }
 
 std::vector<std::wstring> KeysBeyond(std::wstring_view key, const Value& now,

@@ -15,24 +15,31 @@ namespace QuorProbeFile {
 
 namespace {
 
-/// For a value that would be fine without what looks like a comment after it, but is none.
-std::wstring WhatIsNoComment(const Value& kind, const std::wstring& text) {
+/// What is wrong with a value; and with what looks like a comment after it but is none, where it would be
+/// fine without.
+std::vector<ProbePhrase> PhrasesOfWrong(const Value& kind, const std::wstring& text) {
+    std::vector<ProbePhrase> phrases{PhraseOfWrong(kind, text)};
     const std::size_t sign = text.find_first_of(L"#;");
     if (sign == std::wstring::npos)
-        return {};
+        return phrases;
     const std::size_t end = text.find_last_not_of(L" \t", sign == 0 ? 0 : sign - 1);
-    if (end == std::wstring::npos || !ParseAs(kind, text.substr(0, end + 1)))
-        return {};
-    return text[sign] == L'#' ? L"; a comment begins with \";\""
-                              : L"; a comment begins with \";\" after a blank";
+    if (end != std::wstring::npos && ParseAs(kind, text.substr(0, end + 1)))
+        phrases.push_back({text[sign] == L'#' ? PROBE_TEXT_COMMENT_SIGN : PROBE_TEXT_COMMENT_BLANK});
+    return phrases;
 }
 
 } // namespace
 
+ProbeProblem ProblemIn(EProbeProblem kind, std::size_t line, std::wstring section, std::wstring key,
+                       std::vector<ProbePhrase> phrases) {
+    std::wstring text = Describe(phrases);
+    return {kind, line, std::move(section), std::move(key), std::move(text), std::move(phrases)};
+}
+
 ProbeProblem ProblemAt(const ReadLog::Read& read, const ProbeEntry& entry, LinePlaces& places,
-                       EProbeProblem kind, std::wstring text) {
+                       EProbeProblem kind, std::vector<ProbePhrase> phrases) {
     const LinePlaces::Key* const key = places.Find(read.section, read.key);
-    return {kind, key ? key->line : entry.line, read.section, read.key, std::move(text)};
+    return ProblemIn(kind, key ? key->line : entry.line, read.section, read.key, std::move(phrases));
 }
 
 const SectionIndex::Section* LinePlaces::Section(std::wstring_view section) {
@@ -77,12 +84,14 @@ const LinePlaces::Key* LinePlaces::Find(const std::wstring& section, const std::
 ProbeProblem ProblemOf(const ReadLog::Read& read, const ProbeEntry& entry, LinePlaces& places) {
     const auto* const section = places.Section(read.section);
     if (!section)
-        return {PROBLEM_SECTION_MISSING, entry.line, read.section, read.key, L"the section is missing"};
+        return ProblemIn(PROBLEM_SECTION_MISSING, entry.line, read.section, read.key,
+                         {{PROBE_TEXT_SECTION_MISSING}});
     const LinePlaces::Key* const key = places.Find(read.section, read.key);
     if (!key)
-        return {PROBLEM_KEY_MISSING, section->header.number, read.section, read.key, L"the key is missing"};
-    return {PROBLEM_VALUE_UNREADABLE, key->line, read.section, read.key,
-            WhatIsWrong(read.value, key->value) + WhatIsNoComment(read.value, key->value)};
+        return ProblemIn(PROBLEM_KEY_MISSING, section->header.number, read.section, read.key,
+                         {{PROBE_TEXT_KEY_MISSING}});
+    return ProblemIn(PROBLEM_VALUE_UNREADABLE, key->line, read.section, read.key,
+                     PhrasesOfWrong(read.value, key->value));
 }
 
 std::vector<ProbeProblem> ProblemsOf(const RecordReading& reading, const ProbeEntry& entry,
@@ -94,7 +103,7 @@ std::vector<ProbeProblem> ProblemsOf(const RecordReading& reading, const ProbeEn
             return {ProblemOf(type, entry, places)};
         if (!FindType(reading.Conversion().ConversionType()))
             return {ProblemAt(type, entry, places, PROBLEM_UNKNOWN_TYPE,
-                              ToText(type.value) + L" is no conversion type")};
+                              {{PROBE_TEXT_UNKNOWN_TYPE, {ToText(type.value)}}})};
     }
 
     // What the library itself refuses. The keys that decide how a record is read are whole numbers: the last
@@ -110,12 +119,14 @@ std::vector<ProbeProblem> ProblemsOf(const RecordReading& reading, const ProbeEn
             reads.rend(),
             [](const ReadLog::Read& r) { return std::holds_alternative<std::int16_t>(r.value); });
         if (read == reads.rend())
-            problems.push_back({PROBLEM_RECORD_REFUSED, entry.line, entry.section, L"", message.text});
+            problems.push_back(ProblemIn(PROBLEM_RECORD_REFUSED, entry.line, entry.section, L"",
+                                         {{PROBE_TEXT_RECORD_REFUSED, {message.text}}}));
         else if (blamed.emplace(read->section, read->key).second)
             problems.push_back(message.isVersion
                                    ? ProblemAt(*read, entry, places, PROBLEM_VALUE_REFUSED,
-                                               L"the value " + ToText(read->value) + L" is not accepted")
-                                   : ProblemAt(*read, entry, places, PROBLEM_RECORD_REFUSED, message.text));
+                                               {{PROBE_TEXT_VALUE_NOT_ACCEPTED, {ToText(read->value)}}})
+                                   : ProblemAt(*read, entry, places, PROBLEM_RECORD_REFUSED,
+                                               {{PROBE_TEXT_RECORD_REFUSED, {message.text}}}));
     }
 
     // Keys that are missing, cannot be read, or hold what the object does not accept.
@@ -129,9 +140,9 @@ std::vector<ProbeProblem> ProblemsOf(const RecordReading& reading, const ProbeEn
         }
         const auto* const stored = image ? image->Find(PathOf(root, read.section, read.key)) : nullptr;
         if (stored && !SameValue(stored->value, read.value) && !blamed.contains({read.section, read.key}))
-            problems.push_back(ProblemAt(read, entry, places, PROBLEM_VALUE_REPLACED,
-                                         L"the value " + ToText(read.value) + L" is not accepted; " +
-                                             ToText(stored->value) + L" would be used"));
+            problems.push_back(
+                ProblemAt(read, entry, places, PROBLEM_VALUE_REPLACED,
+                          {{PROBE_TEXT_VALUE_REPLACED, {ToText(read.value), ToText(stored->value)}}}));
     }
     return problems;
 }

@@ -5,7 +5,7 @@
 #include "QuorProbeFile/ProbeEntry.h"
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeProblem.h"
-#include "QuorProbeFile/ReadLog.h"
+#include "QuorProbeFile/detail/ReadLog.h"
 #include "QuorProbeFile/detail/RecordReading.h"
 #include "QuorProbeFile/detail/SectionIndex.h"
 
@@ -52,9 +52,12 @@ private:
     NameMap<Key> m_keys;                   // of it
 };
 
+/// A problem in these words.
+[[nodiscard]] ProbeProblem ProblemIn(EProbeProblem kind, std::size_t line, std::wstring section,
+                                     std::wstring key, std::vector<ProbePhrase> phrases);
 /// A problem with a key that was read.
 [[nodiscard]] ProbeProblem ProblemAt(const ReadLog::Read& read, const ProbeEntry& entry, LinePlaces& places,
-                                     EProbeProblem kind, std::wstring text);
+                                     EProbeProblem kind, std::vector<ProbePhrase> phrases);
 
 /// What a key that was not found, or whose value could not be read, is told with.
 [[nodiscard]] ProbeProblem ProblemOf(const ReadLog::Read& read, const ProbeEntry& entry, LinePlaces& places);

@@ -5,7 +5,7 @@
 #include "QuorIniFile/INIFile.h"
 #include "QuorProbeFile/ProbeEntry.h"
 #include "QuorProbeFile/ProbeProblem.h"
-#include "QuorProbeFile/ReadLog.h"
+#include "QuorProbeFile/detail/ReadLog.h"
 
 #include <cstddef>
 #include <memory>

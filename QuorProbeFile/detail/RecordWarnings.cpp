@@ -33,7 +33,7 @@ struct Judged {
     Form form;
     std::int16_t first;
     std::int16_t last;
-    const wchar_t* name;
+    const wchar_t* name; // null: that of a coefficient without one
     EProbeProblem kind;
 };
 
@@ -41,7 +41,7 @@ struct Judged {
 constexpr Judged judged[] = {
     {CONV_ITS90, Form::Any, noIndex, noIndex, L"RTPW", WARNING_RTPW_NOT_POSITIVE},
     {CONV_ITS90, Form::Any, 0, 0, L"a", WARNING_DEVIATION_A_SIZE},
-    {CONV_ITS90, Form::Any, 1, 6, L"the coefficient", WARNING_DEVIATION_SIZE},
+    {CONV_ITS90, Form::Any, 1, 6, nullptr, WARNING_DEVIATION_SIZE},
     {CONV_IPTS68, Form::Any, 0, 0, L"R0", WARNING_R0_NOT_POSITIVE},
     {CONV_IPTS68, Form::Any, 1, 1, L"ALPHA", WARNING_ALPHA_SIZE},
     {CONV_IPTS68, Form::Any, 2, 2, L"DELTA", WARNING_DELTA_SIZE},
@@ -111,8 +111,9 @@ public:
     }
 
 private:
-    void Warn(EProbeProblem kind, const ReadLog::Read& read, std::wstring text) {
-        m_warnings.push_back({kind, &read, std::move(text)});
+    void Warn(EProbeProblem kind, const ReadLog::Read& read, EProbeText text,
+              std::vector<std::wstring> values = {}) {
+        m_warnings.push_back({kind, &read, {text, std::move(values)}});
     }
 
     void JudgeSection(Read first, Read last) {
@@ -126,17 +127,16 @@ private:
                 continue;
             const Judged* const rule = RuleOf(*read);
             if (!std::isfinite(*number)) {
-                Warn(WARNING_NOT_FINITE, *read, ToText(*number) + L" is not finite");
+                Warn(WARNING_NOT_FINITE, *read, PROBE_TEXT_NOT_FINITE, {ToText(*number)});
             } else if (isAllZero && IsOfEquation(*read, rule)) {
                 if (!std::exchange(isToldZero, true))
-                    Warn(WARNING_COEFFICIENTS_ALL_ZERO, *read, L"all coefficients are 0");
+                    Warn(WARNING_COEFFICIENTS_ALL_ZERO, *read, PROBE_TEXT_COEFFICIENTS_ALL_ZERO);
             } else if (rule) {
                 JudgeValue(*read, *number, *rule);
             } else if (read < pointsEnd && IsIndexed(*read, temperaturesKey)) {
                 if (before && *number <= *before)
-                    Warn(WARNING_TEMPERATURES_NOT_INCREASING, *read,
-                         ToText(*number) + L" is not above " + ToText(*before) +
-                             L", the temperature before it");
+                    Warn(WARNING_TEMPERATURES_NOT_INCREASING, *read, PROBE_TEXT_TEMPERATURE_NOT_INCREASING,
+                         {ToText(*number), ToText(*before)});
                 before = number;
             }
         }
@@ -144,10 +144,20 @@ private:
 
     void JudgeValue(const ReadLog::Read& read, double number, const Judged& rule) {
         const ProbeWarning& warning = *FindWarning(rule.kind);
-        const bool isRight =
-            IsResistance(rule) ? number > 0.0 : number >= warning.least && number <= warning.most;
-        if (!isRight)
-            Warn(rule.kind, read, rule.name + (L" is " + ToText(number)) + L"; limit: " + warning.limit);
+        const std::wstring is = ToText(number);
+        if (IsResistance(rule)) {
+            if (!(number > 0.0))
+                Warn(rule.kind, read, PROBE_TEXT_NOT_ABOVE_ZERO, {rule.name, is});
+        } else if (number >= warning.least && number <= warning.most) {
+            return;
+        } else if (!rule.name) {
+            Warn(rule.kind, read, PROBE_TEXT_COEFFICIENT_TOO_LARGE, {is, ToText(warning.most)});
+        } else if (warning.least == -warning.most) {
+            Warn(rule.kind, read, PROBE_TEXT_TOO_LARGE, {rule.name, is, ToText(warning.most)});
+        } else {
+            Warn(rule.kind, read, PROBE_TEXT_OUT_OF_INTERVAL,
+                 {rule.name, is, ToText(warning.least), ToText(warning.most)});
+        }
     }
 
     [[nodiscard]] const Judged* RuleOf(const ReadLog::Read& read) const {

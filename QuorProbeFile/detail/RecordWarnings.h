@@ -1,7 +1,7 @@
 #pragma once
 
 #include "QuorProbeFile/ProbeProblem.h"
-#include "QuorProbeFile/ReadLog.h"
+#include "QuorProbeFile/detail/ReadLog.h"
 #include "QuorProbeFile/detail/RecordReading.h"
 
 #include <string>
@@ -13,7 +13,7 @@ namespace QuorProbeFile {
 struct RecordWarning {
     EProbeProblem kind;
     const ReadLog::Read* read; ///< of the reading; the first of several values
-    std::wstring text;
+    ProbePhrase phrase;
 };
 
 /// The warnings of a record of a known type that the library has read to its end, in the order of its keys.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QuorProbeFile/ProbeText.h"
 #include "QuorProbeFile/RecordMerge.h"
 
 #include <string>
@@ -29,6 +30,7 @@ struct DocumentError {
     std::wstring file;
     std::vector<std::wstring> details;
     std::vector<QuorProbeFile::RecordConflict> conflicts = {};
+    std::vector<QuorProbeFile::ProbePhrase> phrases = {}; ///< the last of the details, for another language
 };
 
 /// What another program has written about the very probes or keys that are to be saved, and what is to give

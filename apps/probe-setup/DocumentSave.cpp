@@ -2,13 +2,10 @@
 
 #include "QuorConversions/core/CQuorConversion.h"
 #include "QuorConversions/core/modMessages.h"
-#include "QuorConversions/platform/HeadlessPlatform.h"
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeTypes.h"
-#include "QuorProbeFile/ReadLog.h"
 #include "QuorProbeFile/SectionPlan.h"
 #include "QuorProbeFile/TakenNames.h"
-#include "apps/probe-setup/QuietPlatform.h"
 
 #include <algorithm>
 #include <optional>
@@ -22,33 +19,12 @@ using QuorIniFile::IniStore;
 
 namespace {
 
-/// What the library reads of the probe that stands in `section`.
-std::vector<ReadLog::Read> ReadsOf(const ProbeFile& file, const std::wstring& section) {
-    const auto platform = std::make_shared<QuietPlatform>(std::make_shared<HeadlessPlatform>());
-    const QuietPlatform::Quiet quiet(*platform);
-    const auto log = std::make_shared<ReadLog>(file.Store());
-    std::shared_ptr<INIFile> iniFile = log;
-    CQuorConversion(platform).ReadFromFile(iniFile, L"", section);
-    return log->Reads();
-}
-
 void WriteRecord(const std::shared_ptr<INIFile>& iniFile, const ListedProbe& probe,
                  const std::wstring& section, const std::wstring& path) {
     try {
         probe.content.conversion->WriteOrRaise(iniFile, section);
     } catch (const QuorError& error) {
         throw DocumentError{Failure::CannotWrite, path, {probe.name, DescriptionOf(error)}};
-    }
-}
-
-/// None where there is no file yet.
-std::vector<std::wstring> SectionsOf(QuorIniFile::IniStore& store) {
-    try {
-        return store.Sections();
-    } catch (const QuorIniFile::QuorError& error) {
-        if (error.Number() != QuorIniFile::ERR_FILE_NOT_FOUND)
-            throw;
-        return {};
     }
 }
 
@@ -78,16 +54,15 @@ bool DocumentSave::WriteInto(ProbeFile& file, const OthersChanges& replaced) con
     return othersWrote;
 }
 
-void DocumentSave::WriteWhole(const ProbeFile& file, const ListedProbe& probe) {
+void DocumentSave::WriteWhole(ProbeFile& file, const ListedProbe& probe) {
     if (probe.content.replacesRecord && !MayHaveSettings(probe.typeInFile) &&
         MayHaveSettings(probe.content.type)) {
-        for (const std::wstring& section : SectionsOf(*file.Store())) {
-            if (HoldsSettingsOf(section, probe.name)) // which is the host's
-                throw DocumentError{
-                    Failure::CannotWrite,
-                    file.Path(),
-                    {probe.name, ProbeFileError(PROBE_SETTINGS_ARE_TAKEN, file.Path(), probe.name, section)
-                                     .Description()}};
+        for (const std::wstring& section : file.Sections()) {
+            if (!HoldsSettingsOf(section, probe.name))
+                continue; // else it is the host's
+            const ProbeFileError taken(PROBE_SETTINGS_ARE_TAKEN, file.Path(), probe.name, section);
+            throw DocumentError{
+                Failure::CannotWrite, file.Path(), {probe.name, taken.Description()}, {}, {taken.Phrase()}};
         }
     }
     WriteRecord(file.Store(), probe, probe.name, file.Path());
@@ -156,14 +131,15 @@ void DocumentSave::RequireFreeNames(ProbeFile& file) const {
     }
 }
 
-bool DocumentSave::IsSameRecord(const ProbeFile& file, const std::wstring& section) const {
-    const auto before = ReadsOf(m_before, section);
-    const auto now = ReadsOf(file, section);
-    return std::equal(before.begin(), before.end(), now.begin(), now.end(),
-                      [](const ReadLog::Read& a, const ReadLog::Read& b) {
-                          return a.section == b.section && a.key == b.key && a.found == b.found &&
-                                 (!a.found || SameValue(a.value, b.value));
-                      });
+bool DocumentSave::IsSameRecord(ProbeFile& file, const std::wstring& section) const {
+    const auto recordIn = [&section](ProbeFile& present) {
+        try {
+            return present.Record(section);
+        } catch (const ProbeFileError&) { // it says no type that could be read
+            return RecordAsRead();
+        }
+    };
+    return recordIn(m_before).HasSameValues(recordIn(file));
 }
 
 void DocumentSave::MoveSections(IniStore& store) const {
@@ -192,7 +168,7 @@ std::shared_ptr<RecordMerge> DocumentSave::MergeOf(const ListedProbe& probe, con
     return merge;
 }
 
-void DocumentSave::WriteMerged(const ProbeFile& file, const ListedProbe& probe) const {
+void DocumentSave::WriteMerged(ProbeFile& file, const ListedProbe& probe) const {
     const auto merge = MergeOf(probe, file, probe.name);
     if (merge->Conflicts().empty())
         merge->WriteChanges();

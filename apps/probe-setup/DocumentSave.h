@@ -32,7 +32,7 @@ public:
     [[nodiscard]] bool WriteInto(QuorProbeFile::ProbeFile& file, const OthersChanges& replaced) const;
 
     /// Writes one probe, with all its values. Raises DocumentError when its class refuses the record.
-    static void WriteWhole(const QuorProbeFile::ProbeFile& file, const ListedProbe& probe);
+    static void WriteWhole(QuorProbeFile::ProbeFile& file, const ListedProbe& probe);
 
 private:
     /// Raises DocumentError when what was done cannot be joined with what others have written into `file`.
@@ -43,7 +43,7 @@ private:
     /// have there.
     void RequireFreeNames(QuorProbeFile::ProbeFile& file) const;
     /// Whether what the library reads of a probe is the same in the file as it was.
-    [[nodiscard]] bool IsSameRecord(const QuorProbeFile::ProbeFile& file, const std::wstring& section) const;
+    [[nodiscard]] bool IsSameRecord(QuorProbeFile::ProbeFile& file, const std::wstring& section) const;
     /// Removes and renames sections before anything is written into them.
     void MoveSections(QuorIniFile::IniStore& store) const;
     /// The changes of a probe that is merged, now that it stands in `section` of `file`.
@@ -51,7 +51,7 @@ private:
                                                                       const QuorProbeFile::ProbeFile& file,
                                                                       const std::wstring& section) const;
     /// Conflicts give way: the user has agreed to that, or there were none.
-    void WriteMerged(const QuorProbeFile::ProbeFile& file, const ListedProbe& probe) const;
+    void WriteMerged(QuorProbeFile::ProbeFile& file, const ListedProbe& probe) const;
     /// Gives new and renamed probes their names in the letters that the user has typed: a section that is
     /// written in the place of one that is gone has the letters of that one.
     void SpellNewNames(QuorIniFile::IniStore& store) const;

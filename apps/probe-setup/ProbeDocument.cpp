@@ -73,17 +73,6 @@ ReadProblems ProblemsOf(const ReadOutcome& outcome) {
     return problems;
 }
 
-bool Exists(const ProbeFile& file) {
-    try {
-        static_cast<void>(file.Store()->Sections());
-        return true;
-    } catch (const QuorError& error) {
-        if (error.Number() != QuorIniFile::ERR_FILE_NOT_FOUND)
-            throw;
-        return false;
-    }
-}
-
 /// Reads a probe. Of a record that its class gives up the file gives the default values; here those that were
 /// reached are shown, because a save must not write defaults over them.
 ReadProblems ReadInto(CQuorConversion& conversion, ProbeFile& file, const std::wstring& section) {
@@ -144,7 +133,7 @@ std::unique_ptr<ProbeFile> ProbeDocument::FileAt(const std::wstring& path, Openi
 std::unique_ptr<ProbeFile> ProbeDocument::FileThatDoesNotExist(const std::wstring& path) const {
     for (int number = 1;; ++number) {
         auto file = FileAt(path + L"." + std::to_wstring(number), Opening::OrNew);
-        if (!Exists(*file))
+        if (!file->Exists())
             return file;
     }
 }
@@ -386,7 +375,7 @@ std::vector<ProbeFinding> ProbeDocument::Check() {
             for (ProbeProblem& problem : file->Check())
                 add(i, std::move(problem));
         } catch (const DocumentError& error) {
-            add(i, {PROBLEM_RECORD_REFUSED, 0, entry.name, {}, error.details.back()});
+            add(i, {PROBLEM_RECORD_REFUSED, 0, entry.name, {}, error.details.back(), error.phrases});
         }
     }
     return findings;
@@ -686,7 +675,7 @@ void ProbeDocument::Save(const OthersChanges& replaced) {
         TakeOthersChanges();
 }
 
-void ProbeDocument::WriteAll(const ProbeFile& file) {
+void ProbeDocument::WriteAll(ProbeFile& file) {
     for (ListedProbe& entry : m_probes) {
         RequireWhole(entry);
         DocumentSave::WriteWhole(file, entry);
@@ -738,7 +727,7 @@ void ProbeDocument::SaveAs(const std::wstring& path, const OthersChanges& replac
 void ProbeDocument::SaveTo(const std::wstring& path, const OthersChanges& replaced, bool moves) {
     const bool isOwn = m_file && m_file->Store()->IsOwnFile(path);
     const auto file = m_path.empty() ? FileThatDoesNotExist(path) : FileAt(m_path, Opening::OrNew);
-    const bool exists = Exists(*file);
+    const bool exists = file->Exists();
     if (isOwn && exists) {
         Save(replaced);
         return;

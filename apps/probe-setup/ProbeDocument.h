@@ -226,7 +226,7 @@ private:
     [[nodiscard]] std::unique_ptr<QuorProbeFile::ProbeFile>
     FileThatDoesNotExist(const std::wstring& path) const;
     /// Writes all probes into an empty file.
-    void WriteAll(const QuorProbeFile::ProbeFile& file);
+    void WriteAll(QuorProbeFile::ProbeFile& file);
     [[nodiscard]] std::vector<const ListedProbe*> RemovedProbes() const;
     /// Writes what was done into the file as it is now, within an edit or in memory. Returns whether another
     /// program has written into it.

@@ -1,6 +1,7 @@
 #include "apps/probe-setup/Wording.h"
 
 #include "QuorConversions/qt/QtText.h"
+#include "QuorIniFile/IniCause.h"
 
 #include <QStringList>
 
@@ -31,8 +32,17 @@ QString Wording::Of(const QuorProbeFile::RecordConflict& conflict) {
 }
 
 QString Wording::Of(const QuorProbeFile::ProbeProblem& problem) {
-    const QString text = ToQt(problem.text);
+    const QString text = problem.phrases.empty() ? ToQt(problem.text) : Of(problem.phrases);
     return problem.IsWarning() ? tr("Warning: %1").arg(text) : tr("Error: %1").arg(text);
+}
+
+QString Wording::Of(const std::vector<QuorProbeFile::ProbePhrase>& phrases) {
+    QString told;
+    for (const QuorProbeFile::ProbePhrase& phrase : phrases) {
+        const QString text = QCoreApplication::translate("ProbeTexts", EnglishText(phrase.text));
+        told += ToQt(QuorIniFile::FillTildes(FromQt(text), phrase.values));
+    }
+    return told;
 }
 
 QString Wording::Of(const DocumentError& error) {
@@ -76,7 +86,8 @@ QString Wording::Of(const DocumentError& error) {
                   "name and save again.")
             .arg(file, detail(0));
     case Failure::CannotWrite:
-        return tr("%1: the probe \"%2\" cannot be written:").arg(file, detail(0)) + lines(1);
+        return tr("%1: the probe \"%2\" cannot be written:").arg(file, detail(0)) +
+               (error.phrases.empty() ? lines(1) : QLatin1Char('\n') + Of(error.phrases));
     case Failure::NoProbesInText:
         return tr("It contains no probe: a probe starts with its name in square brackets and has the key "
                   "\"ConversionType\".");

@@ -21,6 +21,8 @@ public:
     [[nodiscard]] static QString Of(const QuorProbeFile::RecordConflict& conflict);
     /// What is wrong, with the word "warning" before a warning.
     [[nodiscard]] static QString Of(const QuorProbeFile::ProbeProblem& problem);
+    /// Phrases of QuorProbeFile in the user's language, one right after the other.
+    [[nodiscard]] static QString Of(const std::vector<QuorProbeFile::ProbePhrase>& phrases);
     /// Why a probe cannot be called `name`; empty for no problem.
     [[nodiscard]] static QString Of(NameProblem problem, const QString& name);
     /// What Undo takes back.

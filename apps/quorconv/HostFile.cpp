@@ -51,20 +51,13 @@ struct FileText {
     bool hasUnclosedHeader = false;
 };
 
-FileText TextOf(QuorIniFile::IniStore& store) {
-    FileText text;
-    try {
-        auto lines = store.Lines();
-        while (lines.Next())
-            text.hasUnclosedHeader =
-                text.hasUnclosedHeader || lines.Is(QuorIniFile::IniLines::Kind::UnclosedHeader);
-        const std::string_view last = lines.Bytes(); // also of a comment behind the last line that counts
-        const char* const begin = last.data() - lines.Here().offset;
-        text.bytes = {begin, static_cast<std::size_t>(last.data() + last.size() - begin)};
-    } catch (const QuorIniFile::QuorError& error) {
-        if (error.Number() != QuorIniFile::ERR_FILE_NOT_FOUND)
-            throw;
-    }
+FileText TextOf(ProbeFile& file) {
+    FileText text{file.Text()};
+    if (!file.Exists())
+        return text;
+    auto lines = file.Store()->Lines();
+    while (!text.hasUnclosedHeader && lines.NextHeader())
+        text.hasUnclosedHeader = lines.Is(QuorIniFile::IniLines::Kind::UnclosedHeader);
     return text;
 }
 
@@ -110,7 +103,7 @@ std::wstring ReadText(const std::wstring& path) {
 std::vector<std::wstring> UnreadableLines(ProbeFile& file) {
     using QuorIniFile::IniWarningKind;
     std::vector<std::wstring> told;
-    const FileText text = TextOf(*file.Store());
+    const FileText text = TextOf(file);
     if (text.hasUnclosedHeader || HasLoneCr(text.bytes)) {
         for (const QuorIniFile::IniWarning& warning : file.Store()->Warnings()) {
             const bool isUnclosed = warning.kind == IniWarningKind::UnclosedHeader;
@@ -173,9 +166,9 @@ void HostFile::Edit(bool isDryRun, const std::function<void()>& edit) {
     std::string after;
     try {
         m_file->Edit([&] {
-            before = TextOf(*m_file->Store()).bytes;
+            before = m_file->Text();
             edit();
-            after = TextOf(*m_file->Store()).bytes;
+            after = m_file->Text();
             throw NothingIsSaved();
         });
     } catch (const NothingIsSaved&) {

@@ -856,6 +856,56 @@ TEST_F(ProbeFileTest, ChangesOfAProbeThatWasWrittenWholeAreThoseSinceThen) {
                                               "Version=1.0\nRTPW=25.5\n");
 }
 
+TEST_F(ProbeFileTest, RecordsAreTheSameWhenTheSameWouldBeReadFromThem) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    const RecordAsRead record = file.Record(L"P");
+    const auto isSameIn = [&](const std::string& text) {
+        Host(text);
+        file.Reload();
+        return record.HasSameValues(file.Record(L"p")) && file.Record(L"P").HasSameValues(record);
+    };
+    EXPECT_TRUE(
+        isSameIn(Replaced(Replaced(hostFile, "[P]", "[p]"), "Coefficients3=0", "Coefficients3 = 0.0")));
+    EXPECT_FALSE(isSameIn(Replaced(hostFile, "Coefficients3=0", "Coefficients3=1")));
+    EXPECT_FALSE(isSameIn(Replaced(hostFile, "Coefficients3=0\n", "")));
+    EXPECT_FALSE(isSameIn(Replaced(hostFile, "ConversionType=2", "ConversionType=10")));
+    EXPECT_FALSE(record.HasSameValues(RecordAsRead()));
+    EXPECT_TRUE(RecordAsRead().HasSameValues(RecordAsRead()));
+}
+
+TEST_F(ProbeFileTest, AProblemSaysInPhrasesWhatItSaysInItsText) {
+    Host(Replaced(Replaced(Replaced(hostFile, "3.9083E-3", "0.0039 # alpha"), "100.0 ;", "-1 ;"),
+                  "Coefficients3=0\n", "Colour=red\n"));
+    const std::vector<ProbeProblem> problems = ProbeFile(Path()).Check();
+    ASSERT_EQ(problems.size(), 4U);
+    for (const ProbeProblem& problem : problems)
+        EXPECT_EQ(Describe(problem.phrases), problem.text);
+    const auto phrasesOf = [&](EProbeProblem kind) {
+        return std::find_if(problems.begin(), problems.end(),
+                            [kind](const ProbeProblem& problem) { return problem.kind == kind; })
+            ->phrases;
+    };
+    EXPECT_EQ(phrasesOf(PROBLEM_KEY_MISSING), (std::vector<ProbePhrase>{{PROBE_TEXT_KEY_MISSING}}));
+    EXPECT_EQ(
+        phrasesOf(PROBLEM_VALUE_UNREADABLE),
+        (std::vector<ProbePhrase>{{PROBE_TEXT_NO_NUMBER, {L"0.0039 # alpha"}}, {PROBE_TEXT_COMMENT_SIGN}}));
+    EXPECT_EQ(phrasesOf(WARNING_R0_NOT_POSITIVE),
+              (std::vector<ProbePhrase>{{PROBE_TEXT_NOT_ABOVE_ZERO, {L"R0", L"-1"}}}));
+    EXPECT_EQ(phrasesOf(PROBLEM_UNKNOWN_KEY), (std::vector<ProbePhrase>{{PROBE_TEXT_UNKNOWN_KEY}}));
+}
+
+TEST_F(ProbeFileTest, AnErrorHasThePhraseOfItsCodeWithWhatElseItConcerns) {
+    Host(hostFile);
+    try {
+        ProbeFile(Path()).Rename(L"Q", L"P - Settings - X");
+        FAIL();
+    } catch (const ProbeFileError& error) {
+        EXPECT_EQ(error.Phrase(), (ProbePhrase{PROBE_TEXT_NAME_OF_SETTINGS, {L"P"}}));
+        EXPECT_EQ(error.Description(), Path() + L": [P - Settings - X]: " + Describe({error.Phrase()}));
+    }
+}
+
 TEST_F(ProbeFileTest, AFewerAndThenAGreaterCountConflictWithNothingThatStoodThereBefore) {
     const std::string text = "[P]\nVersion=1.0\nConversionType=4\n[P - Settings]\nVersion=1.0\nOrder=5\n"
                              "Coefficients0=1\nCoefficients1=2\nCoefficients2=3\nCoefficients3=4\n"

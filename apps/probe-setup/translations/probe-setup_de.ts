@@ -1021,4 +1021,183 @@ Qt %1, unter der LGPL.</translation>
         <translation>Einfügen</translation>
     </message>
 </context>
+<context>
+    <name>ProbeTexts</name>
+    <message>
+        <source>there is no such section</source>
+        <translation>es gibt keinen solchen Abschnitt</translation>
+    </message>
+    <message>
+        <source>the section is not the record of a probe</source>
+        <translation>der Abschnitt ist nicht der Datensatz eines Fühlers</translation>
+    </message>
+    <message>
+        <source>the conversion type cannot be read: &quot;~&quot;</source>
+        <translation>der Konversionstyp ist nicht lesbar: „~“</translation>
+    </message>
+    <message>
+        <source>~ is no conversion type</source>
+        <translation>~ ist kein Konversionstyp</translation>
+    </message>
+    <message>
+        <source>the record cannot be read</source>
+        <translation>der Datensatz ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>no section can have this name</source>
+        <translation>so kann kein Abschnitt heißen</translation>
+    </message>
+    <message>
+        <source>there is a section of this name already</source>
+        <translation>es gibt schon einen Abschnitt dieses Namens</translation>
+    </message>
+    <message>
+        <source>the probe &quot;~&quot; keeps its settings in a section of this name</source>
+        <translation>der Fühler „~“ hat seine Einstellungen in einem Abschnitt dieses Namens</translation>
+    </message>
+    <message>
+        <source>the settings would stand in the section &quot;~&quot;, which is there already</source>
+        <translation>die Einstellungen kämen in den Abschnitt „~“, den es schon gibt</translation>
+    </message>
+    <message>
+        <source>a section of this probe belongs to the probe &quot;~&quot;, too</source>
+        <translation>ein Abschnitt dieses Fühlers gehört auch zum Fühler „~“</translation>
+    </message>
+    <message>
+        <source>there is a probe of another type (~) in this section</source>
+        <translation>in diesem Abschnitt steht ein Fühler eines anderen Typs (~)</translation>
+    </message>
+    <message>
+        <source>in a file of this kind the section is not for ~</source>
+        <translation>in einer solchen Datei ist der Abschnitt nicht für ~</translation>
+    </message>
+    <message>
+        <source>the record cannot be written: ~</source>
+        <translation>der Datensatz kann nicht geschrieben werden: ~</translation>
+    </message>
+    <message>
+        <source>the section exists and is not the record of a probe</source>
+        <translation>den Abschnitt gibt es, und er ist nicht der Datensatz eines Fühlers</translation>
+    </message>
+    <message>
+        <source>the values of the settings do not go together: no file gives them back</source>
+        <translation>die Werte der Einstellungen passen nicht zusammen: keine Datei gibt sie so zurück</translation>
+    </message>
+    <message>
+        <source>the section is missing</source>
+        <translation>der Abschnitt fehlt</translation>
+    </message>
+    <message>
+        <source>the key is missing</source>
+        <translation>der Schlüssel fehlt</translation>
+    </message>
+    <message>
+        <source>the value ~ is not accepted</source>
+        <translation>der Wert ~ ist nicht zulässig</translation>
+    </message>
+    <message>
+        <source>the value ~ is not accepted; ~ would be used</source>
+        <translation>der Wert ~ ist nicht zulässig; verwendet würde ~</translation>
+    </message>
+    <message>
+        <source>unknown key: a record of this type and size does not hold it</source>
+        <translation>unbekannter Schlüssel: ein Datensatz dieses Typs und dieser Größe hat ihn nicht</translation>
+    </message>
+    <message>
+        <source>&quot;~&quot; is a number that no double can hold: too large, or too close to zero</source>
+        <translation>„~“ ist zu groß oder zu nahe an Null für eine Zahl doppelter Genauigkeit</translation>
+    </message>
+    <message>
+        <source>&quot;~&quot; is not a number; the decimal separator is a point</source>
+        <translation>„~“ ist keine Zahl; das Dezimalzeichen ist ein Punkt</translation>
+    </message>
+    <message>
+        <source>&quot;~&quot; is not a number</source>
+        <translation>„~“ ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>&quot;~&quot; is not a whole number from -32768 to 32767</source>
+        <translation>„~“ ist keine ganze Zahl von -32768 bis 32767</translation>
+    </message>
+    <message>
+        <source>&quot;~&quot; is neither True nor False</source>
+        <translation>„~“ ist weder True noch False</translation>
+    </message>
+    <message>
+        <source>&quot;~&quot; cannot be read</source>
+        <translation>„~“ ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>; a comment begins with &quot;;&quot;</source>
+        <translation>; ein Kommentar beginnt mit „;“</translation>
+    </message>
+    <message>
+        <source>; a comment begins with &quot;;&quot; after a blank</source>
+        <translation>; ein Kommentar beginnt mit „;“ nach einem Leerzeichen</translation>
+    </message>
+    <message>
+        <source>the key stands twice; the one in line ~ is read</source>
+        <translation>den Schlüssel gibt es zweimal; gelesen wird der in Zeile ~</translation>
+    </message>
+    <message>
+        <source>the section stands twice; the one in line ~ is read</source>
+        <translation>den Abschnitt gibt es zweimal; gelesen wird der in Zeile ~</translation>
+    </message>
+    <message>
+        <source>the header has no &quot;]&quot;; nobody can read the record below it</source>
+        <translation>der Überschrift fehlt „]“; der Datensatz darunter ist für niemanden lesbar</translation>
+    </message>
+    <message>
+        <source>the line is no key=value</source>
+        <translation>die Zeile ist nicht Schlüssel=Wert</translation>
+    </message>
+    <message>
+        <source>the line goes on behind a carriage return (CR), and what stands there is not read; a line ends in a line feed (LF or CR LF)</source>
+        <translation>die Zeile geht hinter einem Wagenrücklauf (CR) weiter, und was dort steht, wird nicht gelesen; eine Zeile endet mit einem Zeilenvorschub (LF oder CR LF)</translation>
+    </message>
+    <message>
+        <source>what another program had put in its place is kept as ~</source>
+        <translation>was ein anderes Programm an ihre Stelle gesetzt hatte, ist aufgehoben als ~</translation>
+    </message>
+    <message>
+        <source>an interrupted save has left ~</source>
+        <translation>ein abgebrochenes Speichern hat ~ hinterlassen</translation>
+    </message>
+    <message>
+        <source>~ is ~; limit: above 0</source>
+        <translation>~ ist ~; Grenze: über 0</translation>
+    </message>
+    <message>
+        <source>~ is ~; limit: at most ~ in size</source>
+        <translation>~ ist ~; Grenze: höchstens ~ im Betrag</translation>
+    </message>
+    <message>
+        <source>~ is ~; limit: ~ to ~</source>
+        <translation>~ ist ~; Grenze: ~ bis ~</translation>
+    </message>
+    <message>
+        <source>the coefficient is ~; limit: at most ~ in size</source>
+        <translation>der Koeffizient ist ~; Grenze: höchstens ~ im Betrag</translation>
+    </message>
+    <message>
+        <source>~ is not finite</source>
+        <translation>~ ist nicht endlich</translation>
+    </message>
+    <message>
+        <source>all coefficients are 0</source>
+        <translation>alle Koeffizienten sind 0</translation>
+    </message>
+    <message>
+        <source>~ is not above ~, the temperature before it</source>
+        <translation>~ liegt nicht über ~, der Temperatur davor</translation>
+    </message>
+    <message>
+        <source>range ~ does not have these coefficients, which are not 0: ~</source>
+        <translation>der Bereich ~ hat diese Koeffizienten nicht, die nicht 0 sind: ~</translation>
+    </message>
+    <message>
+        <source>~ leaves out these values, which are not 0: ~</source>
+        <translation>~ lässt diese Werte weg, die nicht 0 sind: ~</translation>
+    </message>
+</context>
 </TS>

@@ -1,12 +1,14 @@
 #include "apps/quorconv/commands/Rows.h"
 
 #include "QuorProbeFile/ProbeNames.h"
+#include "QuorProbeFile/RecordMeaning.h"
 #include "apps/quorconv/HostFile.h"
 #include "apps/quorconv/ProbeValues.h"
 #include "apps/quorconv/Records.h"
 #include "apps/quorconv/Selection.h"
 
 #include <algorithm>
+#include <optional>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -143,7 +145,7 @@ class Merge final : public Command {
     void MergeValues(const ProbeValues& base, const ProbeValues& our, const ProbeValues& their,
                      const std::wstring& place, std::vector<Change>& written,
                      std::vector<std::wstring>& conflicts) const {
-        const auto ourChanges = ChangesOf(base, our);
+        auto ourChanges = ChangesOf(base, our);
         std::vector<ValueChange> changes; // that we have not made as well
         bool isFine = true;
         for (ValueChange& change : ChangesOf(base, their)) {
@@ -155,34 +157,48 @@ class Merge final : public Command {
             }
             const bool isSame = mine->after && change.after ? SameValue(*mine->after, *change.after)
                                                             : !mine->after && !change.after;
-            if (isSame)
+            if (isSame) {
+                ourChanges.erase(mine);
                 continue;
+            }
             conflicts.push_back(place + L" " + change.key + L": " + TextOf(change.before) + L" is " +
                                 TextOf(mine->after) + L" here and " + TextOf(change.after) + L" in " +
                                 m_theirs);
             isFine = false;
         }
-        // A flag, a code, a count or a scale says what the other values are.
-        const auto decides = [](const ValueChange& change) {
-            const Value* const value = change.before ? change.before : change.after;
-            return !std::holds_alternative<double>(*value);
-        };
-        if (isFine && !changes.empty() && !ourChanges.empty() &&
-            (std::any_of(changes.begin(), changes.end(), decides) ||
-             std::any_of(ourChanges.begin(), ourChanges.end(), decides))) {
-            const bool isTheirs = std::any_of(changes.begin(), changes.end(), decides);
-            const auto& list = isTheirs ? changes : ourChanges;
-            const ValueChange& deciding = *std::find_if(list.begin(), list.end(), decides);
-            conflicts.push_back(place + L" " + deciding.key + L": changed " +
-                                (isTheirs ? L"in " + m_theirs : L"here") +
+        const ValueChange* const theirsDeciding = Deciding(changes, ourChanges);
+        const ValueChange* const deciding = theirsDeciding ? theirsDeciding : Deciding(ourChanges, changes);
+        if (isFine && deciding) {
+            conflicts.push_back(place + L" " + deciding->key + L": changed " +
+                                (theirsDeciding ? L"in " + m_theirs : L"here") +
                                 L", and other values of the probe in the other file");
             return;
         }
         if (!isFine || changes.empty())
             return;
         written.push_back({their.section, {}});
-        for (const ValueChange& change : changes)
-            written.back().values.push_back({change.key, ToText(*change.after)});
+        for (const ValueChange& change : changes) {
+            if (change.after) // else it is beyond a count that is written
+                written.back().values.push_back({change.key, ToText(*change.after)});
+        }
+    }
+
+    /// The change that gives what others have changed another meaning, or adds values or leaves some out, of
+    /// which they know nothing; null when there is none.
+    static const ValueChange* Deciding(const std::vector<ValueChange>& changes,
+                                       const std::vector<ValueChange>& others) {
+        const auto valueOf = [](const Value* value) { return value ? std::optional(*value) : std::nullopt; };
+        const auto decides = [&](const ValueChange& change) {
+            const auto isDecided = [&](const ValueChange& other) {
+                return ChangesMeaning(change.key, valueOf(change.before), valueOf(change.after), other.key);
+            };
+            return std::any_of(others.begin(), others.end(), isDecided) ||
+                   std::any_of(changes.begin(), changes.end(), [&](const ValueChange& own) {
+                       return (!own.before || !own.after) && isDecided(own);
+                   });
+        };
+        const auto found = std::find_if(changes.begin(), changes.end(), decides);
+        return others.empty() || found == changes.end() ? nullptr : &*found;
     }
 
     static std::wstring TextOf(const Value* value) { return value ? ToText(*value) : L"(none)"; }

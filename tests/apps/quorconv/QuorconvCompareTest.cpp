@@ -150,6 +150,21 @@ TEST_F(QuorconvCompareTest, AFlagOfOneFileAndValuesOfTheOtherAreAConflict) {
     ExpectConflicts("  [A] NumCoefficients: changed here, and other values of the probe in the other file\n");
 }
 
+TEST_F(QuorconvCompareTest, AFlagOfOneFileAndAValueOfTheOtherThatItSaysNothingOfAreMerged) {
+    ExpectFine({"set", "theirs.ini", "A", "UsePolynomial=True"});
+    ExpectFine({"set", "ours.ini", "A", "Coefficients0=101"}); // R0 with the flag and without it
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
+    EXPECT_NE(folder.Read("ours.ini").find("UsePolynomial=True\nCoefficients0=101"), std::string::npos)
+        << folder.Read("ours.ini");
+    ExpectFine({"set", "base.ini", "A", "Coefficients1=0.0039"});
+    folder.Write("theirs.ini", folder.Read("base.ini"));
+    folder.Write("ours.ini", folder.Read("base.ini"));
+    for (const char* const file : {"ours.ini", "theirs.ini"}) // which both have changed alike
+        ExpectFine({"set", file, "A", "UsePolynomial=True"});
+    ExpectFine({"set", "theirs.ini", "A", "Coefficients1=0.0040"});
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
+}
+
 TEST_F(QuorconvCompareTest, AnotherFileThatIsEmptyOrDamagedRemovesNothing) {
     folder.Write("theirs.ini", "");
     Outcome refused = Quorconv({"merge", "base.ini", "ours.ini", "theirs.ini"});
