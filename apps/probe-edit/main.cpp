@@ -27,7 +27,7 @@ const char* const usage = "Usage: probe-edit FILE SECTION\n"
 void EditOnScreen(const std::wstring& path, const std::wstring& section) {
     QuorProbeFile::ProbeFile file(path);
     const auto present = file.Find(section);
-    Probe probe = ReadProbeWithSettings(file, present ? present->section : section);
+    Probe probe = ReadProbeToEdit(file, present ? present->section : section);
     const QuorConversions::QtToolkit::QtSession session("probe-edit");
     QuorConversions::CQuorConversion shown(session.Platform());
     shown.SetConversionType(probe.Conversion().ConversionType());
@@ -36,7 +36,8 @@ void EditOnScreen(const std::wstring& path, const std::wstring& section) {
     if (!shown.Edit())
         return;
     RecordImage::Apply(RecordImage::Of(*shown.Settings()), *probe.Settings());
-    WriteEdited(probe, path);
+    QuorProbeFile::ProbeFile now(path);
+    WriteEdited(probe, now);
 }
 
 int Refuse(const char* why) {

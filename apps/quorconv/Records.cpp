@@ -97,9 +97,11 @@ RecordForm FormOf(const RecordImage& image) {
     return std::get<bool>(flag->value) ? RecordForm::Polynomial : RecordForm::AlphaDeltaBeta;
 }
 
-Probe ReadProbe(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& completion) {
-    if (Probe whole(section); ReadWhole(file, whole))
-        return whole;
+namespace {
+
+/// Reads a probe with what is wrong with it, and its record.
+Probe ReadWithRecord(ProbeFile& file, const std::wstring& section,
+                     const std::vector<Assignment>& completion = {}) {
     Probe probe(section);
     const ReadOutcome outcome = file.Read(section, probe.Conversion());
     probe.Record() = outcome.record;
@@ -110,8 +112,15 @@ Probe ReadProbe(ProbeFile& file, const std::wstring& section, const std::vector<
     return probe;
 }
 
-Probe ReadProbeWithSettings(ProbeFile& file, const std::wstring& section) {
-    Probe probe = ReadProbe(file, section);
+} // namespace
+
+Probe ReadProbe(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& completion) {
+    Probe whole(section);
+    return ReadWhole(file, whole) ? std::move(whole) : ReadWithRecord(file, section, completion);
+}
+
+Probe ReadProbeToEdit(ProbeFile& file, const std::wstring& section) {
+    Probe probe = ReadWithRecord(file, section);
     if (!probe.Settings())
         throw Problem{Place(file.Path(), section) + L": " + probe.TypeName() + L" has no settings"};
     return probe;
@@ -369,12 +378,11 @@ void AssignInFile(ProbeFile& file, const std::wstring& section, const std::vecto
         WriteEntry(*file.Store(), settings, entry);
 }
 
-void WriteEdited(Probe& probe, const std::wstring& path) {
-    ProbeFile file(path);
+void WriteEdited(Probe& probe, ProbeFile& file) {
     std::vector<std::wstring> told;
     for (const RecordConflict& conflict :
          file.WriteChanges(probe.Section(), probe.Conversion(), probe.Record()))
-        told.push_back(TellConflict(path, conflict));
+        told.push_back(TellConflict(file.Path(), conflict));
     if (!told.empty())
         throw Problem{told.front(), {std::next(told.begin()), told.end()}};
 }

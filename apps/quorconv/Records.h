@@ -39,8 +39,8 @@ struct ValueRules {
 /// `completion` gives.
 [[nodiscard]] Probe ReadProbe(QuorProbeFile::ProbeFile& file, const std::wstring& section,
                               const std::vector<Assignment>& completion = {});
-/// The same for a probe that has settings.
-[[nodiscard]] Probe ReadProbeWithSettings(QuorProbeFile::ProbeFile& file, const std::wstring& section);
+/// The same for a probe that has settings, with its record, for WriteEdited.
+[[nodiscard]] Probe ReadProbeToEdit(QuorProbeFile::ProbeFile& file, const std::wstring& section);
 
 /// Ends the failure that a record has no such key: with the key that is meant by the name of a coefficient,
 /// or with the nearest one, if there is any.
@@ -68,7 +68,7 @@ void AssignInFile(QuorProbeFile::ProbeFile& file, const std::wstring& section,
 
 /// Writes what has become another value since the probe was read, by a person who may have taken his time,
 /// into the file as it is now, and nothing else. Raises Problem when another program has changed the same.
-void WriteEdited(Probe& probe, const std::wstring& path);
+void WriteEdited(Probe& probe, QuorProbeFile::ProbeFile& file);
 
 /// Raises Problem with the reason when no probe can have that name in a file.
 void RequireName(const std::wstring& file, const std::wstring& name);

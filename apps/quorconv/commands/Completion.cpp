@@ -153,11 +153,13 @@ class Completion final : public Command {
             const char* optionSeparator = "";
             for (const Argument& argument : command.arguments) {
                 if (argument.IsOption()) {
-                    options += optionSeparator + argument.name +
-                               (argument.value.empty() ? "" : "=" + WordOf(argument));
+                    options.append(optionSeparator).append(argument.name);
+                    if (!argument.value.empty())
+                        options.append("=").append(WordOf(argument));
                     optionSeparator = " ";
                 } else {
-                    arguments += separator + WordOf(argument) + (argument.name.ends_with("...") ? "..." : "");
+                    arguments.append(separator).append(WordOf(argument));
+                    arguments += argument.name.ends_with("...") ? "..." : "";
                     separator = " ";
                 }
             }
@@ -166,8 +168,9 @@ class Completion final : public Command {
         }
         std::string types;
         for (const QuorProbeFile::TypeInfo& type : QuorProbeFile::Types())
-            types += (types.empty() ? "" : " ") + QuorIniFile::ToUtf8(type.enumerator) +
-                     (type.extension.empty() ? "" : " " + QuorIniFile::ToUtf8(type.extension));
+            for (const std::wstring& word : {type.enumerator, type.extension})
+                if (!word.empty())
+                    types.append(types.empty() ? "" : " ").append(QuorIniFile::ToUtf8(word));
         std::cout << "_quorconv_commands='" << names << "'\n_quorconv_types='" << types
                   << "'\ndeclare -gA _quorconv_arguments=(\n"
                   << arguments << ")\ndeclare -gA _quorconv_options=(\n"

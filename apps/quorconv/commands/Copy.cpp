@@ -1,8 +1,12 @@
 #include "apps/quorconv/commands/Rows.h"
 
+#include "QuorProbeFile/ProbeNames.h"
 #include "apps/quorconv/HostFile.h"
 #include "apps/quorconv/Selection.h"
 #include "apps/quorconv/Steps.h"
+
+#include <memory>
+#include <unordered_set>
 
 namespace quorconv {
 
@@ -15,6 +19,7 @@ class Copy final : public Command {
     std::wstring m_to;
     std::optional<std::wstring> m_name;
     std::wstring m_section;
+    std::vector<std::wstring> m_also;
     Selection m_selection;
     bool m_replaces = false;
     bool m_isDryRun = false;
@@ -27,6 +32,8 @@ class Copy final : public Command {
         arguments.Maybe("TO-SECTION", m_name, Meaning::Text,
                         "The section to copy to; without it the probes keep their names");
         m_selection.DeclareType(arguments);
+        arguments.Options("--also", "FILE", m_also, Meaning::File,
+                          "Copy those of that file too; can be given several times");
         arguments.Flag("--replace", m_replaces, "Replace existing probes of the same type");
         DeclareDryRun(arguments, m_isDryRun);
     }
@@ -35,16 +42,29 @@ class Copy final : public Command {
         m_selection.patterns = {m_section};
         if (m_name && m_selection.IsMany())
             throw UsageError{L"several probes keep their names: no TO-SECTION"};
-        HostFile from(m_from);
+        if (m_name && !m_also.empty())
+            throw UsageError{L"probes of several files keep their names: no TO-SECTION"};
+        std::vector<std::unique_ptr<HostFile>> sources;
+        sources.push_back(std::make_unique<HostFile>(m_from));
+        for (const std::wstring& path : m_also)
+            sources.push_back(std::make_unique<HostFile>(path));
         HostFile to(m_to, ProbeFile::Opening::OrNew);
-        const auto sections = m_selection.In(*from);
+        std::size_t count = 0;
         to.Edit(m_isDryRun, [&] {
             RequireReadable(*to);
-            for (const std::wstring& section : sections)
-                CopyProbe(*from, section, *to, m_name.value_or(section), m_replaces);
+            std::unordered_set<std::wstring> copied;
+            for (const auto& from : sources) {
+                for (const std::wstring& section : m_selection.In(**from)) {
+                    if (!copied.insert(QuorProbeFile::Folded(section)).second)
+                        throw Problem{Place((*from)->Path(), section) +
+                                      L": a probe of this name stands in several of the files"};
+                    CopyProbe(**from, section, *to, m_name.value_or(section), m_replaces);
+                }
+            }
+            count = copied.size();
         });
-        if (m_selection.IsMany())
-            TellCount(sections.size(), L"probe", m_isDryRun ? "would be copied" : "copied");
+        if (m_selection.IsMany() || !m_also.empty())
+            TellCount(count, L"probe", m_isDryRun ? "would be copied" : "copied");
         return fine;
     }
 };

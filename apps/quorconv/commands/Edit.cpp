@@ -32,6 +32,7 @@ class Edit final : public Command {
     std::wstring m_section;
     std::optional<std::wstring> m_script;
     bool m_show = false;
+    bool m_isDryRun = false;
 
     void Declare(Arguments& arguments) override {
         arguments.One("FILE", m_path, Meaning::File, "The INI file");
@@ -41,6 +42,7 @@ class Edit final : public Command {
             "What the user does, one command per line: type R0 100.0123, choose Type K, click OK;\n"
             "without it the dialog opens on the screen");
         arguments.Flag("--show", m_show, "Print the dialog as text, as it opens");
+        DeclareDryRun(arguments, m_isDryRun);
     }
 
     ExitCode Run() override {
@@ -48,6 +50,8 @@ class Edit final : public Command {
             throw UsageError{L"edit needs a file: a dialog waits for the user"};
         if (m_script || m_show)
             Play();
+        else if (m_isDryRun)
+            throw UsageError{L"--dry-run needs --script: a person sees in the dialog what will be written"};
         else if (HasDisplay())
             BecomeProbeEdit(m_path, m_section);
         else
@@ -57,8 +61,7 @@ class Edit final : public Command {
 
     void Play() {
         QuorProbeFile::ProbeFile file(m_path);
-        Probe probe = ReadProbeWithSettings(file, SpelledInFile(file, m_section));
-        probe.Record() = file.Record(probe.Section());
+        Probe probe = ReadProbeToEdit(file, SpelledInFile(file, m_section));
         std::wstring commands = m_show ? L"show\n" : L"";
         commands += m_script ? ReadText(*m_script) : L"escape";
         const std::size_t added = m_show ? 1 : 0; // lines that the script does not have
@@ -79,7 +82,12 @@ class Edit final : public Command {
             throw Problem{Place(m_path, m_section) +
                               L": nothing was written, because of advice that the script does not expect",
                           advice};
-        WriteEdited(probe, m_path);
+        HostFile now(m_path);
+        if (m_isDryRun)
+            now.Edit(true, [&] { WriteEdited(probe, *now); });
+        else
+            WriteEdited(probe,
+                        *now); // no part of an edit, which may be repeated: what was written counts as read
     }
 };
 

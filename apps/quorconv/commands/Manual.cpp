@@ -107,7 +107,9 @@ Page PageOf(const DeclaredCommand& command) {
         synopsis += " [\\fIoptions\\fR]";
     for (const Argument& argument : command.arguments) {
         if (!argument.IsOption())
-            synopsis += argument.isRequired ? " " + Spelling(argument) : " [" + Spelling(argument) + "]";
+            synopsis.append(argument.isRequired ? " " : " [")
+                .append(Spelling(argument))
+                .append(argument.isRequired ? "" : "]");
     }
     page.Raw(synopsis);
     page.Heading("ARGUMENTS");

@@ -194,3 +194,27 @@ TEST_F(QuorconvLossTest, SectionsThatStandTwiceAreNamedByDiff) {
         "quorconv diff a.ini b.ini", "",
         "quorconv: b.ini:8: [A - Settings]: the section occurs twice; the one in line 5 is compared\n");
 }
+
+TEST_F(QuorconvLossTest, ADryRunOfAnEditPrintsWhatTheDialogWouldWrite) {
+    ExpectFine({"new", "a.ini", "A", "w90", "RTPW=1"});
+    const std::string before = folder.Read("a.ini");
+    folder.Write("steps.txt", "type RTPW 25.5\nclick OK\n");
+    const Outcome run = Quorconv({"edit", "a.ini", "A", "--script", "steps.txt", "--dry-run"});
+    EXPECT_EQ(run.code, 0) << run.err;
+    EXPECT_NE(run.out.find("\n-RTPW=1\n+RTPW=25.5\n"), std::string::npos) << run.out;
+    EXPECT_EQ(folder.Read("a.ini"), before);
+    ExpectFine({"edit", "a.ini", "A", "--script", "steps.txt"});
+    EXPECT_EQ(folder.Read("a.ini"), Replaced(before, "RTPW=1\n", "RTPW=25.5\n"));
+}
+
+TEST_F(QuorconvLossTest, CopiesFromSeveralFilesAndNeverTwoProbesIntoOne) {
+    ExpectFine({"new", "a.ini", "A", "w90", "RTPW=1"});
+    ExpectFine({"new", "b.ini", "B", "w90", "RTPW=2"});
+    ExpectShell("quorconv copy a.ini '*' c.ini --also b.ini", "", "quorconv: 2 probes copied\n");
+    ExpectFine({"list", "c.ini"}, "A\tCONV_WT90\tW(T90)\nB\tCONV_WT90\tW(T90)\n");
+    ExpectFine({"rename", "b.ini", "B", "a"});
+    const std::string before = folder.Read("c.ini");
+    ExpectRefused({"copy", "a.ini", "*", "c.ini", "--also", "b.ini", "--replace"},
+                  "quorconv: b.ini: [a]: a probe of this name stands in several of the files\n");
+    EXPECT_EQ(folder.Read("c.ini"), before);
+}
