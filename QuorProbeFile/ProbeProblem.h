@@ -49,6 +49,7 @@ enum EProbeProblem : std::int32_t {
     WARNING_THERMISTOR_A3_SIZE = 119,
     WARNING_THERMISTOR_B1_SIZE = 120,
     WARNING_COUNT_DOES_NOT_FIT = 121, ///< values beyond the count are not 0
+    WARNING_UNKNOWN_CODE = 122,       ///< the code is not that of a thermocouple type
 };
 
 /// One problem, and where it is.

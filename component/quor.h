@@ -629,7 +629,8 @@ enum {
     QUOR_WARNING_THERMISTOR_A1_SIZE = 118,
     QUOR_WARNING_THERMISTOR_A3_SIZE = 119,
     QUOR_WARNING_THERMISTOR_B1_SIZE = 120,
-    QUOR_WARNING_COUNT_DOES_NOT_FIT = 121 /* values beside a count that it leaves out are not 0 */
+    QUOR_WARNING_COUNT_DOES_NOT_FIT = 121, /* values beside a count that it leaves out are not 0 */
+    QUOR_WARNING_UNKNOWN_CODE = 122 /* the code of a thermocouple type stands for none */
 };
 
 /* ---- Classes ---------------------------------------------------------------------------------------------------- */

@@ -3,6 +3,7 @@
 #include "QuorConversions/core/EQuorConversionType.h"
 #include "QuorConversions/core/RecordNames.h"
 #include "QuorProbeFile/ProbeWarning.h"
+#include "QuorProbeFile/RecordReference.h"
 
 #include <algorithm>
 #include <cmath>
@@ -123,8 +124,10 @@ private:
         const double* before = nullptr; // the temperature of the point before
         for (Read read = first; read != last; ++read) {
             const double* const number = NumberOf(*read);
-            if (!number)
+            if (!number) {
+                JudgeCode(*read);
                 continue;
+            }
             const Judged* const rule = RuleOf(*read);
             if (!std::isfinite(*number)) {
                 Warn(WARNING_NOT_FINITE, *read, PROBE_TEXT_NOT_FINITE, {ToText(*number)});
@@ -140,6 +143,17 @@ private:
                 before = number;
             }
         }
+    }
+
+    /// Whether a code stands for something. What the settings object does not take is told as a problem.
+    void JudgeCode(const ReadLog::Read& read) {
+        const std::int16_t* const code = read.found ? std::get_if<std::int16_t>(&read.value) : nullptr;
+        const RecordKey* const key =
+            code && read.key == tcTypeKey ? FindRecordKey(m_type, read.key, RecordForm::Any) : nullptr;
+        if (key && ChoiceName(*key, *code).empty())
+            Warn(WARNING_UNKNOWN_CODE, read,
+                 read.key + L" is " + ToText(*code) + L"; limit: " +
+                     FindWarning(WARNING_UNKNOWN_CODE)->limit);
     }
 
     void JudgeValue(const ReadLog::Read& read, double number, const Judged& rule) {

@@ -338,7 +338,7 @@ TEST(ProbeWarnings, NumbersAndIdsAreDifferent) {
         EXPECT_EQ(FindWarning(warning.id), &warning);
         EXPECT_FALSE(warning.source.empty());
     }
-    EXPECT_EQ(next, 122);
+    EXPECT_EQ(next, 123);
     EXPECT_EQ(FindWarning(PROBLEM_KEY_MISSING), nullptr);
     EXPECT_EQ(FindWarning(L"no-such-warning"), nullptr);
 }

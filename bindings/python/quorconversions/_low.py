@@ -281,6 +281,7 @@ class ProbeProblem(IntEnum):
     WARNING_THERMISTOR_A3_SIZE = 119
     WARNING_THERMISTOR_B1_SIZE = 120
     WARNING_COUNT_DOES_NOT_FIT = 121  # values beside a count that it leaves out are not 0
+    WARNING_UNKNOWN_CODE = 122  # the code of a thermocouple type stands for none
 
 
 class CQuorConversion(Object):

@@ -195,6 +195,19 @@ TEST_F(QuorconvLossTest, SectionsThatStandTwiceAreNamedByDiff) {
         "quorconv: b.ini:8: [A - Settings]: the section occurs twice; the one in line 5 is compared\n");
 }
 
+TEST_F(QuorconvLossTest, CheckWarnsOfAThermocoupleTypeThatThereIsNot) {
+    const std::string file = "[A]\nConversionType=9\n[A - Settings]\nTCType=77\nNumPoints=0\nTempScale=K\n"
+                             "OffsetScale=K\nCoefficients0=0\nCoefficients1=0\n";
+    folder.Write("a.ini", file);
+    const std::string warning =
+        "a.ini:4: warning: [A - Settings] TCType: TCType is 77; limit: -1 to 12 [unknown-code]\n";
+    ExpectFine({"check", "a.ini"}, warning);
+    ExpectShell("quorconv check --strict a.ini", warning, "", 1);
+    ExpectFine({"check", "a.ini", "--ignore", "unknown-code"});
+    ExpectFine({"set", "a.ini", "A", "OffsetScale=C"}); // what stands there already stays
+    EXPECT_EQ(folder.Read("a.ini"), Replaced(file, "OffsetScale=K", "OffsetScale=C"));
+}
+
 TEST_F(QuorconvLossTest, ADryRunOfAnEditPrintsWhatTheDialogWouldWrite) {
     ExpectFine({"new", "a.ini", "A", "w90", "RTPW=1"});
     const std::string before = folder.Read("a.ini");
