@@ -86,9 +86,8 @@ void ProbeList::MakeTable() {
     const int margins = m_table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) * 2 + 4;
     const int rest = m_table->header()->sectionSizeHint(ProbeTableModel::ChangedColumn) +
                      m_table->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * m_table->frameWidth();
-    constexpr int part = 3; // of four parts of the screen: the panes need some of it
-    m_table->setMinimumWidth(
-        std::min(nameWidth + conversionWidth + margins + rest, screen()->availableSize().width() * part / 4));
+    m_table->setMinimumWidth( // the panes need a third of the screen
+        std::min(nameWidth + conversionWidth + margins + rest, screen()->availableSize().width() * 2 / 3));
     m_table->header()->setSectionResizeMode(ProbeTableModel::ConversionColumn, QHeaderView::Stretch);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { m_changed(); });
     connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { m_changed(); });

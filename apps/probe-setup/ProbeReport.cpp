@@ -4,7 +4,6 @@
 #include "apps/probe-setup/ProbeValues.h"
 #include "apps/probe-setup/TypeTexts.h"
 
-#include <QLocale>
 #include <QStringList>
 #include <QTextDocument>
 
@@ -49,10 +48,11 @@ QString ProbeReport::Page(ProbeDocument& document, QuorConversions::Platform& pl
     QString page = Table(
         line(tr("Conversion:"), conversion) + line(tr("File:"), path.isEmpty() ? tr("not saved yet") : path) +
         (document.IsChanged(probe) ? line(tr("State:"), tr("changed and not saved yet")) : QString()) +
-        line(tr("Printed:"), QLocale().toString(time, QLocale::ShortFormat)));
+        line(tr("Printed:"), time.toString(QStringLiteral("yyyy-MM-dd HH:mm"))));
 
-    QString rows = Row(Cell(tr("Name"), "font-weight:bold") + Cell(tr("Value"), "font-weight:bold") +
-                       Cell(tr("Unit"), "font-weight:bold"));
+    QString rows =
+        Row(Cell(tr("Name"), "font-weight:bold") + Cell(tr("Value"), "font-weight:bold;text-align:right") +
+            Cell(tr("Unit"), "font-weight:bold"));
     std::wstring side;
     const std::vector<ProbeValue> values = ValuesOf(document.Conversion(probe), platform);
     for (const ProbeValue& value : values) {

@@ -1136,11 +1136,11 @@ Qt %1, unter der LGPL.</translation>
         <translation>; ein Kommentar beginnt mit „;“ nach einem Leerzeichen</translation>
     </message>
     <message>
-        <source>the key stands twice; the one in line ~ is read</source>
+        <source>the key occurs twice; the one in line ~ is read</source>
         <translation>den Schlüssel gibt es zweimal; gelesen wird der in Zeile ~</translation>
     </message>
     <message>
-        <source>the section stands twice; the one in line ~ is read</source>
+        <source>the section occurs twice; the one in line ~ is read</source>
         <translation>den Abschnitt gibt es zweimal; gelesen wird der in Zeile ~</translation>
     </message>
     <message>
