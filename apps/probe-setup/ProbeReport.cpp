@@ -21,8 +21,10 @@ QString Cell(const QString& text, const char* style = "") {
 
 QString Row(const QString& cells) { return QStringLiteral("<tr>") + cells + QStringLiteral("</tr>"); }
 
+/// With room above it.
 QString Table(const QString& rows) {
-    return QStringLiteral("<table cellpadding=\"4\">") + rows + QStringLiteral("</table>");
+    return QStringLiteral("<table cellpadding=\"4\" style=\"margin-top:20px\">") + rows +
+           QStringLiteral("</table>");
 }
 
 } // namespace
@@ -61,8 +63,7 @@ QString ProbeReport::Page(ProbeDocument& document, QuorConversions::Platform& pl
         rows += Row(Cell(ToQt(value.name)) + Cell(ToQt(value.text), "text-align:right") +
                     Cell(ToQt(value.units)));
     }
-    page += QStringLiteral("<p></p>") +
-            (values.empty() ? QStringLiteral("<p>") + tr("This conversion has no values.").toHtmlEscaped() +
+    page += (values.empty() ? QStringLiteral("<p>") + tr("This conversion has no values.").toHtmlEscaped() +
                                   QStringLiteral("</p>")
                             : Table(rows));
     if (const auto lost = document.CheckRecord(probe).Lines(); !lost.empty()) {
@@ -74,9 +75,8 @@ QString ProbeReport::Page(ProbeDocument& document, QuorConversions::Platform& pl
                 QStringLiteral("</b><br>") + keys.join(QLatin1String("<br>")) + QStringLiteral("</p>");
     }
     const QString rule(36, QLatin1Char('_'));
-    return page + QStringLiteral("<p></p><p></p>") +
-           Table(line(tr("Compared with certificate no.:"), rule) + line(tr("Date:"), rule) +
-                 line(tr("Signature:"), rule));
+    return page + Table(line(tr("Compared with certificate no.:"), rule) + line(tr("Date:"), rule) +
+                        line(tr("Signature:"), rule));
 }
 
 } // namespace ProbeSetup

@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QMimeData>
+#include <QStyledItemDelegate>
 #include <QTreeWidget>
 
 #include <algorithm>
@@ -22,6 +23,18 @@ using QuorConversions::QtToolkit::ToQt;
 namespace {
 
 enum Column { NameColumn, ValueColumn, UnitsColumn, ColumnCount };
+
+/// Shows numbers from left to right in every language: "-1.5", not "1.5-".
+class NumberDelegate final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->direction = Qt::LeftToRight;
+    }
+};
 
 } // namespace
 
@@ -39,6 +52,7 @@ ValuePane::ValuePane(ProbeDocument& document, QuorConversions::Platform& platfor
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_list->header()->setStretchLastSection(true);
+    m_list->setItemDelegateForColumn(ValueColumn, new NumberDelegate(m_list));
     setWidget(m_list);
 
     const auto add = [this](const char* name, const QString& text, bool asTable) {

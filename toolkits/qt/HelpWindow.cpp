@@ -43,19 +43,15 @@ QUrl PageOf(const QHelpEngineCore& engine, const QString& keyword) {
     return engine.documentsForIdentifier(keyword).value(0).url;
 }
 
-/// A palette of the desktop, with a colour of links that can be read on a dark ground: not each dark palette
-/// has one.
-QPalette WithReadableLinks(QPalette palette) {
-    const auto isDark = [&palette](QPalette::ColorRole role) {
+/// The style of links: in the colour of the desktop, where that can be read. Not each dark palette has one.
+QString LinkStyle(const QPalette& palette) {
+    const auto isDark = [](const QColor& colour) {
         constexpr double half = 0.5;
-        const QColor colour = palette.color(role);
         return 0.299 * colour.redF() + 0.587 * colour.greenF() + 0.114 * colour.blueF() < half;
     };
-    const QColor light(0x80, 0xC0, 0xFF);
-    for (const QPalette::ColorRole link : {QPalette::Link, QPalette::LinkVisited})
-        if (isDark(QPalette::Base) && isDark(link))
-            palette.setColor(link, light);
-    return palette;
+    const QColor link = palette.color(QPalette::Link);
+    const bool isHidden = isDark(link) && isDark(palette.color(QPalette::Base));
+    return QStringLiteral("a { color: %1 }").arg(isHidden ? QStringLiteral("#80C0FF") : link.name());
 }
 
 /// Shows pages of the collection alone.
@@ -92,7 +88,7 @@ HelpWindow::HelpWindow(QWidget* parent)
     setWindowTitle(tr("Help"));
 
     m_page->setAccessibleName(tr("Help page"));
-    m_page->setPalette(WithReadableLinks(palette()));
+    m_page->document()->setDefaultStyleSheet(LinkStyle(palette()));
     m_topics->setAccessibleName(tr("Topics"));
     m_topics->setHeaderHidden(true);
     m_topics->header()->setStretchLastSection(false);
@@ -379,7 +375,7 @@ void HelpWindow::StandOnModalWindow() {
 void HelpWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
-        m_page->setPalette(WithReadableLinks(palette()));
+        m_page->document()->setDefaultStyleSheet(LinkStyle(palette()));
         m_page->reload(); // the colours of links are taken when a page is read
     }
 }

@@ -319,5 +319,10 @@ TEST_F(HelpWindowTest, ReadsThePageAgainWhenThePaletteBecomesAnotherOne) {
     dark.setColor(QPalette::Link, QColor(10, 200, 30));
     QApplication::setPalette(dark);
     EXPECT_TRUE(QTest::qWaitFor([&] { return linkColour() == QColor(10, 200, 30); }));
+    dark.setColor(QPalette::Base, QColor(30, 30, 30));
+    dark.setColor(QPalette::Link, QColor(0, 0, 255));
+    QApplication::setPalette(dark);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return linkColour() == QColor(0x80, 0xC0, 0xFF); }))
+        << "a dark blue cannot be read on a dark ground";
     QApplication::setPalette(before);
 }
