@@ -279,7 +279,7 @@ std::string BytesOf(const fs::path& path) {
 bool IsAbsolute(const fs::path& path) {
     // Not every library knows the paths of a network: \\server\share\file.
     const auto& text = path.native();
-    const auto isSeparator = [](auto c) { return c == '/' || c == fs::path::preferred_separator; };
+    const auto isSeparator = [](auto c) { return c == '/' || c == '\\'; };
     return path.is_absolute() || (fs::path::preferred_separator != '/' && text.size() > 1 &&
                                   isSeparator(text[0]) && isSeparator(text[1]));
 }

@@ -50,7 +50,7 @@ protected:
         } catch (const QuorError& error) {
             EXPECT_EQ(error.Number(), number);
             std::string text = error.what();
-            const std::string path = folder.Path().string() + "/";
+            const std::string path = (folder.Path() / "").string();
             const auto at = text.find(path);
             return at == std::string::npos ? text : text.erase(at, path.size());
         }
