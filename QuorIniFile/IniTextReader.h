@@ -27,8 +27,11 @@ public:
     /// Reads the value under `key` in `section`. True, and the value in `value`, if the key exists and holds
     /// a value of that type; otherwise False, and `value` is unchanged.
     [[nodiscard]] bool Read(std::wstring_view section, std::wstring_view key, bool& value);
+    /// Reads a number.
     [[nodiscard]] bool Read(std::wstring_view section, std::wstring_view key, double& value);
+    /// Reads a whole number of 16 bits.
     [[nodiscard]] bool Read(std::wstring_view section, std::wstring_view key, std::int16_t& value);
+    /// Reads a text.
     [[nodiscard]] bool Read(std::wstring_view section, std::wstring_view key, std::wstring& value);
 
 private:

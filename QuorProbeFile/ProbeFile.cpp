@@ -8,6 +8,7 @@
 #include "QuorProbeFile/ProbeTypes.h"
 #include "QuorProbeFile/RecordImage.h"
 #include "QuorProbeFile/SectionPlan.h"
+#include "QuorProbeFile/detail/ConsistencyCheck.h"
 #include "QuorProbeFile/detail/FileCheck.h"
 #include "QuorProbeFile/detail/KeptValues.h"
 #include "QuorProbeFile/detail/RecordBaseline.h"
@@ -405,7 +406,6 @@ void ProbeFile::WriteOne(const ProbeToWrite& probe) {
         if (!info || info->extension != Folded(GetExtensionPart(m_path)))
             throw Error(PROBE_DOES_NOT_FIT_FILE, probe.section, TypeName(type));
     }
-    RequireConsistent(probe.section, probe.conversion);
     const bool namesAreKnown = m_namesText == m_store->TextNumber();
     WriteRecord(m_store, probe.section, probe.conversion, isStandAlone);
     if (!namesAreKnown)
@@ -435,19 +435,13 @@ void ProbeFile::WriteRecord(const std::shared_ptr<INIFile>& to, std::wstring_vie
 }
 
 bool ProbeFile::IsConsistent(const CQuorConversion& conversion) {
-    const auto settings = conversion.Settings();
-    if (!settings)
-        return true;
-    const auto written = std::make_shared<RecordImage>();
-    settings->WriteOrRaise(written, L"");
-    const RecordReading reading(written, {{}, 0, conversion.ConversionType(), true});
-    return reading.Messages().empty() && !reading.LacksKeys() &&
-           RecordImage::Same(*RecordImage::Of(*reading.Settings()), *written);
+    return ConsistencyCheck().Holds(conversion);
 }
 
-void ProbeFile::RequireConsistent(std::wstring_view section, const CQuorConversion& conversion) const {
+void ProbeFile::RequireConsistent(std::wstring_view section, const CQuorConversion& conversion,
+                                  ConsistencyCheck& check) const {
     bool isConsistent = false;
-    WithRefusal(section, [&] { isConsistent = IsConsistent(conversion); });
+    WithRefusal(section, [&] { isConsistent = check.Holds(conversion); });
     if (!isConsistent)
         throw Error(PROBE_INCONSISTENT, section);
 }
@@ -460,7 +454,8 @@ std::vector<RecordConflict> ProbeFile::WriteChanges(std::wstring_view section,
     const ProbeEntry& probe = state.probe;
     if (probe.type != conversion.ConversionType())
         throw Error(PROBE_OF_ANOTHER_TYPE, section, TypeName(*probe.type));
-    RequireConsistent(section, conversion);
+    ConsistencyCheck check;
+    RequireConsistent(section, conversion, check);
     const std::wstring name = EqualFolded(section, probe.section) ? probe.section : std::wstring(section);
     const auto read = state.Record();
     const auto unchanged = state.Unchanged();
@@ -505,10 +500,13 @@ void ProbeFile::Write(const std::vector<ProbeToWrite>& probes) {
         if (!written.insert(probe.section).second)
             throw Error(PROBE_NAME_IS_TAKEN, probe.section);
     }
+    ConsistencyCheck check;
     Edit([&] {
         RemoveOldSettings(probes);
-        for (const ProbeToWrite& probe : probes)
+        for (const ProbeToWrite& probe : probes) {
+            RequireConsistent(probe.section, probe.conversion, check);
             WriteOne(probe);
+        }
     });
 }
 

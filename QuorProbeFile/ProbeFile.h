@@ -22,6 +22,7 @@
 
 namespace QuorProbeFile {
 
+class ConsistencyCheck;
 class LinePlaces;
 class RecordReading;
 struct ProbeMove;
@@ -212,8 +213,8 @@ private:
     void WriteOne(const ProbeToWrite& probe);
     template <class Body>
     void WithRefusal(std::wstring_view section, const Body& body) const;
-    void RequireConsistent(std::wstring_view section,
-                           const QuorConversions::CQuorConversion& conversion) const;
+    void RequireConsistent(std::wstring_view section, const QuorConversions::CQuorConversion& conversion,
+                           ConsistencyCheck& check) const;
     void WriteRecord(const std::shared_ptr<QuorIniFile::INIFile>& to, std::wstring_view section,
                      const QuorConversions::CQuorConversion& conversion, bool standAlone) const;
     [[nodiscard]] RecordAsRead RecordOf(const RecordReading& reading, const ProbeEntry& probe,

@@ -52,8 +52,8 @@ public:
     [[nodiscard]] const std::wstring& Section() const noexcept { return m_details->section; }
     /// What else is concerned: another probe or section, or a type (see EProbeFileError). May be empty.
     [[nodiscard]] const std::wstring& Other() const noexcept { return m_details->other; }
-    /// Why, without file and section, for programs that word it in another language: the text with the number of
-    /// Code().
+    /// Why, without file and section, for programs that word it in another language: the text with the number
+    /// of Code().
     [[nodiscard]] ProbePhrase Phrase() const;
     /// What cannot be read, for PROBE_INCOMPLETE; empty otherwise.
     [[nodiscard]] const std::vector<ProbeProblem>& Problems() const noexcept { return m_details->problems; }

@@ -17,8 +17,8 @@ enum EProbeText : std::int32_t {
 
 /// One of these texts, with what stands in the places of its "~": numbers, names, paths.
 struct ProbePhrase {
-    EProbeText text;
-    std::vector<std::wstring> values = {};
+    EProbeText text;                       ///< which text
+    std::vector<std::wstring> values = {}; ///< one for each "~", from left to right
     friend bool operator==(const ProbePhrase&, const ProbePhrase&) = default;
 };
 

@@ -32,8 +32,9 @@ struct RecordConflict {
 /// values differ from those that were read. The host then examines the conflicts and calls WriteChanges,
 /// inside the same edit of the store, so that the file cannot change in between. Reads read the current file.
 ///
-/// It is public for hosts that write many probes in one edit and show all conflicts first, or let the user decide
-/// which values are overwritten, as Probe Setup does. ProbeFile::WriteChanges does the same for one probe.
+/// It is public for hosts that write many probes in one edit and show all conflicts first, or let the user
+/// decide which values are overwritten, as Probe Setup does. ProbeFile::WriteChanges does the same for one
+/// probe.
 ///
 /// "Version" is not a value of the record: it never causes a conflict, and is written together with a change
 /// if it was missing or different and nobody has changed it.

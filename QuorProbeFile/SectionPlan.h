@@ -14,8 +14,9 @@ class IniStore;
 
 namespace QuorProbeFile {
 
-// This is public for hosts that edit a list of their own, in which many probes are renamed, removed and changed, and save
-// all of it in one ProbeFile::Edit, as Probe Setup does. ProbeFile::Rename and Remove do the same for one probe.
+// This is public for hosts that edit a list of their own, in which many probes are renamed, removed and
+// changed, and save all of it in one ProbeFile::Edit, as Probe Setup does. ProbeFile::Rename and Remove do
+// the same for one probe.
 
 /// A probe of a file, and what should happen to it.
 struct ProbeMove {

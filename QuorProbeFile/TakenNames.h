@@ -14,8 +14,8 @@ namespace QuorProbeFile {
 /// The sections of a file, to check for many names whether a new probe can have them: what is written for it
 /// must not be read as part of another probe, nor other sections as its settings.
 ///
-/// It is public for hosts that check names before they write: names in a list of their own, where the same save may
-/// free other names. ProbeFile::Write and Rename check by themselves.
+/// It is public for hosts that check names before they write: names in a list of their own, where the same
+/// save may free other names. ProbeFile::Write and Rename check by themselves.
 class QUORPROBEFILE_EXPORT TakenNames {
 public:
     /// Why a new probe cannot have a name.

@@ -40,7 +40,7 @@ public:
     [[nodiscard]] std::wstring Name() const;
     [[nodiscard]] std::wstring TypeName() const { return quorconv::TypeName(m_conversion->ConversionType()); }
 
-    /// The record as the conversion was read from it.
+    /// The record as the conversion was read from it, by ReadProbeWithSettings; else that of no probe.
     [[nodiscard]] QuorProbeFile::RecordAsRead& Record() { return m_record; }
 
     [[nodiscard]] const std::vector<std::wstring>& Messages() const { return m_messages->Messages(); }

@@ -104,7 +104,6 @@ Probe ReadWithRecord(ProbeFile& file, const std::wstring& section,
                      const std::vector<Assignment>& completion = {}) {
     Probe probe(section);
     const ReadOutcome outcome = file.Read(section, probe.Conversion());
-    probe.Record() = outcome.record;
     const std::wstring settings = outcome.probe.standAlone ? section : SettingsSection(section);
     if (!IsCompletedBy(outcome, settings, completion))
         throw Problem{Place(file.Path(), section) + L": the record cannot be read",
@@ -123,6 +122,7 @@ Probe ReadProbeToEdit(ProbeFile& file, const std::wstring& section) {
     Probe probe = ReadWithRecord(file, section);
     if (!probe.Settings())
         throw Problem{Place(file.Path(), section) + L": " + probe.TypeName() + L" has no settings"};
+    probe.Record() = file.Record(section);
     return probe;
 }
 
