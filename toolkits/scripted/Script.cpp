@@ -87,8 +87,12 @@ public:
         m_platform.ForgetAdvice();
     }
     ~AdviceLog() {
-        for (auto& [advice, place] : m_seen)
-            m_platform.TellAdvice(place.empty() ? std::move(advice) : advice + L" (" + place + L")");
+        for (const auto& [advice, place] : m_seen) {
+            std::wstring text = advice;
+            if (!place.empty())
+                text.append(L" (").append(place).append(L")");
+            m_platform.TellAdvice(std::move(text));
+        }
     }
     AdviceLog(const AdviceLog&) = delete;
     AdviceLog& operator=(const AdviceLog&) = delete;
