@@ -73,7 +73,7 @@ struct NothingIsSaved {};
 
 } // namespace
 
-std::filesystem::path PathOf(const std::wstring& path) {
+std::filesystem::path FilePath(const std::wstring& path) {
     const std::string bytes = QuorIniFile::ToUtf8(path);
     return {std::u8string(bytes.begin(), bytes.end())};
 }
@@ -81,7 +81,7 @@ std::filesystem::path PathOf(const std::wstring& path) {
 std::string ReadAll(const std::wstring& path) {
     if (path == standardInput)
         return StandardInput();
-    const std::filesystem::path name = PathOf(path);
+    const std::filesystem::path name = FilePath(path);
     std::error_code ignored;
     if (std::filesystem::is_directory(name, ignored))
         throw Problem{path + L": this is a folder"};

@@ -15,7 +15,7 @@ namespace quorconv {
 inline constexpr const wchar_t* standardInput = L"-";
 
 /// A path as the libraries have it, for the streams of the standard library.
-[[nodiscard]] std::filesystem::path PathOf(const std::wstring& path);
+[[nodiscard]] std::filesystem::path FilePath(const std::wstring& path);
 
 /// All that a file holds, or the standard input. Raises Problem when it cannot be read, and for a standard
 /// input in which there is nothing: the program before it in the pipe has failed, most likely.

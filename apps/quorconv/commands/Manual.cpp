@@ -71,7 +71,7 @@ public:
     void Save(const std::wstring& folder) const {
         const std::wstring path = folder + L"/" + QuorIniFile::DecodeBytes(m_name) + L"." +
                                   std::wstring(1, static_cast<wchar_t>(m_section));
-        std::ofstream file(PathOf(path), std::ios::binary);
+        std::ofstream file(FilePath(path), std::ios::binary);
         if (!(file << m_text).flush())
             throw Problem{path + L": the file cannot be written"};
     }
