@@ -151,9 +151,8 @@ private:
         const RecordKey* const key =
             code && read.key == tcTypeKey ? FindRecordKey(m_type, read.key, RecordForm::Any) : nullptr;
         if (key && ChoiceName(*key, *code).empty())
-            Warn(WARNING_UNKNOWN_CODE, read,
-                 read.key + L" is " + ToText(*code) + L"; limit: " +
-                     FindWarning(WARNING_UNKNOWN_CODE)->limit);
+            Warn(WARNING_UNKNOWN_CODE, read, PROBE_TEXT_UNKNOWN_CODE,
+                 {read.key, ToText(*code), std::wstring(FindWarning(WARNING_UNKNOWN_CODE)->limit)});
     }
 
     void JudgeValue(const ReadLog::Read& read, double number, const Judged& rule) {
