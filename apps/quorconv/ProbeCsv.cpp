@@ -182,17 +182,9 @@ public:
             // An empty field is no value, but of a text, which may be empty.
             if (fields[i].empty() && !(key && std::holds_alternative<std::wstring>(key->initial)))
                 continue;
-            const bool isNumber = !key || std::holds_alternative<double>(key->initial);
             std::wstring text = fields[i];
-            if (isNumber && decimal == DecimalSign::Comma) {
-                if (text.find(L'.') != std::wstring::npos)
-                    Fail(line, i, L"\"" + text + L"\" has a point, and the decimal sign is a comma");
-                std::replace(text.begin(), text.end(), L',', L'.');
-            } else if (isNumber && text.find(L',') != std::wstring::npos) {
-                Fail(line, i,
-                     L"\"" + text +
-                         L"\" is not a number; the decimal sign is a point without --decimal comma");
-            }
+            if (!key || std::holds_alternative<double>(key->initial))
+                text = WithPoint(std::move(text), line, i, decimal);
             if (key && !ParseAs(key->initial, text))
                 Fail(line, i, WhatIsWrong(key->initial, text));
             probe.values.push_back({m_columns[i].key, std::move(text)});
@@ -205,6 +197,19 @@ public:
     [[nodiscard]] bool AreWrong() const { return m_isWrong; }
 
 private:
+    /// The text of a number with a point. Raises for one that has another decimal sign than the table.
+    [[nodiscard]] std::wstring WithPoint(std::wstring text, std::size_t line, std::size_t column,
+                                         DecimalSign decimal) const {
+        if (decimal == DecimalSign::Comma) {
+            if (text.find(L'.') != std::wstring::npos)
+                Fail(line, column, L"\"" + text + L"\" has a point, and the decimal sign is a comma");
+            std::replace(text.begin(), text.end(), L',', L'.');
+        } else if (text.find(L',') != std::wstring::npos) {
+            Fail(line, column,
+                 L"\"" + text + L"\" is not a number; the decimal sign is a point without --decimal comma");
+        }
+        return text;
+    }
     /// For a first line that has another separator in it.
     static std::wstring OtherSeparator(const std::vector<std::wstring>& names) {
         constexpr std::pair<wchar_t, const wchar_t*> separators[] = {

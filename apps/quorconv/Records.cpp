@@ -158,13 +158,13 @@ bool SaysSomething(const Value& value) {
 /// One assignment of values to the settings of a probe: its steps, in their order.
 class Assigning {
 public:
-    Assigning(Probe& probe, const std::wstring& file, const std::vector<Assignment>& assignments,
+    Assigning(Probe& probe, const std::wstring& file, std::vector<Assignment> assignments,
               const ValueRules& rules)
         : m_probe(probe),
           m_settings(*probe.Settings()),
           m_place(Place(file, probe.Section()) + L" "),
           m_rules(rules),
-          m_pending(assignments),
+          m_pending(std::move(assignments)),
           m_image(RecordImage::Of(m_settings)),
           m_before(m_image->Entries()) {
         probe.ForgetMessages();
@@ -270,15 +270,16 @@ private:
     /// one counts.
     void RequireTaken() {
         m_isAssigned.assign(Result().size(), false);
-        for (auto entry = m_assigned.rbegin(); entry != m_assigned.rend(); ++entry) {
-            const RecordImage::Entry* const stored = m_image->Find(entry->path);
+        for (std::size_t i = m_assigned.size(); i-- > 0;) {
+            const RecordImage::Entry& entry = m_assigned[i];
+            const RecordImage::Entry* const stored = m_image->Find(entry.path);
             if (stored && m_isAssigned[PlaceOf(stored)])
                 continue;
-            if (!stored || !SameValue(stored->value, entry->value))
-                throw Problem{m_place + entry->path + L": the value " + ToText(entry->value) +
-                              NotInRange(std::holds_alternative<std::int16_t>(entry->value)
+            if (!stored || !SameValue(stored->value, entry.value))
+                throw Problem{m_place + entry.path + L": the value " + ToText(entry.value) +
+                              NotInRange(std::holds_alternative<std::int16_t>(entry.value)
                                              ? FindRecordKey(m_probe.Conversion().ConversionType(),
-                                                             entry->path, RecordForm::Any)
+                                                             entry.path, RecordForm::Any)
                                              : nullptr)};
             m_isAssigned[PlaceOf(stored)] = true;
         }

@@ -192,7 +192,7 @@ void HelpWindow::Search(const QString& text) {
 void HelpWindow::FitTopics() {
     const int wanted = m_topics->header()->length() + 2 * m_topics->frameWidth() +
                        style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    const int topics = std::min(wanted, width() * 9 / 20);
+    const int topics = std::min(wanted, width() / 2);
     m_columns->setSizes({topics, width() - topics});
 }
 

@@ -130,6 +130,16 @@ _quorconv() {
 complete -F _quorconv quorconv
 )shell";
 
+/// The words for the types, for the shell.
+std::string TypeWords() {
+    std::string types;
+    for (const QuorProbeFile::TypeInfo& type : QuorProbeFile::Types())
+        for (const std::wstring& word : {type.enumerator, type.extension})
+            if (!word.empty())
+                types.append(types.empty() ? "" : " ").append(QuorIniFile::ToUtf8(word));
+    return types;
+}
+
 class Completion final : public Command {
     std::wstring m_shell;
 
@@ -166,12 +176,7 @@ class Completion final : public Command {
             arguments += "'\n";
             options += "'\n";
         }
-        std::string types;
-        for (const QuorProbeFile::TypeInfo& type : QuorProbeFile::Types())
-            for (const std::wstring& word : {type.enumerator, type.extension})
-                if (!word.empty())
-                    types.append(types.empty() ? "" : " ").append(QuorIniFile::ToUtf8(word));
-        std::cout << "_quorconv_commands='" << names << "'\n_quorconv_types='" << types
+        std::cout << "_quorconv_commands='" << names << "'\n_quorconv_types='" << TypeWords()
                   << "'\ndeclare -gA _quorconv_arguments=(\n"
                   << arguments << ")\ndeclare -gA _quorconv_options=(\n"
                   << options << ")\n"

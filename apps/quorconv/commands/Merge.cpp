@@ -146,13 +146,13 @@ class Merge final : public Command {
                      const std::wstring& place, std::vector<Change>& written,
                      std::vector<std::wstring>& conflicts) const {
         auto ourChanges = ChangesOf(base, our);
-        std::vector<ValueChange> changes; // that we have not made as well
+        std::vector<ValueChange> theirChanges; // those that we have not made as well
         bool isFine = true;
         for (ValueChange& change : ChangesOf(base, their)) {
             const auto mine = std::find_if(ourChanges.begin(), ourChanges.end(),
                                            [&](const ValueChange& one) { return one.key == change.key; });
             if (mine == ourChanges.end()) {
-                changes.push_back(std::move(change));
+                theirChanges.push_back(std::move(change));
                 continue;
             }
             const bool isSame = mine->after && change.after ? SameValue(*mine->after, *change.after)
@@ -166,18 +166,19 @@ class Merge final : public Command {
                                 m_theirs);
             isFine = false;
         }
-        const ValueChange* const theirsDeciding = Deciding(changes, ourChanges);
-        const ValueChange* const deciding = theirsDeciding ? theirsDeciding : Deciding(ourChanges, changes);
+        const ValueChange* const theirsDeciding = Deciding(theirChanges, ourChanges);
+        const ValueChange* const deciding =
+            theirsDeciding ? theirsDeciding : Deciding(ourChanges, theirChanges);
         if (isFine && deciding) {
             conflicts.push_back(place + L" " + deciding->key + L": changed " +
                                 (theirsDeciding ? L"in " + m_theirs : L"here") +
                                 L", and other values of the probe in the other file");
             return;
         }
-        if (!isFine || changes.empty())
+        if (!isFine || theirChanges.empty())
             return;
         written.push_back({their.section, {}});
-        for (const ValueChange& change : changes) {
+        for (const ValueChange& change : theirChanges) {
             if (change.after) // else it is beyond a count that is written
                 written.back().values.push_back({change.key, ToText(*change.after)});
         }
@@ -185,20 +186,20 @@ class Merge final : public Command {
 
     /// The change that gives what others have changed another meaning, or adds values or leaves some out, of
     /// which they know nothing; null when there is none.
-    static const ValueChange* Deciding(const std::vector<ValueChange>& changes,
-                                       const std::vector<ValueChange>& others) {
+    static const ValueChange* Deciding(const std::vector<ValueChange>& mayDecide,
+                                       const std::vector<ValueChange>& decidedOf) {
         const auto valueOf = [](const Value* value) { return value ? std::optional(*value) : std::nullopt; };
         const auto decides = [&](const ValueChange& change) {
             const auto isDecided = [&](const ValueChange& other) {
                 return ChangesMeaning(change.key, valueOf(change.before), valueOf(change.after), other.key);
             };
-            return std::any_of(others.begin(), others.end(), isDecided) ||
-                   std::any_of(changes.begin(), changes.end(), [&](const ValueChange& own) {
+            return std::any_of(decidedOf.begin(), decidedOf.end(), isDecided) ||
+                   std::any_of(mayDecide.begin(), mayDecide.end(), [&](const ValueChange& own) {
                        return (!own.before || !own.after) && isDecided(own);
                    });
         };
-        const auto found = std::find_if(changes.begin(), changes.end(), decides);
-        return others.empty() || found == changes.end() ? nullptr : &*found;
+        const auto found = std::find_if(mayDecide.begin(), mayDecide.end(), decides);
+        return decidedOf.empty() || found == mayDecide.end() ? nullptr : &*found;
     }
 
     static std::wstring TextOf(const Value* value) { return value ? ToText(*value) : L"(none)"; }
