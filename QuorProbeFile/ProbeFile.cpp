@@ -515,7 +515,8 @@ void ProbeFile::Write(const std::vector<ProbeToWrite>& probes) {
 void ProbeFile::Rename(std::wstring_view section, std::wstring_view name) {
     Edit([this, section = std::wstring(section), name = std::wstring(name)] {
         const ProbeEntry probe = Require(section);
-        RequireName(name, &probe, NamesBut(&probe));
+        if (!EqualFolded(section, name)) // else its sections keep their places and their names
+            RequireName(name, &probe, NamesBut(&probe));
         const auto standAlone = StandAloneSection(m_path);
         if (probe.standAlone || (standAlone && !EqualFolded(section, name) && EqualFolded(*standAlone, name)))
             throw Error(PROBE_DOES_NOT_FIT_FILE, name, section);

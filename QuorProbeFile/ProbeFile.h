@@ -155,6 +155,9 @@ public:
     /// that. If nothing was written, `record` is unchanged. `section` differs from the section of `record` if
     /// the probe was renamed since.
     ///
+    /// Inside an Edit nothing is saved yet, and the function may be called again: there pass a copy of the
+    /// record, and keep it once Edit has returned.
+    ///
     /// Raises PROBE_NO_RECORD for a record of no probe, PROBE_OF_ANOTHER_TYPE if the conversion has another
     /// type than the record, which only Write can replace, PROBE_CANNOT_BE_WRITTEN and PROBE_INCONSISTENT.
     [[nodiscard]] std::vector<RecordConflict> WriteChanges(std::wstring_view section,

@@ -153,6 +153,8 @@ bool ProbeFileFace::Read(std::wstring_view section, const Conversion& conversion
     return Do([&] {
         QuorProbeFile::ReadOutcome outcome = m_file.Read(section, *conversion);
         Remember(conversion, outcome.record);
+        if (m_depth > 0)
+            m_readAnew.insert(conversion);
         const bool isWhole = outcome.IsWhole();
         m_problems = std::move(outcome.problems);
         m_messages = std::move(outcome.messages);
@@ -216,6 +218,7 @@ void ProbeFileFace::Write(std::wstring_view section, const Conversion& conversio
     } else {
         Do([&] {
             m_steps.push_back({std::wstring(section), Copied(m_file, section, *conversion), conversion});
+            m_readAnew.erase(conversion);
         });
     }
 }
@@ -240,6 +243,7 @@ bool ProbeFileFace::WriteChanges(std::wstring_view section, const Conversion& co
             return MergeInto(section, *conversion, known->second);
         m_steps.push_back({std::wstring(section), Copied(m_file, section, *conversion), conversion,
                            known == m_records.end() ? RecordAsRead() : known->second});
+        m_steps.back().isReadAnew = TakeReadAnew(conversion);
         return true;
     });
 }
@@ -288,6 +292,8 @@ auto ProbeFileFace::TakeAll(const std::vector<Step>& steps) -> Written {
 }
 
 void ProbeFileFace::TakeChanges(const Step& step, Written& records) {
+    if (step.isReadAnew) // perhaps from another probe: what was written from it before counts no more
+        records.erase(step.host);
     const auto [known, isFirst] = records.try_emplace(step.host, *step.record, std::wstring());
     auto& [record, section] = known->second;
     if (!section.empty())
@@ -304,18 +310,19 @@ void ProbeFileFace::Release() {
     if (m_depth == 0 || --m_depth > 0)
         return;
     const std::vector<Step> steps = std::exchange(m_steps, {});
-    if (std::exchange(m_isAbandoned, false))
-        Throw(changedMeanwhile, Path() + L": nothing is written: a bracket was abandoned");
+    const auto readAnew = std::exchange(m_readAnew, {});
     Do([&] {
+        if (std::exchange(m_isAbandoned, false))
+            Throw(changedMeanwhile, Path() + L": nothing is written: a bracket was abandoned");
         Written records;
         m_file.Edit([&] { records = TakeAll(steps); });
         for (auto& [host, written] : records) {
             auto& [record, section] = written;
-            if (host.expired())
+            if (host.expired() || readAnew.contains(host)) // what was read last counts
                 continue;
             if (section.empty())
                 Remember(host, std::move(record));
-            else if (m_file.Find(section)) // else it has gone, or got another name, in the same bracket
+            else if (FindProbe(section) >= 0) // else it has gone, or got another name, in the same bracket
                 Remember(host, m_file.Record(section));
             else
                 m_records.erase(host);
@@ -328,6 +335,7 @@ void ProbeFileFace::Abandon() {
         return;
     --m_depth;
     m_steps.clear();
+    m_readAnew.clear();
     m_isAbandoned = m_depth > 0;
 }
 

@@ -8,6 +8,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -113,6 +114,7 @@ private:
             {};                                   ///< as it was; null for another step than a write
         std::weak_ptr<CQuorConversion> host = {}; ///< of which it is a copy
         std::optional<RecordAsRead> record = {};  ///< of a write of changes
+        bool isReadAnew = false;                  ///< since the step before of this conversion
         std::function<void()> other = {};
     };
     /// What was read into the conversions of a host, or written from them.
@@ -136,6 +138,10 @@ private:
     [[nodiscard]] bool MergeInto(std::wstring_view section, const CQuorConversion& conversion,
                                  RecordAsRead& record);
     void Remember(const std::weak_ptr<CQuorConversion>& conversion, RecordAsRead record);
+    /// Whether the conversion was read since its last step in this bracket, which is asked once.
+    [[nodiscard]] bool TakeReadAnew(const std::weak_ptr<CQuorConversion>& conversion) {
+        return m_readAnew.erase(conversion) > 0;
+    }
 
     QuorProbeFile::ProbeFile m_file;
     std::unordered_map<std::wstring, std::int32_t> m_places; ///< of the probes, by their folded sections
@@ -146,6 +152,8 @@ private:
     EProbeFileError m_errorCode{};
     std::wstring m_errorOther;
     Records m_records;
+    /// Those that were read in this bracket, since their last step.
+    std::set<std::weak_ptr<CQuorConversion>, std::owner_less<>> m_readAnew;
     std::size_t m_recordsToLookThrough = 64; ///< for conversions that are gone, when there are so many
     std::vector<Step> m_steps;
     int m_depth = 0;

@@ -75,11 +75,13 @@ void ClaimLines(const PlainIni& before, const Lines& expected, const PlainIni& a
         ++(line.parsed.kind == IniLineKind::Blank ? blanks : added);
     };
     // A blank line keeps a new key apart from a value that ends in a backslash, or did when the key was
-    // added. Which of those above a key are new, and which the text had, nobody can tell.
+    // added, and keeps whatever is below it apart from a value that ends in one now. Which of those lines are
+    // new, and which the text had, nobody can tell.
     std::size_t apart = 0;
     for (std::size_t number = 1; number < after.Lines().size(); ++number) {
+        const PlainIni::Line& line = after.Lines()[number - 1];
         const bool isAboveKey = after.Lines()[number].parsed.kind == IniLineKind::Key;
-        apart += isAboveKey && after.Lines()[number - 1].parsed.kind == IniLineKind::Blank ? 1 : 0;
+        apart += line.parsed.kind == IniLineKind::Blank && (isAboveKey || isBelowBackslash(line)) ? 1 : 0;
     }
     const bool hasLastEnd = before.Lines().empty() || !before.Lines().back().end.empty();
     auto next = after.Lines().begin();

@@ -418,7 +418,9 @@ bool IsPlainWord(Text word, bool first) {
     };
     const bool isFactor =
         !first && (letters == L"x" || (letters == L"e" && !number.empty()) || isOneOf(word, lonePrefixes));
-    const bool mayEndInFactor = letters.size() > 1 && isNumbered && // "Ax10", "Ae3"
+    // "Ax10", "Ae3", "Alphae3". Longer words are no symbols: "Resistance1".
+    constexpr std::size_t longestSymbol = 6;
+    const bool mayEndInFactor = letters.size() > 1 && letters.size() <= longestSymbol && isNumbered &&
                                 Text(L"edx").find(letters.back()) != Text::npos &&
                                 !isOneOf(letters, wordsBeforeNumbers);
     return number.size() <= 2 && !isFactor && !mayEndInFactor && !isOneOf(letters, tellingWords) &&

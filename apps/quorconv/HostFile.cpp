@@ -125,6 +125,14 @@ void RequireReadable(ProbeFile& file) {
                       std::move(lines)};
 }
 
+bool TellUnreadable(ProbeFile& file) {
+    auto lines = UnreadableLines(file);
+    if (lines.empty())
+        return true;
+    PrintFailure({file.Path() + L": not all of this file can be read", std::move(lines)});
+    return false;
+}
+
 PrivateFolder::PrivateFolder() {
     auto path = NewPrivateFolder();
     if (!path)
@@ -155,11 +163,22 @@ HostFile::HostFile(const std::wstring& path, ProbeFile::Opening opening) {
     std::filesystem::current_path(current);
 }
 
+namespace {
+
+/// Of an empty file, too: a stream that takes no byte of another one counts that as a failure.
+void Print(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (file.peek() != std::ifstream::traits_type::eof())
+        std::cout << file.rdbuf();
+}
+
+} // namespace
+
 void HostFile::Edit(bool isDryRun, const std::function<void()>& edit) {
     if (!isDryRun) {
         m_file->Edit(edit);
         if (m_folder)
-            std::cout << std::ifstream(m_folder->Path() / "-", std::ios::binary).rdbuf();
+            Print(m_folder->Path() / "-");
         return;
     }
     std::string before;

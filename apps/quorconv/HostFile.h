@@ -28,6 +28,8 @@ inline constexpr const wchar_t* standardInput = L"-";
 [[nodiscard]] std::vector<std::wstring> UnreadableLines(QuorProbeFile::ProbeFile& file);
 /// Raises Problem with them: a probe that is added to such a file may stand in it already, or be lost there.
 void RequireReadable(QuorProbeFile::ProbeFile& file);
+/// Prints what of the file cannot be read. False when there is something.
+[[nodiscard]] bool TellUnreadable(QuorProbeFile::ProbeFile& file);
 
 /// A folder of its own, for files that a person never sees. It goes with all that is in it.
 class PrivateFolder {

@@ -58,6 +58,12 @@ std::optional<ProbeValues> ProbeTable::Find(const std::wstring& section) const {
     return Has(section) ? std::optional(Read(section)) : std::nullopt;
 }
 
+bool ProbeTable::IsOfProbe(const std::wstring& section) const {
+    const auto owners = QuorProbeFile::PossibleOwners(section);
+    return Has(section) || std::any_of(owners.begin(), owners.end(),
+                                       [&](std::wstring_view owner) { return Has(std::wstring(owner)); });
+}
+
 ProbeValues ProbeTable::Read(const std::wstring& section) const {
     const Probe probe = ReadProbe(m_file, section);
     ProbeValues values{section, probe.Conversion().ConversionType(), {}};

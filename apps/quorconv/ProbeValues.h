@@ -36,7 +36,9 @@ public:
     /// Nothing when there is none of that name.
     [[nodiscard]] std::optional<ProbeValues> Find(const std::wstring& section) const;
     [[nodiscard]] ProbeValues Read(const std::wstring& section) const;
-    /// The sections that stand twice, of which the first one is read.
+    /// Whether a section is that of a probe, or of its settings.
+    [[nodiscard]] bool IsOfProbe(const std::wstring& section) const;
+    /// The sections that occur twice, of which the first one is read.
     [[nodiscard]] const std::vector<QuorIniFile::IniWarning>& Duplicates() const { return m_duplicates; }
 
 private:

@@ -514,6 +514,27 @@ TEST_F(ProbeFileTest, WritesNothingThatNoFileGivesBack) {
     isRefused(conversion, record);
 }
 
+TEST_F(ProbeFileTest, WritesAMinusZeroThatSettingsHold) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    conversion.SetConversionType(CONV_WT90);
+    const auto settings = SettingsAs<CQuorWT90>(conversion);
+    settings->SetRTPW(25.5);
+    settings->SetRTPW(-0.0);
+    EXPECT_TRUE(ProbeFile::IsConsistent(conversion));
+    file.Write(L"New", conversion);
+    EXPECT_NE(File().find("RTPW=-0\n"), std::string::npos) << File();
+}
+
+TEST_F(ProbeFileTest, AProbeWithoutSettingsGetsAnotherCaseBesideAHostsSection) {
+    const std::string text = "[P]\nConversionType=10\n\n[P - Settings]\nColour=red\n";
+    Host(text);
+    ProbeFile file(Path());
+    file.Rename(L"P", L"p");
+    EXPECT_EQ(File(), Replaced(text, "[P]", "[p]"));
+}
+
 TEST_F(ProbeFileTest, NewSettingsOfEachTypeAreGivenBackByAFile) {
     for (const TypeInfo& type : Types()) {
         CQuorConversion conversion;

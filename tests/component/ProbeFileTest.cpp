@@ -333,6 +333,22 @@ TEST_F(ProbeFileFromC, WritesChangesSeveralTimesInOneBracketUponWhatWasWrittenBe
                           "Coefficients1=0.0039083\nCoefficients2=-5.775e-07\nCoefficients3=-4.183e-12\n");
 }
 
+TEST_F(ProbeFileFromC, OneConversionServesSeveralProbesInABracket) {
+    const Handle file = Open();
+    const Handle conversion = Read(file);
+    SetR0(conversion, 101);
+    ASSERT_EQ(quor_probe_file_Write(file, Text("S"), conversion), 0);
+    const std::string both = File();
+    ASSERT_EQ(quor_probe_file_Hold(file), 0);
+    for (const char* const section : {"P", "S"}) {
+        ASSERT_EQ(quor_probe_file_Read(file, Text(section), conversion, nullptr), 0);
+        SetR0(conversion, 102);
+        ASSERT_EQ(quor_probe_file_WriteChanges(file, Text(section), conversion, nullptr), 0);
+    }
+    ASSERT_EQ(quor_probe_file_Release(file), 0);
+    EXPECT_EQ(File(), Replaced(Replaced(both, "100.01 ;", "102 ;"), "=101\n", "=102\n"));
+}
+
 TEST_F(ProbeFileFromC, ABracketThatFailsLeavesWhatCountsAsRead) {
     const Handle file = Open();
     const Handle conversion = Read(file);

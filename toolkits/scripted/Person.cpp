@@ -166,20 +166,20 @@ std::wstring Person::Advice(std::wstring_view box) const {
     return static_cast<const TextBox&>(control).Advice();
 }
 
-std::vector<std::wstring> Person::AllAdvice() const {
-    std::vector<std::wstring> all;
+std::set<BoxAdvice> Person::AllAdvice() const {
+    std::set<BoxAdvice> all;
     for (const auto& control : m_dialog.Controls()) {
         if (control->Kind() != ControlKind::TextBox)
             continue;
         if (const std::wstring& advice = static_cast<const TextBox&>(*control).Advice(); !advice.empty())
-            all.push_back(advice);
+            all.emplace(control->Name(), advice);
     }
     return all;
 }
 
 bool Person::SeesAdvice(std::wstring_view advice) const {
     const auto all = AllAdvice();
-    return std::find(all.begin(), all.end(), advice) != all.end();
+    return std::any_of(all.begin(), all.end(), [&](const auto& one) { return one.second == advice; });
 }
 
 std::wstring Person::Focused() const {

@@ -3,9 +3,11 @@
 #include "QuorConversions/controls/Dialog.h"
 #include "toolkits/scripted/InputDriver.h"
 
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace QuorConversions::Scripted {
@@ -16,6 +18,9 @@ struct CannotDo : std::runtime_error {
     explicit CannotDo(const std::wstring& what);
     std::wstring text;
 };
+
+/// The name of a box in the code, and what the dialog advises of its text.
+using BoxAdvice = std::pair<std::wstring, std::wstring>;
 
 /// A user written down: sees what is on the screen, and does with it what people do. Controls are named as
 /// they see them: by the label beside them ("R0", without the colon), by the heading above them and the
@@ -59,8 +64,8 @@ public:
     [[nodiscard]] std::wstring Focused() const;
     /// What the dialog advises of the text of a box; empty for nothing.
     [[nodiscard]] std::wstring Advice(std::wstring_view box) const;
-    /// What it advises of all boxes, in tab order.
-    [[nodiscard]] std::vector<std::wstring> AllAdvice() const;
+    /// What it advises, of all boxes.
+    [[nodiscard]] std::set<BoxAdvice> AllAdvice() const;
     /// Whether the dialog gives this advice of any box.
     [[nodiscard]] bool SeesAdvice(std::wstring_view advice) const;
     /// The whole dialog as text: its title, and a line a row with what stands in it; advice stands behind its

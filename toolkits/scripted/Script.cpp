@@ -88,7 +88,7 @@ public:
     }
     ~AdviceLog() {
         for (const auto& [advice, place] : m_seen) {
-            std::wstring text = advice;
+            std::wstring text = advice.second;
             if (!place.empty())
                 text.append(L" (").append(place).append(L")");
             m_platform.TellAdvice(std::move(text));
@@ -101,22 +101,28 @@ public:
         m_place = L"line " + std::to_wstring(line) + L": " + command;
         if (!expected)
             return;
-        m_expected.insert(*expected);
-        m_seen.erase(*expected);
+        for (const auto& advice : m_person.AllAdvice()) { // of the boxes that show it at this line
+            if (advice.second != *expected)
+                continue;
+            m_expected.insert(advice);
+            m_seen.erase(advice);
+        }
     }
-    /// At what stands on the screen now.
+    /// At what stands on the screen now. What was expected holds for as long as its box shows it.
     void Look() {
-        for (std::wstring& advice : m_person.AllAdvice())
+        const auto shown = m_person.AllAdvice();
+        std::erase_if(m_expected, [&](const auto& advice) { return !shown.contains(advice); });
+        for (const auto& advice : shown)
             if (!m_expected.contains(advice))
-                m_seen.try_emplace(std::move(advice), m_place);
+                m_seen.try_emplace(advice, m_place);
     }
 
 private:
     ScriptedPlatform& m_platform;
     const Person& m_person;
-    std::wstring m_place; // of the line that is carried out; empty before the first one
-    std::map<std::wstring, std::wstring> m_seen; // with its place
-    std::set<std::wstring> m_expected;
+    std::wstring m_place;                     // of the line that is carried out; empty before the first one
+    std::map<BoxAdvice, std::wstring> m_seen; // with its place
+    std::set<BoxAdvice> m_expected;
 };
 
 } // namespace

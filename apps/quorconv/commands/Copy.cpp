@@ -44,6 +44,8 @@ class Copy final : public Command {
             throw UsageError{L"several probes keep their names: no TO-SECTION"};
         if (m_name && !m_also.empty())
             throw UsageError{L"probes of several files keep their names: no TO-SECTION"};
+        if (!m_also.empty() && !m_selection.IsMany())
+            throw UsageError{L"--also is for a pattern: one probe is copied from one file"};
         std::vector<std::unique_ptr<HostFile>> sources;
         sources.push_back(std::make_unique<HostFile>(m_from));
         for (const std::wstring& path : m_also)
@@ -54,6 +56,7 @@ class Copy final : public Command {
             RequireReadable(*to);
             std::unordered_set<std::wstring> copied;
             for (const auto& from : sources) {
+                RequireReadable(**from);
                 for (const std::wstring& section : m_selection.In(**from)) {
                     if (!copied.insert(QuorProbeFile::Folded(section)).second)
                         throw Problem{Place((*from)->Path(), section) +

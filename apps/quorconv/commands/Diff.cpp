@@ -70,14 +70,9 @@ class Diff final : public Command {
     }
 
     /// Sections of probes that stand twice: only the first one is read, and compared.
-    static void TellDuplicates(ProbeFile& file, const ProbeTable& table) {
+    static void TellDuplicates(const ProbeFile& file, const ProbeTable& table) {
         for (const QuorIniFile::IniWarning& warning : table.Duplicates()) {
-            const auto owners = PossibleOwners(warning.section);
-            const bool isOfProbe = table.Has(warning.section) ||
-                                   std::any_of(owners.begin(), owners.end(), [&](std::wstring_view owner) {
-                                       return table.Has(std::wstring(owner));
-                                   });
-            if (isOfProbe)
+            if (table.IsOfProbe(warning.section))
                 PrintFailure({file.Path() + L":" + std::to_wstring(warning.line) + L": [" + warning.section +
                               L"]: the section occurs twice; the one in line " +
                               std::to_wstring(warning.first) + L" is compared"});

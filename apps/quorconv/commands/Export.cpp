@@ -39,7 +39,7 @@ class Export final : public Command {
         std::optional<CsvTable> table;
         if (m_isCsv)
             table.emplace(RequireType(*m_selection.type).code, m_style);
-        bool isFine = true;
+        bool isFine = TellUnreadable(*file);
         std::size_t count = 0;
         for (const std::wstring& section : sections) {
             progress.Step();

@@ -44,12 +44,15 @@ class Merge final : public Command {
         HostFile file(m_ours);
         const ProbeTable base(*baseFile);
         const ProbeTable theirs(*theirFile);
+        RequireOnce(base, m_base);
+        RequireOnce(theirs, m_theirs);
         if (theirFile->Probes().empty() && !baseFile->Probes().empty())
             throw Problem{m_theirs + L": there is no probe in this file; nothing was written"};
         std::size_t count = 0;
         std::size_t gone = 0;
         file.Edit(m_isDryRun, [&] {
             const ProbeTable ours(*file);
+            RequireOnce(ours, m_ours);
             std::vector<std::wstring> conflicts;
             std::vector<Change> written; // of theirs
             std::vector<std::wstring> removed;
@@ -121,6 +124,18 @@ class Merge final : public Command {
         for (const RecordImage::Entry& entry : probe.entries)
             text += L"\n" + entry.path + L"=" + ToText(entry.value);
         return text;
+    }
+
+    /// Raises Problem for sections of probes that occur twice: only the first of them could be compared, and
+    /// both would be removed.
+    static void RequireOnce(const ProbeTable& table, const std::wstring& path) {
+        std::vector<std::wstring> lines;
+        for (const QuorIniFile::IniWarning& warning : table.Duplicates())
+            if (table.IsOfProbe(warning.section))
+                lines.push_back(L"line " + std::to_wstring(warning.line) + L": [" + warning.section +
+                                L"] occurs twice; the first is in line " + std::to_wstring(warning.first));
+        if (!lines.empty())
+            throw Problem{path + L": nothing was written, because probes occur twice", std::move(lines)};
     }
 
     /// Decides what becomes of a probe of theirs.

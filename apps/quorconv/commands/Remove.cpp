@@ -26,6 +26,8 @@ class Remove final : public Command {
         std::vector<std::wstring> paths{m_path};
         paths.insert(paths.end(), m_also.begin(), m_also.end());
         const std::size_t count = EditFiles(paths, m_isDryRun, [&](QuorProbeFile::ProbeFile& file) {
+            if (m_selection.IsMany())
+                RequireReadable(file);
             const auto sections = m_selection.In(file);
             RemoveProbes(file, sections);
             return sections.size();

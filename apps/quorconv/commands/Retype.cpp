@@ -29,7 +29,10 @@ class Retype final : public Command {
     ExitCode Run() override {
         const auto assignments = Assignments(m_values);
         HostFile file(m_path);
-        file.Edit(m_isDryRun, [&] { RetypeProbe(*file, m_section, m_type, assignments, m_rules); });
+        file.Edit(m_isDryRun, [&] {
+            RequireReadable(*file);
+            RetypeProbe(*file, m_section, m_type, assignments, m_rules);
+        });
         return fine;
     }
 };

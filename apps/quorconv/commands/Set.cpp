@@ -47,6 +47,8 @@ class Set final : public Command {
         std::vector<std::wstring> paths{m_path};
         paths.insert(paths.end(), m_also.begin(), m_also.end());
         const std::size_t count = EditFiles(paths, m_isDryRun, [&](QuorProbeFile::ProbeFile& file) {
+            if (m_selection.IsMany())
+                RequireReadable(file);
             const auto sections = m_selection.In(file);
             for (const std::wstring& section : sections)
                 SetValues(file, section, assignments, m_rules);

@@ -68,7 +68,7 @@ class Show final : public Command {
             std::cout << std::exchange(m_separator, "\n") << "# " << ToPrintable(path) << "\n";
         const auto sections = m_selection.In(*file);
         Progress progress(L"probes", sections.size());
-        bool isFine = true;
+        bool isFine = !m_selection.IsMany() || TellUnreadable(*file);
         for (const std::wstring& section : sections) {
             progress.Step();
             const bool isShown = ShowProbe(*file, section, isInArray);

@@ -3,6 +3,7 @@
 #include "tests/apps/quorconv/Quorconv.h"
 
 #include <algorithm>
+#include <filesystem>
 
 namespace {
 
@@ -189,4 +190,36 @@ TEST_F(QuorconvCompareTest, ShowsWhatAMergeWouldWrite) {
     EXPECT_NE(run.out.find("-RTPW=25.5\n+RTPW=25.4\n"), std::string::npos) << run.out;
     EXPECT_EQ(run.err, "quorconv: 1 probe would be merged\n");
     EXPECT_EQ(folder.Read("ours.ini"), base);
+}
+
+TEST_F(QuorconvCompareTest, MergesNothingWhereAProbeOccursTwice) {
+    const std::string twice = base + "\n[A]\nConversionType=2\n";
+    folder.Write("ours.ini", twice);
+    folder.Write("theirs.ini", base.substr(base.find("[B]")));
+    ExpectRefused({"merge", "base.ini", "ours.ini", "theirs.ini"},
+                  "quorconv: ours.ini: nothing was written, because probes occur twice\n"
+                  "  line 21: [A] occurs twice; the first is in line 2\n");
+    EXPECT_EQ(folder.Read("ours.ini"), twice);
+}
+
+TEST_F(QuorconvCompareTest, PatternsLeaveNoProbeOfADamagedFileOutInSilence) {
+    std::string damaged = base;
+    damaged.replace(damaged.find("[A]"), 3, "[A");
+    folder.Write("theirs.ini", damaged);
+    const std::string what = "  line 2: the header has no \"]\"; what is below it cannot be read\n";
+    const std::string refused =
+        "quorconv: theirs.ini: not all of this file can be read, and nothing was written\n" + what;
+    ExpectRefused({"copy", "theirs.ini", "*", "new.ini"}, refused);
+    ExpectRefused({"remove", "theirs.ini", "*"}, refused);
+    ExpectRefused({"set", "theirs.ini", "*", "RTPW=25.4"}, refused);
+    const Outcome exported = Quorconv({"export", "theirs.ini", "--csv", "--type", "w90"});
+    EXPECT_EQ(exported.code, 1);
+    EXPECT_EQ(exported.err, "quorconv: theirs.ini: not all of this file can be read\n" + what +
+                                "quorconv: 1 probe exported\n");
+    EXPECT_EQ(folder.Read("theirs.ini"), damaged);
+    EXPECT_FALSE(std::filesystem::exists(folder.Path("new.ini")));
+}
+
+TEST_F(QuorconvCompareTest, AnEmptyResultIsAResult) {
+    ExpectShell("printf '[a]\\nConversionType=0\\n' | quorconv remove - a", "", "");
 }

@@ -308,3 +308,10 @@ TEST_F(ScriptTest, RefusesCommandsWithTooMuchOrTooLittle) {
                   L"line 1: \"" + std::wstring(verb) + L"\" stands alone");
     }
 }
+
+TEST_F(ScriptTest, ExpectsAdviceOfTheBoxesThatShowItAndNoLonger) {
+    EXPECT_FALSE(Edit(L"type R0 -\nexpect advice Not a number: 0 would be stored\ntype R0 100\n"
+                      L"type ALPHA -\nescape"));
+    EXPECT_EQ(platform->Complaints(), Texts{});
+    EXPECT_EQ(platform->UnexpectedAdvice(), Texts{L"Not a number: 0 would be stored (line 4: type ALPHA -)"});
+}
