@@ -28,7 +28,13 @@ constexpr std::int32_t changedMeanwhile = 75;
 /// The same conversion with the same values, without a platform. Raises what writing it would raise.
 [[nodiscard]] std::shared_ptr<CQuorConversion> Copied(const ProbeFile& file, std::wstring_view section,
                                                       const CQuorConversion& conversion) {
-    if (!ProbeFile::IsConsistent(conversion))
+    bool isConsistent = false;
+    try {
+        isConsistent = ProbeFile::IsConsistent(conversion);
+    } catch (const QuorIniFile::QuorError& error) { // as outside a bracket
+        throw ProbeFileError(file.Path(), std::wstring(section), error);
+    }
+    if (!isConsistent)
         throw ProbeFileError(QuorProbeFile::PROBE_INCONSISTENT, file.Path(), std::wstring(section));
     auto copy = std::make_shared<CQuorConversion>();
     copy->SetConversionType(conversion.ConversionType());

@@ -309,10 +309,10 @@ void SettingsDialog::OnEdit(TextBox& box) {
     const std::wstring& separator = GetDecimalSeparator(*m_platform);
     const bool mayMiss = m_separatorMissing == &box && box.Text().find(separator) == std::wstring::npos &&
                          !box.Text().empty() && box.Text().starts_with(m_textBeforeSeparator);
-    if (mayMiss)
-        return; // what was told of it still holds
-    m_separatorMissing = nullptr;
     ForgetNotes(box);
+    if (mayMiss)
+        return; // the advice on the separator still holds
+    m_separatorMissing = nullptr;
     AdviseIfItCan(*field);
 }
 

@@ -381,6 +381,21 @@ TEST_F(ProbeFileFromC, WritesNothingThatNoFileGivesBackInABracketOrWithoutOne) {
     EXPECT_EQ(File(), hostFile);
 }
 
+TEST_F(ProbeFileFromC, AConversionThatRefusesToBeWrittenHasItsCodeInABracketToo) {
+    Put("[T]\nConversionType=20\n[T - Settings]\nTCType=4\nNumCoefficients=16\n");
+    Handle conversion;
+    ASSERT_EQ(quor_conversion_create(0, &conversion), 0);
+    ASSERT_EQ(quor_conversion_ReadFromFile(conversion, nullptr, Text(Path()), Text("T"), nullptr), 0);
+    const Handle file = Open();
+    for (const bool isInBracket : {false, true}) {
+        if (isInBracket) {
+            ASSERT_EQ(quor_probe_file_Hold(file), 0);
+        }
+        EXPECT_NE(quor_probe_file_Write(file, Text("New"), conversion), 0);
+        EXPECT_EQ(ErrorCode(file), QUOR_PROBE_CANNOT_BE_WRITTEN);
+    }
+}
+
 TEST_F(ProbeFileFromC, TheChangesOfAConversionThatItHasNeitherReadNorWrittenAreNotKnown) {
     const Handle file = Open();
     const Handle other = Open();

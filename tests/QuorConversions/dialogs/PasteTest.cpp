@@ -494,6 +494,21 @@ TEST_F(PasteTest, AnotherSeparatorIsToldAsItIs) {
     });
 }
 
+TEST_F(PasteTest, WhatAFormatDidToAnotherTextIsForgottenWhereACommaWasRefused) {
+    settings->SetValueFormat(0, L"0");
+    Edit([](Person& person) {
+        person.Type(L"R0", L"12.6");
+        person.GoTo(L"ALPHA");
+        EXPECT_EQ(person.Reads(L"R0"), L"13");
+        EXPECT_EQ(person.Advice(L"R0"), L"13 would be stored for 12.6");
+        person.Type(L"R0", L"13,5");
+        EXPECT_EQ(person.Reads(L"R0"), L"135");
+        person.GoTo(L"ALPHA");
+        EXPECT_EQ(person.Advice(L"R0"), L"");
+        person.Click(L"Cancel");
+    });
+}
+
 TEST_F(PasteTest, WhatAFormatDoesToAValueThatNobodyTouchesIsTold) {
     settings->SetCoefficients(0, 1.239);
     settings->SetValueFormat(0, L"0.00");
