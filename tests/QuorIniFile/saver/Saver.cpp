@@ -95,8 +95,9 @@ void SaveInAStorm(const std::wstring& file, const std::wstring& section, const s
 } // namespace
 
 #ifdef __SANITIZE_ADDRESS__
-// A search for leaks that is stopped in its middle, as the storms stop this program, never ends.
-extern "C" const char* __asan_default_options() { return "detect_leaks=0"; }
+// A search for leaks that is stopped in its middle, as the storms stop this program, never ends. The
+// sanitizer, which is a shared library, finds only what the program exports.
+extern "C" [[gnu::visibility("default")]] const char* __asan_default_options() { return "detect_leaks=0"; }
 #endif
 
 int main(int argc, char** argv) {

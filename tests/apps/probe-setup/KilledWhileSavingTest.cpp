@@ -58,7 +58,9 @@ TEST(KilledWhileSaving, TwoHundredTimesTheFileIsTheOldOneOrTheNewOne) {
     std::mt19937 random(20261121);
     std::set<std::string> seen;
     std::string last = before;
-    std::int64_t longest = 1000; // microseconds; it becomes about as long as a save takes at the moment
+    constexpr std::int64_t shortest = 1000; // microseconds
+    constexpr std::int64_t tooLong = 50'000;
+    std::int64_t longest = shortest; // it becomes about as long as a save takes at the moment
     for (int kill = 0; kill < 200; ++kill) {
         std::array<int, 2> ends{};
         ASSERT_EQ(::pipe(ends.data()), 0);
@@ -79,7 +81,7 @@ TEST(KilledWhileSaving, TwoHundredTimesTheFileIsTheOldOneOrTheNewOne) {
         const std::string text = folder.Read("host.ini");
         ASSERT_TRUE(text == before || text == after) << "after kill " << kill;
         seen.insert(text);
-        longest = text == last ? longest * 3 / 2 : std::max<std::int64_t>(longest / 2, 1000);
+        longest = std::clamp(text == last ? longest * 3 / 2 : longest / 2, shortest, tooLong);
         last = text;
     }
     EXPECT_EQ(seen.size(), 2U) << "it was killed between saves, too";
