@@ -40,11 +40,12 @@ public:
         qApp->installEventFilter(this);
     }
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Show && !m_seen)
+        if (event->type() == QEvent::Show)
             if (auto* const widget = qobject_cast<QWidget*>(watched);
                 widget && widget->isWindow() && m_isIt(*widget)) {
-                m_seen = true;
                 QTimer::singleShot(0, widget, [action = m_action, widget] { action(*widget); });
+                // At once: without an outermost event loop it may be deleted at the end only.
+                qApp->removeEventFilter(this);
                 deleteLater();
             }
         return false;
@@ -53,7 +54,6 @@ public:
 private:
     std::function<bool(QWidget&)> m_isIt;
     std::function<void(QWidget&)> m_action;
-    bool m_seen = false;
 };
 
 /// Counts how often something asks to be laid out.
