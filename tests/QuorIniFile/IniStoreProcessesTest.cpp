@@ -7,6 +7,7 @@
 #include "QuorIniFile/detail/IniDisk.h"
 #include "QuorIniFile/detail/IniError.h"
 #include "QuorIniFile/detail/IniFormat.h"
+#include "tests/QuorIniFile/RaisedBy.h"
 #include "tests/support/InterceptedFiles.h"
 #include "tests/support/Process.h"
 #include "tests/support/SimulatedDisk.h"
@@ -32,23 +33,14 @@ namespace fs = std::filesystem;
 using namespace QuorIniFile;
 using namespace std::chrono_literals;
 using Names = std::vector<std::string>;
+using Support::RaisedBy;
 using Support::InterceptedFiles;
 using Support::SimulatedDisk;
 using Opening = IniFileSystem::Opening;
 
 namespace {
 
-constexpr const char* saver = QUOR_INI_SAVER;
-
-template <class Action>
-QuorError RaisedBy(const Action& action) {
-    try {
-        action();
-    } catch (const QuorError& error) {
-        return error;
-    }
-    return {0, L"", L"nothing"};
-}
+constexpr const char* saverProgram = QUOR_INI_SAVER;
 
 /// How a message names who has a lock.
 std::wstring Told(const IniLockHolder& holder) {
@@ -119,7 +111,7 @@ TEST(IniStoreProcesses, EightProcessesSaveAHundredTimesEachIntoOneFileAndNothing
     std::vector<Process> processes;
     for (int i = 0; i < 8; ++i) {
         sections.push_back("Probe " + std::to_string(i));
-        processes.emplace_back(std::vector<std::string>{saver, "keys", folder.Path("a.ini").string(),
+        processes.emplace_back(std::vector<std::string>{saverProgram, "keys", folder.Path("a.ini").string(),
                                                         sections.back(), std::to_string(saves)});
     }
     for (Process& process : processes) {
@@ -134,8 +126,8 @@ TEST(IniStoreProcesses, TheFirstSaveOfAFileByEightProcessesAtOnceLosesNothing) {
         const TempFolder folder;
         std::vector<Process> processes;
         for (int i = 0; i < 8; ++i)
-            processes.emplace_back(std::vector<std::string>{saver, "keys", folder.Path("a.ini").string(),
-                                                            "Probe " + std::to_string(i), "2"});
+            processes.emplace_back(std::vector<std::string>{
+                saverProgram, "keys", folder.Path("a.ini").string(), "Probe " + std::to_string(i), "2"});
         for (Process& process : processes)
             EXPECT_EQ(process.Wait(), 0);
         const std::string text = folder.Read("a.ini");
@@ -170,7 +162,7 @@ TEST(IniStoreProcesses, ARecordThatTwoProcessesSaveIsAlwaysOneOfTheirs) {
     const std::string file = folder.Path("a.ini").string();
     std::vector<Process> processes;
     for (const char* from : {"1000", "2000"})
-        processes.emplace_back(std::vector<std::string>{saver, "records", file, "100", from});
+        processes.emplace_back(std::vector<std::string>{saverProgram, "records", file, "100", from});
     int records = 0;
     for (bool running = true; running;) {
         running = !processes[0].HasEnded() || !processes[1].HasEnded();
@@ -199,7 +191,8 @@ TEST(IniStoreProcesses, EightProcessesThatEditOneKeyAHundredTimesEachLoseNoUpdat
     folder.Write("a.ini", host + "N = 0 ; edits\r\n");
     std::vector<Process> processes;
     for (int i = 0; i < 8; ++i)
-        processes.emplace_back(std::vector<std::string>{saver, "add", folder.Path("a.ini").string(), "100"});
+        processes.emplace_back(
+            std::vector<std::string>{saverProgram, "add", folder.Path("a.ini").string(), "100"});
     for (Process& process : processes) {
         EXPECT_EQ(process.ReadLine(), "");
         EXPECT_EQ(process.Wait(), 0);
@@ -212,7 +205,7 @@ TEST(IniStoreProcesses, AProcessThatIsKilledWhileItHasTheLockKeepsNobodyWaiting)
     const TempFolder folder;
     folder.Write("a.ini", "[A]\nx=1\n");
     for (int round = 0; round < 5; ++round) {
-        Process holder({saver, "lock", folder.Path("a.ini").string()});
+        Process holder({saverProgram, "lock", folder.Path("a.ini").string()});
         ASSERT_EQ(holder.ReadLine(), "locked");
         EXPECT_EQ(folder.Files().size(), 2U);
         holder.Kill();
@@ -231,7 +224,7 @@ TEST(IniStoreProcesses, AProcessThatIsKilledWhileItHasTheLockKeepsNobodyWaiting)
 TEST(IniStoreProcesses, AChildOfAProcessThatIsKilledWhileItHasTheLockDoesNotHaveIt) {
     const TempFolder folder;
     folder.Write("a.ini", "[A]\nx=1\n");
-    Process holder({saver, "fork", folder.Path("a.ini").string()});
+    Process holder({saverProgram, "fork", folder.Path("a.ini").string()});
     const pid_t child = std::stoi(holder.ReadLine());
     holder.Kill();
     EXPECT_EQ(holder.Wait(), -SIGKILL);
@@ -272,7 +265,7 @@ TEST(IniStoreProcesses, AChildThatIsStartedWhileTheLockIsBeingTakenDoesNotHaveIt
 
 TEST(IniStoreProcesses, AChildThatEndsDoesNotGiveTheLockOfItsParentBack) {
     const TempFolder folder;
-    Process holder({saver, "fork", folder.Path("a.ini").string()});
+    Process holder({saverProgram, "fork", folder.Path("a.ini").string()});
     const pid_t child = std::stoi(holder.ReadLine());
     ::kill(child, SIGKILL);
     IniFileSystem& files = IniFileSystem::System();
@@ -285,7 +278,7 @@ TEST(IniStoreProcesses, AChildThatEndsDoesNotGiveTheLockOfItsParentBack) {
 TEST(IniStoreProcesses, AFileUnderALeaseIsReadAsSoonAsItIsGivenBack) {
     const TempFolder folder;
     folder.Write("a.ini", "[A]\nx=1\n");
-    Process server({saver, "lease", folder.Path("a.ini").string()});
+    Process server({saverProgram, "lease", folder.Path("a.ini").string()});
     if (server.ReadLine() != "leased")
         GTEST_SKIP() << "this file system has no leases";
     InterceptedFiles files;
@@ -309,7 +302,7 @@ TEST(IniStoreProcesses, AFileUnderALeaseIsSavedAsSoonAsItIsGivenBack) {
     store.SetSection(L"A");
     store.Hold();
     store.WriteInteger(L"x", 2, L"");
-    Process server({saver, "lease", folder.Path("a.ini").string()});
+    Process server({saverProgram, "lease", folder.Path("a.ini").string()});
     if (server.ReadLine() != "leased")
         GTEST_SKIP() << "this file system has no leases";
     store.Release();
@@ -332,7 +325,7 @@ TEST(IniStoreProcesses, ALeaseThatIsNotGivenBackForAMinuteIsAnError) {
 TEST(IniStoreProcesses, AProcessThatHasTheLockIsWaitedFor) {
     const TempFolder folder;
     folder.Write("a.ini", "[A]\nx=1\n");
-    Process holder({saver, "lock", folder.Path("a.ini").string()});
+    Process holder({saverProgram, "lock", folder.Path("a.ini").string()});
     ASSERT_EQ(holder.ReadLine(), "locked");
     std::thread ending([&holder] {
         std::this_thread::sleep_for(200ms);
@@ -350,7 +343,7 @@ TEST(IniStoreProcesses, AProcessThatHasTheLockIsWaitedFor) {
 TEST(IniStoreProcesses, ReadingNeedsNoLock) {
     const TempFolder folder;
     folder.Write("a.ini", "[A]\nx=1\n");
-    Process holder({saver, "lock", folder.Path("a.ini").string()});
+    Process holder({saverProgram, "lock", folder.Path("a.ini").string()});
     ASSERT_EQ(holder.ReadLine(), "locked");
     IniStore store;
     store.SetFileName(folder.Name("a.ini"));
@@ -366,7 +359,7 @@ TEST(IniStoreProcesses, TheProcessThatHasTheLockIsNamed) {
     if (!std::ifstream("/proc/locks"))
         GTEST_SKIP() << "this system has no list of locks";
     const TempFolder folder;
-    Process holder({saver, "lock", folder.Path("a.ini").string()});
+    Process holder({saverProgram, "lock", folder.Path("a.ini").string()});
     ASSERT_EQ(holder.ReadLine(), "locked");
     IniFileSystem& files = IniFileSystem::System();
     const auto file = files.Open(folder.Path(folder.Files().front()).string(), Opening::ToLock);

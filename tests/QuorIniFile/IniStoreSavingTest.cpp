@@ -4,6 +4,7 @@
 #include "QuorIniFile/IniStore.h"
 
 #include "QuorIniFile/QuorError.h"
+#include "tests/QuorIniFile/RaisedBy.h"
 #include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -14,6 +15,7 @@
 
 namespace fs = std::filesystem;
 using namespace QuorIniFile;
+using Support::NumberRaisedBy;
 
 namespace {
 
@@ -31,16 +33,6 @@ protected:
     TempFolder folder;
     std::unique_ptr<IniStore> store = std::make_unique<IniStore>();
 };
-
-template <class Action>
-std::int32_t NumberRaisedBy(const Action& action) {
-    try {
-        action();
-    } catch (const QuorError& error) {
-        return error.Number();
-    }
-    return 0;
-}
 
 } // namespace
 

@@ -18,7 +18,7 @@ using namespace QuorIniFile;
 
 namespace {
 
-using Names = std::vector<std::wstring>;
+using SectionNames = std::vector<std::wstring>;
 
 class IniStoreSections : public testing::Test {
 protected:
@@ -54,7 +54,7 @@ TEST_F(IniStoreSections, StandInTheOrderOfTheFileAndNewOnesBehindThem) {
     File("top=1\n[K\xC3\xB6ln]\n[B]\n[b]\n[broken\n[A]\n");
     store->Hold();
     Put(L"New", L"x", 1);
-    EXPECT_EQ(store->Sections(), (Names{L"Köln", L"B", L"A", L"New"}));
+    EXPECT_EQ(store->Sections(), (SectionNames{L"Köln", L"B", L"A", L"New"}));
 }
 
 TEST_F(IniStoreSections, OfAFileThatIsNotThereAreAnError) {
@@ -70,7 +70,7 @@ TEST_F(IniStoreSections, AreRemovedAndRenamedWhenTheCallReturns) {
     store->RenameSection(L"b", L"Köln");
     EXPECT_EQ(File(), "[K\xC3\xB6ln] ; remark\ny=2\n");
     store->RemoveSection(L"C");
-    EXPECT_EQ(store->Sections(), Names{L"Köln"});
+    EXPECT_EQ(store->Sections(), SectionNames{L"Köln"});
 }
 
 TEST_F(IniStoreSections, TakeTheEncodingOfTheFile) {
@@ -137,7 +137,7 @@ TEST_F(IniStoreSections, TakeNoNameThatAnotherProgramHasGivenMeanwhile) {
     EXPECT_EQ(Refusal([&] { store->Release(); }),
               L"75 Path/File access error: a.ini: There is a section \"C\" already");
     store->Discard();
-    EXPECT_EQ(store->Sections(), (Names{L"A", L"C"}));
+    EXPECT_EQ(store->Sections(), (SectionNames{L"A", L"C"}));
     store.reset();
     EXPECT_EQ(File(), theirs);
 }
@@ -232,7 +232,7 @@ TEST_F(IniStoreSections, ThatWereDiscardedAreNeverSaved) {
     Put(L"B", L"y", 2);
     store->Discard();
     store->Release();
-    EXPECT_EQ(store->Sections(), Names{L"A"});
+    EXPECT_EQ(store->Sections(), SectionNames{L"A"});
     store->Hold();
     store->RemoveSection(L"A");
     store->Discard();
@@ -249,9 +249,9 @@ TEST_F(IniStoreSections, TheirRefusalsHaveACauseAndANameForPrograms) {
             EXPECT_EQ(error.Cause()->fileName, folder.Name("a.ini"));
             return std::pair(error.Cause()->code, error.Cause()->values);
         }
-        return std::pair(INI_CAUSE_NONE, Names{});
+        return std::pair(INI_CAUSE_NONE, SectionNames{});
     };
-    EXPECT_EQ(causeOf(L"A", L"b"), std::pair(INI_CAUSE_SECTION_EXISTS, Names{L"b"}));
-    EXPECT_EQ(causeOf(L"C", L"D"), std::pair(INI_CAUSE_NO_SUCH_SECTION, Names{L"C"}));
-    EXPECT_EQ(causeOf(L"A", L"C\nD"), std::pair(INI_CAUSE_BAD_SECTION_NAME, Names{L"C\nD"}));
+    EXPECT_EQ(causeOf(L"A", L"b"), std::pair(INI_CAUSE_SECTION_EXISTS, SectionNames{L"b"}));
+    EXPECT_EQ(causeOf(L"C", L"D"), std::pair(INI_CAUSE_NO_SUCH_SECTION, SectionNames{L"C"}));
+    EXPECT_EQ(causeOf(L"A", L"C\nD"), std::pair(INI_CAUSE_BAD_SECTION_NAME, SectionNames{L"C\nD"}));
 }

@@ -1,6 +1,7 @@
 #include "QuorIniFile/IniStore.h"
 
 #include "QuorIniFile/QuorError.h"
+#include "tests/QuorIniFile/RaisedBy.h"
 #include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +9,7 @@
 #include <string>
 
 using namespace QuorIniFile;
+using Support::RaisedBy;
 
 namespace {
 
@@ -24,17 +26,6 @@ protected:
     TempFolder folder;
     IniStore store;
 };
-
-template <class Action>
-QuorError RaisedBy(const Action& action) {
-    try {
-        action();
-    } catch (const QuorError& error) {
-        EXPECT_EQ(error.Source(), L"QuorIniFile");
-        return error;
-    }
-    return {0, L"", L"nothing"};
-}
 
 } // namespace
 

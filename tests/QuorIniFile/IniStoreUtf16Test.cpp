@@ -5,6 +5,7 @@
 
 #include "QuorIniFile/QuorError.h"
 #include "QuorIniFile/detail/IniDisk.h"
+#include "tests/QuorIniFile/RaisedBy.h"
 #include "tests/support/TempFolder.h"
 #include "tests/support/Utf16.h"
 
@@ -19,6 +20,7 @@
 
 namespace fs = std::filesystem;
 using namespace QuorIniFile;
+using Support::RefusalOf;
 using namespace std::string_literals;
 using Texts = std::vector<std::wstring>;
 
@@ -52,17 +54,6 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(ByteOrder, IniStoreUtf16, testing::Values("LittleEndian", "BigEndian"),
                          [](const auto& order) { return std::string(order.param); });
-
-template <class Action>
-std::wstring RaisedBy(const Action& action) {
-    try {
-        action();
-    } catch (const QuorError& error) {
-        EXPECT_EQ(error.Number(), 75);
-        return error.Description();
-    }
-    return L"";
-}
 
 } // namespace
 
@@ -122,7 +113,7 @@ TEST_P(IniStoreUtf16, LosesSectionsAndGetsOtherNames) {
     store.RemoveSection(L"B");
     EXPECT_EQ(File(), Utf16(u"; mine\n[\u00D6l \U0001F321] ; first\nx=1\n\n[C]\nz=1\n"));
     EXPECT_EQ(store.Sections(), (Texts{L"\u00D6l \U0001F321", L"C"}));
-    EXPECT_EQ(RaisedBy([&] { store.RenameSection(L"C", L"\u00D6l \U0001F321"); }),
+    EXPECT_EQ(RefusalOf([&] { store.RenameSection(L"C", L"\u00D6l \U0001F321"); }),
               L"Path/File access error: " + folder.Name("a.ini") +
                   L": There is a section \"\u00D6l \U0001F321\" already");
 }
@@ -247,7 +238,7 @@ TEST_P(IniStoreUtf16, GetsNoHalfOfASurrogatePair) {
     store.WriteString(L"x", half);
     EXPECT_EQ(File(), Utf16(u"[A]\nx=\"a\\u{D83C}b\"\n"));
     EXPECT_EQ(Text(L"x"), half);
-    EXPECT_NE(RaisedBy([&] { store.WriteInteger(half, 1, L""); }), L"");
+    EXPECT_NE(RefusalOf([&] { store.WriteInteger(half, 1, L""); }), L"");
     EXPECT_EQ(File(), Utf16(u"[A]\nx=\"a\\u{D83C}b\"\n"));
 }
 
@@ -259,8 +250,8 @@ TEST_P(IniStoreUtf16, ThatIsNotValidIsRefusedAndStaysAndWhatIsHeldIsSavedLater) 
     File(half);
     const std::wstring error = L"Path/File access error: " + folder.Name("a.ini") +
                                L": The file is UTF-16 text with half a surrogate pair in line 3";
-    EXPECT_EQ(RaisedBy([&] { store.Reload(); }), error);
-    EXPECT_EQ(RaisedBy([&] { store.Release(); }), error);
+    EXPECT_EQ(RefusalOf([&] { store.Reload(); }), error);
+    EXPECT_EQ(RefusalOf([&] { store.Release(); }), error);
     EXPECT_EQ(File(), half);
     File(Utf16(u"; theirs\n[A]\nx=5\n"));
     Put(L"y", 3);
@@ -276,7 +267,7 @@ TEST_P(IniStoreUtf16, ThatWouldBeLargerThanFourGigabytesIsNotSaved) {
     fs::resize_file(folder.Path("a.ini"), size); // takes no room: what follows is one hole, of NULs
     store.Hold();
     Put(L"y", 2);
-    EXPECT_EQ(RaisedBy([&] { store.Release(); }),
+    EXPECT_EQ(RefusalOf([&] { store.Release(); }),
               L"Path/File access error: " + folder.Name("a.ini") + L": It would be larger than 4 GiB");
     EXPECT_EQ(fs::file_size(folder.Path("a.ini")), size);
     EXPECT_EQ(Text(L"x"), L"1");

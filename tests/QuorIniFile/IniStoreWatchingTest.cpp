@@ -3,6 +3,7 @@
 #include "QuorIniFile/IniStore.h"
 
 #include "QuorIniFile/QuorError.h"
+#include "tests/QuorIniFile/RaisedBy.h"
 #include "tests/support/InterceptedFiles.h"
 #include "tests/support/SimulatedDisk.h"
 #include "tests/support/TempFolder.h"
@@ -15,6 +16,7 @@
 
 namespace fs = std::filesystem;
 using namespace QuorIniFile;
+using Support::NumberRaisedBy;
 
 namespace {
 
@@ -37,16 +39,6 @@ protected:
     TempFolder folder;
     IniStore store;
 };
-
-template <class Action>
-std::int32_t NumberRaisedBy(const Action& action) {
-    try {
-        action();
-    } catch (const QuorError& error) {
-        return error.Number();
-    }
-    return 0;
-}
 
 } // namespace
 

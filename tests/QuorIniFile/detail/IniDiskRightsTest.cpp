@@ -3,6 +3,7 @@
 #include "QuorIniFile/detail/IniDisk.h"
 
 #include "QuorIniFile/QuorError.h"
+#include "tests/QuorIniFile/RaisedBy.h"
 #include "tests/support/InterceptedFiles.h"
 #include "tests/support/TempFolder.h"
 
@@ -24,6 +25,7 @@
 namespace fs = std::filesystem;
 using namespace QuorIniFile;
 using Names = std::vector<std::string>;
+using Support::RaisedBy;
 using Support::InterceptedFiles;
 
 namespace {
@@ -31,16 +33,6 @@ namespace {
 constexpr uid_t ordinary = 65534;
 constexpr const char* accessList = "system.posix_acl_access";
 constexpr const char* inheritedList = "system.posix_acl_default";
-
-template <class Action>
-QuorError RaisedBy(const Action& action) {
-    try {
-        action();
-    } catch (const QuorError& error) {
-        return error;
-    }
-    return {0, L"", L"nothing"};
-}
 
 /// While it lives, the superuser's test is a user like any other, and the folder is that user's. For a test
 /// that runs as an ordinary user anyway it does nothing.

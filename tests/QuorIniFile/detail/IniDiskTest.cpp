@@ -2,6 +2,7 @@
 
 #include "QuorIniFile/IniStore.h"
 #include "QuorIniFile/QuorError.h"
+#include "tests/QuorIniFile/RaisedBy.h"
 #include "tests/support/InterceptedFiles.h"
 #include "tests/support/TempFolder.h"
 
@@ -26,21 +27,10 @@
 
 namespace fs = std::filesystem;
 using namespace QuorIniFile;
+using Support::RaisedBy;
 using Names = std::vector<std::string>;
 
 namespace {
-
-/// What `action` raises; number 0 when it raises nothing.
-template <class Action>
-QuorError RaisedBy(const Action& action) {
-    try {
-        action();
-    } catch (const QuorError& error) {
-        EXPECT_EQ(error.Source(), L"QuorIniFile");
-        return error;
-    }
-    return {0, L"", L"nothing"};
-}
 
 IniStamp ReplaceBytes(const std::wstring& name, std::string_view bytes) {
     return IniReplacement(name).Commit(bytes).value();

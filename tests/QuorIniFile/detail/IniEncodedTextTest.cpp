@@ -1,6 +1,7 @@
 #include "QuorIniFile/detail/IniEncodedText.h"
 
 #include "QuorIniFile/QuorError.h"
+#include "tests/QuorIniFile/RaisedBy.h"
 #include "tests/support/Utf16.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +12,7 @@
 #include <utility>
 
 using namespace QuorIniFile;
+using Support::RefusalOf;
 using namespace std::string_literals;
 
 namespace {
@@ -19,18 +21,6 @@ constexpr IniFileEncoding utf16s[] = {IniFileEncoding::Utf16LittleEndian, IniFil
 
 std::string Utf16(std::u16string_view text, IniFileEncoding encoding) {
     return encoding == IniFileEncoding::Utf16BigEndian ? Utf16Be(text) : Utf16Le(text);
-}
-
-/// What `action` raises, which has to be error 75; L"" when it raises nothing.
-template <class Action>
-std::wstring RaisedBy(const Action& action) {
-    try {
-        action();
-    } catch (const QuorError& error) {
-        EXPECT_EQ(error.Number(), 75);
-        return error.Description();
-    }
-    return L"";
 }
 
 } // namespace
@@ -113,14 +103,14 @@ TEST(IniEncodedText, OfWhatIsNoUtf16WithAMarkIsRefusedWithTheReason) {
         {Utf16Le(u"\uFEFF"s + char16_t{0xD83C} + char16_t{0xD83C} + char16_t{0xDF21}), pair + L"1"},
     };
     for (const auto& [bytes, error] : cases) {
-        EXPECT_EQ(RaisedBy([&, &text = bytes] { static_cast<void>(DecodeFile(text, L"a.ini")); }), error)
+        EXPECT_EQ(RefusalOf([&, &text = bytes] { static_cast<void>(DecodeFile(text, L"a.ini")); }), error)
             << testing::PrintToString(bytes);
     }
 }
 
 TEST(IniEncodedText, OfUtf32IsNotTakenForUtf16) {
     const std::string mark = "\xFF\xFE\0\0"s;
-    EXPECT_EQ(RaisedBy([&] { static_cast<void>(DecodeFile(mark + "[\0\0\0\x21\xF3\x01\0"s, L"a.ini")); }),
+    EXPECT_EQ(RefusalOf([&] { static_cast<void>(DecodeFile(mark + "[\0\0\0\x21\xF3\x01\0"s, L"a.ini")); }),
               L"Path/File access error: a.ini: The file is UTF-32 text");
     EXPECT_EQ(DecodeFile(mark, L"a.ini").text, "\xEF\xBB\xBF\0"s);
     EXPECT_EQ(DecodeFile(mark + "[\0A\0"s, L"a.ini").text, "\xEF\xBB\xBF\0[A"s);
@@ -129,14 +119,14 @@ TEST(IniEncodedText, OfUtf32IsNotTakenForUtf16) {
 
 TEST(IniEncodedText, CanBeAsLargeAsAFile) {
     const std::string wide = Utf16Le(u"\uFEFF\u2126\u2126"); // six bytes, nine in UTF-8
-    EXPECT_EQ(RaisedBy([&] { static_cast<void>(DecodeFile(wide, L"a.ini", 9)); }), L"");
-    EXPECT_EQ(RaisedBy([&] { static_cast<void>(DecodeFile(wide, L"a.ini", 8)); }),
+    EXPECT_EQ(RefusalOf([&] { static_cast<void>(DecodeFile(wide, L"a.ini", 9)); }), L"");
+    EXPECT_EQ(RefusalOf([&] { static_cast<void>(DecodeFile(wide, L"a.ini", 8)); }),
               L"Path/File access error: a.ini: It is larger than 4 GiB as UTF-8");
     const std::string wideText = "\xEF\xBB\xBF\xE2\x84\xA6\xE2\x84\xA6";
     const std::string narrowText = "\xEF\xBB\xBF[A]";            // six bytes, eight in UTF-16
     const std::string pairText = "\xEF\xBB\xBF\xF0\x9F\x8C\xA1"; // seven bytes, six in UTF-16
     const auto raised = [](std::string_view text, IniFileEncoding encoding, std::uint64_t most) {
-        return RaisedBy([&] { RequireDecodable(text, encoding, L"a.ini", most); });
+        return RefusalOf([&] { RequireDecodable(text, encoding, L"a.ini", most); });
     };
     const std::wstring tooLarge = L"Path/File access error: a.ini: It would be larger than 4 GiB";
     for (const IniFileEncoding encoding : utf16s) {
@@ -153,7 +143,7 @@ TEST(IniEncodedText, CanBeAsLargeAsAFile) {
 
 TEST(IniEncodedText, ThatCouldNotBeReadBackIsRefused) {
     const auto raised = [](std::string_view text, IniFileEncoding encoding) {
-        return RaisedBy([&] { RequireDecodable(text, encoding, L"a.ini"); });
+        return RefusalOf([&] { RequireDecodable(text, encoding, L"a.ini"); });
     };
     for (const std::string& text : {"\xFF\xFE"s, "\xFE\xFF[A]"s, "\0["s, "[\0"s})
         EXPECT_EQ(raised(text, IniFileEncoding::Bytes),
