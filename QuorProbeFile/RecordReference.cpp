@@ -72,12 +72,12 @@ Row Numbered(const wchar_t* key, int first, int last, const wchar_t* letter, int
 }
 
 Row Count(int initial, const wchar_t* range) {
-    return Plain(L"NumCoefficients", L"How many coefficients the record has", L"", range,
+    return Plain(numCoefficientsKey, L"How many coefficients the record has", L"", range,
                  static_cast<std::int16_t>(initial));
 }
 
 Row Points(int initial, const wchar_t* range) {
-    return Plain(L"NumPoints", L"How many points the record has", L"", range,
+    return Plain(numPointsKey, L"How many points the record has", L"", range,
                  static_cast<std::int16_t>(initial));
 }
 
@@ -106,7 +106,7 @@ std::vector<Row> Its90(std::int16_t lowRange) {
 }
 
 std::vector<Row> ThermistorHead(std::int16_t direction) {
-    return {Plain(L"ConvType", L"Direction of the polynomial", L"", L"that of the type", direction,
+    return {Plain(convTypeKey, L"Direction of the polynomial", L"", L"that of the type", direction,
                   thermistorDirections),
             Count(4, L"0 to 4")};
 }
@@ -117,7 +117,7 @@ std::vector<Row> Joined(std::vector<Row> rows, const std::vector<Row>& more) {
 }
 
 Row ThermocoupleType(std::int16_t initial) {
-    return Plain(L"TCType", L"Letter of the standard thermocouple", L"", L"-1 to 12", initial, thermocouples);
+    return Plain(tcTypeKey, L"Letter of the standard thermocouple", L"", L"-1 to 12", initial, thermocouples);
 }
 
 /// The only place that knows what the keys mean. A test holds it against what the settings classes write.
@@ -130,7 +130,7 @@ const std::map<EQuorConversionType, std::vector<Row>>& Table() {
         {CONV_ITS90, Its90(-1)},
         {CONV_ITSSR5, Its90(5)},
         {CONV_IPTS68,
-         {Plain(L"IPTS-68 scale", L"Scale in which the instrument reports temperatures", L"", L"0 or 1",
+         {Plain(ipts68ScaleKey, L"Scale in which the instrument reports temperatures", L"", L"0 or 1",
                 std::int16_t{0}, scales),
           Count(5, L"0 to 5"), Coefficient(0, L"R0", r0, L"ohm", WARNING_R0_NOT_POSITIVE),
           Coefficient(1, L"ALPHA", L"Mean temperature coefficient from 0 \u00B0C to 100 \u00B0C",
@@ -142,7 +142,7 @@ const std::map<EQuorConversionType, std::vector<Row>>& Table() {
                       WARNING_C4_SIZE)}},
         {CONV_CVD,
          {Count(4, L"0 to 32767; the equation has 4"),
-          Plain(L"UsePolynomial",
+          Plain(usePolynomialKey,
                 L"Whether the coefficients behind R0 are A, B, C (True) or ALPHA, DELTA, BETA (False)", L"",
                 L"True or False", false),
           Coefficient(0, L"R0", r0, L"ohm", WARNING_R0_NOT_POSITIVE, ofAny),
@@ -181,26 +181,26 @@ const std::map<EQuorConversionType, std::vector<Row>>& Table() {
                  Coefficient(2, L"B2", L"Coefficient of 1/T\u00B2", L"K\u00B2"),
                  Coefficient(3, L"B3", L"Coefficient of 1/T\u00B3", L"K\u00B3")})},
         {CONV_POLYNOMIAL,
-         {Plain(L"Order", L"Order of the polynomial; it has one coefficient more", L"", L"4 to 10",
+         {Plain(orderKey, L"Order of the polynomial; it has one coefficient more", L"", L"4 to 10",
                 std::int16_t{4}),
           Numbered(coefficientsKey, 0, 10, L"A", 0, L"Coefficient of the power with its number", L"")}},
         {CONV_TCPOLYNOMIAL,
-         {Plain(L"mV(25C)", L"Voltage of the thermocouple at 25 \u00B0C", L"mV", anyNumber, 0.0),
+         {Plain(mV25CKey, L"Voltage of the thermocouple at 25 \u00B0C", L"mV", anyNumber, 0.0),
           Count(16, L"0 to 16"),
           Numbered(coefficientsKey, 0, 15, L"C", 0, L"Coefficient of the power with its number", L"")}},
         {CONV_TCTABLE,
          {Points(10, L"0 to 10"),
           Numbered(temperaturesKey, 0, 9, L"T", 1, L"Temperature of the point", L"\u00B0C",
                    WARNING_TEMPERATURES_NOT_INCREASING),
-          Numbered(L"Voltages", 0, 9, L"V", 1, L"Voltage at that temperature", L"mV")}},
+          Numbered(voltagesKey, 0, 9, L"V", 1, L"Voltage at that temperature", L"mV")}},
         {CONV_TCTYPEX,
          {ThermocoupleType(4), Points(3, L"0 to 3"),
-          Plain(L"TempScale", L"Unit of the temperatures of the points, as the dialog shows it", L"",
+          Plain(tempScaleKey, L"Unit of the temperatures of the points, as the dialog shows it", L"",
                 L"any text", L"\u00B0C"),
-          Plain(L"OffsetScale", L"Unit of the offsets, as the dialog shows it", L"", L"any text", L"\u00B0C"),
-          Numbered(temperaturesKey, 0, 2, L"T", 1, L"Temperature of the deviation point", L"TempScale",
+          Plain(offsetScaleKey, L"Unit of the offsets, as the dialog shows it", L"", L"any text", L"\u00B0C"),
+          Numbered(temperaturesKey, 0, 2, L"T", 1, L"Temperature of the deviation point", tempScaleKey,
                    WARNING_TEMPERATURES_NOT_INCREASING),
-          Numbered(L"Offsets", 0, 2, L"ADJ", 1, L"Deviation at that temperature", L"OffsetScale"),
+          Numbered(offsetsKey, 0, 2, L"ADJ", 1, L"Deviation at that temperature", offsetScaleKey),
           Numbered(coefficientsKey, 0, 1, L"DC", 1, L"Further deviation coefficient of types R, S and AuPt",
                    L"")}},
         {CONV_TCTYPEPOLY,

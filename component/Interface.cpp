@@ -1,5 +1,6 @@
 // The functions of quor.h that are not made from the table: references, calls by name, what the table says.
 
+#include "QuorIniFile/AsciiCase.h"
 #include "component/Errors.h"
 #include "component/Handles.h"
 #include "component/Members.h"
@@ -12,20 +13,11 @@
 namespace QuorConversions::Component {
 namespace {
 
-[[nodiscard]] constexpr char LowerCase(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 /// Whether `name`, which is in lower case, stands before `given` in any case.
 [[nodiscard]] bool StandsBefore(std::string_view name, std::string_view given) {
     return std::lexicographical_compare(
         name.begin(), name.end(), given.begin(), given.end(),
-        [](char left, char right) { return LowerCase(left) < LowerCase(right); });
-}
-
-[[nodiscard]] bool SameName(std::string_view left, std::string_view right) {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char a, char b) { return LowerCase(a) == LowerCase(b); });
+        [](char left, char right) { return QuorIniFile::Small(left) < QuorIniFile::Small(right); });
 }
 
 /// The number of a name in any case; 0 when there is none.
@@ -34,7 +26,7 @@ namespace {
     const auto found =
         std::lower_bound(names.begin(), names.end(), given,
                          [](const NameRow& row, std::string_view g) { return StandsBefore(row.name, g); });
-    return found != names.end() && SameName(found->name, given) ? found->number : 0;
+    return found != names.end() && QuorIniFile::EqualFolded(found->name, given) ? found->number : 0;
 }
 
 [[nodiscard]] const ClassRow& ClassOfObject(quor_object object) {
@@ -48,8 +40,9 @@ namespace {
 [[nodiscard]] const ClassRow& ClassNamed(quor_text name) {
     const std::string_view wanted = Bytes(name);
     const auto classes = AllClasses();
-    const auto found = std::find_if(classes.begin(), classes.end(),
-                                    [&](const ClassRow& row) { return SameName(row.name, wanted); });
+    const auto found = std::find_if(classes.begin(), classes.end(), [&](const ClassRow& row) {
+        return QuorIniFile::EqualFolded(row.name, wanted);
+    });
     if (found == classes.end())
         Throw(QUOR_ERROR_CANNOT_CREATE, L"There is no class " + Wide(name));
     return *found;

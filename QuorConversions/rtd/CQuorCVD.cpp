@@ -1,5 +1,6 @@
 #include "QuorConversions/rtd/CQuorCVD.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorConversions/core/detail/Record.h"
 
 namespace QuorConversions {
@@ -17,13 +18,13 @@ CQuorCVD::CQuorCVD(CreationKey /*key*/, std::shared_ptr<Platform> platform)
 
 void CQuorCVD::WriteRecord(RecordWriter& record) const {
     WriteCount(record);
-    record.Boolean(L"UsePolynomial", m_usePolynomial);
+    record.Boolean(usePolynomialKey, m_usePolynomial);
     WriteCoefficients(record);
 }
 
 void CQuorCVD::ReadRecord(RecordReader& record) {
     SetNumCoefficients(ReadCount(record));
-    m_usePolynomial = record.Boolean(L"UsePolynomial", m_usePolynomial);
+    m_usePolynomial = record.Boolean(usePolynomialKey, m_usePolynomial);
     ReadCoefficients(record);
 }
 

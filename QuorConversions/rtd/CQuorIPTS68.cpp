@@ -1,12 +1,12 @@
 #include "QuorConversions/rtd/CQuorIPTS68.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorConversions/core/detail/Record.h"
 
 namespace QuorConversions {
 namespace {
 
 constexpr SettingsTraits ipts68Traits{L"CQuorIPTS68", IDS_IPTS_68, L"i68", L"IPTS-68"};
-constexpr const wchar_t* scaleKey = L"IPTS-68 scale"; // spelled so, with a small word, in every file
 
 } // namespace
 
@@ -34,13 +34,13 @@ void CQuorIPTS68::FillScaleCombo(ListControl& ctrl) const {
 }
 
 void CQuorIPTS68::WriteRecord(RecordWriter& record) const {
-    record.Integer(scaleKey, m_scale);
+    record.Integer(ipts68ScaleKey, m_scale);
     WriteCount(record);
     WriteCoefficients(record);
 }
 
 void CQuorIPTS68::ReadRecord(RecordReader& record) {
-    SetIPTS68Scale(EIPTS68Scale{record.Integer(scaleKey, m_scale)});
+    SetIPTS68Scale(EIPTS68Scale{record.Integer(ipts68ScaleKey, m_scale)});
     ResizeCoefficients(ReadCount(record));
     ReadCoefficients(record);
 }

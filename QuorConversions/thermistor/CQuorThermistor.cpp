@@ -1,12 +1,12 @@
 #include "QuorConversions/thermistor/CQuorThermistor.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorConversions/core/detail/Record.h"
 
 namespace QuorConversions {
 namespace {
 
 constexpr SettingsTraits thermistorTraits{L"CQuorThermistor", IDS_THERMISTOR, L"thr", L"Thermistor"};
-constexpr const wchar_t* convTypeKey = L"ConvType";
 
 /// A direction that is neither is shown as T(R).
 std::wstring Direction(std::int32_t convType) {

@@ -8,7 +8,6 @@ namespace {
 
 constexpr SettingsTraits tcPolynomialTraits{L"CQuorTCPolynomial", IDS_TC_POLYNOMIAL, L"tcp",
                                             thermocouplePolynomialSection};
-constexpr const wchar_t* mV25CKey = L"mV(25C)";
 
 } // namespace
 

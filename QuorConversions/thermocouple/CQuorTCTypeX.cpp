@@ -7,8 +7,6 @@ namespace QuorConversions {
 namespace {
 
 constexpr SettingsTraits tcTypeXTraits{L"CQuorTCTypeX", IDS_TC_TYPE, L"tcx", L"Thermocouple Type"};
-constexpr const wchar_t* tempScaleKey = L"TempScale";
-constexpr const wchar_t* offsetScaleKey = L"OffsetScale";
 
 // C, L, M and U are members of the enumeration that this class neither names nor offers.
 constexpr TCTypeCatalogue typesWithPoints{

@@ -25,15 +25,15 @@ struct KeyWithMeaning {
 
 // A type of thermocouple, a range and a scale are what the coefficients and points were found for.
 constexpr KeyWithMeaning table[] = {
-    {L"UsePolynomial", Decides::AllButFirst, coefficientsKey},
-    {L"ConvType", Decides::All, coefficientsKey},
-    {L"IPTS-68 scale", Decides::All, coefficientsKey},
+    {usePolynomialKey, Decides::AllButFirst, coefficientsKey},
+    {convTypeKey, Decides::All, coefficientsKey},
+    {ipts68ScaleKey, Decides::All, coefficientsKey},
     {rangeKey, Decides::All, coefficientsKey},
     {tcTypeKey, Decides::All, coefficientsKey},
     {tcTypeKey, Decides::All, temperaturesKey},
     {tcTypeKey, Decides::All, offsetsKey},
-    {L"TempScale", Decides::All, temperaturesKey},
-    {L"OffsetScale", Decides::All, offsetsKey},
+    {tempScaleKey, Decides::All, temperaturesKey},
+    {offsetScaleKey, Decides::All, offsetsKey},
     {numCoefficientsKey, Decides::Count, coefficientsKey},
     {orderKey, Decides::CountButOne, coefficientsKey},
     {numPointsKey, Decides::Count, temperaturesKey},

@@ -326,7 +326,7 @@ JsonProbe ReadJsonProbe(const JsonValue& object) {
     if (code && (code->kind != Kind::Number || QuorIniFile::IntegerOf(code->text) != info->code))
         Fail(*code, L"the code of " + info->enumerator + L" is " + std::to_wstring(info->code));
     const JsonValue& settings = Require(object, L"settings", Kind::Object, L"an object");
-    const JsonValue* const flag = settings.Find(L"UsePolynomial");
+    const JsonValue* const flag = settings.Find(usePolynomialKey);
     const RecordForm form = !flag || flag->kind != Kind::Boolean ? RecordForm::AlphaDeltaBeta
                             : flag->flag                         ? RecordForm::Polynomial
                                                                  : RecordForm::AlphaDeltaBeta;

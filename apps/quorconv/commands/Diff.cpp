@@ -1,5 +1,6 @@
 #include "apps/quorconv/commands/Rows.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorIniFile/Utf8.h"
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/RecordValue.h"
@@ -54,7 +55,8 @@ class Diff final : public Command {
             if (!now)
                 PrintProbe('-', "removed", probe);
             else if (now->code != probe.code)
-                Print(probe.section, L"ConversionType", TypeName(probe.code), TypeName(now->code));
+                Print(probe.section, QuorConversions::conversionTypeKey, TypeName(probe.code),
+                      TypeName(now->code));
             else
                 for (const ValueChange& change : ChangesOf(probe, *now))
                     Print(probe.section, change.key, TextOf(change.before), TextOf(change.after));
