@@ -83,8 +83,8 @@ const std::vector<ProbeWarning>& Warnings() {
          L"coefficients and points beside a count, or an order, that leaves them out", L"absent or 0",
          L"a record that has got a smaller count keeps those that it had; a count that was mistyped leaves "
          L"out what was meant"},
-        {WARNING_UNKNOWN_CODE, L"unknown-code", L"TCType of thermocouples", L"-1 to 12",
-         L"the codes of the types that have a letter, and -1 for none"},
+        Size(WARNING_UNKNOWN_CODE, L"unknown-code", L"TCType of thermocouples", -1.0, 12.0,
+             L"the codes of the types that have a letter, and -1 for none"),
     };
     return warnings;
 }

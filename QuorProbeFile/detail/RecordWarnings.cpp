@@ -150,9 +150,11 @@ private:
         const std::int16_t* const code = read.found ? std::get_if<std::int16_t>(&read.value) : nullptr;
         const RecordKey* const key =
             code && read.key == tcTypeKey ? FindRecordKey(m_type, read.key, RecordForm::Any) : nullptr;
-        if (key && ChoiceName(*key, *code).empty())
-            Warn(WARNING_UNKNOWN_CODE, read, PROBE_TEXT_UNKNOWN_CODE,
-                 {read.key, ToText(*code), std::wstring(FindWarning(WARNING_UNKNOWN_CODE)->limit)});
+        if (!key || !ChoiceName(*key, *code).empty())
+            return;
+        const ProbeWarning& warning = *FindWarning(WARNING_UNKNOWN_CODE);
+        Warn(WARNING_UNKNOWN_CODE, read, PROBE_TEXT_OUT_OF_INTERVAL,
+             {read.key, ToText(*code), ToText(warning.least), ToText(warning.most)});
     }
 
     void JudgeValue(const ReadLog::Read& read, double number, const Judged& rule) {

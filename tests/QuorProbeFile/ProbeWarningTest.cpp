@@ -252,6 +252,8 @@ std::vector<SizeCase> SizeCases() {
          Record(6, "ConvType=1\nNumCoefficients=4\nCoefficients0=-14\nCoefficients1=~\nCoefficients2=-1E5\n"
                    "Coefficients3=-4E6\n"),
          1000, 12000, "479.18", "1000", "12000", "47918"},
+        {WARNING_UNKNOWN_CODE, Record(20, "TCType=~\nNumCoefficients=1\nCoefficients0=1E-9\n"), -1, 12, "-2",
+         "-1", "12", "13"},
     };
 }
 
@@ -286,6 +288,15 @@ TEST_F(ProbeWarningTest, ASizeIsToldWithItsNameItsValueAndItsLimit) {
     EXPECT_EQ(Told(Its90("Range=8\nCoefficients0=-3\nCoefficients1=2\n", "Range=-1\n")),
               (Texts{L"7 Coefficients0 115 a is -3; limit: -0.08 to 0.05",
                      L"8 Coefficients1 116 the coefficient is 2; limit: at most 0.06 in size"}));
+}
+
+TEST_F(ProbeWarningTest, ACodeIsToldWithItsLimitsAsNumbersForEveryLanguage) {
+    folder.Write("host.ini", Record(20, "TCType=77\nNumCoefficients=1\nCoefficients0=1E-9\n"));
+    const std::vector<ProbeProblem> problems = ProbeFile(folder.Name("host.ini")).Check();
+    ASSERT_EQ(problems.size(), 1U);
+    EXPECT_EQ(problems[0].text, L"TCType is 77; limit: -1 to 12");
+    EXPECT_EQ(problems[0].phrases,
+              (std::vector<ProbePhrase>{{PROBE_TEXT_OUT_OF_INTERVAL, {L"TCType", L"77", L"-1", L"12"}}}));
 }
 
 TEST_F(ProbeWarningTest, TheFormsOfCallendarVanDusenHaveTheirOwnLimits) {

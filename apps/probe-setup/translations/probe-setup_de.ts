@@ -1199,9 +1199,5 @@ Qt %1, unter der LGPL.</translation>
         <source>~ leaves out these values, which are not 0: ~</source>
         <translation>~ lässt diese Werte weg, die nicht 0 sind: ~</translation>
     </message>
-    <message>
-        <source>~ is ~; limit: ~</source>
-        <translation>~ ist ~; Grenze: ~</translation>
-    </message>
 </context>
 </TS>
