@@ -61,4 +61,10 @@ bool SameValue(const Value& a, const Value& b) {
     return a == b;
 }
 
+bool IsTaken(const Value& given, const Value& held) {
+    const double* const x = std::get_if<double>(&given);
+    const double* const y = std::get_if<double>(&held);
+    return (x && y && *x == *y) || SameValue(given, held);
+}
+
 } // namespace QuorProbeFile

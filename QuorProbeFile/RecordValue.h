@@ -23,5 +23,7 @@ using Value = std::variant<std::wstring, std::int16_t, double, bool>;
 [[nodiscard]] QUORPROBEFILE_EXPORT ProbePhrase PhraseOfWrong(const Value& kind, const std::wstring& text);
 /// Whether two values are the same; numbers are compared bit for bit, so -0.0 is not 0.0, but NaN is NaN.
 [[nodiscard]] QUORPROBEFILE_EXPORT bool SameValue(const Value& a, const Value& b);
+/// The same, but -0.0 is 0.0: settings that hold one of them keep it when they are given the other.
+[[nodiscard]] QUORPROBEFILE_EXPORT bool IsTaken(const Value& given, const Value& held);
 
 } // namespace QuorProbeFile

@@ -18,18 +18,11 @@ using namespace QuorConversions;
 
 namespace {
 
-/// Zero and minus zero are one number to the settings, which keep the one that they hold.
-bool IsGivenBack(const Value& written, const Value& again) {
-    const double* const one = std::get_if<double>(&written);
-    const double* const other = std::get_if<double>(&again);
-    return (one && other && *one == *other) || SameValue(written, again);
-}
-
 bool AreGivenBack(const RecordImage& written, const RecordImage& again) {
     return std::equal(written.Entries().begin(), written.Entries().end(), again.Entries().begin(),
                       again.Entries().end(),
                       [](const RecordImage::Entry& one, const RecordImage::Entry& other) {
-                          return one.path == other.path && IsGivenBack(one.value, other.value);
+                          return one.path == other.path && IsTaken(one.value, other.value);
                       });
 }
 
@@ -96,7 +89,7 @@ private:
     void Take(std::wstring_view key, T value) {
         if (m_mode == Mode::Compare) {
             const Item* const item = Next(key);
-            m_isSame = item && m_isSame && IsGivenBack(item->value, value);
+            m_isSame = item && m_isSame && IsTaken(item->value, value);
             return;
         }
         if (m_next == m_items.size())

@@ -275,7 +275,7 @@ private:
             const RecordImage::Entry* const stored = m_image->Find(entry.path);
             if (stored && m_isAssigned[PlaceOf(stored)])
                 continue;
-            if (!stored || !SameValue(stored->value, entry.value))
+            if (!stored || !IsTaken(entry.value, stored->value))
                 throw Problem{m_place + entry.path + L": the value " + ToText(entry.value) +
                               NotInRange(std::holds_alternative<std::int16_t>(entry.value)
                                              ? FindRecordKey(m_probe.Conversion().ConversionType(),
