@@ -279,10 +279,9 @@ ReadOutcome ProbeFile::Read(std::wstring_view section, CQuorConversion& conversi
     outcome.problems = ProblemsOf(reading, probe, places);
     for (const MessageCollector::Message& message : reading.Messages())
         outcome.messages.push_back(message.text);
-    const bool isRefused = IsRefused(outcome.problems);
-    outcome.record = RecordOf(reading, probe, isRefused);
+    outcome.record = RecordOf(reading, probe, outcome);
     outcome.probe = std::move(probe);
-    if (isRefused) { // what it was read up to is no record either
+    if (IsRefused(outcome.problems)) { // what it was read up to is no record either
         CQuorConversion defaults;
         defaults.SetConversionType(reading.Conversion().ConversionType());
         Assign(conversion, defaults);
@@ -294,10 +293,14 @@ ReadOutcome ProbeFile::Read(std::wstring_view section, CQuorConversion& conversi
 }
 
 /// Keeps the text of the sections that were read.
-RecordAsRead ProbeFile::RecordOf(const RecordReading& reading, const ProbeEntry& probe, bool isRefused) {
+RecordAsRead ProbeFile::RecordOf(const RecordReading& reading, const ProbeEntry& probe,
+                                 const ReadOutcome& outcome) {
     auto state = std::make_shared<RecordAsRead::State>();
     state->probe = probe;
-    state->isRefused = isRefused;
+    if (IsRefused(outcome.problems)) {
+        state->refusal = outcome.problems;
+        state->messages = outcome.messages;
+    }
     std::vector<std::wstring> sections;
     const auto add = [&sections](const std::wstring& section) {
         if (std::find(sections.begin(), sections.end(), section) == sections.end())
@@ -305,11 +308,6 @@ RecordAsRead ProbeFile::RecordOf(const RecordReading& reading, const ProbeEntry&
     };
     for (const ReadLog::Read& read : reading.Reads())
         add(read.section);
-    if (isRefused) { // before it has asked for all of its sections
-        const auto unchanged = state->Unchanged();
-        for (const auto& [place, value] : unchanged->Written())
-            add(place.first);
-    }
     const std::string_view text = m_store->Text();
     for (const std::wstring& section : sections) {
         const SectionIndex::Section* const place = Places().Section(section);
@@ -456,6 +454,11 @@ std::vector<RecordConflict> ProbeFile::WriteChanges(std::wstring_view section,
         throw Error(PROBE_OF_ANOTHER_TYPE, section, TypeName(*probe.type));
     ConsistencyCheck check;
     RequireConsistent(section, conversion, check);
+    if (!state.refusal.empty()) { // with the changes it would be refused as before, or mix values of both
+        if (!record.IsChanged(conversion))
+            return {};
+        throw ProbeFileError(m_path, std::wstring(section), state.refusal, state.messages);
+    }
     const std::wstring name = EqualFolded(section, probe.section) ? probe.section : std::wstring(section);
     const auto read = state.Record();
     const auto unchanged = state.Unchanged();

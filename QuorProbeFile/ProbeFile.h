@@ -159,7 +159,9 @@ public:
     /// record, and keep it once Edit has returned.
     ///
     /// Raises PROBE_NO_RECORD for a record of no probe, PROBE_OF_ANOTHER_TYPE if the conversion has another
-    /// type than the record, which only Write can replace, PROBE_CANNOT_BE_WRITTEN and PROBE_INCONSISTENT.
+    /// type than the record, PROBE_INCOMPLETE if the settings object had refused the record as a whole
+    /// (PROBLEM_RECORD_REFUSED, PROBLEM_VALUE_REFUSED), so that the conversion holds none of its values; both
+    /// can only be replaced by Write. Raises PROBE_CANNOT_BE_WRITTEN and PROBE_INCONSISTENT.
     [[nodiscard]] std::vector<RecordConflict> WriteChanges(std::wstring_view section,
                                                            const QuorConversions::CQuorConversion& conversion,
                                                            RecordAsRead& record);
@@ -221,7 +223,7 @@ private:
     void WriteRecord(const std::shared_ptr<QuorIniFile::INIFile>& to, std::wstring_view section,
                      const QuorConversions::CQuorConversion& conversion, bool standAlone) const;
     [[nodiscard]] RecordAsRead RecordOf(const RecordReading& reading, const ProbeEntry& probe,
-                                        bool isRefused);
+                                        const ReadOutcome& outcome);
 
     std::wstring m_path;
     std::shared_ptr<QuorIniFile::IniStore> m_store;

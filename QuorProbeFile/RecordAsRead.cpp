@@ -29,7 +29,7 @@ std::shared_ptr<KeptValues> RecordAsRead::State::Unchanged() const {
     const auto write = [&](const CQuorConversion& conversion) {
         WriteRecordTo(unchanged, probe.section, conversion, probe.standAlone);
     };
-    if (isRefused) {
+    if (!refusal.empty()) {
         CQuorConversion defaults;
         defaults.SetConversionType(*probe.type);
         write(defaults);

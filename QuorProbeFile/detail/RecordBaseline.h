@@ -1,20 +1,24 @@
 #pragma once
 
 #include "QuorProbeFile/ProbeEntry.h"
+#include "QuorProbeFile/ProbeProblem.h"
 #include "QuorProbeFile/RecordAsRead.h"
 #include "QuorProbeFile/detail/KeptValues.h"
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace QuorProbeFile {
 
 /// What a RecordAsRead knows.
 struct RecordAsRead::State {
-    ProbeEntry probe;        ///< of the type that it was read as
-    std::string text;        ///< of its sections, as they stood in the file
-    bool isRefused = false;  ///< the settings object has given up reading it: a read gives default values
-    KeptValues::Values read; ///< what WriteChanges has written into the record since
+    ProbeEntry probe; ///< of the type that it was read as
+    std::string text; ///< of its sections, as they stood in the file
+    /// What made the settings object give up reading it; a read gives default values then. Else empty.
+    std::vector<ProbeProblem> refusal;
+    std::vector<std::wstring> messages; ///< of the settings object about that
+    KeptValues::Values read;            ///< what WriteChanges has written into the record since
     /// All values that a conversion has that was neither changed since it was read nor since WriteChanges has
     /// written it. Without any, those that a read of the text gives.
     KeptValues::Values held;

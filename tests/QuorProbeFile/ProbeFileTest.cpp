@@ -979,23 +979,37 @@ TEST_F(ProbeFileTest, AKeyThatCouldNotBeReadAndThatOthersHaveMendedStaysAsTheyHa
     EXPECT_EQ(File(), Replaced(hostFile, "100.0 ;", "100.5 ;"));
 }
 
-TEST_F(ProbeFileTest, ChangesOfARecordThatWasGivenUpLeaveItsOtherKeys) {
+TEST_F(ProbeFileTest, ChangesOfARecordThatWasRefusedAreNotWrittenIntoItAndTheKeyToBlameIsTold) {
     const std::string text = "[P]\nVersion=1.0\nConversionType=20\n[P - Settings]\nVersion=1.0\nTCType=4\n"
                              "NumCoefficients=16\nCoefficients0=1.5\nCoefficients1=2.5\n";
     Host(text);
     ProbeFile file(Path());
     CQuorConversion conversion;
     ReadOutcome outcome = file.Read(L"P", conversion);
-    EXPECT_FALSE(outcome.IsWhole());
     const auto settings = SettingsAs<CQuorTCTypePoly>(conversion);
     EXPECT_EQ(settings->Coefficients(0), 0.0);
-    EXPECT_FALSE(outcome.record.IsChanged(conversion));
-    const auto initial = settings->TCType();
-    for (const auto type : {TCTYPE_C, initial}) { // the second is that of an object that has read nothing
-        settings->SetTCType(type);
-        EXPECT_TRUE(file.WriteChanges(L"P", conversion, outcome.record).empty());
-        EXPECT_EQ(File(), Replaced(text, "TCType=4", "TCType=" + std::to_string(type)));
+    EXPECT_TRUE(file.WriteChanges(L"P", conversion, outcome.record).empty()) << "there is none";
+    settings->SetCoefficients(0, 9.5);
+    for (const char* const present : {text.c_str(), "[P]\nConversionType=20\n"}) {
+        Host(present); // the second is somebody else's
+        try {
+            static_cast<void>(file.WriteChanges(L"P", conversion, outcome.record));
+            FAIL();
+        } catch (const ProbeFileError& error) {
+            EXPECT_EQ(error.Code(), PROBE_INCOMPLETE);
+            EXPECT_EQ(error.Section(), L"P");
+            ASSERT_FALSE(error.Problems().empty());
+            EXPECT_EQ(error.Problems(), outcome.problems);
+            EXPECT_EQ(error.Problems()[0].section + L" " + error.Problems()[0].key,
+                      L"P - Settings NumCoefficients");
+            EXPECT_EQ(error.Messages(), outcome.messages);
+        }
+        EXPECT_EQ(File(), present);
     }
+    EXPECT_TRUE(outcome.record.IsChanged(conversion));
+    file.Write(L"P", conversion); // all of it
+    EXPECT_TRUE(file.Read(L"P", conversion).IsWhole());
+    EXPECT_EQ(SettingsAs<CQuorTCTypePoly>(conversion)->Coefficients(0), 9.5);
 }
 
 TEST_F(ProbeFileTest, ChangesOfAnotherTypeThanWasReadAreRefused) {
