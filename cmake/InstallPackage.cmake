@@ -60,6 +60,25 @@ if(TARGET probe-setup)
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT Window)
     install(FILES ${desktop}/probe-setup.mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages
         RENAME probe-setup.xml COMPONENT Window)
-    install(FILES ${desktop}/probe-setup.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps
-        COMPONENT Window)
+    set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
+    install(FILES ${desktop}/probe-setup.svg DESTINATION ${icons}/scalable/apps COMPONENT Window)
+    # Desktops without a renderer for SVG need the icon in their own sizes.
+    find_program(RSVG_CONVERT rsvg-convert)
+    mark_as_advanced(RSVG_CONVERT)
+    if(RSVG_CONVERT)
+        set(pictures "")
+        foreach(size IN ITEMS 16 22 24 32 48 64 128 256 512)
+            set(picture ${PROJECT_BINARY_DIR}/icons/${size}/probe-setup.png)
+            add_custom_command(OUTPUT ${picture}
+                COMMAND ${CMAKE_COMMAND} -E make_directory ${PROJECT_BINARY_DIR}/icons/${size}
+                COMMAND ${RSVG_CONVERT} --width ${size} --height ${size} --output ${picture}
+                    ${PROJECT_SOURCE_DIR}/${desktop}/probe-setup.svg
+                DEPENDS ${desktop}/probe-setup.svg VERBATIM)
+            install(FILES ${picture} DESTINATION ${icons}/${size}x${size}/apps COMPONENT Window)
+            list(APPEND pictures ${picture})
+        endforeach()
+        add_custom_target(icons ALL DEPENDS ${pictures})
+    else()
+        message(STATUS "rsvg-convert is missing (Debian: librsvg2-bin): the icon is installed as SVG only")
+    endif()
 endif()

@@ -15,7 +15,7 @@
 namespace QuorConversions::Component {
 
 [[nodiscard]] inline std::int32_t WrongKind() noexcept {
-    return KeepError(QUOR_ERROR_TYPE, L"A value is of another kind than the interface has there");
+    return KeepError(QUOR_ERROR_TYPE, L"A value has the wrong kind for its parameter");
 }
 
 /// The integer of a value that is one. False for any other.
@@ -55,7 +55,7 @@ struct InInt16 {
             return WrongKind();
         value = static_cast<std::int16_t>(integer);
         return value == integer ? std::int32_t{QUOR_OK}
-                                : KeepError(QUOR_ERROR_OVERFLOW, L"A number has more than 16 bits");
+                                : KeepError(QUOR_ERROR_OVERFLOW, L"A number does not fit into 16 bits");
     }
     auto Pass() noexcept { return std::make_tuple(value); }
     void Store(quor_value& /*given*/) noexcept {}
@@ -227,7 +227,7 @@ template <class... Parameter, class Function>
 std::int32_t WithArguments(quor_value* args, std::int32_t n, Function&& function) noexcept {
     constexpr auto count = static_cast<std::int32_t>(sizeof...(Parameter));
     if (n < 0 || n > count)
-        return KeepError(QUOR_ERROR_ARGUMENT_COUNT, L"There are too many arguments");
+        return KeepError(QUOR_ERROR_ARGUMENT_COUNT, L"Too many arguments");
     if (n > 0 && !args)
         return KeepError(QUOR_ERROR_ARGUMENT, L"The arguments are NULL");
     std::tuple<Parameter...> parameters;
@@ -240,7 +240,7 @@ std::int32_t WithArguments(quor_value* args, std::int32_t n, Function&& function
         if (at < n && args[at].kind != QUOR_EMPTY)
             code = parameter.Load(args[at]);
         else if (!isOptional<std::remove_reference_t<decltype(parameter)>>)
-            code = KeepError(QUOR_ERROR_ARGUMENT_COUNT, L"An argument is missing that cannot be left out");
+            code = KeepError(QUOR_ERROR_ARGUMENT_COUNT, L"A required argument is missing");
     };
     std::apply([&](auto&... parameter) { (load(parameter), ...); }, parameters);
     if (code == QUOR_OK)

@@ -154,7 +154,7 @@ template <class T>
 T& DialogFace::Own(const ControlFace& face, ControlKind kind) const {
     const Control& control = face.Get();
     if (&control.Owner() != &Get())
-        Throw(QUOR_ERROR_ARGUMENT, L"The control is one of another dialog");
+        Throw(QUOR_ERROR_ARGUMENT, L"The control belongs to another dialog");
     if (control.Kind() != kind)
         Throw(QUOR_ERROR_TYPE, control.Name() + L" is a control of another kind");
     return static_cast<T&>(const_cast<Control&>(control)); // NOLINT: the dialog, which is not const, owns it

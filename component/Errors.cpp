@@ -39,8 +39,8 @@ void Throw(std::int32_t number, const std::wstring& description) {
 }
 
 void ThrowSubscript(std::int32_t index, std::size_t count) {
-    Throw(QUOR_ERROR_SUBSCRIPT,
-          L"There is no " + std::to_wstring(index) + L" among " + std::to_wstring(count));
+    Throw(QUOR_ERROR_SUBSCRIPT, L"There is no item " + std::to_wstring(index) + L": there are " +
+                                    std::to_wstring(count) + L", from 0");
 }
 
 std::int32_t KeepCurrentError() noexcept {
@@ -83,7 +83,7 @@ using namespace QuorConversions::Component;
 
 int32_t quor_last_error(quor_error* error) {
     if (!error)
-        return KeepError(QUOR_ERROR_ARGUMENT, L"There is no place for the error");
+        return KeepError(QUOR_ERROR_ARGUMENT, L"The pointer to the error is NULL");
     *error = {lastError.number, lastError.helpContext, ViewOf(lastError.source),
               ViewOf(lastError.description), ViewOf(lastError.helpFile)};
     return QUOR_OK;
@@ -101,7 +101,7 @@ int32_t quor_answer(quor_text text) {
     return Guarded([&] {
         HostCall* const call = HostCall::Current();
         if (!call)
-            Throw(QUOR_ERROR_ARGUMENT, L"No function of a host runs in this thread");
+            Throw(QUOR_ERROR_ARGUMENT, L"quor_answer is called outside a function of the host");
         call->SetAnswer(Wide(text));
     });
 }

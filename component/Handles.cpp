@@ -18,7 +18,7 @@ std::wstring NameOf(ClassId classId) {
 
 void ThrowNoObject() {
     throw QuorIniFile::QuorError(QUOR_ERROR_NO_OBJECT, L"quor",
-                                 L"The handle is of no object: it was never given out, or was released");
+                                 L"Invalid handle: it was never given out, or it was released");
 }
 
 void ThrowOtherClass(ClassId wanted, ClassId given) {

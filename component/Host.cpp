@@ -293,7 +293,7 @@ namespace {
 template <class Functions>
 [[nodiscard]] Functions Known(const Functions* functions) {
     if (!functions || functions->size < sizeof(functions->size))
-        Throw(QUOR_ERROR_ARGUMENT, L"The table of functions is NULL, or does not say its size");
+        Throw(QUOR_ERROR_ARGUMENT, L"The table of functions is NULL, or its size is not set");
     Functions known{};
     std::memcpy(&known, functions, std::min(functions->size, sizeof(known)));
     return known;
@@ -303,7 +303,7 @@ template <class Functions>
 template <class... Function>
 void Require(Function... function) {
     if (!(function && ...))
-        Throw(QUOR_ERROR_ARGUMENT, L"A function is NULL that must stand in the table");
+        Throw(QUOR_ERROR_ARGUMENT, L"A required function of the table is NULL");
 }
 
 /// Gives out an object of class T that stands for the table, as what the library takes it for.

@@ -149,7 +149,7 @@ int32_t quor_create(quor_text class_name, quor_value* args, int32_t n, quor_obje
     const std::int32_t code = Guarded([&] {
         const ClassRow& row = ClassNamed(class_name);
         if (!row.make)
-            Throw(QUOR_ERROR_CANNOT_CREATE, L"No host makes objects of the class " + Words(row.name));
+            Throw(QUOR_ERROR_CANNOT_CREATE, L"Hosts cannot create objects of the class " + Words(row.name));
         make = row.make;
     });
     return code == QUOR_OK ? make(args, n, object) : code;
@@ -159,7 +159,7 @@ int32_t quor_members(quor_text class_name, quor_member* members, int32_t capacit
     return Guarded([&] {
         const ClassRow& row = ClassNamed(class_name);
         if (capacity < 0 || (capacity > 0 && !members))
-            Throw(QUOR_ERROR_ARGUMENT, L"There is no place for the members");
+            Throw(QUOR_ERROR_ARGUMENT, L"The pointer to the members is NULL");
         const std::size_t fitting = std::min(static_cast<std::size_t>(capacity), row.members.size());
         std::transform(
             row.members.begin(), row.members.begin() + static_cast<std::ptrdiff_t>(fitting), members,

@@ -47,7 +47,7 @@ constexpr std::int32_t changedMeanwhile = 75;
 [[nodiscard]] std::shared_ptr<ProbeFileFace> StillThere(const std::weak_ptr<ProbeFileFace>& file) {
     auto there = file.lock();
     if (!there)
-        Throw(QUOR_ERROR_NO_OBJECT, L"A file that Release needs was released before");
+        Throw(QUOR_ERROR_NO_OBJECT, L"A file that Release has to read was released before");
     return there;
 }
 

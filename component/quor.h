@@ -9,8 +9,10 @@
  *  2. Every function returns 0 or the number of an error, which quor_last_error describes for the thread; nothing is
  *     given out then. The result is the last parameter; it may be NULL if it is not needed.
  *  3. Text is UTF-8 with its size in bytes (quor_text); anything else is error 5. A text passed in stays the caller's.
- *     A text given out is freed by the caller with quor_text_free; it is followed by a zero byte, which its size does
- *     not count. Texts of quor_error, quor_message and quor_file_request belong to the library.
+ *     A text given out is freed by the caller with quor_text_free. Texts that the library passes to a function of the
+ *     host, and those of quor_error, quor_message and quor_file_request, stay the library's; they are valid during the
+ *     function, those of quor_error until the next error. All these texts are followed by a zero byte, which their size
+ *     does not count.
  *  4. A property P is get_P and put_P, with its indices before its value; a call has its own name. An in/out reference is
  *     one parameter: the caller owns one reference to what it holds before the call and after it (the call releases a
  *     reference that it replaces); NULL means none. An in/out text is two parameters: the text passed in, and the text
@@ -25,6 +27,8 @@
  *     through the library like an error of its own; quor_set_error adds a description. It returns a text by calling
  *     quor_answer. It may call every function of this file; it must not throw or jump out. The table is copied.
  *  8. Functions, fields and values are added at the end; none changes its meaning.
+ *  9. Set a table or quor_value to zero bytes before filling it in. Complete hosts are among the samples: host-c/main.c
+ *     reads a probe, edits it in a dialog and saves it.
  */
 #ifndef QUOR_H
 #define QUOR_H
@@ -144,7 +148,7 @@ enum { QUOR_EMPTY = 0, QUOR_BOOL = 1, QUOR_INT16 = 2, QUOR_INT32 = 3, QUOR_DOUBL
 /* A value of any kind. An enumeration is a QUOR_INT32. */
 typedef struct quor_value {
     int32_t kind;  /* QUOR_EMPTY to QUOR_DOUBLES */
-    int32_t owned; /* not 0: its text or reference comes from the library and is released by quor_value_clear */
+    int32_t owned; /* 0 in a value of the host; not 0 in a text or reference from the library: quor_value_clear releases it */
     /* The value, in the field for its kind. */
     union {
         quor_bool boolean;
@@ -225,8 +229,8 @@ typedef struct quor_platform_functions {
     void (*destroyed)(void* user); /* called once, when `user` is no longer needed; may be NULL */
     /* Returns a new INI-file object, whose reference the library takes over. NULL: the built-in one. */
     int32_t (*create_ini_file)(void* user, quor_object* ini_file);
-    /* Shows the dialog, an object of the class Dialog, reports to it what the user does, and returns when it is no longer
-     * open; if it still is, it is cancelled. The handle belongs to the library and is valid during the call, as are
+    /* Shows the dialog, an object of the class Dialog (quor_dialog_...), reports to it what the user does, and returns
+     * when it is no longer open; if it still is, it is cancelled. The handle belongs to the library and is valid during the call, as are
      * handles of controls, which the host releases. */
     int32_t (*run_dialog)(void* user, quor_object dialog);
     /* Shows the message and waits until it is closed. */
@@ -248,7 +252,9 @@ typedef struct quor_platform_functions {
     void (*dialog_hidden)(void* user, quor_object dialog);
 } quor_platform_functions;
 
-/* An INI file of a host: see the class INIFile. Only hold, release and abandon may be NULL; they then do nothing. */
+/* An INI file of a host: see the class INIFile. Only hold, release and abandon may be NULL; they then do nothing. A
+ * conversion is read and written in its section and then in those of its settings ("Probe 1 - Settings"); the last one
+ * stays selected. */
 typedef struct quor_inifile_functions {
     size_t size; /* sizeof(quor_inifile_functions) */
     void (*destroyed)(void* user); /* called once, when `user` is no longer needed; may be NULL */
@@ -259,7 +265,7 @@ typedef struct quor_inifile_functions {
     int32_t (*put_section)(void* user, quor_text section);
     int32_t (*get_section)(void* user);
     /* If the section has the key with a value of that type, sets `found` to True and `value` to the value; read_string
-     * returns the text by quor_answer. Otherwise sets `found` to False. */
+     * returns the text by quor_answer. Otherwise sets `found` to False, which is not an error. */
     int32_t (*read_boolean)(void* user, quor_text key, quor_bool* value, quor_bool* found);
     int32_t (*read_double)(void* user, quor_text key, double* value, quor_bool* found);
     int32_t (*read_integer)(void* user, quor_text key, int16_t* value, quor_bool* found);
@@ -571,24 +577,24 @@ enum {
     QUOR_CONTROL_TAB_STRIP = 5
 };
 
-/* Why an operation of a ProbeFile is not possible. */
+/* Why a call of a ProbeFile has failed. */
 typedef int32_t quor_EProbeFileError;
 enum {
     QUOR_PROBE_NO_SUCH_SECTION = 1, /* there is no such section */
-    QUOR_PROBE_NO_RECORD = 2, /* the section is there and is not the record of a probe */
-    QUOR_PROBE_TYPE_UNREADABLE = 3, /* the record says no type that could be read; ErrorOther is its text */
-    QUOR_PROBE_UNKNOWN_TYPE = 4, /* its type is the code of no conversion; ErrorOther is the code */
-    QUOR_PROBE_INCOMPLETE = 5, /* it cannot be read wholly; see the rows of problems */
-    QUOR_PROBE_BAD_NAME = 6, /* no section can have the name */
+    QUOR_PROBE_NO_RECORD = 2, /* the section exists, but is not the record of a probe */
+    QUOR_PROBE_TYPE_UNREADABLE = 3, /* the type cannot be read; ErrorOther is its text */
+    QUOR_PROBE_UNKNOWN_TYPE = 4, /* no conversion has the code of its type; ErrorOther is the code */
+    QUOR_PROBE_INCOMPLETE = 5, /* something is missing or cannot be read: see ProblemCount */
+    QUOR_PROBE_BAD_NAME = 6, /* a section cannot have the name */
     QUOR_PROBE_NAME_IS_TAKEN = 7, /* another section has the name, or another probe of one Write */
     QUOR_PROBE_NAME_OF_SETTINGS = 8, /* a probe, ErrorOther, keeps its settings in a section of that name */
-    QUOR_PROBE_SETTINGS_ARE_TAKEN = 9, /* the settings would stand in ErrorOther, a section that is there already */
-    QUOR_PROBE_SECTION_IS_SHARED = 10, /* a section would go or move with the probe that ErrorOther needs, too */
-    QUOR_PROBE_OF_ANOTHER_TYPE = 11, /* a probe of another type, ErrorOther, stands in the section */
+    QUOR_PROBE_SETTINGS_ARE_TAKEN = 9, /* its settings need the section ErrorOther, which exists already */
+    QUOR_PROBE_SECTION_IS_SHARED = 10, /* a section of the probe also belongs to another probe, ErrorOther */
+    QUOR_PROBE_OF_ANOTHER_TYPE = 11, /* the section has a probe of another type, ErrorOther */
     QUOR_PROBE_DOES_NOT_FIT_FILE = 12, /* the section of a stand-alone settings file is not for the type, or not for a renamed probe */
-    QUOR_PROBE_CANNOT_BE_WRITTEN = 13, /* by its conversion, whose error is raised */
-    QUOR_PROBE_SECTION_OF_HOST = 14, /* no probe can be written into a section that is there and is no record */
-    QUOR_PROBE_INCONSISTENT = 15 /* a file would not give back what the conversion holds: a count below zero, settings of another type */
+    QUOR_PROBE_CANNOT_BE_WRITTEN = 13, /* its conversion has raised an error, which is raised here */
+    QUOR_PROBE_SECTION_OF_HOST = 14, /* the section exists and is not the record of a probe: none is written into it */
+    QUOR_PROBE_INCONSISTENT = 15 /* what would be read back differs from what the conversion holds: a count below zero, settings of another type */
 };
 
 /* What can be wrong with a probe or its file; from 101 on warnings. */
@@ -596,19 +602,19 @@ typedef int32_t quor_EProbeProblem;
 enum {
     QUOR_PROBLEM_SECTION_MISSING = 1,
     QUOR_PROBLEM_KEY_MISSING = 2,
-    QUOR_PROBLEM_VALUE_UNREADABLE = 3, /* it is not of its kind: a number with a comma, a text in place of a code */
-    QUOR_PROBLEM_UNKNOWN_TYPE = 4, /* the code of the type is that of no conversion type */
-    QUOR_PROBLEM_RECORD_REFUSED = 5, /* the settings object refuses the record; the text is its own */
+    QUOR_PROBLEM_VALUE_UNREADABLE = 3, /* not a value of the kind that the key needs: a number with a comma, text instead of a code */
+    QUOR_PROBLEM_UNKNOWN_TYPE = 4, /* no conversion type has the code */
+    QUOR_PROBLEM_RECORD_REFUSED = 5, /* the settings object refuses the record and gives the reason */
     QUOR_PROBLEM_VALUE_REFUSED = 6, /* a value, such as a count below zero, with which no record can be read */
-    QUOR_PROBLEM_VALUE_REPLACED = 7, /* the settings object takes another value instead */
-    QUOR_PROBLEM_UNKNOWN_KEY = 8, /* a record of this type and size does not hold the key */
+    QUOR_PROBLEM_VALUE_REPLACED = 7, /* the settings object uses another value instead */
+    QUOR_PROBLEM_UNKNOWN_KEY = 8, /* a record of this type and size has no such key */
     QUOR_PROBLEM_DUPLICATE_KEY = 9, /* the first one is read */
     QUOR_PROBLEM_DUPLICATE_SECTION = 10, /* the first one is read */
-    QUOR_PROBLEM_UNCLOSED_HEADER = 11, /* a header without "]": nobody can read the record below it */
+    QUOR_PROBLEM_UNCLOSED_HEADER = 11, /* a section header without "]": the record below it cannot be read */
     QUOR_PROBLEM_MALFORMED_LINE = 12, /* no key=value */
-    QUOR_PROBLEM_KEPT_FILE = 13, /* beside the file: what another program had put in its place */
-    QUOR_PROBLEM_INTERRUPTED_SAVE = 14, /* beside the file: what an interrupted save has left */
-    QUOR_PROBLEM_LINE_ENDS_IN_CR = 15, /* a header or key behind a carriage return alone, which nobody reads */
+    QUOR_PROBLEM_KEPT_FILE = 13, /* next to the file: what another program had put in its place */
+    QUOR_PROBLEM_INTERRUPTED_SAVE = 14, /* next to the file: left over from an interrupted save */
+    QUOR_PROBLEM_LINE_ENDS_IN_CR = 15, /* a header or key after a lone carriage return, which is not read */
     QUOR_WARNING_R0_NOT_POSITIVE = 101,
     QUOR_WARNING_RTPW_NOT_POSITIVE = 102,
     QUOR_WARNING_NOT_FINITE = 103, /* NaN or infinity */
@@ -630,14 +636,16 @@ enum {
     QUOR_WARNING_THERMISTOR_A3_SIZE = 119,
     QUOR_WARNING_THERMISTOR_B1_SIZE = 120,
     QUOR_WARNING_COUNT_DOES_NOT_FIT = 121, /* values beside a count that it leaves out are not 0 */
-    QUOR_WARNING_UNKNOWN_CODE = 122 /* the code of a thermocouple type stands for none */
+    QUOR_WARNING_UNKNOWN_CODE = 122 /* no thermocouple type has the code */
 };
 
 /* ---- Classes ---------------------------------------------------------------------------------------------------- */
 
 /* CQuorConversion */
 
-/* Creates an object of the class CQuorConversion; the caller owns the reference in `result`. */
+/* Creates an object of the class CQuorConversion; the caller owns the reference in `result`. `platform` shows its
+ * dialogs and messages (quor_platform_from_host). 0 is none: messages go to the diagnostic stream, and dialogs
+ * fail. */
 QUOR_API int32_t quor_conversion_create(quor_object platform, quor_object* result);
 /* Whether dialogs may change values; True at first. */
 QUOR_API int32_t quor_conversion_get_AllowEdit(quor_object conversion, quor_bool* result);
@@ -664,13 +672,14 @@ QUOR_API int32_t quor_conversion_put_ConversionType(quor_object conversion, quor
 QUOR_API int32_t quor_conversion_ConversionName(quor_object conversion, int32_t Value, quor_text* result);
 /* Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user. */
 QUOR_API int32_t quor_conversion_Edit(quor_object conversion, quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. A failure is reported to the user only,
- * by show_message of the platform; unlike Write of ProbeFile, the call raises no error. */
+/* Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used
+ * otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile,
+ * the call raises no error. */
 QUOR_API int32_t quor_conversion_WriteToFile(quor_object conversion, quor_object* INIFile, quor_text fname,
                                              quor_text secname);
-/* Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed. Beware:
- * a section that is not there, or says no type, makes the conversion an ITS-90 one, and its coefficients are lost.
- * Read of ProbeFile refuses such a section. */
+/* Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed.
+ * Beware: a section that does not exist, or has no type, makes the conversion an ITS-90 one, and its coefficients
+ * are lost. Read of ProbeFile refuses such a section. */
 QUOR_API int32_t quor_conversion_ReadFromFile(quor_object conversion, quor_object* INIFile, quor_text fname,
                                               quor_text secname, quor_bool* result);
 
@@ -709,10 +718,11 @@ QUOR_API int32_t quor_its90_OpenFile(quor_object its90, int32_t hwnd, quor_text 
 /* Asks for a file and writes a settings file. False if the user cancelled. */
 QUOR_API int32_t quor_its90_SaveFileAs(quor_object its90, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
                                        quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. A failure is reported to the user only,
- * by show_message of the platform; unlike Write of ProbeFile, the call raises no error. */
+/* Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used
+ * otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile,
+ * the call raises no error. */
 QUOR_API int32_t quor_its90_WriteToFile(quor_object its90, quor_object* INIFile, quor_text fname, quor_text secname);
-/* Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed. */
+/* Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed. */
 QUOR_API int32_t quor_its90_ReadFromFile(quor_object its90, quor_object* INIFile, quor_text fname, quor_text secname,
                                          quor_bool* result);
 
@@ -757,11 +767,12 @@ QUOR_API int32_t quor_its90_low_range_get_ValueFormat(quor_object its90_low_rang
 QUOR_API int32_t quor_its90_low_range_put_ValueFormat(quor_object its90_low_range, quor_text value);
 /* Fills a list with "<none>" and the ranges, each with its number as item data. */
 QUOR_API int32_t quor_its90_low_range_FillRangeCombo(quor_object its90_low_range, quor_object ctrl);
-/* Writes the record into the section; without INIFile into the file fname. A failure is reported to the user only,
- * by show_message of the platform; unlike Write of ProbeFile, the call raises no error. */
+/* Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used
+ * otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile,
+ * the call raises no error. */
 QUOR_API int32_t quor_its90_low_range_WriteToFile(quor_object its90_low_range, quor_object* INIFile, quor_text fname,
                                                   quor_text secname);
-/* Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed. */
+/* Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed. */
 QUOR_API int32_t quor_its90_low_range_ReadFromFile(quor_object its90_low_range, quor_object* INIFile, quor_text fname,
                                                    quor_text secname, quor_bool* result);
 
@@ -806,11 +817,12 @@ QUOR_API int32_t quor_its90_high_range_get_ValueFormat(quor_object its90_high_ra
 QUOR_API int32_t quor_its90_high_range_put_ValueFormat(quor_object its90_high_range, quor_text value);
 /* Fills a list with "<none>" and the ranges, each with its number as item data. */
 QUOR_API int32_t quor_its90_high_range_FillRangeCombo(quor_object its90_high_range, quor_object ctrl);
-/* Writes the record into the section; without INIFile into the file fname. A failure is reported to the user only,
- * by show_message of the platform; unlike Write of ProbeFile, the call raises no error. */
+/* Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used
+ * otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile,
+ * the call raises no error. */
 QUOR_API int32_t quor_its90_high_range_WriteToFile(quor_object its90_high_range, quor_object* INIFile,
                                                    quor_text fname, quor_text secname);
-/* Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed. */
+/* Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed. */
 QUOR_API int32_t quor_its90_high_range_ReadFromFile(quor_object its90_high_range, quor_object* INIFile,
                                                     quor_text fname, quor_text secname, quor_bool* result);
 
@@ -857,11 +869,12 @@ QUOR_API int32_t quor_ipts68_OpenFile(quor_object ipts68, int32_t hwnd, quor_tex
 /* Asks for a file and writes a settings file. False if the user cancelled. */
 QUOR_API int32_t quor_ipts68_SaveFileAs(quor_object ipts68, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
                                         quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. A failure is reported to the user only,
- * by show_message of the platform; unlike Write of ProbeFile, the call raises no error. */
+/* Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used
+ * otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile,
+ * the call raises no error. */
 QUOR_API int32_t quor_ipts68_WriteToFile(quor_object ipts68, quor_object* INIFile, quor_text fname,
                                          quor_text secname);
-/* Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed. */
+/* Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed. */
 QUOR_API int32_t quor_ipts68_ReadFromFile(quor_object ipts68, quor_object* INIFile, quor_text fname,
                                           quor_text secname, quor_bool* result);
 
@@ -904,16 +917,19 @@ QUOR_API int32_t quor_cvd_OpenFile(quor_object cvd, int32_t hwnd, quor_text File
 /* Asks for a file and writes a settings file. False if the user cancelled. */
 QUOR_API int32_t quor_cvd_SaveFileAs(quor_object cvd, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
                                      quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. A failure is reported to the user only,
- * by show_message of the platform; unlike Write of ProbeFile, the call raises no error. */
+/* Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used
+ * otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile,
+ * the call raises no error. */
 QUOR_API int32_t quor_cvd_WriteToFile(quor_object cvd, quor_object* INIFile, quor_text fname, quor_text secname);
-/* Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed. */
+/* Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed. */
 QUOR_API int32_t quor_cvd_ReadFromFile(quor_object cvd, quor_object* INIFile, quor_text fname, quor_text secname,
                                        quor_bool* result);
 
 /* CQuorPT100 */
 
-/* Creates an object of the class CQuorPT100; the caller owns the reference in `result`. */
+/* Creates an object of the class CQuorPT100; the caller owns the reference in `result`. `platform` shows its
+ * dialogs and messages (quor_platform_from_host). 0 is none: messages go to the diagnostic stream, and dialogs
+ * fail. */
 QUOR_API int32_t quor_pt100_create(quor_object platform, quor_object* result);
 /* Whether dialogs may change values; True at first. */
 QUOR_API int32_t quor_pt100_get_AllowEdit(quor_object pt100, quor_bool* result);
@@ -949,10 +965,11 @@ QUOR_API int32_t quor_pt100_OpenFile(quor_object pt100, int32_t hwnd, quor_text 
 /* Asks for a file and writes a settings file. False if the user cancelled. */
 QUOR_API int32_t quor_pt100_SaveFileAs(quor_object pt100, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
                                        quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. A failure is reported to the user only,
- * by show_message of the platform; unlike Write of ProbeFile, the call raises no error. */
+/* Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used
+ * otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile,
+ * the call raises no error. */
 QUOR_API int32_t quor_pt100_WriteToFile(quor_object pt100, quor_object* INIFile, quor_text fname, quor_text secname);
-/* Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed. */
+/* Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed. */
 QUOR_API int32_t quor_pt100_ReadFromFile(quor_object pt100, quor_object* INIFile, quor_text fname, quor_text secname,
                                          quor_bool* result);
 
@@ -989,10 +1006,11 @@ QUOR_API int32_t quor_htprt_OpenFile(quor_object htprt, int32_t hwnd, quor_text 
 /* Asks for a file and writes a settings file. False if the user cancelled. */
 QUOR_API int32_t quor_htprt_SaveFileAs(quor_object htprt, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
                                        quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. A failure is reported to the user only,
- * by show_message of the platform; unlike Write of ProbeFile, the call raises no error. */
+/* Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used
+ * otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile,
+ * the call raises no error. */
 QUOR_API int32_t quor_htprt_WriteToFile(quor_object htprt, quor_object* INIFile, quor_text fname, quor_text secname);
-/* Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed. */
+/* Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed. */
 QUOR_API int32_t quor_htprt_ReadFromFile(quor_object htprt, quor_object* INIFile, quor_text fname, quor_text secname,
                                          quor_bool* result);
 
@@ -1027,10 +1045,11 @@ QUOR_API int32_t quor_wt90_OpenFile(quor_object wt90, int32_t hwnd, quor_text Fi
 /* Asks for a file and writes a settings file. False if the user cancelled. */
 QUOR_API int32_t quor_wt90_SaveFileAs(quor_object wt90, int32_t hwnd, quor_text Filename, quor_text* Filename_out,
                                       quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. A failure is reported to the user only,
- * by show_message of the platform; unlike Write of ProbeFile, the call raises no error. */
+/* Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used
+ * otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile,
+ * the call raises no error. */
 QUOR_API int32_t quor_wt90_WriteToFile(quor_object wt90, quor_object* INIFile, quor_text fname, quor_text secname);
-/* Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed. */
+/* Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed. */
 QUOR_API int32_t quor_wt90_ReadFromFile(quor_object wt90, quor_object* INIFile, quor_text fname, quor_text secname,
                                         quor_bool* result);
 
@@ -1074,11 +1093,12 @@ QUOR_API int32_t quor_thermistor_OpenFile(quor_object thermistor, int32_t hwnd, 
 /* Asks for a file and writes a settings file. False if the user cancelled. */
 QUOR_API int32_t quor_thermistor_SaveFileAs(quor_object thermistor, int32_t hwnd, quor_text Filename,
                                             quor_text* Filename_out, quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. A failure is reported to the user only,
- * by show_message of the platform; unlike Write of ProbeFile, the call raises no error. */
+/* Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used
+ * otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile,
+ * the call raises no error. */
 QUOR_API int32_t quor_thermistor_WriteToFile(quor_object thermistor, quor_object* INIFile, quor_text fname,
                                              quor_text secname);
-/* Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed. */
+/* Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed. */
 QUOR_API int32_t quor_thermistor_ReadFromFile(quor_object thermistor, quor_object* INIFile, quor_text fname,
                                               quor_text secname, quor_bool* result);
 
@@ -1102,9 +1122,9 @@ QUOR_API int32_t quor_polynomial_get_NumCoefficients(quor_object polynomial, int
 /* The order of the polynomial, 4 at first. A value outside MinOrder to MaxOrder is ignored. */
 QUOR_API int32_t quor_polynomial_get_Order(quor_object polynomial, int16_t* result);
 QUOR_API int32_t quor_polynomial_put_Order(quor_object polynomial, int16_t value);
-/* 4. */
+/* The smallest order: 4. */
 QUOR_API int32_t quor_polynomial_get_MinOrder(quor_object polynomial, int16_t* result);
-/* 10. */
+/* The greatest order: 10. */
 QUOR_API int32_t quor_polynomial_get_MaxOrder(quor_object polynomial, int16_t* result);
 /* A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index. */
 QUOR_API int32_t quor_polynomial_put_Coefficients(quor_object polynomial, quor_EPolynomialCoefficients Index,
@@ -1124,11 +1144,12 @@ QUOR_API int32_t quor_polynomial_OpenFile(quor_object polynomial, int32_t hwnd, 
 /* Asks for a file and writes a settings file. False if the user cancelled. */
 QUOR_API int32_t quor_polynomial_SaveFileAs(quor_object polynomial, int32_t hwnd, quor_text Filename,
                                             quor_text* Filename_out, quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. A failure is reported to the user only,
- * by show_message of the platform; unlike Write of ProbeFile, the call raises no error. */
+/* Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used
+ * otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile,
+ * the call raises no error. */
 QUOR_API int32_t quor_polynomial_WriteToFile(quor_object polynomial, quor_object* INIFile, quor_text fname,
                                              quor_text secname);
-/* Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed. */
+/* Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed. */
 QUOR_API int32_t quor_polynomial_ReadFromFile(quor_object polynomial, quor_object* INIFile, quor_text fname,
                                               quor_text secname, quor_bool* result);
 /* The letter in the labels of the dialog: "A" gives "A0", "A1" and so on. Never a change. */
@@ -1180,11 +1201,12 @@ QUOR_API int32_t quor_tc_polynomial_OpenFile(quor_object tc_polynomial, int32_t 
 /* Asks for a file and writes a settings file. False if the user cancelled. */
 QUOR_API int32_t quor_tc_polynomial_SaveFileAs(quor_object tc_polynomial, int32_t hwnd, quor_text Filename,
                                                quor_text* Filename_out, quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. A failure is reported to the user only,
- * by show_message of the platform; unlike Write of ProbeFile, the call raises no error. */
+/* Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used
+ * otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile,
+ * the call raises no error. */
 QUOR_API int32_t quor_tc_polynomial_WriteToFile(quor_object tc_polynomial, quor_object* INIFile, quor_text fname,
                                                 quor_text secname);
-/* Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed. */
+/* Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed. */
 QUOR_API int32_t quor_tc_polynomial_ReadFromFile(quor_object tc_polynomial, quor_object* INIFile, quor_text fname,
                                                  quor_text secname, quor_bool* result);
 
@@ -1237,11 +1259,12 @@ QUOR_API int32_t quor_tc_table_OpenFile(quor_object tc_table, int32_t hwnd, quor
 /* Asks for a file and writes a settings file. False if the user cancelled. */
 QUOR_API int32_t quor_tc_table_SaveFileAs(quor_object tc_table, int32_t hwnd, quor_text Filename,
                                           quor_text* Filename_out, quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. A failure is reported to the user only,
- * by show_message of the platform; unlike Write of ProbeFile, the call raises no error. */
+/* Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used
+ * otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile,
+ * the call raises no error. */
 QUOR_API int32_t quor_tc_table_WriteToFile(quor_object tc_table, quor_object* INIFile, quor_text fname,
                                            quor_text secname);
-/* Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed. */
+/* Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed. */
 QUOR_API int32_t quor_tc_table_ReadFromFile(quor_object tc_table, quor_object* INIFile, quor_text fname,
                                             quor_text secname, quor_bool* result);
 
@@ -1279,7 +1302,8 @@ QUOR_API int32_t quor_tc_typex_FillTCTypeNameCombo(quor_object tc_typex, quor_ob
 /* 3 at first. A value above 3 is ignored; a negative one is stored and then error 9. */
 QUOR_API int32_t quor_tc_typex_get_NumPoints(quor_object tc_typex, int16_t* result);
 QUOR_API int32_t quor_tc_typex_put_NumPoints(quor_object tc_typex, int16_t value);
-/* The user is told of an index that is none; no error. */
+/* The temperature of a deviation point, in the unit that TempScale names. An invalid index is reported to the user
+ * only; the call raises no error. */
 QUOR_API int32_t quor_tc_typex_get_Temperatures(quor_object tc_typex, quor_ETCTypeXCoefficients Index,
                                                 double* result);
 QUOR_API int32_t quor_tc_typex_put_Temperatures(quor_object tc_typex, quor_ETCTypeXCoefficients Index, double value);
@@ -1287,7 +1311,8 @@ QUOR_API int32_t quor_tc_typex_put_Temperatures(quor_object tc_typex, quor_ETCTy
 QUOR_API int32_t quor_tc_typex_get_Coefficients(quor_object tc_typex, quor_ETCTypeXCoefficients Index,
                                                 double* result);
 QUOR_API int32_t quor_tc_typex_put_Coefficients(quor_object tc_typex, quor_ETCTypeXCoefficients Index, double value);
-/* The user is told of an index that is none; no error. */
+/* The offset of a deviation point, in the unit that OffsetScale names. An invalid index is reported to the user
+ * only; the call raises no error. */
 QUOR_API int32_t quor_tc_typex_get_Offsets(quor_object tc_typex, quor_ETCTypeXCoefficients Index, double* result);
 QUOR_API int32_t quor_tc_typex_put_Offsets(quor_object tc_typex, quor_ETCTypeXCoefficients Index, double value);
 /* How the dialog shows temperatures. Never a change. */
@@ -1301,7 +1326,7 @@ QUOR_API int32_t quor_tc_typex_get_OffsetFormat(quor_object tc_typex, quor_text*
 QUOR_API int32_t quor_tc_typex_put_OffsetFormat(quor_object tc_typex, quor_text value);
 /* Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user. */
 QUOR_API int32_t quor_tc_typex_Edit(quor_object tc_typex, quor_bool* result);
-/* The plain name of a type. -2: of the current one, behind "TC Type ". */
+/* The name of a type, such as "K". -2: "TC Type " and the name of the current one. */
 QUOR_API int32_t quor_tc_typex_GetName(quor_object tc_typex, int32_t tc, quor_text* result);
 /* Fills a list with the counts that can be chosen, each with its number as item data. */
 QUOR_API int32_t quor_tc_typex_FillPointsCombo(quor_object tc_typex, quor_object ctrl);
@@ -1311,17 +1336,20 @@ QUOR_API int32_t quor_tc_typex_OpenFile(quor_object tc_typex, int32_t hwnd, quor
 /* Asks for a file and writes a settings file. False if the user cancelled. */
 QUOR_API int32_t quor_tc_typex_SaveFileAs(quor_object tc_typex, int32_t hwnd, quor_text Filename,
                                           quor_text* Filename_out, quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. A failure is reported to the user only,
- * by show_message of the platform; unlike Write of ProbeFile, the call raises no error. */
+/* Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used
+ * otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile,
+ * the call raises no error. */
 QUOR_API int32_t quor_tc_typex_WriteToFile(quor_object tc_typex, quor_object* INIFile, quor_text fname,
                                            quor_text secname);
-/* Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed. */
+/* Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed. */
 QUOR_API int32_t quor_tc_typex_ReadFromFile(quor_object tc_typex, quor_object* INIFile, quor_text fname,
                                             quor_text secname, quor_bool* result);
 
 /* CQuorTCTypePoly */
 
-/* Creates an object of the class CQuorTCTypePoly; the caller owns the reference in `result`. */
+/* Creates an object of the class CQuorTCTypePoly; the caller owns the reference in `result`. `platform` shows its
+ * dialogs and messages (quor_platform_from_host). 0 is none: messages go to the diagnostic stream, and dialogs
+ * fail. */
 QUOR_API int32_t quor_tc_typepoly_create(quor_object platform, quor_object* result);
 /* Whether dialogs may change values; True at first. */
 QUOR_API int32_t quor_tc_typepoly_get_AllowEdit(quor_object tc_typepoly, quor_bool* result);
@@ -1356,7 +1384,7 @@ QUOR_API int32_t quor_tc_typepoly_GetTCTypeName(quor_object tc_typepoly, int32_t
 QUOR_API int32_t quor_tc_typepoly_FillTCTypeNameCombo(quor_object tc_typepoly, quor_object ctrl);
 /* Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user. */
 QUOR_API int32_t quor_tc_typepoly_Edit(quor_object tc_typepoly, quor_bool* result);
-/* The plain name of a type. -2: of the current one, behind "TC Type ". */
+/* The name of a type, such as "K". -2: "TC Type " and the name of the current one. */
 QUOR_API int32_t quor_tc_typepoly_GetName(quor_object tc_typepoly, int32_t tc, quor_text* result);
 /* Reads the settings file Filename, or the one that the user chooses. False if the user cancelled. */
 QUOR_API int32_t quor_tc_typepoly_OpenFile(quor_object tc_typepoly, int32_t hwnd, quor_text Filename,
@@ -1364,11 +1392,12 @@ QUOR_API int32_t quor_tc_typepoly_OpenFile(quor_object tc_typepoly, int32_t hwnd
 /* Asks for a file and writes a settings file. False if the user cancelled. */
 QUOR_API int32_t quor_tc_typepoly_SaveFileAs(quor_object tc_typepoly, int32_t hwnd, quor_text Filename,
                                              quor_text* Filename_out, quor_bool* result);
-/* Writes the record into the section; without INIFile into the file fname. A failure is reported to the user only,
- * by show_message of the platform; unlike Write of ProbeFile, the call raises no error. */
+/* Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used
+ * otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile,
+ * the call raises no error. */
 QUOR_API int32_t quor_tc_typepoly_WriteToFile(quor_object tc_typepoly, quor_object* INIFile, quor_text fname,
                                               quor_text secname);
-/* Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed. */
+/* Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed. */
 QUOR_API int32_t quor_tc_typepoly_ReadFromFile(quor_object tc_typepoly, quor_object* INIFile, quor_text fname,
                                                quor_text secname, quor_bool* result);
 
@@ -1428,7 +1457,11 @@ QUOR_API int32_t quor_list_control_get_NewIndex(quor_object list_control, int32_
 /* The number of an item. */
 QUOR_API int32_t quor_list_control_put_ItemData(quor_object list_control, int32_t Index, int32_t value);
 
-/* Dialog. A dialog while it runs, for the host that shows it: its contents, and what the user does. */
+/* Dialog. A running dialog, for the host that shows it: what it contains, and what the user does. The host calls
+ * Activate once its window is shown, and after that one member for each action of the user. Typing into a box is
+ * Focus, KeyPress for each key, and EditText with the new text; EditText alone sets a whole text. The buttons OK,
+ * Cancel and Help are cmdOKCancelHelp(0), (1) and (2); coefficients are txtCoefficients(0), (1) and so on; Controls
+ * and Name give the others. */
 
 /* The name in the code: "frmCVDSettings", "txtCoefficients(2)". */
 QUOR_API int32_t quor_dialog_get_Name(quor_object dialog, quor_text* result);
@@ -1438,7 +1471,7 @@ QUOR_API int32_t quor_dialog_get_Title(quor_object dialog, quor_text* result);
 QUOR_API int32_t quor_dialog_get_HelpContext(quor_object dialog, int32_t* result);
 /* How many controls there are. */
 QUOR_API int32_t quor_dialog_get_ControlCount(quor_object dialog, int32_t* result);
-/* A control, in tab order, from 0. */
+/* A control, in tab order, from 0. The frames and labels are among them. */
 QUOR_API int32_t quor_dialog_get_Controls(quor_object dialog, int32_t Index, quor_object* result);
 /* The control with that name; none if there is none. */
 QUOR_API int32_t quor_dialog_FindControl(quor_object dialog, quor_text Name, quor_object* result);
@@ -1499,7 +1532,7 @@ QUOR_API int32_t quor_dialog_get_AdvisedBox(quor_object dialog, quor_object* res
 QUOR_API int32_t quor_control_get_Name(quor_object control, quor_text* result);
 /* The kind of the control. */
 QUOR_API int32_t quor_control_get_Kind(quor_object control, quor_EControlKind* result);
-/* The text on the control; "&" precedes the access key. */
+/* The text on the control. "&" precedes the access key: "&OK". */
 QUOR_API int32_t quor_control_get_Caption(quor_object control, quor_text* result);
 /* Whether the control is enabled. */
 QUOR_API int32_t quor_control_get_Enabled(quor_object control, quor_bool* result);
@@ -1581,7 +1614,8 @@ QUOR_API int32_t quor_probe_file_Read(quor_object probe_file, quor_text Section,
 QUOR_API int32_t quor_probe_file_ReadAll(quor_object probe_file, quor_object* result);
 /* Finds everything that is wrong with the file and its probes. Returns the number of problems. */
 QUOR_API int32_t quor_probe_file_Check(quor_object probe_file, int32_t* result);
-/* How many problems the last Read or Check has found. They are kept until the next call that is not a get. */
+/* How many problems the last Read or Check has found. They are kept until the next call that is not a get. The
+ * index of a problem counts from 0. */
 QUOR_API int32_t quor_probe_file_get_ProblemCount(quor_object probe_file, int32_t* result);
 /* What is wrong. */
 QUOR_API int32_t quor_probe_file_get_ProblemKind(quor_object probe_file, int32_t Index, quor_EProbeProblem* result);
@@ -1593,7 +1627,7 @@ QUOR_API int32_t quor_probe_file_get_ProblemSection(quor_object probe_file, int3
 QUOR_API int32_t quor_probe_file_get_ProblemKey(quor_object probe_file, int32_t Index, quor_text* result);
 /* What is wrong, for people, without the place. */
 QUOR_API int32_t quor_probe_file_get_ProblemText(quor_object probe_file, int32_t Index, quor_text* result);
-/* How many messages of the library the last Read has collected instead of showing them. */
+/* How many messages of the library the last Read has collected instead of showing them. Their index counts from 0. */
 QUOR_API int32_t quor_probe_file_get_MessageCount(quor_object probe_file, int32_t* result);
 /* A message of the last Read, on one line. */
 QUOR_API int32_t quor_probe_file_get_Messages(quor_object probe_file, int32_t Index, quor_text* result);
@@ -1606,7 +1640,8 @@ QUOR_API int32_t quor_probe_file_Write(quor_object probe_file, quor_text Section
  * has neither read nor written. */
 QUOR_API int32_t quor_probe_file_WriteChanges(quor_object probe_file, quor_text Section, quor_object Conversion,
                                               quor_bool* result);
-/* How many values other programs have changed too, as found by the last WriteChanges or Release. */
+/* How many values other programs have changed too, as found by the last WriteChanges or Release. The index of a
+ * conflict counts from 0. */
 QUOR_API int32_t quor_probe_file_get_ConflictCount(quor_object probe_file, int32_t* result);
 /* The section of such a value. */
 QUOR_API int32_t quor_probe_file_get_ConflictSection(quor_object probe_file, int32_t Index, quor_text* result);
@@ -1618,9 +1653,9 @@ QUOR_API int32_t quor_probe_file_get_ConflictRead(quor_object probe_file, int32_
 QUOR_API int32_t quor_probe_file_get_ConflictTheirs(quor_object probe_file, int32_t Index, quor_text* result);
 /* The value that should have been written. */
 QUOR_API int32_t quor_probe_file_get_ConflictOurs(quor_object probe_file, int32_t Index, quor_text* result);
-/* Renames a probe and the sections of its settings. */
+/* Renames a probe and its settings sections. */
 QUOR_API int32_t quor_probe_file_Rename(quor_object probe_file, quor_text Section, quor_text Name);
-/* Removes a probe with the sections of its settings. Comments set apart by a blank line stay. */
+/* Removes a probe and its settings sections. Comments that a blank line separates from it stay. */
 QUOR_API int32_t quor_probe_file_Remove(quor_object probe_file, quor_text Section);
 /* Copies the values of a probe into another section, which is new or has a probe of the same type. */
 QUOR_API int32_t quor_probe_file_Copy(quor_object probe_file, quor_text Section, quor_text ToSection);

@@ -1,11 +1,12 @@
-/* A host in C: reads a probe of a host's file, changes its R0, lets somebody edit it, saves it, and handles an error.
+/* A host in C: reads a probe from a host's file, changes its R0, has it edited in its dialog, saves it, and handles an
+ * error.
  * Usage: host FILE PROBE. The probe is a Callendar-Van Dusen one; it has R0 = 100.0123 ohms afterwards. */
 #include <quor.h>
 
 #include <stdio.h>
 #include <stdlib.h>
 
-/* Every function returns 0 or the number of an error, of which the thread knows more. */
+/* Every function returns 0 or the number of an error, which quor_last_error describes. */
 static void must(int32_t code) {
     quor_error error;
     if (code == 0)
@@ -15,7 +16,7 @@ static void must(int32_t code) {
     exit(1);
 }
 
-/* The user is told. */
+/* Shows a message to the user. */
 static int32_t show_message(void* user, const quor_message* message) {
     (void)user;
     printf("%s: %s\n", message->title.bytes, message->text.bytes);
@@ -29,7 +30,7 @@ static void click(quor_object dialog, const char* name) {
     must(quor_release(button));
 }
 
-/* Goes to a box and types over what is in it. Keys that no number has are swallowed. */
+/* Moves to a box and replaces its text. Keys that are not part of a number are dropped. */
 static void type(quor_object dialog, const char* name, const char* keys) {
     char text[32] = "";
     int32_t length = 0;
@@ -47,7 +48,7 @@ static void type(quor_object dialog, const char* name, const char* keys) {
     must(quor_release(box));
 }
 
-/* A person written down; a host with a screen draws the dialog here and reports what its user does. */
+/* A simulated user. A host with a screen draws the dialog here and reports what its user does. */
 static int32_t run_dialog(void* user, quor_object dialog) {
     quor_text title;
     (void)user;
@@ -63,21 +64,25 @@ static int32_t run_dialog(void* user, quor_object dialog) {
 int main(int argc, char** argv) {
     const quor_platform_functions functions = {
         .size = sizeof functions, .run_dialog = run_dialog, .show_message = show_message};
-    quor_object platform, probe, settings;
+    quor_object platform, file, probe, settings;
+    quor_text section;
     const char* class_name;
-    quor_bool complete, accepted, changed;
+    quor_bool complete, accepted, saved;
     double r0;
 
     if (argc != 3) {
         fprintf(stderr, "usage: host FILE PROBE\n");
         return 2;
     }
+    section = quor_text_of(argv[2]);
     must(quor_platform_from_host(&functions, NULL, &platform));
+    must(quor_probe_file_create(quor_text_of(argv[1]), 0, &file));
     must(quor_conversion_create(platform, &probe));
-    must(quor_conversion_ReadFromFile(probe, NULL, quor_text_of(argv[1]), quor_text_of(argv[2]), &complete));
-    if (!complete)
-        return 1; /* the user was told */
-    must(quor_conversion_put_Changed(probe, 0));
+    must(quor_probe_file_Read(file, section, probe, &complete));
+    if (!complete) {
+        fprintf(stderr, "the probe is incomplete: see quor_probe_file_get_ProblemText\n");
+        return 1;
+    }
 
     must(quor_conversion_get_Settings(probe, &settings));
     must(quor_class_of(settings, &class_name));
@@ -96,14 +101,18 @@ int main(int argc, char** argv) {
         printf("0x%08X %s: %s\n", (unsigned)error.number, error.source.bytes, error.description.bytes);
     }
 
-    must(quor_conversion_get_Changed(probe, &changed));
-    if (changed)
-        must(quor_conversion_WriteToFile(probe, NULL, quor_text_of(argv[1]), quor_text_of(argv[2])));
+    /* Values of the probe that another program has written in the meantime are kept. */
+    must(quor_probe_file_WriteChanges(file, section, probe, &saved));
+    if (!saved) {
+        fprintf(stderr, "another program has changed the same value: see quor_probe_file_get_ConflictTheirs\n");
+        return 1;
+    }
     must(quor_cvd_get_Coefficients(settings, QUOR_CVD_R0, &r0));
     printf("saved, R0 = %.17g ohms\n", r0);
 
     must(quor_release(settings));
     must(quor_release(probe));
+    must(quor_release(file));
     must(quor_release(platform));
     return 0;
 }

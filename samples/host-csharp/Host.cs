@@ -1,4 +1,5 @@
-// A host in C#: reads a probe of a host's file, changes its R0, lets somebody edit it, saves it, and handles an error.
+// A host in C#: reads a probe from a host's file, changes its R0, has it edited in its dialog, saves it,
+// and handles an error.
 // Usage: host.exe FILE PROBE. The probe is a Callendar-Van Dusen one; it has R0 = 100.0123 ohms afterwards.
 //
 // The declarations are those of quor.h that this host needs: a handle is a ulong, an error number an int, a Boolean a
@@ -41,7 +42,7 @@ static class Quor {
     [UnmanagedFunctionPointer(CallingConvention.Cdecl)]
     public delegate int ShowMessage(IntPtr user, ref Message message);
 
-    /// The table of what this host offers. The library goes by its size: what follows need not be here.
+    /// What this host provides. The library reads as many fields as the size says: those at the end may be left out.
     [StructLayout(LayoutKind.Sequential)]
     public struct PlatformFunctions {
         public UIntPtr Size;
@@ -58,7 +59,7 @@ static class Quor {
         }
     }
 
-    /// A text on its way in, freed when it goes.
+    /// A text that is passed to the library, freed by Dispose.
     public sealed class TextIn : IDisposable {
         Text m_text;
         public TextIn(string text) {
@@ -113,7 +114,7 @@ static class Host {
         return control;
     }
 
-    /// Goes to a box and types over what is in it. Keys that no number has are swallowed.
+    /// Moves to a box and replaces its text. Keys that are not part of a number are dropped.
     static void Type(ulong dialog, string name, string keys) {
         var box = Find(dialog, name);
         Quor.Must(Quor.quor_dialog_Focus(dialog, box));
@@ -129,7 +130,7 @@ static class Host {
         Quor.Must(Quor.quor_release(box));
     }
 
-    /// A person written down; a host with a screen draws the dialog here and reports what its user does. No exception
+    /// A simulated user. A host with a screen draws the dialog here and reports what its user does. No exception
     /// may run through the library: it becomes the number of an error.
     static int RunDialog(IntPtr user, ulong dialog) {
         try {
@@ -180,7 +181,7 @@ static class Host {
                 Console.WriteLine("0x" + error.Number.ToString("X8") + " " + error.Source + ": " + error.Message);
             }
 
-            // What another program has written about the probe meanwhile stays.
+            // Values of the probe that another program has written in the meantime are kept.
             Quor.Must(Quor.quor_probe_file_WriteChanges(file, name, probe, out written));
             if (written == 0)
                 return 1;

@@ -1,4 +1,5 @@
-"""A host in Python: reads a probe of a host's file, changes its R0, lets somebody edit it, saves it, and handles an error.
+"""A host in Python: reads a probe from a host's file, changes its R0, has it edited in its dialog, saves it, and handles
+an error.
 Usage: host.py FILE PROBE. The probe is a Callendar-Van Dusen one; it has R0 = 100.0123 ohms afterwards."""
 
 import sys
@@ -7,7 +8,7 @@ from quorconversions import CVD, Platform, ProbeFile, QuorError
 
 
 class Person(Platform):
-    """A person written down; a host with a screen draws the dialog here and reports what its user does."""
+    """A simulated user. A host with a screen draws the dialog here and reports what its user does."""
 
     def run_dialog(self, dialog):
         dialog.Activate()
@@ -16,7 +17,7 @@ class Person(Platform):
         dialog.Click(dialog.FindControl("cmdOKCancelHelp(0)"))
 
     def type(self, dialog, name, keys):
-        """Goes to a box and types over what is in it. Keys that no number has are swallowed."""
+        """Moves to a box and replaces its text. Keys that are not part of a number are dropped."""
         box = dialog.FindControl(name)
         dialog.Focus(box)
         text = ""
@@ -30,13 +31,14 @@ class Person(Platform):
 
 
 def main(path, section):
-    with ProbeFile(path, platform=Person()) as file:  # saves at the end, and not when an exception comes
+    with ProbeFile(path, platform=Person()) as file:  # saves at the end, and never after an exception
         probe = file[section]
         cvd = probe.settings_as(CVD)
         print(f"CQuorCVD, R0 = {cvd.R0:.17g} ohms")
 
         cvd.R0 += 0.001
         if not probe.edit():
+            file.discard()  # the change of R0
             return 1
 
         try:  # there is no fifth coefficient

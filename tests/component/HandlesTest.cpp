@@ -11,7 +11,7 @@
 namespace {
 
 const Error noObject{QUOR_ERROR_NO_OBJECT, "quor",
-                     "The handle is of no object: it was never given out, or was released"};
+                     "Invalid handle: it was never given out, or it was released"};
 
 class Handles : public ComponentTest {};
 
@@ -240,7 +240,7 @@ TEST_F(Handles, OfEachThreadHaveAnErrorOfTheirOwn) {
     std::thread([] {
         EXPECT_EQ(LastError().number, 0);
         EXPECT_EQ(quor_answer(Text("nobody asks")), QUOR_ERROR_ARGUMENT);
-        EXPECT_EQ(LastError(), (Error{5, "quor", "No function of a host runs in this thread"}));
+        EXPECT_EQ(LastError(), (Error{5, "quor", "quor_answer is called outside a function of the host"}));
     }).join();
     EXPECT_EQ(LastError().number, QUOR_ERROR_NO_OBJECT);
 }

@@ -180,7 +180,7 @@ TEST_F(HostDialog, HasTabsAndLists) {
         EXPECT_EQ(data, 6);
         EXPECT_EQ(quor_dialog_Choose(dialog, list, 2), 0);
         EXPECT_EQ(quor_dialog_Choose(dialog, list, 8), QUOR_ERROR_SUBSCRIPT);
-        EXPECT_EQ(LastError(), (Error{9, "quor", "There is no 8 among 8"}));
+        EXPECT_EQ(LastError(), (Error{9, "quor", "There is no item 8: there are 8, from 0"}));
         EXPECT_EQ(quor_dialog_Choose(dialog, list, -1), QUOR_ERROR_SUBSCRIPT);
         std::int32_t selected = -1;
         EXPECT_EQ(quor_control_get_ListIndex(list, &selected), 0);
@@ -241,7 +241,7 @@ TEST_F(HostDialog, AControlOfAnotherDialogIsRefused) {
             EXPECT_EQ(quor_release(outer.outerBox), 0);
         } else {
             EXPECT_EQ(quor_dialog_Focus(dialog, outer.outerBox), QUOR_ERROR_ARGUMENT);
-            EXPECT_EQ(LastError(), (Error{5, "quor", "The control is one of another dialog"}));
+            EXPECT_EQ(LastError(), (Error{5, "quor", "The control belongs to another dialog"}));
         }
         return 0;
     };

@@ -95,7 +95,7 @@ TEST_F(Host, AnErrorOfThisInterfaceInsideItsFunctionKeepsItsWords) {
     Handle registry;
     ASSERT_EQ(quor_registry_from_host(&functions, &host, &registry), 0);
     EXPECT_EQ(quor_registry_WriteValue(registry, Text("s"), Text("n"), Text("v")), QUOR_ERROR_NO_OBJECT);
-    EXPECT_EQ(LastError().description, "The handle is of no object: it was never given out, or was released");
+    EXPECT_EQ(LastError().description, "Invalid handle: it was never given out, or it was released");
 }
 
 TEST_F(Host, TextsWithoutAnAnswerAreEmptyAndNotFoundOnesAreLeft) {
@@ -204,9 +204,9 @@ TEST_F(Host, ATableThatLacksWhatMustStandInItIsRefused) {
     inifile.get_section = nullptr;
     MapIniFile store;
     EXPECT_EQ(quor_inifile_from_host(&inifile, &store, &made), QUOR_ERROR_ARGUMENT);
-    EXPECT_EQ(LastError(), (Error{5, "quor", "A function is NULL that must stand in the table"}));
+    EXPECT_EQ(LastError(), (Error{5, "quor", "A required function of the table is NULL"}));
     EXPECT_EQ(quor_platform_from_host(nullptr, nullptr, &made), QUOR_ERROR_ARGUMENT);
-    EXPECT_EQ(LastError(), (Error{5, "quor", "The table of functions is NULL, or does not say its size"}));
+    EXPECT_EQ(LastError(), (Error{5, "quor", "The table of functions is NULL, or its size is not set"}));
     const quor_platform_functions noSize{};
     EXPECT_EQ(quor_platform_from_host(&noSize, nullptr, &made), QUOR_ERROR_ARGUMENT);
     const quor_registry_functions registry = MapRegistry::Functions();

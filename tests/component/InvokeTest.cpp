@@ -98,10 +98,10 @@ TEST_F(Invoke, LetsOutWhatTheInterfaceLetsOut) {
 
 TEST_F(Invoke, CountsItsArguments) {
     EXPECT_EQ(Call(cvd, "Coefficients", QUOR_GET, {}), QUOR_ERROR_ARGUMENT_COUNT);
-    EXPECT_EQ(LastError(), (Error{450, "quor", "An argument is missing that cannot be left out"}));
+    EXPECT_EQ(LastError(), (Error{450, "quor", "A required argument is missing"}));
     EXPECT_EQ(Call(cvd, "Coefficients", QUOR_GET, {quor_value{}}), QUOR_ERROR_ARGUMENT_COUNT);
     EXPECT_EQ(Call(cvd, "Coefficients", QUOR_GET, {Int32(0), Int32(0)}), QUOR_ERROR_ARGUMENT_COUNT);
-    EXPECT_EQ(LastError(), (Error{450, "quor", "There are too many arguments"}));
+    EXPECT_EQ(LastError(), (Error{450, "quor", "Too many arguments"}));
     EXPECT_EQ(quor_invoke(cvd, 28, QUOR_GET, nullptr, 1, nullptr), QUOR_ERROR_ARGUMENT);
     EXPECT_EQ(quor_invoke(cvd, 28, QUOR_GET, nullptr, -1, nullptr), QUOR_ERROR_ARGUMENT_COUNT);
 }
@@ -299,7 +299,7 @@ TEST_F(Invoke, MakesWhatHostsMakeAndNothingElse) {
 
     quor_object none = 0;
     EXPECT_EQ(quor_create(Text("CQuorCVD"), nullptr, 0, &none), QUOR_ERROR_CANNOT_CREATE);
-    EXPECT_EQ(LastError(), (Error{429, "quor", "No host makes objects of the class CQuorCVD"}));
+    EXPECT_EQ(LastError(), (Error{429, "quor", "Hosts cannot create objects of the class CQuorCVD"}));
     EXPECT_EQ(quor_create(Text("Nothing"), nullptr, 0, &none), QUOR_ERROR_CANNOT_CREATE);
     EXPECT_EQ(LastError(), (Error{429, "quor", "There is no class Nothing"}));
     EXPECT_EQ(quor_create(Text("Registry"), nullptr, 0, &none), QUOR_ERROR_ARGUMENT_COUNT);

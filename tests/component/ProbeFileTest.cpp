@@ -102,7 +102,7 @@ TEST_F(ProbeFileFromC, HasARowForEachProbe) {
     EXPECT_EQ(place, -1);
 
     EXPECT_EQ(quor_probe_file_get_ProbeSection(file, 2, nullptr), QUOR_ERROR_SUBSCRIPT);
-    EXPECT_EQ(LastError(), (Error{9, "quor", "There is no 2 among 2"}));
+    EXPECT_EQ(LastError(), (Error{9, "quor", "There is no item 2: there are 2, from 0"}));
     EXPECT_EQ(quor_probe_file_get_ProbeSection(file, -1, nullptr), QUOR_ERROR_SUBSCRIPT);
 }
 
@@ -416,7 +416,7 @@ TEST_F(ProbeFileFromC, AFileThatReleaseNeedsAndThatIsGoneIsAnError) {
     ASSERT_EQ(quor_probe_file_CopyFrom(file, source, Text("P"), Text("R")), 0);
     source.Release();
     EXPECT_EQ(quor_probe_file_Release(file), QUOR_ERROR_NO_OBJECT);
-    EXPECT_EQ(LastError(), (Error{91, "quor", "A file that Release needs was released before"}));
+    EXPECT_EQ(LastError(), (Error{91, "quor", "A file that Release has to read was released before"}));
     EXPECT_EQ(File(), hostFile);
 }
 

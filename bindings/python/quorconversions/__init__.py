@@ -1,12 +1,12 @@
-"""Probe conversions of precision thermometers: held, edited, kept in INI files.
+"""Conversions of precision thermometer probes, kept in INI files: read, edited and saved.
 
     from quorconversions import ProbeFile
 
     with ProbeFile("laboratory.ini") as file:
         file["Probe 9 PRT-1182"].settings.R0 = 100.0123  # ohms
 
-It stands on the library libquor, through ctypes. An object is used in one thread at a time, and objects that hold each
-other count as one; objects that do not know each other are free in any two threads."""
+It calls the library libquor through ctypes. Use an object in one thread at a time; objects that refer to each other (a
+conversion, its settings, a platform) count as one. Unrelated objects may be used in different threads."""
 
 from ._host import FileRequest, INIFile, ListControl, Message, Platform, Registry
 from ._low import (Control, ControlKind, ConversionType, CVDCoefficients, Dialog, FileDialogKind, HTPRTCoefficients,

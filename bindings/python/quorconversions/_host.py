@@ -1,4 +1,4 @@
-"""What a host offers to the library, as Python classes: derive from them.
+"""What a host provides to the library, as Python classes: derive from them.
 
 An exception that such a method raises ends the call of the library in which it was called, and comes back from that
 call as itself: the same object. What the library tells its user of it, it has told before.
@@ -121,13 +121,13 @@ def _read_string(file: INIFile, key: View, found: Any) -> None:
 
 
 class INIFile(_Offered):
-    """A host's own INI file. It keeps values under keys of the section that is selected; a read gives None where there
-    is no such key, or no value of that kind. A key that was written is found again in any case of ASCII letters."""
+    """A host's own INI file. It stores values under the keys of the selected section. A read returns None if there is no
+    such key, or if its value has another type. Keys are compared without regard to the case of ASCII letters."""
 
     file_name: str = ""
     """The file that the object is bound to."""
     section: str = ""
-    """The section that reads and writes address."""
+    """The section that reads and writes use."""
 
     def read_boolean(self, key: str) -> Optional[bool]:
         raise NotImplementedError
@@ -155,13 +155,13 @@ class INIFile(_Offered):
         raise NotImplementedError
 
     def hold(self) -> None:
-        """Opens a bracket of writes, which become durable with the outermost release."""
+        """Opens a bracket: what is written in it becomes durable with the outermost release."""
 
     def release(self) -> None:
-        """Closes it."""
+        """Closes a bracket that hold has opened."""
 
     def abandon(self) -> None:
-        """Closes it in place of release: nothing of it is to be kept."""
+        """Closes a bracket instead of release: nothing written since the outermost hold is saved."""
 
     _functions = {
         "put_file_name": _function(_put_file_name, View),
@@ -198,10 +198,10 @@ def _read_value(registry: Registry, section: View, name: View, found: Any) -> No
 
 
 class Registry(_Offered):
-    """A host's own registry: where the dialogs keep their places, among others."""
+    """A host's own registry, in which the dialogs store, for example, their positions."""
 
     def read_value(self, section: str, name: str) -> Optional[str]:
-        """The value, or None when there is none."""
+        """The value, or None if there is none."""
         raise NotImplementedError
 
     def write_value(self, section: str, name: str, value: str) -> None:
@@ -224,7 +224,7 @@ def _get_new_index(items: ListControl, index: Any) -> None:
 
 
 class ListControl(_Offered):
-    """A list that FillRangeCombo and its like fill: as it is, a list of texts with a number each."""
+    """A list that FillRangeCombo and similar calls fill: pairs of a text and a number."""
 
     def __init__(self) -> None:
         self.items: List[Tuple[str, int]] = []
@@ -257,7 +257,7 @@ class ListControl(_Offered):
 
 @dataclass(frozen=True)
 class Message:
-    """What a user is to be told, with a button OK, and one for help where there is a help file."""
+    """A message with the button OK and, if there is a help file, the button Help."""
 
     text: str
     title: str
@@ -268,7 +268,7 @@ class Message:
 
 @dataclass(frozen=True)
 class FileRequest:
-    """What a file dialog begins with."""
+    """A file dialog to be shown."""
 
     title: str
     filter: str  #: "PT100 Files (*.pt1)|*.pt1"
@@ -321,18 +321,18 @@ def _set_mouse_pointer(platform: Platform, shape: int) -> None:
 
 
 class Platform(_Offered):
-    """What a host environment offers. What a class does not override does what a host without a screen does: messages
-    go to the diagnostic stream, file dialogs are cancelled, dialogs fail, there is no help."""
+    """The platform of a host. A method that a class does not override behaves as without a screen: messages go to the
+    diagnostic stream, file dialogs are cancelled, dialogs fail, there is no help."""
 
     mouse_pointer: int = 0
-    """The shape of the mouse pointer: MousePointer, or one of the host's own. A class may make a property of it."""
+    """The shape of the mouse pointer: MousePointer, or a shape of the host's own. It may be a property."""
 
     def create_ini_file(self) -> Union[_StoreOfLibrary, INIFile, None]:
-        """A new INI file, for a call that was given the name of one."""
+        """Returns a new INI-file object, for a call that was passed the path of a file."""
         return _StoreOfLibrary()
 
     def run_dialog(self, dialog: Dialog) -> None:
-        """Shows the dialog, tells it what the user does, and returns when it is no longer open."""
+        """Shows the dialog, reports to it what the user does, and returns when it is no longer open."""
         raise NotImplementedError
 
     def show_message(self, message: Message) -> None:
@@ -340,28 +340,28 @@ class Platform(_Offered):
         raise NotImplementedError
 
     def ask_for_file(self, request: FileRequest) -> Optional[PathText]:
-        """The file that the user has chosen, or None when the user cancelled."""
+        """Returns the path that the user has chosen, or None if the user cancelled."""
         return None
 
     def call_help(self, help_file: str, command: int, data: int) -> bool:
-        """Command 1 shows the topic of the context number `data`. False on failure."""
+        """Command 1 shows the topic with the context number `data`. Returns False on failure."""
         return False
 
     def decimal_separator(self) -> str:
-        """That of the user. It is asked for once in a process."""
+        """The user's decimal separator. Called once per process."""
         return "."
 
     def control_changed(self, dialog: Dialog, control: Control) -> None:
-        """A control of a dialog that runs may show something else now."""
+        """Called while a dialog runs: a control may have changed."""
 
     def focus_moved(self, dialog: Dialog, control: Optional[Control]) -> None:
-        """Another control has the focus, or none."""
+        """Called while a dialog runs: another control has the focus, or none has."""
 
     def title_changed(self, dialog: Dialog) -> None:
-        """The dialog has another title."""
+        """Called while a dialog runs: its title has changed."""
 
     def dialog_hidden(self, dialog: Dialog) -> None:
-        """The dialog was left."""
+        """Called when the dialog was closed."""
 
     _functions = {
         "create_ini_file": _function(_create_ini_file, POINTER(c_uint64)),

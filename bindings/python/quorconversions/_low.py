@@ -228,38 +228,38 @@ class ControlKind(IntEnum):
 
 class ProbeFileError(IntEnum):
     NO_SUCH_SECTION = 1  # there is no such section
-    NO_RECORD = 2  # the section is there and is not the record of a probe
-    TYPE_UNREADABLE = 3  # the record says no type that could be read; ErrorOther is its text
-    UNKNOWN_TYPE = 4  # its type is the code of no conversion; ErrorOther is the code
-    INCOMPLETE = 5  # it cannot be read wholly; see the rows of problems
-    BAD_NAME = 6  # no section can have the name
+    NO_RECORD = 2  # the section exists, but is not the record of a probe
+    TYPE_UNREADABLE = 3  # the type cannot be read; ErrorOther is its text
+    UNKNOWN_TYPE = 4  # no conversion has the code of its type; ErrorOther is the code
+    INCOMPLETE = 5  # something is missing or cannot be read: see ProblemCount
+    BAD_NAME = 6  # a section cannot have the name
     NAME_IS_TAKEN = 7  # another section has the name, or another probe of one Write
     NAME_OF_SETTINGS = 8  # a probe, ErrorOther, keeps its settings in a section of that name
-    SETTINGS_ARE_TAKEN = 9  # the settings would stand in ErrorOther, a section that is there already
-    SECTION_IS_SHARED = 10  # a section would go or move with the probe that ErrorOther needs, too
-    OF_ANOTHER_TYPE = 11  # a probe of another type, ErrorOther, stands in the section
+    SETTINGS_ARE_TAKEN = 9  # its settings need the section ErrorOther, which exists already
+    SECTION_IS_SHARED = 10  # a section of the probe also belongs to another probe, ErrorOther
+    OF_ANOTHER_TYPE = 11  # the section has a probe of another type, ErrorOther
     DOES_NOT_FIT_FILE = 12  # the section of a stand-alone settings file is not for the type, or not for a renamed probe
-    CANNOT_BE_WRITTEN = 13  # by its conversion, whose error is raised
-    SECTION_OF_HOST = 14  # no probe can be written into a section that is there and is no record
-    INCONSISTENT = 15  # a file would not give back what the conversion holds: a count below zero, settings of another type
+    CANNOT_BE_WRITTEN = 13  # its conversion has raised an error, which is raised here
+    SECTION_OF_HOST = 14  # the section exists and is not the record of a probe: none is written into it
+    INCONSISTENT = 15  # what would be read back differs from what the conversion holds: a count below zero, settings of another type
 
 
 class ProbeProblem(IntEnum):
     PROBLEM_SECTION_MISSING = 1
     PROBLEM_KEY_MISSING = 2
-    PROBLEM_VALUE_UNREADABLE = 3  # it is not of its kind: a number with a comma, a text in place of a code
-    PROBLEM_UNKNOWN_TYPE = 4  # the code of the type is that of no conversion type
-    PROBLEM_RECORD_REFUSED = 5  # the settings object refuses the record; the text is its own
+    PROBLEM_VALUE_UNREADABLE = 3  # not a value of the kind that the key needs: a number with a comma, text instead of a code
+    PROBLEM_UNKNOWN_TYPE = 4  # no conversion type has the code
+    PROBLEM_RECORD_REFUSED = 5  # the settings object refuses the record and gives the reason
     PROBLEM_VALUE_REFUSED = 6  # a value, such as a count below zero, with which no record can be read
-    PROBLEM_VALUE_REPLACED = 7  # the settings object takes another value instead
-    PROBLEM_UNKNOWN_KEY = 8  # a record of this type and size does not hold the key
+    PROBLEM_VALUE_REPLACED = 7  # the settings object uses another value instead
+    PROBLEM_UNKNOWN_KEY = 8  # a record of this type and size has no such key
     PROBLEM_DUPLICATE_KEY = 9  # the first one is read
     PROBLEM_DUPLICATE_SECTION = 10  # the first one is read
-    PROBLEM_UNCLOSED_HEADER = 11  # a header without "]": nobody can read the record below it
+    PROBLEM_UNCLOSED_HEADER = 11  # a section header without "]": the record below it cannot be read
     PROBLEM_MALFORMED_LINE = 12  # no key=value
-    PROBLEM_KEPT_FILE = 13  # beside the file: what another program had put in its place
-    PROBLEM_INTERRUPTED_SAVE = 14  # beside the file: what an interrupted save has left
-    PROBLEM_LINE_ENDS_IN_CR = 15  # a header or key behind a carriage return alone, which nobody reads
+    PROBLEM_KEPT_FILE = 13  # next to the file: what another program had put in its place
+    PROBLEM_INTERRUPTED_SAVE = 14  # next to the file: left over from an interrupted save
+    PROBLEM_LINE_ENDS_IN_CR = 15  # a header or key after a lone carriage return, which is not read
     WARNING_R0_NOT_POSITIVE = 101
     WARNING_RTPW_NOT_POSITIVE = 102
     WARNING_NOT_FINITE = 103  # NaN or infinity
@@ -281,7 +281,7 @@ class ProbeProblem(IntEnum):
     WARNING_THERMISTOR_A3_SIZE = 119
     WARNING_THERMISTOR_B1_SIZE = 120
     WARNING_COUNT_DOES_NOT_FIT = 121  # values beside a count that it leaves out are not 0
-    WARNING_UNKNOWN_CODE = 122  # the code of a thermocouple type stands for none
+    WARNING_UNKNOWN_CODE = 122  # no thermocouple type has the code
 
 
 class CQuorConversion(Object):
@@ -382,15 +382,16 @@ class CQuorConversion(Object):
         return result.value != 0
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
-        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
+        """Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not
+        used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of
+        ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_conversion_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed.
-        Beware: a section that is not there, or says no type, makes the conversion an ITS-90 one, and its
-        coefficients are lost. Read of ProbeFile refuses such a section."""
+        """Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is
+        informed. Beware: a section that does not exist, or has no type, makes the conversion an ITS-90 one, and
+        its coefficients are lost. Read of ProbeFile refuses such a section."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_conversion_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -510,13 +511,15 @@ class CQuorITS90(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
-        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
+        """Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not
+        used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of
+        ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_its90_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
+        """Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is
+        informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_its90_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -659,13 +662,15 @@ class CQuorITS90LowRange(Object):
             check(_library.quor_its90_low_range_FillRangeCombo(self._handle, ctrl_handle))
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
-        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
+        """Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not
+        used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of
+        ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_its90_low_range_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
+        """Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is
+        informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_its90_low_range_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -808,13 +813,15 @@ class CQuorITS90HighRange(Object):
             check(_library.quor_its90_high_range_FillRangeCombo(self._handle, ctrl_handle))
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
-        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
+        """Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not
+        used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of
+        ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_its90_high_range_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
+        """Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is
+        informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_its90_high_range_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -960,13 +967,15 @@ class CQuorIPTS68(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
-        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
+        """Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not
+        used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of
+        ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_ipts68_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
+        """Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is
+        informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_ipts68_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -1100,13 +1109,15 @@ class CQuorCVD(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
-        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
+        """Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not
+        used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of
+        ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_cvd_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
+        """Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is
+        informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_cvd_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -1235,13 +1246,15 @@ class CQuorPT100(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
-        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
+        """Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not
+        used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of
+        ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_pt100_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
+        """Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is
+        informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_pt100_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -1354,13 +1367,15 @@ class CQuorHTPRT(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
-        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
+        """Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not
+        used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of
+        ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_htprt_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
+        """Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is
+        informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_htprt_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -1466,13 +1481,15 @@ class CQuorWT90(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
-        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
+        """Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not
+        used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of
+        ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_wt90_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
+        """Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is
+        informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_wt90_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -1603,13 +1620,15 @@ class CQuorThermistor(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
-        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
+        """Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not
+        used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of
+        ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_thermistor_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
+        """Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is
+        informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_thermistor_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -1686,14 +1705,14 @@ class CQuorPolynomial(Object):
 
     @property
     def MinOrder(self):
-        """4."""
+        """The smallest order: 4."""
         result = c_int16()
         check(_library.quor_polynomial_get_MinOrder(self._handle, byref(result)))
         return result.value
 
     @property
     def MaxOrder(self):
-        """10."""
+        """The greatest order: 10."""
         result = c_int16()
         check(_library.quor_polynomial_get_MaxOrder(self._handle, byref(result)))
         return result.value
@@ -1748,13 +1767,15 @@ class CQuorPolynomial(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
-        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
+        """Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not
+        used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of
+        ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_polynomial_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
+        """Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is
+        informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_polynomial_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -1916,13 +1937,15 @@ class CQuorTCPolynomial(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
-        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
+        """Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not
+        used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of
+        ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_polynomial_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
+        """Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is
+        informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_polynomial_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -2086,13 +2109,15 @@ class CQuorTCTable(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
-        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
+        """Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not
+        used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of
+        ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_table_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
+        """Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is
+        informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_table_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -2216,13 +2241,15 @@ class CQuorTCTypeX(Object):
         check(_library.quor_tc_typex_put_NumPoints(self._handle, int16(value)))
 
     def get_Temperatures(self, Index):
-        """The user is told of an index that is none; no error."""
+        """The temperature of a deviation point, in the unit that TempScale names. An invalid index is reported to
+        the user only; the call raises no error."""
         result = c_double()
         check(_library.quor_tc_typex_get_Temperatures(self._handle, int32(Index), byref(result)))
         return result.value
 
     def put_Temperatures(self, Index, value):
-        """The user is told of an index that is none; no error."""
+        """The temperature of a deviation point, in the unit that TempScale names. An invalid index is reported to
+        the user only; the call raises no error."""
         check(_library.quor_tc_typex_put_Temperatures(self._handle, int32(Index), double(value)))
 
     def get_Coefficients(self, Index):
@@ -2236,13 +2263,15 @@ class CQuorTCTypeX(Object):
         check(_library.quor_tc_typex_put_Coefficients(self._handle, int32(Index), double(value)))
 
     def get_Offsets(self, Index):
-        """The user is told of an index that is none; no error."""
+        """The offset of a deviation point, in the unit that OffsetScale names. An invalid index is reported to the
+        user only; the call raises no error."""
         result = c_double()
         check(_library.quor_tc_typex_get_Offsets(self._handle, int32(Index), byref(result)))
         return result.value
 
     def put_Offsets(self, Index, value):
-        """The user is told of an index that is none; no error."""
+        """The offset of a deviation point, in the unit that OffsetScale names. An invalid index is reported to the
+        user only; the call raises no error."""
         check(_library.quor_tc_typex_put_Offsets(self._handle, int32(Index), double(value)))
 
     @property
@@ -2285,7 +2314,7 @@ class CQuorTCTypeX(Object):
         return result.value != 0
 
     def GetName(self, tc=-2):
-        """The plain name of a type. -2: of the current one, behind "TC Type "."""
+        """The name of a type, such as "K". -2: "TC Type " and the name of the current one."""
         result = Text()
         check(_library.quor_tc_typex_GetName(self._handle, int32(tc), byref(result)))
         return result.take()
@@ -2310,13 +2339,15 @@ class CQuorTCTypeX(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
-        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
+        """Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not
+        used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of
+        ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_typex_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
+        """Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is
+        informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_typex_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -2442,7 +2473,7 @@ class CQuorTCTypePoly(Object):
         return result.value != 0
 
     def GetName(self, tc=-2):
-        """The plain name of a type. -2: of the current one, behind "TC Type "."""
+        """The name of a type, such as "K". -2: "TC Type " and the name of the current one."""
         result = Text()
         check(_library.quor_tc_typepoly_GetName(self._handle, int32(tc), byref(result)))
         return result.take()
@@ -2462,13 +2493,15 @@ class CQuorTCTypePoly(Object):
         return result.value != 0, Filename_out.take()
 
     def WriteToFile(self, INIFile, fname, secname):
-        """Writes the record into the section; without INIFile into the file fname. A failure is reported to the
-        user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error."""
+        """Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not
+        used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of
+        ProbeFile, the call raises no error."""
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_typepoly_WriteToFile(self._handle, byref(INIFile_handle), text(fname), text(secname)))
 
     def ReadFromFile(self, INIFile, fname, secname):
-        """Reads the record; fname as in WriteToFile. True if every key was found; otherwise the user is informed."""
+        """Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is
+        informed."""
         result = c_int16()
         with exchanged(INIFile) as INIFile_handle:
             check(_library.quor_tc_typepoly_ReadFromFile(self._handle, byref(INIFile_handle), text(fname), text(secname), byref(result)))
@@ -2618,7 +2651,7 @@ class Platform(Object):
 
 
 class Dialog(Object):
-    """A dialog while it runs, for the host that shows it: its contents, and what the user does."""
+    """A running dialog, for the host that shows it: what it contains, and what the user does. The host calls Activate once its window is shown, and after that one member for each action of the user. Typing into a box is Focus, KeyPress for each key, and EditText with the new text; EditText alone sets a whole text. The buttons OK, Cancel and Help are cmdOKCancelHelp(0), (1) and (2); coefficients are txtCoefficients(0), (1) and so on; Controls and Name give the others."""
 
     __slots__ = ()
 
@@ -2651,7 +2684,7 @@ class Dialog(Object):
         return result.value
 
     def get_Controls(self, Index):
-        """A control, in tab order, from 0."""
+        """A control, in tab order, from 0. The frames and labels are among them."""
         result = c_uint64()
         check(_library.quor_dialog_get_Controls(self._handle, int32(Index), byref(result)))
         return taken(result.value)
@@ -2824,7 +2857,7 @@ class Control(Object):
 
     @property
     def Caption(self):
-        """The text on the control; "&" precedes the access key."""
+        """The text on the control. "&" precedes the access key: "&OK"."""
         result = Text()
         check(_library.quor_control_get_Caption(self._handle, byref(result)))
         return result.take()
@@ -3059,7 +3092,8 @@ class ProbeFile(Object):
 
     @property
     def ProblemCount(self):
-        """How many problems the last Read or Check has found. They are kept until the next call that is not a get."""
+        """How many problems the last Read or Check has found. They are kept until the next call that is not a get.
+        The index of a problem counts from 0."""
         result = c_int32()
         check(_library.quor_probe_file_get_ProblemCount(self._handle, byref(result)))
         return result.value
@@ -3096,7 +3130,8 @@ class ProbeFile(Object):
 
     @property
     def MessageCount(self):
-        """How many messages of the library the last Read has collected instead of showing them."""
+        """How many messages of the library the last Read has collected instead of showing them. Their index counts
+        from 0."""
         result = c_int32()
         check(_library.quor_probe_file_get_MessageCount(self._handle, byref(result)))
         return result.value
@@ -3125,7 +3160,8 @@ class ProbeFile(Object):
 
     @property
     def ConflictCount(self):
-        """How many values other programs have changed too, as found by the last WriteChanges or Release."""
+        """How many values other programs have changed too, as found by the last WriteChanges or Release. The index
+        of a conflict counts from 0."""
         result = c_int32()
         check(_library.quor_probe_file_get_ConflictCount(self._handle, byref(result)))
         return result.value
@@ -3161,11 +3197,11 @@ class ProbeFile(Object):
         return result.take()
 
     def Rename(self, Section, Name):
-        """Renames a probe and the sections of its settings."""
+        """Renames a probe and its settings sections."""
         check(_library.quor_probe_file_Rename(self._handle, text(Section), text(Name)))
 
     def Remove(self, Section):
-        """Removes a probe with the sections of its settings. Comments set apart by a blank line stay."""
+        """Removes a probe and its settings sections. Comments that a blank line separates from it stay."""
         check(_library.quor_probe_file_Remove(self._handle, text(Section)))
 
     def Copy(self, Section, ToSection):

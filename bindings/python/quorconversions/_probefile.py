@@ -22,23 +22,23 @@ _LOWER = str.maketrans("ABCDEFGHIJKLMNOPQRSTUVWXYZ", "abcdefghijklmnopqrstuvwxyz
 
 @dataclass(frozen=True)
 class Problem:
-    """What is wrong with a probe, or with the file around it."""
+    """A problem of a probe, or of the file around it."""
 
     kind: Union[ProbeProblem, int]
-    line: int  #: from 1; 0 for what stands beside the file
-    section: str  #: empty where it has no name
-    key: str  #: empty where it is not that of one key
-    text: str  #: what is wrong, for a person, without the place
+    line: int  #: from 1; 0 for a problem of a file next to it
+    section: str  #: empty if it has no name
+    key: str  #: empty if the problem does not concern a single key
+    text: str  #: what is wrong, for people, without the place
 
     @property
     def is_warning(self) -> bool:
-        """The value can be read, and can hardly be meant."""
+        """Whether the value can be read, but is probably not meant."""
         return self.kind >= ProbeProblem.WARNING_R0_NOT_POSITIVE
 
 
 @dataclass(frozen=True)
 class Conflict:
-    """A value that another program has changed as well since it was read. Empty is a value that is not there."""
+    """A value that another program has changed too since it was read. An empty text is a missing value."""
 
     section: str
     key: str
@@ -48,7 +48,8 @@ class Conflict:
 
 
 class ProbeFileError(QuorError):
-    """What cannot be done with a probe of a file, and why: `code`, with `other`, another probe or section, or a type."""
+    """An operation on a probe of a file has failed. `code` is the reason (ProbeFileErrorCode); `other` is what else it
+    concerns: another probe or section, or a type."""
 
     def __init__(self, error: QuorError, code: int, other: str, problems: Tuple[Problem, ...]) -> None:
         super().__init__(error.number, error.source, error.description, error.help_file, error.help_context)
@@ -58,7 +59,7 @@ class ProbeFileError(QuorError):
 
 
 class IncompleteProbeError(ProbeFileError):
-    """A probe of which something is missing or cannot be read. `conversion` has default values in these places."""
+    """Something of a probe is missing or cannot be read: `problems`. `conversion` has default values in these places."""
 
     def __init__(self, error: QuorError, problems: Tuple[Problem, ...], conversion: Conversion) -> None:
         super().__init__(error, ProbeFileErrorCode.INCOMPLETE, "", problems)
@@ -66,7 +67,7 @@ class IncompleteProbeError(ProbeFileError):
 
 
 class ConflictError(QuorError):
-    """Another program has changed the same values meanwhile. Nothing was written."""
+    """Another program has changed the same values (`conflicts`). Nothing was written."""
 
     def __init__(self, error: QuorError, conflicts: Tuple[Conflict, ...]) -> None:
         values = "; ".join(f"[{one.section}] {one.key}: {one.read or '(none)'} was read, theirs is "
@@ -77,10 +78,11 @@ class ConflictError(QuorError):
 
 
 class ProbeTable:
-    """The numbers of all probes of a file, one array behind the other, as they were when it was made.
+    """The numbers of all probes of a file, as they were when the table was made. Iterating over it gives a row for each
+    probe: a dictionary with "section", "type", "problems" and each number under its key.
 
-    `values[ends[i - 1]:ends[i]]` are those of probe i, whose names are `key_lists[key_list_of[i]]`. Booleans are 1.0 and
-    0.0; texts, such as units, are not among them."""
+    The numbers themselves are in one array: those of probe i are `values[ends[i - 1]:ends[i]]`, and their keys are
+    `key_lists[key_list_of[i]]`. Booleans are 1.0 and 0.0; texts, such as units, are not included."""
 
     def __init__(self, table: _low.ProbeTable) -> None:
         self.sections: List[str] = table.Sections.split("\n")[:-1]
@@ -109,43 +111,48 @@ class ProbeTable:
 
 
 def _folded(section: str) -> str:
-    """Names of sections are the same in any case of ASCII letters."""
+    """Section names are compared without regard to the case of ASCII letters."""
     return section.translate(_LOWER)
 
 
 def _section(section: object) -> str:
     if not isinstance(section, str):
-        raise TypeError(f"probes are named by their sections, texts, and not by {section!r}")
+        raise TypeError(f"the name of a section must be a str, not {section!r}")
     return section
 
 
 def _require_name(name: str) -> None:
-    """ValueError for a name that a file cannot give back, or that other programs take for something else."""
-    reason = ("a name needs a character" if not name else
+    """ValueError for a name that could not be read back, or that other programs would misread."""
+    reason = ("it is empty" if not name else
               'a "]" ends the name in the file' if "]" in name else
               "it has a line break" if "\n" in name or "\r" in name else
-              "what begins so is a comment to other programs" if name[0] in "#;" else
-              "blanks around it are lost in the file" if name != name.strip() else None)
+              "other programs would take it for a comment" if name[0] in "#;" else
+              "blanks around it would be lost" if name != name.strip() else None)
     if reason is not None:
-        raise ValueError(f"no section can have the name {name!r}: {reason}")
+        raise ValueError(f"a section cannot have the name {name!r}: {reason}")
 
 
 class ProbeFile(MutableMapping[str, Conversion]):
-    """The probes of a host's file, or the one of a stand-alone settings file ("prt-1188.cvd"): sections to conversions.
+    """The probes of a host's file, or the one of a stand-alone settings file ("prt-1188.cvd"): a mapping of sections to
+    conversions.
 
         with ProbeFile("laboratory.ini") as file:
             file["Probe 9 PRT-1182"].settings.R0 = 100.0123
 
-    What was changed, added and removed is saved together at the end of the block, or by `save`: all of it or nothing,
-    and nothing when an exception leaves the block. Of a probe that was read the values that differ are written, so that
-    what another program has written meanwhile stays; where both have changed a value, ConflictError is raised. No other
-    line of the file changes.
+    All changes, additions and removals are saved together at the end of the block, or by `save`: all of them or none,
+    and none if an exception leaves the block. Of a probe that was read, only the values that differ are written, so that
+    values which another program has written in the meantime are kept; if both have changed the same value, ConflictError
+    is raised. No other line of the file changes.
 
-    A probe is read when it is first looked at. One that is not whole raises IncompleteProbeError, which has its values;
-    `read` gives them without. `platform` is that of the conversions."""
+    A probe is read when it is first accessed. An incomplete one raises IncompleteProbeError, which has its values; `read`
+    returns them without raising. `platform` is passed to the conversions.
+
+    After a save the probes that were accessed are read again, which gives their conversions the values that other
+    programs have written. If one has become incomplete, IncompleteProbeError is raised, once all others have been read:
+    the changes are saved, and its conversion keeps its values but no longer belongs to the file."""
 
     def __init__(self, path: PathText, create: bool = False, platform: Optional[Platform] = None) -> None:
-        """Loads the file. Without `create` it must be there; with it the first save makes it."""
+        """Loads the file. With `create` it need not exist: the first save creates it."""
         self._path = os.path.abspath(os.fspath(path))
         self._create = create
         self._platform = platform
@@ -159,7 +166,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
 
     @property
     def store(self) -> _low.INIFile:
-        """The file itself, for its other sections. What is written through it is saved at once."""
+        """The store of the file, for its other sections. What is written through it is saved at once."""
         store = self._file.Store
         assert isinstance(store, _low.INIFile)
         return store
@@ -189,16 +196,21 @@ class ProbeFile(MutableMapping[str, Conversion]):
             return pending[1]
         if self._file.FindProbe(section) < 0:
             raise KeyError(section)
+        conversion = self._read_whole(section)
+        self._remember(section, conversion)
+        return conversion
+
+    def _read_whole(self, section: str) -> Conversion:
+        """The probe, newly read; IncompleteProbeError if something is missing."""
         conversion, problems = self.read(section)
         if self._file.ProblemCount or self._file.MessageCount:
             words = "; ".join(f"[{p.section}] {p.key}: {p.text}" for p in problems) or self._file.get_Messages(0)
             raise IncompleteProbeError(QuorError(75, "QuorProbeFile", f"{self._path}: {words}"), problems, conversion)
-        self._remember(section, conversion)
         return conversion
 
     def read(self, section: str) -> Tuple[Conversion, Tuple[Problem, ...]]:
-        """The probe as it stands in the file, with default values where something is missing, and what is wrong with
-        it. It is one of the caller's own: nothing is saved of it unless it is put into this mapping."""
+        """The probe as the file has it, with default values where something is missing, and its problems. The conversion
+        does not belong to this mapping: changes to it are not saved unless it is assigned to a section."""
         _section(section)
         conversion = Conversion(platform=self._platform)
         self._call(lambda: self._file.Read(section, conversion))
@@ -206,29 +218,29 @@ class ProbeFile(MutableMapping[str, Conversion]):
 
     def __setitem__(self, section: str, conversion: Conversion) -> None:
         if not isinstance(conversion, Conversion):
-            raise TypeError(f"a Conversion is needed, not {conversion!r}")
+            raise TypeError(f"expected a Conversion, not {conversion!r}")
         if _section(section) not in self:
             _require_name(section)
         other_file = getattr(conversion, "_file", lambda: None)()
         if other_file is not None and other_file is not self:
             for other, known_conversion, _ in other_file._probes.values():
                 if known_conversion is conversion:
-                    raise ValueError(f"this conversion is that of [{other}] in {other_file.path} already; "
+                    raise ValueError(f"this conversion already belongs to [{other}] in {other_file.path}; "
                                      "read gives another one")
         folded = _folded(section)
         for name, (other, known_conversion, _) in self._probes.items():
             if known_conversion is conversion and name != folded:
-                raise ValueError(f"this conversion is that of [{other}] already; duplicate makes another one")
+                raise ValueError(f"this conversion already belongs to [{other}]; duplicate makes another one")
         there = self._probes.get(folded)
         if there is None or there[1] is not conversion:
             self._probes[folded] = section, conversion, False
             conversion._file = weakref.ref(self)
 
     def duplicate(self, section: str, name: str) -> None:
-        """Writes the probe again under another name, as it stands in the file, at once. What is not saved yet must be
-        saved or discarded before: ValueError."""
+        """Copies the probe, as the file has it, to another section, and saves at once. ValueError if there are unsaved
+        changes."""
         if any(True for _ in self._steps()):
-            raise ValueError("there are changes that are not saved")
+            raise ValueError("there are unsaved changes")
         if _section(name) not in self:
             _require_name(name)
         self._call(lambda: self._file.Copy(_section(section), name))
@@ -265,18 +277,18 @@ class ProbeFile(MutableMapping[str, Conversion]):
         return self._file.FindProbe(section) >= 0 if pending is None else pending[1] is not None
 
     def table(self) -> ProbeTable:
-        """The numbers of all probes as they stand in the file, at once: for a hundred thousand of them."""
+        """The numbers of all probes as the file has them, in one call: fast for a hundred thousand probes."""
         return ProbeTable(self._call(self._file.ReadAll))  # type: ignore[arg-type]
 
     def check(self) -> List[Problem]:
-        """All that is wrong with the file and its probes, and warnings of values that can hardly be meant."""
+        """All problems of the file and its probes, and warnings of values that are probably not meant."""
         self._call(self._file.Check)
         return list(_problems(self._file))
 
     # Saving
 
     def save(self) -> None:
-        """Writes what was changed, added and removed, all of it or nothing."""
+        """Saves all changes, additions and removals, or none of them."""
         steps = list(self._steps())
         if not steps:
             return
@@ -293,10 +305,20 @@ class ProbeFile(MutableMapping[str, Conversion]):
         probes = [(section, conversion) for section, conversion, _ in self._probes.values() if conversion is not None]
         self._probes = {}
         self._before = {}
+        incomplete: List[ProbeFileError] = []
         for section, conversion in probes:
-            if self._file.FindProbe(section) >= 0:  # what others have written of it is no change of ours
-                self._call(lambda: self._file.Read(section, conversion))  # noqa: B023, called at once
-                self._remember(section, conversion)
+            if self._file.FindProbe(section) < 0:
+                continue
+            try:
+                # Into another conversion first: this one must not get defaults for values that another program has broken.
+                self._read_whole(section)
+            except ProbeFileError as error:
+                incomplete.append(error)
+                continue
+            self._call(lambda: self._file.Read(section, conversion))  # noqa: B023, called at once
+            self._remember(section, conversion)
+        if incomplete:
+            raise incomplete[0]
 
     def _remember(self, section: str, conversion: Conversion) -> None:
         self._probes[_folded(section)] = section, conversion, True
@@ -313,7 +335,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
                 yield partial(self._file.WriteChanges, section, conversion)
 
     def discard(self) -> None:
-        """Forgets what was not saved, and loads the file as it is now."""
+        """Discards unsaved changes and loads the current file."""
         self._probes = {}
         self._before = {}
         self._file.Reload()
@@ -324,14 +346,13 @@ class ProbeFile(MutableMapping[str, Conversion]):
         return self._file.Changed
 
     def save_as(self, path: PathText) -> None:
-        """Gives another file the text of this one as it was loaded or saved last."""
+        """Replaces another file with the text of this one as it was last loaded or saved."""
         self._file.SaveAs(os.path.abspath(os.fspath(path)))
 
     def rename(self, section: str, name: str) -> None:
-        """Gives a probe another name, and so the sections of its settings, at once. What is not saved yet must be saved
-        or discarded before: ValueError."""
+        """Renames a probe and its settings sections, and saves at once. ValueError if there are unsaved changes."""
         if any(True for _ in self._steps()):
-            raise ValueError("there are changes that are not saved")
+            raise ValueError("there are unsaved changes")
         _require_name(_section(name))
         self._call(lambda: self._file.Rename(_section(section), name))
         self._probes = {}

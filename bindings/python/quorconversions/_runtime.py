@@ -1,4 +1,4 @@
-"""The way to libquor: texts, errors, handles, and what becomes of exceptions that a host's functions raise."""
+"""Calls of libquor: texts, errors, handles, and the exceptions that a host's functions raise."""
 
 from __future__ import annotations
 
@@ -19,14 +19,14 @@ UNEXPECTED = -2147467259  # 0x80004005
 
 
 def flag(value: object) -> int:
-    """True is -1. A text is no flag: "False" would be one that is set."""
+    """True is -1. A text is refused: "False" would be True."""
     if isinstance(value, (str, bytes)):
-        raise TypeError(f"True or False is needed, not {value!r}")
+        raise TypeError(f"expected True or False, not {value!r}")
     return -1 if value else 0
 
 
 def _load() -> ctypes.CDLL:
-    """The library of the variable QUORCONVERSIONS_LIBRARY, or that beside the package, or that of the system."""
+    """The library that the variable QUORCONVERSIONS_LIBRARY names, or the one beside the package, or that of the system."""
     given = os.environ.get("QUORCONVERSIONS_LIBRARY")
     if given:
         return ctypes.CDLL(given)
@@ -79,7 +79,7 @@ class TextIn(ctypes.Structure):
 
 def text(value: str) -> TextIn:
     if not isinstance(value, str):
-        raise TypeError(f"a text is needed, not {value!r}")
+        raise TypeError(f"expected a str, not {value!r}")
     encoded = value.encode()
     return TextIn(encoded, len(encoded))
 
@@ -87,12 +87,12 @@ def text(value: str) -> TextIn:
 def _checked(value: Any, bits: int) -> int:
     number = operator.index(value)
     if not -(1 << bits - 1) <= number < 1 << bits - 1:
-        raise OverflowError(f"{number} has more than {bits} bits")
+        raise OverflowError(f"{number} does not fit into {bits} bits")
     return number
 
 
 def int16(value: Any) -> int:
-    """A number of 16 bits: one that has more is refused, not cut."""
+    """A number of 16 bits. OverflowError for a larger one, which is never cut."""
     return _checked(value, 16)
 
 
@@ -102,7 +102,7 @@ def int32(value: Any) -> int:
 
 def double(value: Any) -> float:
     if isinstance(value, (str, bytes, bytearray)):
-        raise TypeError(f"a number is needed, not {value!r}")
+        raise TypeError(f"expected a number, not {value!r}")
     return float(value)
 
 
@@ -134,7 +134,7 @@ _Enumeration = TypeVar("_Enumeration", bound=IntEnum)
 
 
 def known(enumeration: Type[_Enumeration], value: int) -> Union[_Enumeration, int]:
-    """The enumerator, or the number itself when it has none: any value of 32 bits may be held."""
+    """The enumerator, or the number itself if there is none: an enumeration accepts any value of 32 bits."""
     try:
         return enumeration(value)
     except ValueError:
@@ -145,7 +145,8 @@ def known(enumeration: Type[_Enumeration], value: int) -> Union[_Enumeration, in
 
 
 class QuorError(Exception):
-    """What the library refuses: number, source, description, and perhaps a topic of a help file."""
+    """An error of the library: its number, source and description, and a topic of the help file, if there is one. The
+    description names the file, if one is concerned. Decide by the number, never by the text."""
 
     def __init__(self, number: int, source: str, description: str, help_file: str = "", help_context: int = 0) -> None:
         super().__init__(number, source, description, help_file, help_context)
@@ -181,7 +182,7 @@ def last_error() -> QuorError:
 
 
 def check(code: int) -> None:
-    """Raises what a host's function has raised inside the call, as itself, or else the error of the library."""
+    """Raises the exception that a host's function has raised during the call, or else the error of the library."""
     pending = _thread.pending
     if pending is not None:
         _thread.pending = None
@@ -215,13 +216,13 @@ _classes: Dict[str, Type[Any]] = {}
 
 
 class Object:
-    """An object of the library. Two are equal when they are the same one."""
+    """An object of the library. Two are equal if they are the same object."""
 
     __slots__ = ("_handle", "__weakref__")
     _handle: int
 
     def __init__(self) -> None:
-        raise TypeError(f"{type(self).__name__} is made by the library alone")
+        raise TypeError(f"only the library creates objects of the class {type(self).__name__}")
 
     def _own(self, handle: int) -> None:
         self._handle = handle
@@ -280,7 +281,7 @@ def borrowed(handle: int) -> Any:
 
 
 class HostObject:
-    """What a host offers, in Python. The library calls its methods while it holds it."""
+    """An object of the host, in Python. The library calls its methods as long as it has references to it."""
 
     def _offer(self) -> int:
         """A new reference to an object of the library that stands for this one."""
@@ -305,7 +306,7 @@ class lent:
         if isinstance(self._object, Object):
             return self._object._handle
         if not isinstance(self._object, HostObject):
-            raise TypeError(f"an object of quorconversions is needed, not {self._object!r}")
+            raise TypeError(f"expected an object of quorconversions, not {self._object!r}")
         self._made = self._object._offer()
         return self._made
 
@@ -343,7 +344,7 @@ def version() -> str:
 
 
 def handle_count() -> int:
-    """How many handles this process holds."""
+    """How many handles are in use in this process."""
     count = c_int32()
     check(library.quor_handle_count(byref(count)))
     return count.value

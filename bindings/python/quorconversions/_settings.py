@@ -1,5 +1,5 @@
-"""The conversion of a probe and its settings, as Python takes them. Each class has all members of the interface, under
-their own names (`AllowEdit`, `GetName()`), and beside them what reads better here (`name`, `coefficients`, `R0`)."""
+"""The conversion of a probe and its settings. Each class has all members of the component interface under their own names
+(`AllowEdit`, `GetName()`), and more idiomatic ones (`name`, `coefficients`, `R0`)."""
 
 from __future__ import annotations
 
@@ -39,8 +39,8 @@ _nan_is_allowed: ContextVar[bool] = ContextVar("nan_is_allowed", default=False)
 
 @contextmanager
 def allow_nan() -> Iterator[None]:
-    """Inside such a block coefficients, points and resistances take NaN and infinities, which give no temperature.
-    Outside it they are a ValueError."""
+    """In this context, coefficients, points and resistances may be NaN and infinite, which gives no temperature. Elsewhere
+    assigning such a number raises ValueError."""
     token = _nan_is_allowed.set(True)
     try:
         yield
@@ -49,15 +49,15 @@ def allow_nan() -> Iterator[None]:
 
 
 def _number(value: Any) -> Any:
-    """A value that is to be stored; ValueError for NaN and infinities."""
+    """A value to be stored. ValueError for NaN and infinities."""
     if not _nan_is_allowed.get() and not math.isfinite(value):
-        raise ValueError(f"{float(value)} gives no temperature; inside \"with allow_nan():\" it is stored")
+        raise ValueError(f"{float(value)} gives no temperature; to store it, use \"with allow_nan():\"")
     return value
 
 
 class Values(Sequence[float]):
-    """Numbers of a settings object: a sequence whose elements are read from it and put into it, by their index or,
-    where they have names, by these. ValueError for NaN and infinities, unless inside `allow_nan`."""
+    """Numbers of a settings object: a sequence whose elements are read and assigned by index or, if they have names, by
+    name. Assigning NaN or an infinity raises ValueError, except inside `allow_nan`."""
 
     __slots__ = ("_get", "_put", "_count", "_names")
 
@@ -74,13 +74,13 @@ class Values(Sequence[float]):
     def _index(self, index: Union[int, str]) -> int:
         if isinstance(index, str):
             if index not in self._names:
-                raise KeyError(f"there is no {index!r} here" + (", but " + ", ".join(self._names) if self._names else ""))
+                raise KeyError(f"there is no {index!r}" + ("; the names are " + ", ".join(self._names) if self._names else ""))
             place = int(self._names[index])
         else:
             place = operator.index(index)
         place += len(self) if place < 0 else 0
         if not 0 <= place < len(self):
-            raise IndexError(f"there is no {index!r} among {len(self)}")
+            raise IndexError(f"there is no item {index!r}: there are {len(self)}, from 0")
         return place
 
     @overload
@@ -146,7 +146,7 @@ class Coefficient:
 
 
 class _Shown:
-    """What all objects with numbers show of themselves."""
+    """The representation of all objects with numbers."""
 
     __slots__ = ()
 
@@ -165,7 +165,7 @@ def _named(values: Values) -> Iterator[Tuple[str, float]]:
 
 
 class Settings(_Shown):
-    """What the settings of all types have. It stands before a class of the interface."""
+    """What the settings of all types have in common."""
 
     __slots__ = ()
 
@@ -176,7 +176,7 @@ class Settings(_Shown):
 
     @property
     def changed(self) -> bool:
-        """Whether a value has been changed since somebody last cleared the flag. No save clears it."""
+        """Whether a value has changed since the flag was last cleared. Saving does not clear it."""
         return bool(cast(Any, self).Changed)
 
     @changed.setter
@@ -184,15 +184,15 @@ class Settings(_Shown):
         cast(Any, self).Changed = value
 
     def edit(self) -> bool:
-        """Shows the settings dialog, through the platform. False when the user has cancelled it."""
+        """Shows the settings dialog through the platform. False if the user cancelled it."""
         return bool(cast(Any, self).Edit())
 
     def write(self, file: Union[Stores, PathText], section: str) -> None:
-        """Writes the record into a section of an INI file. Failures are told through the platform."""
+        """Writes the record into a section of an INI file. A failure is reported to the user through the platform."""
         _write(cast(Any, self), file, section)
 
     def read(self, file: Union[Stores, PathText], section: str) -> bool:
-        """Reads the record. False when a key was missing, of which the user was told; that one keeps its value."""
+        """Reads the record. False if a key was missing, which was reported to the user; its value is unchanged."""
         return _read(cast(Any, self), file, section)
 
 
@@ -221,13 +221,13 @@ class _Coefficients:
 
     @property
     def coefficients(self) -> Values:
-        """The coefficients, by index or name. numpy.asarray takes them."""
+        """The coefficients, by index or name. numpy.asarray accepts them."""
         own = cast(Any, self)
         return Values(own.get_Coefficients, own.put_Coefficients, lambda: min(int(own.NumCoefficients), self._most),
                       self._present_names())
 
     def _present_names(self) -> Mapping[str, int]:
-        """Of the coefficients, in the form that the record has now."""
+        """The names of the coefficients in the current form of the record."""
         return self._names.__members__
 
     def _shown(self) -> Iterator[Tuple[str, object]]:
@@ -237,7 +237,8 @@ class _Coefficients:
 @_stands_for("CQuorCVD")
 class CVD(_Coefficients, Settings, _low.CQuorCVD):
     """A Callendar-Van Dusen conversion. Its coefficients are R0 with ALPHA, DELTA and BETA, or, when UsePolynomial is True,
-    with A, B and C in the same places. A name of the other form is an AttributeError, and a KeyError of `coefficients`."""
+    with A, B and C in the same places. A name of the other form raises AttributeError, and as a key of `coefficients`
+    KeyError."""
 
     __slots__ = ()
     _names = CVDCoefficients
@@ -255,7 +256,7 @@ class CVD(_Coefficients, Settings, _low.CQuorCVD):
 
 @_stands_for("CQuorPT100")
 class PT100(_Coefficients, Settings, _low.CQuorPT100):
-    """A platinum thermometer of which R0 alone is known."""
+    """A platinum thermometer of which only R0 is known."""
 
     __slots__ = ()
     _names = PT100Coefficients
@@ -264,7 +265,7 @@ class PT100(_Coefficients, Settings, _low.CQuorPT100):
 
 @_stands_for("CQuorIPTS68")
 class IPTS68(_Coefficients, Settings, _low.CQuorIPTS68):
-    """A conversion of the IPTS-68."""
+    """A platinum thermometer calibrated on the IPTS-68."""
 
     __slots__ = ()
     _names = IPTS68Coefficients
@@ -288,8 +289,8 @@ class HTPRT(_Coefficients, Settings, _low.CQuorHTPRT):
 
 @_stands_for("CQuorThermistor")
 class Thermistor(_Coefficients, Settings, _low.CQuorThermistor):
-    """A thermistor's polynomial: T(R) with A0 to A3, or R(T) with B0 to B3, which are the same places (ConvType). A name
-    of the other direction is an AttributeError, and a KeyError of `coefficients`."""
+    """A thermistor's polynomial: T(R) with A0 to A3, or R(T) with B0 to B3 in the same places (ConvType). A name of the
+    other direction raises AttributeError, and as a key of `coefficients` KeyError."""
 
     __slots__ = ()
     _names = ThermistorCoefficients
@@ -303,7 +304,7 @@ class Thermistor(_Coefficients, Settings, _low.CQuorThermistor):
 
 @_stands_for("CQuorPolynomial")
 class Polynomial(_Coefficients, Settings, _low.CQuorPolynomial):
-    """A polynomial of an order of 4 to 10 (Order), whose coefficients are A0 and on."""
+    """A polynomial of order 4 to 10 (Order) with the coefficients A0, A1 and so on."""
 
     __slots__ = ()
     _names = PolynomialCoefficients
@@ -386,8 +387,7 @@ class TCTypeX(Settings, _low.CQuorTCTypeX):
 
 
 class _WithRTPW:
-    """What has a resistance at the triple point of water beside coefficients. It stands before a class of the
-    interface."""
+    """Settings with a resistance at the triple point of water, RTPW."""
 
     __slots__ = ()
 
@@ -413,7 +413,7 @@ class WT90(_WithRTPW, Settings, _low.CQuorWT90):
 
 
 class _Range(_Coefficients, _Shown):
-    """What both sub-ranges of the ITS-90 have."""
+    """What both sub-ranges of the ITS-90 have in common."""
 
     __slots__ = ()
 
@@ -476,7 +476,7 @@ class Conversion(_low.CQuorConversion):
 
     @property
     def type(self) -> Union[ConversionType, int]:
-        """Another type drops the settings with all their values and makes fresh ones."""
+        """The conversion type. Assigning another one replaces the settings, with all their values, by new ones."""
         return self.ConversionType
 
     @type.setter
@@ -485,11 +485,11 @@ class Conversion(_low.CQuorConversion):
 
     @property
     def settings(self) -> Any:
-        """Those of the type, a CVD for CONV_CVD and so on; None when it has none."""
+        """The settings of the type: a CVD for ConversionType.CVD, and so on. None if the type has none."""
         return self.Settings
 
     def settings_as(self, settings_class: Type[_Settings]) -> _Settings:
-        """The settings, which must be of that class: TypeError."""
+        """The settings. TypeError if they are not of that class."""
         settings = self.Settings
         if not isinstance(settings, settings_class):
             raise TypeError(f"the settings are {settings!r}, not {settings_class.__name__}")
@@ -497,12 +497,12 @@ class Conversion(_low.CQuorConversion):
 
     @property
     def name(self) -> str:
-        """The display name of the settings, or of the type where it has none."""
+        """The display name of the settings, or of the type if it has none."""
         return self.ConversionName(self.ConversionType if self.Settings is None else -2)
 
     @property
     def changed(self) -> bool:
-        """Whether a value has been changed since somebody last cleared the flag. No save clears it."""
+        """Whether a value has changed since the flag was last cleared. Saving does not clear it."""
         return self.Changed
 
     @changed.setter
@@ -510,16 +510,16 @@ class Conversion(_low.CQuorConversion):
         self.Changed = value
 
     def edit(self) -> bool:
-        """Shows the dialog of the settings, through the platform. False when the user has cancelled it."""
+        """Shows the settings dialog through the platform. False if the user cancelled it."""
         return self.Edit()
 
     def write(self, file: Union[Stores, PathText], section: str) -> None:
-        """Writes the probe into a section of an INI file. Failures are told through the platform."""
+        """Writes the probe into a section of an INI file. A failure is reported to the user through the platform; a
+        ProbeFile raises it."""
         _write(self, file, section)
 
     def read(self, file: Union[Stores, PathText], section: str) -> bool:
-        """Reads the probe. False when a key was missing, of which the user was told. A file of which nobody must be
-        told is read by a ProbeFile."""
+        """Reads the probe. False if a key was missing, which was reported to the user; a ProbeFile raises it."""
         return _read(self, file, section)
 
     def __repr__(self) -> str:

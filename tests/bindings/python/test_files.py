@@ -159,6 +159,27 @@ def test_a_probe_that_is_not_whole_is_an_error_that_has_its_values(tmp_path):
     assert path.read_text() == text + "RTPW=25.5\n"
 
 
+def test_a_probe_that_another_program_has_broken_is_an_error_of_the_save_and_keeps_its_values(laboratory):
+    other = "Probe 10 PRT-1183"
+    file = ProbeFile(laboratory)
+    broken, whole = file[PROBE].settings, file[other].settings
+    text = laboratory.read_text(encoding="utf-8")
+    line = text.index("Coefficients1=", text.index(f"[{PROBE} - Settings]"))
+    laboratory.write_text(text[:line] + "Coefficients1=n/a" + text[text.index("\n", line):], encoding="utf-8")
+    broken.R0 = 100.5
+    whole.R0 = 100.25
+    with pytest.raises(quor.IncompleteProbeError, match=r"\[Probe 9 PRT-1182 - Settings\] Coefficients1: ") as raised:
+        file.save()
+    assert (broken.R0, broken.A) == (100.5, 0.0039083)
+    assert raised.value.conversion.settings is not broken
+    with pytest.raises(quor.IncompleteProbeError):
+        file[PROBE]
+    assert file[other].settings is whole
+    now = ProbeFile(laboratory)
+    assert now[other].settings.R0 == 100.25
+    assert now.read(PROBE)[0].settings.R0 == 100.5
+
+
 def test_what_cannot_be_done_with_a_probe_has_a_code(tmp_path):
     path = tmp_path / "host.ini"
     path.write_text("[P]\nVersion=1.0\nConversionType=10\n[Host]\nKey=1\n")
@@ -171,7 +192,7 @@ def test_what_cannot_be_done_with_a_probe_has_a_code(tmp_path):
         file.rename("P", "Host")
     assert raised.value.code == quor.ProbeFileErrorCode.NAME_IS_TAKEN
     file["Host"] = Conversion(ConversionType.OHMS)
-    with pytest.raises(ValueError, match="changes that are not saved"):
+    with pytest.raises(ValueError, match="there are unsaved changes"):
         file.rename("P", "Q")
     with pytest.raises(quor.ProbeFileError) as raised:
         file.save()
@@ -232,7 +253,7 @@ def test_a_conversion_stands_for_one_probe_and_duplicate_makes_another(laborator
     before = laboratory.read_bytes()
     with ProbeFile(laboratory) as file:
         probe = file["Probe 9 PRT-1182"]
-        with pytest.raises(ValueError, match=r"that of \[Probe 9 PRT-1182\] already; duplicate makes another one"):
+        with pytest.raises(ValueError, match=r"already belongs to \[Probe 9 PRT-1182\]; duplicate makes another one"):
             file["Probe 99"] = probe
     assert laboratory.read_bytes() == before
     file = ProbeFile(laboratory)
@@ -262,13 +283,13 @@ def test_a_section_that_is_no_text_is_told_as_such(laboratory):
     file = ProbeFile(laboratory)
     for wrong in (lambda: file[3], lambda: file.read(None), lambda: file.__delitem__(3), lambda: file.rename(3, "P"),
                   lambda: file.__setitem__(3, Conversion(ConversionType.OHMS))):
-        with pytest.raises(TypeError, match="probes are named by their sections, texts, and not by (3|None)"):
+        with pytest.raises(TypeError, match="the name of a section must be a str, not (3|None)"):
             wrong()
 
 
-@pytest.mark.parametrize("name, reason", [("", "a name needs a character"), ("N]2", 'a "]" ends the name'),
-                                          ("#c", "a comment to other programs"), (";c", "a comment"),
-                                          ("N\n2", "it has a line break"), (" N", "blanks around it are lost")])
+@pytest.mark.parametrize("name, reason", [("", "it is empty"), ("N]2", 'a "]" ends the name'),
+                                          ("#c", "take it for a comment"), (";c", "a comment"),
+                                          ("N\n2", "it has a line break"), (" N", "blanks around it would be lost")])
 def test_a_name_that_a_file_cannot_give_back_is_refused(laboratory, name, reason):
     before = laboratory.read_bytes()
     file = ProbeFile(laboratory)
@@ -284,7 +305,7 @@ def test_a_conversion_is_not_that_of_two_files(tmp_path):
     one, two = ProbeFile(tmp_path / "one.ini", create=True), ProbeFile(tmp_path / "two.ini", create=True)
     conversion = Conversion(ConversionType.CVD)
     one["P"] = conversion
-    with pytest.raises(ValueError, match=r"that of \[P\] in .*one.ini already"):
+    with pytest.raises(ValueError, match=r"already belongs to \[P\] in .*one.ini; read gives another one"):
         two["P"] = conversion
     one.discard()
     two["P"] = conversion

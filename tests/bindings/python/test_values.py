@@ -55,7 +55,7 @@ def test_nan_and_infinities_are_stored_where_they_are_allowed_alone(number):
     cvd, wt90 = Conversion(ConversionType.CVD).settings, Conversion(ConversionType.WT90).settings
     for store in (lambda: setattr(cvd, "R0", number), lambda: cvd.coefficients.__setitem__(0, number),
                   lambda: cvd.coefficients.__setitem__(slice(0, 2), [1.0, number]), lambda: setattr(wt90, "RTPW", number)):
-        with pytest.raises(ValueError, match="gives no temperature; inside \"with allow_nan"):
+        with pytest.raises(ValueError, match="gives no temperature; to store it, use \"with allow_nan"):
             store()
         assert (cvd.R0, cvd.coefficients[1], wt90.RTPW) == (0.0, 0.0, 0.0)
     with quor.allow_nan():
@@ -65,11 +65,11 @@ def test_nan_and_infinities_are_stored_where_they_are_allowed_alone(number):
 
 def test_a_name_of_the_other_form_is_refused():
     cvd = Conversion(ConversionType.CVD).settings
-    with pytest.raises(AttributeError, match="there is no 'A' here, but R0, ALPHA, DELTA, BETA"):
+    with pytest.raises(AttributeError, match="there is no 'A'; the names are R0, ALPHA, DELTA, BETA"):
         cvd.A = 3.9083e-3
     cvd.UsePolynomial = True
     for name in ("ALPHA", "DELTA", "BETA"):
-        with pytest.raises(AttributeError, match="here, but R0, A, B, C"):
+        with pytest.raises(AttributeError, match="the names are R0, A, B, C"):
             setattr(cvd, name, 1.0)
         assert not hasattr(cvd, name)
         with pytest.raises(KeyError):
@@ -78,7 +78,7 @@ def test_a_name_of_the_other_form_is_refused():
     cvd.R0, cvd.A, cvd.coefficients["B"], cvd.C = 100, 3.9083e-3, -5.775e-7, -4.183e-12
     assert list(cvd.coefficients) == [100.0, 3.9083e-3, -5.775e-7, -4.183e-12]
     thermistor = Conversion(ConversionType.THERMISTORT_R).settings
-    with pytest.raises(AttributeError, match="there is no 'B0' here, but A0, A1, A2, A3"):
+    with pytest.raises(AttributeError, match="there is no 'B0'; the names are A0, A1, A2, A3"):
         thermistor.B0 = 1.0
 
 
@@ -103,7 +103,7 @@ def test_coefficients_are_a_sequence_that_has_names():
 def test_an_index_or_a_name_that_is_none_is_an_error_and_nothing_is_stored():
     cvd = Conversion(ConversionType.CVD).settings
     for index in (4, -5):
-        with pytest.raises(IndexError, match="among 4"):
+        with pytest.raises(IndexError, match="there are 4"):
             cvd.coefficients[index] = 1.0
     with pytest.raises(KeyError, match="RTPW"):
         cvd.coefficients["RTPW"]
