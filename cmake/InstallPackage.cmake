@@ -48,6 +48,9 @@ foreach(package IN ITEMS quor quorconversions)
         COMPONENT Development)
 endforeach()
 
+# Hosts in C# compile it with their own sources.
+install(FILES bindings/csharp/Quor.cs DESTINATION ${CMAKE_INSTALL_DATADIR}/quor-conversions/csharp COMPONENT Development)
+
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Development)
 install(DIRECTORY samples/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples COMPONENT Development
     PATTERN .gitattributes EXCLUDE)
