@@ -72,23 +72,30 @@ constexpr struct {
 
 /// Words that make of a name more than a name, in small letters: scaling units, factors, signs.
 constexpr Text tellingWords[] = {
-    L"v",       L"kv",      L"uv",    L"nv",    L"\u03BCv", L"mk",     L"uk",       L"kk",      L"\u03BCk",
-    L"kohm",    L"kohms",   L"mohm",  L"mohms", L"milli",   L"micro",  L"kilo",     L"mega",    L"percent",
-    L"ppm",     L"ppb",     L"times", L"per",   L"minus",   L"plus",   L"negative", L"inverse", L"reciprocal",
-    L"lg",      L"ld",      L"lb",    L"sin",   L"cos",     L"tan",    L"abs",      L"mille",   L"hundred",
-    L"hundert", L"tausend", L"neg",   L"mal",   L"hoch",    L"betrag", L"kehrwert",
+    L"v",       L"kv",     L"uv",    L"nv",    L"\u03BCv", L"mk",       L"uk",      L"kk",         L"\u03BCk",
+    L"kohm",    L"kohms",  L"mohm",  L"mohms", L"gohm",    L"gohms",    L"mc",      L"mr",         L"kr",
+    L"half",    L"double", L"twice", L"halb",  L"doppelt", L"cubed",    L"tenfold", L"percent",    L"ppm",
+    L"ppb",     L"times",  L"per",   L"minus", L"plus",    L"negative", L"inverse", L"reciprocal", L"lg",
+    L"ld",      L"lb",     L"sin",   L"cos",   L"tan",     L"abs",      L"mille",   L"hundred",    L"hundert",
+    L"tausend", L"neg",    L"mal",   L"hoch",  L"betrag",  L"kehrwert",
 };
 /// What the names of functions begin with, also where the argument follows without a bracket: "lnR"; and
 /// what scaling units begin with: "milliohms".
-constexpr Text tellingBeginnings[] = {L"ln",       L"log",         L"exp",       L"sqrt",        L"arc",
-                                      L"kilo",     L"milli",       L"micro",     L"mega",        L"nano",
-                                      L"thousand", L"tausendstel", L"hundredth", L"hundertstel", L"promille",
-                                      L"prozent",  L"negativ"};
-/// Words in which a letter that may begin a factor stands in front of a number, and begins none.
-constexpr Text wordsBeforeNumbers[] = {
-    L"temperature", L"voltage", L"range", L"value", L"probe", L"type",  L"line",  L"page",  L"table",
-    L"side",        L"stage",   L"index", L"zeile", L"seite", L"reihe", L"sonde", L"stufe", L"grad",
+constexpr Text tellingBeginnings[] = {
+    L"ln",      L"lg",    L"log",      L"exp",         L"sqrt",      L"arc",         L"squar",    L"quadrat",
+    L"wurzel",  L"kilo",  L"milli",    L"micro",       L"mikro",     L"meg",         L"giga",     L"nano",
+    L"pico",    L"piko",  L"thousand", L"tausendstel", L"hundredth", L"hundertstel", L"promille", L"prozent",
+    L"negativ", L"minus", L"inver",    L"reciproc",    L"kehrwert"};
+/// Symbols that are written as words. A factor may be attached to them: "ALPHAe3".
+constexpr Text symbolsOfManyLetters[] = {
+    L"alpha", L"beta",  L"gamma", L"delta", L"epsilon", L"zeta", L"eta",   L"theta", L"kappa", L"lambda",
+    L"rho",   L"sigma", L"tau",   L"phi",   L"omega",   L"coef", L"coeff", L"koeff", L"wert",
 };
+/// Words that end in x, which is no factor there.
+constexpr Text wordsThatEndInX[] = {L"index", L"appendix", L"box", L"flux", L"matrix", L"max", L"suffix"};
+/// Words that are numbered beyond 9: "Coefficient 10".
+constexpr Text numberedWords[] = {L"coefficient", L"koeffizient", L"temperature", L"temperatur",
+                                  L"voltage",     L"spannung",    L"point",       L"punkt"};
 /// What is a prefix of a unit where it stands behind a name by itself: "R0 (k)", "R0 k".
 constexpr Text lonePrefixes[] = {L"k", L"m", L"M", L"G", L"\u03BC", L"u", L"n"};
 
@@ -323,6 +330,8 @@ PastedNumber ReadNumber(Text text, wchar_t separator, bool behindEquals) {
     const Exponent exponent = ReadExponent(reader);
     if (exponent.refusal != PasteRefusal::None || !reader.rest.empty())
         return Refused(exponent.refusal == PasteRefusal::None ? PasteRefusal::NoNumber : exponent.refusal);
+    if (!exponent.text.empty() && mantissa.ends_with(L" 10")) // "3.908 10E-3" may lack the times sign
+        return Refused(PasteRefusal::TwoReadings);
     PastedNumber result = ReadMantissa(mantissa, separator, !exponent.text.empty());
     if (result.number)
         result.number = SignText(sign) + *result.number + exponent.text;
@@ -396,43 +405,64 @@ bool IsLetter(wchar_t c) {
            (c >= L'\u0370' && c <= L'\u03FF' && c != L'\u03A9');
 }
 
+template <std::size_t count>
+bool IsOneOf(Text text, const Text (&words)[count]) {
+    return std::find(std::begin(words), std::end(words), text) != std::end(words);
+}
+
+std::wstring InSmallLetters(Text text) {
+    std::wstring small(text);
+    for (wchar_t& c : small)
+        c = c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c;
+    return small;
+}
+
+/// Whether letters in front of a number may be a symbol and the beginning of a factor: "Ae3", "ALPHAE3",
+/// "RTPWe3", "Ax10". "Code2" and "Slope2" are words.
+bool MayEndInFactor(Text letters) {
+    letters = Trimmed(letters, L"_");
+    const std::wstring small = InSmallLetters(letters);
+    if (small.size() < 2 || Text(L"edx").find(small.back()) == Text::npos)
+        return false;
+    if (small.back() == L'x')
+        return !IsOneOf(small, wordsThatEndInX);
+    const Text stem = Text(small).substr(0, small.size() - 1);
+    constexpr std::size_t longestSymbol = 2;
+    const bool endsInCapital = letters.back() != small.back() && letters[letters.size() - 2] == stem.back();
+    return stem.size() <= longestSymbol || endsInCapital || IsOneOf(stem, symbolsOfManyLetters) ||
+           stem.find_first_of(L"aeiouy\u00E4\u00F6\u00FC") == Text::npos || stem.find(L'_') != Text::npos;
+}
+
 /// A word of a name: a letter, more letters, up to two digits. Three digits may be a power of ten without
-/// its sign: "A106".
-bool IsPlainWord(Text word, bool first) {
+/// its sign: "A106". A number alone may have two digits only after a word that is numbered: "A 10" may be
+/// ten times A.
+bool IsPlainWord(Text word, Text before) {
     Reader reader{word};
-    std::wstring letters;
-    while (!reader.rest.empty() && (IsLetter(reader.rest.front()) || reader.rest.front() == L'_')) {
-        letters += reader.rest.front() >= L'A' && reader.rest.front() <= L'Z'
-                       ? static_cast<wchar_t>(reader.rest.front() - L'A' + L'a')
-                       : reader.rest.front();
+    while (!reader.rest.empty() && (IsLetter(reader.rest.front()) || reader.rest.front() == L'_'))
         reader.rest.remove_prefix(1);
-    }
+    const Text letters = word.substr(0, word.size() - reader.rest.size());
+    const std::wstring small = InSmallLetters(letters);
     const Text number = reader.TakeAllOf(allDigits);
     const bool isNumbered = !reader.TakeAllOf(subscripts).empty() || !number.empty();
     if (!reader.rest.empty())
         return false;
     if (letters.empty()) // "Temperature 2"
-        return !first && number.size() <= 1;
-    const auto isOneOf = [](Text text, const auto& words) {
-        return std::find(std::begin(words), std::end(words), text) != std::end(words);
-    };
-    const bool isFactor =
-        !first && (letters == L"x" || (letters == L"e" && !number.empty()) || isOneOf(word, lonePrefixes));
-    // "Ax10", "Ae3", "Alphae3". Longer words are no symbols: "Resistance1".
-    constexpr std::size_t longestSymbol = 6;
-    const bool mayEndInFactor = letters.size() > 1 && letters.size() <= longestSymbol && isNumbered &&
-                                Text(L"edx").find(letters.back()) != Text::npos &&
-                                !isOneOf(letters, wordsBeforeNumbers);
-    return number.size() <= 2 && !isFactor && !mayEndInFactor && !isOneOf(letters, tellingWords) &&
+        return !before.empty() && number.size() <= (IsOneOf(InSmallLetters(before), numberedWords) ? 2 : 1);
+    const bool isFactor = !before.empty() && (small == L"x" || (small == L"e" && !number.empty()) ||
+                                              IsOneOf(word, lonePrefixes));
+    return number.size() <= 2 && !isFactor && !(isNumbered && MayEndInFactor(letters)) &&
+           !IsOneOf(small, tellingWords) &&
            std::none_of(std::begin(tellingBeginnings), std::end(tellingBeginnings),
-                        [&](Text beginning) { return letters.starts_with(beginning); });
+                        [&](Text beginning) { return small.starts_with(beginning); });
 }
 
 /// Whether words say nothing of a factor, a scaling unit, a sign or a function.
-bool ArePlainWords(Text words, bool beginName) {
-    for (bool first = beginName; !words.empty(); first = false) {
+/// `before` is what stands before them, empty at the beginning of a name.
+bool ArePlainWords(Text words, Text before) {
+    while (!words.empty()) {
         const auto end = std::min(words.find_first_of(L" \u2003"), words.size());
-        if (!IsPlainWord(words.substr(0, end), first))
+        const Text word = words.substr(0, end);
+        if (!IsPlainWord(word, std::exchange(before, word)))
             return false;
         words.remove_prefix(std::min(end + 1, words.size()));
     }
@@ -446,10 +476,11 @@ bool IsPlainInBrackets(Text text) {
         return true;
     const auto number = text.find_last_of(L"0123456789");
     if (number != Text::npos && text.find_first_not_of(L"0123456789.,") > number) {
-        const PastedUnit unit = WholeUnit(Trimmed(text.substr(number + 1), L" "));
+        const Text behind = Trimmed(text.substr(number + 1), L" ");
+        const PastedUnit unit = behind == L"C" ? PastedUnit::Celsius : WholeUnit(behind);
         return unit == PastedUnit::Celsius || unit == PastedUnit::Kelvin;
     }
-    return !text.empty() && (text == L"H2O" || text == L"H\u2082O" || ArePlainWords(text, false));
+    return !text.empty() && (text == L"H2O" || text == L"H\u2082O" || ArePlainWords(text, L"("));
 }
 
 /// What stands in front of a number, as far as it says nothing of a factor, a scaling unit, a sign or a
@@ -478,7 +509,7 @@ std::optional<Name> ReadName(Text name) {
             return std::nullopt;
         name = Trimmed(name.substr(0, open), edges);
     }
-    return ArePlainWords(name, true) ? std::optional(result) : std::nullopt;
+    return ArePlainWords(name, {}) ? std::optional(result) : std::nullopt;
 }
 
 } // namespace

@@ -47,7 +47,11 @@ PastedCells SplitIntoCells(std::wstring_view text) {
     const auto begin = text.find_first_not_of(edges);
     if (begin == std::wstring_view::npos)
         return {};
-    text = text.substr(begin, text.find_last_not_of(edges) - begin + 1);
+    text = text.substr(0, text.find_last_not_of(edges) + 1);
+    // Before a single cell nothing counts. Before several, an empty cell counts: without it all the others
+    // would stand in the wrong places.
+    if (text.find_first_of(L"\t\n\u0085\u2028\u2029\r", begin) == std::wstring_view::npos)
+        text.remove_prefix(begin);
     PastedCells cells;
     while (!text.empty()) {
         std::wstring_view line = TakeUpTo(text, lineEnds);

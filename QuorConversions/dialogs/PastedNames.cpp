@@ -34,7 +34,7 @@ constexpr struct {
 } otherNames[] = {
     {L"r0\u00B0c", L"r0"},  {L"r0.00\u00B0c", L"r0"},   {L"r0,00\u00B0c", L"r0"},   {L"r273.15k", L"r0"},
     {L"r273,15k", L"r0"},   {L"r0.01\u00B0c", L"rtpw"}, {L"r0,01\u00B0c", L"rtpw"}, {L"r273.16k", L"rtpw"},
-    {L"r273,16k", L"rtpw"}, {L"rh2o", L"rtpw"},
+    {L"r273,16k", L"rtpw"}, {L"rh2o", L"rtpw"},         {L"mv25\u00B0c", L"mv25c"},
 };
 
 constexpr std::wstring_view beginnings[] = {L"coefficient", L"koeffizient"};

@@ -37,6 +37,11 @@ std::optional<std::int32_t> ReadCoordinate(QuorRegistryII::Registry& registry, c
     return value;
 }
 
+/// Whether a decimal separator and more digits could follow.
+bool IsWithoutFraction(const std::wstring& number, const std::wstring& separator) {
+    return number.find(separator) == std::wstring::npos && number.find(L'E') == std::wstring::npos;
+}
+
 } // namespace
 
 SettingsDialog::SettingsDialog(SettingsObject& settings, std::shared_ptr<Platform> platform,
@@ -351,10 +356,10 @@ void SettingsDialog::PutPasted(TextBox& box, const PastedNumber& pasted, std::ws
     box.ReplaceSelection(*pasted.number);
     m_separatorMissing = nullptr;
     ForgetNotes(box);
-    if (IsOfAnother(box, pasted))
-        m_pasteNotes[&box] = AdviceOnPastedFrom(text);
-    else if (pasted.isToBeTold)
-        m_pasteNotes[&box] = AdviceOnPasted(*pasted.number);
+    const std::wstring note = JoinAdvice(IsOfAnother(box, pasted) ? AdviceOnPastedFrom(text) : std::wstring{},
+                                         pasted.isToBeTold ? AdviceOnPasted(*pasted.number) : std::wstring{});
+    if (!note.empty())
+        m_pasteNotes[&box] = note;
     AdviseIfItCan(*FieldOf(box));
     if (&box != ActiveControl())
         FormatText(*FieldOf(box)); // it will not be left, as the box that is pasted into
@@ -393,11 +398,15 @@ void SettingsDialog::PasteCells(TextBox& box, const PastedCells& cells) {
     std::vector<std::wstring_view> texts;
     for (const auto& line : cells)
         for (const std::wstring_view cell : line) {
+            const bool followsWhole =
+                !numbers.empty() && IsWithoutFraction(*numbers.back().number, separator);
             texts.push_back(cell);
             numbers.push_back(NumberFromPaste(cell, separator));
             if (!numbers.back().number)
                 return box.SetAdvice(AdviceOnRefusedPaste(cell, numbers.back().refusal));
-            if (numbers.back().number->ends_with(separator)) // its digits may stand on the next line
+            const std::wstring& number = *numbers.back().number;
+            // A number that is broken over two lines: "100." and "012", "100" and ".012".
+            if (number.ends_with(separator) || (followsWhole && number.starts_with(separator)))
                 return box.SetAdvice(AdviceOnRefusedPaste(cell, PasteRefusal::TwoReadings));
         }
     const auto boxes = BoxesFor(cells, box);

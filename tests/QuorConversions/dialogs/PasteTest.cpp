@@ -206,7 +206,8 @@ TEST_F(PasteTest, WhatWasToldOfAPasteIsToldUntilTheNumberIsChanged) {
     settings->SetValueFormat(0, L"0.00");
     Edit([](Person& person) {
         person.Paste(L"R0", L" B = 1.239 ");
-        EXPECT_EQ(person.Advice(L"R0"), L"1.24 would be stored for 1.239. Pasted from B = 1.239");
+        EXPECT_EQ(person.Advice(L"R0"),
+                  L"1.24 would be stored for 1.239. Pasted from B = 1.239. Pasted as 1.239");
         person.Paste(L"R0", L"B = 1.24");
         EXPECT_EQ(person.Advice(L"R0"), L"Pasted from B = 1.24");
         person.Tab();
@@ -379,13 +380,43 @@ TEST_F(PasteTest, ANumberThatADocumentBreaksOverLinesIsNotPastedInParts) {
     for (const auto& [text, part, why] : {std::tuple(L"3.9083E-\n3", L"3.9083E-", L"is not a number"),
                                           std::tuple(L"\u2212\n2.35E-4", L"\u2212", L"is not a number"),
                                           std::tuple(L"100.\n012", L"100.", L"can be read in two ways"),
-                                          std::tuple(L"100\n.012\n5,\n6", L"5,", L"can be read in two ways")})
+                                          std::tuple(L"100\n.012", L".012", L"can be read in two ways"),
+                                          std::tuple(L"100\n,012", L",012", L"can be read in two ways"),
+                                          std::tuple(L"1.5\n5,\n6", L"5,", L"can be read in two ways")})
         Edit([&, text = text, part = part, why = why](Person& person) {
             person.Paste(L"R0", text);
             EXPECT_EQ(Boxes(person), untouched);
             EXPECT_EQ(person.Advice(L"R0"), L"Nothing pasted: " + std::wstring(part) + L" " + why);
             person.Click(L"Cancel");
         });
+}
+
+TEST_F(PasteTest, FractionsWithoutAWholePartMayFollowEachOther) {
+    Edit([](Person& person) {
+        person.Paste(L"R0", L"100.1\n.0039\n1.5E0\n.11");
+        EXPECT_EQ(Boxes(person), (Texts{L"100.1", L".0039", L"1.5E0", L".11"}));
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(PasteTest, AnEmptyCellBeforeTheOthersKeepsThemFromStandingInTheWrongBoxes) {
+    for (const wchar_t* const text : {L"\n5\n6", L"\t5\n1\t6", L"\r\n\t5\t6", L" \n5\n6\n"})
+        Edit([&](Person& person) {
+            person.Paste(L"R0", text);
+            EXPECT_EQ(Boxes(person), untouched);
+            EXPECT_TRUE(person.Advice(L"R0").starts_with(L"Nothing pasted: "))
+                << testing::PrintToString(text);
+            EXPECT_TRUE(person.Advice(L"R0").ends_with(L" is not a number")) << testing::PrintToString(text);
+            person.Click(L"Cancel");
+        });
+}
+
+TEST_F(PasteTest, WhatWasReadIsToldAlsoOfANumberOfSomethingElse) {
+    Edit([](Person& person) {
+        person.Paste(L"R0", L"B = 1.240");
+        EXPECT_EQ(person.Advice(L"R0"), L"Pasted from B = 1.240. Pasted as 1.240");
+        person.Click(L"Cancel");
+    });
 }
 
 TEST_F(PasteTest, NumbersForWhichThereIsNoBoxKeepAllOthersOut) {

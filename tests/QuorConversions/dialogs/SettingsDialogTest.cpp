@@ -1,5 +1,7 @@
 // What all twelve dialogs do alike.
 
+#include "QuorConversions/controls/ControlNames.h"
+#include "QuorConversions/core/NumberFromPaste.h"
 #include "QuorConversions/core/modHelp.h"
 #include "QuorConversions/polynomial/CQuorPolynomial.h"
 #include "QuorConversions/rtd/CQuorCVD.h"
@@ -681,6 +683,46 @@ TEST_P(SettingsDialogTest, EveryBoxTakesTheKeysOfNumbersOnly) {
         }
         person.Click(L"Cancel");
     }));
+}
+
+TEST_P(SettingsDialogTest, TakesEachOfItsLabelsForTheNameOfANumber) {
+    const auto isNumberOfARow = [](const std::wstring& name) {
+        return name.find_first_not_of(L"0123456789") == std::wstring::npos;
+    };
+    std::size_t labels = 0;
+    EditWith([&](Person& person) {
+        for (const auto& control : platform->dialog->Controls()) {
+            if (control->Kind() != ControlKind::Label)
+                continue;
+            const std::wstring name = SpokenCaption(static_cast<const Label&>(*control).Caption());
+            const bool isNote = control->Name() == L"lblRange5Coefs";
+            const bool isUnit = control->Name().find(L"Units") != std::wstring::npos;
+            if (name.empty() || isNote || isUnit || isNumberOfARow(name))
+                continue;
+            ++labels;
+            for (const wchar_t* const sign : {L" = ", L"=", L": ", L":"})
+                EXPECT_EQ(NumberFromPaste(name + sign + L"-1.5E-4", L".").number, L"-1.5E-4")
+                    << testing::PrintToString(name + sign);
+        }
+        person.Click(L"Cancel");
+    });
+    EXPECT_GE(labels, 1U);
+}
+
+TEST_P(SettingsDialogTest, PastesANumberUnderTheNameOfItsBoxWithoutAWord) {
+    EditWith([&](Person& person) {
+        std::size_t boxes = 0;
+        for (const auto& [control, name, units, label] : ControlNames(person.Sees())) {
+            if (control->Kind() != ControlKind::TextBox || !control->IsUsable())
+                continue;
+            ++boxes;
+            person.Paste(name, name + L": 2.5");
+            EXPECT_EQ(person.Reads(name), L"2.5") << testing::PrintToString(name);
+            EXPECT_EQ(person.Advice(name), L"") << testing::PrintToString(name);
+        }
+        EXPECT_GE(boxes, 1U);
+        person.Click(L"Cancel");
+    });
 }
 
 TEST_P(SettingsDialogTest, SelectsTheWholeTextOfEveryBoxThatGetsTheFocus) {
