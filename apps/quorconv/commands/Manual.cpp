@@ -134,12 +134,12 @@ Page OverviewPage() {
     page.Raw("\\fBquorconv\\fR \\fICOMMAND\\fR [\\fIargument\\fR...]");
     page.Heading("DESCRIPTION");
     page.Paragraph(
-        "Keeps the records of probes under control from scripts: the conversions of precision thermometers, "
-        "their equations and calibration coefficients, in the INI files of instrument programs and in "
-        "settings files of single probes.");
+        "Works on the records of precision thermometer probes, their equations and calibration coefficients, "
+        "in the INI files of instrument programs and in settings files of single probes. It is made for "
+        "scripts.");
     page.Paragraph(
-        "A command writes the lines of the values that change, no other byte. It reads and writes in one "
-        "turn: any number of processes may work on one file at once.");
+        "A command changes the lines of the values that change, and no other byte. It reads and writes under "
+        "one lock: any number of processes may work on one file at once.");
     page.Paragraph(standardStreams);
     page.Heading("COMMANDS");
     for (const DeclaredCommand& command : DeclaredCommands())
