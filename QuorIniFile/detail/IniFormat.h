@@ -2,8 +2,10 @@
 
 #include "QuorIniFile/Utf8.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -150,22 +152,24 @@ enum class IniEncoding : std::uint8_t { Utf8, Latin1 };
 /// Whether `name` is ASCII and `wanted` has the same characters, as many.
 [[nodiscard]] inline bool IsSameAscii(std::string_view name, const wchar_t* wanted) {
     constexpr std::size_t step = 8; // characters at once; the last ones again with some before them
-    std::uint32_t bits = 0;         // above those of ASCII, or that differ
-    const auto compare = [&](std::size_t from, std::size_t count) {
-        for (std::size_t at = from; at < from + count; ++at) {
-            const std::uint32_t byte = static_cast<unsigned char>(name[at]);
+    const auto isSame = [&](std::size_t from, std::size_t count) {
+        std::array<char, step> narrow{};
+        std::uint32_t all = 0;
+        for (std::size_t at = 0; at < count; ++at) {
             // NOLINTNEXTLINE(bugprone-signed-char-misuse): a wide character, whatever its sign
-            bits |= (static_cast<std::uint32_t>(wanted[at]) ^ byte) | (byte & 0x80U);
+            const auto unit = static_cast<std::uint32_t>(wanted[from + at]);
+            narrow[at] = static_cast<char>(unit);
+            all |= unit;
         }
+        return all < 0x80 && std::memcmp(narrow.data(), name.data() + from, count) == 0;
     };
-    if (name.size() < step) {
-        compare(0, name.size());
-        return bits == 0;
+    if (name.size() < step)
+        return isSame(0, name.size());
+    for (std::size_t at = 0; at + step < name.size(); at += step) {
+        if (!isSame(at, step))
+            return false;
     }
-    for (std::size_t at = 0; at + step < name.size(); at += step)
-        compare(at, step);
-    compare(name.size() - step, step);
-    return bits == 0;
+    return isSame(name.size() - step, step);
 }
 
 /// The same for a name as a host gives it. One that no bytes of a file can spell is never meant.

@@ -70,12 +70,17 @@ template <class Value>
     };
     if (!bytes)
         return false;
+    // Few values have a comment, so all of the bytes are tried first.
+    const auto parse = [&](const auto& parsed) {
+        const auto whole = parsed(*bytes);
+        return take(whole ? whole : parsed(SplitComment(*bytes).plain));
+    };
     if constexpr (std::is_same_v<Value, bool>)
-        return take(ParseBoolean(SplitComment(*bytes).plain));
+        return parse(ParseBoolean);
     else if constexpr (std::is_same_v<Value, double>)
-        return take(ParseDouble(SplitComment(*bytes).plain));
+        return parse(ParseDouble);
     else if constexpr (std::is_same_v<Value, std::int16_t>)
-        return take(ParseInteger(SplitComment(*bytes).plain));
+        return parse(ParseInteger);
     else
         return take(std::optional(DecodeText(*bytes)));
 }

@@ -196,6 +196,22 @@ TEST(IniFormat, NamesAreTheSameWhateverTheCaseOfTheirAsciiLetters) {
     EXPECT_FALSE(SameName("", L"\u00E4"));
 }
 
+TEST(IniFormat, ANameOfAnyLengthIsNoOtherOneThatDiffersInOneCharacter) {
+    const std::wstring name = L"Coefficients0 of range";
+    for (std::size_t length = 1; length <= name.size(); ++length) {
+        const std::wstring wanted = name.substr(0, length);
+        const std::string bytes(wanted.begin(), wanted.end());
+        EXPECT_TRUE(SameName(bytes, wanted)) << bytes;
+        for (std::size_t at = 0; at < length; ++at) {
+            for (const unsigned other : {0x100U, 0x1U, 0x8000U}) { // the first has the byte of ours in it
+                std::wstring another = wanted;
+                another[at] = static_cast<wchar_t>(static_cast<unsigned>(another[at]) ^ other);
+                EXPECT_FALSE(SameName(bytes, another)) << bytes << " at " << at << " with " << other;
+            }
+        }
+    }
+}
+
 TEST(IniFormat, ANameIsFoundInUtf8AndInLatin1) {
     const std::string wanted = *NameToFind(L"K\u00F6ln");
     EXPECT_TRUE(SameName("K\xC3\xB6ln", wanted));
