@@ -1,4 +1,4 @@
-"""Conversions of precision thermometer probes, kept in INI files: read, edited and saved.
+"""Conversions of precision thermometer probes, kept in INI files: read, edited and saved::
 
     from quorconversions import ProbeFile
 

@@ -134,7 +134,7 @@ def _require_name(name: str) -> None:
 
 class ProbeFile(MutableMapping[str, Conversion]):
     """The probes of a host's file, or the one of a stand-alone settings file ("prt-1188.cvd"): a mapping of sections to
-    conversions.
+    conversions::
 
         with ProbeFile("laboratory.ini") as file:
             file["Probe 9 PRT-1182"].settings.R0 = 100.0123

@@ -308,7 +308,7 @@ class Polynomial(_Coefficients, Settings, _low.CQuorPolynomial):
 
     __slots__ = ()
     _names = PolynomialCoefficients
-    A0, A1, A2, A3, A4, A5, A6, A7, A8, A9, A10 = (Coefficient("Of the power that the name ends with.")
+    A0, A1, A2, A3, A4, A5, A6, A7, A8, A9, A10 = (Coefficient("The coefficient of the power that the name ends with.")
                                                    for _ in range(11))
 
 
@@ -320,7 +320,7 @@ class TCPolynomial(_Coefficients, Settings, _low.CQuorTCPolynomial):
     _names = TCPolynomialCoefficients
     _most = 16
     C0, C1, C2, C3, C4, C5, C6, C7, C8, C9, C10, C11, C12, C13, C14, C15 = (
-        Coefficient("Of the power that the name ends with.") for _ in range(16))
+        Coefficient("The coefficient of the power that the name ends with.") for _ in range(16))
 
 
 @_stands_for("CQuorTCTypePoly")
@@ -330,7 +330,7 @@ class TCTypePoly(_Coefficients, Settings, _low.CQuorTCTypePoly):
     __slots__ = ()
     _names = TCPolynomialCoefficients
     _most = 4
-    C0, C1, C2, C3 = (Coefficient("Of the power that the name ends with.") for _ in range(4))
+    C0, C1, C2, C3 = (Coefficient("The coefficient of the power that the name ends with.") for _ in range(4))
 
     def _shown(self) -> Iterator[Tuple[str, object]]:
         yield "TCType", self.TCType
