@@ -59,6 +59,7 @@ void ShowOrHide(QWidget& widget, const Control& control) {
 class FocusRing final : public QWidget {
 public:
     explicit FocusRing(QWidget* parent) : QWidget(parent) {
+        setObjectName(QStringLiteral("focusRing"));
         setAttribute(Qt::WA_TransparentForMouseEvents);
         hide();
     }
@@ -390,7 +391,7 @@ bool QtDialog::eventFilter(QObject* watched, QEvent* event) {
     if (!control)
         return QDialog::eventFilter(watched, event);
     if ((event->type() == QEvent::Move || event->type() == QEvent::Resize) &&
-        control == m_dialog.ActiveControl() && m_ring->isVisible())
+        control == m_dialog.ActiveControl() && !m_ring->isHidden()) // also before the window is shown
         PutRingOn(static_cast<QWidget*>(watched));
     if (event->type() == QEvent::FocusIn)
         Report([&] { m_input.Focus(*control); });

@@ -524,6 +524,23 @@ TEST_F(QtDialogTest, ShowsWhereTheFocusIsThatTheTabKeyBrings) {
     });
 }
 
+TEST_F(QtDialogTest, PutsTheRingAroundTheControlThatHasTheFocusFromTheStartAndWhenTheWindowGrows) {
+    dialog.name.SetEnabled(false);
+    dialog.r0.SetEnabled(false);
+    Run([&] {
+        ASSERT_EQ(Focused(), L"cboKind");
+        const auto& ring = *window->findChild<QWidget*>(QStringLiteral("focusRing"));
+        const QWidget& list = Shows(dialog.kind);
+        EXPECT_EQ(ring.geometry(), list.geometry());
+        EXPECT_EQ(ring.parentWidget(), list.parentWidget());
+        const QRect before = list.geometry();
+        window->resize(window->size() + QSize(200, 100));
+        LetLayOut();
+        EXPECT_NE(list.geometry(), before);
+        EXPECT_EQ(ring.geometry(), list.geometry());
+    });
+}
+
 // The mouse
 
 TEST_F(QtDialogTest, TurnsNoListAndNoTabWithTheWheelThatHasNoFocus) {
