@@ -81,8 +81,12 @@ int main(int argc, char** argv) {
     ForgetPeak();
     const double before = Memory("VmRSS");
     bool isOpen = true;
+    double list = 0; // until the list is there, and can be used
     const double open = LeastOf(1, [&] {
-        isOpen = window.OpenPath(path);
+        list = LeastOf(1, [&] {
+            isOpen = window.OpenPath(path);
+            window.Table().viewport()->repaint();
+        });
         QCoreApplication::processEvents();
     });
     const double peak = Memory("VmHWM") - before;
@@ -106,6 +110,7 @@ int main(int argc, char** argv) {
                 store);
     bool all = isOpen && rows > 0;
     all = Holds("opening, beside the store's load", open / store, 12) && all;
+    all = Holds("the list is there, beside the store's load", list / store, 4) && all;
     all = Holds("finding a probe and showing all again", use / store, 4) && all;
     all = Holds("sorting by name", sort / store, 4) && all;
     all = Holds("memory at the peak of opening, beside the file", peak / size, 6) && all;

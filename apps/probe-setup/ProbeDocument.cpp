@@ -152,7 +152,6 @@ std::unique_ptr<ProbeDocument::Loaded> ProbeDocument::Read(const std::wstring& p
         throw DocumentError{Failure::NoSettingsFile, path, {std::to_wstring(*line)}};
 
     loaded->probes.reserve(probes.size());
-    NameSet ours;
     std::unordered_map<std::int32_t, std::uint32_t> names; // of types
     for (const ProbeEntry& probe : probes) {
         if (probe.standAlone)
@@ -169,19 +168,10 @@ std::unique_ptr<ProbeDocument::Loaded> ProbeDocument::Read(const std::wstring& p
                 name->second = NumberOf(file.ConversionName(probe), loaded->names);
             entry.content.name = name->second;
         }
-        ours.insert(entry.name);
         loaded->probes.push_back(std::move(entry));
         constexpr std::size_t now = 1024;
         if (progress && loaded->probes.size() % now == 0)
             progress(static_cast<double>(loaded->probes.size()) / static_cast<double>(probes.size()));
-    }
-
-    for (std::wstring& section : file.Store()->Sections()) {
-        const std::vector<std::wstring_view> owners = PossibleOwners(section);
-        if (!ours.contains(section) &&
-            std::none_of(owners.begin(), owners.end(),
-                         [&](std::wstring_view owner) { return ours.contains(owner); }))
-            loaded->foreign.push_back(std::move(section));
     }
     return loaded;
 }
@@ -192,7 +182,6 @@ void ProbeDocument::Take(std::unique_ptr<Loaded> loaded) {
     m_isReadOnly = loaded->isReadOnly;
     m_file = std::move(loaded->file);
     m_probes = std::move(loaded->probes);
-    m_foreign = std::move(loaded->foreign);
     m_names = std::move(loaded->names);
 }
 
@@ -201,7 +190,7 @@ void ProbeDocument::Close() {
     m_isReadOnly = false;
     m_file = nullptr;
     m_probes.clear();
-    m_foreign.clear();
+    m_foreign.reset();
     m_done.clear();
     m_undone.clear();
     m_gone.clear();
@@ -223,6 +212,26 @@ std::optional<std::size_t> ProbeDocument::Find(std::wstring_view name) const {
     return static_cast<std::size_t>(found - m_probes.begin());
 }
 
+/// They are looked for when the first name is checked: opening a file does not wait for them.
+const std::vector<std::wstring>& ProbeDocument::Foreign() const {
+    if (m_foreign || !m_file)
+        return m_foreign ? *m_foreign : m_foreign.emplace();
+    NameSet ours;
+    for (const ProbeEntry& probe : m_file->Probes()) {
+        if (!probe.standAlone)
+            ours.insert(probe.section);
+    }
+    m_foreign.emplace();
+    for (std::wstring& section : m_file->Sections()) {
+        const std::vector<std::wstring_view> owners = PossibleOwners(section);
+        if (!ours.contains(section) &&
+            std::none_of(owners.begin(), owners.end(),
+                         [&](std::wstring_view owner) { return ours.contains(owner); }))
+            m_foreign->push_back(std::move(section));
+    }
+    return *m_foreign;
+}
+
 NameProblem ProbeDocument::CheckName(std::wstring_view name, std::optional<std::size_t> except) const {
     if (name.empty())
         return NameProblem::Empty;
@@ -239,7 +248,7 @@ NameProblem ProbeDocument::CheckName(std::wstring_view name, std::optional<std::
         if (HoldsSettingsOf(other, name))
             return NameProblem::SettingsSectionExists;
     }
-    for (const std::wstring& section : m_foreign) {
+    for (const std::wstring& section : Foreign()) {
         if (EqualFolded(name, section))
             return NameProblem::SectionExists;
         if (HoldsSettingsOf(section, name))
@@ -754,7 +763,7 @@ void ProbeDocument::SaveTo(const std::wstring& path, const OthersChanges& replac
     m_path = path;
     m_isReadOnly = false;
     if (!exists)
-        m_foreign.clear(); // nothing but probes stands in it
+        m_foreign.reset(); // nothing but probes stands in it
     Settle();
     if (othersWrote)
         TakeOthersChanges();

@@ -225,6 +225,8 @@ private:
     /// one.
     [[nodiscard]] std::unique_ptr<QuorProbeFile::ProbeFile>
     FileThatDoesNotExist(const std::wstring& path) const;
+    /// The names of the file's sections that belong to no probe.
+    [[nodiscard]] const std::vector<std::wstring>& Foreign() const;
     /// Writes all probes into an empty file.
     void WriteAll(QuorProbeFile::ProbeFile& file);
     [[nodiscard]] std::vector<const ListedProbe*> RemovedProbes() const;
@@ -247,8 +249,8 @@ private:
     bool m_isReadOnly = false;
     std::unique_ptr<QuorProbeFile::ProbeFile> m_file; // as it was last read or saved; never written to
     std::vector<ListedProbe> m_probes;
-    std::vector<std::wstring> m_foreign; // the names of the file's other sections
-    std::vector<std::wstring> m_names;   // of conversions
+    mutable std::optional<std::vector<std::wstring>> m_foreign; // once they were looked for
+    std::vector<std::wstring> m_names;                          // of conversions
     std::vector<Step> m_done;
     std::vector<Step> m_undone;
     std::vector<ListedProbe> m_gone; // removed, to go from the file, and never to come back
@@ -262,7 +264,6 @@ struct ProbeDocument::Loaded {
     std::unique_ptr<QuorProbeFile::ProbeFile> file;
     bool isReadOnly = false;
     std::vector<ListedProbe> probes;
-    std::vector<std::wstring> foreign;
     std::vector<std::wstring> names;
 };
 

@@ -67,6 +67,10 @@ ValuePane::ValuePane(ProbeDocument& document, QuorConversions::Platform& platfor
     table->setShortcutContext(Qt::WidgetShortcut);
     add("copyText", tr("Copy as te&xt"), false);
     m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
+
+    m_idle.setSingleShot(true);
+    m_idle.setInterval(0);
+    connect(&m_idle, &QTimer::timeout, this, &ValuePane::Fill);
 }
 
 void ValuePane::ShowValues(const std::vector<std::size_t>& probes) {
@@ -74,8 +78,15 @@ void ValuePane::ShowValues(const std::vector<std::size_t>& probes) {
     if (m_shown == state)
         return;
     m_shown = std::move(state);
-    constexpr std::size_t most = 20;
+    m_idle.start();
+}
+
+void ValuePane::Fill() {
     m_list->clear();
+    const auto& [revision, probes] = *m_shown;
+    if (revision != m_document.Revision()) // the places are other ones by now, which ShowValues will tell
+        return;
+    constexpr std::size_t most = 20;
     for (std::size_t i = 0; i < std::min(probes.size(), most); ++i)
         AddProbe(probes[i], probes.size() > 1);
     if (probes.size() > most)
@@ -107,7 +118,11 @@ void ValuePane::AddProbe(std::size_t probe, bool withName) {
         m_list->addTopLevelItem(new QTreeWidgetItem({tr("Cannot be read:"), ToQt(line)}));
 }
 
-void ValuePane::Copy(bool asTable) const {
+void ValuePane::Copy(bool asTable) {
+    if (m_idle.isActive()) { // no other probe's values go to the clipboard
+        m_idle.stop();
+        Fill();
+    }
     QString text;
     QString html = QStringLiteral("<table>");
     const bool all = m_list->selectedItems().isEmpty();

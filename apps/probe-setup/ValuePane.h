@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDockWidget>
 #include <QString>
+#include <QTimer>
 
 #include <cstddef>
 #include <cstdint>
@@ -26,17 +27,20 @@ public:
     /// Document and platform, which tells the decimal separator, outlive the pane.
     ValuePane(ProbeDocument& document, QuorConversions::Platform& platform);
 
-    /// Shows the values of these probes; of very many those of the first.
+    /// Shows the values of these probes, as soon as nothing else is to be done: the list of probes does not
+    /// wait for them. Of very many probes only the first ones are shown.
     void ShowValues(const std::vector<std::size_t>& probes);
 
 private:
+    void Fill();
     void AddProbe(std::size_t probe, bool withName);
-    void Copy(bool asTable) const;
+    void Copy(bool asTable);
 
     ProbeDocument& m_document;
     QuorConversions::Platform& m_platform;
     QTreeWidget* m_list;
-    std::optional<std::pair<std::uint64_t, std::vector<std::size_t>>> m_shown;
+    std::optional<std::pair<std::uint64_t, std::vector<std::size_t>>> m_shown; // revision and probes
+    QTimer m_idle;
 };
 
 } // namespace ProbeSetup

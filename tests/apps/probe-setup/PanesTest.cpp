@@ -22,6 +22,7 @@ class Panes : public WindowTest {
 protected:
     /// The rows of a pane's list, columns with a bar between them.
     [[nodiscard]] QStringList Rows(const char* list) const {
+        QCoreApplication::processEvents(); // values are filled in when nothing else is to be done
         QStringList rows;
         const auto& tree = Find<QTreeWidget>(list);
         for (int row = 0; row < tree.topLevelItemCount(); ++row) {
@@ -115,6 +116,16 @@ TEST_F(Panes, TheValuesOfTheSelectedProbesAreShownWithUnits) {
     EXPECT_EQ(Rows("valueList").size(), 8);
     EXPECT_EQ(Rows("valueList")[0], "Probe 1||");
     EXPECT_EQ(Rows("valueList")[6], "Probe 2||");
+}
+
+TEST_F(Panes, WhatIsCopiedAreTheValuesOfTheProbeThatWasSelectedLast) {
+    GoTo(1);
+    EXPECT_EQ(Rows("valueList"), QStringList{"Conversion|Ohms|"});
+    GoTo(0); // and the next key comes at once
+    Action("copyText").trigger();
+    EXPECT_EQ(QApplication::clipboard()->text(),
+              QString::fromUtf8("Conversion = Callendar-Van Dusen\nR0 = 100 Ω\nALPHA = 0.0039083 °C⁻¹\n"
+                                "DELTA = 1.5 °C\nBETA = 0 °C\n"));
 }
 
 TEST_F(Panes, ValuesAreCopiedAsATableAndAsText) {
