@@ -51,6 +51,12 @@ constexpr const wchar_t* panesName = L"Panes";
 
 constexpr int longEnoughToRead = 10000; // milliseconds
 
+/// About as much as the desktop puts around a window.
+QSize FrameAround(const QWidget& window) {
+    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    return {8, title + 8};
+}
+
 } // namespace
 
 MainWindow::MainWindow(std::shared_ptr<QuorRegistryII::Registry> registry, const QString& helpFile)
@@ -99,7 +105,7 @@ MainWindow::MainWindow(std::shared_ptr<QuorRegistryII::Registry> registry, const
     const QSize tools = findChild<QToolBar*>()->sizeHint();
     const int character = fontMetrics().averageCharWidth();
     resize(QSize(std::max(character * 150, tools.width() + character * 8), fontMetrics().height() * 34)
-               .boundedTo(screen()->availableSize()));
+               .boundedTo(screen()->availableSize() - FrameAround(*this)));
     resizeDocks({m_values}, {character * 58}, Qt::Horizontal);
     restoreGeometry(QByteArray::fromBase64(m_settings.Read(geometryName).toLatin1()));
     Table().header()->restoreState(QByteArray::fromBase64(m_settings.Read(columnsName).toLatin1()));

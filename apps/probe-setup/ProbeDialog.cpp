@@ -10,8 +10,11 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
+#include <QStyle>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace ProbeSetup {
@@ -79,7 +82,13 @@ void ProbeDialog::Build(const TypeChoice& selected, const QString& hint, std::fu
     connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_buttons, &QDialogButtonBox::helpRequested, this, std::move(help));
-    resize(sizeHint().expandedTo({fontMetrics().averageCharWidth() * 60, 0}));
+    // With a dozen types in sight, where the screen has room for them and for the frame of the window.
+    const int more =
+        std::max(0, m_types->List().sizeHintForRow(0) * 12 - m_types->List().sizeHint().height());
+    const QSize wanted = sizeHint() + QSize(0, more);
+    resize(wanted.expandedTo({fontMetrics().averageCharWidth() * 60, 0})
+               .boundedTo(screen()->availableSize() -
+                          QSize(0, 2 * style()->pixelMetric(QStyle::PM_TitleBarHeight))));
 }
 
 void ProbeDialog::CheckInput() {

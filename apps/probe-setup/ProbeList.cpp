@@ -76,7 +76,8 @@ void ProbeList::MakeTable() {
     m_table->header()->setSortIndicator(-1, Qt::AscendingOrder);
     m_table->setSortingEnabled(true);
     m_table->header()->setSectionResizeMode(ProbeTableModel::ChangedColumn, QHeaderView::ResizeToContents);
-    const int nameWidth = fontMetrics().averageCharWidth() * 30;
+    const int screenWidth = screen()->availableSize().width();
+    const int nameWidth = std::min(fontMetrics().averageCharWidth() * 30, screenWidth / 5);
     m_table->header()->resizeSection(ProbeTableModel::NameColumn, nameWidth);
     // Names of conversions are not cut where the screen has room for them: the panes give way.
     int conversionWidth = 0;
@@ -86,8 +87,10 @@ void ProbeList::MakeTable() {
     const int margins = m_table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) * 2 + 4;
     const int rest = m_table->header()->sectionSizeHint(ProbeTableModel::ChangedColumn) +
                      m_table->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * m_table->frameWidth();
-    m_table->setMinimumWidth( // the panes need a third of the screen
-        std::min(nameWidth + conversionWidth + margins + rest, screen()->availableSize().width() * 2 / 3));
+    // On a narrow screen a name that is cut has a tool tip, but the values beside the list must not be cut.
+    const int panes = fontMetrics().averageCharWidth() * 60;
+    m_table->setMinimumWidth(std::min(nameWidth + conversionWidth + margins + rest,
+                                      std::max(screenWidth - panes, screenWidth / 2)));
     m_table->header()->setSectionResizeMode(ProbeTableModel::ConversionColumn, QHeaderView::Stretch);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { m_changed(); });
     connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { m_changed(); });

@@ -42,7 +42,7 @@ TypeChooser::TypeChooser(const TypeChoice& selected, std::function<void()> chang
         if (choice == wanted)
             m_list->setCurrentItem(item);
     }
-    m_list->setMinimumHeight(m_list->sizeHintForRow(0) * 12);
+    m_list->setMinimumHeight(m_list->sizeHintForRow(0) * 2);
 
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

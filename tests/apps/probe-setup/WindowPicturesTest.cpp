@@ -25,6 +25,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPdfWriter>
+#include <QScreen>
 #include <QTest>
 #include <QTextDocument>
 #include <QToolBar>
@@ -106,6 +107,22 @@ TEST_P(WindowPictures, TheDialogThatAddsAProbeShowsAllItsTexts) {
     ExpectNothingIsCut(dialog);
     const auto& types = *dialog.findChild<QListWidget*>();
     EXPECT_LE(types.sizeHintForColumn(0), types.viewport()->width()) << "the longest type is cut";
+}
+
+TEST_P(WindowPictures, TheDialogThatAddsAProbeFitsOnASmallScreen) {
+    const QScreen* const small = QGuiApplication::screens().back();
+    if (small == QGuiApplication::primaryScreen())
+        GTEST_SKIP() << "there is one screen only";
+    QWidget onIt;
+    onIt.move(small->geometry().topLeft() + QPoint(10, 10));
+    onIt.show();
+    ProbeDocument document(nullptr);
+    ProbeDialog dialog(&onIt, document, QString(), [] {});
+    dialog.show();
+    TakePicture(dialog, "add-small");
+    ASSERT_EQ(dialog.screen(), small);
+    EXPECT_LT(dialog.height(), small->availableSize().height());
+    ExpectNothingIsCut(dialog);
 }
 
 TEST_P(WindowPictures, MarksFindingsValuesAndTheBarAreSeen) {
