@@ -44,6 +44,15 @@ bool IsRefused(const std::vector<ProbeProblem>& problems) {
     });
 }
 
+/// Whether a section would be part of the settings of a probe, and not the first of their sections: "P -
+/// Settings - Low Range".
+bool IsNested(std::wstring_view section) {
+    const auto owners = PossibleOwners(section);
+    return std::any_of(owners.begin(), owners.end(), [&](std::wstring_view owner) {
+        return owner.size() + settingsMark.size() != section.size();
+    });
+}
+
 /// Gives one conversion type and values of another one.
 void Assign(CQuorConversion& to, const CQuorConversion& from) {
     to.SetConversionType(from.ConversionType());
@@ -322,10 +331,14 @@ RecordAsRead ProbeFile::RecordOf(const RecordReading& reading, const ProbeEntry&
 }
 
 std::vector<ProbeProblem> ProbeFile::Check() {
+    return Check([] {});
+}
+
+std::vector<ProbeProblem> ProbeFile::Check(const std::function<void()>& afterEach) {
     if (!Exists())
         return {};
     const SelectedSection selected(*m_store);
-    return CheckFile(m_store, m_path, Probes(), LostSections());
+    return CheckFile(m_store, m_path, Probes(), LostSections(), afterEach);
 }
 
 // Writing
@@ -344,6 +357,30 @@ TakenNames ProbeFile::NamesBut(const ProbeEntry* except) {
             names.Add(section);
     }
     return names;
+}
+
+/// The sections that their own names do not tell to be in the way of a new probe: nested ones, of which one
+/// must know the last part. A file has few of them.
+TakenNames ProbeFile::NestedSections() {
+    TakenNames names;
+    for (const std::wstring& section : Sections()) {
+        if (IsNested(section))
+            names.Add(section);
+    }
+    return names;
+}
+
+/// Raises if settings of a new probe would stand in a section that is there, or others be read as part of
+/// them.
+void ProbeFile::RequireNoSettings(std::wstring_view section) {
+    auto other = m_nested.SettingsOf(section);
+    if (const std::wstring settings = SettingsSection(section); HasSection(settings)) {
+        const std::vector<std::wstring> sections = Sections();
+        other = *std::find_if(sections.begin(), sections.end(),
+                              [&](const std::wstring& present) { return EqualFolded(present, settings); });
+    }
+    if (other)
+        throw Error(PROBE_SETTINGS_ARE_TAKEN, section, *other);
 }
 
 void ProbeFile::RequireName(std::wstring_view name, const ProbeEntry* except, const TakenNames& names) {
@@ -387,13 +424,13 @@ void ProbeFile::WriteOne(const ProbeToWrite& probe) {
     const bool getsSettings =
         present && !present->standAlone && !MayHaveSettings(present->type) && MayHaveSettings(type);
     if ((!present || getsSettings) && m_namesText != m_store->TextNumber()) {
-        m_names = NamesBut(nullptr);
+        m_nested = NestedSections();
         m_namesText = m_store->TextNumber();
     }
     if (!present)
-        RequireName(probe.section, nullptr, m_names);
-    else if (const auto other = getsSettings ? m_names.SettingsOf(probe.section) : std::nullopt)
-        throw Error(PROBE_SETTINGS_ARE_TAKEN, probe.section, *other);
+        RequireName(probe.section, nullptr, m_nested);
+    if (!present || getsSettings)
+        RequireNoSettings(probe.section);
     const auto standAlone = StandAloneSection(m_path);
     const bool isStandAlone =
         present ? present->standAlone : standAlone && EqualFolded(*standAlone, probe.section);
@@ -409,9 +446,9 @@ void ProbeFile::WriteOne(const ProbeToWrite& probe) {
     if (!namesAreKnown)
         return;
     // A host that writes thousands of new ones in one edit has no time to look at all sections for each.
-    m_names.Add(probe.section);
-    if (const std::wstring settings = SettingsSection(probe.section); HasSection(settings))
-        m_names.Add(settings);
+    for (const std::wstring& section : {probe.section, SettingsSection(probe.section)})
+        if (IsNested(section) && HasSection(section))
+            m_nested.Add(section);
     m_namesText = m_store->TextNumber();
 }
 

@@ -123,6 +123,9 @@ public:
     /// (ProbeProblem::IsWarning). In the order of the lines, files beside it last. Each missing section is
     /// listed once.
     [[nodiscard]] std::vector<ProbeProblem> Check();
+    /// The same for hosts that show how far it is: calls `afterEach` after each probe, in the order of
+    /// Probes().
+    [[nodiscard]] std::vector<ProbeProblem> Check(const std::function<void()>& afterEach);
 
     /// Whether a file gives back what the conversion holds. It does not for a count below zero, for settings
     /// that no longer belong to the conversion's type (a thermistor of the other direction), and for anything
@@ -212,7 +215,9 @@ private:
                                        std::wstring_view other = {}) const;
     [[nodiscard]] QuorConversions::EQuorConversionType RequireType(const ProbeEntry& probe);
     [[nodiscard]] TakenNames NamesBut(const ProbeEntry* except);
+    [[nodiscard]] TakenNames NestedSections();
     void RequireName(std::wstring_view name, const ProbeEntry* except, const TakenNames& names);
+    void RequireNoSettings(std::wstring_view section);
     void MoveSections(const std::function<void(ProbeMove&)>& move);
     void RemoveOldSettings(const std::vector<ProbeToWrite>& probes);
     void WriteOne(const ProbeToWrite& probe);
@@ -233,8 +238,8 @@ private:
     std::vector<std::size_t> m_lostSections;
     std::unique_ptr<LinePlaces> m_places; // once a record was read
     std::uint64_t m_placesText = 0;       // the number of the text that they are of
-    TakenNames m_names;                   // of all sections
-    std::uint64_t m_namesText = 0;        // the number of the text that they are of
+    TakenNames m_nested;                  // NestedSections of a text
+    std::uint64_t m_namesText = 0;        // the number of that text
 };
 
 } // namespace QuorProbeFile

@@ -245,15 +245,18 @@ private:
 
 std::vector<ProbeProblem> CheckFile(const std::shared_ptr<IniStore>& store, const std::wstring& path,
                                     const std::vector<ProbeEntry>& probes,
-                                    const std::vector<std::size_t>& lostSections) {
+                                    const std::vector<std::size_t>& lostSections,
+                                    const std::function<void()>& afterEach) {
     FileCheck check(store);
     if (const auto section = StandAloneSection(path); section && probes.empty())
         check.Report(ProblemIn(PROBLEM_SECTION_MISSING, 1, *section, {}, {{PROBE_TEXT_SECTION_MISSING}}));
     for (const std::size_t line : lostSections)
         check.Report(ProblemIn(PROBLEM_UNCLOSED_HEADER, line, {}, {}, {{PROBE_TEXT_UNCLOSED_HEADER}}));
     check.CheckHiddenLines();
-    for (const ProbeEntry& probe : probes)
+    for (const ProbeEntry& probe : probes) {
         check.CheckRecord(path, probe);
+        afterEach();
+    }
     return check.Take();
 }
 
