@@ -125,6 +125,25 @@ private:
     std::set<BoxAdvice> m_expected;
 };
 
+/// A dialog looks at the whole text with each key.
+void RequireTypable(const std::wstring& text) {
+    constexpr std::size_t most = 1000;
+    if (text.size() > most)
+        throw CannotDo(L"more than 1000 characters are no text to type; \"paste\" takes them at once");
+}
+
+/// A box leaves out keys that no number has: what is left of "0x1p3" would be another number. Of some it
+/// gives advice, which is told by itself.
+void RequireTyped(const Person& person, const std::wstring& box, const std::wstring& text) {
+    const std::wstring taken = person.Reads(box);
+    const auto isSame = [](wchar_t typed, wchar_t shown) { // the point key types the separator
+        return typed == shown || (typed == L'.' && shown == L',');
+    };
+    if (!std::equal(text.begin(), text.end(), taken.begin(), taken.end(), isSame) &&
+        person.Advice(box).empty())
+        throw CannotDo(L"of \"" + text + L"\" the box \"" + box + L"\" has \"" + taken + L"\"");
+}
+
 } // namespace
 
 std::optional<std::wstring> Script::Line::AnnouncedAdvice() const {
@@ -153,7 +172,9 @@ const Script::Verb* Script::FindVerb(const std::wstring& name) {
         {L"type", true,
          [](const Verb::Stage& stage, const std::wstring& rest) {
              const auto [box, text] = SplitName(stage.person, rest);
+             RequireTypable(text);
              stage.person.Type(box, text);
+             RequireTyped(stage.person, box, text);
          }},
         {L"paste", true,
          [](const Verb::Stage& stage, const std::wstring& rest) {
@@ -173,7 +194,10 @@ const Script::Verb* Script::FindVerb(const std::wstring& name) {
         {L"click", true,
          [](const Verb::Stage& stage, const std::wstring& rest) { stage.person.Click(rest); }},
         {L"key", true,
-         [](const Verb::Stage& stage, const std::wstring& rest) { stage.person.TypeHere(rest); }},
+         [](const Verb::Stage& stage, const std::wstring& rest) {
+             RequireTypable(rest);
+             stage.person.TypeHere(rest);
+         }},
         {L"enter", false,
          [](const Verb::Stage& stage, const std::wstring&) { stage.person.Press(enterKey); }},
         {L"tab", false, [](const Verb::Stage& stage, const std::wstring&) { stage.person.Tab(); }},
