@@ -7,6 +7,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cstdio>
 #include <deque>
 #include <iostream>
 #include <iterator>
@@ -144,23 +145,54 @@ public:
     }
 };
 
+/// Whether all that was printed has arrived. A buffer that could not be emptied on the way is told by the
+/// error of the file alone.
+bool IsPrinted() { return std::cout.flush() && std::ferror(stdout) == 0; }
+
 int Failed(const Problem& failure, ExitCode code) {
     PrintFailure(failure);
     return code;
 }
 
-/// A first argument that is no command and no option: CLI11 would tell it as one too many.
-void RequireCommand(int argc, const char* const* argv) {
-    if (argc < 2 || argv[1][0] == '-' || argv[1][0] == '\0')
-        return;
+/// The options of a command, or of the program: "--json".
+std::vector<std::wstring> OptionNames(const CLI::App& app) {
     std::vector<std::wstring> names;
-    for (const CommandRow* const row : Commands()) {
-        if (std::string_view(row->name) == argv[1])
-            return;
-        names.push_back(Wide(row->name));
-    }
+    for (const CLI::Option* const option : app.get_options())
+        for (const std::string& name : option->get_lnames())
+            names.push_back(Wide("--" + name));
+    return names;
+}
+
+/// A first argument that is neither a command nor an option: CLI11 would tell it as one too many, or ask for
+/// a command.
+void RequireCommand(int argc, const char* const* argv, const CLI::App& app) {
+    if (argc < 2 || argv[1][0] == '\0')
+        return;
+    const bool isOption = argv[1][0] == '-';
+    std::vector<std::wstring> names = isOption ? OptionNames(app) : std::vector<std::wstring>();
+    if (isOption)
+        names.emplace_back(L"-h");
+    else
+        for (const CommandRow* const row : Commands())
+            names.push_back(Wide(row->name));
     const std::wstring given = QuorIniFile::DecodeBytes(argv[1]);
-    throw UsageError{L"there is no command \"" + given + L"\"" + DidYouMean(given, names)};
+    if (std::find(names.begin(), names.end(), given) == names.end())
+        throw UsageError{std::wstring(isOption ? L"there is no option \"" : L"there is no command \"") +
+                         given + L"\"" + DidYouMean(given, names)};
+}
+
+/// An argument too many that begins with "-": a mistyped option of a command.
+void RequireOptions(const CLI::App& command) {
+    for (const std::string& argument : command.remaining()) {
+        if (argument.size() < 2 || argument.front() != '-')
+            continue;
+        const std::wstring given = QuorIniFile::DecodeBytes(argument.substr(0, argument.find('=')));
+        std::wstring meant = DidYouMean(given, OptionNames(command));
+        if (meant.empty())
+            meant = L"; \"--\" goes before names that begin with \"-\"";
+        throw UsageError{L"the command \"" + Wide(command.get_name()) + L"\" has no option \"" + given +
+                         L"\"" + meant};
+    }
 }
 
 class CommandLine {
@@ -187,10 +219,12 @@ public:
     }
 
     int Run(int argc, const char* const* argv) {
-        RequireCommand(argc, argv);
+        RequireCommand(argc, argv, m_app);
         try {
             m_app.parse(argc, argv);
         } catch (const CLI::ParseError& error) {
+            for (const CLI::App* const command : m_app.get_subcommands())
+                RequireOptions(*command);
             // Help and version are asked for as "errors" with the code 0.
             return m_app.exit(error) == 0 ? fine : wrongUsage;
         }
@@ -198,7 +232,10 @@ public:
                                                  Commands().begin());
         m_arguments[at].Take();
         try {
-            return m_commands[at]->Run();
+            const ExitCode code = m_commands[at]->Run();
+            if (!IsPrinted())
+                throw Problem{L"the results cannot be written"};
+            return code;
         } catch (const UsageError&) {
             throw;
         } catch (...) {
@@ -218,7 +255,7 @@ private:
 int RunCommandLine(int argc, const char* const* argv) {
     try {
         const int code = CommandLine().Run(argc, argv);
-        if (!std::cout.flush())
+        if (code == fine && !IsPrinted()) // of a help
             return Failed({L"the results cannot be written"}, problemFound);
         return code;
     } catch (const UsageError& error) {

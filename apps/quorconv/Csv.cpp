@@ -2,6 +2,8 @@
 
 #include "QuorIniFile/Utf8.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace quorconv {
@@ -49,7 +51,7 @@ public:
         Skip('\r');
         if (!IsAtEnd() && !Is('\n'))
             Fail(std::wstring(L"a ") + Name(m_separator) +
-                 L" or the end of the line expected after a field in quotes" + Hint(m_text[m_at]));
+                 L" or the end of the line expected after a field in quotes");
         ++m_at;
         ++m_line;
         if (isEmpty && fields.size() == 1)
@@ -94,12 +96,11 @@ private:
     }
 
     static const wchar_t* Name(char separator) {
-        return separator == ';' ? L"semicolon" : separator == '\t' ? L"tab" : L"comma";
-    }
-    /// For what stands where a separator is expected.
-    static std::wstring Hint(char found) {
-        const bool isOther = found == ';' || found == '\t' || found == ',';
-        return isOther ? std::wstring(L"; \"--separator ") + Name(found) + L"\" reads such a table" : L"";
+        return std::find_if(std::begin(csvSeparators), std::end(csvSeparators),
+                            [separator](const CsvSeparatorName& one) {
+                                return static_cast<char>(one.separator) == separator;
+                            })
+            ->name;
     }
 
     std::string_view m_text;
@@ -118,6 +119,17 @@ void ReadCsv(std::string_view text, CsvSeparator separator,
         if (const auto fields = reader.Row(); !fields.empty())
             use(fields, line);
     }
+}
+
+std::vector<std::wstring> FirstCsvRow(std::string_view text, CsvSeparator separator) {
+    try {
+        CsvReader reader(text, separator);
+        while (!reader.IsAtEnd())
+            if (auto fields = reader.Row(); !fields.empty())
+                return fields;
+    } catch (const CsvError&) { // then it has none
+    }
+    return {};
 }
 
 } // namespace quorconv

@@ -5,6 +5,8 @@
 #include "apps/quorconv/System.h"
 #include "apps/quorconv/UnifiedDiff.h"
 
+#include <cerrno>
+#include <cstdint>
 #include <cstdio>
 #include <fstream>
 #include <iostream>
@@ -20,26 +22,33 @@ using QuorProbeFile::ProbeFile;
 
 namespace {
 
-/// All that is still to be read.
-std::string Rest(std::istream& in) {
+/// What an input is read for: a host's file may be UTF-16.
+enum class Input : std::uint8_t { Text, HostFile, NewHostFile };
+
+/// All that is still to be read. Raises Problem for bytes that no text has: a device may have no end of them.
+std::string Rest(std::istream& in, const std::wstring& path, Input input) {
     std::string bytes;
     constexpr std::size_t step = std::size_t{1} << 20U;
     for (std::size_t size = 0; in; bytes.resize(size)) {
         bytes.resize(size + step);
         in.read(bytes.data() + size, static_cast<std::streamsize>(step));
-        size += static_cast<std::size_t>(in.gcount());
+        const auto length = static_cast<std::size_t>(in.gcount());
+        if (input == Input::Text &&
+            std::string_view(bytes).substr(size, length).find('\0') != std::string::npos)
+            throw Problem{path + L": there are zero bytes: this is no text in UTF-8"};
+        size += length;
     }
     return bytes;
 }
 
-std::string StandardInput(bool mayBeEmpty = false) {
+std::string StandardInput(Input input) {
     static bool isRead = false;
     if (std::exchange(isRead, true))
         throw UsageError{L"\"-\" can be given only once: the standard input can be read only once"};
-    std::string bytes = Rest(std::cin);
+    std::string bytes = Rest(std::cin, standardInput, input);
     if (std::cin.bad() || std::ferror(stdin) != 0)
         throw Problem{L"-: the standard input cannot be read"};
-    if (bytes.empty() && !mayBeEmpty)
+    if (bytes.empty() && input != Input::NewHostFile)
         throw Problem{L"-: there is nothing in the standard input"};
     return bytes;
 }
@@ -80,15 +89,18 @@ std::filesystem::path FilePath(const std::wstring& path) {
 
 std::string ReadAll(const std::wstring& path) {
     if (path == standardInput)
-        return StandardInput();
+        return StandardInput(Input::Text);
     const std::filesystem::path name = FilePath(path);
     std::error_code ignored;
     if (std::filesystem::is_directory(name, ignored))
         throw Problem{path + L": this is a folder"};
     std::ifstream file(name, std::ios::binary);
+    const int cause = errno;
     if (!file)
-        throw Problem{L"File not found: " + path};
-    std::string bytes = Rest(file);
+        throw Problem{cause == ENOENT
+                          ? L"File not found: " + path
+                          : path + L": " + QuorIniFile::DecodeBytes(std::generic_category().message(cause))};
+    std::string bytes = Rest(file, path, Input::Text);
     if (file.bad())
         throw Problem{path + L": the file cannot be read"};
     return bytes;
@@ -151,7 +163,8 @@ HostFile::HostFile(const std::wstring& path, ProbeFile::Opening opening) {
         m_file.emplace(path, opening);
         return;
     }
-    const std::string bytes = StandardInput(opening == ProbeFile::Opening::OrNew);
+    const std::string bytes =
+        StandardInput(opening == ProbeFile::Opening::OrNew ? Input::NewHostFile : Input::HostFile);
     m_folder.emplace();
     std::ofstream file(m_folder->Path() / "-", std::ios::binary);
     if (!file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush())

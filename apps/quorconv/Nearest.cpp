@@ -34,13 +34,13 @@ std::size_t Distance(const std::wstring& a, const std::wstring& b) {
 
 std::wstring DidYouMean(const std::wstring& typed, const std::vector<std::wstring>& known) {
     constexpr std::size_t longest = 200; // nobody mistypes more than that
-    if (typed.size() > longest)
+    if (typed.empty() || typed.size() > longest)
         return {};
     const std::wstring folded = QuorProbeFile::Folded(typed);
     const std::wstring* nearest = nullptr;
     std::size_t least = std::max<std::size_t>(2, typed.size() / 4 + 1); // a word that far is another one
     for (const std::wstring& word : known) {
-        if (word.size() > longest)
+        if (word.empty() || word.size() > longest)
             continue;
         const std::size_t distance = Distance(folded, QuorProbeFile::Folded(word));
         if (distance < least) {

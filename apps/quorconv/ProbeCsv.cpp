@@ -49,8 +49,10 @@ std::wstring FieldText(const Value& value, DecimalSign decimal) {
 
 void CsvStyle::Declare(Arguments& arguments) {
     arguments.Choice("--decimal", decimal, {"point", "comma"}, "The decimal separator of the table");
-    arguments.Choice("--separator", separator, {"comma", "semicolon", "tab"},
-                     "The separator between the fields of the table");
+    std::vector<std::string> names;
+    for (const CsvSeparatorName& one : csvSeparators)
+        names.push_back(ToUtf8(one.name));
+    arguments.Choice("--separator", separator, names, "The separator between the fields of the table");
 }
 
 DecimalSign CsvStyle::Decimal() const {
@@ -58,9 +60,9 @@ DecimalSign CsvStyle::Decimal() const {
 }
 
 CsvSeparator CsvStyle::Separator() const {
-    return separator == L"semicolon" ? CsvSeparator::Semicolon
-           : separator == L"tab"     ? CsvSeparator::Tab
-                                     : CsvSeparator::Comma;
+    return std::find_if(std::begin(csvSeparators), std::end(csvSeparators),
+                        [this](const CsvSeparatorName& one) { return separator == one.name; })
+        ->separator;
 }
 
 void CsvTable::AddField(std::string_view field) {
@@ -155,7 +157,7 @@ public:
             m_columns.push_back(std::move(column));
         }
         if (m_section == none)
-            throw Problem{place + L"1: there is no column \"section\"" + OtherSeparator(names)};
+            throw Problem{place + L"1: there is no column \"section\""};
         if (m_type == none && type.empty())
             throw Problem{place + L"1: there is no column \"type\", and no --type says it"};
     }
@@ -168,7 +170,7 @@ public:
                           std::to_wstring(m_columns.size())};
         if (std::all_of(fields.begin(), fields.end(), [](const std::wstring& f) { return f.empty(); }))
             throw Problem{m_place + std::to_wstring(line) + L": all fields of the line are empty"};
-        CsvProbe probe{line, fields[m_section], m_type == none ? type : fields[m_type], {}, {}};
+        CsvProbe probe{line, fields[m_section], m_type == none ? type : fields[m_type], {}};
         const TypeInfo* const info = ParseType(probe.type);
         if (!info || info->code == CONV_NONE)
             Fail(line, m_type == none ? m_section : m_type, L"\"" + probe.type + L"\" is no conversion type");
@@ -188,7 +190,6 @@ public:
             if (key && !ParseAs(key->initial, text))
                 Fail(line, i, WhatIsWrong(key->initial, text));
             probe.values.push_back({m_columns[i].key, std::move(text)});
-            probe.columns.push_back(i + 1);
         }
         return probe;
     }
@@ -210,16 +211,6 @@ private:
         }
         return text;
     }
-    /// For a first line that has another separator in it.
-    static std::wstring OtherSeparator(const std::vector<std::wstring>& names) {
-        constexpr std::pair<wchar_t, const wchar_t*> separators[] = {
-            {L';', L"semicolon"}, {L'\t', L"tab"}, {L',', L"comma"}};
-        for (const auto& [sign, name] : separators)
-            if (names.size() == 1 && names.front().find(sign) != std::wstring::npos)
-                return std::wstring(L"; \"--separator ") + name + L"\" reads a table like this";
-        return {};
-    }
-
     static constexpr std::size_t none = static_cast<std::size_t>(-1);
     struct Column {
         std::wstring key;
@@ -272,6 +263,24 @@ private:
 
 } // namespace
 
+namespace {
+
+/// Ends a failure of a table that another separator would make one with a column "section".
+std::wstring MeantSeparator(std::string_view text, CsvSeparator separator) {
+    const auto hasSection = [text](CsvSeparator other) {
+        const auto names = FirstCsvRow(text, other);
+        return std::find(names.begin(), names.end(), sectionColumn) != names.end();
+    };
+    if (hasSection(separator))
+        return {};
+    for (const CsvSeparatorName& other : csvSeparators)
+        if (hasSection(other.separator))
+            return std::wstring(L"; \"--separator ") + other.name + L"\" reads a table like this";
+    return {};
+}
+
+} // namespace
+
 void ReadProbeTable(std::string_view text, const std::wstring& place, const CsvStyle& style,
                     const std::wstring& type, Batch& batch, const std::function<void(CsvProbe&&)>& use) {
     std::optional<Columns> columns;
@@ -284,7 +293,10 @@ void ReadProbeTable(std::string_view text, const std::wstring& place, const CsvS
                     batch.Do(L"", [&] { use(columns->Read(fields, line, type, style.Decimal())); });
             });
         } catch (const CsvError& error) {
-            throw Problem{place + std::to_wstring(error.line) + L": " + error.text};
+            throw Problem{place + std::to_wstring(error.line) + L": " + error.text +
+                          MeantSeparator(text, style.Separator())};
+        } catch (const Problem& problem) { // of the first line
+            throw Problem{problem.text + MeantSeparator(text, style.Separator()), problem.reasons};
         }
         if (!columns)
             throw Problem{place + L"1: there is no line of column names"};

@@ -62,8 +62,7 @@ struct CsvProbe {
     std::size_t line;
     std::wstring section;
     std::wstring type;
-    std::vector<Assignment> values;   ///< without those of empty fields
-    std::vector<std::size_t> columns; ///< of the values, from 1
+    std::vector<Assignment> values; ///< without those of empty fields
 };
 
 /// Reads a table and calls `use` with each of its lines. Columns may stand in any order, and without the

@@ -249,52 +249,54 @@ private:
         }
     }
 
-    // NOLINTNEXTLINE(readability-function-cognitive-complexity): one case a kind of value
     void Add(const std::wstring& key, const JsonValue& value, const RecordKey* known) {
-        if (value.kind == Kind::Object && known && !known->choices.empty()) {
-            RequireMembers(value, {L"code", L"name"});
-            const JsonValue& code = Require(value, L"code", Kind::Number, L"a number");
-            const JsonValue* const name = value.Find(L"name");
-            const auto number = QuorIniFile::IntegerOf(code.text);
-            if (name && (name->kind != Kind::Text || !number || ChoiceName(*known, *number) != name->text))
-                Fail(*name, key + L": the name is not that of the code " + code.text);
-            AddNumber(key, code, known);
-            return;
-        }
-        const bool isNumber = !known || std::holds_alternative<double>(known->initial);
-        const bool isText = known && std::holds_alternative<std::wstring>(known->initial);
-        const bool isFlag = known && std::holds_alternative<bool>(known->initial);
-        switch (value.kind) {
-        case Kind::Boolean:
-            if (!isFlag)
-                break;
-            values.push_back({key, value.flag ? L"True" : L"False"});
-            return;
-        case Kind::Number:
-            if (isText || isFlag || (known && !known->choices.empty()))
-                break;
-            AddNumber(key, value, known);
-            return;
-        case Kind::Text:
-            if (!isText && !(isNumber && (value.text == L"NaN" || value.text == L"Infinity" ||
-                                          value.text == L"-Infinity")))
-                break;
-            values.push_back({key, value.text});
-            return;
-        default:
-            break;
-        }
-        Fail(value, key + L": " +
-                        (isText                   ? L"a text"
-                         : isFlag                 ? L"true or false"
-                         : isNumber               ? L"a number, \"NaN\", \"Infinity\" or \"-Infinity\""
-                         : known->choices.empty() ? L"a whole number"
-                                                  : L"an object of \"code\" and \"name\"") +
-                        L" expected");
+        const Value kind = known ? known->initial : Value(0.0);
+        if (known && !known->choices.empty())
+            AddCode(key, value, *known);
+        else if (std::holds_alternative<std::wstring>(kind))
+            AddText(key, Expect(key, value, Kind::Text, L"a text"));
+        else if (std::holds_alternative<bool>(kind))
+            AddText(key, Expect(key, value, Kind::Boolean, L"true or false"));
+        else if (std::holds_alternative<double>(kind) && IsNotFinite(value))
+            AddText(key, value);
+        else
+            AddNumber(key,
+                      Expect(key, value, Kind::Number,
+                             std::holds_alternative<double>(kind)
+                                 ? L"a number, \"NaN\", \"Infinity\" or \"-Infinity\""
+                                 : L"a whole number"),
+                      kind);
     }
 
-    void AddNumber(const std::wstring& key, const JsonValue& value, const RecordKey* known) {
-        const Value kind = known ? known->initial : Value(0.0);
+    void AddCode(const std::wstring& key, const JsonValue& value, const RecordKey& known) {
+        static_cast<void>(Expect(key, value, Kind::Object, L"an object of \"code\" and \"name\""));
+        RequireMembers(value, {L"code", L"name"});
+        const JsonValue& code = Require(value, L"code", Kind::Number, L"a number");
+        const JsonValue* const name = value.Find(L"name");
+        const auto number = QuorIniFile::IntegerOf(code.text);
+        if (name && (name->kind != Kind::Text || !number || ChoiceName(known, *number) != name->text))
+            Fail(*name, key + L": the name is not that of the code " + code.text);
+        AddNumber(key, code, known.initial);
+    }
+
+    static bool IsNotFinite(const JsonValue& value) {
+        return value.kind == Kind::Text &&
+               (value.text == L"NaN" || value.text == L"Infinity" || value.text == L"-Infinity");
+    }
+
+    static const JsonValue& Expect(const std::wstring& key, const JsonValue& value, Kind kind,
+                                   const std::wstring& what) {
+        if (value.kind != kind)
+            Fail(value, key + L": " + what + L" expected");
+        return value;
+    }
+
+    /// A text, or a flag, as an assignment has it.
+    void AddText(const std::wstring& key, const JsonValue& value) {
+        values.push_back({key, value.kind != Kind::Boolean ? value.text : value.flag ? L"True" : L"False"});
+    }
+
+    void AddNumber(const std::wstring& key, const JsonValue& value, const Value& kind) {
         if (!ParseAs(kind, value.text))
             Fail(value, key + L": " + WhatIsWrong(kind, value.text));
         values.push_back({key, value.text});
@@ -375,6 +377,10 @@ const char* const schemaHead = R"({
       "additionalProperties": false,
       "allOf": [)";
 
+std::string Description(const RecordKey& key) {
+    return "\"description\": " + JsonText(key.meaning + (key.unit.empty() ? L"" : L", in " + key.unit));
+}
+
 /// The schema of a value that is no list.
 std::string ValueSchema(const RecordKey& key) {
     if (!key.choices.empty()) {
@@ -395,53 +401,66 @@ std::string ValueSchema(const RecordKey& key) {
         std::string operator()(std::int16_t /*value*/) const { return R"({"$ref": "#/$defs/count"})"; }
     };
     std::string schema = std::visit(Visitor{}, key.initial);
-    schema.insert(1, "\"description\": " +
-                         JsonText(key.meaning + (key.unit.empty() ? L"" : L", in " + key.unit)) + ", ");
+    schema.insert(1, Description(key) + ", ");
     return schema;
 }
 
-/// The schema of the settings, or of a nested record.
-// NOLINTNEXTLINE(readability-function-cognitive-complexity): one walk through the keys in their order
-std::string SettingsSchema(EQuorConversionType type, RecordForm form, const std::wstring& prefix = {}) {
-    std::vector<std::pair<std::wstring, std::string>> members; // in their order
-    std::map<std::wstring, std::string> lists;                 // the names of their items
-    const auto add = [&](const std::wstring& name, const std::string& schema) {
-        if (std::none_of(members.begin(), members.end(), [&](const auto& one) { return one.first == name; }))
-            members.emplace_back(name, schema);
-    };
-    for (const RecordKey& key : RecordKeys(type)) {
-        if (!key.path.starts_with(prefix) || (form != key.form && key.form != RecordForm::Any))
-            continue;
-        const std::wstring inner = key.path.substr(prefix.size());
-        if (const auto slash = inner.find(L'/'); slash != std::wstring::npos) {
-            if (prefix.empty())
-                add(inner.substr(0, slash), SettingsSchema(type, form, inner.substr(0, slash + 1)));
-        } else if (key.index < 0) {
-            if (std::holds_alternative<bool>(key.initial))
-                add(inner, form == RecordForm::Polynomial ? R"({"const": true})" : R"({"const": false})");
-            else
-                add(inner, ValueSchema(key));
-        } else {
-            const std::wstring list = key.list.substr(prefix.size());
-            std::string& items = lists[list];
-            items += (items.empty() ? "" : ", ") + std::string(R"({"$ref": "#/$defs/item", )") +
-                     "\"properties\": {\"name\": {\"const\": " + JsonText(key.name) +
-                     "}, \"value\": {\"description\": " +
-                     JsonText(key.meaning + (key.unit.empty() ? L"" : L", in " + key.unit)) + "}}}";
-            add(list, "");
+/// The schema of the settings, or of a nested record, whose keys begin with `prefix`.
+class SettingsSchema {
+public:
+    SettingsSchema(EQuorConversionType type, RecordForm form, std::wstring prefix = {})
+        : m_type(type), m_form(form), m_prefix(std::move(prefix)) {
+        for (const RecordKey& key : RecordKeys(type))
+            if (key.path.starts_with(m_prefix) && (key.form == form || key.form == RecordForm::Any))
+                Take(key);
+    }
+
+    [[nodiscard]] std::string Text() const {
+        std::string schema;
+        for (const auto& [name, value] : m_members) {
+            schema += (schema.empty() ? "" : ", ") + JsonText(name) + ": ";
+            const auto list = m_lists.find(name);
+            schema += list == m_lists.end()
+                          ? value
+                          : R"({"type": "array", "items": {"$ref": "#/$defs/item"}, "prefixItems": [)" +
+                                list->second + "]}";
         }
+        return R"({"type": "object", "additionalProperties": false, "properties": {)" + schema + "}}";
     }
-    std::string schema;
-    for (const auto& [name, value] : members) {
-        schema += (schema.empty() ? "" : ", ") + JsonText(name) + ": ";
-        const auto list = lists.find(name);
-        schema += list == lists.end()
-                      ? value
-                      : R"({"type": "array", "items": {"$ref": "#/$defs/item"}, "prefixItems": [)" +
-                            list->second + "]}";
+
+private:
+    void Take(const RecordKey& key) {
+        const std::wstring inner = key.path.substr(m_prefix.size());
+        const auto slash = inner.find(L'/');
+        if (slash != std::wstring::npos && m_prefix.empty())
+            Add(inner.substr(0, slash), SettingsSchema(m_type, m_form, inner.substr(0, slash + 1)).Text());
+        else if (key.index >= 0)
+            AddItem(key);
+        else if (std::holds_alternative<bool>(key.initial))
+            Add(inner, m_form == RecordForm::Polynomial ? R"({"const": true})" : R"({"const": false})");
+        else
+            Add(inner, ValueSchema(key));
     }
-    return R"({"type": "object", "additionalProperties": false, "properties": {)" + schema + "}}";
-}
+    void Add(const std::wstring& name, const std::string& schema) {
+        if (std::none_of(m_members.begin(), m_members.end(),
+                         [&](const auto& one) { return one.first == name; }))
+            m_members.emplace_back(name, schema);
+    }
+    void AddItem(const RecordKey& key) {
+        const std::wstring list = key.list.substr(m_prefix.size());
+        std::string& items = m_lists[list];
+        items += (items.empty() ? "" : ", ") +
+                 std::string(R"({"$ref": "#/$defs/item", "properties": {"name": {"const": )") +
+                 JsonText(key.name) + "}, \"value\": {" + Description(key) + "}}}";
+        Add(list, "");
+    }
+
+    EQuorConversionType m_type;
+    RecordForm m_form;
+    std::wstring m_prefix;
+    std::vector<std::pair<std::wstring, std::string>> m_members; // in their order
+    std::map<std::wstring, std::string> m_lists;                 // the schemas of their items
+};
 
 } // namespace
 
@@ -459,9 +478,9 @@ std::string JsonSchema() {
             hasForms
                 ? R"({"if": {"required": ["UsePolynomial"], "properties": {"UsePolynomial": {"const": true}}},)"
                   "\n          \"then\": " +
-                      SettingsSchema(type.code, RecordForm::Polynomial) +
-                      ",\n          \"else\": " + SettingsSchema(type.code, RecordForm::AlphaDeltaBeta) + "}"
-                : SettingsSchema(type.code, RecordForm::Any);
+                      SettingsSchema(type.code, RecordForm::Polynomial).Text() + ",\n          \"else\": " +
+                      SettingsSchema(type.code, RecordForm::AlphaDeltaBeta).Text() + "}"
+                : SettingsSchema(type.code, RecordForm::Any).Text();
         rules += std::string(rules.empty() ? "" : ",") +
                  "\n        {\"if\": {\"properties\": {\"type\": {\"const\": " + JsonText(type.enumerator) +
                  "}}}, \"then\": {\"properties\": {\"code\": {\"const\": " + std::to_string(type.code) +

@@ -19,10 +19,11 @@ bool ShowsColour(Stream stream) {
     return (noColour == nullptr || *noColour == '\0') && IsTerminal(stream);
 }
 
-Progress::Progress(std::wstring what, std::size_t all)
+Progress::Progress(std::wstring what, std::size_t all, Results results)
     : m_what(std::move(what)),
       m_all(all),
-      m_isTerminal(IsTerminal(Stream::Error)),
+      m_isTerminal(IsTerminal(Stream::Error) &&
+                   (results == Results::AtTheEnd || !IsTerminal(Stream::Output))),
       m_next(std::chrono::steady_clock::now() + pause) {}
 
 Progress::~Progress() {
@@ -31,8 +32,8 @@ Progress::~Progress() {
 }
 
 void Progress::Step() {
-    constexpr std::size_t looks = 64; // at the clock: one in so many steps
-    if (!m_isTerminal || ++m_done % looks != 0 || std::chrono::steady_clock::now() < m_next)
+    ++m_done;
+    if (!m_isTerminal || std::chrono::steady_clock::now() < m_next)
         return;
     m_next = std::chrono::steady_clock::now() + pause;
     m_isShown = true;

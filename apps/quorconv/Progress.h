@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 namespace quorconv {
@@ -14,8 +15,11 @@ namespace quorconv {
 /// Tells on the standard error, where that is a terminal, how far a long work is: from its first second on.
 class Progress {
 public:
+    /// Whether results are printed between the steps: on a terminal these tell how far it is.
+    enum class Results : std::uint8_t { AtTheEnd, InBetween };
+
     /// `all` steps of that name; 0 where nobody knows how many there are.
-    Progress(std::wstring what, std::size_t all);
+    Progress(std::wstring what, std::size_t all, Results results = Results::AtTheEnd);
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
     ~Progress();

@@ -2,6 +2,7 @@
 
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeTypes.h"
+#include "QuorProbeFile/RecordMeaning.h"
 #include "apps/quorconv/Failure.h"
 #include "apps/quorconv/Nearest.h"
 
@@ -83,8 +84,9 @@ void ValueRules::Declare(Arguments& arguments) {
 
 void ValueRules::DeclareDrop(Arguments& arguments) {
     arguments.Flag("--drop", drops,
-                   "Allow the loss of values beyond the new count, order or range; without it,\n"
-                   "such a change is refused, and names them");
+                   "Allow the loss of values beyond the new count, order or range, and the change of a\n"
+                   "flag, type or scale that gives other values another meaning; without it, such a\n"
+                   "change is refused, and names them");
 }
 
 RecordForm FormOf(const RecordImage& image) {
@@ -201,17 +203,30 @@ public:
                               L": the value is missing, and the probe is a new one"};
     }
 
-    /// Raises Problem with the values that the record has lost, or that are others now, without being given.
+    /// Raises Problem with the values that the record has lost, or that are others now, or mean something
+    /// else, without being given.
     void RequireNothingLost() const {
+        const Entries redecided = Redecided();
         std::vector<std::wstring> lost;
+        std::vector<std::wstring> reinterpreted;
         for (const RecordImage::Entry& entry : m_before) {
             const RecordImage::Entry* const stored = m_image->Find(entry.path);
-            const bool isKept =
-                stored && (m_isAssigned[PlaceOf(stored)] || SameValue(stored->value, entry.value));
-            if (!isKept && SaysSomething(entry.value))
+            if ((stored && m_isAssigned[PlaceOf(stored)]) || !SaysSomething(entry.value))
+                continue;
+            if (!stored || !SameValue(stored->value, entry.value))
                 lost.push_back(entry.path + L"=" + ToText(entry.value));
+            for (const RecordImage::Entry& old : redecided) {
+                const RecordImage::Entry& now = *m_image->Find(old.path);
+                if (stored && ChangesMeaning(old.path, old.value, now.value, entry.path))
+                    reinterpreted.push_back(entry.path + L"=" + ToText(entry.value) + L", by " + now.path +
+                                            L"=" + ToText(now.value));
+            }
         }
         RefuseLoss(m_place, std::move(lost));
+        if (!reinterpreted.empty())
+            throw Problem{m_place + L"values of the probe would get another meaning; give them anew, or use "
+                                    L"--drop to allow it",
+                          std::move(reinterpreted)};
     }
 
     [[nodiscard]] Entries Changed() const {
@@ -232,6 +247,17 @@ public:
     }
 
 private:
+    /// The entries as they were of flags, counts, codes and texts that have other values now.
+    [[nodiscard]] Entries Redecided() const {
+        Entries redecided;
+        std::copy_if(m_before.begin(), m_before.end(), std::back_inserter(redecided),
+                     [&](const RecordImage::Entry& entry) {
+                         const RecordImage::Entry* const stored = m_image->Find(entry.path);
+                         return !std::holds_alternative<double>(entry.value) && stored &&
+                                !SameValue(stored->value, entry.value);
+                     });
+        return redecided;
+    }
     [[nodiscard]] const Entries& Result() const { return m_image->Entries(); }
     [[nodiscard]] std::size_t PlaceOf(const RecordImage::Entry* entry) const {
         return static_cast<std::size_t>(entry - Result().data());

@@ -25,7 +25,9 @@ struct Assignment {
 /// What values may be given.
 struct ValueRules {
     bool allowsNan = false; ///< NaN and infinities, too
-    bool drops = false;     ///< values that are not 0 may be lost to a smaller count or another range
+    /// Values that are not 0 may be lost to a smaller count or another range, or get another meaning by a
+    /// flag, type or scale.
+    bool drops = false;
     /// Declares "--allow-nan".
     void Declare(Arguments& arguments);
     /// Declares "--drop".

@@ -60,41 +60,65 @@ void Selection::DeclareType(Arguments& arguments) {
 
 bool Selection::IsMany() const { return type || patterns.size() != 1 || IsPattern(patterns.front()); }
 
-// NOLINTNEXTLINE(readability-function-cognitive-complexity): one question a probe
+namespace {
+
+/// What a command line says of the sections of a file: names of single probes, and patterns.
+class Chosen {
+public:
+    Chosen(const std::vector<std::wstring>& patterns, ProbeFile& file) : m_isAll(patterns.empty()) {
+        for (const std::wstring& pattern : patterns) {
+            if (file.Find(pattern))
+                m_names.insert(Folded(pattern));
+            else
+                (IsPattern(pattern) ? m_globs : m_missing).push_back(pattern);
+        }
+        m_unused = {m_globs.begin(), m_globs.end()};
+    }
+
+    [[nodiscard]] bool Means(const std::wstring& section) {
+        bool isMeant = m_isAll || m_names.contains(Folded(section));
+        for (const std::wstring& glob : m_globs) {
+            if (!IsLike(section, glob))
+                continue;
+            m_unused.erase(glob);
+            isMeant = true;
+        }
+        return isMeant;
+    }
+    /// A pattern that none of the probes is like, which Means was asked for; null for none.
+    [[nodiscard]] const std::wstring* Unused() const {
+        const auto unused = std::find_if(m_globs.begin(), m_globs.end(),
+                                         [&](const std::wstring& glob) { return m_unused.contains(glob); });
+        return unused == m_globs.end() ? nullptr : &*unused;
+    }
+    /// The names that are neither probes nor patterns.
+    [[nodiscard]] const std::vector<std::wstring>& Missing() const { return m_missing; }
+
+private:
+    bool m_isAll;
+    std::unordered_set<std::wstring> m_names; // folded
+    std::vector<std::wstring> m_globs;
+    std::vector<std::wstring> m_missing;
+    std::unordered_set<std::wstring> m_unused;
+};
+
+} // namespace
+
 std::vector<std::wstring> Selection::In(ProbeFile& file) const {
     if (!IsMany() || (!type && patterns.size() == 1 && file.Find(patterns.front())))
         return {SpelledInFile(file, patterns.front())};
     std::optional<QuorConversions::EQuorConversionType> code;
     if (type)
         code = RequireType(*type).code;
-    std::unordered_set<std::wstring> names; // of single probes
-    std::vector<std::wstring> missing;
-    std::vector<std::wstring> globs;
-    for (const std::wstring& pattern : patterns) {
-        if (file.Find(pattern))
-            names.insert(Folded(pattern));
-        else
-            (IsPattern(pattern) ? globs : missing).push_back(pattern);
-    }
+    Chosen chosen(patterns, file);
     std::vector<std::wstring> sections;
-    std::vector<bool> isUsed(globs.size(), false);
-    for (const ProbeEntry& probe : file.Probes()) {
-        if (code && probe.type != code)
-            continue;
-        bool isMeant = patterns.empty() || names.contains(Folded(probe.section));
-        for (std::size_t i = 0; i < globs.size(); ++i) {
-            if (IsLike(probe.section, globs[i]))
-                isMeant = isUsed[i] = true;
-        }
-        if (isMeant)
+    for (const ProbeEntry& probe : file.Probes())
+        if ((!code || probe.type == code) && chosen.Means(probe.section))
             sections.push_back(probe.section);
-    }
     const std::wstring ofType = code ? L" of the type " + *type : L"";
-    for (std::size_t i = 0; i < globs.size(); ++i) {
-        if (!isUsed[i])
-            throw Problem{file.Path() + L": no probe" + ofType + L" is like \"" + globs[i] + L"\""};
-    }
-    sections.insert(sections.end(), missing.begin(), missing.end());
+    if (const std::wstring* const unused = chosen.Unused())
+        throw Problem{file.Path() + L": no probe" + ofType + L" is like \"" + *unused + L"\""};
+    sections.insert(sections.end(), chosen.Missing().begin(), chosen.Missing().end());
     if (sections.empty() && !patterns.empty())
         throw Problem{file.Path() + L": none of the probes is" + ofType};
     return sections;

@@ -159,53 +159,84 @@ void AddLine(std::string& hunk, char sign, std::string_view line) {
         hunk += "\n\\ No newline at end of file\n";
 }
 
+/// Goes through both texts, and puts their hunks together.
+class HunkWriter {
+public:
+    HunkWriter(const Lines& a, const Lines& b) : m_a(a), m_b(b), m_comparison(a, b) {}
+
+    /// The next hunk; empty when there is no further one.
+    [[nodiscard]] std::string Next() {
+        const std::size_t same = SkipSame(static_cast<std::size_t>(-1));
+        if (IsAtEnd())
+            return {};
+        const std::size_t leading = std::min(same, around);
+        const std::size_t firstA = m_i - leading;
+        const std::size_t firstB = m_j - leading;
+        m_hunk.clear();
+        AddContext(firstA, m_i);
+        do {
+            AddChange();
+        } while (AddContextBelow());
+        return "@@ -" + Range(firstA, m_i - firstA) + " +" + Range(firstB, m_j - firstB) + " @@\n" + m_hunk;
+    }
+
+private:
+    static constexpr std::size_t around = 3;
+
+    [[nodiscard]] bool IsAtEnd() const { return m_i == m_a.size() && m_j == m_b.size(); }
+    [[nodiscard]] bool IsSame() const {
+        return m_i < m_a.size() && m_j < m_b.size() && !m_comparison.isOnlyInA[m_i] &&
+               !m_comparison.isOnlyInB[m_j];
+    }
+    /// Goes over lines that both have, `most` of them; how many these were.
+    std::size_t SkipSame(std::size_t most) {
+        std::size_t same = 0;
+        for (; same < most && IsSame(); ++same)
+            ++m_i, ++m_j;
+        return same;
+    }
+    void AddContext(std::size_t first, std::size_t last) {
+        for (std::size_t line = first; line < last; ++line)
+            AddLine(m_hunk, ' ', m_a[line]);
+    }
+    void AddChange() {
+        while (m_i < m_a.size() && m_comparison.isOnlyInA[m_i])
+            AddLine(m_hunk, '-', m_a[m_i++]);
+        while (m_j < m_b.size() && m_comparison.isOnlyInB[m_j])
+            AddLine(m_hunk, '+', m_b[m_j++]);
+    }
+    /// Adds the lines below a change; all of them, and true, where the next change is so near that it belongs
+    /// into the same hunk.
+    bool AddContextBelow() {
+        const std::size_t start = m_i;
+        const std::size_t same = SkipSame(2 * around + 1);
+        const bool goesOn = same <= 2 * around && !IsAtEnd();
+        const std::size_t kept = goesOn ? same : std::min(same, around);
+        m_i -= same - kept;
+        m_j -= same - kept;
+        AddContext(start, m_i);
+        return goesOn;
+    }
+
+    const Lines& m_a;
+    const Lines& m_b;
+    Comparison m_comparison;
+    std::size_t m_i = 0; // the next line of each
+    std::size_t m_j = 0;
+    std::string m_hunk;
+};
+
 } // namespace
 
-// NOLINTNEXTLINE(readability-function-cognitive-complexity): hunks, with the lines around them
 std::string UnifiedDiff(const std::string& name, std::string_view before, std::string_view after) {
     if (before == after)
         return {};
-    constexpr std::size_t around = 3;
     const Lines a = SplitLines(before);
     const Lines b = SplitLines(after);
-    const Comparison comparison(a, b);
+    HunkWriter hunks(a, b);
     std::string diff = "--- " + (before.empty() ? "/dev/null" : name) + "\n+++ " + name + "\n";
-    std::size_t i = 0;
-    std::size_t j = 0;
-    const auto isSame = [&] {
-        return i < a.size() && j < b.size() && !comparison.isOnlyInA[i] && !comparison.isOnlyInB[j];
-    };
-    while (i < a.size() || j < b.size()) {
-        std::size_t same = 0; // lines before the next change
-        while (isSame())
-            ++i, ++j, ++same;
-        if (i == a.size() && j == b.size())
-            break;
-        const std::size_t leading = std::min(same, around);
-        const std::size_t firstA = i - leading;
-        const std::size_t firstB = j - leading;
-        std::string hunk;
-        for (std::size_t line = firstA; line < i; ++line)
-            AddLine(hunk, ' ', a[line]);
-        for (bool goesOn = true; goesOn;) {
-            while (i < a.size() && comparison.isOnlyInA[i])
-                AddLine(hunk, '-', a[i++]);
-            while (j < b.size() && comparison.isOnlyInB[j])
-                AddLine(hunk, '+', b[j++]);
-            const std::size_t startA = i;
-            const std::size_t startB = j;
-            while (isSame() && i - startA <= 2 * around)
-                ++i, ++j;
-            const bool isEnd = i == a.size() && j == b.size();
-            goesOn = i - startA <= 2 * around && !isEnd; // another change is near
-            const std::size_t kept = goesOn ? i - startA : std::min(i - startA, around);
-            i = startA + kept;
-            j = startB + kept;
-            for (std::size_t line = startA; line < i; ++line)
-                AddLine(hunk, ' ', a[line]);
-        }
-        diff += "@@ -" + Range(firstA, i - firstA) + " +" + Range(firstB, j - firstB) + " @@\n" + hunk;
-    }
+    for (std::string hunk = hunks.Next(); !hunk.empty(); hunk = hunks.Next())
+        diff += hunk;
     return diff;
 }
 

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <iostream>
 #include <set>
+#include <string_view>
 #include <unordered_set>
 #include <utility>
 
@@ -64,7 +65,7 @@ struct Finding {
 
 /// "[section] key: text"
 std::wstring Told(const Finding& finding) {
-    if (finding.line == 0)
+    if (finding.line == 0 || finding.section.empty())
         return finding.text;
     return L"[" + finding.section + L"] " + (finding.key.empty() ? L"" : finding.key + L": ") + finding.text;
 }
@@ -215,19 +216,30 @@ class Check final : public Command {
         std::unordered_set<std::wstring> chosen;
         if (IsSelecting()) {
             for (const std::wstring& section : m_selection.In(*file)) {
-                if (!file->Find(section) && !file->Store()->HasSection(section))
-                    throw Problem{Place(path, section) + L": there is no such section"};
+                if (!file->Find(section))
+                    throw Problem{Place(path, section) + (file->Store()->HasSection(section)
+                                                              ? L": the section is not the record of a probe"
+                                                              : L": there is no such section")};
                 chosen.insert(Folded(section));
             }
             m_count += chosen.size();
         }
         std::vector<Finding> findings;
-        for (const ProbeProblem& problem : file->Check()) {
+        Progress progress(L"probes of " + path, file->Probes().size());
+        for (const ProbeProblem& problem : file->Check([&progress] { progress.Step(); })) {
             if (!IsSelecting() || IsOf(problem.section, chosen))
                 findings.push_back({path, problem.line, problem.section, problem.key, IdOf(problem),
                                     problem.text, problem.IsWarning()});
         }
+        const std::string_view text = file->Text();
+        if (const auto zero = text.find('\0'); zero != std::string_view::npos)
+            findings.push_back({path, 1 + Count(text.substr(0, zero), '\n'), L"", L"", L"zero-byte",
+                                L"there is a zero byte: this is no text", false});
         return findings;
+    }
+
+    static std::size_t Count(std::string_view text, char character) {
+        return static_cast<std::size_t>(std::count(text.begin(), text.end(), character));
     }
 
     /// Whether a section is that of a probe, or of its settings.

@@ -2,6 +2,7 @@
 
 #include "QuorProbeFile/ProbeNames.h"
 #include "apps/quorconv/HostFile.h"
+#include "apps/quorconv/Progress.h"
 #include "apps/quorconv/Selection.h"
 #include "apps/quorconv/Steps.h"
 
@@ -46,18 +47,24 @@ class Copy final : public Command {
             throw UsageError{L"probes of several files keep their names: no TO-SECTION"};
         if (!m_also.empty() && !m_selection.IsMany())
             throw UsageError{L"--also is for a pattern: one probe is copied from one file"};
-        std::vector<std::unique_ptr<HostFile>> sources;
-        sources.push_back(std::make_unique<HostFile>(m_from));
-        for (const std::wstring& path : m_also)
-            sources.push_back(std::make_unique<HostFile>(path));
         HostFile to(m_to, ProbeFile::Opening::OrNew);
+        std::vector<std::unique_ptr<HostFile>> others;
+        std::vector<HostFile*> sources;
+        std::vector<std::wstring> paths{m_from};
+        paths.insert(paths.end(), m_also.begin(), m_also.end());
+        for (const std::wstring& path : paths) {
+            const bool isTarget = path == standardInput && m_to == standardInput;
+            sources.push_back(isTarget ? &to : others.emplace_back(std::make_unique<HostFile>(path)).get());
+        }
         std::size_t count = 0;
         to.Edit(m_isDryRun, [&] {
             RequireReadable(*to);
             std::unordered_set<std::wstring> copied;
-            for (const auto& from : sources) {
+            Progress progress(L"probes", 0);
+            for (HostFile* const from : sources) {
                 RequireReadable(**from);
                 for (const std::wstring& section : m_selection.In(**from)) {
+                    progress.Step();
                     if (!copied.insert(QuorProbeFile::Folded(section)).second)
                         throw Problem{Place((*from)->Path(), section) +
                                       L": a probe of this name stands in several of the files"};

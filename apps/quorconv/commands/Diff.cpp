@@ -62,6 +62,7 @@ class Diff final : public Command {
                     Print(probe.section, change.key, TextOf(change.before), TextOf(change.after));
         });
         after.ForEach([&](const std::wstring& section) {
+            progress.Step();
             if (!before.Has(section))
                 PrintProbe('+', "added", after.Read(section));
         });

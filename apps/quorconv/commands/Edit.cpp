@@ -46,10 +46,10 @@ class Edit final : public Command {
     }
 
     ExitCode Run() override {
-        if (m_path == standardInput)
-            throw UsageError{L"edit needs a file: a dialog waits for the user"};
         if (m_script || m_show)
             Play();
+        else if (m_path == standardInput)
+            throw UsageError{L"edit needs a file, or --script: a dialog waits for the user"};
         else if (m_isDryRun)
             throw UsageError{L"--dry-run needs --script: a person sees in the dialog what will be written"};
         else if (HasDisplay())
@@ -60,14 +60,23 @@ class Edit final : public Command {
     }
 
     void Play() {
-        QuorProbeFile::ProbeFile file(m_path);
-        Probe probe = ReadProbeToEdit(file, SpelledInFile(file, m_section));
+        HostFile file(m_path);
+        Probe probe = ReadProbeToEdit(*file, SpelledInFile(*file, m_section));
+        if (PlayOn(probe))
+            Write(probe, file);
+        else if (m_path == standardInput && m_script)
+            file.Edit(m_isDryRun, [] {}); // what comes next in a pipe gets the file as it was
+    }
+
+    /// Whether the user of the script has pressed OK.
+    bool PlayOn(Probe& probe) {
         std::wstring commands = m_show ? L"show\n" : L"";
         commands += m_script ? ReadText(*m_script) : L"escape";
         const std::size_t added = m_show ? 1 : 0; // lines that the script does not have
+        std::ostream& out = m_path == standardInput && m_script ? std::cerr : std::cout; // beside the file
         try {
-            Scripted::Script(commands, added).PlayOn(probe.Screen(), [](const std::wstring& screen) {
-                std::cout << QuorIniFile::ToUtf8(screen);
+            Scripted::Script(commands, added).PlayOn(probe.Screen(), [&out](const std::wstring& screen) {
+                out << QuorIniFile::ToUtf8(screen);
             });
         } catch (const Scripted::ScriptError& error) {
             throw Problem{m_script.value_or(L"") + L": " + error.text};
@@ -77,11 +86,19 @@ class Edit final : public Command {
             throw Problem{Place(m_path, m_section) + L": the dialog did not go as the script says",
                           complaints};
         if (!accepted)
-            return;
+            return false;
         if (const auto& advice = probe.Screen().UnexpectedAdvice(); !advice.empty())
             throw Problem{Place(m_path, m_section) +
                               L": nothing was written, because of advice that the script does not expect",
                           advice};
+        return true;
+    }
+
+    void Write(Probe& probe, HostFile& read) const {
+        if (m_path == standardInput) {
+            read.Edit(m_isDryRun, [&] { WriteEdited(probe, *read); });
+            return;
+        }
         HostFile now(m_path);
         if (m_isDryRun)
             now.Edit(true, [&] { WriteEdited(probe, *now); });

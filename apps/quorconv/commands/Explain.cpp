@@ -48,7 +48,8 @@ class Explain final : public Command {
         }
         bool isFound = false;
         for (const RecordKey& key : RecordKeys(type.code)) {
-            if (m_key && !EqualFolded(key.path, *m_key) && !EqualFolded(key.name, *m_key))
+            const bool isNamed = m_key && !m_key->empty() && EqualFolded(key.name, *m_key);
+            if (m_key && !isNamed && !EqualFolded(key.path, *m_key))
                 continue;
             isFound = true;
             Print(key);

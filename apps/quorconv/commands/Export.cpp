@@ -35,7 +35,8 @@ class Export final : public Command {
             throw UsageError{L"--csv needs --type: the columns are the keys of one type"};
         HostFile file(m_path);
         const auto sections = m_selection.In(*file);
-        Progress progress(L"probes", sections.size());
+        Progress progress(L"probes", sections.size(),
+                          m_isCsv ? Progress::Results::AtTheEnd : Progress::Results::InBetween);
         std::optional<CsvTable> table;
         if (m_isCsv)
             table.emplace(RequireType(*m_selection.type).code, m_style);

@@ -4,8 +4,10 @@
 #include "apps/quorconv/HostFile.h"
 #include "apps/quorconv/Json.h"
 #include "apps/quorconv/Probe.h"
+#include "apps/quorconv/Progress.h"
 
 #include <iostream>
+#include <utility>
 
 namespace quorconv {
 
@@ -25,30 +27,34 @@ class List final : public Command {
 
     ExitCode Run() override {
         HostFile file(m_path);
+        const bool isFine = TellUnreadable(*file);
+        const char* separator = "[";
+        Progress progress(L"probes", file->Probes().size(), Progress::Results::InBetween);
+        for (const ProbeEntry& probe : file->Probes()) {
+            progress.Step();
+            if (m_isJson)
+                std::cout << std::exchange(separator, ",");
+            (m_isJson ? PrintJson : Print)(file, probe);
+        }
         if (m_isJson)
-            PrintJson(file);
-        else
-            for (const ProbeEntry& probe : file->Probes())
-                std::cout << ToPrintable(probe.section) << '\t'
-                          << ToPrintable(probe.type ? TypeName(*probe.type) : L"?") << '\t'
-                          << ToPrintable(probe.type ? file->ConversionName(probe) : L"?") << '\n';
-        return fine;
+            std::cout << (*separator == '[' ? "[]\n" : "\n]\n");
+        return isFine ? fine : problemFound;
     }
 
-    static void PrintJson(HostFile& file) {
-        const char* separator = "";
-        std::cout << '[';
-        for (const ProbeEntry& probe : file->Probes()) {
-            std::cout << std::exchange(separator, ",") << "\n  {\"section\": " << JsonText(probe.section);
-            if (probe.type)
-                std::cout << ", \"code\": " << *probe.type
-                          << ", \"type\": " << JsonText(TypeName(*probe.type))
-                          << ", \"name\": " << JsonText(file->ConversionName(probe));
-            else
-                std::cout << ", \"code\": null, \"type\": null, \"name\": null";
-            std::cout << ", \"line\": " << probe.line << '}';
-        }
-        std::cout << (*separator != '\0' ? "\n]\n" : "]\n");
+    static void Print(HostFile& file, const ProbeEntry& probe) {
+        std::cout << ToPrintable(probe.section) << '\t'
+                  << ToPrintable(probe.type ? TypeName(*probe.type) : L"?") << '\t'
+                  << ToPrintable(probe.type ? file->ConversionName(probe) : L"?") << '\n';
+    }
+
+    static void PrintJson(HostFile& file, const ProbeEntry& probe) {
+        std::cout << "\n  {\"section\": " << JsonText(probe.section);
+        if (probe.type)
+            std::cout << ", \"code\": " << *probe.type << ", \"type\": " << JsonText(TypeName(*probe.type))
+                      << ", \"name\": " << JsonText(file->ConversionName(probe));
+        else
+            std::cout << ", \"code\": null, \"type\": null, \"name\": null";
+        std::cout << ", \"line\": " << probe.line << '}';
     }
 };
 

@@ -6,10 +6,12 @@
 #include "QuorProbeFile/RecordReference.h"
 #include "apps/quorconv/CommandLine.h"
 #include "apps/quorconv/HostFile.h"
+#include "apps/quorconv/UnifiedDiff.h"
 
 #include <algorithm>
 #include <fstream>
 #include <iomanip>
+#include <iostream>
 #include <sstream>
 
 namespace quorconv {
@@ -68,9 +70,15 @@ public:
     }
     void Example(const std::string& line) { m_text += ".PP\n.RS 4\n.nf\n" + Roff(line) + "\n.fi\n.RE\n"; }
 
-    void Save(const std::wstring& folder) const {
+    void Save(const std::wstring& folder, bool isDryRun) const {
         const std::wstring path = folder + L"/" + QuorIniFile::DecodeBytes(m_name) + L"." +
                                   std::wstring(1, static_cast<wchar_t>(m_section));
+        if (isDryRun) {
+            std::ostringstream present;
+            present << std::ifstream(FilePath(path), std::ios::binary).rdbuf();
+            std::cout << UnifiedDiff(QuorIniFile::ToPrintable(path), present.str(), m_text);
+            return;
+        }
         std::ofstream file(FilePath(path), std::ios::binary);
         if (!(file << m_text).flush())
             throw Problem{path + L": the file cannot be written"};
@@ -206,16 +214,20 @@ Page RecordsPage() {
 
 class Manual final : public Command {
     std::wstring m_folder;
+    bool m_isDryRun = false;
 
     void Declare(Arguments& arguments) override {
         arguments.One("FOLDER", m_folder, Meaning::File, "The folder that gets the pages");
+        DeclareDryRun(arguments, m_isDryRun);
     }
 
     ExitCode Run() override {
+        if (m_folder.empty())
+            throw UsageError{L"the name of the folder is empty"};
         for (const DeclaredCommand& command : DeclaredCommands())
-            PageOf(command).Save(m_folder);
-        OverviewPage().Save(m_folder);
-        RecordsPage().Save(m_folder);
+            PageOf(command).Save(m_folder, m_isDryRun);
+        OverviewPage().Save(m_folder, m_isDryRun);
+        RecordsPage().Save(m_folder, m_isDryRun);
         return fine;
     }
 };

@@ -4,6 +4,7 @@
 #include "QuorProbeFile/RecordMeaning.h"
 #include "apps/quorconv/HostFile.h"
 #include "apps/quorconv/ProbeValues.h"
+#include "apps/quorconv/Progress.h"
 #include "apps/quorconv/Records.h"
 #include "apps/quorconv/Selection.h"
 
@@ -18,6 +19,59 @@ namespace quorconv {
 using namespace QuorProbeFile;
 
 namespace {
+
+/// The probes of a file that its base does not have, by their values.
+class AddedProbes {
+public:
+    AddedProbes(const ProbeTable& base, const ProbeTable& table) {
+        table.ForEach([&](const std::wstring& section) {
+            if (base.Has(section))
+                return;
+            for (const std::wstring& text : Texts(table.Read(section)))
+                m_byValue[text].push_back(m_sections.size());
+            m_sections.push_back(section);
+        });
+    }
+
+    [[nodiscard]] bool IsEmpty() const { return m_sections.empty(); }
+
+    /// The name of the probe that has more than half of the values of one of the base: that one, renamed,
+    /// and perhaps changed as well. Nothing when there is none.
+    [[nodiscard]] std::optional<std::wstring> NameOf(const ProbeValues& probe) const {
+        constexpr std::size_t common = 100; // a value that so many have tells none from another
+        const auto texts = Texts(probe);
+        std::unordered_map<std::size_t, std::size_t> shared; // values, by the number of the section
+        for (const std::wstring& text : texts) {
+            const auto found = m_byValue.find(text);
+            if (found != m_byValue.end() && (found->second.size() < common || texts.size() == 1))
+                for (const std::size_t section : found->second)
+                    ++shared[section];
+        }
+        const auto most = std::max_element(shared.begin(), shared.end(), [](const auto& a, const auto& b) {
+            return std::pair(a.second, b.first) < std::pair(b.second, a.first); // the first of several
+        });
+        if (most == shared.end() || most->second * 2 <= texts.size())
+            return std::nullopt;
+        return m_sections[most->first];
+    }
+
+private:
+    /// The values of a probe with its type, without zeros: many have those. Of a probe without values its
+    /// type alone.
+    static std::vector<std::wstring> Texts(const ProbeValues& probe) {
+        const std::wstring type = std::to_wstring(probe.code);
+        std::vector<std::wstring> texts;
+        for (const RecordImage::Entry& entry : probe.entries)
+            if (const double* const number = std::get_if<double>(&entry.value); number && *number != 0.0)
+                texts.push_back(type + L"\n" + entry.path + L"=" + ToText(entry.value));
+        if (texts.empty())
+            texts.push_back(type);
+        return texts;
+    }
+
+    std::vector<std::wstring> m_sections;
+    std::unordered_map<std::wstring, std::vector<std::size_t>> m_byValue; // numbers of sections
+};
 
 class Merge final : public Command {
     std::wstring m_base;
@@ -56,10 +110,13 @@ class Merge final : public Command {
             std::vector<std::wstring> conflicts;
             std::vector<Change> written; // of theirs
             std::vector<std::wstring> removed;
+            Progress progress(L"probes", 0);
             theirs.ForEach([&](const std::wstring& section) {
+                progress.Step();
                 MergeProbe(base.Find(section), ours.Find(section), theirs.Read(section), written, conflicts);
             });
             base.ForEach([&](const std::wstring& section) {
+                progress.Step();
                 if (theirs.Has(section))
                     return;
                 const auto our = ours.Find(section);
@@ -74,8 +131,10 @@ class Merge final : public Command {
             if (!conflicts.empty())
                 throw Problem{m_ours + L": nothing was written, because both files have changed the same",
                               std::move(conflicts)};
-            for (const Change& change : written)
+            for (const Change& change : written) {
+                progress.Step();
                 Write(*file, *theirFile, change);
+            }
             for (const std::wstring& section : removed)
                 file->Remove(section);
             count = written.size();
@@ -91,39 +150,20 @@ class Merge final : public Command {
     /// there twice.
     void FindTwoNames(const ProbeTable& base, const ProbeTable& ours, const ProbeTable& theirs,
                       std::vector<std::wstring>& conflicts) const {
-        const auto ourNames = AddedByRecord(base, ours);
-        const auto theirNames = AddedByRecord(base, theirs);
-        if (ourNames.empty() || theirNames.empty())
+        const AddedProbes ourAdded(base, ours);
+        const AddedProbes theirAdded(base, theirs);
+        if (ourAdded.IsEmpty() || theirAdded.IsEmpty())
             return;
         base.ForEach([&](const std::wstring& section) {
             if (ours.Has(section) || theirs.Has(section))
                 return;
-            const std::wstring record = RecordText(base.Read(section));
-            const auto our = ourNames.find(record);
-            const auto their = theirNames.find(record);
-            if (our != ourNames.end() && their != theirNames.end() &&
-                !EqualFolded(our->second, their->second))
-                conflicts.push_back(L"[" + section + L"]: renamed to [" + our->second + L"] here, to [" +
-                                    their->second + L"] in " + m_theirs);
+            const ProbeValues probe = base.Read(section);
+            const auto our = ourAdded.NameOf(probe);
+            const auto their = theirAdded.NameOf(probe);
+            if (our && their && !theirs.Has(*our) && !ours.Has(*their))
+                conflicts.push_back(L"[" + section + L"]: renamed to [" + *our + L"] here, to [" + *their +
+                                    L"] in " + m_theirs);
         });
-    }
-
-    /// The names of the probes that the base does not have, by their values.
-    static std::unordered_map<std::wstring, std::wstring> AddedByRecord(const ProbeTable& base,
-                                                                        const ProbeTable& table) {
-        std::unordered_map<std::wstring, std::wstring> names;
-        table.ForEach([&](const std::wstring& section) {
-            if (!base.Has(section))
-                names.emplace(RecordText(table.Read(section)), section);
-        });
-        return names;
-    }
-
-    static std::wstring RecordText(const ProbeValues& probe) {
-        std::wstring text = std::to_wstring(probe.code);
-        for (const RecordImage::Entry& entry : probe.entries)
-            text += L"\n" + entry.path + L"=" + ToText(entry.value);
-        return text;
     }
 
     /// Raises Problem for sections of probes that occur twice: only the first of them could be compared, and

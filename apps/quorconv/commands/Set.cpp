@@ -1,6 +1,7 @@
 #include "apps/quorconv/commands/Rows.h"
 
 #include "apps/quorconv/HostFile.h"
+#include "apps/quorconv/Progress.h"
 #include "apps/quorconv/Records.h"
 #include "apps/quorconv/Selection.h"
 #include "apps/quorconv/Steps.h"
@@ -50,8 +51,11 @@ class Set final : public Command {
             if (m_selection.IsMany())
                 RequireReadable(file);
             const auto sections = m_selection.In(file);
-            for (const std::wstring& section : sections)
+            Progress progress(L"probes of " + file.Path(), sections.size());
+            for (const std::wstring& section : sections) {
+                progress.Step();
                 SetValues(file, section, assignments, m_rules);
+            }
             return sections.size();
         });
         if (m_selection.IsMany() || paths.size() > 1)

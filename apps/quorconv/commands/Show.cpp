@@ -67,7 +67,7 @@ class Show final : public Command {
         if (hasTitle && !m_isJson && !m_isJsonLines)
             std::cout << std::exchange(m_separator, "\n") << "# " << ToPrintable(path) << "\n";
         const auto sections = m_selection.In(*file);
-        Progress progress(L"probes", sections.size());
+        Progress progress(L"probes", sections.size(), Progress::Results::InBetween);
         bool isFine = !m_selection.IsMany() || TellUnreadable(*file);
         for (const std::wstring& section : sections) {
             progress.Step();

@@ -6,6 +6,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,19 @@ protected:
             command += " '" + argument + "'";
         const int status = std::system((command + " >.out 2>.err").c_str());
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, folder.Read(".out"), folder.Read(".err")};
+    }
+
+    /// The commands that the help of the program lists.
+    [[nodiscard]] std::vector<std::string> Commands() const {
+        std::istringstream lines(Quorconv({"--help"}).out);
+        std::vector<std::string> commands;
+        bool isList = false;
+        for (std::string line; std::getline(lines, line);) {
+            if (isList && line.starts_with("  ") && line.size() > 2 && line[2] != ' ')
+                commands.push_back(line.substr(2, line.find(' ', 2) - 2));
+            isList = isList || line == "Subcommands:";
+        }
+        return commands;
     }
 
     /// Runs a line as a shell does; "quorconv" is the program.

@@ -94,7 +94,7 @@ const BadFile badFiles[] = {
      "[A]\nConversionType=14\n[A - Settings]\nRTPW=25.5\nRTPW 25.6\n", //
      "host.ini:5: [A - Settings] the line is no key=value\n"},
     {"a record whose header is broken is told", "[Host\nColour=red\n[A\nConversionType=14\n",
-     "host.ini:3: [] the header has no \"]\"; nobody can read the record below it\n"},
+     "host.ini:3: the header has no \"]\"; nobody can read the record below it\n"},
     {"a type that does not exist is told",
      "[A]\nConversionType=99\n", //
      "host.ini:2: [A] ConversionType: 99 is no conversion type\n"},

@@ -140,7 +140,7 @@ TEST_F(QuorconvCompareTest, NamesAConflictOfTypesOfSizesAndOfNewProbes) {
 }
 
 TEST_F(QuorconvCompareTest, AFlagOfOneFileAndValuesOfTheOtherAreAConflict) {
-    ExpectFine({"set", "theirs.ini", "A", "UsePolynomial=True"});
+    ExpectFine({"set", "theirs.ini", "A", "UsePolynomial=True", "--drop"});
     ExpectFine({"set", "ours.ini", "A", "Coefficients1=0.0039"});
     ExpectConflicts(
         "  [A] UsePolynomial: changed in theirs.ini, and other values of the probe in the other file\n");
@@ -152,7 +152,7 @@ TEST_F(QuorconvCompareTest, AFlagOfOneFileAndValuesOfTheOtherAreAConflict) {
 }
 
 TEST_F(QuorconvCompareTest, AFlagOfOneFileAndAValueOfTheOtherThatItSaysNothingOfAreMerged) {
-    ExpectFine({"set", "theirs.ini", "A", "UsePolynomial=True"});
+    ExpectFine({"set", "theirs.ini", "A", "UsePolynomial=True", "--drop"});
     ExpectFine({"set", "ours.ini", "A", "Coefficients0=101"}); // R0 with the flag and without it
     ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
     EXPECT_NE(folder.Read("ours.ini").find("UsePolynomial=True\nCoefficients0=101"), std::string::npos)
@@ -161,7 +161,7 @@ TEST_F(QuorconvCompareTest, AFlagOfOneFileAndAValueOfTheOtherThatItSaysNothingOf
     folder.Write("theirs.ini", folder.Read("base.ini"));
     folder.Write("ours.ini", folder.Read("base.ini"));
     for (const char* const file : {"ours.ini", "theirs.ini"}) // which both have changed alike
-        ExpectFine({"set", file, "A", "UsePolynomial=True"});
+        ExpectFine({"set", file, "A", "UsePolynomial=True", "--drop"});
     ExpectFine({"set", "theirs.ini", "A", "Coefficients1=0.0040"});
     ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
 }

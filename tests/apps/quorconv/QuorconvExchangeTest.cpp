@@ -134,7 +134,7 @@ TEST_F(QuorconvExchangeTest, NamesOfCoefficientsNeedTheFlagThatSaysWhatTheyMean)
 
 TEST_F(QuorconvExchangeTest, AnEmptyTextGoesThroughATable) {
     std::filesystem::copy_file(QUOR_SAMPLES "/laboratory.ini", folder.Path("laboratory.ini"));
-    ExpectFine({"set", "laboratory.ini", "Probe 17 TCK-5122", "TempScale="});
+    ExpectFine({"set", "laboratory.ini", "Probe 17 TCK-5122", "TempScale=", "--drop"});
     ExpectShell("quorconv export laboratory.ini 'Probe 17*' --csv --type tcx | quorconv put copy.ini --csv",
                 "", "quorconv: 1 probe exported\nquorconv: 1 probe put\n");
     ExpectFine({"get", "copy.ini", "Probe 17 TCK-5122", "TempScale"}, "\n");

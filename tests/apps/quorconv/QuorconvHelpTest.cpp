@@ -18,19 +18,6 @@ protected:
         folder.Write("steps.txt", "");
     }
 
-    /// The commands that the help of the program lists.
-    [[nodiscard]] std::vector<std::string> Commands() const {
-        std::istringstream lines(Quorconv({"--help"}).out);
-        std::vector<std::string> commands;
-        bool isList = false;
-        for (std::string line; std::getline(lines, line);) {
-            if (isList && line.starts_with("  ") && line.size() > 2 && line[2] != ' ')
-                commands.push_back(line.substr(2, line.find(' ', 2) - 2));
-            isList = isList || line == "Subcommands:";
-        }
-        return commands;
-    }
-
     [[nodiscard]] std::vector<std::string> ExamplesOf(const std::string& command) const {
         std::istringstream lines(Quorconv({command, "--help"}).out);
         std::vector<std::string> examples;

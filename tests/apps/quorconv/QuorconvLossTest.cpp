@@ -38,6 +38,43 @@ TEST_F(QuorconvLossTest, AnotherRangeNamesTheCoefficientsThatItDoesNotHave) {
     EXPECT_EQ(folder.Read("a.ini"), Replaced(before, "Range=6", "Range=8"));
 }
 
+TEST_F(QuorconvLossTest, AFlagTypeScaleOrRangeThatGivesOtherValuesAnotherMeaningNamesThem) {
+    ExpectFine(
+        {"new", "a.ini", "C", "cvd", "Coefficients0=100", "Coefficients1=0.00385", "Coefficients2=1.5"});
+    ExpectFine({"new", "a.ini", "T", "tcx", "TCType=4", "NumPoints=1", "Temperatures0=5", "Offsets0=0.25"});
+    ExpectFine({"new", "a.ini", "I", "i90", "High Range/Range=6", "High Range/Coefficients0=1e-3"});
+    const std::string before = folder.Read("a.ini");
+    const std::string other =
+        " values of the probe would get another meaning; give them anew, or use --drop to allow it\n";
+    ExpectRefused({"set", "a.ini", "C", "UsePolynomial=True"},
+                  "quorconv: a.ini: [C]" + other +
+                      "  Coefficients1=0.00385, by UsePolynomial=True\n"
+                      "  Coefficients2=1.5, by UsePolynomial=True\n");
+    ExpectRefused({"set", "a.ini", "C", "UsePolynomial=True", "Coefficients1=0.0039"},
+                  "quorconv: a.ini: [C]" + other + "  Coefficients2=1.5, by UsePolynomial=True\n");
+    ExpectRefused({"set", "a.ini", "T", "TCType=5"}, "quorconv: a.ini: [T]" + other +
+                                                         "  Temperatures0=5, by TCType=5\n"
+                                                         "  Offsets0=0.25, by TCType=5\n");
+    ExpectRefused({"set", "a.ini", "T", "OffsetScale=F"},
+                  "quorconv: a.ini: [T]" + other + "  Offsets0=0.25, by OffsetScale=F\n");
+    ExpectRefused({"set", "a.ini", "I", "High Range/Range=8"},
+                  "quorconv: a.ini: [I]" + other +
+                      "  High Range/Coefficients0=0.001, by High Range/Range=8\n");
+    ExpectShell("echo 'set C UsePolynomial=True' | quorconv apply a.ini", "",
+                "quorconv: a.ini: nothing was written, because a line of - is wrong\n  -:1: a.ini: [C]" +
+                    Replaced(other, "\n", "") +
+                    "\n    Coefficients1=0.00385, by UsePolynomial=True\n"
+                    "    Coefficients2=1.5, by UsePolynomial=True\n",
+                1);
+    EXPECT_EQ(folder.Read("a.ini"), before);
+    ExpectFine({"set", "a.ini", "C", "UsePolynomial=True", "Coefficients1=0.0039", "Coefficients2=1.5"});
+    EXPECT_EQ(folder.Read("a.ini"),
+              Replaced(Replaced(before, "UsePolynomial=False", "UsePolynomial=True"), "0.00385", "0.0039"));
+    folder.Write("a.ini", before);
+    ExpectFine({"set", "a.ini", "C", "UsePolynomial=True", "--drop"});
+    EXPECT_EQ(folder.Read("a.ini"), Replaced(before, "UsePolynomial=False", "UsePolynomial=True"));
+}
+
 TEST_F(QuorconvLossTest, AGreaterCountDoesNotWriteOverValuesThatASmallerOneHasLeftInTheFile) {
     const std::string file = "[C]\nConversionType=2\n[C - Settings]\nNumCoefficients=2\nUsePolynomial=0\n"
                              "Coefficients0=100\nCoefficients1=0.0039\nCoefficients2=1.5\n";
@@ -107,6 +144,23 @@ TEST_F(QuorconvLossTest, TwoNamesForOneProbeAreAConflict) {
     EXPECT_EQ(folder.Read("ours.ini"), ours);
 }
 
+TEST_F(QuorconvLossTest, TwoNamesForOneProbeAreAConflictAlsoWhereOneOfItsValuesWasChanged) {
+    ExpectFine(
+        {"new", "base.ini", "P", "cvd", "Coefficients0=100.1", "Coefficients1=0.00385", "Coefficients2=1.5"});
+    folder.Write("ours.ini", folder.Read("base.ini"));
+    folder.Write("theirs.ini", folder.Read("base.ini"));
+    ExpectFine({"rename", "ours.ini", "P", "P 1"});
+    ExpectFine({"rename", "theirs.ini", "P", "P one"});
+    ExpectFine({"set", "theirs.ini", "P one", "Coefficients0=100.2"});
+    const std::string ours = folder.Read("ours.ini");
+    ExpectRefused({"merge", "base.ini", "ours.ini", "theirs.ini"},
+                  "quorconv: ours.ini: nothing was written, because both files have changed the same\n"
+                  "  [P]: renamed to [P 1] here, to [P one] in theirs.ini\n");
+    EXPECT_EQ(folder.Read("ours.ini"), ours);
+    ExpectFine({"set", "theirs.ini", "P one", "Coefficients1=0.0039", "Coefficients2=1.6"}); // another probe
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
+}
+
 TEST_F(QuorconvLossTest, NothingIsAddedToAFileThatCannotBeReadWholly) {
     folder.Write("lost.ini", "[A\nVersion=1.0\nConversionType=14\n");
     folder.Write("zero.ini", std::string("\x7F"
@@ -149,10 +203,23 @@ TEST_F(QuorconvLossTest, ATableOfASpreadsheetIsReadByItsOwnSeparatorAloneAndNeve
         "quorconv export a.ini --csv --type w90 --separator tab | quorconv put b.ini --csv --separator tab",
         "", "quorconv: 1 probe exported\nquorconv: 1 probe put\n");
     EXPECT_EQ(folder.Read("a.ini"), folder.Read("b.ini"));
+    const std::string hint = "; \"--separator semicolon\" reads a table like this\n";
     folder.Write("in.csv", "\"section\";\"type\"\n");
     ExpectRefused({"put", "a.ini", "in.csv", "--csv"},
-                  head + "  in.csv:1: a comma or the end of the line expected after a field in quotes; "
-                         "\"--separator semicolon\" reads such a table\n");
+                  head + "  in.csv:1: a comma or the end of the line expected after a field in quotes" +
+                      hint);
+    folder.Write("in.csv", "section;type;Coefficients1 [ALPHA, 1/\xC2\xB0"
+                           "C or A, 1/\xC2\xB0"
+                           "C]\nA;cvd;0,00385\n"); // its names have commas
+    ExpectRefused({"put", "a.ini", "in.csv", "--csv"},
+                  head + "  in.csv:1: there is no column \"section\"" + hint);
+    folder.Write("in.csv", "section;type;\"RTPW [ohm]\"\nA;w90;1\n");
+    ExpectRefused(
+        {"put", "a.ini", "in.csv", "--csv"},
+        head + "  in.csv:1: a quote inside a field: put the whole field in quotes and double the quote" +
+            hint);
+    folder.Write("in.csv", "name;type\nA;w90\n"); // no separator makes a table of it
+    ExpectRefused({"put", "a.ini", "in.csv", "--csv"}, head + "  in.csv:1: there is no column \"section\"\n");
 }
 
 TEST_F(QuorconvLossTest, EachWrongLineOfATableAndEachWrongStepIsTold) {

@@ -61,6 +61,23 @@ TEST_F(QuorconvManyTest, TellsTheNearestCommandTypeAndKey) {
     ExpectRefused({"lsit", "host.ini"}, "quorconv: there is no command \"lsit\"; did you mean \"list\"?\n",
                   2);
     ExpectRefused({"frobnicate"}, "quorconv: there is no command \"frobnicate\"\n", 2);
+    ExpectRefused({"--verison"}, "quorconv: there is no option \"--verison\"; did you mean \"--version\"?\n",
+                  2);
+    ExpectRefused({"show", "host.ini", "--jsno"},
+                  "quorconv: the command \"show\" has no option \"--jsno\"; did you mean \"--json\"?\n", 2);
+    ExpectRefused({"set", "host.ini", "Oven", "Coefficients0=1", "--dryrun"},
+                  "quorconv: the command \"set\" has no option \"--dryrun\"; did you mean \"--dry-run\"?\n",
+                  2);
+    ExpectRefused({"check", "host.ini", "--formt=gcc"},
+                  "quorconv: the command \"check\" has no option \"--formt\"; did you mean \"--format\"?\n",
+                  2);
+    ExpectRefused({"get", "host.ini", "-x", "RTPW"},
+                  "quorconv: the command \"get\" has no option \"-x\"; \"--\" goes before names that begin "
+                  "with \"-\"\n",
+                  2);
+    ExpectRefused({"get", "--", "host.ini", "-x", "RTPW"},
+                  "quorconv: host.ini: [-x]: there is no such section\n");
+    ExpectUnchanged();
     ExpectRefused({"explain", "cdv"},
                   "quorconv: \"cdv\" is no conversion type; the command \"types\" lists them; did you mean "
                   "\"cvd\"?\n");
@@ -301,7 +318,17 @@ TEST_F(QuorconvManyTest, ReadsTheStandardInputAndWritesTheStandardOutputForADash
                 "-:11: [Bath A - Settings] RTPW: \"x\" is not a number\n", "", 1);
     ExpectShell("printf 'type RTPW 7\\nclick OK\\n' | quorconv edit host.ini 'Bath A' --script -", "");
     EXPECT_EQ(folder.Read("host.ini"), Replaced(before, "25.5", "7"));
-    ExpectShell("quorconv copy - Oven - P <host.ini", "",
+    ExpectShell("quorconv copy - Oven - P <host.ini | quorconv get - P Coefficients0", "100.02\n");
+    ExpectShell("printf 'type RTPW 8\\nclick OK\\n' >steps.txt\n"
+                "quorconv edit - 'Bath A' --script steps.txt <host.ini | quorconv get - 'Bath A' RTPW",
+                "8\n");
+    ExpectShell("printf 'show\\nescape\\n' >steps.txt\n"
+                "quorconv edit - 'Bath A' --script steps.txt <host.ini 2>shown | cmp - host.ini",
+                "");
+    EXPECT_TRUE(folder.Read("shown").starts_with("W(T90) Settings\n")) << folder.Read("shown");
+    ExpectShell("quorconv edit - 'Bath A' <host.ini", "",
+                "quorconv: edit needs a file, or --script: a dialog waits for the user\n", 2);
+    ExpectShell("quorconv diff - - <host.ini", "",
                 "quorconv: \"-\" can be given only once: the standard input can be read only once\n", 2);
 }
 
@@ -377,6 +404,24 @@ TEST_F(QuorconvManyTest, ColoursATerminalAloneAndOnlyWhereColoursAreWanted) {
     ExpectShell("TERM=xterm quorconv check host.ini", plain + "\n", "", 1);
 }
 
+TEST_F(QuorconvManyTest, TellsOnATerminalHowFarAWorkOfMoreThanASecondIs) {
+    std::string probes;
+    std::string steps;
+    for (int i = 0; i < 5000; ++i) {
+        probes += "[P" + std::to_string(i) + "]\nConversionType=10\n";
+        steps += "rename P" + std::to_string(i) + " Q" + std::to_string(i) + "\n";
+    }
+    folder.Write("many.ini", probes);
+    folder.Write("steps.txt", steps);
+    const Outcome run =
+        Shell("export TERM=xterm\n"
+              "script -qefc 'quorconv apply many.ini steps.txt' shown </dev/null >/dev/null &\n"
+              "for i in {1..600}; do grep -qa 'of 5000 steps' shown && break; sleep 0.1; done\n"
+              "kill $!; wait; tr '\\r' '\\n' <shown | grep -aom1 '^[0-9]* of 5000 steps'");
+    EXPECT_NE(run.out.find(" of 5000 steps\n"), std::string::npos) << run.out << run.err;
+    EXPECT_EQ(folder.Read("many.ini"), probes) << "it was ended before it was done";
+}
+
 TEST_F(QuorconvManyTest, ExplainsWhatARecordHoldsAndEachKey) {
     ExpectFine({"explain", "w90"}, "CONV_WT90 (14): W(T90)\n"
                                    "Stand-alone files: .w90, section [W(T90)]\n"
@@ -396,4 +441,7 @@ TEST_F(QuorconvManyTest, ExplainsWhatARecordHoldsAndEachKey) {
                                             "  default  0\n");
     ExpectFine({"explain", "CONV_OHMS"}, "CONV_OHMS (10): Ohms\nA record of this type has no settings.\n");
     ExpectRefused({"explain", "cvd", "GAMMA"}, "quorconv: CONV_CVD: there is no key \"GAMMA\"\n");
+    ExpectRefused({"explain", "cvd", ""}, "quorconv: CONV_CVD: there is no key \"\"\n");
+    ExpectRefused({"explain", ""},
+                  "quorconv: \"\" is no conversion type; the command \"types\" lists them\n");
 }

@@ -99,7 +99,7 @@ TEST_F(QuorconvProcessesTest, OnlyOneOfEightProcessesAddsAProbeOfOneName) {
 TEST_F(QuorconvProcessesTest, AnEditKeepsWhatAnotherProcessChangesWhileTheDialogIsOpen) {
     folder.Write("host.ini", before);
     const Outcome edit = EditWhile("type R0 100.03\nclick OK", [&] {
-        ExpectFine({"set", "host.ini", "Probe 1", "Coefficients1=0.004", "UsePolynomial=True"});
+        ExpectFine({"set", "host.ini", "Probe 1", "Coefficients1=0.004", "UsePolynomial=True", "--drop"});
     });
     EXPECT_EQ(edit.code, 0);
     EXPECT_EQ(edit.err, "");
