@@ -272,9 +272,17 @@ void ProbeFileFace::CopyFrom(ProbeFileFace& source, std::wstring section, std::w
     });
 }
 
-auto ProbeFileFace::TakeAll(const std::vector<Step>& steps) -> Written {
-    Written records;
+auto ProbeFileFace::TakeAll(const std::vector<Step>& steps) -> Records {
+    Records records;
+    std::vector<const Step*> written; // whole, since what was written is remembered
+    // Before a section that was written gets another name, or another probe its name.
+    const auto remember = [&] {
+        for (const Step* const step : std::exchange(written, {}))
+            records.insert_or_assign(step->host, m_file.Record(step->section));
+    };
     for (auto step = steps.begin(); step != steps.end();) {
+        if (!step->written || step->record)
+            remember();
         if (!step->written) {
             (step++)->other();
             continue;
@@ -290,20 +298,18 @@ auto ProbeFileFace::TakeAll(const std::vector<Step>& steps) -> Written {
                sections.insert(Folded(step->section)).second;
              ++step) {
             probes.push_back({step->section, *step->written});
-            records.insert_or_assign(step->host, std::pair(RecordAsRead(), step->section));
+            written.push_back(&*step);
         }
         m_file.Write(probes);
     }
+    remember();
     return records;
 }
 
-void ProbeFileFace::TakeChanges(const Step& step, Written& records) {
+void ProbeFileFace::TakeChanges(const Step& step, Records& records) {
     if (step.isReadAnew) // perhaps from another probe: what was written from it before counts no more
         records.erase(step.host);
-    const auto [known, isFirst] = records.try_emplace(step.host, *step.record, std::wstring());
-    auto& [record, section] = known->second;
-    if (!section.empty())
-        record = m_file.Record(std::exchange(section, {}));
+    RecordAsRead& record = records.try_emplace(step.host, *step.record).first->second;
     if (MergeInto(step.section, *step.written, record))
         return;
     const RecordConflict& first = m_conflicts.front();
@@ -320,19 +326,11 @@ void ProbeFileFace::Release() {
     Do([&] {
         if (std::exchange(m_isAbandoned, false))
             Throw(changedMeanwhile, Path() + L": nothing is written: a bracket was abandoned");
-        Written records;
+        Records records;
         m_file.Edit([&] { records = TakeAll(steps); });
-        for (auto& [host, written] : records) {
-            auto& [record, section] = written;
-            if (host.expired() || readAnew.contains(host)) // what was read last counts
-                continue;
-            if (section.empty())
+        for (auto& [host, record] : records)
+            if (!host.expired() && !readAnew.contains(host)) // what was read last counts
                 Remember(host, std::move(record));
-            else if (FindProbe(section) >= 0) // else it has gone, or got another name, in the same bracket
-                Remember(host, m_file.Record(section));
-            else
-                m_records.erase(host);
-        }
     });
 }
 

@@ -119,10 +119,6 @@ private:
     };
     /// What was read into the conversions of a host, or written from them.
     using Records = std::map<std::weak_ptr<CQuorConversion>, RecordAsRead, std::owner_less<>>;
-    /// The same of those that a bracket writes; or the section of one whose record is to be looked at when
-    /// the file is saved.
-    using Written =
-        std::map<std::weak_ptr<CQuorConversion>, std::pair<RecordAsRead, std::wstring>, std::owner_less<>>;
 
     [[nodiscard]] const QuorProbeFile::ProbeEntry& Probe(std::int32_t index);
     [[nodiscard]] const QuorProbeFile::ProbeProblem& Problem(std::int32_t index) const;
@@ -133,8 +129,8 @@ private:
     /// Takes the step now, or at the end of the bracket.
     void Take(std::function<void()> step);
     /// Takes all steps. What the records of the conversions are then.
-    [[nodiscard]] Written TakeAll(const std::vector<Step>& steps);
-    void TakeChanges(const Step& step, Written& records);
+    [[nodiscard]] Records TakeAll(const std::vector<Step>& steps);
+    void TakeChanges(const Step& step, Records& records);
     [[nodiscard]] bool MergeInto(std::wstring_view section, const CQuorConversion& conversion,
                                  RecordAsRead& record);
     void Remember(const std::weak_ptr<CQuorConversion>& conversion, RecordAsRead record);

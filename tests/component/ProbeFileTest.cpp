@@ -349,6 +349,61 @@ TEST_F(ProbeFileFromC, OneConversionServesSeveralProbesInABracket) {
     EXPECT_EQ(File(), Replaced(Replaced(both, "100.01 ;", "102 ;"), "=101\n", "=102\n"));
 }
 
+TEST_F(ProbeFileFromC, WhatABracketWritesIsKnownByItsConversionUnderWhateverNameItHasThen) {
+    const Handle file = Open();
+    const Handle conversion = Read(file);
+    const Handle other = Read(file); // R0 = 100.01, of which C is made
+    ASSERT_EQ(quor_probe_file_Write(file, Text("C"), other), 0);
+    SetR0(conversion, 99);
+    ASSERT_EQ(quor_probe_file_Hold(file), 0);
+    ASSERT_EQ(quor_probe_file_Write(file, Text("A"), conversion), 0);
+    ASSERT_EQ(quor_probe_file_Rename(file, Text("A"), Text("B")), 0);
+    ASSERT_EQ(quor_probe_file_Rename(file, Text("C"), Text("A")), 0);
+    ASSERT_EQ(quor_probe_file_Release(file), 0);
+    SetR0(conversion, 100.01); // as in what is called A now
+    std::int16_t answer = 0;
+    ASSERT_EQ(quor_probe_file_Differs(file, Text("B"), conversion, &answer), 0);
+    EXPECT_EQ(answer, -1);
+    ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("B"), conversion, &answer), 0);
+    EXPECT_EQ(answer, -1);
+    EXPECT_EQ(File().find("=99\n"), std::string::npos);
+}
+
+TEST_F(ProbeFileFromC, ChangesOfABracketGoIntoWhatItHasWrittenAndRenamed) {
+    const Handle file = Open();
+    const Handle conversion = Read(file);
+    SetR0(conversion, 99);
+    ASSERT_EQ(quor_probe_file_Hold(file), 0);
+    ASSERT_EQ(quor_probe_file_Write(file, Text("A"), conversion), 0);
+    ASSERT_EQ(quor_probe_file_Rename(file, Text("A"), Text("B")), 0);
+    SetR0(conversion, 98);
+    ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("B"), conversion, nullptr), 0);
+    ASSERT_EQ(quor_probe_file_Release(file), 0);
+    EXPECT_NE(
+        File().find("[B - Settings]\nVersion=1.0\nNumCoefficients=4\nUsePolynomial=True\nCoefficients0=98\n"),
+        std::string::npos);
+}
+
+TEST_F(ProbeFileFromC, WhatIsCopiedOverAProbeThatABracketHasWrittenIsNobodysChange) {
+    const Handle file = Open();
+    const Handle conversion = Read(file);
+    SetR0(conversion, 99);
+    ASSERT_EQ(quor_cvd_put_Coefficients(SettingsOf(conversion), QUOR_CVD_ALPHA, 0.0039), 0);
+    ASSERT_EQ(quor_probe_file_Hold(file), 0);
+    ASSERT_EQ(quor_probe_file_Write(file, Text("A"), conversion), 0);
+    ASSERT_EQ(quor_probe_file_Remove(file, Text("A")), 0);
+    ASSERT_EQ(quor_probe_file_Copy(file, Text("P"), Text("A")), 0);
+    ASSERT_EQ(quor_probe_file_Release(file), 0);
+    ASSERT_EQ(quor_cvd_put_Coefficients(SettingsOf(conversion), QUOR_CVD_DELTA, -5E-7), 0);
+    std::int16_t written = 0;
+    ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("A"), conversion, &written), 0);
+    EXPECT_EQ(written, -1);
+    const std::string text = File();
+    EXPECT_EQ(text.substr(text.find("[A - Settings]")),
+              "[A - Settings]\nVersion=1.0\nNumCoefficients=4\nUsePolynomial=True\nCoefficients0=100.01\n"
+              "Coefficients1=0.0039083\nCoefficients2=-5e-07\nCoefficients3=-4.183e-12\n");
+}
+
 TEST_F(ProbeFileFromC, ABracketThatFailsLeavesWhatCountsAsRead) {
     const Handle file = Open();
     const Handle conversion = Read(file);
