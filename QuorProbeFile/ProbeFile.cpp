@@ -2,6 +2,7 @@
 
 #include "QuorConversions/core/RecordNames.h"
 #include "QuorConversions/core/modPaths.h"
+#include "QuorConversions/thermistor/CQuorThermistor.h"
 #include "QuorIniFile/IniLines.h"
 #include "QuorIniFile/Utf8.h"
 #include "QuorProbeFile/ProbeNames.h"
@@ -56,6 +57,8 @@ bool IsNested(std::wstring_view section) {
 /// Gives one conversion type and values of another one.
 void Assign(CQuorConversion& to, const CQuorConversion& from) {
     to.SetConversionType(from.ConversionType());
+    if (const auto thermistor = SettingsAs<CQuorThermistor>(from)) // a host may have turned the other one
+        SettingsAs<CQuorThermistor>(to)->SetConvType(thermistor->ConvType());
     if (const auto settings = from.Settings())
         RecordImage::Apply(RecordImage::Of(*settings), *to.Settings());
 }
@@ -282,7 +285,7 @@ ReadOutcome ProbeFile::Read(std::wstring_view section, CQuorConversion& conversi
     const SectionIndex::Section& place = *places.Section(probe.section);
     probe.section = places.NameOf(place);
     probe.line = place.header.number;
-    const RecordReading reading(m_store, m_path, probe);
+    const RecordReading reading(m_store, m_path, probe, &conversion);
     probe.type = reading.Conversion().ConversionType();
     ReadOutcome outcome;
     outcome.problems = ProblemsOf(reading, probe, places);

@@ -111,7 +111,8 @@ public:
     /// reading is not a change.
     ///
     /// A type that is not the code of a conversion is returned as a problem, and the conversion receives that
-    /// type, which has no settings.
+    /// type, which has no settings. So is a range of the ITS-90 outside the limits that a host has set
+    /// (MinRange, MaxRange) in a conversion of the same type, which receives the defaults.
     ///
     /// Raises PROBE_NO_SUCH_SECTION, PROBE_NO_RECORD and PROBE_TYPE_UNREADABLE, and leaves the conversion
     /// unchanged.

@@ -2,6 +2,7 @@
 
 #include "QuorConversions/core/modPaths.h"
 #include "QuorConversions/core/modStrings.h"
+#include "QuorConversions/rtd/CQuorITS90.h"
 #include "QuorProbeFile/ProbeTypes.h"
 
 #include <algorithm>
@@ -22,6 +23,19 @@ std::wstring OnOneLine(const std::wstring& text) {
     return line;
 }
 
+/// Makes `to` a conversion of the type of `from` that refuses the same ranges.
+void TakeLimits(CQuorConversion& to, const CQuorConversion& from) {
+    const auto its90 = SettingsAs<CQuorITS90>(from);
+    if (!its90)
+        return;
+    to.SetConversionType(from.ConversionType());
+    const auto limited = SettingsAs<CQuorITS90>(to);
+    limited->LowRange()->SetMinRange(its90->LowRange()->MinRange());
+    limited->LowRange()->SetMaxRange(its90->LowRange()->MaxRange());
+    limited->HighRange()->SetMinRange(its90->HighRange()->MinRange());
+    limited->HighRange()->SetMaxRange(its90->HighRange()->MaxRange());
+}
+
 } // namespace
 
 void MessageCollector::ShowMessage(const MessageRequest& request) {
@@ -30,10 +44,10 @@ void MessageCollector::ShowMessage(const MessageRequest& request) {
 }
 
 RecordReading::RecordReading(const std::shared_ptr<INIFile>& file, std::wstring_view path,
-                             const ProbeEntry& entry)
+                             const ProbeEntry& entry, const CQuorConversion* host)
     : m_standAlone(entry.standAlone) {
     if (!m_standAlone) {
-        Read(file, entry);
+        Read(file, entry, host);
         return;
     }
     // Several types share an extension (the two directions of a thermistor): the first that reads the record
@@ -43,7 +57,7 @@ RecordReading::RecordReading(const std::shared_ptr<INIFile>& file, std::wstring_
     ProbeEntry candidate = entry;
     for (const TypeInfo* const type : candidates) {
         candidate.type = type->code;
-        Read(file, candidate);
+        Read(file, candidate, host);
         if (Messages().empty())
             break;
     }
@@ -54,10 +68,13 @@ RecordReading::RecordReading(const std::shared_ptr<INIFile>& file, const ProbeEn
     Read(file, entry);
 }
 
-void RecordReading::Read(const std::shared_ptr<INIFile>& file, const ProbeEntry& entry) {
+void RecordReading::Read(const std::shared_ptr<INIFile>& file, const ProbeEntry& entry,
+                         const CQuorConversion* host) {
     m_reads = std::make_shared<ReadLog>(file);
     m_messages = std::make_shared<MessageCollector>(m_reads);
     m_conversion = std::make_unique<CQuorConversion>(m_messages);
+    if (host)
+        TakeLimits(*m_conversion, *host);
     std::shared_ptr<INIFile> iniFile = m_reads;
     if (m_standAlone) {
         m_conversion->SetConversionType(*entry.type);

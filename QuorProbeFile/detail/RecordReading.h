@@ -38,9 +38,10 @@ private:
 class RecordReading {
 public:
     /// Reads the record `entry` of the file `path`, which `file` is bound to. The type of a stand-alone one
-    /// is found out.
+    /// is found out. What `host`, if it is of that type, refuses is refused here, too: ranges outside its
+    /// limits.
     RecordReading(const std::shared_ptr<QuorIniFile::INIFile>& file, std::wstring_view path,
-                  const ProbeEntry& entry);
+                  const ProbeEntry& entry, const QuorConversions::CQuorConversion* host = nullptr);
     /// Reads the record `entry`, which is of the type that it says.
     RecordReading(const std::shared_ptr<QuorIniFile::INIFile>& file, const ProbeEntry& entry);
 
@@ -58,7 +59,8 @@ public:
     [[nodiscard]] bool LacksKeys() const;
 
 private:
-    void Read(const std::shared_ptr<QuorIniFile::INIFile>& file, const ProbeEntry& entry);
+    void Read(const std::shared_ptr<QuorIniFile::INIFile>& file, const ProbeEntry& entry,
+              const QuorConversions::CQuorConversion* host = nullptr);
 
     bool m_standAlone;
     std::shared_ptr<ReadLog> m_reads;

@@ -1012,6 +1012,52 @@ TEST_F(ProbeFileTest, ChangesOfARecordThatWasRefusedAreNotWrittenIntoItAndTheKey
     EXPECT_EQ(SettingsAs<CQuorTCTypePoly>(conversion)->Coefficients(0), 9.5);
 }
 
+TEST_F(ProbeFileTest, ARangeThatTheHostsConversionRefusesIsAProblemAndIsNotLost) {
+    const std::string text = "[P]\nVersion=1.0\nConversionType=0\n[P - Settings]\nVersion=1.0\nRTPW=25.5\n"
+                             "[P - Settings - High Range]\nVersion=1.0\nRange=11\nCoefficients0=-0.0001\n"
+                             "[P - Settings - Low Range]\nVersion=1.0\nRange=1\nCoefficients0=-0.0002\n"
+                             "Coefficients1=-1E-05\nCoefficients2=0\nCoefficients3=0\nCoefficients4=0\n"
+                             "Coefficients5=0\nCoefficients6=0\n";
+    Host(text);
+    ProbeFile file(Path());
+    const auto platform = std::make_shared<Scripted::ScriptedPlatform>();
+    CQuorConversion conversion(platform);
+    conversion.SetConversionType(CONV_ITS90);
+    const auto its90 = SettingsAs<CQuorITS90>(conversion);
+    its90->LowRange()->SetMinRange(ITS90_RANGE_4); // an instrument without the ranges below
+    ReadOutcome outcome = file.Read(L"P", conversion);
+    ASSERT_EQ(outcome.problems.size(), 1U);
+    EXPECT_EQ(outcome.problems[0].kind, PROBLEM_RECORD_REFUSED);
+    EXPECT_EQ(outcome.problems[0].section, L"P - Settings - Low Range");
+    EXPECT_EQ(outcome.problems[0].key, L"Range");
+    EXPECT_EQ(outcome.problems[0].line, 13U);
+    EXPECT_TRUE(platform->Messages().empty());
+    its90->SetRTPW(25.48318);
+    EXPECT_THROW(static_cast<void>(file.WriteChanges(L"P", conversion, outcome.record)), ProbeFileError);
+    EXPECT_EQ(File(), text);
+
+    its90->LowRange()->SetMinRange(ITS90_RANGE_1);
+    outcome = file.Read(L"P", conversion);
+    EXPECT_TRUE(outcome.IsWhole());
+    its90->SetRTPW(25.48318);
+    EXPECT_TRUE(file.WriteChanges(L"P", conversion, outcome.record).empty());
+    EXPECT_EQ(File(), Replaced(text, "25.5", "25.48318"));
+}
+
+TEST_F(ProbeFileTest, ReadingAThermistorSetsTheDirectionThatAHostHasTurned) {
+    Host("[P]\nVersion=1.0\nConversionType=5\n[P - Settings]\nVersion=1.0\nConvType=0\nNumCoefficients=1\n"
+         "Coefficients0=0.001\n");
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    conversion.SetConversionType(CONV_THERMISTORT_R);
+    const auto thermistor = SettingsAs<CQuorThermistor>(conversion);
+    const auto direction = thermistor->ConvType();
+    thermistor->SetConvType(direction == TCT_THRMT_R ? TCT_THRMR_T : TCT_THRMT_R);
+    EXPECT_TRUE(file.Read(L"P", conversion).IsWhole());
+    EXPECT_EQ(thermistor->ConvType(), direction);
+    EXPECT_EQ(thermistor->Coefficients(0), 0.001);
+}
+
 TEST_F(ProbeFileTest, ChangesOfAnotherTypeThanWasReadAreRefused) {
     Host(hostFile);
     ProbeFile file(Path());
