@@ -3,11 +3,17 @@
 #include "QuorConversions/core/RecordNames.h"
 
 #include <limits>
+#include <string>
 #include <utility>
 
 namespace QuorConversions {
 
-std::wstring IndexedKey(const wchar_t* name, std::int32_t index) { return name + std::to_wstring(index); }
+std::wstring IndexedKey(const wchar_t* name, std::int32_t index) {
+    const std::string digits = std::to_string(index); // many times as fast as std::to_wstring
+    std::wstring key;
+    key.reserve(std::char_traits<wchar_t>::length(name) + digits.size());
+    return key.append(name).append(digits.begin(), digits.end());
+}
 
 std::wstring NestedSection(const std::wstring& parent, const wchar_t* child) {
     return std::wstring(parent).append(nestedMark).append(child);
