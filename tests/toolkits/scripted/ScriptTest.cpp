@@ -316,4 +316,7 @@ TEST_F(ScriptTest, ExpectsAdviceOfTheBoxesThatShowItAndNoLonger) {
                       L"type ALPHA -\nescape"));
     EXPECT_EQ(platform->Complaints(), Texts{});
     EXPECT_EQ(platform->UnexpectedAdvice(), Texts{L"Not a number: 0 would be stored (line 4: type ALPHA -)"});
+    EXPECT_FALSE(Edit(L"type R0 -\nexpect advice Not a number: 0 would be stored\ntype ALPHA -\nescape"));
+    EXPECT_EQ(platform->UnexpectedAdvice(), Texts{L"Not a number: 0 would be stored (line 3: type ALPHA -)"})
+        << "which R0 shows, too";
 }
