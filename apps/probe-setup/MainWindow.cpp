@@ -106,7 +106,7 @@ MainWindow::MainWindow(std::shared_ptr<QuorRegistryII::Registry> registry, const
     const int character = fontMetrics().averageCharWidth();
     resize(QSize(std::max(character * 150, tools.width() + character * 8), fontMetrics().height() * 34)
                .boundedTo(screen()->availableSize() - FrameAround(*this)));
-    resizeDocks({m_values}, {character * 58}, Qt::Horizontal);
+    resizeDocks({m_values}, {character * 64}, Qt::Horizontal);
     restoreGeometry(QByteArray::fromBase64(m_settings.Read(geometryName).toLatin1()));
     Table().header()->restoreState(QByteArray::fromBase64(m_settings.Read(columnsName).toLatin1()));
     m_findingsHaveHeight = restoreState(QByteArray::fromBase64(m_settings.Read(panesName).toLatin1()));

@@ -77,7 +77,7 @@ void ProbeList::MakeTable() {
     m_table->setSortingEnabled(true);
     m_table->header()->setSectionResizeMode(ProbeTableModel::ChangedColumn, QHeaderView::ResizeToContents);
     const int screenWidth = screen()->availableSize().width();
-    const int nameWidth = std::min(fontMetrics().averageCharWidth() * 30, screenWidth / 5);
+    const int nameWidth = std::min(fontMetrics().averageCharWidth() * 30, screenWidth / 6);
     m_table->header()->resizeSection(ProbeTableModel::NameColumn, nameWidth);
     // Names of conversions are not cut where the screen has room for them: the panes give way.
     int conversionWidth = 0;
@@ -88,7 +88,7 @@ void ProbeList::MakeTable() {
     const int rest = m_table->header()->sectionSizeHint(ProbeTableModel::ChangedColumn) +
                      m_table->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * m_table->frameWidth();
     // On a narrow screen a name that is cut has a tool tip, but the values beside the list must not be cut.
-    const int panes = fontMetrics().averageCharWidth() * 60;
+    const int panes = fontMetrics().averageCharWidth() * 64;
     m_table->setMinimumWidth(std::min(nameWidth + conversionWidth + margins + rest,
                                       std::max(screenWidth - panes, screenWidth / 2)));
     m_table->header()->setSectionResizeMode(ProbeTableModel::ConversionColumn, QHeaderView::Stretch);

@@ -51,7 +51,8 @@ ValuePane::ValuePane(ProbeDocument& document, QuorConversions::Platform& platfor
     m_list->setIndentation(0);
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_list->header()->setStretchLastSection(true);
+    m_list->header()->setStretchLastSection(false);
+    m_list->header()->setSectionResizeMode(UnitsColumn, QHeaderView::Stretch);
     m_list->setItemDelegateForColumn(ValueColumn, new NumberDelegate(m_list));
     setWidget(m_list);
 
