@@ -42,6 +42,11 @@ bool IsWithoutFraction(const std::wstring& number, const std::wstring& separator
     return number.find(separator) == std::wstring::npos && number.find(L'E') == std::wstring::npos;
 }
 
+/// Whether a number could be the end of one that begins on the line before.
+bool IsMoreDigits(const std::wstring& number) {
+    return number.find_first_not_of(L"0123456789") == std::wstring::npos;
+}
+
 } // namespace
 
 SettingsDialog::SettingsDialog(SettingsObject& settings, std::shared_ptr<Platform> platform,
@@ -396,6 +401,8 @@ void SettingsDialog::PasteCells(TextBox& box, const PastedCells& cells) {
     const std::wstring& separator = GetDecimalSeparator(*m_platform);
     std::vector<PastedNumber> numbers;
     std::vector<std::wstring_view> texts;
+    const bool isOneColumn =
+        std::all_of(cells.begin(), cells.end(), [](const auto& line) { return line.size() == 1; });
     for (const auto& line : cells)
         for (const std::wstring_view cell : line) {
             const bool followsWhole =
@@ -408,6 +415,10 @@ void SettingsDialog::PasteCells(TextBox& box, const PastedCells& cells) {
             // A number that is broken over two lines: "100." and "012", "100" and ".012".
             if (number.ends_with(separator) || (followsWhole && number.starts_with(separator)))
                 return box.SetAdvice(AdviceOnRefusedPaste(cell, PasteRefusal::TwoReadings));
+            // "100.0" and "12" may be two numbers, or one: the user is told that they were two.
+            const std::size_t last = numbers.size() - 1;
+            if (last > 0 && isOneColumn && !followsWhole && IsMoreDigits(number))
+                numbers[last - 1].isToBeTold = numbers[last].isToBeTold = true;
         }
     const auto boxes = BoxesFor(cells, box);
     if (!boxes)

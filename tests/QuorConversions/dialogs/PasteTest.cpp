@@ -391,6 +391,28 @@ TEST_F(PasteTest, ANumberThatADocumentBreaksOverLinesIsNotPastedInParts) {
         });
 }
 
+TEST_F(PasteTest, LinesThatMayBeOneNumberArePastedAsTwoAndTold) {
+    for (const auto& [first, second] :
+         {std::pair(L"100.0", L"12"), std::pair(L"3.9083E-1", L"2"), std::pair(L"0.5", L"007")})
+        Edit([&, first = first, second = second](Person& person) {
+            person.Paste(L"R0", std::wstring(first) + L"\n" + second + L"\n1.5\n0.1");
+            EXPECT_EQ(Boxes(person), (Texts{first, second, L"1.5", L"0.1"}));
+            EXPECT_EQ(person.Advice(L"R0"), L"Pasted as " + std::wstring(first));
+            EXPECT_EQ(person.Advice(L"ALPHA"), L"Pasted as " + std::wstring(second));
+            EXPECT_EQ(person.Advice(L"DELTA"), L"");
+            person.Click(L"Cancel");
+        });
+    Edit([](Person& person) {
+        person.Paste(L"R0", L"100\n200\n300\n0.1"); // whole numbers
+        EXPECT_EQ(Boxes(person), (Texts{L"100", L"200", L"300", L"0.1"}));
+        person.Paste(L"R0", L"100.5\t1.5\n200\t0.1"); // columns
+        EXPECT_EQ(Boxes(person), (Texts{L"100.5", L"1.5", L"200", L"0.1"}));
+        for (const wchar_t* const box : {L"R0", L"ALPHA", L"DELTA", L"BETA"})
+            EXPECT_EQ(person.Advice(box), L"");
+        person.Click(L"Cancel");
+    });
+}
+
 TEST_F(PasteTest, FractionsWithoutAWholePartMayFollowEachOther) {
     Edit([](Person& person) {
         person.Paste(L"R0", L"100.1\n.0039\n1.5E0\n.11");
