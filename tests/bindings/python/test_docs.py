@@ -19,11 +19,12 @@ def test_the_notebook_runs_as_it_is_written(laboratory, monkeypatch):
     assert result.attempted >= 20
 
 
-def test_the_host_of_the_handbook_runs_as_it_is_written(laboratory, monkeypatch):
+@pytest.mark.parametrize("page, statements", [("hosts.md", 3), ("first.md", 3)])
+def test_the_hosts_of_the_handbook_run_as_they_are_written(laboratory, monkeypatch, page, statements):
     monkeypatch.chdir(laboratory.parent)
-    result = doctest.testfile(str(ROOT / "docs/handbook/hosts.md"), module_relative=False, encoding="utf-8")
+    result = doctest.testfile(str(ROOT / "docs/handbook" / page), module_relative=False, encoding="utf-8")
     assert result.failed == 0
-    assert result.attempted == 3
+    assert result.attempted == statements
 
 
 def plain_blocks(document):
