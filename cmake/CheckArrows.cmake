@@ -15,6 +15,7 @@ set(storeys
     "QuorConversions"
     "QuorProbeFile"
     "QuorConversions/qt" # what the Qt toolkit has for hosts
+    "toolkits/win32"
     "component|toolkits/scripted|toolkits/qt"
     "apps/quorconv|apps/probe-setup"
     "apps/probe-edit")
@@ -58,7 +59,8 @@ foreach(top IN ITEMS QuorIniFile QuorRegistryII QuorConversions QuorProbeFile co
         file(STRINGS ${ROOT}/${source} includes REGEX "^[ \t]*#[ \t]*include")
         foreach(line IN LISTS includes)
             string(REGEX REPLACE "^[^<\"]*[<\"]([^>\"]*)[>\"].*$" "\\1" header "${line}")
-            if(header STREQUAL "windows.h" AND source MATCHES "Windows\\.cpp$") # what asks the system, not its windows
+            # What asks the system, not its windows; and the toolkit of its windows.
+            if(header STREQUAL "windows.h" AND source MATCHES "(Windows\\.cpp$|^toolkits/win32/)")
                 continue()
             endif()
             if(header MATCHES "${toolkit_header}" AND NOT source MATCHES "^(toolkits/qt|apps/probe-setup)/")

@@ -3,7 +3,7 @@
 #include "component/Handles.h"
 #include "component/windows/Failure.h"
 #include "component/windows/Object.h"
-#include "component/windows/ServerPlatform.h"
+#include "toolkits/win32/Win32Platform.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -109,7 +109,9 @@ quor_object Create(const ClassRow& row) {
         argument.kind = QUOR_TEXT;
         argument.as.text = {application.data(), application.size()};
     } else if (name.starts_with("CQuor")) {
-        const std::shared_ptr<Platform> platform = std::make_shared<ServerPlatform>();
+        const std::filesystem::path help = std::filesystem::path(ModulePath()).parent_path() / L"help";
+        const std::shared_ptr<Platform> platform =
+            std::make_shared<Win32Toolkit::Win32Platform>(help.wstring());
         argument.kind = QUOR_OBJECT;
         argument.as.object = Component::HandleTable::Instance().Give(platform);
         argument.owned = 1;

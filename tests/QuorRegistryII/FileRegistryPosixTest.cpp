@@ -59,7 +59,7 @@ TEST(FileRegistry, AUserWithoutAHomeHasNoRegistry) {
     EXPECT_EQ(error.Number(), 76);
     EXPECT_EQ(error.Source(), L"QuorRegistryII");
     EXPECT_EQ(error.Description(), L"Path not found: App.ini: The user's configuration folder is not known, "
-                                   L"because HOME is not set");
+                                   L"because HOME (on Windows APPDATA) is not set");
     ASSERT_NE(error.Cause(), nullptr) << "another language says it in its words";
     EXPECT_EQ(error.Cause()->code, QuorIniFile::INI_CAUSE_NO_HOME);
 }

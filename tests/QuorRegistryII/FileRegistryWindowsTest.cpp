@@ -41,6 +41,12 @@ TEST(FileRegistry, AUserWithoutApplicationDataHasNoRegistry) {
     for (const char* const none : {static_cast<const char*>(nullptr), "relative", "\\App"}) {
         const ChangedVariable data("APPDATA", none);
         EXPECT_EQ(NumberRaisedFor(L"App", L""), 76);
+        try {
+            const FileRegistry registry(L"App");
+        } catch (const QuorError& error) {
+            EXPECT_EQ(error.Description(), L"Path not found: App.ini: The user's configuration folder is not "
+                                           L"known, because HOME (on Windows APPDATA) is not set");
+        }
     }
 }
 

@@ -1,4 +1,4 @@
-' Boxes and file dialogs of the system, which a person answers. Arguments: a folder.
+' Settings dialogs, boxes and file dialogs, which a person answers. Arguments: a folder.
 Option Explicit
 
 Dim folder, probe, none, cvd, name
@@ -17,3 +17,11 @@ WScript.Echo "Opened: " & cvd.OpenFile(0, name) & ", " & cvd.Coefficients(0) & "
     (LCase(name) = LCase(folder & "\saved.cvd"))
 name = Empty
 WScript.Echo "Cancelled: " & cvd.OpenFile(0, name) & ", """ & name & """"
+
+Dim index
+For index = 1 To 3
+    cvd.Coefficients(index) = index / 100
+Next
+probe.Changed = False
+WScript.Echo "Edited: " & probe.Edit & ", " & cvd.Coefficients(0) & ", " & cvd.Coefficients(3) & ", " & probe.Changed
+WScript.Echo "Left: " & probe.Edit & ", " & cvd.Coefficients(0)

@@ -1,8 +1,9 @@
 #include "toolkits/qt/QtDialog.h"
 
 #include "QuorConversions/qt/QtPlatform.h"
+#include "QuorConversions/qt/QtText.h"
 #include "tests/toolkits/qt/QtScreen.h"
-#include "tests/toolkits/qt/SampleDialog.h"
+#include "tests/toolkits/SampleDialog.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 #include "QuorConversions/rtd/CQuorPT100.h"
 #include "tests/support/TempFolder.h"
 #include "tests/toolkits/qt/QtScreen.h"
-#include "tests/toolkits/qt/SampleDialog.h"
+#include "tests/toolkits/SampleDialog.h"
 #include "toolkits/qt/HelpWindow.h"
 
 #include <gtest/gtest.h>

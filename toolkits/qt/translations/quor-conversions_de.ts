@@ -440,8 +440,8 @@
         <translation>~: Das ist keine Sperrdatei eines Speichervorgangs</translation>
     </message>
     <message>
-        <source>The user&apos;s configuration folder is not known, because HOME is not set</source>
-        <translation>Der Konfigurationsordner des Benutzers ist nicht bekannt, weil HOME nicht gesetzt ist</translation>
+        <source>The user&apos;s configuration folder is not known, because HOME (on Windows APPDATA) is not set</source>
+        <translation>Der Konfigurationsordner des Benutzers ist nicht bekannt, weil HOME (unter Windows APPDATA) nicht gesetzt ist</translation>
     </message>
     <message>
         <source>It is larger than 4 GiB</source>

@@ -2,7 +2,6 @@
 
 #include "QuorConversions/controls/Dialog.h"
 #include "QuorConversions/platform/Platform.h"
-#include "QuorConversions/qt/QtText.h"
 
 #include <functional>
 #include <string>
