@@ -78,20 +78,26 @@ def comes_out(table, name, of_type):
 
 
 def call(table, c, member, kind, function, given):
-    """The lines that call the native function; `given` are names and types of what goes in."""
-    before, arguments, usings, after = [], [] if kind == "create" else ["NativeHandle"], [], []
+    """The lines that call the native function; `given` are names and types of what goes in. What goes in is complete before
+    a reference is lent, and what came out is taken before an error is raised."""
+    before, lent, after = [] if kind == "create" else ["var it = NativeHandle;"], [], []
+    arguments, usings = [] if kind == "create" else ["it"], []
     for name, p in given:
         bare = name.lstrip("@")
         value, using = goes_in(table, name, p.type)
         usings += [using] if using else []
+        if is_reference(table, p.type):
+            before.append(f"var {bare}Handle = QuorObject.HandleOf({name});")
+            value = f"{bare}Handle"
         if not p.inout:
             arguments.append(value)
         elif p.type == "text":
             before.append(f"Text {bare}Out;")
             arguments += [value, f"out {bare}Out"]
-            after.append(f"{name} = {bare}Out.Take();")
+            after.append(f"{bare}New = {bare}Out.Take();")
+            before.append(f"string {bare}New;")
         elif is_reference(table, p.type):
-            before.append(f"var {bare}Handle = QuorObject.Lend({name});")
+            lent.append(f"{bare}Handle = QuorObject.Lend({bare}Handle);")
             arguments.append(f"ref {bare}Handle")
             after.append(f"{name} = ({type_of(table, p.type)})QuorObject.GiveBack({name}, {bare}Handle);")
         else:
@@ -106,8 +112,15 @@ def call(table, c, member, kind, function, given):
     if result:
         before.append(f"{result} result;")
         arguments.append("out result")
+    native_call = f"Native.{function}({', '.join(arguments)})"
     held = "".join(f"using ({using}) " for using in usings)
-    lines = [*before, f"{held}QuorError.Raise(Native.{function}({', '.join(arguments)}));", *after]
+    if not lent and not after:
+        lines = [*before, f"{held}QuorError.Raise({native_call});"]
+    else:
+        inner = " ".join([*lent, f"code = {native_call};"])
+        lines = [*before, "int code;", f"{held}{{ {inner} }}" if held else inner, *after, "QuorError.Raise(code);"]
+    # A text that came out is the variable's only if nothing was raised.
+    lines += [f"{name} = {name.lstrip('@')}New;" for name, p in given if p.inout and p.type == "text"]
     return lines, result
 
 

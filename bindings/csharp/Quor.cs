@@ -3,6 +3,9 @@
 //
 // An object is used by one thread at a time, and so are those that it gives out. Dispose, or "using", gives its
 // reference back; nothing else does, because a finalizer would run in a thread of its own.
+//
+// A host in C# can show dialogs and messages (HostPlatform). Its own INI files, registries and list controls, file dialogs
+// and help take a host in C, C++ or Python.
 using System;
 using System.Collections.Generic;
 using System.Runtime.ExceptionServices;
@@ -19,7 +22,8 @@ namespace QuorConversions {
         /// <summary>The topic in the help file; 0 if there is none.</summary>
         public readonly int HelpContext;
 
-        QuorError(int number, string source, string description, string helpFile, int helpContext)
+        /// <summary>An error that a platform raises under a number of its own, not 0.</summary>
+        public QuorError(int number, string source, string description, string helpFile = "", int helpContext = 0)
             : base(description) {
             Number = number;
             Source = source;
@@ -64,18 +68,18 @@ namespace QuorConversions {
 
         /// <summary>Gives the reference back. Does nothing the second time.</summary>
         public void Dispose() {
-            if (m_handle != 0)
-                QuorError.Raise(Native.quor_release(m_handle));
+            var handle = m_handle;
             m_handle = 0;
+            if (handle != 0)
+                QuorError.Raise(Native.quor_release(handle));
         }
 
         internal static ulong HandleOf(QuorObject it) { return it == null ? 0 : it.NativeHandle; } // 0 is none
 
         internal static short Flag(bool value) { return (short)(value ? -1 : 0); }
 
-        /// An in/out reference: the library releases what it replaces.
-        internal static ulong Lend(QuorObject it) {
-            var handle = HandleOf(it);
+        /// An in/out reference: the library releases what it replaces. Between Lend and GiveBack nothing may raise.
+        internal static ulong Lend(ulong handle) {
             if (handle != 0)
                 QuorError.Raise(Native.quor_add_ref(handle));
             return handle;
@@ -141,12 +145,13 @@ namespace QuorConversions {
     /// <summary>The platform of a host: it shows dialogs and messages; the rest behaves as without a screen. An exception of
     /// these methods comes back, as itself, from the call of the library.</summary>
     public abstract class HostPlatform : IDisposable {
-        readonly Native.PlatformFunctions m_functions; // keeps the delegates alive, while the library could call them
+        readonly Native.PlatformFunctions m_functions; // the delegates, which live as long as this object
         readonly Platform m_platform;
 
         protected HostPlatform() {
             m_functions = new Native.PlatformFunctions {
                 Size = (UIntPtr)Marshal.SizeOf(typeof(Native.PlatformFunctions)),
+                Destroyed = s_destroyed,
                 RunDialog = (user, shown) => Guarded(() => {
                     QuorError.Raise(Native.quor_add_ref(shown));
                     using (var dialog = (Dialog)QuorObject.Of(shown))
@@ -159,10 +164,16 @@ namespace QuorConversions {
                         Icon = (EMessageIcon)message.Icon};
                     return Guarded(() => ShowMessage(view));
                 }};
+            var self = GCHandle.Alloc(this); // until the library needs it no longer
             ulong handle;
-            QuorError.Raise(Native.quor_platform_from_host(ref m_functions, IntPtr.Zero, out handle));
+            var code = Native.quor_platform_from_host(ref m_functions, GCHandle.ToIntPtr(self), out handle);
+            if (code != 0)
+                self.Free();
+            QuorError.Raise(code);
             m_platform = (Platform)QuorObject.Of(handle);
         }
+
+        static readonly Native.Destroyed s_destroyed = user => GCHandle.FromIntPtr(user).Free();
 
         /// <summary>What conversions are created with.</summary>
         public static implicit operator Platform(HostPlatform platform) {
@@ -174,24 +185,35 @@ namespace QuorConversions {
         /// <summary>Shows the message and waits until it is closed.</summary>
         protected abstract void ShowMessage(Message message);
 
-        /// <summary>To be called after the objects that were created with this platform have been disposed of.</summary>
-        public void Dispose() {
-            m_platform.Dispose();
-            GC.KeepAlive(m_functions);
-        }
+        /// <summary>Conversions that were created with it keep it.</summary>
+        public void Dispose() { m_platform.Dispose(); }
 
-        /// No exception may run through the library: it is kept for the call that it comes from.
+        /// No exception may run through the library: it becomes an error, and is kept for the call that it comes from.
         static int Guarded(Action action) {
+            var first = QuorError.Pending; // of another function in the same call
+            QuorError.Pending = null;
             try {
                 action();
                 return 0;
             } catch (Exception error) {
-                QuorError.Pending = error;
-                return Unexpected;
+                first = first ?? error;
+                return Described(error);
+            } finally {
+                QuorError.Pending = first;
             }
         }
 
-        const int Unexpected = unchecked((int)0x80004005);
+        static int Described(Exception exception) {
+            const int Unexpected = unchecked((int)0x80004005);
+            var error = exception as QuorError ??
+                        new QuorError(Unexpected, exception.GetType().Name, exception.Message);
+            var number = error.Number != 0 ? error.Number : Unexpected;
+            using (var source = new TextIn(error.Source ?? ""))
+            using (var description = new TextIn(error.Message))
+            using (var helpFile = new TextIn(error.HelpFile ?? ""))
+                Native.quor_set_error(number, source.Value, description.Value, helpFile.Value, error.HelpContext);
+            return number;
+        }
     }
 
     /// A text as the library has it: UTF-8 with its size.
@@ -639,111 +661,135 @@ namespace QuorConversions {
         internal CQuorConversion(ulong handle) : base(handle) { }
         public CQuorConversion(Platform platform = null) : base(Create(platform)) { }
         static ulong Create(Platform platform) {
+            var platformHandle = QuorObject.HandleOf(platform);
             ulong result;
-            QuorError.Raise(Native.quor_conversion_create(QuorObject.HandleOf(platform), out result));
+            QuorError.Raise(Native.quor_conversion_create(platformHandle, out result));
             return result;
         }
         /// <summary>Whether dialogs may change values; True at first.</summary>
         public bool AllowEdit {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_conversion_get_AllowEdit(NativeHandle, out result));
+                QuorError.Raise(Native.quor_conversion_get_AllowEdit(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_conversion_put_AllowEdit(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_conversion_put_AllowEdit(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>The help file of the whole library in this process, not of this object.</summary>
         public string HelpFile {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_conversion_get_HelpFile(NativeHandle, out result));
+                QuorError.Raise(Native.quor_conversion_get_HelpFile(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_conversion_put_HelpFile(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_conversion_put_HelpFile(it, valueText.Value));
             }
         }
         /// <summary>Sets the host's registry, which may be none.</summary>
         public void SetRegistry(ref Registry vData) {
-            var vDataHandle = QuorObject.Lend(vData);
-            QuorError.Raise(Native.quor_conversion_SetRegistry(NativeHandle, ref vDataHandle));
+            var it = NativeHandle;
+            var vDataHandle = QuorObject.HandleOf(vData);
+            int code;
+            vDataHandle = QuorObject.Lend(vDataHandle); code = Native.quor_conversion_SetRegistry(it, ref vDataHandle);
             vData = (Registry)QuorObject.GiveBack(vData, vDataHandle);
+            QuorError.Raise(code);
         }
         /// <summary>The registry that was set; none at first.</summary>
         public Registry Registry {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_conversion_get_Registry(NativeHandle, out result));
+                QuorError.Raise(Native.quor_conversion_get_Registry(it, out result));
                 return (Registry)QuorObject.Of(result);
             }
         }
         /// <summary>Whether a value has changed since the host last cleared the flag. Saving does not clear it.</summary>
         public bool Changed {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_conversion_get_Changed(NativeHandle, out result));
+                QuorError.Raise(Native.quor_conversion_get_Changed(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_conversion_put_Changed(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_conversion_put_Changed(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>The folder in which file dialogs start; empty at first.</summary>
         public string FilePath {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_conversion_get_FilePath(NativeHandle, out result));
+                QuorError.Raise(Native.quor_conversion_get_FilePath(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_conversion_put_FilePath(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_conversion_put_FilePath(it, valueText.Value));
             }
         }
         /// <summary>The settings object of the current type; none when the type has none.</summary>
         public QuorObject Settings {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_conversion_get_Settings(NativeHandle, out result));
+                QuorError.Raise(Native.quor_conversion_get_Settings(it, out result));
                 return (QuorObject)QuorObject.Of(result);
             }
         }
         /// <summary>CONV_NONE at first. Another value replaces the settings object by a new one.</summary>
         public EQuorConversionType ConversionType {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_conversion_get_ConversionType(NativeHandle, out result));
+                QuorError.Raise(Native.quor_conversion_get_ConversionType(it, out result));
                 return (EQuorConversionType)result;
             }
             set {
-                QuorError.Raise(Native.quor_conversion_put_ConversionType(NativeHandle, (int)value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_conversion_put_ConversionType(it, (int)value));
             }
         }
         /// <summary>The name of a conversion type, "&lt;unknown&gt;" for a code without one. -2: of the settings object.</summary>
         public string ConversionName(int value = -2) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_conversion_ConversionName(NativeHandle, value, out result));
+            QuorError.Raise(Native.quor_conversion_ConversionName(it, value, out result));
             return result.Take();
         }
         /// <summary>Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user.</summary>
         public bool Edit() {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_conversion_Edit(NativeHandle, out result));
+            QuorError.Raise(Native.quor_conversion_Edit(it, out result));
             return result != 0;
         }
         /// <summary>Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error.</summary>
         public void WriteToFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_conversion_WriteToFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value));
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_conversion_WriteToFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
         }
         /// <summary>Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed. Beware: a section that does not exist, or has no type, makes the conversion an ITS-90 one, and its coefficients are lost. Read of ProbeFile refuses such a section.</summary>
         public bool ReadFromFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
             short result;
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_conversion_ReadFromFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value, out result));
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_conversion_ReadFromFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value, out result); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
             return result != 0;
         }
     }
@@ -754,128 +800,162 @@ namespace QuorConversions {
         /// <summary>Whether dialogs may change values; True at first.</summary>
         public bool AllowEdit {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_its90_get_AllowEdit(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_get_AllowEdit(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_its90_put_AllowEdit(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_its90_put_AllowEdit(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Sets the host's registry, which may be none.</summary>
         public void SetRegistry(ref Registry vData) {
-            var vDataHandle = QuorObject.Lend(vData);
-            QuorError.Raise(Native.quor_its90_SetRegistry(NativeHandle, ref vDataHandle));
+            var it = NativeHandle;
+            var vDataHandle = QuorObject.HandleOf(vData);
+            int code;
+            vDataHandle = QuorObject.Lend(vDataHandle); code = Native.quor_its90_SetRegistry(it, ref vDataHandle);
             vData = (Registry)QuorObject.GiveBack(vData, vDataHandle);
+            QuorError.Raise(code);
         }
         /// <summary>The registry that was set; none at first.</summary>
         public Registry Registry {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_its90_get_Registry(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_get_Registry(it, out result));
                 return (Registry)QuorObject.Of(result);
             }
         }
         /// <summary>Whether a value has changed since the host last cleared the flag. Saving does not clear it.</summary>
         public bool Changed {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_its90_get_Changed(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_get_Changed(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_its90_put_Changed(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_its90_put_Changed(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>The folder in which file dialogs start; empty at first.</summary>
         public string FilePath {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_its90_get_FilePath(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_get_FilePath(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_its90_put_FilePath(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_its90_put_FilePath(it, valueText.Value));
             }
         }
         /// <summary>The sub-range above the triple point of water. It lives as long as its owner.</summary>
         public CQuorITS90HighRange HighRange {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_its90_get_HighRange(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_get_HighRange(it, out result));
                 return (CQuorITS90HighRange)QuorObject.Of(result);
             }
         }
         /// <summary>The sub-range below the triple point of water. It lives as long as its owner.</summary>
         public CQuorITS90LowRange LowRange {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_its90_get_LowRange(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_get_LowRange(it, out result));
                 return (CQuorITS90LowRange)QuorObject.Of(result);
             }
         }
         /// <summary>Resistance at the triple point of water, ohms.</summary>
         public double RTPW {
             get {
+                var it = NativeHandle;
                 double result;
-                QuorError.Raise(Native.quor_its90_get_RTPW(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_get_RTPW(it, out result));
                 return result;
             }
             set {
-                QuorError.Raise(Native.quor_its90_put_RTPW(NativeHandle, value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_its90_put_RTPW(it, value));
             }
         }
         /// <summary>How the dialog shows RTPW: a value format. Never a change.</summary>
         public string RTPWFormat {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_its90_get_RTPWFormat(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_get_RTPWFormat(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_its90_put_RTPWFormat(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_its90_put_RTPWFormat(it, valueText.Value));
             }
         }
         /// <summary>Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user.</summary>
         public bool Edit() {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_its90_Edit(NativeHandle, out result));
+            QuorError.Raise(Native.quor_its90_Edit(it, out result));
             return result != 0;
         }
         /// <summary>The display name.</summary>
         public string GetName() {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_its90_GetName(NativeHandle, out result));
+            QuorError.Raise(Native.quor_its90_GetName(it, out result));
             return result.Take();
         }
         /// <summary>Reads the settings file Filename, or the one that the user chooses. False if the user cancelled.</summary>
         public bool OpenFile(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_its90_OpenFile(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_its90_OpenFile(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Asks for a file and writes a settings file. False if the user cancelled.</summary>
         public bool SaveFileAs(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_its90_SaveFileAs(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_its90_SaveFileAs(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error.</summary>
         public void WriteToFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_its90_WriteToFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value));
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_its90_WriteToFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
         }
         /// <summary>Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed.</summary>
         public bool ReadFromFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
             short result;
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_its90_ReadFromFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value, out result));
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_its90_ReadFromFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value, out result); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
             return result != 0;
         }
     }
@@ -886,145 +966,177 @@ namespace QuorConversions {
         /// <summary>Whether the labels of the dialog include the range number; True at first. Never a change.</summary>
         public bool ShowCoefRange {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_its90_low_range_get_ShowCoefRange(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_low_range_get_ShowCoefRange(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_its90_low_range_put_ShowCoefRange(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_its90_low_range_put_ShowCoefRange(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Whether the dialog lets the user choose another range; True at first. Never a change.</summary>
         public bool AllowChangeRange {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_its90_low_range_get_AllowChangeRange(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_low_range_get_AllowChangeRange(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_its90_low_range_put_AllowChangeRange(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_its90_low_range_put_AllowChangeRange(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Sets the host's registry, which may be none.</summary>
         public void SetRegistry(ref Registry vData) {
-            var vDataHandle = QuorObject.Lend(vData);
-            QuorError.Raise(Native.quor_its90_low_range_SetRegistry(NativeHandle, ref vDataHandle));
+            var it = NativeHandle;
+            var vDataHandle = QuorObject.HandleOf(vData);
+            int code;
+            vDataHandle = QuorObject.Lend(vDataHandle); code = Native.quor_its90_low_range_SetRegistry(it, ref vDataHandle);
             vData = (Registry)QuorObject.GiveBack(vData, vDataHandle);
+            QuorError.Raise(code);
         }
         /// <summary>The registry that was set; none at first.</summary>
         public Registry Registry {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_its90_low_range_get_Registry(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_low_range_get_Registry(it, out result));
                 return (Registry)QuorObject.Of(result);
             }
         }
         /// <summary>Whether a value has changed since the host last cleared the flag. Saving does not clear it.</summary>
         public bool Changed {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_its90_low_range_get_Changed(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_low_range_get_Changed(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_its90_low_range_put_Changed(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_its90_low_range_put_Changed(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>True at first. False selects the first range that only this side has.</summary>
         public bool RangeEnabled {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_its90_low_range_get_RangeEnabled(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_low_range_get_RangeEnabled(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_its90_low_range_put_RangeEnabled(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_its90_low_range_put_RangeEnabled(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>The name of a range of this side, empty for any other value. -2: of the current one.</summary>
         public string RangeName(int vData = -2) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_its90_low_range_RangeName(NativeHandle, vData, out result));
+            QuorError.Raise(Native.quor_its90_low_range_RangeName(it, vData, out result));
             return result.Take();
         }
         /// <summary>How many coefficients there are.</summary>
         public short NumCoefficients {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_its90_low_range_get_NumCoefficients(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_low_range_get_NumCoefficients(it, out result));
                 return result;
             }
         }
         /// <summary>ITS90_NORANGE at first. Error 0x800401F6 outside MinRange to MaxRange; no range is always valid.</summary>
         public EITS90RangeNumber Range {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_its90_low_range_get_Range(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_low_range_get_Range(it, out result));
                 return (EITS90RangeNumber)result;
             }
             set {
-                QuorError.Raise(Native.quor_its90_low_range_put_Range(NativeHandle, (int)value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_its90_low_range_put_Range(it, (int)value));
             }
         }
         /// <summary>The upper limit of Range; not checked, never a change.</summary>
         public EITS90RangeNumber MaxRange {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_its90_low_range_get_MaxRange(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_low_range_get_MaxRange(it, out result));
                 return (EITS90RangeNumber)result;
             }
             set {
-                QuorError.Raise(Native.quor_its90_low_range_put_MaxRange(NativeHandle, (int)value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_its90_low_range_put_MaxRange(it, (int)value));
             }
         }
         /// <summary>The lower limit of Range; not checked, never a change.</summary>
         public EITS90RangeNumber MinRange {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_its90_low_range_get_MinRange(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_low_range_get_MinRange(it, out result));
                 return (EITS90RangeNumber)result;
             }
             set {
-                QuorError.Raise(Native.quor_its90_low_range_put_MinRange(NativeHandle, (int)value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_its90_low_range_put_MinRange(it, (int)value));
             }
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public double GetCoefficients(EITS90LowRangeCoefficients index) {
+            var it = NativeHandle;
             double result;
-            QuorError.Raise(Native.quor_its90_low_range_get_Coefficients(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_its90_low_range_get_Coefficients(it, (int)index, out result));
             return result;
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public void SetCoefficients(EITS90LowRangeCoefficients index, double value) {
-            QuorError.Raise(Native.quor_its90_low_range_put_Coefficients(NativeHandle, (int)index, value));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_its90_low_range_put_Coefficients(it, (int)index, value));
         }
         /// <summary>How the dialog shows all coefficients. Never a change.</summary>
         public string ValueFormat {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_its90_low_range_get_ValueFormat(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_low_range_get_ValueFormat(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_its90_low_range_put_ValueFormat(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_its90_low_range_put_ValueFormat(it, valueText.Value));
             }
         }
         /// <summary>Fills a list with "&lt;none&gt;" and the ranges, each with its number as item data.</summary>
         public void FillRangeCombo(ListControl ctrl) {
-            QuorError.Raise(Native.quor_its90_low_range_FillRangeCombo(NativeHandle, QuorObject.HandleOf(ctrl)));
+            var it = NativeHandle;
+            var ctrlHandle = QuorObject.HandleOf(ctrl);
+            QuorError.Raise(Native.quor_its90_low_range_FillRangeCombo(it, ctrlHandle));
         }
         /// <summary>Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error.</summary>
         public void WriteToFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_its90_low_range_WriteToFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value));
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_its90_low_range_WriteToFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
         }
         /// <summary>Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed.</summary>
         public bool ReadFromFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
             short result;
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_its90_low_range_ReadFromFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value, out result));
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_its90_low_range_ReadFromFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value, out result); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
             return result != 0;
         }
     }
@@ -1035,145 +1147,177 @@ namespace QuorConversions {
         /// <summary>Whether the labels of the dialog include the range number; True at first. Never a change.</summary>
         public bool ShowCoefRange {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_its90_high_range_get_ShowCoefRange(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_high_range_get_ShowCoefRange(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_its90_high_range_put_ShowCoefRange(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_its90_high_range_put_ShowCoefRange(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Whether the dialog lets the user choose another range; True at first. Never a change.</summary>
         public bool AllowChangeRange {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_its90_high_range_get_AllowChangeRange(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_high_range_get_AllowChangeRange(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_its90_high_range_put_AllowChangeRange(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_its90_high_range_put_AllowChangeRange(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Sets the host's registry, which may be none.</summary>
         public void SetRegistry(ref Registry vData) {
-            var vDataHandle = QuorObject.Lend(vData);
-            QuorError.Raise(Native.quor_its90_high_range_SetRegistry(NativeHandle, ref vDataHandle));
+            var it = NativeHandle;
+            var vDataHandle = QuorObject.HandleOf(vData);
+            int code;
+            vDataHandle = QuorObject.Lend(vDataHandle); code = Native.quor_its90_high_range_SetRegistry(it, ref vDataHandle);
             vData = (Registry)QuorObject.GiveBack(vData, vDataHandle);
+            QuorError.Raise(code);
         }
         /// <summary>The registry that was set; none at first.</summary>
         public Registry Registry {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_its90_high_range_get_Registry(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_high_range_get_Registry(it, out result));
                 return (Registry)QuorObject.Of(result);
             }
         }
         /// <summary>Whether a value has changed since the host last cleared the flag. Saving does not clear it.</summary>
         public bool Changed {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_its90_high_range_get_Changed(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_high_range_get_Changed(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_its90_high_range_put_Changed(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_its90_high_range_put_Changed(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>True at first. False selects the first range that only this side has.</summary>
         public bool RangeEnabled {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_its90_high_range_get_RangeEnabled(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_high_range_get_RangeEnabled(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_its90_high_range_put_RangeEnabled(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_its90_high_range_put_RangeEnabled(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>The name of a range of this side, empty for any other value. -2: of the current one.</summary>
         public string RangeName(int vData = -2) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_its90_high_range_RangeName(NativeHandle, vData, out result));
+            QuorError.Raise(Native.quor_its90_high_range_RangeName(it, vData, out result));
             return result.Take();
         }
         /// <summary>How many coefficients there are.</summary>
         public short NumCoefficients {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_its90_high_range_get_NumCoefficients(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_high_range_get_NumCoefficients(it, out result));
                 return result;
             }
         }
         /// <summary>ITS90_NORANGE at first. Error 0x800401F6 outside MinRange to MaxRange; no range is always valid.</summary>
         public EITS90RangeNumber Range {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_its90_high_range_get_Range(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_high_range_get_Range(it, out result));
                 return (EITS90RangeNumber)result;
             }
             set {
-                QuorError.Raise(Native.quor_its90_high_range_put_Range(NativeHandle, (int)value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_its90_high_range_put_Range(it, (int)value));
             }
         }
         /// <summary>The upper limit of Range; not checked, never a change.</summary>
         public EITS90RangeNumber MaxRange {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_its90_high_range_get_MaxRange(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_high_range_get_MaxRange(it, out result));
                 return (EITS90RangeNumber)result;
             }
             set {
-                QuorError.Raise(Native.quor_its90_high_range_put_MaxRange(NativeHandle, (int)value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_its90_high_range_put_MaxRange(it, (int)value));
             }
         }
         /// <summary>The lower limit of Range; not checked, never a change.</summary>
         public EITS90RangeNumber MinRange {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_its90_high_range_get_MinRange(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_high_range_get_MinRange(it, out result));
                 return (EITS90RangeNumber)result;
             }
             set {
-                QuorError.Raise(Native.quor_its90_high_range_put_MinRange(NativeHandle, (int)value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_its90_high_range_put_MinRange(it, (int)value));
             }
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public double GetCoefficients(EITS90HighRangeCoefficients index) {
+            var it = NativeHandle;
             double result;
-            QuorError.Raise(Native.quor_its90_high_range_get_Coefficients(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_its90_high_range_get_Coefficients(it, (int)index, out result));
             return result;
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public void SetCoefficients(EITS90HighRangeCoefficients index, double value) {
-            QuorError.Raise(Native.quor_its90_high_range_put_Coefficients(NativeHandle, (int)index, value));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_its90_high_range_put_Coefficients(it, (int)index, value));
         }
         /// <summary>How the dialog shows all coefficients. Never a change.</summary>
         public string ValueFormat {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_its90_high_range_get_ValueFormat(NativeHandle, out result));
+                QuorError.Raise(Native.quor_its90_high_range_get_ValueFormat(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_its90_high_range_put_ValueFormat(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_its90_high_range_put_ValueFormat(it, valueText.Value));
             }
         }
         /// <summary>Fills a list with "&lt;none&gt;" and the ranges, each with its number as item data.</summary>
         public void FillRangeCombo(ListControl ctrl) {
-            QuorError.Raise(Native.quor_its90_high_range_FillRangeCombo(NativeHandle, QuorObject.HandleOf(ctrl)));
+            var it = NativeHandle;
+            var ctrlHandle = QuorObject.HandleOf(ctrl);
+            QuorError.Raise(Native.quor_its90_high_range_FillRangeCombo(it, ctrlHandle));
         }
         /// <summary>Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error.</summary>
         public void WriteToFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_its90_high_range_WriteToFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value));
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_its90_high_range_WriteToFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
         }
         /// <summary>Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed.</summary>
         public bool ReadFromFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
             short result;
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_its90_high_range_ReadFromFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value, out result));
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_its90_high_range_ReadFromFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value, out result); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
             return result != 0;
         }
     }
@@ -1184,150 +1328,190 @@ namespace QuorConversions {
         /// <summary>Whether dialogs may change values; True at first.</summary>
         public bool AllowEdit {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_ipts68_get_AllowEdit(NativeHandle, out result));
+                QuorError.Raise(Native.quor_ipts68_get_AllowEdit(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_ipts68_put_AllowEdit(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_ipts68_put_AllowEdit(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Sets the host's registry, which may be none.</summary>
         public void SetRegistry(ref Registry vData) {
-            var vDataHandle = QuorObject.Lend(vData);
-            QuorError.Raise(Native.quor_ipts68_SetRegistry(NativeHandle, ref vDataHandle));
+            var it = NativeHandle;
+            var vDataHandle = QuorObject.HandleOf(vData);
+            int code;
+            vDataHandle = QuorObject.Lend(vDataHandle); code = Native.quor_ipts68_SetRegistry(it, ref vDataHandle);
             vData = (Registry)QuorObject.GiveBack(vData, vDataHandle);
+            QuorError.Raise(code);
         }
         /// <summary>The registry that was set; none at first.</summary>
         public Registry Registry {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_ipts68_get_Registry(NativeHandle, out result));
+                QuorError.Raise(Native.quor_ipts68_get_Registry(it, out result));
                 return (Registry)QuorObject.Of(result);
             }
         }
         /// <summary>Whether a value has changed since the host last cleared the flag. Saving does not clear it.</summary>
         public bool Changed {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_ipts68_get_Changed(NativeHandle, out result));
+                QuorError.Raise(Native.quor_ipts68_get_Changed(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_ipts68_put_Changed(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_ipts68_put_Changed(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>The folder in which file dialogs start; empty at first.</summary>
         public string FilePath {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_ipts68_get_FilePath(NativeHandle, out result));
+                QuorError.Raise(Native.quor_ipts68_get_FilePath(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_ipts68_put_FilePath(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_ipts68_put_FilePath(it, valueText.Value));
             }
         }
         /// <summary>Whether the dialog offers the choice of the scale; False at first. Never a change.</summary>
         public bool ScaleEnabled {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_ipts68_get_ScaleEnabled(NativeHandle, out result));
+                QuorError.Raise(Native.quor_ipts68_get_ScaleEnabled(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_ipts68_put_ScaleEnabled(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_ipts68_put_ScaleEnabled(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>How many coefficients there are.</summary>
         public short NumCoefficients {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_ipts68_get_NumCoefficients(NativeHandle, out result));
+                QuorError.Raise(Native.quor_ipts68_get_NumCoefficients(it, out result));
                 return result;
             }
         }
         /// <summary>The temperature scale of the instrument; SCALE_ITS90 at first. Any value is stored.</summary>
         public EIPTS68Scale IPTS68Scale {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_ipts68_get_IPTS68Scale(NativeHandle, out result));
+                QuorError.Raise(Native.quor_ipts68_get_IPTS68Scale(it, out result));
                 return (EIPTS68Scale)result;
             }
             set {
-                QuorError.Raise(Native.quor_ipts68_put_IPTS68Scale(NativeHandle, (int)value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_ipts68_put_IPTS68Scale(it, (int)value));
             }
         }
         /// <summary>The name of a scale, empty for a value without one. -2: of the current one.</summary>
         public string IPTS68ScaleName(int vData = -2) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_ipts68_IPTS68ScaleName(NativeHandle, vData, out result));
+            QuorError.Raise(Native.quor_ipts68_IPTS68ScaleName(it, vData, out result));
             return result.Take();
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public double GetCoefficients(EIPTS68Coefficients index) {
+            var it = NativeHandle;
             double result;
-            QuorError.Raise(Native.quor_ipts68_get_Coefficients(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_ipts68_get_Coefficients(it, (int)index, out result));
             return result;
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public void SetCoefficients(EIPTS68Coefficients index, double value) {
-            QuorError.Raise(Native.quor_ipts68_put_Coefficients(NativeHandle, (int)index, value));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_ipts68_put_Coefficients(it, (int)index, value));
         }
         /// <summary>How the dialog shows a coefficient. Never a change.</summary>
         public string GetValueFormat(EIPTS68Coefficients index) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_ipts68_get_ValueFormat(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_ipts68_get_ValueFormat(it, (int)index, out result));
             return result.Take();
         }
         /// <summary>How the dialog shows a coefficient. Never a change.</summary>
         public void SetValueFormat(EIPTS68Coefficients index, string value) {
-            using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_ipts68_put_ValueFormat(NativeHandle, (int)index, valueText.Value));
+            var it = NativeHandle;
+            using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_ipts68_put_ValueFormat(it, (int)index, valueText.Value));
         }
         /// <summary>Fills a list with the two scales, each with its value as item data.</summary>
         public void FillScaleCombo(ListControl ctrl) {
-            QuorError.Raise(Native.quor_ipts68_FillScaleCombo(NativeHandle, QuorObject.HandleOf(ctrl)));
+            var it = NativeHandle;
+            var ctrlHandle = QuorObject.HandleOf(ctrl);
+            QuorError.Raise(Native.quor_ipts68_FillScaleCombo(it, ctrlHandle));
         }
         /// <summary>Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user.</summary>
         public bool Edit() {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_ipts68_Edit(NativeHandle, out result));
+            QuorError.Raise(Native.quor_ipts68_Edit(it, out result));
             return result != 0;
         }
         /// <summary>The display name.</summary>
         public string GetName() {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_ipts68_GetName(NativeHandle, out result));
+            QuorError.Raise(Native.quor_ipts68_GetName(it, out result));
             return result.Take();
         }
         /// <summary>Reads the settings file Filename, or the one that the user chooses. False if the user cancelled.</summary>
         public bool OpenFile(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_ipts68_OpenFile(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_ipts68_OpenFile(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Asks for a file and writes a settings file. False if the user cancelled.</summary>
         public bool SaveFileAs(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_ipts68_SaveFileAs(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_ipts68_SaveFileAs(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error.</summary>
         public void WriteToFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_ipts68_WriteToFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value));
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_ipts68_WriteToFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
         }
         /// <summary>Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed.</summary>
         public bool ReadFromFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
             short result;
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_ipts68_ReadFromFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value, out result));
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_ipts68_ReadFromFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value, out result); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
             return result != 0;
         }
     }
@@ -1338,138 +1522,175 @@ namespace QuorConversions {
         /// <summary>Whether dialogs may change values; True at first.</summary>
         public bool AllowEdit {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_cvd_get_AllowEdit(NativeHandle, out result));
+                QuorError.Raise(Native.quor_cvd_get_AllowEdit(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_cvd_put_AllowEdit(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_cvd_put_AllowEdit(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Sets the host's registry, which may be none.</summary>
         public void SetRegistry(ref Registry vData) {
-            var vDataHandle = QuorObject.Lend(vData);
-            QuorError.Raise(Native.quor_cvd_SetRegistry(NativeHandle, ref vDataHandle));
+            var it = NativeHandle;
+            var vDataHandle = QuorObject.HandleOf(vData);
+            int code;
+            vDataHandle = QuorObject.Lend(vDataHandle); code = Native.quor_cvd_SetRegistry(it, ref vDataHandle);
             vData = (Registry)QuorObject.GiveBack(vData, vDataHandle);
+            QuorError.Raise(code);
         }
         /// <summary>The registry that was set; none at first.</summary>
         public Registry Registry {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_cvd_get_Registry(NativeHandle, out result));
+                QuorError.Raise(Native.quor_cvd_get_Registry(it, out result));
                 return (Registry)QuorObject.Of(result);
             }
         }
         /// <summary>Whether a value has changed since the host last cleared the flag. Saving does not clear it.</summary>
         public bool Changed {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_cvd_get_Changed(NativeHandle, out result));
+                QuorError.Raise(Native.quor_cvd_get_Changed(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_cvd_put_Changed(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_cvd_put_Changed(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>4 at first. A negative value refuses every index until a valid one is set.</summary>
         public short NumCoefficients {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_cvd_get_NumCoefficients(NativeHandle, out result));
+                QuorError.Raise(Native.quor_cvd_get_NumCoefficients(it, out result));
                 return result;
             }
             set {
-                QuorError.Raise(Native.quor_cvd_put_NumCoefficients(NativeHandle, value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_cvd_put_NumCoefficients(it, value));
             }
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public double GetCoefficients(ECVDCoefficients index) {
+            var it = NativeHandle;
             double result;
-            QuorError.Raise(Native.quor_cvd_get_Coefficients(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_cvd_get_Coefficients(it, (int)index, out result));
             return result;
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public void SetCoefficients(ECVDCoefficients index, double value) {
-            QuorError.Raise(Native.quor_cvd_put_Coefficients(NativeHandle, (int)index, value));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_cvd_put_Coefficients(it, (int)index, value));
         }
         /// <summary>Whether the coefficients are those of the polynomial form. Never a change.</summary>
         public bool UsePolynomial {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_cvd_get_UsePolynomial(NativeHandle, out result));
+                QuorError.Raise(Native.quor_cvd_get_UsePolynomial(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_cvd_put_UsePolynomial(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_cvd_put_UsePolynomial(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>How the dialog shows a coefficient. Never a change.</summary>
         public string GetValueFormat(ECVDCoefficients index) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_cvd_get_ValueFormat(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_cvd_get_ValueFormat(it, (int)index, out result));
             return result.Take();
         }
         /// <summary>How the dialog shows a coefficient. Never a change.</summary>
         public void SetValueFormat(ECVDCoefficients index, string value) {
-            using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_cvd_put_ValueFormat(NativeHandle, (int)index, valueText.Value));
+            var it = NativeHandle;
+            using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_cvd_put_ValueFormat(it, (int)index, valueText.Value));
         }
         /// <summary>The greatest useful number of coefficients.</summary>
         public short MaxCoefficients() {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_cvd_MaxCoefficients(NativeHandle, out result));
+            QuorError.Raise(Native.quor_cvd_MaxCoefficients(it, out result));
             return result;
         }
         /// <summary>Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user.</summary>
         public bool Edit() {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_cvd_Edit(NativeHandle, out result));
+            QuorError.Raise(Native.quor_cvd_Edit(it, out result));
             return result != 0;
         }
         /// <summary>The display name.</summary>
         public string GetName() {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_cvd_GetName(NativeHandle, out result));
+            QuorError.Raise(Native.quor_cvd_GetName(it, out result));
             return result.Take();
         }
         /// <summary>The folder in which file dialogs start; empty at first.</summary>
         public string FilePath {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_cvd_get_FilePath(NativeHandle, out result));
+                QuorError.Raise(Native.quor_cvd_get_FilePath(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_cvd_put_FilePath(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_cvd_put_FilePath(it, valueText.Value));
             }
         }
         /// <summary>Reads the settings file Filename, or the one that the user chooses. False if the user cancelled.</summary>
         public bool OpenFile(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_cvd_OpenFile(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_cvd_OpenFile(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Asks for a file and writes a settings file. False if the user cancelled.</summary>
         public bool SaveFileAs(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_cvd_SaveFileAs(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_cvd_SaveFileAs(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error.</summary>
         public void WriteToFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_cvd_WriteToFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value));
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_cvd_WriteToFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
         }
         /// <summary>Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed.</summary>
         public bool ReadFromFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
             short result;
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_cvd_ReadFromFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value, out result));
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_cvd_ReadFromFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value, out result); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
             return result != 0;
         }
     }
@@ -1479,134 +1700,170 @@ namespace QuorConversions {
         internal CQuorPT100(ulong handle) : base(handle) { }
         public CQuorPT100(Platform platform = null) : base(Create(platform)) { }
         static ulong Create(Platform platform) {
+            var platformHandle = QuorObject.HandleOf(platform);
             ulong result;
-            QuorError.Raise(Native.quor_pt100_create(QuorObject.HandleOf(platform), out result));
+            QuorError.Raise(Native.quor_pt100_create(platformHandle, out result));
             return result;
         }
         /// <summary>Whether dialogs may change values; True at first.</summary>
         public bool AllowEdit {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_pt100_get_AllowEdit(NativeHandle, out result));
+                QuorError.Raise(Native.quor_pt100_get_AllowEdit(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_pt100_put_AllowEdit(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_pt100_put_AllowEdit(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Sets the host's registry, which may be none.</summary>
         public void SetRegistry(ref Registry vData) {
-            var vDataHandle = QuorObject.Lend(vData);
-            QuorError.Raise(Native.quor_pt100_SetRegistry(NativeHandle, ref vDataHandle));
+            var it = NativeHandle;
+            var vDataHandle = QuorObject.HandleOf(vData);
+            int code;
+            vDataHandle = QuorObject.Lend(vDataHandle); code = Native.quor_pt100_SetRegistry(it, ref vDataHandle);
             vData = (Registry)QuorObject.GiveBack(vData, vDataHandle);
+            QuorError.Raise(code);
         }
         /// <summary>The registry that was set; none at first.</summary>
         public Registry Registry {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_pt100_get_Registry(NativeHandle, out result));
+                QuorError.Raise(Native.quor_pt100_get_Registry(it, out result));
                 return (Registry)QuorObject.Of(result);
             }
         }
         /// <summary>Whether a value has changed since the host last cleared the flag. Saving does not clear it.</summary>
         public bool Changed {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_pt100_get_Changed(NativeHandle, out result));
+                QuorError.Raise(Native.quor_pt100_get_Changed(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_pt100_put_Changed(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_pt100_put_Changed(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>1 at first. A negative value refuses every index until a valid one is set.</summary>
         public short NumCoefficients {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_pt100_get_NumCoefficients(NativeHandle, out result));
+                QuorError.Raise(Native.quor_pt100_get_NumCoefficients(it, out result));
                 return result;
             }
             set {
-                QuorError.Raise(Native.quor_pt100_put_NumCoefficients(NativeHandle, value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_pt100_put_NumCoefficients(it, value));
             }
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public double GetCoefficients(EPT100Coefficients index) {
+            var it = NativeHandle;
             double result;
-            QuorError.Raise(Native.quor_pt100_get_Coefficients(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_pt100_get_Coefficients(it, (int)index, out result));
             return result;
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public void SetCoefficients(EPT100Coefficients index, double value) {
-            QuorError.Raise(Native.quor_pt100_put_Coefficients(NativeHandle, (int)index, value));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_pt100_put_Coefficients(it, (int)index, value));
         }
         /// <summary>How the dialog shows a coefficient. Never a change.</summary>
         public string GetValueFormat(EPT100Coefficients index) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_pt100_get_ValueFormat(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_pt100_get_ValueFormat(it, (int)index, out result));
             return result.Take();
         }
         /// <summary>How the dialog shows a coefficient. Never a change.</summary>
         public void SetValueFormat(EPT100Coefficients index, string value) {
-            using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_pt100_put_ValueFormat(NativeHandle, (int)index, valueText.Value));
+            var it = NativeHandle;
+            using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_pt100_put_ValueFormat(it, (int)index, valueText.Value));
         }
         /// <summary>The greatest useful number of coefficients.</summary>
         public short MaxCoefficients() {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_pt100_MaxCoefficients(NativeHandle, out result));
+            QuorError.Raise(Native.quor_pt100_MaxCoefficients(it, out result));
             return result;
         }
         /// <summary>Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user.</summary>
         public bool Edit() {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_pt100_Edit(NativeHandle, out result));
+            QuorError.Raise(Native.quor_pt100_Edit(it, out result));
             return result != 0;
         }
         /// <summary>The display name.</summary>
         public string GetName() {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_pt100_GetName(NativeHandle, out result));
+            QuorError.Raise(Native.quor_pt100_GetName(it, out result));
             return result.Take();
         }
         /// <summary>The folder in which file dialogs start; empty at first.</summary>
         public string FilePath {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_pt100_get_FilePath(NativeHandle, out result));
+                QuorError.Raise(Native.quor_pt100_get_FilePath(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_pt100_put_FilePath(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_pt100_put_FilePath(it, valueText.Value));
             }
         }
         /// <summary>Reads the settings file Filename, or the one that the user chooses. False if the user cancelled.</summary>
         public bool OpenFile(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_pt100_OpenFile(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_pt100_OpenFile(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Asks for a file and writes a settings file. False if the user cancelled.</summary>
         public bool SaveFileAs(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_pt100_SaveFileAs(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_pt100_SaveFileAs(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error.</summary>
         public void WriteToFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_pt100_WriteToFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value));
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_pt100_WriteToFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
         }
         /// <summary>Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed.</summary>
         public bool ReadFromFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
             short result;
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_pt100_ReadFromFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value, out result));
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_pt100_ReadFromFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value, out result); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
             return result != 0;
         }
     }
@@ -1617,118 +1874,151 @@ namespace QuorConversions {
         /// <summary>Whether dialogs may change values; True at first.</summary>
         public bool AllowEdit {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_htprt_get_AllowEdit(NativeHandle, out result));
+                QuorError.Raise(Native.quor_htprt_get_AllowEdit(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_htprt_put_AllowEdit(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_htprt_put_AllowEdit(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Sets the host's registry, which may be none.</summary>
         public void SetRegistry(ref Registry vData) {
-            var vDataHandle = QuorObject.Lend(vData);
-            QuorError.Raise(Native.quor_htprt_SetRegistry(NativeHandle, ref vDataHandle));
+            var it = NativeHandle;
+            var vDataHandle = QuorObject.HandleOf(vData);
+            int code;
+            vDataHandle = QuorObject.Lend(vDataHandle); code = Native.quor_htprt_SetRegistry(it, ref vDataHandle);
             vData = (Registry)QuorObject.GiveBack(vData, vDataHandle);
+            QuorError.Raise(code);
         }
         /// <summary>The registry that was set; none at first.</summary>
         public Registry Registry {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_htprt_get_Registry(NativeHandle, out result));
+                QuorError.Raise(Native.quor_htprt_get_Registry(it, out result));
                 return (Registry)QuorObject.Of(result);
             }
         }
         /// <summary>Whether a value has changed since the host last cleared the flag. Saving does not clear it.</summary>
         public bool Changed {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_htprt_get_Changed(NativeHandle, out result));
+                QuorError.Raise(Native.quor_htprt_get_Changed(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_htprt_put_Changed(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_htprt_put_Changed(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>The folder in which file dialogs start; empty at first.</summary>
         public string FilePath {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_htprt_get_FilePath(NativeHandle, out result));
+                QuorError.Raise(Native.quor_htprt_get_FilePath(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_htprt_put_FilePath(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_htprt_put_FilePath(it, valueText.Value));
             }
         }
         /// <summary>How many coefficients there are.</summary>
         public short NumCoefficients {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_htprt_get_NumCoefficients(NativeHandle, out result));
+                QuorError.Raise(Native.quor_htprt_get_NumCoefficients(it, out result));
                 return result;
             }
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public double GetCoefficients(EHTPRTCoefficients index) {
+            var it = NativeHandle;
             double result;
-            QuorError.Raise(Native.quor_htprt_get_Coefficients(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_htprt_get_Coefficients(it, (int)index, out result));
             return result;
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public void SetCoefficients(EHTPRTCoefficients index, double value) {
-            QuorError.Raise(Native.quor_htprt_put_Coefficients(NativeHandle, (int)index, value));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_htprt_put_Coefficients(it, (int)index, value));
         }
         /// <summary>How the dialog shows a coefficient. Never a change.</summary>
         public string GetValueFormat(EHTPRTCoefficients index) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_htprt_get_ValueFormat(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_htprt_get_ValueFormat(it, (int)index, out result));
             return result.Take();
         }
         /// <summary>How the dialog shows a coefficient. Never a change.</summary>
         public void SetValueFormat(EHTPRTCoefficients index, string value) {
-            using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_htprt_put_ValueFormat(NativeHandle, (int)index, valueText.Value));
+            var it = NativeHandle;
+            using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_htprt_put_ValueFormat(it, (int)index, valueText.Value));
         }
         /// <summary>Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user.</summary>
         public bool Edit() {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_htprt_Edit(NativeHandle, out result));
+            QuorError.Raise(Native.quor_htprt_Edit(it, out result));
             return result != 0;
         }
         /// <summary>The display name.</summary>
         public string GetName() {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_htprt_GetName(NativeHandle, out result));
+            QuorError.Raise(Native.quor_htprt_GetName(it, out result));
             return result.Take();
         }
         /// <summary>Reads the settings file Filename, or the one that the user chooses. False if the user cancelled.</summary>
         public bool OpenFile(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_htprt_OpenFile(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_htprt_OpenFile(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Asks for a file and writes a settings file. False if the user cancelled.</summary>
         public bool SaveFileAs(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_htprt_SaveFileAs(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_htprt_SaveFileAs(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error.</summary>
         public void WriteToFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_htprt_WriteToFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value));
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_htprt_WriteToFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
         }
         /// <summary>Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed.</summary>
         public bool ReadFromFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
             short result;
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_htprt_ReadFromFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value, out result));
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_htprt_ReadFromFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value, out result); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
             return result != 0;
         }
     }
@@ -1739,112 +2029,144 @@ namespace QuorConversions {
         /// <summary>Whether dialogs may change values; True at first.</summary>
         public bool AllowEdit {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_wt90_get_AllowEdit(NativeHandle, out result));
+                QuorError.Raise(Native.quor_wt90_get_AllowEdit(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_wt90_put_AllowEdit(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_wt90_put_AllowEdit(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Sets the host's registry, which may be none.</summary>
         public void SetRegistry(ref Registry vData) {
-            var vDataHandle = QuorObject.Lend(vData);
-            QuorError.Raise(Native.quor_wt90_SetRegistry(NativeHandle, ref vDataHandle));
+            var it = NativeHandle;
+            var vDataHandle = QuorObject.HandleOf(vData);
+            int code;
+            vDataHandle = QuorObject.Lend(vDataHandle); code = Native.quor_wt90_SetRegistry(it, ref vDataHandle);
             vData = (Registry)QuorObject.GiveBack(vData, vDataHandle);
+            QuorError.Raise(code);
         }
         /// <summary>The registry that was set; none at first.</summary>
         public Registry Registry {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_wt90_get_Registry(NativeHandle, out result));
+                QuorError.Raise(Native.quor_wt90_get_Registry(it, out result));
                 return (Registry)QuorObject.Of(result);
             }
         }
         /// <summary>Whether a value has changed since the host last cleared the flag. Saving does not clear it.</summary>
         public bool Changed {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_wt90_get_Changed(NativeHandle, out result));
+                QuorError.Raise(Native.quor_wt90_get_Changed(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_wt90_put_Changed(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_wt90_put_Changed(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>The folder in which file dialogs start; empty at first.</summary>
         public string FilePath {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_wt90_get_FilePath(NativeHandle, out result));
+                QuorError.Raise(Native.quor_wt90_get_FilePath(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_wt90_put_FilePath(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_wt90_put_FilePath(it, valueText.Value));
             }
         }
         /// <summary>Resistance at the triple point of water, ohms.</summary>
         public double RTPW {
             get {
+                var it = NativeHandle;
                 double result;
-                QuorError.Raise(Native.quor_wt90_get_RTPW(NativeHandle, out result));
+                QuorError.Raise(Native.quor_wt90_get_RTPW(it, out result));
                 return result;
             }
             set {
-                QuorError.Raise(Native.quor_wt90_put_RTPW(NativeHandle, value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_wt90_put_RTPW(it, value));
             }
         }
         /// <summary>How the dialog shows RTPW: a value format. Never a change.</summary>
         public string RTPWFormat {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_wt90_get_RTPWFormat(NativeHandle, out result));
+                QuorError.Raise(Native.quor_wt90_get_RTPWFormat(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_wt90_put_RTPWFormat(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_wt90_put_RTPWFormat(it, valueText.Value));
             }
         }
         /// <summary>Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user.</summary>
         public bool Edit() {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_wt90_Edit(NativeHandle, out result));
+            QuorError.Raise(Native.quor_wt90_Edit(it, out result));
             return result != 0;
         }
         /// <summary>The display name.</summary>
         public string GetName() {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_wt90_GetName(NativeHandle, out result));
+            QuorError.Raise(Native.quor_wt90_GetName(it, out result));
             return result.Take();
         }
         /// <summary>Reads the settings file Filename, or the one that the user chooses. False if the user cancelled.</summary>
         public bool OpenFile(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_wt90_OpenFile(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_wt90_OpenFile(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Asks for a file and writes a settings file. False if the user cancelled.</summary>
         public bool SaveFileAs(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_wt90_SaveFileAs(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_wt90_SaveFileAs(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error.</summary>
         public void WriteToFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_wt90_WriteToFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value));
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_wt90_WriteToFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
         }
         /// <summary>Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed.</summary>
         public bool ReadFromFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
             short result;
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_wt90_ReadFromFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value, out result));
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_wt90_ReadFromFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value, out result); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
             return result != 0;
         }
     }
@@ -1855,136 +2177,172 @@ namespace QuorConversions {
         /// <summary>Whether dialogs may change values; True at first.</summary>
         public bool AllowEdit {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_thermistor_get_AllowEdit(NativeHandle, out result));
+                QuorError.Raise(Native.quor_thermistor_get_AllowEdit(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_thermistor_put_AllowEdit(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_thermistor_put_AllowEdit(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Sets the host's registry, which may be none.</summary>
         public void SetRegistry(ref Registry vData) {
-            var vDataHandle = QuorObject.Lend(vData);
-            QuorError.Raise(Native.quor_thermistor_SetRegistry(NativeHandle, ref vDataHandle));
+            var it = NativeHandle;
+            var vDataHandle = QuorObject.HandleOf(vData);
+            int code;
+            vDataHandle = QuorObject.Lend(vDataHandle); code = Native.quor_thermistor_SetRegistry(it, ref vDataHandle);
             vData = (Registry)QuorObject.GiveBack(vData, vDataHandle);
+            QuorError.Raise(code);
         }
         /// <summary>The registry that was set; none at first.</summary>
         public Registry Registry {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_thermistor_get_Registry(NativeHandle, out result));
+                QuorError.Raise(Native.quor_thermistor_get_Registry(it, out result));
                 return (Registry)QuorObject.Of(result);
             }
         }
         /// <summary>Whether a value has changed since the host last cleared the flag. Saving does not clear it.</summary>
         public bool Changed {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_thermistor_get_Changed(NativeHandle, out result));
+                QuorError.Raise(Native.quor_thermistor_get_Changed(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_thermistor_put_Changed(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_thermistor_put_Changed(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>The folder in which file dialogs start; empty at first.</summary>
         public string FilePath {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_thermistor_get_FilePath(NativeHandle, out result));
+                QuorError.Raise(Native.quor_thermistor_get_FilePath(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_thermistor_put_FilePath(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_thermistor_put_FilePath(it, valueText.Value));
             }
         }
         /// <summary>The direction of the polynomial; TCT_THRMT_R at first. Any value is stored.</summary>
         public EThermistorConvType ConvType {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_thermistor_get_ConvType(NativeHandle, out result));
+                QuorError.Raise(Native.quor_thermistor_get_ConvType(it, out result));
                 return (EThermistorConvType)result;
             }
             set {
-                QuorError.Raise(Native.quor_thermistor_put_ConvType(NativeHandle, (int)value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_thermistor_put_ConvType(it, (int)value));
             }
         }
         /// <summary>"Thermistor " and a direction. -2: the current one.</summary>
         public string ConvName(int vData = -2) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_thermistor_ConvName(NativeHandle, vData, out result));
+            QuorError.Raise(Native.quor_thermistor_ConvName(it, vData, out result));
             return result.Take();
         }
         /// <summary>How many coefficients there are.</summary>
         public short NumCoefficients {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_thermistor_get_NumCoefficients(NativeHandle, out result));
+                QuorError.Raise(Native.quor_thermistor_get_NumCoefficients(it, out result));
                 return result;
             }
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public double GetCoefficients(EThermistorCoefficients index) {
+            var it = NativeHandle;
             double result;
-            QuorError.Raise(Native.quor_thermistor_get_Coefficients(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_thermistor_get_Coefficients(it, (int)index, out result));
             return result;
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public void SetCoefficients(EThermistorCoefficients index, double value) {
-            QuorError.Raise(Native.quor_thermistor_put_Coefficients(NativeHandle, (int)index, value));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_thermistor_put_Coefficients(it, (int)index, value));
         }
         /// <summary>How the dialog shows all coefficients. Never a change.</summary>
         public string ValueFormat {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_thermistor_get_ValueFormat(NativeHandle, out result));
+                QuorError.Raise(Native.quor_thermistor_get_ValueFormat(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_thermistor_put_ValueFormat(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_thermistor_put_ValueFormat(it, valueText.Value));
             }
         }
         /// <summary>Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user.</summary>
         public bool Edit() {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_thermistor_Edit(NativeHandle, out result));
+            QuorError.Raise(Native.quor_thermistor_Edit(it, out result));
             return result != 0;
         }
         /// <summary>The display name.</summary>
         public string GetName() {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_thermistor_GetName(NativeHandle, out result));
+            QuorError.Raise(Native.quor_thermistor_GetName(it, out result));
             return result.Take();
         }
         /// <summary>Reads the settings file Filename, or the one that the user chooses. False if the user cancelled.</summary>
         public bool OpenFile(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_thermistor_OpenFile(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_thermistor_OpenFile(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Asks for a file and writes a settings file. False if the user cancelled.</summary>
         public bool SaveFileAs(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_thermistor_SaveFileAs(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_thermistor_SaveFileAs(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error.</summary>
         public void WriteToFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_thermistor_WriteToFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value));
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_thermistor_WriteToFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
         }
         /// <summary>Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed.</summary>
         public bool ReadFromFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
             short result;
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_thermistor_ReadFromFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value, out result));
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_thermistor_ReadFromFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value, out result); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
             return result != 0;
         }
     }
@@ -1995,156 +2353,195 @@ namespace QuorConversions {
         /// <summary>Whether dialogs may change values; True at first.</summary>
         public bool AllowEdit {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_polynomial_get_AllowEdit(NativeHandle, out result));
+                QuorError.Raise(Native.quor_polynomial_get_AllowEdit(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_polynomial_put_AllowEdit(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_polynomial_put_AllowEdit(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Sets the host's registry, which may be none.</summary>
         public void SetRegistry(ref Registry vData) {
-            var vDataHandle = QuorObject.Lend(vData);
-            QuorError.Raise(Native.quor_polynomial_SetRegistry(NativeHandle, ref vDataHandle));
+            var it = NativeHandle;
+            var vDataHandle = QuorObject.HandleOf(vData);
+            int code;
+            vDataHandle = QuorObject.Lend(vDataHandle); code = Native.quor_polynomial_SetRegistry(it, ref vDataHandle);
             vData = (Registry)QuorObject.GiveBack(vData, vDataHandle);
+            QuorError.Raise(code);
         }
         /// <summary>The registry that was set; none at first.</summary>
         public Registry Registry {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_polynomial_get_Registry(NativeHandle, out result));
+                QuorError.Raise(Native.quor_polynomial_get_Registry(it, out result));
                 return (Registry)QuorObject.Of(result);
             }
         }
         /// <summary>Whether a value has changed since the host last cleared the flag. Saving does not clear it.</summary>
         public bool Changed {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_polynomial_get_Changed(NativeHandle, out result));
+                QuorError.Raise(Native.quor_polynomial_get_Changed(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_polynomial_put_Changed(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_polynomial_put_Changed(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>The folder in which file dialogs start; empty at first.</summary>
         public string FilePath {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_polynomial_get_FilePath(NativeHandle, out result));
+                QuorError.Raise(Native.quor_polynomial_get_FilePath(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_polynomial_put_FilePath(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_polynomial_put_FilePath(it, valueText.Value));
             }
         }
         /// <summary>Order + 1.</summary>
         public short NumCoefficients {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_polynomial_get_NumCoefficients(NativeHandle, out result));
+                QuorError.Raise(Native.quor_polynomial_get_NumCoefficients(it, out result));
                 return result;
             }
         }
         /// <summary>The order of the polynomial, 4 at first. A value outside MinOrder to MaxOrder is ignored.</summary>
         public short Order {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_polynomial_get_Order(NativeHandle, out result));
+                QuorError.Raise(Native.quor_polynomial_get_Order(it, out result));
                 return result;
             }
             set {
-                QuorError.Raise(Native.quor_polynomial_put_Order(NativeHandle, value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_polynomial_put_Order(it, value));
             }
         }
         /// <summary>The smallest order: 4.</summary>
         public short MinOrder {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_polynomial_get_MinOrder(NativeHandle, out result));
+                QuorError.Raise(Native.quor_polynomial_get_MinOrder(it, out result));
                 return result;
             }
         }
         /// <summary>The greatest order: 10.</summary>
         public short MaxOrder {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_polynomial_get_MaxOrder(NativeHandle, out result));
+                QuorError.Raise(Native.quor_polynomial_get_MaxOrder(it, out result));
                 return result;
             }
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public void SetCoefficients(EPolynomialCoefficients index, double value) {
-            QuorError.Raise(Native.quor_polynomial_put_Coefficients(NativeHandle, (int)index, value));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_polynomial_put_Coefficients(it, (int)index, value));
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public double GetCoefficients(EPolynomialCoefficients index) {
+            var it = NativeHandle;
             double result;
-            QuorError.Raise(Native.quor_polynomial_get_Coefficients(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_polynomial_get_Coefficients(it, (int)index, out result));
             return result;
         }
         /// <summary>How the dialog shows all coefficients. Never a change.</summary>
         public string ValueFormat {
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_polynomial_put_ValueFormat(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_polynomial_put_ValueFormat(it, valueText.Value));
             }
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_polynomial_get_ValueFormat(NativeHandle, out result));
+                QuorError.Raise(Native.quor_polynomial_get_ValueFormat(it, out result));
                 return result.Take();
             }
         }
         /// <summary>Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user.</summary>
         public bool Edit() {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_polynomial_Edit(NativeHandle, out result));
+            QuorError.Raise(Native.quor_polynomial_Edit(it, out result));
             return result != 0;
         }
         /// <summary>The display name.</summary>
         public string GetName() {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_polynomial_GetName(NativeHandle, out result));
+            QuorError.Raise(Native.quor_polynomial_GetName(it, out result));
             return result.Take();
         }
         /// <summary>Reads the settings file Filename, or the one that the user chooses. False if the user cancelled.</summary>
         public bool OpenFile(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_polynomial_OpenFile(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_polynomial_OpenFile(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Asks for a file and writes a settings file. False if the user cancelled.</summary>
         public bool SaveFileAs(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_polynomial_SaveFileAs(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_polynomial_SaveFileAs(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error.</summary>
         public void WriteToFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_polynomial_WriteToFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value));
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_polynomial_WriteToFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
         }
         /// <summary>Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed.</summary>
         public bool ReadFromFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
             short result;
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_polynomial_ReadFromFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value, out result));
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_polynomial_ReadFromFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value, out result); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
             return result != 0;
         }
         /// <summary>The letter in the labels of the dialog: "A" gives "A0", "A1" and so on. Never a change.</summary>
         public string CoefficientLabelPrefix {
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_polynomial_put_CoefficientLabelPrefix(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_polynomial_put_CoefficientLabelPrefix(it, valueText.Value));
             }
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_polynomial_get_CoefficientLabelPrefix(NativeHandle, out result));
+                QuorError.Raise(Native.quor_polynomial_get_CoefficientLabelPrefix(it, out result));
                 return result.Take();
             }
         }
@@ -2156,155 +2553,195 @@ namespace QuorConversions {
         /// <summary>How the dialog shows mV25C. Never a change.</summary>
         public string mV25CFormat {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_tc_polynomial_get_mV25CFormat(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_polynomial_get_mV25CFormat(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_polynomial_put_mV25CFormat(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_polynomial_put_mV25CFormat(it, valueText.Value));
             }
         }
         /// <summary>Voltage at 25 degrees Celsius, millivolts.</summary>
         public double mV25C {
             get {
+                var it = NativeHandle;
                 double result;
-                QuorError.Raise(Native.quor_tc_polynomial_get_mV25C(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_polynomial_get_mV25C(it, out result));
                 return result;
             }
             set {
-                QuorError.Raise(Native.quor_tc_polynomial_put_mV25C(NativeHandle, value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_tc_polynomial_put_mV25C(it, value));
             }
         }
         /// <summary>Whether the dialog shows mV25C; False at first. Never a change.</summary>
         public bool ShowmV25C {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_tc_polynomial_get_ShowmV25C(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_polynomial_get_ShowmV25C(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_tc_polynomial_put_ShowmV25C(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_tc_polynomial_put_ShowmV25C(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Whether dialogs may change values; True at first.</summary>
         public bool AllowEdit {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_tc_polynomial_get_AllowEdit(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_polynomial_get_AllowEdit(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_tc_polynomial_put_AllowEdit(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_tc_polynomial_put_AllowEdit(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Sets the host's registry, which may be none.</summary>
         public void SetRegistry(ref Registry vData) {
-            var vDataHandle = QuorObject.Lend(vData);
-            QuorError.Raise(Native.quor_tc_polynomial_SetRegistry(NativeHandle, ref vDataHandle));
+            var it = NativeHandle;
+            var vDataHandle = QuorObject.HandleOf(vData);
+            int code;
+            vDataHandle = QuorObject.Lend(vDataHandle); code = Native.quor_tc_polynomial_SetRegistry(it, ref vDataHandle);
             vData = (Registry)QuorObject.GiveBack(vData, vDataHandle);
+            QuorError.Raise(code);
         }
         /// <summary>The registry that was set; none at first.</summary>
         public Registry Registry {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_tc_polynomial_get_Registry(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_polynomial_get_Registry(it, out result));
                 return (Registry)QuorObject.Of(result);
             }
         }
         /// <summary>Whether a value has changed since the host last cleared the flag. Saving does not clear it.</summary>
         public bool Changed {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_tc_polynomial_get_Changed(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_polynomial_get_Changed(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_tc_polynomial_put_Changed(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_tc_polynomial_put_Changed(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>The folder in which file dialogs start; empty at first.</summary>
         public string FilePath {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_tc_polynomial_get_FilePath(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_polynomial_get_FilePath(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_polynomial_put_FilePath(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_polynomial_put_FilePath(it, valueText.Value));
             }
         }
         /// <summary>16 at first. A negative value is stored and then error 9.</summary>
         public short NumCoefficients {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_tc_polynomial_get_NumCoefficients(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_polynomial_get_NumCoefficients(it, out result));
                 return result;
             }
             set {
-                QuorError.Raise(Native.quor_tc_polynomial_put_NumCoefficients(NativeHandle, value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_tc_polynomial_put_NumCoefficients(it, value));
             }
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public double GetCoefficients(ETCPolynomialCoefficients index) {
+            var it = NativeHandle;
             double result;
-            QuorError.Raise(Native.quor_tc_polynomial_get_Coefficients(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_tc_polynomial_get_Coefficients(it, (int)index, out result));
             return result;
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public void SetCoefficients(ETCPolynomialCoefficients index, double value) {
-            QuorError.Raise(Native.quor_tc_polynomial_put_Coefficients(NativeHandle, (int)index, value));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_tc_polynomial_put_Coefficients(it, (int)index, value));
         }
         /// <summary>How the dialog shows all coefficients. Never a change.</summary>
         public string ValueFormat {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_tc_polynomial_get_ValueFormat(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_polynomial_get_ValueFormat(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_polynomial_put_ValueFormat(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_polynomial_put_ValueFormat(it, valueText.Value));
             }
         }
         /// <summary>Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user.</summary>
         public bool Edit() {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_tc_polynomial_Edit(NativeHandle, out result));
+            QuorError.Raise(Native.quor_tc_polynomial_Edit(it, out result));
             return result != 0;
         }
         /// <summary>The display name.</summary>
         public string GetName() {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_tc_polynomial_GetName(NativeHandle, out result));
+            QuorError.Raise(Native.quor_tc_polynomial_GetName(it, out result));
             return result.Take();
         }
         /// <summary>Reads the settings file Filename, or the one that the user chooses. False if the user cancelled.</summary>
         public bool OpenFile(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_tc_polynomial_OpenFile(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_tc_polynomial_OpenFile(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Asks for a file and writes a settings file. False if the user cancelled.</summary>
         public bool SaveFileAs(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_tc_polynomial_SaveFileAs(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_tc_polynomial_SaveFileAs(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error.</summary>
         public void WriteToFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_tc_polynomial_WriteToFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value));
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_tc_polynomial_WriteToFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
         }
         /// <summary>Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed.</summary>
         public bool ReadFromFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
             short result;
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_tc_polynomial_ReadFromFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value, out result));
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_tc_polynomial_ReadFromFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value, out result); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
             return result != 0;
         }
     }
@@ -2315,169 +2752,213 @@ namespace QuorConversions {
         /// <summary>Whether dialogs may change values; True at first.</summary>
         public bool AllowEdit {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_tc_table_get_AllowEdit(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_table_get_AllowEdit(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_tc_table_put_AllowEdit(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_tc_table_put_AllowEdit(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Sets the host's registry, which may be none.</summary>
         public void SetRegistry(ref Registry vData) {
-            var vDataHandle = QuorObject.Lend(vData);
-            QuorError.Raise(Native.quor_tc_table_SetRegistry(NativeHandle, ref vDataHandle));
+            var it = NativeHandle;
+            var vDataHandle = QuorObject.HandleOf(vData);
+            int code;
+            vDataHandle = QuorObject.Lend(vDataHandle); code = Native.quor_tc_table_SetRegistry(it, ref vDataHandle);
             vData = (Registry)QuorObject.GiveBack(vData, vDataHandle);
+            QuorError.Raise(code);
         }
         /// <summary>The registry that was set; none at first.</summary>
         public Registry Registry {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_tc_table_get_Registry(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_table_get_Registry(it, out result));
                 return (Registry)QuorObject.Of(result);
             }
         }
         /// <summary>Whether a value has changed since the host last cleared the flag. Saving does not clear it.</summary>
         public bool Changed {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_tc_table_get_Changed(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_table_get_Changed(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_tc_table_put_Changed(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_tc_table_put_Changed(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>The folder in which file dialogs start; empty at first.</summary>
         public string FilePath {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_tc_table_get_FilePath(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_table_get_FilePath(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_table_put_FilePath(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_table_put_FilePath(it, valueText.Value));
             }
         }
         /// <summary>10 at first. A value above 10 is ignored; a negative one is stored and then error 9.</summary>
         public short NumPoints {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_tc_table_get_NumPoints(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_table_get_NumPoints(it, out result));
                 return result;
             }
             set {
-                QuorError.Raise(Native.quor_tc_table_put_NumPoints(NativeHandle, value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_tc_table_put_NumPoints(it, value));
             }
         }
         /// <summary>The temperature of a point, in the unit that TempScale names.</summary>
         public double GetTemperatures(ETCTableCoefficients index) {
+            var it = NativeHandle;
             double result;
-            QuorError.Raise(Native.quor_tc_table_get_Temperatures(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_tc_table_get_Temperatures(it, (int)index, out result));
             return result;
         }
         /// <summary>The temperature of a point, in the unit that TempScale names.</summary>
         public void SetTemperatures(ETCTableCoefficients index, double value) {
-            QuorError.Raise(Native.quor_tc_table_put_Temperatures(NativeHandle, (int)index, value));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_tc_table_put_Temperatures(it, (int)index, value));
         }
         /// <summary>The voltage of a point, in the unit that VoltageScale names. Error 0x800401F5 for an invalid index.</summary>
         public double GetVoltages(ETCTableCoefficients index) {
+            var it = NativeHandle;
             double result;
-            QuorError.Raise(Native.quor_tc_table_get_Voltages(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_tc_table_get_Voltages(it, (int)index, out result));
             return result;
         }
         /// <summary>The voltage of a point, in the unit that VoltageScale names. Error 0x800401F5 for an invalid index.</summary>
         public void SetVoltages(ETCTableCoefficients index, double value) {
-            QuorError.Raise(Native.quor_tc_table_put_Voltages(NativeHandle, (int)index, value));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_tc_table_put_Voltages(it, (int)index, value));
         }
         /// <summary>How the dialog shows temperatures. Never a change.</summary>
         public string TempFormat {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_tc_table_get_TempFormat(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_table_get_TempFormat(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_table_put_TempFormat(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_table_put_TempFormat(it, valueText.Value));
             }
         }
         /// <summary>How the dialog shows voltages. Never a change.</summary>
         public string VoltageFormat {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_tc_table_get_VoltageFormat(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_table_get_VoltageFormat(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_table_put_VoltageFormat(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_table_put_VoltageFormat(it, valueText.Value));
             }
         }
         /// <summary>The unit text beside temperatures; it converts nothing.</summary>
         public string TempScale {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_tc_table_get_TempScale(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_table_get_TempScale(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_table_put_TempScale(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_table_put_TempScale(it, valueText.Value));
             }
         }
         /// <summary>The unit text beside voltages, "mV" at first; it converts nothing.</summary>
         public string VoltageScale {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_tc_table_get_VoltageScale(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_table_get_VoltageScale(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_table_put_VoltageScale(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_table_put_VoltageScale(it, valueText.Value));
             }
         }
         /// <summary>Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user.</summary>
         public bool Edit() {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_tc_table_Edit(NativeHandle, out result));
+            QuorError.Raise(Native.quor_tc_table_Edit(it, out result));
             return result != 0;
         }
         /// <summary>The display name.</summary>
         public string GetName() {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_tc_table_GetName(NativeHandle, out result));
+            QuorError.Raise(Native.quor_tc_table_GetName(it, out result));
             return result.Take();
         }
         /// <summary>Fills a list with the counts that can be chosen, each with its number as item data.</summary>
         public void FillPointsCombo(ListControl ctrl) {
-            QuorError.Raise(Native.quor_tc_table_FillPointsCombo(NativeHandle, QuorObject.HandleOf(ctrl)));
+            var it = NativeHandle;
+            var ctrlHandle = QuorObject.HandleOf(ctrl);
+            QuorError.Raise(Native.quor_tc_table_FillPointsCombo(it, ctrlHandle));
         }
         /// <summary>Reads the settings file Filename, or the one that the user chooses. False if the user cancelled.</summary>
         public bool OpenFile(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_tc_table_OpenFile(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_tc_table_OpenFile(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Asks for a file and writes a settings file. False if the user cancelled.</summary>
         public bool SaveFileAs(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_tc_table_SaveFileAs(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_tc_table_SaveFileAs(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error.</summary>
         public void WriteToFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_tc_table_WriteToFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value));
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_tc_table_WriteToFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
         }
         /// <summary>Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed.</summary>
         public bool ReadFromFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
             short result;
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_tc_table_ReadFromFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value, out result));
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_tc_table_ReadFromFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value, out result); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
             return result != 0;
         }
     }
@@ -2488,222 +2969,277 @@ namespace QuorConversions {
         /// <summary>Whether the dialog shows the DC coefficients; True at first. Never a change.</summary>
         public bool ShowDCCoefs {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_tc_typex_get_ShowDCCoefs(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typex_get_ShowDCCoefs(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_tc_typex_put_ShowDCCoefs(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_tc_typex_put_ShowDCCoefs(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Whether dialogs may change values; True at first.</summary>
         public bool AllowEdit {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_tc_typex_get_AllowEdit(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typex_get_AllowEdit(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_tc_typex_put_AllowEdit(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_tc_typex_put_AllowEdit(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Sets the host's registry, which may be none.</summary>
         public void SetRegistry(ref Registry vData) {
-            var vDataHandle = QuorObject.Lend(vData);
-            QuorError.Raise(Native.quor_tc_typex_SetRegistry(NativeHandle, ref vDataHandle));
+            var it = NativeHandle;
+            var vDataHandle = QuorObject.HandleOf(vData);
+            int code;
+            vDataHandle = QuorObject.Lend(vDataHandle); code = Native.quor_tc_typex_SetRegistry(it, ref vDataHandle);
             vData = (Registry)QuorObject.GiveBack(vData, vDataHandle);
+            QuorError.Raise(code);
         }
         /// <summary>The registry that was set; none at first.</summary>
         public Registry Registry {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_tc_typex_get_Registry(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typex_get_Registry(it, out result));
                 return (Registry)QuorObject.Of(result);
             }
         }
         /// <summary>Whether a value has changed since the host last cleared the flag. Saving does not clear it.</summary>
         public bool Changed {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_tc_typex_get_Changed(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typex_get_Changed(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_tc_typex_put_Changed(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_tc_typex_put_Changed(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>The unit text beside temperatures; it converts nothing.</summary>
         public string TempScale {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_tc_typex_get_TempScale(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typex_get_TempScale(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_typex_put_TempScale(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_typex_put_TempScale(it, valueText.Value));
             }
         }
         /// <summary>The unit text beside offsets; it converts nothing.</summary>
         public string OffsetScale {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_tc_typex_get_OffsetScale(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typex_get_OffsetScale(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_typex_put_OffsetScale(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_typex_put_OffsetScale(it, valueText.Value));
             }
         }
         /// <summary>The folder in which file dialogs start; empty at first.</summary>
         public string FilePath {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_tc_typex_get_FilePath(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typex_get_FilePath(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_typex_put_FilePath(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_typex_put_FilePath(it, valueText.Value));
             }
         }
         /// <summary>The standard thermocouple type. Any value is stored.</summary>
         public ETCType TCType {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_tc_typex_get_TCType(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typex_get_TCType(it, out result));
                 return (ETCType)result;
             }
             set {
-                QuorError.Raise(Native.quor_tc_typex_put_TCType(NativeHandle, (int)value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_tc_typex_put_TCType(it, (int)value));
             }
         }
         /// <summary>The name of a thermocouple type, such as "K". -2: of the current one.</summary>
         public string GetTCTypeName(int tc = -2) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_tc_typex_GetTCTypeName(NativeHandle, tc, out result));
+            QuorError.Raise(Native.quor_tc_typex_GetTCTypeName(it, tc, out result));
             return result.Take();
         }
         /// <summary>Fills a list with the types that have names, each with its value as item data.</summary>
         public void FillTCTypeNameCombo(ListControl ctrl) {
-            QuorError.Raise(Native.quor_tc_typex_FillTCTypeNameCombo(NativeHandle, QuorObject.HandleOf(ctrl)));
+            var it = NativeHandle;
+            var ctrlHandle = QuorObject.HandleOf(ctrl);
+            QuorError.Raise(Native.quor_tc_typex_FillTCTypeNameCombo(it, ctrlHandle));
         }
         /// <summary>3 at first. A value above 3 is ignored; a negative one is stored and then error 9.</summary>
         public short NumPoints {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_tc_typex_get_NumPoints(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typex_get_NumPoints(it, out result));
                 return result;
             }
             set {
-                QuorError.Raise(Native.quor_tc_typex_put_NumPoints(NativeHandle, value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_tc_typex_put_NumPoints(it, value));
             }
         }
         /// <summary>The temperature of a deviation point, in the unit that TempScale names. An invalid index is reported to the user only; the call raises no error.</summary>
         public double GetTemperatures(ETCTypeXCoefficients index) {
+            var it = NativeHandle;
             double result;
-            QuorError.Raise(Native.quor_tc_typex_get_Temperatures(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_tc_typex_get_Temperatures(it, (int)index, out result));
             return result;
         }
         /// <summary>The temperature of a deviation point, in the unit that TempScale names. An invalid index is reported to the user only; the call raises no error.</summary>
         public void SetTemperatures(ETCTypeXCoefficients index, double value) {
-            QuorError.Raise(Native.quor_tc_typex_put_Temperatures(NativeHandle, (int)index, value));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_tc_typex_put_Temperatures(it, (int)index, value));
         }
         /// <summary>A DC coefficient. Error 0x800401F5 for any other index.</summary>
         public double GetCoefficients(ETCTypeXCoefficients index) {
+            var it = NativeHandle;
             double result;
-            QuorError.Raise(Native.quor_tc_typex_get_Coefficients(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_tc_typex_get_Coefficients(it, (int)index, out result));
             return result;
         }
         /// <summary>A DC coefficient. Error 0x800401F5 for any other index.</summary>
         public void SetCoefficients(ETCTypeXCoefficients index, double value) {
-            QuorError.Raise(Native.quor_tc_typex_put_Coefficients(NativeHandle, (int)index, value));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_tc_typex_put_Coefficients(it, (int)index, value));
         }
         /// <summary>The offset of a deviation point, in the unit that OffsetScale names. An invalid index is reported to the user only; the call raises no error.</summary>
         public double GetOffsets(ETCTypeXCoefficients index) {
+            var it = NativeHandle;
             double result;
-            QuorError.Raise(Native.quor_tc_typex_get_Offsets(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_tc_typex_get_Offsets(it, (int)index, out result));
             return result;
         }
         /// <summary>The offset of a deviation point, in the unit that OffsetScale names. An invalid index is reported to the user only; the call raises no error.</summary>
         public void SetOffsets(ETCTypeXCoefficients index, double value) {
-            QuorError.Raise(Native.quor_tc_typex_put_Offsets(NativeHandle, (int)index, value));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_tc_typex_put_Offsets(it, (int)index, value));
         }
         /// <summary>How the dialog shows temperatures. Never a change.</summary>
         public string TempFormat {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_tc_typex_get_TempFormat(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typex_get_TempFormat(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_typex_put_TempFormat(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_typex_put_TempFormat(it, valueText.Value));
             }
         }
         /// <summary>How the dialog shows DC coefficients. Never a change.</summary>
         public string ValueFormat {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_tc_typex_get_ValueFormat(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typex_get_ValueFormat(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_typex_put_ValueFormat(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_typex_put_ValueFormat(it, valueText.Value));
             }
         }
         /// <summary>How the dialog shows offsets. Never a change.</summary>
         public string OffsetFormat {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_tc_typex_get_OffsetFormat(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typex_get_OffsetFormat(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_typex_put_OffsetFormat(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_typex_put_OffsetFormat(it, valueText.Value));
             }
         }
         /// <summary>Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user.</summary>
         public bool Edit() {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_tc_typex_Edit(NativeHandle, out result));
+            QuorError.Raise(Native.quor_tc_typex_Edit(it, out result));
             return result != 0;
         }
         /// <summary>The name of a type, such as "K". -2: "TC Type " and the name of the current one.</summary>
         public string GetName(int tc = -2) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_tc_typex_GetName(NativeHandle, tc, out result));
+            QuorError.Raise(Native.quor_tc_typex_GetName(it, tc, out result));
             return result.Take();
         }
         /// <summary>Fills a list with the counts that can be chosen, each with its number as item data.</summary>
         public void FillPointsCombo(ListControl ctrl) {
-            QuorError.Raise(Native.quor_tc_typex_FillPointsCombo(NativeHandle, QuorObject.HandleOf(ctrl)));
+            var it = NativeHandle;
+            var ctrlHandle = QuorObject.HandleOf(ctrl);
+            QuorError.Raise(Native.quor_tc_typex_FillPointsCombo(it, ctrlHandle));
         }
         /// <summary>Reads the settings file Filename, or the one that the user chooses. False if the user cancelled.</summary>
         public bool OpenFile(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_tc_typex_OpenFile(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_tc_typex_OpenFile(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Asks for a file and writes a settings file. False if the user cancelled.</summary>
         public bool SaveFileAs(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_tc_typex_SaveFileAs(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_tc_typex_SaveFileAs(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error.</summary>
         public void WriteToFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_tc_typex_WriteToFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value));
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_tc_typex_WriteToFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
         }
         /// <summary>Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed.</summary>
         public bool ReadFromFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
             short result;
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_tc_typex_ReadFromFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value, out result));
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_tc_typex_ReadFromFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value, out result); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
             return result != 0;
         }
     }
@@ -2713,150 +3249,190 @@ namespace QuorConversions {
         internal CQuorTCTypePoly(ulong handle) : base(handle) { }
         public CQuorTCTypePoly(Platform platform = null) : base(Create(platform)) { }
         static ulong Create(Platform platform) {
+            var platformHandle = QuorObject.HandleOf(platform);
             ulong result;
-            QuorError.Raise(Native.quor_tc_typepoly_create(QuorObject.HandleOf(platform), out result));
+            QuorError.Raise(Native.quor_tc_typepoly_create(platformHandle, out result));
             return result;
         }
         /// <summary>Whether dialogs may change values; True at first.</summary>
         public bool AllowEdit {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_tc_typepoly_get_AllowEdit(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typepoly_get_AllowEdit(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_tc_typepoly_put_AllowEdit(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_tc_typepoly_put_AllowEdit(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>Sets the host's registry, which may be none.</summary>
         public void SetRegistry(ref Registry vData) {
-            var vDataHandle = QuorObject.Lend(vData);
-            QuorError.Raise(Native.quor_tc_typepoly_SetRegistry(NativeHandle, ref vDataHandle));
+            var it = NativeHandle;
+            var vDataHandle = QuorObject.HandleOf(vData);
+            int code;
+            vDataHandle = QuorObject.Lend(vDataHandle); code = Native.quor_tc_typepoly_SetRegistry(it, ref vDataHandle);
             vData = (Registry)QuorObject.GiveBack(vData, vDataHandle);
+            QuorError.Raise(code);
         }
         /// <summary>The registry that was set; none at first.</summary>
         public Registry Registry {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_tc_typepoly_get_Registry(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typepoly_get_Registry(it, out result));
                 return (Registry)QuorObject.Of(result);
             }
         }
         /// <summary>Whether a value has changed since the host last cleared the flag. Saving does not clear it.</summary>
         public bool Changed {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_tc_typepoly_get_Changed(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typepoly_get_Changed(it, out result));
                 return result != 0;
             }
             set {
-                QuorError.Raise(Native.quor_tc_typepoly_put_Changed(NativeHandle, QuorObject.Flag(value)));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_tc_typepoly_put_Changed(it, QuorObject.Flag(value)));
             }
         }
         /// <summary>The folder in which file dialogs start; empty at first.</summary>
         public string FilePath {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_tc_typepoly_get_FilePath(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typepoly_get_FilePath(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_typepoly_put_FilePath(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_typepoly_put_FilePath(it, valueText.Value));
             }
         }
         /// <summary>4 at first. A negative value is stored and then error 9.</summary>
         public short NumCoefficients {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_tc_typepoly_get_NumCoefficients(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typepoly_get_NumCoefficients(it, out result));
                 return result;
             }
             set {
-                QuorError.Raise(Native.quor_tc_typepoly_put_NumCoefficients(NativeHandle, value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_tc_typepoly_put_NumCoefficients(it, value));
             }
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public double GetCoefficients(ETCPolynomialCoefficients index) {
+            var it = NativeHandle;
             double result;
-            QuorError.Raise(Native.quor_tc_typepoly_get_Coefficients(NativeHandle, (int)index, out result));
+            QuorError.Raise(Native.quor_tc_typepoly_get_Coefficients(it, (int)index, out result));
             return result;
         }
         /// <summary>A coefficient, in the unit that the enumeration of its index gives. Error 0x800401F5 for an invalid index.</summary>
         public void SetCoefficients(ETCPolynomialCoefficients index, double value) {
-            QuorError.Raise(Native.quor_tc_typepoly_put_Coefficients(NativeHandle, (int)index, value));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_tc_typepoly_put_Coefficients(it, (int)index, value));
         }
         /// <summary>How the dialog shows all coefficients. Never a change.</summary>
         public string ValueFormat {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_tc_typepoly_get_ValueFormat(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typepoly_get_ValueFormat(it, out result));
                 return result.Take();
             }
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_typepoly_put_ValueFormat(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_tc_typepoly_put_ValueFormat(it, valueText.Value));
             }
         }
         /// <summary>The standard thermocouple type. Any value is stored.</summary>
         public ETCType TCType {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_tc_typepoly_get_TCType(NativeHandle, out result));
+                QuorError.Raise(Native.quor_tc_typepoly_get_TCType(it, out result));
                 return (ETCType)result;
             }
             set {
-                QuorError.Raise(Native.quor_tc_typepoly_put_TCType(NativeHandle, (int)value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_tc_typepoly_put_TCType(it, (int)value));
             }
         }
         /// <summary>The name of a thermocouple type, such as "K". -2: of the current one.</summary>
         public string GetTCTypeName(int tc = -2) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_tc_typepoly_GetTCTypeName(NativeHandle, tc, out result));
+            QuorError.Raise(Native.quor_tc_typepoly_GetTCTypeName(it, tc, out result));
             return result.Take();
         }
         /// <summary>Fills a list with the types that have names, each with its value as item data.</summary>
         public void FillTCTypeNameCombo(ListControl ctrl) {
-            QuorError.Raise(Native.quor_tc_typepoly_FillTCTypeNameCombo(NativeHandle, QuorObject.HandleOf(ctrl)));
+            var it = NativeHandle;
+            var ctrlHandle = QuorObject.HandleOf(ctrl);
+            QuorError.Raise(Native.quor_tc_typepoly_FillTCTypeNameCombo(it, ctrlHandle));
         }
         /// <summary>Shows the settings dialog. False if the user cancelled, or if it failed, which was reported to the user.</summary>
         public bool Edit() {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_tc_typepoly_Edit(NativeHandle, out result));
+            QuorError.Raise(Native.quor_tc_typepoly_Edit(it, out result));
             return result != 0;
         }
         /// <summary>The name of a type, such as "K". -2: "TC Type " and the name of the current one.</summary>
         public string GetName(int tc = -2) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_tc_typepoly_GetName(NativeHandle, tc, out result));
+            QuorError.Raise(Native.quor_tc_typepoly_GetName(it, tc, out result));
             return result.Take();
         }
         /// <summary>Reads the settings file Filename, or the one that the user chooses. False if the user cancelled.</summary>
         public bool OpenFile(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_tc_typepoly_OpenFile(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_tc_typepoly_OpenFile(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Asks for a file and writes a settings file. False if the user cancelled.</summary>
         public bool SaveFileAs(int hwnd, ref string filename) {
+            var it = NativeHandle;
             Text filenameOut;
+            string filenameNew;
             short result;
-            using (var filenameText = new TextIn(filename)) QuorError.Raise(Native.quor_tc_typepoly_SaveFileAs(NativeHandle, hwnd, filenameText.Value, out filenameOut, out result));
-            filename = filenameOut.Take();
+            int code;
+            using (var filenameText = new TextIn(filename)) { code = Native.quor_tc_typepoly_SaveFileAs(it, hwnd, filenameText.Value, out filenameOut, out result); }
+            filenameNew = filenameOut.Take();
+            QuorError.Raise(code);
+            filename = filenameNew;
             return result != 0;
         }
         /// <summary>Writes the record into the section secname of INIFile; if that is none, of the file fname, which is not used otherwise. A failure is reported to the user only, by show_message of the platform; unlike Write of ProbeFile, the call raises no error.</summary>
         public void WriteToFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_tc_typepoly_WriteToFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value));
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_tc_typepoly_WriteToFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
         }
         /// <summary>Reads the record from where WriteToFile writes it. True if every key was found; otherwise the user is informed.</summary>
         public bool ReadFromFile(ref INIFile iniFile, string fname, string secname) {
-            var iniFileHandle = QuorObject.Lend(iniFile);
+            var it = NativeHandle;
+            var iniFileHandle = QuorObject.HandleOf(iniFile);
             short result;
-            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) QuorError.Raise(Native.quor_tc_typepoly_ReadFromFile(NativeHandle, ref iniFileHandle, fnameText.Value, secnameText.Value, out result));
+            int code;
+            using (var fnameText = new TextIn(fname)) using (var secnameText = new TextIn(secname)) { iniFileHandle = QuorObject.Lend(iniFileHandle); code = Native.quor_tc_typepoly_ReadFromFile(it, ref iniFileHandle, fnameText.Value, secnameText.Value, out result); }
             iniFile = (INIFile)QuorObject.GiveBack(iniFile, iniFileHandle);
+            QuorError.Raise(code);
             return result != 0;
         }
     }
@@ -2873,84 +3449,109 @@ namespace QuorConversions {
         /// <summary>The file that the object is bound to. Setting it touches no file.</summary>
         public string FileName {
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_inifile_put_FileName(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_inifile_put_FileName(it, valueText.Value));
             }
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_inifile_get_FileName(NativeHandle, out result));
+                QuorError.Raise(Native.quor_inifile_get_FileName(it, out result));
                 return result.Take();
             }
         }
         /// <summary>The section that reads and writes use.</summary>
         public string Section {
             set {
-                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_inifile_put_Section(NativeHandle, valueText.Value));
+                var it = NativeHandle;
+                using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_inifile_put_Section(it, valueText.Value));
             }
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_inifile_get_Section(NativeHandle, out result));
+                QuorError.Raise(Native.quor_inifile_get_Section(it, out result));
                 return result.Take();
             }
         }
         /// <summary>True if the key was found with a value of that type, which Value then is.</summary>
         public bool ReadBoolean(string key, ref bool value) {
+            var it = NativeHandle;
             short valueNative = QuorObject.Flag(value);
             short result;
-            using (var keyText = new TextIn(key)) QuorError.Raise(Native.quor_inifile_ReadBoolean(NativeHandle, keyText.Value, ref valueNative, out result));
+            int code;
+            using (var keyText = new TextIn(key)) { code = Native.quor_inifile_ReadBoolean(it, keyText.Value, ref valueNative, out result); }
             value = valueNative != 0;
+            QuorError.Raise(code);
             return result != 0;
         }
         /// <summary>True if the key was found with a value of that type, which Value then is.</summary>
         public bool ReadDouble(string key, ref double value) {
+            var it = NativeHandle;
             double valueNative = value;
             short result;
-            using (var keyText = new TextIn(key)) QuorError.Raise(Native.quor_inifile_ReadDouble(NativeHandle, keyText.Value, ref valueNative, out result));
+            int code;
+            using (var keyText = new TextIn(key)) { code = Native.quor_inifile_ReadDouble(it, keyText.Value, ref valueNative, out result); }
             value = valueNative;
+            QuorError.Raise(code);
             return result != 0;
         }
         /// <summary>True if the key was found with a value of that type, which Value then is.</summary>
         public bool ReadInteger(string key, ref short value) {
+            var it = NativeHandle;
             short valueNative = value;
             short result;
-            using (var keyText = new TextIn(key)) QuorError.Raise(Native.quor_inifile_ReadInteger(NativeHandle, keyText.Value, ref valueNative, out result));
+            int code;
+            using (var keyText = new TextIn(key)) { code = Native.quor_inifile_ReadInteger(it, keyText.Value, ref valueNative, out result); }
             value = valueNative;
+            QuorError.Raise(code);
             return result != 0;
         }
         /// <summary>True if the key was found; Value is then its text.</summary>
         public bool ReadString(string key, ref string value) {
+            var it = NativeHandle;
             Text valueOut;
+            string valueNew;
             short result;
-            using (var keyText = new TextIn(key)) using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_inifile_ReadString(NativeHandle, keyText.Value, valueText.Value, out valueOut, out result));
-            value = valueOut.Take();
+            int code;
+            using (var keyText = new TextIn(key)) using (var valueText = new TextIn(value)) { code = Native.quor_inifile_ReadString(it, keyText.Value, valueText.Value, out valueOut, out result); }
+            valueNew = valueOut.Take();
+            QuorError.Raise(code);
+            value = valueNew;
             return result != 0;
         }
         /// <summary>Writes a value under a key.</summary>
         public void WriteBoolean(string key, bool value) {
-            using (var keyText = new TextIn(key)) QuorError.Raise(Native.quor_inifile_WriteBoolean(NativeHandle, keyText.Value, QuorObject.Flag(value)));
+            var it = NativeHandle;
+            using (var keyText = new TextIn(key)) QuorError.Raise(Native.quor_inifile_WriteBoolean(it, keyText.Value, QuorObject.Flag(value)));
         }
         /// <summary>Writes a value under a key, followed by Comment in the file.</summary>
         public void WriteDouble(string key, double value, string comment = "") {
-            using (var keyText = new TextIn(key)) using (var commentText = new TextIn(comment)) QuorError.Raise(Native.quor_inifile_WriteDouble(NativeHandle, keyText.Value, value, commentText.Value));
+            var it = NativeHandle;
+            using (var keyText = new TextIn(key)) using (var commentText = new TextIn(comment)) QuorError.Raise(Native.quor_inifile_WriteDouble(it, keyText.Value, value, commentText.Value));
         }
         /// <summary>Writes a value under a key, followed by Comment in the file.</summary>
         public void WriteInteger(string key, short value, string comment = "") {
-            using (var keyText = new TextIn(key)) using (var commentText = new TextIn(comment)) QuorError.Raise(Native.quor_inifile_WriteInteger(NativeHandle, keyText.Value, value, commentText.Value));
+            var it = NativeHandle;
+            using (var keyText = new TextIn(key)) using (var commentText = new TextIn(comment)) QuorError.Raise(Native.quor_inifile_WriteInteger(it, keyText.Value, value, commentText.Value));
         }
         /// <summary>Writes a value under a key.</summary>
         public void WriteString(string key, string value) {
-            using (var keyText = new TextIn(key)) using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_inifile_WriteString(NativeHandle, keyText.Value, valueText.Value));
+            var it = NativeHandle;
+            using (var keyText = new TextIn(key)) using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_inifile_WriteString(it, keyText.Value, valueText.Value));
         }
         /// <summary>Opens a bracket: what is written in it becomes durable with the outermost Release.</summary>
         public void Hold() {
-            QuorError.Raise(Native.quor_inifile_Hold(NativeHandle));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_inifile_Hold(it));
         }
         /// <summary>Closes a bracket that Hold has opened.</summary>
         public void Release() {
-            QuorError.Raise(Native.quor_inifile_Release(NativeHandle));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_inifile_Release(it));
         }
         /// <summary>Closes a bracket instead of Release: nothing written since the outermost Hold is saved.</summary>
         public void Abandon() {
-            QuorError.Raise(Native.quor_inifile_Abandon(NativeHandle));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_inifile_Abandon(it));
         }
     }
 
@@ -2965,15 +3566,21 @@ namespace QuorConversions {
         }
         /// <summary>True if the value was found; Value is then its text.</summary>
         public bool ReadValue(string section, string name, ref string value) {
+            var it = NativeHandle;
             Text valueOut;
+            string valueNew;
             short result;
-            using (var sectionText = new TextIn(section)) using (var nameText = new TextIn(name)) using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_registry_ReadValue(NativeHandle, sectionText.Value, nameText.Value, valueText.Value, out valueOut, out result));
-            value = valueOut.Take();
+            int code;
+            using (var sectionText = new TextIn(section)) using (var nameText = new TextIn(name)) using (var valueText = new TextIn(value)) { code = Native.quor_registry_ReadValue(it, sectionText.Value, nameText.Value, valueText.Value, out valueOut, out result); }
+            valueNew = valueOut.Take();
+            QuorError.Raise(code);
+            value = valueNew;
             return result != 0;
         }
         /// <summary>Stores a value for later runs.</summary>
         public void WriteValue(string section, string name, string value) {
-            using (var sectionText = new TextIn(section)) using (var nameText = new TextIn(name)) using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_registry_WriteValue(NativeHandle, sectionText.Value, nameText.Value, valueText.Value));
+            var it = NativeHandle;
+            using (var sectionText = new TextIn(section)) using (var nameText = new TextIn(name)) using (var valueText = new TextIn(value)) QuorError.Raise(Native.quor_registry_WriteValue(it, sectionText.Value, nameText.Value, valueText.Value));
         }
     }
 
@@ -2982,23 +3589,27 @@ namespace QuorConversions {
         internal ListControl(ulong handle) : base(handle) { }
         /// <summary>Removes all items.</summary>
         public void Clear() {
-            QuorError.Raise(Native.quor_list_control_Clear(NativeHandle));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_list_control_Clear(it));
         }
         /// <summary>Adds an item at the end.</summary>
         public void AddItem(string item) {
-            using (var itemText = new TextIn(item)) QuorError.Raise(Native.quor_list_control_AddItem(NativeHandle, itemText.Value));
+            var it = NativeHandle;
+            using (var itemText = new TextIn(item)) QuorError.Raise(Native.quor_list_control_AddItem(it, itemText.Value));
         }
         /// <summary>The index, from 0, of the item that was added last.</summary>
         public int NewIndex {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_list_control_get_NewIndex(NativeHandle, out result));
+                QuorError.Raise(Native.quor_list_control_get_NewIndex(it, out result));
                 return result;
             }
         }
         /// <summary>The number of an item.</summary>
         public void SetItemData(int index, int value) {
-            QuorError.Raise(Native.quor_list_control_put_ItemData(NativeHandle, index, value));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_list_control_put_ItemData(it, index, value));
         }
     }
 
@@ -3013,187 +3624,224 @@ namespace QuorConversions {
         /// <summary>The name in the code: "frmCVDSettings", "txtCoefficients(2)".</summary>
         public string Name {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_dialog_get_Name(NativeHandle, out result));
+                QuorError.Raise(Native.quor_dialog_get_Name(it, out result));
                 return result.Take();
             }
         }
         /// <summary>The title of the window.</summary>
         public string Title {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_dialog_get_Title(NativeHandle, out result));
+                QuorError.Raise(Native.quor_dialog_get_Title(it, out result));
                 return result.Take();
             }
         }
         /// <summary>The context number of the dialog's help topic.</summary>
         public int HelpContext {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_dialog_get_HelpContext(NativeHandle, out result));
+                QuorError.Raise(Native.quor_dialog_get_HelpContext(it, out result));
                 return result;
             }
         }
         /// <summary>How many controls there are.</summary>
         public int ControlCount {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_dialog_get_ControlCount(NativeHandle, out result));
+                QuorError.Raise(Native.quor_dialog_get_ControlCount(it, out result));
                 return result;
             }
         }
         /// <summary>A control, in tab order, from 0. The frames and labels are among them.</summary>
         public Control GetControls(int index) {
+            var it = NativeHandle;
             ulong result;
-            QuorError.Raise(Native.quor_dialog_get_Controls(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_dialog_get_Controls(it, index, out result));
             return (Control)QuorObject.Of(result);
         }
         /// <summary>The control with that name; none if there is none.</summary>
         public Control FindControl(string name) {
+            var it = NativeHandle;
             ulong result;
-            using (var nameText = new TextIn(name)) QuorError.Raise(Native.quor_dialog_FindControl(NativeHandle, nameText.Value, out result));
+            using (var nameText = new TextIn(name)) QuorError.Raise(Native.quor_dialog_FindControl(it, nameText.Value, out result));
             return (Control)QuorObject.Of(result);
         }
         /// <summary>How many frames and button groups there are side by side.</summary>
         public int ColumnCount {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_dialog_get_ColumnCount(NativeHandle, out result));
+                QuorError.Raise(Native.quor_dialog_get_ColumnCount(it, out result));
                 return result;
             }
         }
         /// <summary>A frame or button group, from left to right, from 0.</summary>
         public Control GetColumns(int index) {
+            var it = NativeHandle;
             ulong result;
-            QuorError.Raise(Native.quor_dialog_get_Columns(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_dialog_get_Columns(it, index, out result));
             return (Control)QuorObject.Of(result);
         }
         /// <summary>The button that the Escape key presses; none if there is none.</summary>
         public Control CancelButton {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_dialog_get_CancelButton(NativeHandle, out result));
+                QuorError.Raise(Native.quor_dialog_get_CancelButton(it, out result));
                 return (Control)QuorObject.Of(result);
             }
         }
         /// <summary>The handle of the window while it is shown; 0 otherwise. The host that shows the window sets it.</summary>
         public int WindowHandle {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_dialog_get_WindowHandle(NativeHandle, out result));
+                QuorError.Raise(Native.quor_dialog_get_WindowHandle(it, out result));
                 return result;
             }
             set {
-                QuorError.Raise(Native.quor_dialog_put_WindowHandle(NativeHandle, value));
+                var it = NativeHandle;
+                QuorError.Raise(Native.quor_dialog_put_WindowHandle(it, value));
             }
         }
         /// <summary>Whether the position of the window is known.</summary>
         public bool HasPlace {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_dialog_get_HasPlace(NativeHandle, out result));
+                QuorError.Raise(Native.quor_dialog_get_HasPlace(it, out result));
                 return result != 0;
             }
         }
         /// <summary>The position of the window, in units of the host; 0 if it is not known.</summary>
         public int Left {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_dialog_get_Left(NativeHandle, out result));
+                QuorError.Raise(Native.quor_dialog_get_Left(it, out result));
                 return result;
             }
         }
         /// <summary>The position of the window, in units of the host; 0 if it is not known.</summary>
         public int Top {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_dialog_get_Top(NativeHandle, out result));
+                QuorError.Raise(Native.quor_dialog_get_Top(it, out result));
                 return result;
             }
         }
         /// <summary>Sets the position of the window.</summary>
         public void SetPlace(int left, int top) {
-            QuorError.Raise(Native.quor_dialog_SetPlace(NativeHandle, left, top));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_dialog_SetPlace(it, left, top));
         }
         /// <summary>False once the dialog was closed: run_dialog must return.</summary>
         public bool IsOpen {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_dialog_get_IsOpen(NativeHandle, out result));
+                QuorError.Raise(Native.quor_dialog_get_IsOpen(it, out result));
                 return result != 0;
             }
         }
         /// <summary>The control that has the focus; none before the first one has received it.</summary>
         public Control ActiveControl {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_dialog_get_ActiveControl(NativeHandle, out result));
+                QuorError.Raise(Native.quor_dialog_get_ActiveControl(it, out result));
                 return (Control)QuorObject.Of(result);
             }
         }
         /// <summary>The window has become the active one. Call it once the window is shown.</summary>
         public void Activate() {
-            QuorError.Raise(Native.quor_dialog_Activate(NativeHandle));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_dialog_Activate(it));
         }
         /// <summary>A push button was pressed.</summary>
         public void Click(Control button) {
-            QuorError.Raise(Native.quor_dialog_Click(NativeHandle, QuorObject.HandleOf(button)));
+            var it = NativeHandle;
+            var buttonHandle = QuorObject.HandleOf(button);
+            QuorError.Raise(Native.quor_dialog_Click(it, buttonHandle));
         }
         /// <summary>An item of a list was chosen.</summary>
         public void Choose(Control list, int index) {
-            QuorError.Raise(Native.quor_dialog_Choose(NativeHandle, QuorObject.HandleOf(list), index));
+            var it = NativeHandle;
+            var listHandle = QuorObject.HandleOf(list);
+            QuorError.Raise(Native.quor_dialog_Choose(it, listHandle, index));
         }
         /// <summary>A tab was chosen.</summary>
         public void SelectTab(Control tabs, int index) {
-            QuorError.Raise(Native.quor_dialog_SelectTab(NativeHandle, QuorObject.HandleOf(tabs), index));
+            var it = NativeHandle;
+            var tabsHandle = QuorObject.HandleOf(tabs);
+            QuorError.Raise(Native.quor_dialog_SelectTab(it, tabsHandle, index));
         }
         /// <summary>The user moved the focus to a control.</summary>
         public void Focus(Control control) {
-            QuorError.Raise(Native.quor_dialog_Focus(NativeHandle, QuorObject.HandleOf(control)));
+            var it = NativeHandle;
+            var controlHandle = QuorObject.HandleOf(control);
+            QuorError.Raise(Native.quor_dialog_Focus(it, controlHandle));
         }
         /// <summary>The Tab key was pressed, with Shift if Backwards.</summary>
         public void PressTab(bool backwards = false) {
-            QuorError.Raise(Native.quor_dialog_PressTab(NativeHandle, QuorObject.Flag(backwards)));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_dialog_PressTab(it, QuorObject.Flag(backwards)));
         }
         /// <summary>A key was pressed in the box that has the focus. Returns the key to use instead, or 0 for none.</summary>
         public short KeyPress(short keyAscii) {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_dialog_KeyPress(NativeHandle, keyAscii, out result));
+            QuorError.Raise(Native.quor_dialog_KeyPress(it, keyAscii, out result));
             return result;
         }
         /// <summary>The user has changed the text or the selection of a box; positions in characters (code points).</summary>
         public void EditText(Control box, string text, int selStart, int selLength) {
-            using (var textText = new TextIn(text)) QuorError.Raise(Native.quor_dialog_EditText(NativeHandle, QuorObject.HandleOf(box), textText.Value, selStart, selLength));
+            var it = NativeHandle;
+            var boxHandle = QuorObject.HandleOf(box);
+            using (var textText = new TextIn(text)) QuorError.Raise(Native.quor_dialog_EditText(it, boxHandle, textText.Value, selStart, selLength));
         }
         /// <summary>The Escape key was pressed.</summary>
         public void Escape() {
-            QuorError.Raise(Native.quor_dialog_Escape(NativeHandle));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_dialog_Escape(it));
         }
         /// <summary>The user closed the window by its frame.</summary>
         public void Close() {
-            QuorError.Raise(Native.quor_dialog_Close(NativeHandle));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_dialog_Close(it));
         }
         /// <summary>Text was pasted into a box or dropped on it. It may also fill the following boxes.</summary>
         public void Paste(Control box, string text) {
-            using (var textText = new TextIn(text)) QuorError.Raise(Native.quor_dialog_Paste(NativeHandle, QuorObject.HandleOf(box), textText.Value));
+            var it = NativeHandle;
+            var boxHandle = QuorObject.HandleOf(box);
+            using (var textText = new TextIn(text)) QuorError.Raise(Native.quor_dialog_Paste(it, boxHandle, textText.Value));
         }
         /// <summary>The F1 key was pressed.</summary>
         public void Help() {
-            QuorError.Raise(Native.quor_dialog_Help(NativeHandle));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_dialog_Help(it));
         }
         /// <summary>The button that the F1 key presses; none if there is none.</summary>
         public Control HelpButton {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_dialog_get_HelpButton(NativeHandle, out result));
+                QuorError.Raise(Native.quor_dialog_get_HelpButton(it, out result));
                 return (Control)QuorObject.Of(result);
             }
         }
         /// <summary>The box whose advice should be shown; none if there is no advice.</summary>
         public Control AdvisedBox {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_dialog_get_AdvisedBox(NativeHandle, out result));
+                QuorError.Raise(Native.quor_dialog_get_AdvisedBox(it, out result));
                 return (Control)QuorObject.Of(result);
             }
         }
@@ -3205,172 +3853,195 @@ namespace QuorConversions {
         /// <summary>The name in the code: "frmCVDSettings", "txtCoefficients(2)".</summary>
         public string Name {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_control_get_Name(NativeHandle, out result));
+                QuorError.Raise(Native.quor_control_get_Name(it, out result));
                 return result.Take();
             }
         }
         /// <summary>The kind of the control.</summary>
         public EControlKind Kind {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_control_get_Kind(NativeHandle, out result));
+                QuorError.Raise(Native.quor_control_get_Kind(it, out result));
                 return (EControlKind)result;
             }
         }
         /// <summary>The text on the control. "&amp;" precedes the access key: "&amp;OK".</summary>
         public string Caption {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_control_get_Caption(NativeHandle, out result));
+                QuorError.Raise(Native.quor_control_get_Caption(it, out result));
                 return result.Take();
             }
         }
         /// <summary>Whether the control is enabled.</summary>
         public bool Enabled {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_control_get_Enabled(NativeHandle, out result));
+                QuorError.Raise(Native.quor_control_get_Enabled(it, out result));
                 return result != 0;
             }
         }
         /// <summary>Whether the control is visible itself; it may nevertheless be in a hidden frame: IsShown.</summary>
         public bool Visible {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_control_get_Visible(NativeHandle, out result));
+                QuorError.Raise(Native.quor_control_get_Visible(it, out result));
                 return result != 0;
             }
         }
         /// <summary>Whether the control and the frames around it are visible.</summary>
         public bool IsShown {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_control_get_IsShown(NativeHandle, out result));
+                QuorError.Raise(Native.quor_control_get_IsShown(it, out result));
                 return result != 0;
             }
         }
         /// <summary>Whether the user can act on it.</summary>
         public bool IsUsable {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_control_get_IsUsable(NativeHandle, out result));
+                QuorError.Raise(Native.quor_control_get_IsUsable(it, out result));
                 return result != 0;
             }
         }
         /// <summary>The frame around it; none if it is directly in the dialog.</summary>
         public Control Parent {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_control_get_Parent(NativeHandle, out result));
+                QuorError.Raise(Native.quor_control_get_Parent(it, out result));
                 return (Control)QuorObject.Of(result);
             }
         }
         /// <summary>The text of a text box.</summary>
         public string Text {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_control_get_Text(NativeHandle, out result));
+                QuorError.Raise(Native.quor_control_get_Text(it, out result));
                 return result.Take();
             }
         }
         /// <summary>Where the selection of a text box begins, in characters (code points).</summary>
         public int SelStart {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_control_get_SelStart(NativeHandle, out result));
+                QuorError.Raise(Native.quor_control_get_SelStart(it, out result));
                 return result;
             }
         }
         /// <summary>How long the selection of a text box is, in characters (code points).</summary>
         public int SelLength {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_control_get_SelLength(NativeHandle, out result));
+                QuorError.Raise(Native.quor_control_get_SelLength(it, out result));
                 return result;
             }
         }
         /// <summary>How many items a list has.</summary>
         public int ListCount {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_control_get_ListCount(NativeHandle, out result));
+                QuorError.Raise(Native.quor_control_get_ListCount(it, out result));
                 return result;
             }
         }
         /// <summary>The text of an item, from 0.</summary>
         public string GetList(int index) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_control_get_List(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_control_get_List(it, index, out result));
             return result.Take();
         }
         /// <summary>The number of an item.</summary>
         public int GetItemData(int index) {
+            var it = NativeHandle;
             int result;
-            QuorError.Raise(Native.quor_control_get_ItemData(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_control_get_ItemData(it, index, out result));
             return result;
         }
         /// <summary>The selected item of a list, from 0; -1 for none.</summary>
         public int ListIndex {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_control_get_ListIndex(NativeHandle, out result));
+                QuorError.Raise(Native.quor_control_get_ListIndex(it, out result));
                 return result;
             }
         }
         /// <summary>How many rows a frame has.</summary>
         public int RowCount {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_control_get_RowCount(NativeHandle, out result));
+                QuorError.Raise(Native.quor_control_get_RowCount(it, out result));
                 return result;
             }
         }
         /// <summary>How many cells a row has; rows count from 0.</summary>
         public int GetRowLength(int row) {
+            var it = NativeHandle;
             int result;
-            QuorError.Raise(Native.quor_control_get_RowLength(NativeHandle, row, out result));
+            QuorError.Raise(Native.quor_control_get_RowLength(it, row, out result));
             return result;
         }
         /// <summary>The control in a cell of a row, both from 0; none in an empty cell.</summary>
         public Control GetRowControls(int row, int place) {
+            var it = NativeHandle;
             ulong result;
-            QuorError.Raise(Native.quor_control_get_RowControls(NativeHandle, row, place, out result));
+            QuorError.Raise(Native.quor_control_get_RowControls(it, row, place, out result));
             return (Control)QuorObject.Of(result);
         }
         /// <summary>How many tabs a strip has, including removed ones.</summary>
         public int TabCount {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_control_get_TabCount(NativeHandle, out result));
+                QuorError.Raise(Native.quor_control_get_TabCount(it, out result));
                 return result;
             }
         }
         /// <summary>The caption of a tab, from 0.</summary>
         public string GetTabCaption(int index) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_control_get_TabCaption(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_control_get_TabCaption(it, index, out result));
             return result.Take();
         }
         /// <summary>False for a tab that was removed.</summary>
         public bool GetTabPresent(int index) {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_control_get_TabPresent(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_control_get_TabPresent(it, index, out result));
             return result != 0;
         }
         /// <summary>The selected tab, from 0.</summary>
         public int SelectedTab {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_control_get_SelectedTab(NativeHandle, out result));
+                QuorError.Raise(Native.quor_control_get_SelectedTab(it, out result));
                 return result;
             }
         }
         /// <summary>What the user should know about the text of a box before it is stored; usually empty.</summary>
         public string Advice {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_control_get_Advice(NativeHandle, out result));
+                QuorError.Raise(Native.quor_control_get_Advice(it, out result));
                 return result.Take();
             }
         }
@@ -3388,259 +4059,307 @@ namespace QuorConversions {
         /// <summary>The path with which the object was created.</summary>
         public string Path {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_probe_file_get_Path(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_file_get_Path(it, out result));
                 return result.Take();
             }
         }
         /// <summary>Whether a write would be refused because the user has no permission to write the file or its folder.</summary>
         public bool IsReadOnly {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_probe_file_get_IsReadOnly(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_file_get_IsReadOnly(it, out result));
                 return result != 0;
             }
         }
         /// <summary>How many probes there are.</summary>
         public int ProbeCount {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_probe_file_get_ProbeCount(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_file_get_ProbeCount(it, out result));
                 return result;
             }
         }
         /// <summary>The section of a probe, in the order of the file, from 0.</summary>
         public string GetProbeSection(int index) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_probe_file_get_ProbeSection(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_probe_file_get_ProbeSection(it, index, out result));
             return result.Take();
         }
         /// <summary>The line of the header of a probe's section, from 1.</summary>
         public int GetProbeLine(int index) {
+            var it = NativeHandle;
             int result;
-            QuorError.Raise(Native.quor_probe_file_get_ProbeLine(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_probe_file_get_ProbeLine(it, index, out result));
             return result;
         }
         /// <summary>The conversion type of a probe, CONV_NONE if HasType is False. It may be a code that is not a type.</summary>
         public EQuorConversionType GetProbeType(int index) {
+            var it = NativeHandle;
             int result;
-            QuorError.Raise(Native.quor_probe_file_get_ProbeType(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_probe_file_get_ProbeType(it, index, out result));
             return (EQuorConversionType)result;
         }
         /// <summary>Whether the record of a probe has a type that can be read. False for a stand-alone one.</summary>
         public bool GetHasType(int index) {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_probe_file_get_HasType(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_probe_file_get_HasType(it, index, out result));
             return result != 0;
         }
         /// <summary>Whether the section itself has the settings: the probe of a settings file.</summary>
         public bool GetIsStandAlone(int index) {
+            var it = NativeHandle;
             short result;
-            QuorError.Raise(Native.quor_probe_file_get_IsStandAlone(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_probe_file_get_IsStandAlone(it, index, out result));
             return result != 0;
         }
         /// <summary>The name of a probe's conversion; empty where its type cannot be read.</summary>
         public string GetConversionName(int index) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_probe_file_get_ConversionName(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_probe_file_get_ConversionName(it, index, out result));
             return result.Take();
         }
         /// <summary>The index of the probe in a section, ignoring the case of ASCII letters; -1 if there is none.</summary>
         public int FindProbe(string section) {
+            var it = NativeHandle;
             int result;
-            using (var sectionText = new TextIn(section)) QuorError.Raise(Native.quor_probe_file_FindProbe(NativeHandle, sectionText.Value, out result));
+            using (var sectionText = new TextIn(section)) QuorError.Raise(Native.quor_probe_file_FindProbe(it, sectionText.Value, out result));
             return result;
         }
         /// <summary>Reads a probe into a conversion, which receives its type. False if something was missing, for which it has the defaults: see ProblemCount.</summary>
         public bool Read(string section, CQuorConversion conversion) {
+            var it = NativeHandle;
+            var conversionHandle = QuorObject.HandleOf(conversion);
             short result;
-            using (var sectionText = new TextIn(section)) QuorError.Raise(Native.quor_probe_file_Read(NativeHandle, sectionText.Value, QuorObject.HandleOf(conversion), out result));
+            using (var sectionText = new TextIn(section)) QuorError.Raise(Native.quor_probe_file_Read(it, sectionText.Value, conversionHandle, out result));
             return result != 0;
         }
         /// <summary>The numbers of all probes at once.</summary>
         public ProbeTable ReadAll() {
+            var it = NativeHandle;
             ulong result;
-            QuorError.Raise(Native.quor_probe_file_ReadAll(NativeHandle, out result));
+            QuorError.Raise(Native.quor_probe_file_ReadAll(it, out result));
             return (ProbeTable)QuorObject.Of(result);
         }
         /// <summary>Finds everything that is wrong with the file and its probes. Returns the number of problems.</summary>
         public int Check() {
+            var it = NativeHandle;
             int result;
-            QuorError.Raise(Native.quor_probe_file_Check(NativeHandle, out result));
+            QuorError.Raise(Native.quor_probe_file_Check(it, out result));
             return result;
         }
         /// <summary>How many problems the last Read or Check has found. They are kept until the next call that is not a get. The index of a problem counts from 0.</summary>
         public int ProblemCount {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_probe_file_get_ProblemCount(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_file_get_ProblemCount(it, out result));
                 return result;
             }
         }
         /// <summary>What is wrong.</summary>
         public EProbeProblem GetProblemKind(int index) {
+            var it = NativeHandle;
             int result;
-            QuorError.Raise(Native.quor_probe_file_get_ProblemKind(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_probe_file_get_ProblemKind(it, index, out result));
             return (EProbeProblem)result;
         }
         /// <summary>The line of a problem, from 1; 0 for a file beside it.</summary>
         public int GetProblemLine(int index) {
+            var it = NativeHandle;
             int result;
-            QuorError.Raise(Native.quor_probe_file_get_ProblemLine(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_probe_file_get_ProblemLine(it, index, out result));
             return result;
         }
         /// <summary>The section of a problem; empty if it has no name.</summary>
         public string GetProblemSection(int index) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_probe_file_get_ProblemSection(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_probe_file_get_ProblemSection(it, index, out result));
             return result.Take();
         }
         /// <summary>The key of a problem; empty if it does not concern a single key.</summary>
         public string GetProblemKey(int index) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_probe_file_get_ProblemKey(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_probe_file_get_ProblemKey(it, index, out result));
             return result.Take();
         }
         /// <summary>What is wrong, for people, without the place.</summary>
         public string GetProblemText(int index) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_probe_file_get_ProblemText(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_probe_file_get_ProblemText(it, index, out result));
             return result.Take();
         }
         /// <summary>How many messages of the library the last Read has collected instead of showing them. Their index counts from 0.</summary>
         public int MessageCount {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_probe_file_get_MessageCount(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_file_get_MessageCount(it, out result));
                 return result;
             }
         }
         /// <summary>A message of the last Read, on one line.</summary>
         public string GetMessages(int index) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_probe_file_get_Messages(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_probe_file_get_Messages(it, index, out result));
             return result.Take();
         }
         /// <summary>Writes a probe into a section, replacing the one there or as a new one: only the lines of values that differ change.</summary>
         public void Write(string section, CQuorConversion conversion) {
-            using (var sectionText = new TextIn(section)) QuorError.Raise(Native.quor_probe_file_Write(NativeHandle, sectionText.Value, QuorObject.HandleOf(conversion)));
+            var it = NativeHandle;
+            var conversionHandle = QuorObject.HandleOf(conversion);
+            using (var sectionText = new TextIn(section)) QuorError.Raise(Native.quor_probe_file_Write(it, sectionText.Value, conversionHandle));
         }
         /// <summary>Writes the values of a probe that have changed since this object has read them into the conversion, or has written them from it. What other programs have written elsewhere is kept, in later calls too. False if they have changed the same values: there are conflicts, and nothing is written. Error 5 for a conversion that this object has neither read nor written.</summary>
         public bool WriteChanges(string section, CQuorConversion conversion) {
+            var it = NativeHandle;
+            var conversionHandle = QuorObject.HandleOf(conversion);
             short result;
-            using (var sectionText = new TextIn(section)) QuorError.Raise(Native.quor_probe_file_WriteChanges(NativeHandle, sectionText.Value, QuorObject.HandleOf(conversion), out result));
+            using (var sectionText = new TextIn(section)) QuorError.Raise(Native.quor_probe_file_WriteChanges(it, sectionText.Value, conversionHandle, out result));
             return result != 0;
         }
         /// <summary>How many values other programs have changed too, as found by the last WriteChanges or Release. The index of a conflict counts from 0.</summary>
         public int ConflictCount {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_probe_file_get_ConflictCount(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_file_get_ConflictCount(it, out result));
                 return result;
             }
         }
         /// <summary>The section of such a value.</summary>
         public string GetConflictSection(int index) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_probe_file_get_ConflictSection(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_probe_file_get_ConflictSection(it, index, out result));
             return result.Take();
         }
         /// <summary>The key of such a value.</summary>
         public string GetConflictKey(int index) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_probe_file_get_ConflictKey(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_probe_file_get_ConflictKey(it, index, out result));
             return result.Take();
         }
         /// <summary>The value that was read; empty for none.</summary>
         public string GetConflictRead(int index) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_probe_file_get_ConflictRead(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_probe_file_get_ConflictRead(it, index, out result));
             return result.Take();
         }
         /// <summary>The value that the file has now; empty for none.</summary>
         public string GetConflictTheirs(int index) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_probe_file_get_ConflictTheirs(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_probe_file_get_ConflictTheirs(it, index, out result));
             return result.Take();
         }
         /// <summary>The value that should have been written.</summary>
         public string GetConflictOurs(int index) {
+            var it = NativeHandle;
             Text result;
-            QuorError.Raise(Native.quor_probe_file_get_ConflictOurs(NativeHandle, index, out result));
+            QuorError.Raise(Native.quor_probe_file_get_ConflictOurs(it, index, out result));
             return result.Take();
         }
         /// <summary>Renames a probe and its settings sections.</summary>
         public void Rename(string section, string name) {
-            using (var sectionText = new TextIn(section)) using (var nameText = new TextIn(name)) QuorError.Raise(Native.quor_probe_file_Rename(NativeHandle, sectionText.Value, nameText.Value));
+            var it = NativeHandle;
+            using (var sectionText = new TextIn(section)) using (var nameText = new TextIn(name)) QuorError.Raise(Native.quor_probe_file_Rename(it, sectionText.Value, nameText.Value));
         }
         /// <summary>Removes a probe and its settings sections. Comments that a blank line separates from it stay.</summary>
         public void Remove(string section) {
-            using (var sectionText = new TextIn(section)) QuorError.Raise(Native.quor_probe_file_Remove(NativeHandle, sectionText.Value));
+            var it = NativeHandle;
+            using (var sectionText = new TextIn(section)) QuorError.Raise(Native.quor_probe_file_Remove(it, sectionText.Value));
         }
         /// <summary>Copies the values of a probe into another section, which is new or has a probe of the same type.</summary>
         public void Copy(string section, string toSection) {
-            using (var sectionText = new TextIn(section)) using (var toSectionText = new TextIn(toSection)) QuorError.Raise(Native.quor_probe_file_Copy(NativeHandle, sectionText.Value, toSectionText.Value));
+            var it = NativeHandle;
+            using (var sectionText = new TextIn(section)) using (var toSectionText = new TextIn(toSection)) QuorError.Raise(Native.quor_probe_file_Copy(it, sectionText.Value, toSectionText.Value));
         }
         /// <summary>The same from another file, as it was loaded.</summary>
         public void CopyFrom(ProbeFile source, string section, string toSection) {
-            using (var sectionText = new TextIn(section)) using (var toSectionText = new TextIn(toSection)) QuorError.Raise(Native.quor_probe_file_CopyFrom(NativeHandle, QuorObject.HandleOf(source), sectionText.Value, toSectionText.Value));
+            var it = NativeHandle;
+            var sourceHandle = QuorObject.HandleOf(source);
+            using (var sectionText = new TextIn(section)) using (var toSectionText = new TextIn(toSection)) QuorError.Raise(Native.quor_probe_file_CopyFrom(it, sourceHandle, sectionText.Value, toSectionText.Value));
         }
         /// <summary>Opens a bracket: what is written in it becomes durable with the outermost Release.</summary>
         public void Hold() {
-            QuorError.Raise(Native.quor_probe_file_Hold(NativeHandle));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_probe_file_Hold(it));
         }
         /// <summary>Closes a bracket that Hold has opened.</summary>
         public void Release() {
-            QuorError.Raise(Native.quor_probe_file_Release(NativeHandle));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_probe_file_Release(it));
         }
         /// <summary>Closes a bracket instead of Release: nothing written since the outermost Hold is saved.</summary>
         public void Abandon() {
-            QuorError.Raise(Native.quor_probe_file_Abandon(NativeHandle));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_probe_file_Abandon(it));
         }
         /// <summary>Replaces another file with the text of this one as it was last loaded or saved.</summary>
         public void SaveAs(string path) {
-            using (var pathText = new TextIn(path)) QuorError.Raise(Native.quor_probe_file_SaveAs(NativeHandle, pathText.Value));
+            var it = NativeHandle;
+            using (var pathText = new TextIn(path)) QuorError.Raise(Native.quor_probe_file_SaveAs(it, pathText.Value));
         }
         /// <summary>Whether another program has changed the file since it was loaded or saved, or has removed it.</summary>
         public bool Changed {
             get {
+                var it = NativeHandle;
                 short result;
-                QuorError.Raise(Native.quor_probe_file_get_Changed(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_file_get_Changed(it, out result));
                 return result != 0;
             }
         }
         /// <summary>Loads the current file.</summary>
         public void Reload() {
-            QuorError.Raise(Native.quor_probe_file_Reload(NativeHandle));
+            var it = NativeHandle;
+            QuorError.Raise(Native.quor_probe_file_Reload(it));
         }
         /// <summary>The store of the file, for its other sections.</summary>
         public INIFile Store {
             get {
+                var it = NativeHandle;
                 ulong result;
-                QuorError.Raise(Native.quor_probe_file_get_Store(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_file_get_Store(it, out result));
                 return (INIFile)QuorObject.Of(result);
             }
         }
         /// <summary>Why the last call failed; 0 if it did not, or if the error does not concern a probe.</summary>
         public EProbeFileError ErrorCode {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_probe_file_get_ErrorCode(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_file_get_ErrorCode(it, out result));
                 return (EProbeFileError)result;
             }
         }
         /// <summary>What else the error concerns: another probe or section, or a type; usually empty.</summary>
         public string ErrorOther {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_probe_file_get_ErrorOther(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_file_get_ErrorOther(it, out result));
                 return result.Take();
             }
         }
         /// <summary>Whether WriteChanges would write anything; for a conversion that this object has neither read nor written, whether it has another type or other values than the probe, as Read would give it.</summary>
         public bool Differs(string section, CQuorConversion conversion) {
+            var it = NativeHandle;
+            var conversionHandle = QuorObject.HandleOf(conversion);
             short result;
-            using (var sectionText = new TextIn(section)) QuorError.Raise(Native.quor_probe_file_Differs(NativeHandle, sectionText.Value, QuorObject.HandleOf(conversion), out result));
+            using (var sectionText = new TextIn(section)) QuorError.Raise(Native.quor_probe_file_Differs(it, sectionText.Value, conversionHandle, out result));
             return result != 0;
         }
     }
@@ -3651,71 +4370,83 @@ namespace QuorConversions {
         /// <summary>How many probes there are.</summary>
         public int ProbeCount {
             get {
+                var it = NativeHandle;
                 int result;
-                QuorError.Raise(Native.quor_probe_table_get_ProbeCount(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_table_get_ProbeCount(it, out result));
                 return result;
             }
         }
         /// <summary>The sections of the probes, each followed by a line feed (10).</summary>
         public string Sections {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_probe_table_get_Sections(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_table_get_Sections(it, out result));
                 return result.Take();
             }
         }
         /// <summary>The conversion type of each probe; CONV_NONE if it cannot be read.</summary>
         public int[] Types {
             get {
+                var it = NativeHandle;
                 Array result;
-                QuorError.Raise(Native.quor_probe_table_get_Types(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_table_get_Types(it, out result));
                 return result.Int32s();
             }
         }
         /// <summary>How many problems and messages there are with each probe; -1 for one that cannot be read.</summary>
         public int[] ProblemCounts {
             get {
+                var it = NativeHandle;
                 Array result;
-                QuorError.Raise(Native.quor_probe_table_get_ProblemCounts(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_table_get_ProblemCounts(it, out result));
                 return result.Int32s();
             }
         }
         /// <summary>The different lists of keys, with tabs between the keys, each list followed by a line feed (10).</summary>
         public string KeyLists {
             get {
+                var it = NativeHandle;
                 Text result;
-                QuorError.Raise(Native.quor_probe_table_get_KeyLists(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_table_get_KeyLists(it, out result));
                 return result.Take();
             }
         }
         /// <summary>Which list, from 0, names the values of each probe.</summary>
         public int[] KeyListOf {
             get {
+                var it = NativeHandle;
                 Array result;
-                QuorError.Raise(Native.quor_probe_table_get_KeyListOf(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_table_get_KeyListOf(it, out result));
                 return result.Int32s();
             }
         }
         /// <summary>The index after the last value of each probe, where those of the next one begin.</summary>
         public int[] ValueEnds {
             get {
+                var it = NativeHandle;
                 Array result;
-                QuorError.Raise(Native.quor_probe_table_get_ValueEnds(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_table_get_ValueEnds(it, out result));
                 return result.Int32s();
             }
         }
         /// <summary>The values of all probes. Booleans are 1 and 0; texts, such as units, are not included.</summary>
         public double[] Values {
             get {
+                var it = NativeHandle;
                 Array result;
-                QuorError.Raise(Native.quor_probe_table_get_Values(NativeHandle, out result));
+                QuorError.Raise(Native.quor_probe_table_get_Values(it, out result));
                 return result.Doubles();
             }
         }
     }
 
     static class Native {
+#if QUOR_LINUX
+        const string Library = "libquor.so.1"; // what a system without the development files has
+#else
         const string Library = "quor"; // quor.dll, libquor.so
+#endif
         const CallingConvention Convention = CallingConvention.Cdecl;
 
         [StructLayout(LayoutKind.Sequential)]
@@ -3731,6 +4462,8 @@ namespace QuorConversions {
         }
 
         [UnmanagedFunctionPointer(Convention)]
+        public delegate void Destroyed(IntPtr user);
+        [UnmanagedFunctionPointer(Convention)]
         public delegate int RunDialog(IntPtr user, ulong dialog);
         [UnmanagedFunctionPointer(Convention)]
         public delegate int ShowMessage(IntPtr user, ref MessageView message);
@@ -3739,15 +4472,18 @@ namespace QuorConversions {
         [StructLayout(LayoutKind.Sequential)]
         public struct PlatformFunctions {
             public UIntPtr Size;
-            public IntPtr Destroyed, CreateIniFile;
+            public Destroyed Destroyed;
+            public IntPtr CreateIniFile;
             public RunDialog RunDialog;
             public ShowMessage ShowMessage;
         }
 
         [DllImport(Library, CallingConvention = Convention)] public static extern int quor_last_error(out ErrorView error);
+        [DllImport(Library, CallingConvention = Convention)] public static extern int quor_set_error(int number, Text source, Text description, Text helpFile, int helpContext);
         [DllImport(Library, CallingConvention = Convention)] public static extern void quor_text_free(ref Text text);
         [DllImport(Library, CallingConvention = Convention)] public static extern int quor_add_ref(ulong handle);
         [DllImport(Library, CallingConvention = Convention)] public static extern int quor_release(ulong handle);
+        [DllImport(Library, CallingConvention = Convention)] public static extern int quor_handle_count(out int count);
         [DllImport(Library, CallingConvention = Convention)] public static extern int quor_class_of(ulong handle, out IntPtr name);
         [DllImport(Library, CallingConvention = Convention)] public static extern int quor_platform_from_host(ref PlatformFunctions functions, IntPtr user, out ulong platform);
         [DllImport(Library, CallingConvention = Convention)] public static extern int quor_conversion_create(ulong p0, out ulong result);

@@ -2,15 +2,20 @@
 // Usage: tests.exe FOLDER. Ends with 1 and names what does not hold.
 using System;
 using System.IO;
+using System.Runtime.InteropServices;
 using QuorConversions;
 
 /// A platform whose person does what the test says.
 sealed class Person : HostPlatform {
     public Action<Dialog> Does = dialog => { };
+    public Action Looks = () => { };
     public Message Seen;
 
     protected override void RunDialog(Dialog dialog) { Does(dialog); }
-    protected override void ShowMessage(Message message) { Seen = message; }
+    protected override void ShowMessage(Message message) {
+        Seen = message;
+        Looks();
+    }
 }
 
 static class Tests {
@@ -114,6 +119,91 @@ static class Tests {
         }
     }
 
+    static void ThePersonReadsTheWordsOfAnExceptionAndLaterFunctionsRunAsEver() {
+        using (var person = new Person())
+        using (var probe = CallendarVanDusen(person)) {
+            EQuorConversionType type = 0;
+            person.Looks = () => { type = probe.ConversionType; };
+            person.Does = dialog => { throw new QuorError(4711, "Bench", "the bulb has burnt out"); };
+            Expect(Raised<QuorError>(() => probe.Edit()).Number == 4711, "the number of the host's own");
+            if (person.Seen != null)
+                Expect(person.Seen.Text.Contains("4711") && person.Seen.Text.Contains("the bulb has burnt out"),
+                       "the message: " + person.Seen.Text);
+            person.Looks = () => { throw new InvalidOperationException("the second"); };
+            person.Does = dialog => { throw new InvalidOperationException("the first"); };
+            Expect(Raised<InvalidOperationException>(() => probe.Edit()).Message == "the first", "the first of two");
+            person.Looks = () => { type = probe.ConversionType; };
+            Expect(type == EQuorConversionType.CONV_CVD || person.Seen == null, "a call from within a message");
+        }
+    }
+
+    /// Nobody but the library knows its platform.
+    static CQuorConversion WithAForgottenPlatform() { return CallendarVanDusen(new Person {Looks = () => { s_looks++; }}); }
+    static int s_looks;
+
+    static void APlatformLivesAsLongAsTheLibraryNeedsIt() {
+        using (var probe = WithAForgottenPlatform()) {
+            for (var i = 0; i < 3; ++i) {
+                GC.Collect();
+                GC.WaitForPendingFinalizers();
+            }
+            INIFile none = null;
+            probe.ReadFromFile(ref none, Path.Combine(s_folder, "empty.ini"), "P");
+            Expect(s_looks == 2, "the messages of the conversion and of its settings reach it: " + s_looks);
+        }
+    }
+
+    static void ACallThatIsRefusedKeepsNoReference() {
+        var before = Handles();
+        using (var probe = CallendarVanDusen())
+        using (var ini = new INIFile()) {
+            var given = ini;
+            Raised<ArgumentNullException>(() => probe.ReadFromFile(ref given, null, "P"));
+            Expect(ReferenceEquals(given, ini), "the variable");
+        }
+        using (var person = new Person())
+        using (var probe = CallendarVanDusen(person))
+        using (var ini = new INIFile()) {
+            var given = ini;
+            ini.FileName = Path.Combine(s_folder, "empty.ini");
+            person.Looks = () => { throw new InvalidOperationException("not now"); };
+            Raised<InvalidOperationException>(() => probe.ReadFromFile(ref given, "", "P"));
+        }
+        Expect(Handles() == before, "handles: " + (Handles() - before));
+    }
+
+    static void EveryFunctionIsThereAndRefusesWhatIsNoHandle() {
+        var count = 0;
+        foreach (var function in typeof(Native).GetMethods()) {
+            if (!function.IsStatic)
+                continue;
+            Marshal.Prelink(function);
+            var parameters = function.GetParameters();
+            if (parameters.Length == 0 || parameters[0].Name != "it")
+                continue;
+            var arguments = new object[parameters.Length];
+            for (var i = 0; i < arguments.Length; ++i) {
+                var type = parameters[i].ParameterType;
+                arguments[i] = Activator.CreateInstance(type.IsByRef ? type.GetElementType() : type);
+            }
+            Expect((int)function.Invoke(null, arguments) == 91, function.Name + " without an object");
+            ++count;
+        }
+        Expect(count > 300, "functions: " + count);
+    }
+
+    static void TheNumbersOfAllProbesComeAtOnce() {
+        var path = Path.Combine(s_folder, "two.ini");
+        File.WriteAllText(path, "[P]\nVersion=1.0\nConversionType=2\n[P - Settings]\nVersion=1.0\nNumCoefficients=1\n" +
+                                "UsePolynomial=True\nCoefficients0=100.0123\n[Q]\nVersion=1.0\nConversionType=10\n");
+        using (var file = new ProbeFile(path))
+        using (var table = file.ReadAll()) {
+            Expect(table.Sections == "P\nQ\n", "sections");
+            Expect(table.ValueEnds.Length == 2 && table.ValueEnds[0] == 3 && table.ValueEnds[1] == 3, "where each ends");
+            Expect(table.Values.Length == 3 && table.Values[2] == 100.0123, "values, to the last bit");
+        }
+    }
+
     static void ADialogIsClosedByItsPerson() {
         using (var person = new Person())
         using (var probe = CallendarVanDusen(person)) {
@@ -126,12 +216,11 @@ static class Tests {
         }
     }
 
-    static void EveryHandleIsGivenBack() {
+    static int Handles() {
         int count;
-        Expect(quor_handle_count(out count) == 0 && count == 0, "no handle is left: " + count);
+        QuorError.Raise(Native.quor_handle_count(out count));
+        return count;
     }
-
-    [System.Runtime.InteropServices.DllImport("quor")] static extern int quor_handle_count(out int count);
 
     static int Main(string[] args) {
         s_folder = args[0];
@@ -142,8 +231,14 @@ static class Tests {
         AReferenceThatGoesInComesBackAsTheSameObject();
         AMessageReachesThePlatform();
         AnExceptionOfThePlatformComesBack();
+        ThePersonReadsTheWordsOfAnExceptionAndLaterFunctionsRunAsEver();
+        APlatformLivesAsLongAsTheLibraryNeedsIt();
+        ACallThatIsRefusedKeepsNoReference();
+        EveryFunctionIsThereAndRefusesWhatIsNoHandle();
+        TheNumbersOfAllProbesComeAtOnce();
         ADialogIsClosedByItsPerson();
-        EveryHandleIsGivenBack();
+        // The platform that nobody disposes of keeps its own.
+        Expect(Handles() == 1, "handles that are left: " + Handles());
         return s_failed;
     }
 }
