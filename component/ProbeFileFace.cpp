@@ -25,16 +25,21 @@ namespace {
 
 constexpr std::int32_t changedMeanwhile = 75;
 
+/// Asks what takes writing a conversion. An error that its settings object raises is one of its probe, as in
+/// ProbeFile::Write.
+template <class Body>
+[[nodiscard]] bool Asked(const ProbeFile& file, std::wstring_view section, Body&& body) {
+    try {
+        return body();
+    } catch (const QuorIniFile::QuorError& error) {
+        throw ProbeFileError(file.Path(), std::wstring(section), error);
+    }
+}
+
 /// The same conversion with the same values, without a platform. Raises what writing it would raise.
 [[nodiscard]] std::shared_ptr<CQuorConversion> Copied(const ProbeFile& file, std::wstring_view section,
                                                       const CQuorConversion& conversion) {
-    bool isConsistent = false;
-    try {
-        isConsistent = ProbeFile::IsConsistent(conversion);
-    } catch (const QuorIniFile::QuorError& error) { // as outside a bracket
-        throw ProbeFileError(file.Path(), std::wstring(section), error);
-    }
-    if (!isConsistent)
+    if (!Asked(file, section, [&] { return ProbeFile::IsConsistent(conversion); }))
         throw ProbeFileError(QuorProbeFile::PROBE_INCONSISTENT, file.Path(), std::wstring(section));
     auto copy = std::make_shared<CQuorConversion>();
     copy->SetConversionType(conversion.ConversionType());
@@ -194,7 +199,8 @@ std::int32_t ProbeFileFace::Check() {
 bool ProbeFileFace::Differs(std::wstring_view section, const Conversion& conversion) {
     return Do([&] {
         const auto known = m_records.find(conversion);
-        return (known == m_records.end() ? m_file.Record(section) : known->second).IsChanged(*conversion);
+        const RecordAsRead& record = known == m_records.end() ? m_file.Record(section) : known->second;
+        return Asked(m_file, section, [&] { return record.IsChanged(*conversion); });
     });
 }
 

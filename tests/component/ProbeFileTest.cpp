@@ -449,6 +449,9 @@ TEST_F(ProbeFileFromC, AConversionThatRefusesToBeWrittenHasItsCodeInABracketToo)
         EXPECT_NE(quor_probe_file_Write(file, Text("New"), conversion), 0);
         EXPECT_EQ(ErrorCode(file), QUOR_PROBE_CANNOT_BE_WRITTEN);
     }
+    EXPECT_NE(quor_probe_file_Differs(file, Text("T"), conversion, nullptr), 0);
+    EXPECT_EQ(ErrorCode(file), QUOR_PROBE_CANNOT_BE_WRITTEN);
+    EXPECT_EQ(LastError().description.find(Path() + ": [T]"), 0U) << LastError().description;
 }
 
 TEST_F(ProbeFileFromC, TheChangesOfAConversionThatItHasNeitherReadNorWrittenAreNotKnown) {

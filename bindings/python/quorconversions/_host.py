@@ -15,8 +15,8 @@ from typing import Any, Callable, ClassVar, List, Optional, Tuple, Type, Union
 
 from ._low import Control, Dialog, FileDialogKind, MessageIcon
 from ._low import INIFile as _StoreOfLibrary
-from ._runtime import (HostObject, View, borrowed, check, declare, exchanged, hosted, int16, keep, known,
-                       library, text)
+from ._runtime import (HostObject, View, borrowed, check, declare, exchanged, hosted, int16, keep, known, library,
+                       others_kept, text)
 
 PathText = Union[str, "os.PathLike[str]"]
 _keys = itertools.count(1)
@@ -27,11 +27,12 @@ def _function(call: Callable[..., object], *types: Any) -> Any:
     """A C function that calls a method of the host, and tells by a number when that raises."""
 
     def called(user: int, *arguments: Any) -> int:
-        try:
-            call(hosted[user], *arguments)
-            return 0
-        except BaseException as error:  # comes back from the call that is running
-            return keep(error)
+        with others_kept():
+            try:
+                call(hosted[user], *arguments)
+                return 0
+            except BaseException as error:  # comes back from the call that is running
+                return keep(error)
 
     return CFUNCTYPE(c_int32, c_void_p, *types)(called)
 
@@ -40,10 +41,11 @@ def _notice(call: Callable[..., object], *types: Any) -> Any:
     """The same for a function that cannot fail."""
 
     def called(user: int, *arguments: Any) -> None:
-        try:
-            call(hosted[user], *arguments)
-        except BaseException as error:
-            keep(error)
+        with others_kept():
+            try:
+                call(hosted[user], *arguments)
+            except BaseException as error:
+                keep(error)
 
     return CFUNCTYPE(None, c_void_p, *types)(called)
 

@@ -149,7 +149,9 @@ class ProbeFile(MutableMapping[str, Conversion]):
 
     After a save the probes that were accessed are read again, which gives their conversions the values that other
     programs have written. If one has become incomplete, IncompleteProbeError is raised, once all others have been read:
-    the changes are saved, and its conversion keeps its values but no longer belongs to the file."""
+    the changes are saved, and its conversion keeps its values but no longer belongs to the file. Nor do conversions whose
+    probes other programs have removed, and those obtained before `discard` or an exception. If one of them is changed
+    afterwards, `save` raises ValueError, because the change would be lost."""
 
     def __init__(self, path: PathText, create: bool = False, platform: Optional[Platform] = None) -> None:
         """Loads the file. With `create` it need not exist: the first save creates it."""
@@ -159,6 +161,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
         self._file = _low.ProbeFile(self._path, create)
         self._probes: Dict[str, Tuple[str, Optional[Conversion], bool]] = {}  # folded -> section, None: removed, read
         self._before: Dict[str, int] = {}  # the types that were read
+        self._detached: List[Tuple[str, weakref.ref[Conversion]]] = []  # no longer of the file
 
     @property
     def path(self) -> str:
@@ -187,6 +190,12 @@ class ProbeFile(MutableMapping[str, Conversion]):
             raise ConflictError(error, _conflicts(file)) from None
         raise error
 
+    def _is_in_file(self, section: str) -> bool:
+        try:
+            return self._file.FindProbe(section) >= 0
+        except UnicodeEncodeError:  # half of a surrogate pair, which no file has
+            return False
+
     def __getitem__(self, section: str) -> Conversion:
         _section(section)
         pending = self._probes.get(_folded(section))
@@ -194,7 +203,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
             if pending[1] is None:
                 raise KeyError(section)
             return pending[1]
-        if self._file.FindProbe(section) < 0:
+        if not self._is_in_file(section):
             raise KeyError(section)
         conversion = self._read_whole(section)
         self._remember(section, conversion)
@@ -244,13 +253,11 @@ class ProbeFile(MutableMapping[str, Conversion]):
         if _section(name) not in self:
             _require_name(name)
         self._call(lambda: self._file.Copy(_section(section), name))
-        self._probes = {}
-        self._before = {}
 
     def __delitem__(self, section: str) -> None:
         if _section(section) not in self:
             raise KeyError(section)
-        if self._file.FindProbe(section) < 0:
+        if not self._is_in_file(section):
             del self._probes[_folded(section)]  # it was only added here
         else:
             self._probes[_folded(section)] = section, None, False
@@ -274,7 +281,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
         if not isinstance(section, str):
             return False
         pending = self._probes.get(_folded(section))
-        return self._file.FindProbe(section) >= 0 if pending is None else pending[1] is not None
+        return self._is_in_file(section) if pending is None else pending[1] is not None
 
     def table(self) -> ProbeTable:
         """The numbers of all probes as the file has them, in one call: fast for a hundred thousand probes."""
@@ -289,6 +296,11 @@ class ProbeFile(MutableMapping[str, Conversion]):
 
     def save(self) -> None:
         """Saves all changes, additions and removals, or none of them."""
+        for section, reference in self._detached:
+            changed = reference()
+            if changed is not None and changed._file() is None and changed.Changed:
+                raise ValueError(f"the conversion of [{section}] was changed, but no longer belongs to {self._path}; "
+                                 "get it from the file again")
         steps = list(self._steps())
         if not steps:
             return
@@ -307,12 +319,14 @@ class ProbeFile(MutableMapping[str, Conversion]):
         self._before = {}
         incomplete: List[ProbeFileError] = []
         for section, conversion in probes:
-            if self._file.FindProbe(section) < 0:
+            if not self._is_in_file(section):
+                self._detach(section, conversion)
                 continue
             try:
                 # Into another conversion first: this one must not get defaults for values that another program has broken.
                 self._read_whole(section)
             except ProbeFileError as error:
+                self._detach(section, conversion)
                 incomplete.append(error)
                 continue
             self._call(lambda: self._file.Read(section, conversion))  # noqa: B023, called at once
@@ -325,19 +339,31 @@ class ProbeFile(MutableMapping[str, Conversion]):
         self._before[_folded(section)] = conversion.ConversionType
         conversion._file = weakref.ref(self)
 
+    def _detach(self, section: str, conversion: Conversion) -> None:
+        conversion.Changed = False
+        conversion._file = lambda: None
+        self._detached = [known for known in self._detached if known[1]() is not None]
+        self._detached.append((section, weakref.ref(conversion)))
+
+    def _forget(self) -> None:
+        for section, conversion, _ in self._probes.values():
+            if conversion is not None:
+                self._detach(section, conversion)
+        self._probes = {}
+        self._before = {}
+
     def _steps(self) -> Iterator[Callable[[], object]]:
         for folded, (section, conversion, was_read) in self._probes.items():
             if conversion is None:
                 yield partial(self._file.Remove, section)
             elif not was_read or conversion.ConversionType != self._before[folded]:
                 yield partial(self._file.Write, section, conversion)
-            elif self._file.Differs(section, conversion):
+            elif self._call(partial(self._file.Differs, section, conversion)):
                 yield partial(self._file.WriteChanges, section, conversion)
 
     def discard(self) -> None:
         """Discards unsaved changes and loads the current file."""
-        self._probes = {}
-        self._before = {}
+        self._forget()
         self._file.Reload()
 
     @property
@@ -355,8 +381,10 @@ class ProbeFile(MutableMapping[str, Conversion]):
             raise ValueError("there are unsaved changes")
         _require_name(_section(name))
         self._call(lambda: self._file.Rename(_section(section), name))
-        self._probes = {}
-        self._before = {}
+        known = self._probes.pop(_folded(section), None)
+        if known is not None and known[1] is not None:
+            self._before[_folded(name)] = self._before.pop(_folded(section))
+            self._probes[_folded(name)] = name, known[1], True
 
     def __enter__(self) -> ProbeFile:
         return self
@@ -366,8 +394,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
         if kind is None:
             self.save()
         else:
-            self._probes = {}
-            self._before = {}
+            self._forget()
 
     def __repr__(self) -> str:
         return f"ProbeFile({self._path!r}, {len(self)} probes)"

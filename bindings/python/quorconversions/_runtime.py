@@ -9,11 +9,12 @@ import sys
 import threading
 import weakref
 from array import array
+from contextlib import contextmanager
 from ctypes import POINTER, byref, c_char_p, c_double, c_int16, c_int32, c_size_t, c_uint64, c_void_p
 from enum import IntEnum
 from pathlib import Path
 from types import TracebackType
-from typing import Any, Dict, Iterable, List, Optional, Type, TypeVar, Union
+from typing import Any, Dict, Iterable, Iterator, List, Optional, Type, TypeVar, Union
 
 UNEXPECTED = -2147467259  # 0x80004005
 
@@ -191,10 +192,22 @@ def check(code: int) -> None:
         raise last_error()
 
 
+@contextmanager
+def others_kept() -> Iterator[None]:
+    """While a host's function runs, what another one has raised in the same call is no business of the calls that it makes.
+    Of several exceptions the first one comes back."""
+    first = _thread.pending
+    _thread.pending = None
+    try:
+        yield
+    finally:
+        if first is not None:
+            _thread.pending = first
+
+
 def keep(error: BaseException) -> int:
     """Keeps what a host's function has raised. Returns the number of the error, with its words set."""
-    if _thread.pending is None:  # of several the first one comes back
-        _thread.pending = error
+    _thread.pending = error
     if not isinstance(error, QuorError):
         error = QuorError(UNEXPECTED, type(error).__name__, str(error) or type(error).__name__)
     number = error.number or UNEXPECTED

@@ -312,3 +312,67 @@ def test_a_conversion_is_not_that_of_two_files(tmp_path):
     two.save()
     assert not (tmp_path / "one.ini").exists()
     assert list(ProbeFile(tmp_path / "two.ini")) == ["P"]
+
+
+def test_conversions_stay_with_their_probes_when_others_are_renamed_and_copied(laboratory):
+    file = ProbeFile(laboratory)
+    probe = file[PROBE]
+    file.rename("Probe 10 PRT-1183", "Probe 10")
+    file.duplicate("Probe 10", "Probe 10 again")
+    probe.settings.R0 = 100.0123
+    file.save()
+    assert ProbeFile(laboratory)[PROBE].settings.R0 == 100.0123
+    file.rename(PROBE, "Probe 9")
+    probe.settings.R0 = 100.5
+    file.save()
+    assert ProbeFile(laboratory)["Probe 9"].settings.R0 == 100.5
+    assert file["Probe 9"] is probe
+
+
+def discarded(file, probe):
+    probe.settings.R0 = 99.5
+    file.discard()
+
+
+def left_by_an_exception(file, probe):
+    with pytest.raises(ZeroDivisionError), file:
+        probe.settings.R0 = 99.5
+        raise ZeroDivisionError
+
+
+def renamed_by_another_program(file, _):
+    ProbeFile(file.path).rename(PROBE, "Another")
+    file["Probe 10 PRT-1183"].settings.R0 = 99.0
+    file.save()
+
+
+@pytest.mark.parametrize("leave", [discarded, left_by_an_exception, renamed_by_another_program])
+def test_a_change_of_a_conversion_that_no_longer_belongs_to_the_file_is_not_lost_in_silence(laboratory, leave):
+    file = ProbeFile(laboratory)
+    probe = file[PROBE]
+    leave(file, probe)
+    file.save()  # what was discarded is no change
+    before = laboratory.read_bytes()
+    probe.settings.R0 = 100.0123
+    with pytest.raises(ValueError, match="was changed, but no longer belongs to"):
+        file.save()
+    assert laboratory.read_bytes() == before
+    file["Probe 9 once more"] = probe  # now it does
+    file.save()
+    assert ProbeFile(laboratory)["Probe 9 once more"].settings.R0 == 100.0123
+
+
+def test_a_probe_that_refuses_to_be_written_is_named_by_the_error(laboratory):
+    file = ProbeFile(laboratory)
+    file["Probe 29 TCT-5140"].settings.TCType = 99999
+    with pytest.raises(quor.ProbeFileError) as raised:
+        file.save()
+    assert raised.value.code == quor.ProbeFileErrorCode.CANNOT_BE_WRITTEN
+    assert raised.value.description.startswith(f"{laboratory}: [Probe 29 TCT-5140]")
+
+
+def test_half_a_character_is_the_name_of_no_probe(laboratory):
+    file = ProbeFile(laboratory)
+    assert "\ud800" not in file
+    with pytest.raises(KeyError):
+        file["\ud800"]

@@ -182,3 +182,20 @@ def test_the_mouse_pointer_is_busy_while_a_file_is_read(tmp_path):
 
     Conversion(ConversionType.OHMS, Mouse()).write(tmp_path / "x.ini", "P")
     assert Mouse.shapes == [quor.MousePointer.HOURGLASS, 3]
+
+
+def test_calls_from_within_a_message_do_not_get_the_exception_of_the_dialog():
+    class Burnt(Person):
+        def run_dialog(self, dialog):
+            raise Boom("no screen today")
+
+        def show_message(self, message):
+            self.seen = self.conversion.type
+            raise Boom("the second")
+
+    person = Burnt()
+    person.seen = None
+    person.conversion = Conversion(ConversionType.CVD, person)
+    assert str(raised_by(person.conversion.edit)) == "no screen today"
+    assert person.seen == ConversionType.CVD
+    del person.conversion  # each keeps the other
