@@ -14,6 +14,12 @@
 namespace quorconv {
 
 std::string JsonText(std::wstring_view text) {
+    const auto isPlain = [](wchar_t c) { return c >= L' ' && c <= L'~' && c != L'"' && c != L'\\'; };
+    if (std::all_of(text.begin(), text.end(), isPlain)) { // as nearly all are
+        std::string plain(1, '"');
+        plain.append(text.begin(), text.end()).append(1, '"');
+        return plain;
+    }
     std::string json = "\"";
     for (const char character : QuorIniFile::ToUtf8(text)) {
         constexpr std::string_view digits = "0123456789abcdef";

@@ -19,6 +19,8 @@ public:
     [[nodiscard]] const std::vector<std::wstring>& Messages() const { return m_messages; }
     void Forget() { m_messages.clear(); }
     void ShowMessage(const QuorConversions::MessageRequest& request) override;
+    /// Nobody sees it, and a record of each change of it would cost a tenth of the time of a command.
+    void SetMousePointer(QuorConversions::EMousePointer /*shape*/) override {}
 
 private:
     std::vector<std::wstring> m_messages;

@@ -18,9 +18,10 @@ using namespace QuorProbeFile;
 
 namespace {
 
-/// Of "Coefficients12" the list and the index, of an indexed key; the index -1 for any other.
+/// Of "Coefficients12" the list and the index, of an indexed key; the index -1 for any other. A view into the
+/// key, or of the name of the list.
 struct Indexed {
-    std::wstring list;
+    std::wstring_view list;
     int index = -1;
 };
 
@@ -28,12 +29,15 @@ Indexed SplitIndex(std::wstring_view key) {
     static const std::wstring_view lists[] = {coefficientsKey, temperaturesKey, voltagesKey, offsetsKey};
     for (const std::wstring_view list : lists) {
         if (key.size() > list.size() && key.starts_with(list)) {
-            const auto index = QuorIniFile::IntegerOf(key.substr(list.size()));
-            if (index && *index >= 0 && std::to_wstring(*index) == key.substr(list.size()))
-                return {std::wstring(list), *index};
+            const std::wstring_view digits = key.substr(list.size());
+            const bool isPlain = digits.find_first_not_of(L"0123456789") == std::wstring_view::npos &&
+                                 (digits.size() == 1 || digits.front() != L'0');
+            const auto index = isPlain ? QuorIniFile::IntegerOf(digits) : std::nullopt;
+            if (index)
+                return {list, *index};
         }
     }
-    return {std::wstring(key), -1};
+    return {key, -1};
 }
 
 std::string ValueText(const Value& value, const RecordKey* key) {
@@ -78,7 +82,7 @@ public:
     }
     void Name(std::wstring_view name) {
         Item();
-        text += JsonText(name) + ": ";
+        text.append(JsonText(name)).append(": ");
     }
     void Member(std::wstring_view name, const std::string& value) {
         Name(name);
@@ -101,27 +105,31 @@ private:
 /// them stands.
 void WriteEntries(Writer& writer, EQuorConversionType type, RecordForm form, const std::wstring& prefix,
                   const std::vector<RecordImage::Entry>& entries, std::size_t first, std::size_t last) {
-    std::set<std::wstring> written;
+    std::vector<Indexed> keys; // from the first entry on
+    for (std::size_t at = first; at < last; ++at)
+        keys.push_back(SplitIndex(std::wstring_view(entries[at].path).substr(prefix.size())));
+    std::vector<std::wstring_view> written;
     for (std::size_t at = first; at < last; ++at) {
-        const std::wstring key = entries[at].path.substr(prefix.size());
-        const Indexed indexed = SplitIndex(key);
-        if (indexed.index < 0) {
-            writer.Member(key, ValueText(entries[at].value, FindRecordKey(type, entries[at].path, form)));
+        const Indexed& key = keys[at - first];
+        if (key.index < 0) {
+            writer.Member(key.list,
+                          ValueText(entries[at].value, FindRecordKey(type, entries[at].path, form)));
             continue;
         }
-        if (!written.insert(indexed.list).second)
+        if (std::find(written.begin(), written.end(), key.list) != written.end())
             continue;
-        writer.Name(indexed.list);
+        written.push_back(key.list);
+        writer.Name(key.list);
         writer.Open('[');
         for (std::size_t item = at; item < last; ++item) {
-            if (SplitIndex(std::wstring_view(entries[item].path).substr(prefix.size())).list != indexed.list)
+            if (keys[item - first].index < 0 || keys[item - first].list != key.list)
                 continue;
             const RecordKey* const known = FindRecordKey(type, entries[item].path, form);
             writer.Item();
             writer.text += "{";
             if (known && !known->name.empty())
-                writer.text += "\"name\": " + JsonText(known->name) + ", ";
-            writer.text += "\"value\": " + ValueText(entries[item].value, nullptr) + "}";
+                writer.text.append("\"name\": ").append(JsonText(known->name)).append(", ");
+            writer.text.append("\"value\": ").append(ValueText(entries[item].value, nullptr)).append(1, '}');
         }
         writer.Close(']');
     }
