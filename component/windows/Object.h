@@ -55,13 +55,35 @@ private:
     static inline std::atomic<int> s_count = 0;
 };
 
+/// An object of this DLL that counts its references, of which the creator has the first.
+template <class... Interfaces>
+class Counted : public Interfaces... {
+public:
+    Counted() = default;
+    Counted(const Counted&) = delete;
+    Counted& operator=(const Counted&) = delete;
+
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
+    ULONG STDMETHODCALLTYPE Release() override {
+        const ULONG left = --m_references;
+        if (left == 0)
+            delete this;
+        return left;
+    }
+
+protected:
+    virtual ~Counted() = default;
+
+private:
+    std::atomic<ULONG> m_references = 1;
+    Stay m_stay;
+};
+
 /// An object with a dual interface. A class has its slots, each of which calls Slot.
 template <class Interface>
-class Dual : public Interface, public ISupportErrorInfo, public IProvideClassInfo {
+class Dual : public Counted<Interface, ISupportErrorInfo, IProvideClassInfo> {
 public:
     Dual(const ClassRow& row, quor_object handle) : m_core(row, handle, *static_cast<IDispatch*>(this)) {}
-    Dual(const Dual&) = delete;
-    Dual& operator=(const Dual&) = delete;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
         if (!object)
@@ -76,15 +98,8 @@ public:
             *object = nullptr;
         if (!*object)
             return E_NOINTERFACE;
-        AddRef();
+        this->AddRef();
         return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --m_references;
-        if (left == 0)
-            delete this;
-        return left;
     }
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
@@ -112,8 +127,6 @@ public:
     HRESULT STDMETHODCALLTYPE GetClassInfo(ITypeInfo** info) override { return m_core.GetClassInfo(info); }
 
 protected:
-    virtual ~Dual() = default;
-
     template <class... Given>
     [[nodiscard]] HRESULT Slot(const Member& member, std::int32_t kind, void* result,
                                Given... given) noexcept {
@@ -136,8 +149,6 @@ private:
     }
 
     Core m_core;
-    std::atomic<ULONG> m_references = 1;
-    Stay m_stay;
 };
 
 template <class Object>

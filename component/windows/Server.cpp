@@ -15,12 +15,9 @@ namespace {
 HINSTANCE module = nullptr; // set while the DLL is loaded
 
 /// Makes the objects of a class.
-class Factory final : public IClassFactory {
+class Factory final : public Counted<IClassFactory> {
 public:
     explicit Factory(const ClassRow& row) : m_row(row) {}
-    virtual ~Factory() = default;
-    Factory(const Factory&) = delete;
-    Factory& operator=(const Factory&) = delete;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
         if (!object)
@@ -31,13 +28,6 @@ public:
             return E_NOINTERFACE;
         AddRef();
         return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --m_references;
-        if (left == 0)
-            delete this;
-        return left;
     }
     HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** object) override {
         if (!object)
@@ -63,8 +53,6 @@ public:
 
 private:
     const ClassRow& m_row;
-    std::atomic<ULONG> m_references = 1;
-    Stay m_stay;
 };
 
 } // namespace

@@ -553,7 +553,9 @@ TEST_P(SettingsDialogTest, DoesNothingOnAClickOnADisabledButton) {
 TEST_P(SettingsDialogTest, OpenShowsTheValuesOfTheFileAndOKKeepsThem) {
     SupplyFile(*ObjectWith(42.25));
     platform->ChooseFile(L"C:\\a.x");
-    EXPECT_TRUE(EditWith([](Person& person) {
+    std::int32_t window = 0;
+    EXPECT_TRUE(EditWith([&](Person& person) {
+        window = person.Sees().WindowHandle();
         person.Type(GetParam().box, L"7");
         person.Click(L"Open");
         EXPECT_EQ(person.Reads(GetParam().box), L"42.25");
@@ -563,7 +565,8 @@ TEST_P(SettingsDialogTest, OpenShowsTheValuesOfTheFileAndOKKeepsThem) {
     ASSERT_EQ(platform->FileRequests().size(), 1U);
     EXPECT_EQ(platform->FileRequests()[0].kind, FileDialogKind::Open);
     EXPECT_EQ(platform->FileRequests()[0].fileName, L"*." + settings->FileExtension());
-    EXPECT_EQ(platform->FileRequests()[0].owner, 1);
+    EXPECT_NE(window, 0);
+    EXPECT_EQ(platform->FileRequests()[0].owner, window);
 }
 
 TEST_P(SettingsDialogTest, CancelKeepsTheValuesOfTheFileThatWasOpened) {
@@ -606,7 +609,9 @@ TEST_P(SettingsDialogTest, ShowsWhatTheObjectHoldsAfterAFileThatLacksAKey) {
 TEST_P(SettingsDialogTest, SaveAsStoresAndWritesWhatWasTypedAndStaysOpen) {
     SupplyFile(*settings);
     platform->ChooseFile(L"C:\\a.x");
-    EXPECT_FALSE(EditWith([this](Person& person) {
+    std::int32_t window = 0;
+    EXPECT_FALSE(EditWith([&](Person& person) {
+        window = person.Sees().WindowHandle();
         person.Type(GetParam().box, L"7");
         person.Click(L"Save As");
         EXPECT_TRUE(person.Sees().IsOpen());
@@ -617,7 +622,8 @@ TEST_P(SettingsDialogTest, SaveAsStoresAndWritesWhatWasTypedAndStaysOpen) {
     EXPECT_TRUE(settings->Changed()) << "no save clears the flag";
     ASSERT_EQ(platform->FileRequests().size(), 1U);
     EXPECT_EQ(platform->FileRequests()[0].kind, FileDialogKind::Save);
-    EXPECT_EQ(platform->FileRequests()[0].owner, 1);
+    EXPECT_NE(window, 0);
+    EXPECT_EQ(platform->FileRequests()[0].owner, window);
     EXPECT_EQ(platform->FileRequests()[0].fileName, L"*." + settings->FileExtension());
 }
 
