@@ -104,7 +104,7 @@ MainWindow::MainWindow(std::shared_ptr<QuorRegistryII::Registry> registry, const
 
     const QSize tools = findChild<QToolBar*>()->sizeHint();
     const int character = fontMetrics().averageCharWidth();
-    resize(QSize(std::max(character * 150, tools.width() + character * 8), fontMetrics().height() * 34)
+    resize(QSize(std::max(character * 165, tools.width() + character * 8), fontMetrics().height() * 34)
                .boundedTo(screen()->availableSize() - FrameAround(*this)));
     resizeDocks({m_values}, {character * 64}, Qt::Horizontal);
     restoreGeometry(QByteArray::fromBase64(m_settings.Read(geometryName).toLatin1()));
