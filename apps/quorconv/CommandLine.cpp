@@ -190,8 +190,12 @@ void RequireOptions(const CLI::App& command) {
         std::wstring meant = DidYouMean(given, OptionNames(command));
         if (meant.empty())
             meant = L"; \"--\" goes before names that begin with \"-\"";
-        throw UsageError{L"the command \"" + Wide(command.get_name()) + L"\" has no option \"" + given +
-                         L"\"" + meant};
+        throw UsageError{std::wstring(L"the command \"")
+                             .append(Wide(command.get_name()))
+                             .append(L"\" has no option \"")
+                             .append(given)
+                             .append(L"\"")
+                             .append(meant)};
     }
 }
 
