@@ -2,8 +2,8 @@
 
 #include "QuorConversions/qt/QtPlatform.h"
 #include "QuorConversions/qt/QtText.h"
-#include "tests/toolkits/qt/QtScreen.h"
 #include "tests/toolkits/SampleDialog.h"
+#include "tests/toolkits/qt/QtScreen.h"
 
 #include <gtest/gtest.h>
 

@@ -4,8 +4,8 @@
 #include "QuorConversions/qt/QtText.h"
 #include "QuorConversions/rtd/CQuorPT100.h"
 #include "tests/support/TempFolder.h"
-#include "tests/toolkits/qt/QtScreen.h"
 #include "tests/toolkits/SampleDialog.h"
+#include "tests/toolkits/qt/QtScreen.h"
 #include "toolkits/qt/HelpWindow.h"
 
 #include <gtest/gtest.h>
