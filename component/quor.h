@@ -1637,7 +1637,8 @@ QUOR_API int32_t quor_probe_file_Write(quor_object probe_file, quor_text Section
 /* Writes the values of a probe that have changed since this object has read them into the conversion, or has
  * written them from it. What other programs have written elsewhere is kept, in later calls too. False if they have
  * changed the same values: there are conflicts, and nothing is written. Error 5 for a conversion that this object
- * has neither read nor written. */
+ * has neither read nor written; error 75 (INCOMPLETE) if its settings had refused the record, whose keys are the
+ * problems; Write replaces it. */
 QUOR_API int32_t quor_probe_file_WriteChanges(quor_object probe_file, quor_text Section, quor_object Conversion,
                                               quor_bool* result);
 /* How many values other programs have changed too, as found by the last WriteChanges or Release. The index of a

@@ -4220,7 +4220,7 @@ namespace QuorConversions {
             var conversionHandle = QuorObject.HandleOf(conversion);
             using (var sectionText = new TextIn(section)) QuorError.Raise(Native.quor_probe_file_Write(it, sectionText.Value, conversionHandle));
         }
-        /// <summary>Writes the values of a probe that have changed since this object has read them into the conversion, or has written them from it. What other programs have written elsewhere is kept, in later calls too. False if they have changed the same values: there are conflicts, and nothing is written. Error 5 for a conversion that this object has neither read nor written.</summary>
+        /// <summary>Writes the values of a probe that have changed since this object has read them into the conversion, or has written them from it. What other programs have written elsewhere is kept, in later calls too. False if they have changed the same values: there are conflicts, and nothing is written. Error 5 for a conversion that this object has neither read nor written; error 75 (INCOMPLETE) if its settings had refused the record, whose keys are the problems; Write replaces it.</summary>
         public bool WriteChanges(string section, CQuorConversion conversion) {
             var it = NativeHandle;
             var conversionHandle = QuorObject.HandleOf(conversion);

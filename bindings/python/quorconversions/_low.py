@@ -3152,7 +3152,8 @@ class ProbeFile(Object):
         """Writes the values of a probe that have changed since this object has read them into the conversion, or
         has written them from it. What other programs have written elsewhere is kept, in later calls too. False
         if they have changed the same values: there are conflicts, and nothing is written. Error 5 for a
-        conversion that this object has neither read nor written."""
+        conversion that this object has neither read nor written; error 75 (INCOMPLETE) if its settings had
+        refused the record, whose keys are the problems; Write replaces it."""
         result = c_int16()
         with lent(Conversion) as Conversion_handle:
             check(_library.quor_probe_file_WriteChanges(self._handle, text(Section), Conversion_handle, byref(result)))
