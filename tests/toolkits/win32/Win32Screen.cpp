@@ -275,10 +275,20 @@ void BringToFront(HWND window) {
 
 void ExpectShowsTheModel(const Dialog& dialog) {
     EXPECT_EQ(TextOf(WindowOf(dialog)), dialog.Title());
+    std::map<int, HWND> windows; // looked up at once: each look-up by id walks through all of them
+    EnumChildWindows(
+        GetWindow(WindowOf(dialog), GW_CHILD),
+        [](HWND window, LPARAM result) -> BOOL {
+            reinterpret_cast<std::map<int, HWND>*>(result)->emplace(GetDlgCtrlID(window), window);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&windows));
+    int id = Win32Toolkit::firstControlId;
     for (const auto& control : dialog.Controls()) {
+        const auto found = windows.find(id++);
         if (control->Kind() == ControlKind::Frame && control->Caption().empty())
             continue; // it has no window
-        const HWND window = WindowOf(*control);
+        const HWND window = found == windows.end() ? nullptr : found->second;
         ASSERT_NE(window, nullptr) << "no window shows " << testing::PrintToString(control->Name());
         SCOPED_TRACE(testing::PrintToString(control->Name()));
         ExpectShows(window, *control);
