@@ -76,6 +76,8 @@ std::wstring AdviceOnSeparator(const NumberSeparators& separators) {
                                       : Filled(IDS_SEPARATOR_IS, separators.decimal);
 }
 
+std::wstring AdviceOnMissingKeys(std::wstring_view keys) { return Filled(IDS_CANNOT_BE_TYPED, keys); }
+
 std::wstring AdviceOnRefusedPaste(std::wstring_view text, PasteRefusal refusal) {
     return Filled(refusal == PasteRefusal::TwoReadings ? IDS_PASTE_HAS_TWO_READINGS : IDS_PASTE_IS_NO_NUMBER,
                   text.empty() ? L"\"\"" : text);

@@ -19,6 +19,8 @@ namespace QuorConversions {
                                               const NumberSeparators& separators);
 /// Of a key that was swallowed, though it is a decimal separator in other countries.
 [[nodiscard]] std::wstring AdviceOnSeparator(const NumberSeparators& separators);
+/// Of keys that cannot be typed into a number.
+[[nodiscard]] std::wstring AdviceOnMissingKeys(std::wstring_view keys);
 /// Of a text that was not pasted.
 [[nodiscard]] std::wstring AdviceOnRefusedPaste(std::wstring_view text, PasteRefusal refusal);
 /// Of cells that were not pasted.

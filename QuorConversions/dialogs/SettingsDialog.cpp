@@ -37,6 +37,15 @@ std::optional<std::int32_t> ReadCoordinate(QuorRegistryII::Registry& registry, c
     return value;
 }
 
+wchar_t CharacterOf(std::int16_t keyAscii) {
+    return static_cast<wchar_t>(static_cast<std::uint16_t>(keyAscii));
+}
+
+bool IsPrintable(std::int16_t keyAscii) {
+    constexpr wchar_t deleteKey = 127;
+    return CharacterOf(keyAscii) >= L' ' && CharacterOf(keyAscii) != deleteKey;
+}
+
 /// Whether a decimal separator and more digits could follow.
 bool IsWithoutFraction(const std::wstring& number, const std::wstring& separator) {
     return number.find(separator) == std::wstring::npos && number.find(L'E') == std::wstring::npos;
@@ -112,7 +121,7 @@ SettingsDialog::Field& SettingsDialog::AddField(Label& label, TextBox& box, std:
 }
 
 void SettingsDialog::ShowValue(const Field& field) {
-    ForgetNotes(field.box);
+    m_notes.erase(&field.box);
     field.box.SetText(FormatValue(field.get(), field.format(), UserSeparators(*m_platform)));
     Advise(field);
 }
@@ -249,6 +258,7 @@ void SettingsDialog::OnLostFocus(Control& control) {
     const Field* const field = FieldOf(control);
     if (!field || !control.Enabled())
         return; // nobody can have typed into a disabled box: what it shows is the object's
+    m_notes[&field->box].keys.OnLeave();
     FormatText(*field);
 }
 
@@ -263,7 +273,7 @@ void SettingsDialog::FormatText(const Field& field) {
         // As long as nothing else is typed: what the format has taken away is seen nowhere else.
         const std::wstring lost = AdviceOnShownValue(*number, text, separators);
         if (!lost.empty())
-            m_formatNotes[&field.box] = lost;
+            m_notes[&field.box].formatted = lost;
         field.box.SetText(text);
         Advise(field);
     } catch (...) { // a row that the object refuses by now keeps the text that was typed
@@ -273,10 +283,11 @@ void SettingsDialog::FormatText(const Field& field) {
 void SettingsDialog::OnKeyPress(TextBox& box, std::int16_t& keyAscii) {
     const std::int16_t pressed = keyAscii;
     FilterNumericKeyExp(keyAscii, GetDecimalSeparator(*m_platform));
-    if (pressed == L',' && keyAscii == 0) {
-        m_separatorMissing = &box;
-        m_textBeforeSeparator = box.Text().substr(0, box.SelStart());
-        box.SetAdvice(AdviceOnSeparator(UserSeparators(*m_platform)));
+    const Field* const field = FieldOf(box);
+    if (field && IsPrintable(pressed)) {
+        m_notes[&box].keys.OnKey(box, CharacterOf(pressed), CharacterOf(keyAscii),
+                                 UserSeparators(*m_platform));
+        AdviseIfItCan(*field);
     }
     EnterToTab(keyAscii, *this, nullptr, false);
 }
@@ -290,18 +301,22 @@ const SettingsDialog::Field* SettingsDialog::FieldOf(const Control& control) con
 void SettingsDialog::Advise(const Field& field) const {
     if (!m_settings.AllowEdit() || !IsGathered(field))
         return field.box.SetAdvice({}); // nothing will be stored
+    static const Notes noNotes;
     const NumberSeparators separators = UserSeparators(*m_platform);
     const std::wstring format = field.format();
     const std::wstring& text = field.box.Text();
+    const auto found = m_notes.find(&field.box);
+    const Notes& notes = found == m_notes.end() ? noNotes : found->second;
     std::wstring advice;
-    if (const auto note = m_formatNotes.find(&field.box); note != m_formatNotes.end())
-        advice = note->second;
+    if (!notes.formatted.empty())
+        advice = notes.formatted;
     else if (text != FormatValue(field.get(), format, separators))
         advice = AdviceOnText(text, &field.box == ActiveControl() ? format : std::wstring{}, separators);
     else if (!IsGeneralFormat(format)) // without a format it stays as it is, NaN too
         advice = AdviceOnShownValue(field.get(), text, separators);
-    const auto note = m_pasteNotes.find(&field.box);
-    field.box.SetAdvice(note == m_pasteNotes.end() ? advice : JoinAdvice(advice, note->second));
+    for (const std::wstring* const note : {&notes.keys.Advice(), &notes.pasted, &notes.refused})
+        advice = JoinAdvice(advice, *note);
+    field.box.SetAdvice(advice);
 }
 
 void SettingsDialog::AdviseIfItCan(const Field& field) const {
@@ -316,13 +331,9 @@ void SettingsDialog::OnEdit(TextBox& box) {
     const Field* const field = FieldOf(box);
     if (!field)
         return;
-    const std::wstring& separator = GetDecimalSeparator(*m_platform);
-    const bool mayMiss = m_separatorMissing == &box && box.Text().find(separator) == std::wstring::npos &&
-                         !box.Text().empty() && box.Text().starts_with(m_textBeforeSeparator);
-    ForgetNotes(box);
-    if (mayMiss)
-        return; // the advice on the separator still holds
-    m_separatorMissing = nullptr;
+    Notes& notes = m_notes[&box];
+    notes.keys.OnText(box.Text(), UserSeparators(*m_platform));
+    notes = {std::move(notes.keys), {}, {}, {}};
     AdviseIfItCan(*field);
 }
 
@@ -333,7 +344,7 @@ void SettingsDialog::OnPaste(TextBox& box, const std::wstring& text) {
     else if (cells.size() == 1 && cells.front().size() == 1)
         PasteNumber(box, cells.front().front());
     else if (cells.empty())
-        box.SetAdvice(AdviceOnRefusedPaste({}, PasteRefusal::NoNumber));
+        RefusePaste(box, AdviceOnRefusedPaste({}, PasteRefusal::NoNumber));
     else
         PasteCells(box, cells);
 }
@@ -342,7 +353,7 @@ void SettingsDialog::PasteNumber(TextBox& box, std::wstring_view text) {
     const std::wstring& separator = GetDecimalSeparator(*m_platform);
     const PastedNumber pasted = NumberFromPaste(text, separator);
     if (!pasted.number)
-        return box.SetAdvice(AdviceOnRefusedPaste(text, pasted.refusal));
+        return RefusePaste(box, AdviceOnRefusedPaste(text, pasted.refusal));
     const std::wstring before = box.Text().substr(0, box.SelStart());
     const std::wstring behind = box.Text().substr(box.SelStart() + box.SelLength());
     const std::wstring joined = before + *pasted.number + behind;
@@ -351,7 +362,7 @@ void SettingsDialog::PasteNumber(TextBox& box, std::wstring_view text) {
     const bool isNumber = LeadingNumberLength(PointText(joined)) == joined.size();
     const bool isBehindSign = behind.empty() && (before == L"-" || before == L"+") && isNumber;
     if (box.SelLength() > 0 && !isNumber)
-        return box.SetAdvice(AdviceOnRefusedPaste(joined, PasteRefusal::NoNumber));
+        return RefusePaste(box, AdviceOnRefusedPaste(joined, PasteRefusal::NoNumber));
     if (box.SelLength() == 0 && !isBehindSign)
         box.SetSelection(0, box.Text().size());
     PutPasted(box, pasted, text);
@@ -359,20 +370,17 @@ void SettingsDialog::PasteNumber(TextBox& box, std::wstring_view text) {
 
 void SettingsDialog::PutPasted(TextBox& box, const PastedNumber& pasted, std::wstring_view text) {
     box.ReplaceSelection(*pasted.number);
-    m_separatorMissing = nullptr;
-    ForgetNotes(box);
-    const std::wstring note = JoinAdvice(IsOfAnother(box, pasted) ? AdviceOnPastedFrom(text) : std::wstring{},
-                                         pasted.isToBeTold ? AdviceOnPasted(*pasted.number) : std::wstring{});
-    if (!note.empty())
-        m_pasteNotes[&box] = note;
+    m_notes[&box] = {};
+    m_notes[&box].pasted = JoinAdvice(IsOfAnother(box, pasted) ? AdviceOnPastedFrom(text) : std::wstring{},
+                                      pasted.isToBeTold ? AdviceOnPasted(*pasted.number) : std::wstring{});
     AdviseIfItCan(*FieldOf(box));
     if (&box != ActiveControl())
         FormatText(*FieldOf(box)); // it will not be left, as the box that is pasted into
 }
 
-void SettingsDialog::ForgetNotes(const TextBox& box) {
-    m_pasteNotes.erase(&box);
-    m_formatNotes.erase(&box);
+void SettingsDialog::RefusePaste(TextBox& box, std::wstring why) {
+    m_notes[&box].refused = std::move(why);
+    AdviseIfItCan(*FieldOf(box));
 }
 
 bool SettingsDialog::IsOfAnother(const TextBox& box, const PastedNumber& pasted) const {
@@ -410,11 +418,11 @@ void SettingsDialog::PasteCells(TextBox& box, const PastedCells& cells) {
             texts.push_back(cell);
             numbers.push_back(NumberFromPaste(cell, separator));
             if (!numbers.back().number)
-                return box.SetAdvice(AdviceOnRefusedPaste(cell, numbers.back().refusal));
+                return RefusePaste(box, AdviceOnRefusedPaste(cell, numbers.back().refusal));
             const std::wstring& number = *numbers.back().number;
             // A number that is broken over two lines: "100." and "012", "100" and ".012".
             if (number.ends_with(separator) || (followsWhole && number.starts_with(separator)))
-                return box.SetAdvice(AdviceOnRefusedPaste(cell, PasteRefusal::TwoReadings));
+                return RefusePaste(box, AdviceOnRefusedPaste(cell, PasteRefusal::TwoReadings));
             // "100.0" and "12" may be two numbers, or one: the user is told that they were two.
             const std::size_t last = numbers.size() - 1;
             if (last > 0 && isOneColumn && !followsWhole && IsMoreDigits(number))
@@ -422,7 +430,7 @@ void SettingsDialog::PasteCells(TextBox& box, const PastedCells& cells) {
         }
     const auto boxes = BoxesFor(cells, box);
     if (!boxes)
-        return box.SetAdvice(AdviceOnNoRoom(numbers.size()));
+        return RefusePaste(box, AdviceOnNoRoom(numbers.size()));
     for (std::size_t i = 0; i < boxes->size(); ++i) {
         TextBox& target = *(*boxes)[i];
         target.SetSelection(0, target.Text().size());

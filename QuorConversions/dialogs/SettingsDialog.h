@@ -4,6 +4,7 @@
 #include "QuorConversions/core/NumberFromPaste.h"
 #include "QuorConversions/core/SettingsObject.h"
 #include "QuorConversions/core/detail/SettingsEditor.h"
+#include "QuorConversions/dialogs/MissingKeys.h"
 #include "QuorConversions/dialogs/PastedCells.h"
 
 #include <deque>
@@ -108,6 +109,15 @@ private:
     enum OKCancelHelp : std::size_t { OK, Cancel, Help };
     enum OpenSaveAs : std::size_t { Open, SaveAs };
 
+    /// What is told of the text in a box and is seen nowhere in it.
+    struct Notes {
+        MissingKeys keys;
+        // Until the text is edited:
+        std::wstring formatted; ///< what the format has done to it
+        std::wstring pasted;    ///< what it was pasted as or from
+        std::wstring refused;   ///< what was not pasted
+    };
+
     void OnButton(const PushButton& button);
     /// Gathers, then validates.
     [[nodiscard]] bool Accept();
@@ -120,8 +130,8 @@ private:
     void AdviseIfItCan(const Field& field) const;
     /// Puts the text of a box into the format of its field, where it is a number.
     void FormatText(const Field& field);
-    /// What was told of a text in a box holds no longer.
-    void ForgetNotes(const TextBox& box);
+    /// Tells why nothing was pasted.
+    void RefusePaste(TextBox& box, std::wstring why);
     void PasteNumber(TextBox& box, std::wstring_view text);
     void PasteCells(TextBox& box, const PastedCells& cells);
     /// Puts a number into the place of the selection.
@@ -140,14 +150,7 @@ private:
     std::vector<PushButton*> m_openSaveAs;
     std::vector<PushButton*> m_okCancelHelp;
     std::deque<Field> m_fields;
-    /// What is told of a number that was pasted, until it is changed.
-    std::map<const TextBox*, std::wstring> m_pasteNotes;
-    /// What the format has done to a number that was typed or pasted, until it is changed.
-    std::map<const TextBox*, std::wstring> m_formatNotes;
-    /// The box in which a decimal separator of another country was swallowed, and the text in front of it: as
-    /// long as the text begins so, the separator may be missing.
-    const TextBox* m_separatorMissing = nullptr;
-    std::wstring m_textBeforeSeparator;
+    std::map<const TextBox*, Notes> m_notes;
     bool m_cancelled = false;
     bool m_activated = false;
     bool m_loading = false;

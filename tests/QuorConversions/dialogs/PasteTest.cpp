@@ -528,12 +528,135 @@ TEST_F(PasteTest, ACommaThatIsSwallowedIsToldUntilTheSeparatorComes) {
     });
 }
 
+TEST_F(PasteTest, ACommaThatIsSwallowedIsToldUnlessItGroupsInFrontOfThePoint) {
+    const std::wstring advice = L"The decimal separator here is the point";
+    for (const auto& [typed, reads, isTold] : {
+             std::tuple(L"1.234,5", L"1.2345", true),
+             std::tuple(L"1.234,56", L"1.23456", true),
+             std::tuple(L"1.000,012", L"1.000012", true),
+             std::tuple(L"1,5.0", L"15.0", true),
+             std::tuple(L"1,234,567", L"1234567", true),
+             std::tuple(L"1,234.5", L"1234.5", false),
+             std::tuple(L"-1,234,567.5E-3", L"-1234567.5E-3", false),
+         })
+        Edit([&, typed = typed, reads = reads, isTold = isTold](Person& person) {
+            SCOPED_TRACE(testing::PrintToString(typed));
+            person.Type(L"R0", typed);
+            EXPECT_EQ(person.Reads(L"R0"), reads);
+            EXPECT_EQ(person.Advice(L"R0"), isTold ? advice : L"");
+            person.Tab();
+            EXPECT_EQ(person.Advice(L"R0"), isTold ? advice : L"") << "also when the box is left";
+            person.Type(L"R0", L"5");
+            EXPECT_EQ(person.Advice(L"R0"), L"");
+            person.Click(L"Cancel");
+        });
+}
+
+TEST_F(PasteTest, AKeyThatIsSwallowedIsToldUntilTheTextIsReplaced) {
+    for (const auto& [typed, reads, keys] : {
+             std::tuple(L"3.9083x103", L"3.9083103", L"x"),
+             std::tuple(L"100(2)", L"1002", L"()"),
+             std::tuple(L"1/2", L"12", L"/"),
+             std::tuple(L"1:5", L"15", L":"),
+             std::tuple(L"1\u00B75", L"15", L"\u00B7"),
+             std::tuple(L"\u22125", L"5", L"\u2212"),
+             std::tuple(L"\u20135", L"5", L"\u2013"),
+             std::tuple(L"5 k\u03A9", L"5", L"k\u03A9"),
+             std::tuple(L"50 %", L"50", L"%"),
+         })
+        Edit([&, typed = typed, reads = reads, keys = keys](Person& person) {
+            SCOPED_TRACE(testing::PrintToString(typed));
+            const std::wstring advice = L"\"" + std::wstring(keys) + L"\" cannot be typed here";
+            person.Type(L"R0", typed);
+            EXPECT_EQ(person.Reads(L"R0"), reads);
+            EXPECT_EQ(person.Advice(L"R0"), advice);
+            person.TypeHere(L"7");
+            EXPECT_EQ(person.Advice(L"R0"), advice);
+            person.Tab();
+            EXPECT_EQ(person.Advice(L"R0"), advice);
+            person.Type(L"R0", L"7");
+            EXPECT_EQ(person.Advice(L"R0"), L"");
+            person.Click(L"Cancel");
+        });
+}
+
+TEST_F(PasteTest, SeveralBoxesTellOfTheirOwnKeys) {
+    Edit([](Person& person) {
+        person.Type(L"R0", L"1,5/2");
+        person.Type(L"ALPHA", L"1(5");
+        person.Type(L"R0", L"1,5/2");
+        EXPECT_EQ(person.Advice(L"R0"),
+                  L"The decimal separator here is the point. \"/\" cannot be typed here");
+        EXPECT_EQ(person.Advice(L"ALPHA"), L"\"(\" cannot be typed here");
+        person.Paste(L"ALPHA", L"1(5");
+        EXPECT_EQ(person.Advice(L"ALPHA"),
+                  L"\"(\" cannot be typed here. Nothing pasted: 1(5 is not a number");
+        person.Paste(L"ALPHA", L"15");
+        EXPECT_EQ(person.Advice(L"ALPHA"), L"");
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(PasteTest, AKeyThatIsSwallowedIsForgottenWhereItWouldHaveBeenDeleted) {
+    constexpr std::int16_t backspace = 8;
+    Edit([](Person& person) {
+        person.Type(L"R0", L"12x3");
+        person.Press(backspace);
+        EXPECT_EQ(person.Advice(L"R0"), L"\"x\" cannot be typed here");
+        person.Press(backspace);
+        EXPECT_EQ(person.Reads(L"R0"), L"1");
+        EXPECT_EQ(person.Advice(L"R0"), L"");
+        person.TypeHere(L"x");
+        person.Press(backspace);
+        EXPECT_EQ(person.Advice(L"R0"), L"Not a number: 0 would be stored") << "the box is empty";
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(PasteTest, BlanksAndApostrophesBetweenDigitsAreNotMissed) {
+    for (const wchar_t* const typed : {L"1 234.5", L"1'234.5", L"1\u2019234.5", L"1\u00A0234.5"})
+        Edit([&](Person& person) {
+            person.Type(L"R0", typed);
+            EXPECT_EQ(person.Reads(L"R0"), L"1234.5");
+            EXPECT_EQ(person.Advice(L"R0"), L"");
+            person.Click(L"Cancel");
+        });
+    Edit([&](Person& person) {
+        person.Type(L"R0", L"1.5E 3");
+        EXPECT_EQ(person.Advice(L"R0"), L"\"\u2423\" cannot be typed here");
+        person.Click(L"Cancel");
+    });
+}
+
 TEST_F(PasteTest, ACommaIsTheSeparatorWhereItIs) {
     platform->SetDecimalSeparator(L",");
     Edit([](Person& person) {
         person.Type(L"ALPHA", L"0,00385");
         EXPECT_EQ(person.Reads(L"ALPHA"), L"0,00385");
         EXPECT_EQ(person.Advice(L"ALPHA"), L"");
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(PasteTest, APointThatBecomesACommaIsToldWhereItCouldGroup) {
+    platform->SetDecimalSeparator(L",");
+    settings->SetValueFormat(0, L"0.00");
+    Edit([](Person& person) {
+        const std::wstring advice = L"The decimal separator here is ,";
+        for (const auto& [typed, isTold] :
+             {std::pair(L"10.000", true), std::pair(L"-1.234", true), std::pair(L"10.0", false),
+              std::pair(L"0.123", false), std::pair(L"10.0001", false), std::pair(L"1.234E-7", false)}) {
+            SCOPED_TRACE(testing::PrintToString(typed));
+            person.Type(L"ALPHA", typed);
+            EXPECT_EQ(person.Advice(L"ALPHA"), isTold ? advice : L"");
+        }
+        person.Type(L"R0", L"10.000");
+        EXPECT_EQ(person.Reads(L"R0"), L"10,000");
+        person.Tab();
+        EXPECT_EQ(person.Reads(L"R0"), L"10,00");
+        EXPECT_EQ(person.Advice(L"R0"), advice) << "also when the format has taken a digit away";
+        person.Type(L"R0", L"10,000");
+        EXPECT_EQ(person.Advice(L"R0"), L"");
         person.Click(L"Cancel");
     });
 }
@@ -557,7 +680,7 @@ TEST_F(PasteTest, WhatAFormatDidToAnotherTextIsForgottenWhereACommaWasRefused) {
         person.Type(L"R0", L"13,5");
         EXPECT_EQ(person.Reads(L"R0"), L"135");
         person.GoTo(L"ALPHA");
-        EXPECT_EQ(person.Advice(L"R0"), L"");
+        EXPECT_EQ(person.Advice(L"R0"), L"The decimal separator here is the point");
         person.Click(L"Cancel");
     });
 }

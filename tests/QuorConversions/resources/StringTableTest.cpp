@@ -107,6 +107,7 @@ TEST_F(StringTableTest, HoldsTheTextsUnderTheirNumbers) {
         {206, L"mV (25C)"},
         {207, L"A system error has occurred"},
         {209, L"PT100"},
+        {210, L"\"~\" cannot be typed here"},
     };
     for (const auto& [id, text] : texts)
         EXPECT_EQ(TableText(id), text) << id;

@@ -564,6 +564,10 @@
         <translation>Das Dezimaltrennzeichen ist hier ~</translation>
     </message>
     <message>
+        <source>&quot;~&quot; cannot be typed here</source>
+        <translation>&quot;~&quot; kann hier nicht eingegeben werden</translation>
+    </message>
+    <message>
         <source>~ would be stored for ~</source>
         <translation>~ würde gespeichert statt ~</translation>
     </message>
