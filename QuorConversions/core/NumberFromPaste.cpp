@@ -20,8 +20,8 @@ constexpr wchar_t zeroWidth = L'\u200B';
 constexpr Text allDigits = L"0123456789";
 constexpr Text superscripts = L"\u2070\u00B9\u00B2\u00B3\u2074\u2075\u2076\u2077\u2078\u2079";
 constexpr Text subscripts = L"\u2080\u2081\u2082\u2083\u2084\u2085\u2086\u2087\u2088\u2089";
-constexpr Text timesSigns = L"\u00D7\u00B7\u22C5\u2219x*";
-constexpr Text edges = L"\t\r\n\u0085\u2028\u2029 \u2003"; ///< blanks, tabs and line ends
+constexpr Text timesSigns = L"\u00D7\u00B7\u22C5\u2219xX*";
+constexpr Text edges = L"\t\r\n\v\f\u0085\u2028\u2029 \u2003"; ///< blanks, tabs and line ends
 
 /// Characters that mean the same as another one; those that stand in no row mean themselves.
 constexpr struct {
@@ -34,9 +34,12 @@ constexpr struct {
     {L'\u205F', L'\u205F', blank, false},     {L'\u3000', L'\u3000', blank, false},
     {L'\uFEFF', L'\uFEFF', zeroWidth, false}, {L'\u2010', L'\u2013', L'-', false},
     {L'\uFE63', L'\uFE63', L'-', false},      {L'\uFF0D', L'\uFF0D', L'-', false},
-    {L'\uFF0B', L'\uFF0B', L'+', false},      {L'\uFF10', L'\uFF19', L'0', true},
-    {L'\u2019', L'\u2019', L'\'', false},     {L'\u2126', L'\u2126', L'\u03A9', false},
-    {L'\u212A', L'\u212A', L'K', false},      {L'\u00B5', L'\u00B5', L'\u03BC', false},
+    {L'\uFF0B', L'\uFF0B', L'+', false},      {L'\uFF1A', L'\uFF1A', L':', false},
+    {L'\uFF1D', L'\uFF1D', L'=', false},      {L'\uFF25', L'\uFF25', L'E', false},
+    {L'\uFF45', L'\uFF45', L'e', false},      {L'\u00BA', L'\u00BA', L'\u00B0', false},
+    {L'\uFF10', L'\uFF19', L'0', true},       {L'\u2019', L'\u2019', L'\'', false},
+    {L'\u2126', L'\u2126', L'\u03A9', false}, {L'\u212A', L'\u212A', L'K', false},
+    {L'\u00B5', L'\u00B5', L'\u03BC', false},
 };
 
 /// The units that do not scale, after Normalized.
@@ -50,6 +53,8 @@ constexpr struct {
     {L"ohms", PastedUnit::Ohm, true},
     {L"Ohm", PastedUnit::Ohm, true},
     {L"Ohms", PastedUnit::Ohm, true},
+    {L"OHM", PastedUnit::Ohm, true},
+    {L"OHMS", PastedUnit::Ohm, true},
     {L"\u00B0C", PastedUnit::Celsius, true},
     {L"K", PastedUnit::Kelvin, false}, // "5K" may be five thousand
     {L"mV", PastedUnit::Millivolt, true},
@@ -57,6 +62,8 @@ constexpr struct {
     {L"mV/K", PastedUnit::MillivoltPerDegree, true},
     {L"1/\u00B0C", PastedUnit::PerDegree, false},
     {L"1/K", PastedUnit::PerDegree, false}, // directly, the 1 would be a digit of the number
+    {L"/\u00B0C", PastedUnit::PerDegree, true},
+    {L"/K", PastedUnit::PerDegree, true},
 };
 
 /// The powers that a degree stands in, behind "\u00B0C" or "K".
@@ -119,17 +126,25 @@ wchar_t MeaningOf(wchar_t c) {
     return c;
 }
 
-/// The text with one character for all that mean the same, and one for each run of blanks.
+/// The text with one character for all that mean the same, and one for each run of blanks. What has no width
+/// is left out, but between two digits, where it is a blank.
 std::wstring Normalized(Text text) {
     std::wstring result;
     bool inBlanks = false;
-    bool visible = false; // a blank of that run that has a width
+    bool visible = false;   // a blank of that run that has a width
+    bool invisible = false; // something without a width stands in front
     for (const wchar_t written : text) {
         const wchar_t c = MeaningOf(written);
-        if (c == blank || c == zeroWidth) {
+        if (c == zeroWidth) {
+            invisible = true;
+            continue;
+        }
+        if (std::exchange(invisible, false) && IsDigit(c) && !result.empty() && IsDigit(result.back()))
+            result += blank;
+        if (c == blank) {
             if (!std::exchange(inBlanks, true))
                 result += blank;
-            if (c == blank && std::exchange(visible, true))
+            if (std::exchange(visible, true))
                 result.back() = wideBlank;
             continue;
         }
@@ -210,7 +225,7 @@ std::optional<std::wstring> JoinDigits(Text text, Text dividers, bool beforePoin
 /// Whether the sign between these digits could group thousands instead.
 bool CouldGroup(Text before, Text behind, bool hasExponent) {
     return AreDigits(before) && AreDigits(behind) && behind.size() == 3 && !before.empty() &&
-           before.size() <= 3 && before != L"0" && !(before.size() == 1 && hasExponent);
+           before.size() <= 3 && before.front() != L'0' && !(before.size() == 1 && hasExponent);
 }
 
 /// The last point or comma; 0 for none.
@@ -250,7 +265,10 @@ PastedNumber ReadMantissa(Text text, wchar_t separator, bool hasExponent) {
         return Refused(PasteRefusal::NoNumber);
     PastedNumber result;
     result.number = hasDecimal ? *whole + separator + *fraction : *whole;
-    result.isToBeTold = couldGroup || text.find(blank) != Text::npos; // "100 200" may be two numbers
+    // "100 200" and "100,200,300" may be several numbers, "1,100.012" the number of a row and a value.
+    const bool groupsSeveral = !hasDecimal && points + commas > 0;
+    const bool mayBeRow = both && before.find_first_of(L".,") == 1;
+    result.isToBeTold = couldGroup || groupsSeveral || mayBeRow || text.find(blank) != Text::npos;
     return result;
 }
 
@@ -389,7 +407,8 @@ PastedNumber ReadQuantity(Text text, wchar_t separator, bool behindEquals) {
             break;
         const Text number = text.substr(0, found.at);
         const bool behindBlank = IsBlank(number.back());
-        if (!behindBlank && !found.alsoDirectly)
+        const bool isInverse = text[found.at] == L'/' && number.ends_with(L'1'); // or "1/K", directly
+        if (!behindBlank && (!found.alsoDirectly || isInverse))
             continue;
         result = ReadNumber(number.substr(0, number.size() - (behindBlank ? 1 : 0)), separator, behindEquals);
         result.unit = found.unit;

@@ -5,6 +5,7 @@
 namespace QuorConversions {
 namespace {
 
+constexpr std::wstring_view edges = L"\t\n\v\f\u0085\u2028\u2029\r \u00A0\u2009\u200B\u202F\uFEFF";
 constexpr std::wstring_view lineEnds = L"\n\u0085\u2028\u2029\r";
 
 /// Takes what stands in front of the next of `dividers`, and the divider; CR and LF are one.
@@ -16,6 +17,27 @@ std::wstring_view TakeUpTo(std::wstring_view& text, std::wstring_view dividers) 
     else
         text.remove_prefix(end + (text.substr(end).starts_with(L"\r\n") ? 2 : 1));
     return part;
+}
+
+/// Whether a line has nothing in a column.
+bool IsEmptyAt(const std::vector<std::wstring_view>& line, std::size_t column) {
+    return column >= line.size() || line[column].find_first_not_of(edges) == std::wstring_view::npos;
+}
+
+/// Takes away the columns in which no line has anything: the edges of what was copied from a spreadsheet.
+void DropEmptyColumns(PastedCells& cells) {
+    std::size_t columns = 0;
+    for (const auto& line : cells)
+        columns = std::max(columns, line.size());
+    for (std::size_t column = columns; column-- > 0;)
+        if (std::all_of(cells.begin(), cells.end(),
+                        [&](const auto& line) { return IsEmptyAt(line, column); }))
+            for (auto& line : cells)
+                if (column < line.size())
+                    line.erase(line.begin() + static_cast<std::ptrdiff_t>(column));
+    for (auto& line : cells)
+        if (line.empty()) // it remains an empty cell
+            line.emplace_back();
 }
 
 using BoxRow = std::vector<TextBox*>;
@@ -43,7 +65,6 @@ std::vector<BoxRow> RowsFrom(const TextBox& first) {
 } // namespace
 
 PastedCells SplitIntoCells(std::wstring_view text) {
-    constexpr std::wstring_view edges = L"\t\n\u0085\u2028\u2029\r \u00A0\u2009\u200B\u202F\uFEFF";
     const auto begin = text.find_first_not_of(edges);
     if (begin == std::wstring_view::npos)
         return {};
@@ -61,6 +82,7 @@ PastedCells SplitIntoCells(std::wstring_view text) {
             row.push_back(TakeUpTo(line, L"\t"));
         }
     }
+    DropEmptyColumns(cells);
     return cells;
 }
 

@@ -46,14 +46,39 @@ bool IsPrintable(std::int16_t keyAscii) {
     return CharacterOf(keyAscii) >= L' ' && CharacterOf(keyAscii) != deleteKey;
 }
 
+bool IsDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
+
 /// Whether a decimal separator and more digits could follow.
 bool IsWithoutFraction(const std::wstring& number, const std::wstring& separator) {
     return number.find(separator) == std::wstring::npos && number.find(L'E') == std::wstring::npos;
 }
 
-/// Whether a number could be the end of one that begins on the line before.
-bool IsMoreDigits(const std::wstring& number) {
-    return number.find_first_not_of(L"0123456789") == std::wstring::npos;
+bool IsBare(const PastedNumber& number) { return number.name.empty() && number.unit == PastedUnit::None; }
+
+/// Whether two cells may be one number that is broken over two lines: "100." and "012", "100" and ".012",
+/// "0.0039" and "083", "25.48" and "317". A 0 by itself would change nothing of the number before it.
+bool MayBeBroken(const PastedNumber& before, const PastedNumber& cell, bool isWholeLine,
+                 const std::wstring& separator) {
+    constexpr std::size_t fewDigits = 3;
+    const std::wstring& number = *cell.number;
+    const bool isWhole = IsWithoutFraction(*before.number, separator);
+    if (number.starts_with(separator))
+        return isWhole;
+    if (number.size() > 1 && number[0] == L'0' && IsDigit(number[1]))
+        return true;
+    const bool hasFraction = !isWhole && before.number->find(L'E') == std::wstring::npos;
+    return isWholeLine && hasFraction && IsBare(before) && IsBare(cell) && number.size() <= fewDigits &&
+           std::all_of(number.begin(), number.end(), IsDigit) && number != L"0";
+}
+
+/// Whether a box is one of a list, not of a grid.
+bool IsAloneInItsRow(const TextBox& box) {
+    for (const Frame::Row& row : static_cast<const Frame*>(box.Parent())->Rows())
+        if (std::find(row.begin(), row.end(), &box) != row.end())
+            return std::count_if(row.begin(), row.end(), [](const Control* control) {
+                       return control && control->Kind() == ControlKind::TextBox;
+                   }) == 1;
+    return true;
 }
 
 } // namespace
@@ -351,28 +376,35 @@ void SettingsDialog::OnPaste(TextBox& box, const std::wstring& text) {
 
 void SettingsDialog::PasteNumber(TextBox& box, std::wstring_view text) {
     const std::wstring& separator = GetDecimalSeparator(*m_platform);
-    const PastedNumber pasted = NumberFromPaste(text, separator);
+    PastedNumber pasted = NumberFromPaste(text, separator);
     if (!pasted.number)
         return RefusePaste(box, AdviceOnRefusedPaste(text, pasted.refusal));
     const std::wstring before = box.Text().substr(0, box.SelStart());
     const std::wstring behind = box.Text().substr(box.SelStart() + box.SelLength());
     const std::wstring joined = before + *pasted.number + behind;
-    // Into a part of a number that is selected, or behind a sign that was typed. Nowhere else: two numbers
-    // side by side would be a third one.
+    // Digits go into a part of a number that is selected, or behind a sign that was typed. Nowhere else: two
+    // numbers side by side would be a third one.
+    const bool isSelected = box.SelLength() > 0;
     const bool isNumber = LeadingNumberLength(PointText(joined)) == joined.size();
     const bool isBehindSign = behind.empty() && (before == L"-" || before == L"+") && isNumber;
-    if (box.SelLength() > 0 && !isNumber)
+    const bool isWhole = !IsBare(pasted) || pasted.number->find_first_of(L"+-E") != std::wstring::npos;
+    if (isSelected && !isWhole && !isNumber)
         return RefusePaste(box, AdviceOnRefusedPaste(joined, PasteRefusal::NoNumber));
-    if (box.SelLength() == 0 && !isBehindSign)
+    if (isSelected ? isWhole : !isBehindSign) {
+        pasted.isToBeTold |=
+            isSelected && joined != *pasted.number; // more than what was selected is replaced
         box.SetSelection(0, box.Text().size());
+    }
     PutPasted(box, pasted, text);
 }
 
 void SettingsDialog::PutPasted(TextBox& box, const PastedNumber& pasted, std::wstring_view text) {
     box.ReplaceSelection(*pasted.number);
-    m_notes[&box] = {};
-    m_notes[&box].pasted = JoinAdvice(IsOfAnother(box, pasted) ? AdviceOnPastedFrom(text) : std::wstring{},
-                                      pasted.isToBeTold ? AdviceOnPasted(*pasted.number) : std::wstring{});
+    const bool isPart = box.Text() != *pasted.number;
+    Notes& notes = m_notes[&box];
+    notes = {isPart ? std::move(notes.keys) : MissingKeys{}, {}, {}, {}};
+    notes.pasted = JoinAdvice(IsOfAnother(box, pasted) ? AdviceOnPastedFrom(text) : std::wstring{},
+                              pasted.isToBeTold || isPart ? AdviceOnPasted(box.Text()) : std::wstring{});
     AdviseIfItCan(*FieldOf(box));
     if (&box != ActiveControl())
         FormatText(*FieldOf(box)); // it will not be left, as the box that is pasted into
@@ -409,31 +441,32 @@ void SettingsDialog::PasteCells(TextBox& box, const PastedCells& cells) {
     const std::wstring& separator = GetDecimalSeparator(*m_platform);
     std::vector<PastedNumber> numbers;
     std::vector<std::wstring_view> texts;
-    const bool isOneColumn =
-        std::all_of(cells.begin(), cells.end(), [](const auto& line) { return line.size() == 1; });
     for (const auto& line : cells)
         for (const std::wstring_view cell : line) {
-            const bool followsWhole =
-                !numbers.empty() && IsWithoutFraction(*numbers.back().number, separator);
             texts.push_back(cell);
             numbers.push_back(NumberFromPaste(cell, separator));
-            if (!numbers.back().number)
-                return RefusePaste(box, AdviceOnRefusedPaste(cell, numbers.back().refusal));
-            const std::wstring& number = *numbers.back().number;
-            // A number that is broken over two lines: "100." and "012", "100" and ".012".
-            if (number.ends_with(separator) || (followsWhole && number.starts_with(separator)))
+            const PastedNumber& number = numbers.back();
+            if (!number.number)
+                return RefusePaste(box, AdviceOnRefusedPaste(cell, number.refusal));
+            const bool isFirst = numbers.size() == 1;
+            if (number.number->ends_with(separator) ||
+                (!isFirst && MayBeBroken(numbers[numbers.size() - 2], number, line.size() == 1, separator)))
                 return RefusePaste(box, AdviceOnRefusedPaste(cell, PasteRefusal::TwoReadings));
-            // "100.0" and "12" may be two numbers, or one: the user is told that they were two.
-            const std::size_t last = numbers.size() - 1;
-            if (last > 0 && isOneColumn && !followsWhole && IsMoreDigits(number))
-                numbers[last - 1].isToBeTold = numbers[last].isToBeTold = true;
         }
+    // A list has one column: of several, nobody can say which is meant.
+    const auto line =
+        std::find_if(cells.begin(), cells.end(), [](const auto& columns) { return columns.size() > 1; });
+    if (cells.size() > 1 && line != cells.end() && IsAloneInItsRow(box)) {
+        const std::wstring quoted = std::wstring(line->front()) + L"\t" + std::wstring((*line)[1]);
+        return RefusePaste(box, AdviceOnRefusedPaste(quoted, PasteRefusal::TwoReadings));
+    }
     const auto boxes = BoxesFor(cells, box);
     if (!boxes)
         return RefusePaste(box, AdviceOnNoRoom(numbers.size()));
     for (std::size_t i = 0; i < boxes->size(); ++i) {
         TextBox& target = *(*boxes)[i];
         target.SetSelection(0, target.Text().size());
+        numbers[i].isToBeTold = true; // which box a cell goes into is seen nowhere else
         PutPasted(target, numbers[i], texts[i]);
     }
 }

@@ -97,19 +97,46 @@ TEST_F(PasteTest, OKStoresTheVeryNumberThatWasPasted) {
     EXPECT_EQ(settings->Coefficients(3), 1234.5);
 }
 
-TEST_F(PasteTest, ANumberTakesThePlaceOfThePartThatIsSelected) {
+TEST_F(PasteTest, DigitsTakeThePlaceOfThePartThatIsSelectedAndTheWholeIsTold) {
     Edit([](Person& person) {
         auto& box = dynamic_cast<TextBox&>(*person.Sees().Find(L"txtCoefficients(0)"));
         person.Type(L"R0", L"100.01");
         box.SetSelection(1, 2);
-        person.PasteHere(L"2 ohm");
+        person.PasteHere(L"2");
         EXPECT_EQ(person.Reads(L"R0"), L"12.01");
+        EXPECT_EQ(person.Advice(L"R0"), L"Pasted as 12.01");
         box.SetSelection(1, 1);
         person.PasteHere(L"2.5");
         EXPECT_EQ(person.Reads(L"R0"), L"12.01");
-        EXPECT_EQ(person.Advice(L"R0"), L"Nothing pasted: 12.5.01 is not a number");
+        EXPECT_EQ(person.Advice(L"R0"), L"Pasted as 12.01. Nothing pasted: 12.5.01 is not a number");
+        person.Type(L"R0", L"-0.00058");
+        box.SetSelection(1, 7);
+        person.PasteHere(L"0.1109");
+        EXPECT_EQ(person.Reads(L"R0"), L"-0.1109");
+        EXPECT_EQ(person.Advice(L"R0"), L"Pasted as -0.1109");
+        person.Type(L"R0", L"3.9083E-3");
+        box.SetSelection(0, 6);
+        person.PasteHere(L"25.5");
+        EXPECT_EQ(person.Advice(L"R0"), L"Pasted as 25.5E-3");
         person.Click(L"Cancel");
     });
+}
+
+TEST_F(PasteTest, ANumberWithASignExponentUnitOrNameTakesThePlaceOfTheWholeText) {
+    for (const auto& [typed, start, length, text, reads] :
+         {std::tuple(L"0.00001284", 0, 9, L"1.3E-5", L"1.3E-5"),
+          std::tuple(L"0.00001284", 0, 9, L"-1.5", L"-1.5"),
+          std::tuple(L"-0.00058", 1, 7, L"R0 = 0.1109", L"0.1109"),
+          std::tuple(L"-100.01", 1, 3, L"25.5 ohm", L"25.5")})
+        Edit([&, typed = typed, start = start, length = length, text = text, reads = reads](Person& person) {
+            auto& box = dynamic_cast<TextBox&>(*person.Sees().Find(L"txtCoefficients(0)"));
+            person.Type(L"R0", typed);
+            box.SetSelection(static_cast<std::size_t>(start), static_cast<std::size_t>(length));
+            person.PasteHere(text);
+            EXPECT_EQ(person.Reads(L"R0"), reads);
+            EXPECT_EQ(person.Advice(L"R0"), L"Pasted as " + std::wstring(reads));
+            person.Click(L"Cancel");
+        });
 }
 
 TEST_F(PasteTest, ANumberTakesThePlaceOfTheWholeTextWhereNothingIsSelected) {
@@ -239,10 +266,10 @@ TEST_F(PasteTest, OfSeveralNumbersEachIsHeldAgainstItsOwnBox) {
     Edit([](Person& person) {
         person.Paste(L"R0", L"R0 = 100.0123\nDELTA = 1.5\nALPHA = 0.00385\nBETA = 0.1");
         EXPECT_EQ(Boxes(person), (Texts{L"100.0123", L"1.5", L"0.00385", L"0.1"}));
-        EXPECT_EQ(person.Advice(L"R0"), L"");
-        EXPECT_EQ(person.Advice(L"ALPHA"), L"Pasted from DELTA = 1.5");
-        EXPECT_EQ(person.Advice(L"DELTA"), L"Pasted from ALPHA = 0.00385");
-        EXPECT_EQ(person.Advice(L"BETA"), L"");
+        EXPECT_EQ(person.Advice(L"R0"), L"Pasted as 100.0123");
+        EXPECT_EQ(person.Advice(L"ALPHA"), L"Pasted from DELTA = 1.5. Pasted as 1.5");
+        EXPECT_EQ(person.Advice(L"DELTA"), L"Pasted from ALPHA = 0.00385. Pasted as 0.00385");
+        EXPECT_EQ(person.Advice(L"BETA"), L"Pasted as 0.1");
         person.Click(L"Cancel");
     });
 }
@@ -329,10 +356,42 @@ TEST_F(PasteTest, SeveralLinesFillTheBoxesOfAListFromThereOn) {
         EXPECT_EQ(person.Focused(), L"txtCoefficients(1)");
         person.Paste(L"R0", L"\uFEFF\n7\n\u00A0\n");
         EXPECT_EQ(person.Reads(L"R0"), L"7") << "blank lines at the edges are no cells";
-        person.Paste(L"R0", L"1\t2\n3\t4");
+        person.Paste(L"R0", L"1\t2\t3\t4");
         EXPECT_EQ(Boxes(person), (Texts{L"1", L"2", L"3", L"4"}));
         person.Click(L"Cancel");
     });
+}
+
+TEST_F(PasteTest, OfSeveralCellsEachBoxTellsItsOwn) {
+    Edit([](Person& person) {
+        person.Paste(L"R0", L"100.01\t0.002"); // a value and its uncertainty
+        EXPECT_EQ(person.Advice(L"R0"), L"Pasted as 100.01");
+        EXPECT_EQ(person.Advice(L"ALPHA"), L"Pasted as 0.002");
+        EXPECT_EQ(person.Advice(L"DELTA"), L"");
+        person.Type(L"ALPHA", L"0.0039");
+        EXPECT_EQ(person.Advice(L"ALPHA"), L"");
+        EXPECT_EQ(person.Advice(L"R0"), L"Pasted as 100.01");
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(PasteTest, AListTakesNoSeveralLinesWithSeveralColumns) {
+    for (const wchar_t* const text : {L"1\t100.01\n2\t0.0039", L"1\t100.01\n0.0039"})
+        Edit([&](Person& person) {
+            person.Paste(L"R0", text);
+            EXPECT_EQ(Boxes(person), untouched);
+            EXPECT_EQ(person.Advice(L"R0"), L"Nothing pasted: 1\\t100.01 can be read in two ways");
+            person.Click(L"Cancel");
+        });
+}
+
+TEST_F(PasteTest, AColumnThatIsEmptyOnEveryLineIsNone) {
+    for (const wchar_t* const text : {L"1.5\t\n2.5\t \n", L"\t1.5\n\t2.5", L"\t1.5\t\t\n \t2.5\t\t\n"})
+        Edit([&](Person& person) {
+            person.Paste(L"R0", text);
+            EXPECT_EQ(Boxes(person), (Texts{L"1.5", L"2.5", L"1.5", L"0.1"})) << testing::PrintToString(text);
+            person.Click(L"Cancel");
+        });
 }
 
 TEST_F(PasteTest, WhatAFormatDoesToSeveralPastedNumbersIsToldOfEachBeforeItIsStored) {
@@ -342,14 +401,15 @@ TEST_F(PasteTest, WhatAFormatDoesToSeveralPastedNumbersIsToldOfEachBeforeItIsSto
     EditAndTake([](Person& person) {
         person.Paste(L"R0", L"1.2391\n2.25\n10.003\n1234.5");
         EXPECT_EQ(Boxes(person), (Texts{L"1.2391", L"2.25", L"10.00", L"1,234.5"}));
-        EXPECT_EQ(person.Advice(L"R0"), L"1.24 would be stored for 1.2391");
-        EXPECT_EQ(person.Advice(L"ALPHA"), L"");
+        EXPECT_EQ(person.Advice(L"R0"), L"1.24 would be stored for 1.2391. Pasted as 1.2391");
+        EXPECT_EQ(person.Advice(L"ALPHA"), L"Pasted as 2.25");
         EXPECT_EQ(person.Advice(L"DELTA"), L"10 would be stored for 10.003. Pasted as 10.003");
-        EXPECT_EQ(person.Advice(L"BETA"), L"1 would be stored for 1234.5");
+        EXPECT_EQ(person.Advice(L"BETA"), L"1 would be stored for 1234.5. Pasted as 1234.5");
         person.Type(L"BETA", L"0.5");
         EXPECT_EQ(person.Advice(L"BETA"), L"");
         EXPECT_EQ(person.Reads(L"R0"), L"1.24") << "the box was left";
-        EXPECT_EQ(person.Advice(L"R0"), L"1.24 would be stored for 1.2391") << "and still tells what it held";
+        EXPECT_EQ(person.Advice(L"R0"), L"1.24 would be stored for 1.2391. Pasted as 1.2391")
+            << "and still tells what it held";
         person.GoTo(L"DELTA");
         person.GoTo(L"ALPHA");
         EXPECT_EQ(person.Advice(L"DELTA"), L"10 would be stored for 10.003. Pasted as 10.003");
@@ -382,7 +442,11 @@ TEST_F(PasteTest, ANumberThatADocumentBreaksOverLinesIsNotPastedInParts) {
                                           std::tuple(L"100.\n012", L"100.", L"can be read in two ways"),
                                           std::tuple(L"100\n.012", L".012", L"can be read in two ways"),
                                           std::tuple(L"100\n,012", L",012", L"can be read in two ways"),
-                                          std::tuple(L"1.5\n5,\n6", L"5,", L"can be read in two ways")})
+                                          std::tuple(L"1.5\n5,\n6", L"5,", L"can be read in two ways"),
+                                          std::tuple(L"0.0039\n083", L"083", L"can be read in two ways"),
+                                          std::tuple(L"100\n012", L"012", L"can be read in two ways"),
+                                          std::tuple(L"25.48\n317", L"317", L"can be read in two ways"),
+                                          std::tuple(L"100.01\n1", L"1", L"can be read in two ways")})
         Edit([&, text = text, part = part, why = why](Person& person) {
             person.Paste(L"R0", text);
             EXPECT_EQ(Boxes(person), untouched);
@@ -391,26 +455,19 @@ TEST_F(PasteTest, ANumberThatADocumentBreaksOverLinesIsNotPastedInParts) {
         });
 }
 
-TEST_F(PasteTest, LinesThatMayBeOneNumberArePastedAsTwoAndTold) {
-    for (const auto& [first, second] :
-         {std::pair(L"100.0", L"12"), std::pair(L"3.9083E-1", L"2"), std::pair(L"0.5", L"007")})
-        Edit([&, first = first, second = second](Person& person) {
-            person.Paste(L"R0", std::wstring(first) + L"\n" + second + L"\n1.5\n0.1");
+TEST_F(PasteTest, NumbersThatAreWholeByThemselvesMayFollowEachOther) {
+    for (const auto& [text, first, second] :
+         {std::tuple(L"0\n100", L"0", L"100"), std::tuple(L"100\n5", L"100", L"5"),
+          std::tuple(L"1.5\n0", L"1.5", L"0"), std::tuple(L"100.01\n1000", L"100.01", L"1000"),
+          std::tuple(L"100.01\n-1", L"100.01", L"-1"), std::tuple(L"3.9083E-3\n1", L"3.9083E-3", L"1"),
+          std::tuple(L"100.01 ohm\n1", L"100.01", L"1"), std::tuple(L"100.01\nALPHA = 1", L"100.01", L"1"),
+          std::tuple(L"1 234\n567.5", L"1234", L"567.5")})
+        Edit([&, text = text, first = first, second = second](Person& person) {
+            person.Paste(L"R0", text);
             EXPECT_EQ(Boxes(person), (Texts{first, second, L"1.5", L"0.1"}));
-            EXPECT_EQ(person.Advice(L"R0"), L"Pasted as " + std::wstring(first));
             EXPECT_EQ(person.Advice(L"ALPHA"), L"Pasted as " + std::wstring(second));
-            EXPECT_EQ(person.Advice(L"DELTA"), L"");
             person.Click(L"Cancel");
         });
-    Edit([](Person& person) {
-        person.Paste(L"R0", L"100\n200\n300\n0.1"); // whole numbers
-        EXPECT_EQ(Boxes(person), (Texts{L"100", L"200", L"300", L"0.1"}));
-        person.Paste(L"R0", L"100.5\t1.5\n200\t0.1"); // columns
-        EXPECT_EQ(Boxes(person), (Texts{L"100.5", L"1.5", L"200", L"0.1"}));
-        for (const wchar_t* const box : {L"R0", L"ALPHA", L"DELTA", L"BETA"})
-            EXPECT_EQ(person.Advice(box), L"");
-        person.Click(L"Cancel");
-    });
 }
 
 TEST_F(PasteTest, FractionsWithoutAWholePartMayFollowEachOther) {
@@ -449,7 +506,7 @@ TEST_F(PasteTest, NumbersForWhichThereIsNoBoxKeepAllOthersOut) {
         EXPECT_EQ(person.Advice(L"ALPHA"), L"Nothing pasted: there is no room for 3 numbers");
         person.Paste(L"ALPHA", L"1\n2");
         EXPECT_EQ(Visible(person, L"txtCoefficients"), (Texts{L"100", L"1", L"2"}));
-        EXPECT_EQ(person.Advice(L"ALPHA"), L"");
+        EXPECT_EQ(person.Advice(L"ALPHA"), L"Pasted as 1");
         person.Click(L"Cancel");
     });
 }
@@ -460,6 +517,7 @@ TEST_F(PastedPointsTest, ColumnsAndLinesFillTheGridAsTheyStand) {
         EXPECT_EQ(Points(person), (Texts{L"0 0", L"100 4.096", L"200 8.138"}));
         person.Paste(L"Voltage 2", L"5\n6\n");
         EXPECT_EQ(Points(person), (Texts{L"0 0", L"100 5", L"200 6"}));
+        EXPECT_EQ(person.Advice(L"Voltage 3"), L"Pasted as 6");
         person.Paste(L"Temperature 3", L"300\t7");
         EXPECT_EQ(Points(person), (Texts{L"0 0", L"100 5", L"300 7"}));
     });
@@ -467,12 +525,21 @@ TEST_F(PastedPointsTest, ColumnsAndLinesFillTheGridAsTheyStand) {
     EXPECT_EQ(settings->Voltages(2), 7);
 }
 
+TEST_F(PastedPointsTest, RowNumbersInTheFirstColumnAreTold) {
+    Edit([](Person& person) {
+        person.Paste(L"Temperature 1", L"1\t100.5\n2\t200.5");
+        EXPECT_EQ(person.Advice(L"Temperature 1"), L"Pasted as 1");
+        EXPECT_EQ(person.Advice(L"Voltage 2"), L"Pasted as 200.5");
+        person.Click(L"Cancel");
+    });
+}
+
 TEST_F(PastedPointsTest, NoColumnOrLineGoesPastTheGrid) {
     Edit([](Person& person) {
         const Texts before = Points(person);
         for (const auto& [box, text] :
              {std::pair(L"Voltage 1", L"1\t2"), std::pair(L"Temperature 2", L"1\n2\n3"),
-              std::pair(L"Temperature 1", L"1\t2\t3"), std::pair(L"Temperature 1", L"1\t\n2\t")}) {
+              std::pair(L"Temperature 1", L"1\t2\t3"), std::pair(L"Temperature 1", L"1\t2\n\t4")}) {
             person.Paste(box, text);
             EXPECT_EQ(Points(person), before);
             EXPECT_TRUE(person.Advice(box).starts_with(L"Nothing pasted: "));

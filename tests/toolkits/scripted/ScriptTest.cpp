@@ -190,7 +190,7 @@ TEST_F(ScriptTest, EndsAtWhatAPersonCannotDo) {
 }
 
 TEST_F(ScriptTest, PastesATextIntoABox) {
-    EXPECT_TRUE(Edit(L"paste -2.35 x 10^-4 into R0\npaste 1\\n2\\t3 into ALPHA\nclick OK"));
+    EXPECT_TRUE(Edit(L"paste -2.35 x 10^-4 into R0\npaste 1\\n2\\n3 into ALPHA\nclick OK"));
     EXPECT_EQ(platform->Complaints(), Texts{});
     EXPECT_EQ(cvd->Coefficients(0), -2.35e-4);
     EXPECT_EQ(cvd->Coefficients(1), 1);
