@@ -1,7 +1,8 @@
 #include "apps/quorconv/ProbeValues.h"
 #include "apps/quorconv/Failure.h"
 
-#include "QuorProbeFile/ProbeNames.h"
+#include "QuorConversions/core/RecordNames.h"
+#include "QuorIniFile/Utf8.h"
 #include "QuorProbeFile/ProbeTypes.h"
 #include "apps/quorconv/HostFile.h"
 #include "apps/quorconv/Records.h"
@@ -62,6 +63,64 @@ bool ProbeTable::IsOfProbe(const std::wstring& section) const {
     const auto owners = QuorProbeFile::PossibleOwners(section);
     return Has(section) || std::any_of(owners.begin(), owners.end(),
                                        [&](std::wstring_view owner) { return Has(std::wstring(owner)); });
+}
+
+bool ProbeTable::HasSection(const std::wstring& section) const { return m_file.Store()->HasSection(section); }
+
+std::optional<std::wstring> ProbeTable::Text(const std::wstring& section, const std::wstring& path) const {
+    const auto standAlone = StandAloneSection(m_file.Path());
+    const bool isStandAlone = standAlone && EqualFolded(*standAlone, section);
+    std::wstring text;
+    const std::wstring key =
+        SelectKey(*m_file.Store(), isStandAlone ? section : SettingsSection(section), path);
+    return m_file.Store()->ReadString(key, text) ? std::optional(text) : std::nullopt;
+}
+
+OtherLines::OtherLines(const ProbeTable& table, const NameSet& sections) {
+    using QuorIniFile::IniLines;
+    if (sections.empty())
+        return;
+    const auto standAlone = StandAloneSection(table.m_file.Path());
+    std::vector<Line>* lines = nullptr; // of the probe whose section this is
+    std::wstring section;               // without the name of the probe
+    for (auto line = table.m_file.Store()->Lines(); line.Next();) {
+        if (line.Is(IniLines::Kind::Header)) {
+            const std::wstring name = line.Name();
+            auto owners = PossibleOwners(name);
+            owners.insert(owners.begin(), name);
+            const auto owner = std::find_if(owners.begin(), owners.end(),
+                                            [&](std::wstring_view one) { return sections.contains(one); });
+            lines = owner == owners.end() ? nullptr : &m_lines[std::wstring(*owner)];
+            section = owner == owners.end() ? L"" : Folded(name.substr(owner->size()));
+            if (standAlone && EqualFolded(*standAlone, name))
+                section = settingsMark;
+        } else if (lines && line.Is(IniLines::Kind::Key)) {
+            const std::wstring key = Folded(line.Name());
+            const bool isOfRecord = section.empty() && EqualFolded(key, QuorConversions::conversionTypeKey);
+            if (!isOfRecord && !EqualFolded(key, QuorConversions::versionKey))
+                lines->push_back({Folded(PathOf(Folded(std::wstring(settingsMark)), section, key)),
+                                  section + L"/" + key + L"=" + line.Value(), !section.empty()});
+        } else if (lines) {
+            lines->push_back(
+                {L"", section + L"/" + QuorIniFile::DecodeBytes(line.Bytes()), !section.empty()});
+        }
+    }
+}
+
+std::vector<std::wstring> OtherLines::Of(const ProbeValues& probe) const {
+    std::vector<std::wstring> texts;
+    const auto found = m_lines.find(probe.section);
+    if (found == m_lines.end())
+        return texts;
+    NameSet read;
+    for (const RecordImage::Entry& entry : probe.entries)
+        read.insert(entry.path);
+    const bool hasSettings = !read.empty() || !FindType(probe.code);
+    for (const Line& line : found->second)
+        if ((hasSettings || !line.isOfSettings) && (line.path.empty() || !read.contains(line.path)))
+            texts.push_back(line.text);
+    std::sort(texts.begin(), texts.end());
+    return texts;
 }
 
 ProbeValues ProbeTable::Read(const std::wstring& section) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "QuorProbeFile/ProbeFile.h"
+#include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/RecordImage.h"
 
 #include <cstdint>
@@ -36,14 +37,37 @@ public:
     /// Nothing when there is none of that name.
     [[nodiscard]] std::optional<ProbeValues> Find(const std::wstring& section) const;
     [[nodiscard]] ProbeValues Read(const std::wstring& section) const;
+    /// The text of a value of a probe by its path, read or not; nothing when there is no such key.
+    [[nodiscard]] std::optional<std::wstring> Text(const std::wstring& section,
+                                                   const std::wstring& path) const;
+    [[nodiscard]] bool HasSection(const std::wstring& section) const;
     /// Whether a section is that of a probe, or of its settings.
     [[nodiscard]] bool IsOfProbe(const std::wstring& section) const;
     /// The sections that occur twice, of which the first one is read.
     [[nodiscard]] const std::vector<QuorIniFile::IniWarning>& Duplicates() const { return m_duplicates; }
 
 private:
+    friend class OtherLines;
     QuorProbeFile::ProbeFile& m_file;
     std::vector<QuorIniFile::IniWarning> m_duplicates; // by their lines
+};
+
+/// The lines of probes that no record has: keys of their own ("Due=2026-05"), values beyond a count, and
+/// lines that are no keys. They go when a probe is removed.
+class OtherLines {
+public:
+    /// Of the probes in `sections`, in one walk through the file.
+    OtherLines(const ProbeTable& table, const QuorProbeFile::NameSet& sections);
+    /// Those of one of them, sorted.
+    [[nodiscard]] std::vector<std::wstring> Of(const ProbeValues& probe) const;
+
+private:
+    struct Line {
+        std::wstring path; ///< of a value of the settings; empty for any other line
+        std::wstring text; ///< with the section as far as it is not the probe's name
+        bool isOfSettings; ///< stands in a section that is the host's where the type has no settings
+    };
+    QuorProbeFile::NameMap<std::vector<Line>> m_lines; // by the sections of the probes
 };
 
 /// What has become another value from one record to another of the same type.

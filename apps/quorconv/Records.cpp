@@ -69,11 +69,14 @@ std::wstring Place(const std::wstring& file, const std::wstring& section) {
 
 std::vector<Assignment> Assignments(const std::vector<std::wstring>& texts) {
     std::vector<Assignment> assignments;
+    NameSet keys;
     for (const std::wstring& text : texts) {
         const auto equals = text.find(L'=');
         if (equals == std::wstring::npos || equals == 0)
             throw UsageError{L"KEY=VALUE expected: " + text};
         assignments.push_back({text.substr(0, equals), text.substr(equals + 1)});
+        if (!keys.insert(assignments.back().key).second)
+            throw UsageError{assignments.back().key + L": the key is given twice"};
     }
     return assignments;
 }
@@ -341,9 +344,6 @@ std::vector<RecordImage::Entry> Assign(Probe& probe, const std::wstring& file,
     return assigning.Changed();
 }
 
-namespace {
-
-/// Selects the section of an entry in a record of settings, and returns its key there.
 std::wstring SelectKey(QuorIniFile::INIFile& store, const std::wstring& settings, const std::wstring& path) {
     const auto slash = path.find(L'/');
     if (slash == std::wstring::npos) {
@@ -353,6 +353,8 @@ std::wstring SelectKey(QuorIniFile::INIFile& store, const std::wstring& settings
     store.SetSection(settings + std::wstring(nestedMark) + path.substr(0, slash));
     return path.substr(slash + 1);
 }
+
+namespace {
 
 void WriteEntry(QuorIniFile::INIFile& store, const std::wstring& settings, const RecordImage::Entry& entry) {
     struct Visitor {

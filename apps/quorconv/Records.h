@@ -19,7 +19,7 @@ struct Assignment {
     std::wstring value;
 };
 
-/// Each text as a KEY=VALUE; UsageError for one that is none.
+/// Each text as a KEY=VALUE; UsageError for one that is none, and for a key that is given twice.
 [[nodiscard]] std::vector<Assignment> Assignments(const std::vector<std::wstring>& texts);
 
 /// What values may be given.
@@ -71,6 +71,10 @@ void AssignInFile(QuorProbeFile::ProbeFile& file, const std::wstring& section,
 /// Writes what has become another value since the probe was read, by a person who may have taken his time,
 /// into the file as it is now, and nothing else. Raises Problem when another program has changed the same.
 void WriteEdited(Probe& probe, QuorProbeFile::ProbeFile& file);
+
+/// Selects the section of an entry in the settings of a probe, and returns its key there.
+[[nodiscard]] std::wstring SelectKey(QuorIniFile::INIFile& store, const std::wstring& settings,
+                                     const std::wstring& path);
 
 /// Raises Problem with the reason when no probe can have that name in a file.
 void RequireName(const std::wstring& file, const std::wstring& name);

@@ -1,8 +1,10 @@
 #include "apps/quorconv/commands/Rows.h"
 
 #include "QuorProbeFile/ProbeNames.h"
+#include "QuorProbeFile/ProbeTypes.h"
 #include "QuorProbeFile/RecordMeaning.h"
 #include "apps/quorconv/HostFile.h"
+#include "apps/quorconv/Probe.h"
 #include "apps/quorconv/ProbeValues.h"
 #include "apps/quorconv/Progress.h"
 #include "apps/quorconv/Records.h"
@@ -85,6 +87,23 @@ class Merge final : public Command {
         std::vector<Assignment> values;
     };
 
+    struct BaseAndOurs {
+        const ProbeTable& base;
+        const ProbeTable& ours;
+    };
+    struct Tables : BaseAndOurs {
+        const ProbeTable& theirs;
+    };
+
+    /// What is done with the file, if there are no conflicts.
+    struct Plan {
+        std::vector<Change> written;
+        std::vector<std::wstring> retyped; // of the written ones
+        std::vector<std::wstring> removed;
+        std::vector<std::pair<std::wstring, std::wstring>> renamed; // from, to
+        std::vector<std::wstring> conflicts;
+    };
+
     void Declare(Arguments& arguments) override {
         arguments.One("BASE", m_base, Meaning::File, "The common base of both");
         arguments.One("FILE", m_ours, Meaning::File, "The file that receives the changes");
@@ -102,48 +121,119 @@ class Merge final : public Command {
         RequireOnce(theirs, m_theirs);
         if (theirFile->Probes().empty() && !baseFile->Probes().empty())
             throw Problem{m_theirs + L": there is no probe in this file; nothing was written"};
-        std::size_t count = 0;
-        std::size_t gone = 0;
+        Plan plan;
         file.Edit(m_isDryRun, [&] {
             const ProbeTable ours(*file);
             RequireOnce(ours, m_ours);
-            std::vector<std::wstring> conflicts;
-            std::vector<Change> written; // of theirs
-            std::vector<std::wstring> removed;
+            plan = {};
             Progress progress(L"probes", 0);
             theirs.ForEach([&](const std::wstring& section) {
                 progress.Step();
-                MergeProbe(base.Find(section), ours.Find(section), theirs.Read(section), written, conflicts);
+                MergeProbe({base, ours, theirs}, section, plan);
             });
             base.ForEach([&](const std::wstring& section) {
                 progress.Step();
-                if (theirs.Has(section))
-                    return;
-                const auto our = ours.Find(section);
-                if (!our)
-                    return;
-                if (SameValues(*our, base.Read(section)))
-                    removed.push_back(our->section);
-                else
-                    conflicts.push_back(L"[" + section + L"]: changed here, removed in " + m_theirs);
+                if (!theirs.Has(section))
+                    MergeRemoved({base, ours, theirs}, section, plan);
             });
-            FindTwoNames(base, ours, theirs, conflicts);
-            if (!conflicts.empty())
+            FindRenamed({base, ours, theirs}, plan);
+            RequireNothingElseLost({base, ours}, plan);
+            FindTwoNames(base, ours, theirs, plan.conflicts);
+            if (!plan.conflicts.empty())
                 throw Problem{m_ours + L": nothing was written, because both files have changed the same",
-                              std::move(conflicts)};
-            for (const Change& change : written) {
+                              std::move(plan.conflicts)};
+            for (const auto& [section, name] : plan.renamed)
+                file->Rename(section, name);
+            for (const Change& change : plan.written) {
                 progress.Step();
                 Write(*file, *theirFile, change);
             }
-            for (const std::wstring& section : removed)
+            for (const std::wstring& section : plan.removed)
                 file->Remove(section);
-            count = written.size();
-            gone = removed.size();
         });
-        TellCount(count, L"probe", m_isDryRun ? "would be merged" : "merged");
-        if (gone > 0)
-            TellCount(gone, L"probe", m_isDryRun ? "would be removed" : "removed");
+        TellCount(plan.written.size(), L"probe", m_isDryRun ? "would be merged" : "merged");
+        if (!plan.renamed.empty())
+            TellCount(plan.renamed.size(), L"probe", m_isDryRun ? "would be renamed" : "renamed");
+        if (!plan.removed.empty())
+            TellCount(plan.removed.size(), L"probe", m_isDryRun ? "would be removed" : "removed");
         return fine;
+    }
+
+    /// A probe of the base that theirs lack.
+    void MergeRemoved(const Tables& tables, const std::wstring& section, Plan& plan) const {
+        const auto our = tables.ours.Find(section);
+        if (!our)
+            return;
+        const ProbeValues base = tables.base.Read(section);
+        const bool hasSettings = !base.entries.empty() || !FindType(base.code);
+        for (const std::wstring& rest : {section, SettingsSection(section)}) {
+            const bool isHosts = rest != section && !hasSettings;
+            if (!isHosts && tables.theirs.HasSection(rest)) {
+                plan.conflicts.push_back(L"[" + section + L"]: is no probe any more in " + m_theirs +
+                                         L", but [" + rest + L"] is still there");
+                return;
+            }
+        }
+        if (SameValues(*our, base))
+            plan.removed.push_back(our->section);
+        else
+            plan.conflicts.push_back(L"[" + section + L"]: changed here, removed in " + m_theirs);
+    }
+
+    /// Of the probes that would be removed and added, those that theirs have under another name and that are
+    /// the same to the last line: they are renamed, which keeps what the file has beside their values. Where
+    /// several are the same, nobody can tell which one became which.
+    void FindRenamed(const Tables& tables, Plan& plan) const {
+        NameSet removed(plan.removed.begin(), plan.removed.end());
+        NameSet added;
+        for (const Change& change : plan.written)
+            if (!tables.base.Has(change.section))
+                added.insert(change.section);
+        if (removed.empty() || added.empty())
+            return;
+        const auto byText = [](const ProbeTable& table, const NameSet& sections) {
+            const OtherLines lines(table, sections);
+            std::unordered_map<std::wstring, std::vector<std::wstring>> found;
+            for (const std::wstring& section : sections) {
+                const ProbeValues probe = table.Read(section);
+                std::wstring text = std::to_wstring(probe.code);
+                for (const RecordImage::Entry& entry : probe.entries)
+                    text += L"\n" + entry.path + L"=" + ToText(entry.value);
+                for (const std::wstring& line : lines.Of(probe))
+                    text += L"\n" + line;
+                found[text].push_back(section);
+            }
+            return found;
+        };
+        const auto after = byText(tables.theirs, added);
+        NameSet names;
+        for (const auto& [text, sections] : byText(tables.base, removed)) {
+            const auto found = after.find(text);
+            if (found == after.end() || found->second.size() != 1 || sections.size() != 1)
+                continue;
+            plan.renamed.emplace_back(sections.front(), found->second.front());
+            names.insert(sections.front());
+            names.insert(found->second.front());
+        }
+        std::erase_if(plan.removed, [&](const std::wstring& section) { return names.contains(section); });
+        std::erase_if(plan.written, [&](const Change& change) { return names.contains(change.section); });
+    }
+
+    /// Lines that no record has, and that this file has changed in a probe which theirs have removed, or
+    /// given another type: they would go unseen.
+    void RequireNothingElseLost(const BaseAndOurs& tables, Plan& plan) const {
+        NameSet sections(plan.removed.begin(), plan.removed.end());
+        sections.insert(plan.retyped.begin(), plan.retyped.end());
+        const OtherLines before(tables.base, sections);
+        const OtherLines now(tables.ours, sections);
+        for (const auto* const list : {&plan.removed, &plan.retyped}) {
+            for (const std::wstring& section : *list) {
+                if (before.Of(tables.base.Read(section)) != now.Of(tables.ours.Read(section)))
+                    plan.conflicts.push_back(
+                        L"[" + section + L"]: keys beside its values were changed here, and the probe " +
+                        (list == &plan.removed ? L"removed" : L"given another type") + L" in " + m_theirs);
+            }
+        }
     }
 
     /// A probe of the base that both files lack, and that both have added under another name: it would be
@@ -179,22 +269,67 @@ class Merge final : public Command {
     }
 
     /// Decides what becomes of a probe of theirs.
-    void MergeProbe(const std::optional<ProbeValues>& base, const std::optional<ProbeValues>& our,
-                    const ProbeValues& their, std::vector<Change>& written,
-                    std::vector<std::wstring>& conflicts) const {
+    void MergeProbe(const Tables& tables, const std::wstring& section, Plan& plan) const {
+        const auto base = tables.base.Find(section);
+        const auto our = tables.ours.Find(section);
+        const ProbeValues their = tables.theirs.Read(section);
         const std::wstring place = L"[" + their.section + L"]";
         if ((our && SameValues(*our, their)) || (base && SameValues(*base, their)))
             return; // they have changed nothing, or we the same
-        if (!our && base)
-            conflicts.push_back(place + L": removed here, changed in " + m_theirs);
-        else if (!our || (base && SameValues(*base, *our)))
-            written.push_back({their.section, {}});
-        else if (!base)
-            conflicts.push_back(place + L": added in both files, with different values");
-        else if (base->code != their.code || base->code != our->code)
-            conflicts.push_back(place + L" ConversionType: changed in one file, and the record in the other");
-        else
-            MergeValues(*base, *our, their, place, written, conflicts);
+        if (auto damage = DamageOf(tables.theirs, their); !damage.empty()) {
+            plan.conflicts.push_back(place + L" ConversionType: " + damage);
+            return;
+        }
+        if (!our && base) {
+            plan.conflicts.push_back(place + L": removed here, changed in " + m_theirs);
+        } else if (!our) {
+            plan.written.push_back({their.section, {}});
+        } else if (!base) {
+            plan.conflicts.push_back(place + L": added in both files, with different values");
+        } else if (SameValues(*base, *our)) {
+            plan.written.push_back({their.section, {}});
+            if (base->code != their.code)
+                plan.retyped.push_back(their.section);
+            else
+                RequireNothingWrittenOver(tables, *our, their, plan.conflicts);
+        } else if (base->code != their.code || base->code != our->code) {
+            plan.conflicts.push_back(place +
+                                     L" ConversionType: changed in one file, and the record in the other");
+        } else {
+            MergeValues(*base, *our, their, place, plan.written, plan.conflicts);
+            RequireNothingWrittenOver(tables, *our, their, plan.conflicts);
+        }
+    }
+
+    /// What shows that a changed type of theirs is a mistake: to take it over would remove the settings that
+    /// the probe has here. Empty for one that is right.
+    [[nodiscard]] std::wstring DamageOf(const ProbeTable& theirs, const ProbeValues& their) const {
+        if (!FindType(their.code))
+            return std::to_wstring(their.code) + L" in " + m_theirs + L" is the code of no conversion type";
+        const std::wstring settings = SettingsSection(their.section);
+        if (!MayHaveSettings(static_cast<QuorConversions::EQuorConversionType>(their.code)) &&
+            theirs.HasSection(settings))
+            return TypeName(their.code) + L" in " + m_theirs + L" has no settings, but [" + settings +
+                   L"] is still there";
+        return {};
+    }
+
+    /// Values of theirs that our record does not have, because of its count, and that stand in the file
+    /// beside it: those that are not as the base has them are kept from being written over.
+    void RequireNothingWrittenOver(const BaseAndOurs& tables, const ProbeValues& our,
+                                   const ProbeValues& their, std::vector<std::wstring>& conflicts) const {
+        for (const RecordImage::Entry& entry : their.entries) {
+            if (our.Find(entry.path))
+                continue;
+            const auto present = tables.ours.Text(our.section, entry.path);
+            if (!present || present->empty() || present == tables.base.Text(our.section, entry.path))
+                continue;
+            const auto value = ParseAs(entry.value, *present);
+            if (!value || !SameValue(*value, entry.value))
+                conflicts.push_back(L"[" + our.section + L"] " + entry.path + L": " + *present +
+                                    L" stands here beyond the count, and would become " +
+                                    ToText(entry.value) + L" of " + m_theirs);
+        }
     }
 
     void MergeValues(const ProbeValues& base, const ProbeValues& our, const ProbeValues& their,
@@ -275,7 +410,8 @@ class Merge final : public Command {
 
 const CommandRow mergeRow{
     "merge",
-    "Merge the changes that another file has since a common base into a file, or report conflicts",
+    "Merge the changes of probes that another file has since a common base into a file, or report conflicts; "
+    "sections of the instrument stay as they are",
     {"quorconv merge laboratory-2024.ini laboratory.ini from-the-field.ini --dry-run"},
     Create<Merge>};
 

@@ -223,3 +223,85 @@ TEST_F(QuorconvCompareTest, PatternsLeaveNoProbeOfADamagedFileOutInSilence) {
 TEST_F(QuorconvCompareTest, AnEmptyResultIsAResult) {
     ExpectShell("printf '[a]\\nConversionType=0\\n' | quorconv remove - a", "", "");
 }
+
+TEST_F(QuorconvCompareTest, ADamagedTypeOfTheOtherFileTakesNoSettingsAway) {
+    folder.Write("theirs.ini", Replaced(base, "ConversionType=2", "ConversionType=99"));
+    ExpectConflicts("  [A] ConversionType: 99 in theirs.ini is the code of no conversion type\n");
+    folder.Write("theirs.ini", Replaced(base, "ConversionType=2", "ConversionType=10"));
+    ExpectConflicts("  [A] ConversionType: CONV_OHMS in theirs.ini has no settings, but [A - Settings] is "
+                    "still there\n");
+    folder.Write("theirs.ini", base);
+    ExpectFine({"retype", "theirs.ini", "A", "10"}); // which takes the settings out
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
+}
+
+TEST_F(QuorconvCompareTest, AProbeOfWhichTheOtherFileHasLostALineIsNotRemoved) {
+    folder.Write("theirs.ini", Replaced(base, "ConversionType=2\n", ""));
+    ExpectConflicts("  [A]: is no probe any more in theirs.ini, but [A] is still there\n");
+    folder.Write("theirs.ini", Replaced(base, "[A]\nVersion=1.0\nConversionType=2\n", ""));
+    ExpectConflicts("  [A]: is no probe any more in theirs.ini, but [A - Settings] is still there\n");
+    const std::string host = "\n[O]\nConversionType=10\n\n[O - Settings]\nLamp=1\n";
+    folder.Write("base.ini", base + host);
+    folder.Write("ours.ini", base + host);
+    folder.Write("theirs.ini", base + "\n[O - Settings]\nLamp=1\n"); // a section of the host's own
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "",
+                "quorconv: 0 probes merged\nquorconv: 1 probe removed\n");
+    EXPECT_EQ(folder.Read("ours.ini"), base + "\n[O - Settings]\nLamp=1\n");
+}
+
+TEST_F(QuorconvCompareTest, KeysThatNoRecordHasGoWithAProbeOnlyAsTheBaseHasThem) {
+    const std::string own = base + "Due=2025-05\n";
+    folder.Write("base.ini", own);
+    folder.Write("ours.ini", Replaced(own, "2025-05", "2026-05"));
+    folder.Write("theirs.ini", own);
+    ExpectFine({"remove", "theirs.ini", "B"});
+    ExpectConflicts("  [B]: keys beside its values were changed here, and the probe removed in theirs.ini\n");
+    folder.Write("theirs.ini", own);
+    ExpectFine({"retype", "theirs.ini", "B", "pt1", "Coefficients0=100"});
+    ExpectConflicts(
+        "  [B]: keys beside its values were changed here, and the probe given another type in theirs.ini\n");
+    folder.Write("theirs.ini", own);
+    ExpectFine({"remove", "theirs.ini", "B"});
+    folder.Write("ours.ini", Replaced(own, "RTPW=25.5", "rtpw=2.55E1 ; ohms")); // the same number
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "",
+                "quorconv: 0 probes merged\nquorconv: 1 probe removed\n");
+}
+
+TEST_F(QuorconvCompareTest, AGreaterCountOfTheOtherFileWritesOverNoValueThatStandsHereBeyondIt) {
+    const std::string beyond = Replaced(base, "0.00385\n", "0.00385\nCoefficients2=1.5\n");
+    const std::string greater =
+        Replaced(Replaced(beyond, "NumCoefficients=2", "NumCoefficients=3"), "=1.5", "=1.6");
+    folder.Write("theirs.ini", greater);
+    folder.Write("ours.ini", beyond);
+    ExpectConflicts("  [A] Coefficients2: 1.5 stands here beyond the count, and would become 1.6 of "
+                    "theirs.ini\n");
+    folder.Write("ours.ini", Replaced(beyond, "25.5", "25.4"));
+    folder.Write("base.ini", beyond); // from which only theirs has changed the value
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
+    EXPECT_EQ(folder.Read("ours.ini"), Replaced(greater, "25.5", "25.4"));
+}
+
+TEST_F(QuorconvCompareTest, AProbeThatTheOtherFileHasOnlyRenamedIsRenamedWhereItStands) {
+    ExpectFine({"rename", "theirs.ini", "A", "PRT 1"});
+    const std::string ours =
+        "; ours\n[A] ; bath 3\nVersion=1.0\nConversionType=2\nDue=2026-05\n"
+        "\n[A - Settings]\nNumCoefficients=2\nUsePolynomial=0\nCoefficients0=1E2 ; ohms\n"
+        "Coefficients1=0.003850\nCoefficients2=1.5\n"
+        "\n[B]\nVersion=1.0\nConversionType=14\n"
+        "\n[B - Settings]\nVersion=1.0\nRTPW=25.5\n";
+    folder.Write("ours.ini", ours);
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "",
+                "quorconv: 0 probes merged\nquorconv: 1 probe renamed\n");
+    EXPECT_EQ(folder.Read("ours.ini"), Replaced(Replaced(ours, "[A]", "[PRT 1]"), "[A - S", "[PRT 1 - S"));
+}
+
+TEST_F(QuorconvCompareTest, OfProbesThatAreTheSameNoneIsTakenForTheOtherRenamed) {
+    const std::string two = "[A]\nConversionType=10\n\n[B]\nConversionType=10\n";
+    folder.Write("base.ini", two);
+    folder.Write("ours.ini", two);
+    folder.Write("theirs.ini", "[C]\nConversionType=10\n");
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "",
+                "quorconv: 1 probe merged\nquorconv: 2 probes removed\n");
+    folder.Write("ours.ini", Replaced(two, "=10\n\n", "=10\nDue=2026-05\n\n"));
+    ExpectConflicts("  [A]: keys beside its values were changed here, and the probe removed in theirs.ini\n");
+}

@@ -308,3 +308,16 @@ TEST_F(QuorconvLossTest, CopiesFromSeveralFilesAndNeverTwoProbesIntoOne) {
                   "quorconv: b.ini: [a]: a probe of this name stands in several of the files\n");
     EXPECT_EQ(folder.Read("c.ini"), before);
 }
+
+TEST_F(QuorconvLossTest, OfAKeyThatIsGivenTwiceNeitherValueIsTaken) {
+    ExpectFine({"new", "a.ini", "P", "w90", "RTPW=25.5"});
+    const std::string before = folder.Read("a.ini");
+    ExpectRefused({"set", "a.ini", "P", "RTPW=1", "rtpw=2"}, "quorconv: rtpw: the key is given twice\n", 2);
+    ExpectRefused({"new", "a.ini", "Q", "w90", "RTPW=1", "RTPW=2"},
+                  "quorconv: RTPW: the key is given twice\n", 2);
+    ExpectShell("echo 'set P RTPW=1 RTPW=1' | quorconv apply a.ini", "",
+                "quorconv: a.ini: nothing was written, because a line of - is wrong\n"
+                "  -:1: RTPW: the key is given twice\n",
+                1);
+    EXPECT_EQ(folder.Read("a.ini"), before);
+}
