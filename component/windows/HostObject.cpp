@@ -16,7 +16,10 @@
 namespace QuorConversions::Automation {
 namespace {
 
-constexpr DISPID firstOfEveryInterface = 0x60000000; // those of IUnknown and IDispatch in a type library
+// The ids of IUnknown and IDispatch in a type library. From the next one on they are those of a class of
+// Visual Basic or .NET.
+constexpr DISPID firstOfEveryInterface = 0x60000000;
+constexpr DISPID firstOfClasses = 0x60020000;
 
 /// An object of the host. Script engines answer IDispatchEx, and Wine's only that.
 class HostObject {
@@ -82,7 +85,8 @@ private:
             code = m_object->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id);
         }
         // What every interface has, "Release" for one, is not the member that is meant.
-        const bool isOwn = SUCCEEDED(code) && (m_script || id < firstOfEveryInterface);
+        const bool isOwn =
+            SUCCEEDED(code) && (m_script || id < firstOfEveryInterface || id >= firstOfClasses);
         return m_ids.emplace(name, isOwn ? std::optional(id) : std::nullopt).first->second;
     }
 

@@ -450,6 +450,7 @@ void CallBySlot() {
 /// A drop-down list of the host, which has only what a list needs.
 class ListControl final : public IDispatch {
 public:
+    explicit ListControl(DISPID firstId) : m_firstId(firstId) {}
     virtual ~ListControl() = default;
     std::vector<std::pair<std::string, LONG>> items{{"an old one", 0}};
     ULONG references = 1;
@@ -470,18 +471,19 @@ public:
         static const std::vector<std::wstring> known{L"Clear", L"AddItem", L"NewIndex", L"ItemData"};
         for (std::size_t i = 0; i < known.size(); ++i)
             if (known[i] == names[0]) {
-                *ids = static_cast<DISPID>(i + 100);
+                *ids = m_firstId + static_cast<DISPID>(i);
                 return S_OK;
             }
         return DISP_E_UNKNOWNNAME;
     }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* given, VARIANT* result,
                                      EXCEPINFO* info, UINT*) override {
-        if (id == 100 && flags == DISPATCH_METHOD) {
+        const DISPID member = id - m_firstId;
+        if (member == 0 && flags == DISPATCH_METHOD) {
             items.clear();
             return S_OK;
         }
-        if (id == 101 && flags == DISPATCH_METHOD && items.size() == full) {
+        if (member == 1 && flags == DISPATCH_METHOD && items.size() == full) {
             info->wCode = 0;
             info->scode = static_cast<SCODE>(0x800A0007);
             info->bstrSource = SysAllocString(L"The list");
@@ -490,21 +492,24 @@ public:
             info->dwHelpContext = 7;
             return DISP_E_EXCEPTION;
         }
-        if (id == 101 && flags == DISPATCH_METHOD) {
+        if (member == 1 && flags == DISPATCH_METHOD) {
             items.emplace_back(Narrow(given->rgvarg[0].bstrVal), -99);
             return S_OK;
         }
-        if (id == 102 && flags == DISPATCH_PROPERTYGET) {
+        if (member == 2 && flags == DISPATCH_PROPERTYGET) {
             *result = Long(static_cast<LONG>(items.size()) - 1);
             return S_OK;
         }
-        if (id == 103 && flags == DISPATCH_PROPERTYPUT && given->cNamedArgs == 1) {
+        if (member == 3 && flags == DISPATCH_PROPERTYPUT && given->cNamedArgs == 1) {
             items.at(static_cast<std::size_t>(given->rgvarg[1].lVal)).second = given->rgvarg[0].lVal;
             return S_OK;
         }
         return DISP_E_MEMBERNOTFOUND;
     }
     std::size_t full = 1000;
+
+private:
+    DISPID m_firstId;
 };
 
 void FillLists() {
@@ -518,8 +523,15 @@ void FillLists() {
     Good(probe->get_Settings(settings.Out()));
     Good(settings->QueryInterface(IID_ICQuorITS90, its90.Any()));
     Good(its90->get_LowRange(low.Out()));
-    ListControl list;
+    // Classes of Visual Basic and .NET number their members from 0x60020000 on.
+    ListControl list(0x60030000);
     Good(low->FillRangeCombo(&list));
+    for (const DISPID firstId : {1, 100, 0x60020000, 0x68030000}) {
+        ListControl other(firstId);
+        Good(low->FillRangeCombo(&other));
+        if (other.items != list.items)
+            throw std::runtime_error("another list by members from " + std::to_string(firstId));
+    }
     for (const auto& [text, data] : list.items)
         Print("  " + text + " = " + std::to_string(data));
     Print("References left: " + std::to_string(list.references - 1));
