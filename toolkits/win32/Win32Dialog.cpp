@@ -24,7 +24,7 @@ constexpr DWORD frameStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU;
 constexpr DWORD frameStyleEx = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
 
 constexpr UINT arrangeMessage = WM_APP;
-constexpr UINT chooseMessage = WM_APP + 1; // the id of the list
+constexpr UINT chooseMessage = WM_APP + 1;
 
 // Character codes of keys.
 constexpr WPARAM selectAllKey = 1;
@@ -34,6 +34,9 @@ constexpr WPARAM cutKey = 24;
 constexpr std::array<WPARAM, 6> editingKeys = {copyKey, 8, 13, pasteKey, cutKey, 26};
 
 [[nodiscard]] HINSTANCE Module() { return reinterpret_cast<HINSTANCE>(&__ImageBase); }
+
+/// Whether a message of a key comes from one that is held down.
+[[nodiscard]] bool IsRepeated(const MSG& message) { return (message.lParam & 0x40000000) != 0; }
 
 [[nodiscard]] bool IsDown(int key) { return GetKeyState(key) < 0; }
 
@@ -203,7 +206,7 @@ void Win32Dialog::Run() {
         const OthersDisabled others(m_window);
         ShowWindow(m_window, SW_SHOW);
         SetForegroundWindow(m_window);
-        while (m_dialog.IsOpen() && !m_failure) {
+        while (m_window && m_dialog.IsOpen() && !m_failure) {
             MSG message{};
             if (GetMessageW(&message, nullptr, 0, 0) == 0) { // the host ends
                 PostQuitMessage(static_cast<int>(message.wParam));
@@ -212,9 +215,11 @@ void Win32Dialog::Run() {
             Dispatch(message);
         }
     }
+    if (!m_window)
+        Report([&] { m_input.Close(); });
     RECT place{};
-    GetWindowRect(m_window, &place);
-    if (m_shownAt && (place.left != m_shownAt->x || place.top != m_shownAt->y))
+    if (m_shownAt && GetWindowRect(m_window, &place) &&
+        (place.left != m_shownAt->x || place.top != m_shownAt->y))
         m_dialog.SetPlace(
             Dialog::Placement{static_cast<std::int32_t>(place.left), static_cast<std::int32_t>(place.top)});
     m_dialog.SetListener(nullptr);
@@ -238,6 +243,10 @@ void Win32Dialog::Dispatch(const MSG& message) {
 // Keys
 
 bool Win32Dialog::TakesKey(const MSG& message) {
+    if (message.message == WM_KEYDOWN || message.message == WM_CHAR)
+        ReportChoices();
+    if (!m_window)
+        return true;
     Control* const focused = ControlOf(message.hwnd);
     const ControlKind kind = focused ? focused->Kind() : ControlKind::Frame;
     if (message.message == WM_SYSCHAR)
@@ -258,18 +267,20 @@ bool Win32Dialog::TakesKey(const MSG& message) {
     case VK_RETURN:
         if (isListOpen || kind == ControlKind::TextBox) // a box passes the key on to the model
             return false;
-        if (kind == ControlKind::PushButton)
-            Report([&] { m_input.Click(static_cast<PushButton&>(*focused)); });
-        else
+        if (kind != ControlKind::PushButton)
             Report([&] { m_input.Tab(); });
+        else if (!IsRepeated(message)) // a held key, which has come through the boxes, presses no button
+            Report([&] { m_input.Click(static_cast<PushButton&>(*focused)); });
         return true;
     case VK_ESCAPE:
         if (isListOpen)
             return false;
-        Report([&] { m_input.Escape(); });
+        if (!IsRepeated(message)) // a held key, which has closed a message, does not cancel the dialog, too
+            Report([&] { m_input.Escape(); });
         return true;
     case VK_F1:
-        Report([&] { m_input.Help(); });
+        if (!IsRepeated(message))
+            Report([&] { m_input.Help(); });
         return true;
     default:
         return false;
@@ -338,24 +349,39 @@ void Win32Dialog::TurnPage(bool backwards) {
 
 LRESULT CALLBACK Win32Dialog::FrameProcedure(HWND window, UINT message, WPARAM w, LPARAM l) {
     auto* const dialog = static_cast<Win32Dialog*>(GetPropW(window, dialogProperty));
-    return dialog ? dialog->OnFrame(message, w, l) : DefWindowProcW(window, message, w, l);
+    return dialog ? dialog->Guarded([&] { return dialog->OnFrame(message, w, l); })
+                  : DefWindowProcW(window, message, w, l);
 }
 
 LRESULT CALLBACK Win32Dialog::ContentProcedure(HWND window, UINT message, WPARAM w, LPARAM l) {
     auto* const dialog = static_cast<Win32Dialog*>(GetPropW(window, dialogProperty));
-    return dialog ? dialog->OnContent(message, w, l) : DefWindowProcW(window, message, w, l);
+    return dialog ? dialog->Guarded([&] { return dialog->OnContent(message, w, l); })
+                  : DefWindowProcW(window, message, w, l);
 }
 
 LRESULT CALLBACK Win32Dialog::ControlProcedure(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR id,
                                                DWORD_PTR dialog) {
     auto& self = *reinterpret_cast<Win32Dialog*>(dialog);
-    return self.OnControl(*self.m_views[id].control, window, message, w, l);
+    return self.Guarded([&] { return self.OnControl(*self.m_views[id].control, window, message, w, l); });
+}
+
+template <class Handle>
+LRESULT Win32Dialog::Guarded(Handle&& handle) noexcept {
+    try {
+        return std::forward<Handle>(handle)();
+    } catch (...) {
+        Fail();
+        return 0;
+    }
 }
 
 LRESULT Win32Dialog::OnFrame(UINT message, WPARAM w, LPARAM l) {
     switch (message) {
     case WM_CLOSE:
         Report([&] { m_input.Close(); });
+        return 0;
+    case WM_DESTROY:
+        OnDestroyed();
         return 0;
     case WM_ACTIVATE:
         if (LOWORD(w) != WA_INACTIVE && m_dialog.IsOpen()) {
@@ -386,7 +412,12 @@ LRESULT Win32Dialog::OnFrame(UINT message, WPARAM w, LPARAM l) {
         ScrollTo(static_cast<int>(-content.top) - GET_WHEEL_DELTA_WPARAM(w) * notch / WHEEL_DELTA);
         return 0;
     }
-    case WM_DPICHANGED:
+    case WM_DPICHANGED: {
+        const auto& suggested = *reinterpret_cast<const RECT*>(l);
+        SetWindowPos(m_window, nullptr, suggested.left, suggested.top, 0, 0,
+                     SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        [[fallthrough]];
+    }
     case WM_SETTINGCHANGE:
     case WM_THEMECHANGED:
         if (!m_views.empty()) {
@@ -443,14 +474,9 @@ LRESULT Win32Dialog::OnContent(UINT message, WPARAM w, LPARAM l) {
         m_arrangesSoon = false;
         Arrange();
         return 0;
-    case chooseMessage: {
-        auto& list =
-            static_cast<DropDownList&>(*m_views[static_cast<std::size_t>(w) - firstControlId].control);
-        const auto selected = SendMessageW(WindowOf(list), CB_GETCURSEL, 0, 0);
-        if (selected >= 0)
-            Report([&] { m_input.Choose(list, static_cast<std::int32_t>(selected)); });
+    case chooseMessage:
+        ReportChoices();
         return 0;
-    }
     case WM_MOUSEWHEEL:
         return SendMessageW(m_window, message, w, l);
     default:
@@ -471,16 +497,34 @@ void Win32Dialog::OnCommand(int id, int code) {
     if (control.Kind() != ControlKind::DropDownList)
         return;
     // A list that is open reports each item that the arrow keys pass. Chosen is the one with which it closes;
-    // it is reported once and when the list is closed, since a message may follow from it.
+    // it is reported once and when the list is closed, since a message may follow from it, but before
+    // anything that comes after it.
+    auto& list = static_cast<DropDownList&>(control);
     const bool isOpen = SendMessageW(window, CB_GETDROPPEDSTATE, 0, 0) != FALSE;
     if (code == CBN_SELENDOK || (code == CBN_SELCHANGE && !isOpen)) {
-        MSG waiting{};
-        if (!PeekMessageW(&waiting, m_content, chooseMessage, chooseMessage, PM_NOREMOVE))
-            PostMessageW(m_content, chooseMessage, static_cast<WPARAM>(id), 0);
+        if (!IsChosen(list))
+            m_chosen.push_back(&list);
+        PostMessageW(m_content, chooseMessage, 0, 0);
     }
-    if (code == CBN_SELENDCANCEL)
-        SendMessageW(window, CB_SETCURSEL,
-                     static_cast<WPARAM>(static_cast<const DropDownList&>(control).ListIndex()), 0);
+    if (code == CBN_SELENDCANCEL && !IsChosen(list)) // a list that loses the focus reports it, too
+        SendMessageW(window, CB_SETCURSEL, static_cast<WPARAM>(list.ListIndex()), 0);
+}
+
+bool Win32Dialog::IsChosen(const DropDownList& list) const {
+    return std::find(m_chosen.begin(), m_chosen.end(), &list) != m_chosen.end();
+}
+
+void Win32Dialog::ReportChoices() noexcept {
+    if (m_reportsChoices) // a choice moves the focus, which is reported, too
+        return;
+    const While<bool> reporting(m_reportsChoices, true);
+    while (!m_chosen.empty()) {
+        DropDownList& list = *m_chosen.front();
+        m_chosen.erase(m_chosen.begin());
+        const auto selected = SendMessageW(WindowOf(list), CB_GETCURSEL, 0, 0);
+        if (selected >= 0)
+            Try([&] { m_input.Choose(list, static_cast<std::int32_t>(selected)); });
+    }
 }
 
 LRESULT Win32Dialog::OnControl(Control& control, HWND window, UINT message, WPARAM w, LPARAM l) {
@@ -552,17 +596,26 @@ void Win32Dialog::ReportEdit(TextBox& box, HWND window) {
     std::wstring text = TextOf(window);
     if (text == box.Text() && start == box.SelStart() && end - start == box.SelLength())
         return;
-    const While<const Control*> reporting(m_reporting, &box);
-    Report([&] { m_input.Edit(box, std::move(text), start, end - start); });
+    Report([&] {
+        const While<const Control*> reporting(m_reporting, &box);
+        m_input.Edit(box, std::move(text), start, end - start);
+    });
 }
 
 void Win32Dialog::PasteInto(TextBox& box, HWND window) {
     std::wstring text;
-    if (!OpenClipboard(m_window))
+    bool isOpen = OpenClipboard(m_window) != FALSE;
+    for (int tries = 1; !isOpen && tries < 5; ++tries) { // another program may have it for a moment
+        Sleep(10);                                       // ms
+        isOpen = OpenClipboard(m_window) != FALSE;
+    }
+    if (!isOpen)
         return;
     if (const HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
         if (const auto* const characters = static_cast<const wchar_t*>(GlobalLock(data))) {
-            text = characters;
+            // Nothing makes a program end its text with a zero.
+            const wchar_t* const last = characters + GlobalSize(data) / sizeof(wchar_t);
+            text.assign(characters, std::find(characters, last, L'\0'));
             GlobalUnlock(data);
         }
     }
@@ -708,7 +761,9 @@ void Win32Dialog::FollowItems(const DropDownList& list, HWND window) {
         for (std::int32_t item = 0; item < list.ListCount(); ++item)
             SendMessageW(window, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(list.List(item).c_str()));
     }
-    if (SendMessageW(window, CB_GETCURSEL, 0, 0) != list.ListIndex())
+    if (!isSame)
+        m_chosen.erase(std::remove(m_chosen.begin(), m_chosen.end(), &list), m_chosen.end());
+    if (!IsChosen(list) && SendMessageW(window, CB_GETCURSEL, 0, 0) != list.ListIndex())
         SendMessageW(window, CB_SETCURSEL, static_cast<WPARAM>(list.ListIndex()), 0);
 }
 
@@ -943,14 +998,37 @@ void Win32Dialog::FocusActiveControl() {
 // What the model says
 
 void Win32Dialog::Report(const std::function<void()>& report) noexcept {
+    ReportChoices();
+    Try(report);
+}
+
+void Win32Dialog::Try(const std::function<void()>& report) noexcept {
     if (m_failure)
         return; // the dialog has ended; what its window still does on its way out is not the user's
     try {
         report();
     } catch (...) {
-        m_failure = std::current_exception();
-        OnHidden();
+        Fail();
     }
+}
+
+void Win32Dialog::Fail() noexcept {
+    if (!m_failure)
+        m_failure = std::current_exception();
+    OnHidden();
+}
+
+void Win32Dialog::OnDestroyed() {
+    m_dialog.SetListener(nullptr);
+    m_dialog.SetWindowHandle(0);
+    RemovePropW(m_window, dialogProperty);
+    RemovePropW(m_content, dialogProperty);
+    for (std::size_t i = 0; i < m_views.size(); ++i)
+        if (const HWND window = std::exchange(m_views[i].window, nullptr))
+            RemoveWindowSubclass(window, ControlProcedure, i);
+    m_chosen.clear();
+    m_window = m_content = m_adviceLine = nullptr;
+    OnHidden();
 }
 
 void Win32Dialog::OnControlChanged(const Control& control) {
@@ -977,7 +1055,7 @@ void Win32Dialog::OnFocusMoved(const Control* focused) {
 void Win32Dialog::OnTitleChanged() { SetTextOf(m_window, m_dialog.Title()); }
 
 void Win32Dialog::OnHidden() {
-    PostMessageW(m_window, WM_NULL, 0, 0); // wakes the loop
+    PostMessageW(m_window, WM_NULL, 0, 0); // wakes the loop, also when the window is gone
 }
 
 } // namespace QuorConversions::Win32Toolkit

@@ -88,9 +88,20 @@ private:
     void ScrollToFocus();
     void FocusActiveControl();
 
-    /// Reports something to the model. The first exception ends the dialog, and Run raises it: none may pass
-    /// through the system's code.
+    /// Reports something to the model, after what was chosen in lists. The first exception ends the dialog,
+    /// and Run raises it: none may pass through the system's code.
     void Report(const std::function<void()>& report) noexcept;
+    void Try(const std::function<void()>& report) noexcept;
+    /// Ends the dialog with the exception that is being handled.
+    void Fail() noexcept;
+    /// Runs what handles a message of a window. An exception ends the dialog.
+    template <class Handle>
+    [[nodiscard]] LRESULT Guarded(Handle&& handle) noexcept;
+    /// Reports what was chosen in lists that have closed.
+    void ReportChoices() noexcept;
+    [[nodiscard]] bool IsChosen(const DropDownList& list) const;
+    /// The window is destroyed from outside, as with its owner: the dialog ends.
+    void OnDestroyed();
 
     void OnControlChanged(const Control& control) override;
     void OnFocusMoved(const Control* focused) override;
@@ -109,8 +120,10 @@ private:
     SIZE m_contentSize{};
     COLORREF m_pageColour = 0;
     std::optional<POINT> m_shownAt;
+    std::vector<DropDownList*> m_chosen;  // lists whose choice is not reported yet, in order
     const Control* m_reporting = nullptr; // whose window is ahead of its control for a moment
     bool m_isFollowing = false;           // what the windows report then is not the user's
+    bool m_reportsChoices = false;
     bool m_isPasting = false;
     bool m_arrangesSoon = false;
     std::exception_ptr m_failure;

@@ -39,6 +39,16 @@ public:
     std::vector<TextBox*> boxes = AddArray<TextBox>(L"txtMore", 100);
 };
 
+class TwoListsDialog : public SampleDialog {
+public:
+    TwoListsDialog() {
+        for (const wchar_t* const item : {L"one", L"two", L"three"})
+            second.AddItem(item);
+        probe.AddRow({&second});
+    }
+    DropDownList& second = Add<DropDownList>(L"cboSecond");
+};
+
 RECT PlaceOf(HWND window) {
     RECT place{};
     GetWindowRect(window, &place);
@@ -339,6 +349,74 @@ TEST_F(Win32DialogTest, ReportsTheItemWithWhichAListClosesOnce) {
         EXPECT_EQ(dialog.events, (Texts{L"click cboKind", L"click cboKind"}));
         EXPECT_EQ(Focused(), L"cboKind");
     });
+}
+
+TEST_F(Win32DialogTest, ReportsWhatWasChosenInEachListBeforeTheClickThatFollows) {
+    TwoListsDialog two;
+    Run(two, [&] {
+        const auto choose = [](const DropDownList& list, WPARAM item) { // as a program that reads the screen
+            const HWND window = WindowOf(list);
+            SendMessageW(window, CB_SETCURSEL, item, 0);
+            SendMessageW(GetParent(window), WM_COMMAND,
+                         MAKEWPARAM(GetDlgCtrlID(window), static_cast<WORD>(CBN_SELCHANGE)),
+                         reinterpret_cast<LPARAM>(window));
+        };
+        choose(two.kind, 1);
+        choose(two.second, 2);
+        SendMessageW(WindowOf(two.ok), BM_CLICK, 0, 0);
+    });
+    EXPECT_EQ(two.kind.ListIndex(), 1);
+    EXPECT_EQ(two.second.ListIndex(), 2);
+    EXPECT_FALSE(two.IsOpen());
+    const auto at = [&](const wchar_t* event) {
+        return std::find(two.events.begin(), two.events.end(), event) - two.events.begin();
+    };
+    EXPECT_LT(at(L"click cboKind"), at(L"click cboSecond"));
+    EXPECT_LT(at(L"click cboSecond"), at(L"click cmdOK"));
+    EXPECT_EQ(two.events.back(), L"click cmdOK");
+}
+
+TEST_F(Win32DialogTest, PressesNothingByAKeyThatIsHeldDown) {
+    dialog.SetHelpButton(dialog.more);
+    Run([&] {
+        constexpr LPARAM repeated = 0x40000001; // the key was down before
+        const auto hold = [](const Control& control, WPARAM key) {
+            PostMessageW(WindowOf(control), WM_KEYDOWN, key, repeated);
+            HandleInput();
+        };
+        GoTo(dialog.kind);
+        hold(dialog.kind, VK_RETURN);
+        EXPECT_EQ(Focused(), L"tabPages") << "Enter goes on";
+        GoTo(dialog.ok);
+        dialog.events.clear();
+        for (const WPARAM key : {VK_RETURN, VK_ESCAPE, VK_F1})
+            hold(dialog.ok, key);
+        EXPECT_EQ(dialog.events, Texts{});
+        EXPECT_TRUE(dialog.IsOpen());
+    });
+}
+
+TEST_F(Win32DialogTest, IsCancelledWhenItsOwnerIsDestroyed) {
+    for (const bool refuses : {false, true}) {
+        SampleDialog owned;
+        if (refuses)
+            owned.onClose = [] {};
+        const HWND owner = CreateWindowExW(0, L"STATIC", L"Host", WS_POPUP | WS_VISIBLE, 0, 0, 200, 200,
+                                           nullptr, nullptr, nullptr, nullptr);
+        Support::BringToFront(owner);
+        ASSERT_EQ(GetActiveWindow(), owner);
+        const HWND other = CreateWindowExW(0, L"STATIC", L"Other", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50,
+                                           nullptr, nullptr, nullptr, nullptr);
+        SetActiveWindow(owner);
+        WhenTrue([&] { return IsWindowVisible(WindowOf(owned)) != FALSE; }, [&] { DestroyWindow(owner); });
+        owned.RunOn(platform);
+        EXPECT_EQ(owned.events.back(), L"close");
+        EXPECT_EQ(owned.IsOpen(), refuses);
+        EXPECT_EQ(owned.WindowHandle(), 0);
+        EXPECT_FALSE(owned.Place());
+        EXPECT_TRUE(IsWindowEnabled(other));
+        DestroyWindow(other);
+    }
 }
 
 TEST_F(Win32DialogTest, PressesHelpByF1WhereverTheFocusIs) {
