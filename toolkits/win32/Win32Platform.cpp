@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <utility>
 
+#include <cderr.h>
 #include <commdlg.h>
 #include <shellapi.h>
 
@@ -24,6 +25,15 @@ std::wstring SystemFilter(std::wstring filter) {
     std::replace(filter.begin(), filter.end(), L'|', L'\0');
     filter.push_back(L'\0');
     return filter;
+}
+
+/// Whether anybody sees the windows of this process: a service has a session without a screen, where windows
+/// are created, too, and wait for an answer for ever.
+[[nodiscard]] bool HasScreen() {
+    USEROBJECTFLAGS flags{};
+    return GetUserObjectInformationW(GetProcessWindowStation(), UOI_FLAGS, &flags, sizeof(flags), nullptr) ==
+               FALSE ||
+           (flags.dwFlags & WSF_VISIBLE) != 0;
 }
 
 /// A file dialog changes the current folder of the process, which is the host's.
@@ -49,9 +59,12 @@ struct ShownMessage {
 thread_local const ShownMessage* shownMessage = nullptr;
 
 void CALLBACK OnMessageHelp(HELPINFO* /*info*/) {
-    if (shownMessage)
-        shownMessage->platform->CallHelp(shownMessage->request->helpFile, helpCommandContext,
-                                         shownMessage->request->helpContext);
+    try {
+        if (shownMessage)
+            shownMessage->platform->CallHelp(shownMessage->request->helpFile, helpCommandContext,
+                                             shownMessage->request->helpContext);
+    } catch (...) { // it must not pass through the code of the system; the message is still shown
+    }
 }
 
 } // namespace
@@ -59,11 +72,15 @@ void CALLBACK OnMessageHelp(HELPINFO* /*info*/) {
 Win32Platform::~Win32Platform() { Win32Platform::SetMousePointer(POINTER_DEFAULT); }
 
 void Win32Platform::RunDialog(Dialog& dialog, DialogInput& input) {
+    if (!HasScreen())
+        return HeadlessPlatform::RunDialog(dialog, input);
     Win32Dialog window(dialog, input, GetActiveWindow());
     window.Run();
 }
 
 void Win32Platform::ShowMessage(const MessageRequest& request) {
+    if (!HasScreen())
+        return HeadlessPlatform::ShowMessage(request);
     std::wstring text = request.text;
     std::replace(text.begin(), text.end(), L'\r', L'\n');
     MSGBOXPARAMSW box{};
@@ -84,6 +101,8 @@ void Win32Platform::ShowMessage(const MessageRequest& request) {
 }
 
 std::optional<std::wstring> Win32Platform::AskForFile(const FileRequest& request) {
+    if (!HasScreen())
+        return HeadlessPlatform::AskForFile(request);
     std::wstring path = request.fileName;
     path.resize(longestPath);
     const std::wstring filter = SystemFilter(request.filter);
@@ -98,20 +117,37 @@ std::optional<std::wstring> Win32Platform::AskForFile(const FileRequest& request
     asked.lpstrDefExt = request.defaultExtension.c_str();
     asked.Flags = request.flags;
     const CurrentFolder folder;
-    const BOOL isChosen =
-        request.kind == FileDialogKind::Open ? GetOpenFileNameW(&asked) : GetSaveFileNameW(&asked);
-    if (!isChosen)
-        return std::nullopt;
-    return std::wstring(path.c_str());
+    const auto ask = [&] {
+        return (request.kind == FileDialogKind::Open ? GetOpenFileNameW(&asked) : GetSaveFileNameW(&asked)) !=
+               FALSE;
+    };
+    bool isChosen = ask();
+    if (!isChosen && CommDlgExtendedError() == FNERR_INVALIDFILENAME) { // the name that it should begin with
+        path.assign(longestPath, L'\0');
+        asked.lpstrFile = path.data();
+        isChosen = ask();
+    }
+    if (isChosen)
+        return std::wstring(path.c_str());
+    const DWORD error = CommDlgExtendedError();
+    if (error == CDERR_DIALOGFAILURE) // no dialog could be shown
+        return HeadlessPlatform::AskForFile(request);
+    if (error != 0)
+        throw QuorIniFile::QuorError(QuorIniFile::ERR_PATH_FILE_ACCESS, L"Win32Toolkit",
+                                     L"The file dialog of Windows has failed with error " +
+                                         std::to_wstring(error));
+    return std::nullopt; // cancelled
 }
 
 std::int32_t Win32Platform::CallHelp(const std::wstring& helpFile, std::uint32_t command, std::int32_t data) {
     if (command != helpCommandContext)
         return 0;
+    if (!HasScreen())
+        return HeadlessPlatform::CallHelp(helpFile, command, data);
     try {
         namespace fs = std::filesystem;
         fs::path folder = helpFile.empty() ? m_helpFolder : helpFile;
-        if (std::error_code none; !fs::is_directory(folder, none))
+        if (std::error_code none; !helpFile.empty() && !fs::is_directory(folder, none))
             folder = folder.parent_path();
         const fs::path page = folder / (std::to_wstring(data) + L".html");
         if (std::error_code none; !fs::exists(page, none))

@@ -2,7 +2,9 @@
 
 #include "QuorConversions/core/modHelp.h"
 #include "QuorConversions/rtd/CQuorPT100.h"
+#include "QuorIniFile/QuorError.h"
 #include "tests/support/TempFolder.h"
+#include "tests/toolkits/SampleDialog.h"
 #include "tests/toolkits/win32/Win32Screen.h"
 
 #include <gtest/gtest.h>
@@ -127,6 +129,63 @@ TEST_F(Win32PlatformTest, SaysThatATopicHasNoPage) {
     EXPECT_EQ(platform.CallHelp(folder.Path().wstring(), helpCommandContext, 10999), 0);
     EXPECT_EQ(platform.CallHelp(folder.Path().wstring(), 2, 10999), 0) << "another command shows nothing";
     EXPECT_EQ(shown, 1);
+    EXPECT_TRUE(platform.pages.empty());
+}
+
+TEST_F(Win32PlatformTest, NamesItsFolderOfHelpWhenThatIsMissing) {
+    RecordingPlatform withoutPages((folder.Path() / "help").wstring());
+    InSystemDialog(VK_RETURN, [](HWND box) {
+        const std::wstring text = TextOf(GetDlgItem(box, 0xFFFF));
+        EXPECT_NE(text.find(L"help\\10100.html"), std::wstring::npos) << testing::PrintToString(text);
+    });
+    EXPECT_EQ(withoutPages.CallHelp(L"", helpCommandContext, 10100), 0);
+    EXPECT_EQ(shown, 1);
+}
+
+TEST_F(Win32PlatformTest, AsksAgainWithoutANameThatCannotBeAFile) {
+    const FileRequest request{FileDialogKind::Save,
+                              L"Save PT100 File As",
+                              L"PT100 Files (*.pt1)|*.pt1",
+                              L"pt1",
+                              L"probe<1>|.pt1",
+                              folder.Path().wstring(),
+                              saveFlags,
+                              0};
+    InSystemDialog(VK_RETURN, [](HWND) {
+        Support::PressKey('A', VK_CONTROL);
+        TypePath(L"probe");
+    });
+    const auto saved = platform.AskForFile(request);
+    ASSERT_TRUE(saved);
+    EXPECT_EQ(std::filesystem::path(*saved).filename(), L"probe.pt1");
+}
+
+TEST_F(Win32PlatformTest, WaitsForNobodyInASessionWithoutAScreen) {
+    folder.Write("10100.html", "<p>Callendar-Van Dusen</p>");
+    const HWINSTA visible = GetProcessWindowStation();
+    const HWINSTA hidden = CreateWindowStationW(L"QuorService", 0, WINSTA_ALL_ACCESS, nullptr);
+    ASSERT_TRUE(hidden);
+    ASSERT_TRUE(SetProcessWindowStation(hidden));
+    testing::internal::CaptureStderr();
+    platform.ShowMessage({L"The probe is missing", L"Quor Scientific", ICON_CRITICAL, L"", 0});
+    const std::string printed = testing::internal::GetCapturedStderr();
+    const FileRequest request{FileDialogKind::Open,
+                              L"Open",
+                              L"PT100 Files|*.pt1",
+                              L"pt1",
+                              L"",
+                              folder.Path().wstring(),
+                              openFlags,
+                              0};
+    const auto chosen = platform.AskForFile(request);
+    const auto help = platform.CallHelp(folder.Path().wstring(), helpCommandContext, 10100);
+    Support::SampleDialog dialog;
+    EXPECT_THROW(dialog.RunOn(platform), QuorIniFile::QuorError);
+    ASSERT_TRUE(SetProcessWindowStation(visible));
+    CloseWindowStation(hidden);
+    EXPECT_EQ(printed, "Quor Scientific: The probe is missing\n");
+    EXPECT_EQ(chosen, std::nullopt);
+    EXPECT_EQ(help, 0);
     EXPECT_TRUE(platform.pages.empty());
 }
 
