@@ -145,6 +145,35 @@ bool TellUnreadable(ProbeFile& file) {
     return false;
 }
 
+Duplicates::Duplicates(ProbeFile& file) : m_path(file.Path()) {
+    if (!file.Exists())
+        return;
+    for (const QuorIniFile::IniWarning& warning : file.DuplicateSections()) {
+        m_warnings[warning.section].push_back(warning);
+        for (const std::wstring_view owner : QuorProbeFile::PossibleOwners(warning.section))
+            m_warnings[std::wstring(owner)].push_back(warning);
+    }
+}
+
+void Duplicates::Tell(const std::wstring& section) const {
+    if (const auto found = m_warnings.find(section); found != m_warnings.end())
+        for (const QuorIniFile::IniWarning& warning : found->second)
+            PrintFailure({m_path + L":" + std::to_wstring(warning.line) + L": [" + warning.section +
+                          L"]: the section occurs twice; the one in line " + std::to_wstring(warning.first) +
+                          L" is read"});
+}
+
+void Duplicates::Require(const std::wstring& section) const {
+    const auto found = m_warnings.find(section);
+    if (found == m_warnings.end())
+        return;
+    std::vector<std::wstring> lines;
+    for (const QuorIniFile::IniWarning& warning : found->second)
+        lines.push_back(L"line " + std::to_wstring(warning.line) + L": [" + warning.section +
+                        L"] occurs twice; the first is in line " + std::to_wstring(warning.first));
+    throw Problem{m_path + L": nothing was written, because the probe occurs twice", std::move(lines)};
+}
+
 PrivateFolder::PrivateFolder() {
     auto path = NewPrivateFolder();
     if (!path)

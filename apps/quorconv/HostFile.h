@@ -1,6 +1,7 @@
 #pragma once
 
 #include "QuorProbeFile/ProbeFile.h"
+#include "QuorProbeFile/ProbeNames.h"
 #include "apps/quorconv/Arguments.h"
 
 #include <filesystem>
@@ -30,6 +31,20 @@ inline constexpr const wchar_t* standardInput = L"-";
 void RequireReadable(QuorProbeFile::ProbeFile& file);
 /// Prints what of the file cannot be read. False when there is something.
 [[nodiscard]] bool TellUnreadable(QuorProbeFile::ProbeFile& file);
+
+/// The probes of a file whose sections occur twice: only the first one of a name is read, and written.
+class Duplicates {
+public:
+    explicit Duplicates(QuorProbeFile::ProbeFile& file);
+    /// Prints it of the probe of a section.
+    void Tell(const std::wstring& section) const;
+    /// Raises Problem for it.
+    void Require(const std::wstring& section) const;
+
+private:
+    std::wstring m_path;
+    QuorProbeFile::NameMap<std::vector<QuorIniFile::IniWarning>> m_warnings; // by the names of probes
+};
 
 /// A folder of its own, for files that a person never sees. It goes with all that is in it.
 class PrivateFolder {

@@ -5,6 +5,7 @@
 #include "QuorIniFile/ValueText.h"
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeTypes.h"
+#include "apps/quorconv/Failure.h"
 #include "apps/quorconv/Nearest.h"
 
 #include <algorithm>
@@ -144,6 +145,9 @@ std::wstring PrefixOf(const std::wstring& path) {
 
 std::string ToJson(const Probe& probe, bool inOneLine, int indent) {
     const EQuorConversionType type = probe.Conversion().ConversionType();
+    if (!QuorProbeFile::FindType(type))
+        throw Problem{L"[" + probe.Section() + L"] ConversionType: " + probe.TypeName() +
+                      L" is the code of no conversion type"};
     Writer writer(inOneLine, indent);
     writer.Open('{');
     writer.Member(L"section", JsonText(probe.Section()));

@@ -206,6 +206,18 @@ public:
                               L": the value is missing, and the probe is a new one"};
     }
 
+    /// Raises Problem for a value that the record has gained and that was not given.
+    void RequireGained() const {
+        for (std::size_t at = 0; at < Result().size(); ++at) {
+            const std::wstring& path = Result()[at].path;
+            const bool wasThere =
+                std::any_of(m_before.begin(), m_before.end(),
+                            [&](const RecordImage::Entry& entry) { return entry.path == path; });
+            if (!m_isAssigned[at] && !wasThere && std::holds_alternative<double>(Result()[at].value))
+                throw Problem{m_place + path + L": the value is missing, and the record has none yet"};
+        }
+    }
+
     /// Raises Problem with the values that the record has lost, or that are others now, or mean something
     /// else, without being given.
     void RequireNothingLost() const {
@@ -341,6 +353,8 @@ std::vector<RecordImage::Entry> Assign(Probe& probe, const std::wstring& file,
         assigning.RequireAll();
     else if (!rules.drops)
         assigning.RequireNothingLost();
+    if (rules.completes)
+        assigning.RequireGained();
     return assigning.Changed();
 }
 

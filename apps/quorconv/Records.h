@@ -28,6 +28,9 @@ struct ValueRules {
     /// Values that are not 0 may be lost to a smaller count or another range, or get another meaning by a
     /// flag, type or scale.
     bool drops = false;
+    /// A value that the record gains, by a greater count or another range, must be given: it would be 0 and
+    /// pass for a value.
+    bool completes = false;
     /// Declares "--allow-nan".
     void Declare(Arguments& arguments);
     /// Declares "--drop".

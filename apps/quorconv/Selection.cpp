@@ -113,7 +113,8 @@ std::vector<std::wstring> Selection::In(ProbeFile& file) const {
     Chosen chosen(patterns, file);
     std::vector<std::wstring> sections;
     for (const ProbeEntry& probe : file.Probes())
-        if ((!code || probe.type == code) && chosen.Means(probe.section))
+        // One whose type cannot be read may be of this type: whoever reads it tells what is wrong.
+        if ((!code || !probe.type || probe.type == code) && chosen.Means(probe.section))
             sections.push_back(probe.section);
     const std::wstring ofType = code ? L" of the type " + *type : L"";
     if (const std::wstring* const unused = chosen.Unused())

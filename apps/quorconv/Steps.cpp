@@ -1,6 +1,8 @@
 #include "apps/quorconv/Steps.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/ValueText.h"
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/SectionPlan.h"
 #include "apps/quorconv/Batch.h"
@@ -99,6 +101,74 @@ void CopyProbe(ProbeFile& from, const std::wstring& section, ProbeFile& to, cons
 
 namespace {
 
+/// Whether a file keeps the settings of a probe in its one section.
+bool IsStandAlone(const ProbeFile& file, const std::wstring& section) {
+    const auto standAlone = StandAloneSection(file.Path());
+    return standAlone && EqualFolded(*standAlone, section);
+}
+
+/// Whether the selected section of a file has a value already, in whatever spelling.
+bool HasValue(QuorIniFile::IniStore& store, const std::wstring& key, const std::wstring& text,
+              const std::optional<bool>& flag) {
+    std::wstring present;
+    bool presentFlag = false;
+    double presentNumber = 0.0;
+    const auto number = QuorIniFile::DoubleOf(text);
+    return (store.ReadString(key, present) && present == text) ||
+           (number && store.ReadDouble(key, presentNumber) && SameValue(presentNumber, *number)) ||
+           (flag && store.ReadBoolean(key, presentFlag) && presentFlag == *flag);
+}
+
+} // namespace
+
+void CopyOtherKeys(ProbeFile& from, const NameMap<std::wstring>& copied, ProbeFile& to) {
+    using QuorIniFile::IniLines;
+    struct Key {
+        std::wstring section;
+        std::wstring name;
+        std::wstring text;
+        std::optional<bool> flag;
+    };
+    std::vector<Key> keys;
+    std::optional<std::wstring> target; // of the section that is walked through
+    for (auto line = from.Store()->Lines(); line.Next();) {
+        const std::wstring name = line.Name();
+        if (line.Is(IniLines::Kind::Header)) {
+            auto owners = PossibleOwners(name);
+            owners.insert(owners.begin(), name);
+            target.reset();
+            for (const std::wstring_view owner : owners) {
+                const auto found = copied.find(std::wstring(owner));
+                if (found == copied.end())
+                    continue;
+                std::wstring rest = name.substr(owner.size()); // " - Settings - Low Range"
+                if (rest.empty() && IsStandAlone(from, name))
+                    rest = settingsMark;
+                if (!rest.empty() && IsStandAlone(to, found->second))
+                    rest.erase(0, settingsMark.size());
+                target = found->second + rest;
+                from.Store()->SetSection(name);
+            }
+        }
+        std::wstring text;
+        if (target && line.Is(IniLines::Kind::Key) && !EqualFolded(name, QuorConversions::versionKey) &&
+            !EqualFolded(name, QuorConversions::conversionTypeKey) && from.Store()->ReadString(name, text)) {
+            if (QuorIniFile::DoubleOf(line.Value()))
+                text = line.Value(); // without the comment behind it
+            bool flag = false;
+            const bool isFlag = from.Store()->ReadBoolean(name, flag);
+            keys.push_back({*target, name, std::move(text), isFlag ? std::optional(flag) : std::nullopt});
+        }
+    }
+    for (const Key& key : keys) {
+        to.Store()->SetSection(key.section);
+        if (!HasValue(*to.Store(), key.name, key.text, key.flag))
+            to.Store()->WriteString(key.name, key.text);
+    }
+}
+
+namespace {
+
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 std::wstring FromLatin1(std::string_view bytes) {
@@ -144,8 +214,10 @@ const std::vector<StepCommand>& StepCommands() {
          [](const Strings& words, const ValueRules& /*rules*/) -> std::function<void(ProbeFile&)> {
              if (words.size() == 3 && words[2] != L"--replace")
                  throw Problem{L"\"--replace\" expected: " + words[2]};
-             return
-                 [words](ProbeFile& file) { CopyProbe(file, words[0], file, words[1], words.size() == 3); };
+             return [words](ProbeFile& file) {
+                 CopyProbe(file, words[0], file, words[1], words.size() == 3);
+                 CopyOtherKeys(file, {{words[0], words[1]}}, file);
+             };
          }},
         {L"rename", L"SECTION NAME", 2, 2,
          [](const Strings& words, const ValueRules& /*rules*/) -> std::function<void(ProbeFile&)> {
@@ -200,9 +272,12 @@ Strings Words(std::wstring_view line) {
             return words;
         std::wstring word;
         bool isQuoted = false;
+        bool wasQuoted = false; // up to the character before
         for (; at < line.size() && (isQuoted || !isBlank()); ++at) {
+            if (std::exchange(wasQuoted, false) && line[at] == L'"')
+                throw Problem{L"a double quote follows a closing one; inside quotes it is written \\\""};
             if (line[at] == L'"')
-                isQuoted = !isQuoted;
+                wasQuoted = !(isQuoted = !isQuoted);
             else if (isQuoted && line[at] == L'\\' && at + 1 < line.size() &&
                      (line[at + 1] == L'"' || line[at + 1] == L'\\'))
                 word += line[++at];
@@ -224,6 +299,7 @@ ExitCode RunSteps(const std::wstring& path, const std::wstring& from, StepLangua
     file.Edit(isDryRun, [&] {
         RequireReadable(*file);
         Batch batch(path, from);
+        const Duplicates duplicates(*file);
         Progress progress(L"steps", static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')));
         count = 0;
         std::string_view rest = text;
@@ -239,6 +315,8 @@ ExitCode RunSteps(const std::wstring& path, const std::wstring& from, StepLangua
                 if (words.empty())
                     return;
                 ++count;
+                for (const std::wstring& word : words)
+                    duplicates.Require(word);
                 MakeStep(std::move(words), language, rules)(*file);
             });
         }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "QuorProbeFile/ProbeFile.h"
+#include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeTypes.h"
 #include "apps/quorconv/Failure.h"
 #include "apps/quorconv/Records.h"
@@ -25,9 +26,14 @@ void RemoveProbes(QuorProbeFile::ProbeFile& file, const std::vector<std::wstring
 void RenameProbe(QuorProbeFile::ProbeFile& file, const std::wstring& section, const std::wstring& name);
 void RetypeProbe(QuorProbeFile::ProbeFile& file, const std::wstring& section, const std::wstring& type,
                  const std::vector<Assignment>& assignments, const ValueRules& rules);
-/// Over a probe that stands there only with `replaces`.
+/// Over a probe that stands there only with `replaces`. The keys that no record has stay behind.
 void CopyProbe(QuorProbeFile::ProbeFile& from, const std::wstring& section, QuorProbeFile::ProbeFile& to,
                const std::wstring& name, bool replaces);
+
+/// Copies what CopyProbe leaves behind: keys of the probe's own, and values beyond a count. By the sections
+/// of the probes, with those that they were copied to.
+void CopyOtherKeys(QuorProbeFile::ProbeFile& from, const QuorProbeFile::NameMap<std::wstring>& copied,
+                   QuorProbeFile::ProbeFile& to);
 
 /// What a line of steps says.
 enum class StepLanguage : std::uint8_t {
@@ -36,7 +42,8 @@ enum class StepLanguage : std::uint8_t {
 };
 
 /// The words of a line: parted by blanks, in double quotes where they have blanks (\" and \\ inside), up to a
-/// "#" that begins a word. Raises Problem for a quote that is not closed.
+/// "#" that begins a word. Raises Problem for a quote that is not closed, and for one that follows a closing
+/// one, which other programs mean as a quote inside.
 [[nodiscard]] std::vector<std::wstring> Words(std::wstring_view line);
 
 /// Does what the lines of `from` say with the file `path`, which is created when it does not exist and a

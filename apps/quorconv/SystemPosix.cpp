@@ -1,6 +1,7 @@
 #include "apps/quorconv/System.h"
 
 #include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <iterator>
 #include <string_view>
@@ -11,7 +12,10 @@
 
 namespace quorconv {
 
-std::vector<std::string> StartProgram(int argc, char** argv) { return {argv, argv + argc}; }
+std::vector<std::string> StartProgram(int argc, char** argv) {
+    std::signal(SIGXFSZ, SIG_IGN); // a file that must not grow is an error of its write, which is told
+    return {argv, argv + argc};
+}
 
 bool IsTerminal(Stream stream) {
     const char* const kind = std::getenv("TERM");

@@ -234,7 +234,9 @@ std::string UnifiedDiff(const std::string& name, std::string_view before, std::s
     const Lines a = SplitLines(before);
     const Lines b = SplitLines(after);
     HunkWriter hunks(a, b);
-    std::string diff = "--- " + (before.empty() ? "/dev/null" : name) + "\n+++ " + name + "\n";
+    // A tab ends a name that has blanks, for programs that apply the diff.
+    const std::string header = name + (name.find(' ') == std::string::npos ? "\n" : "\t\n");
+    std::string diff = "--- " + (before.empty() ? "/dev/null\n" : header) + "+++ " + header;
     for (std::string hunk = hunks.Next(); !hunk.empty(); hunk = hunks.Next())
         diff += hunk;
     return diff;

@@ -38,11 +38,13 @@ const char* const functions = R"shell(
 # A name with blanks is completed in double quotes, whose last one the shell adds.
 _quorconv_names() { # CURRENT NAME...
     local current=${1#[\"\']} name quoted=
+    case ${COMP_WORDS[COMP_CWORD]-} in [\"\']*) ;; *) current=${current//\\/} ;; esac
+    current=${current,,}
     shift
     case ${COMP_WORDS[COMP_CWORD]-} in [\"\']*) quoted=yes ;; esac
     for name; do
         case ${name,,} in
-        "${current,,}"*)
+        "$current"*)
             if [ $quoted ]; then COMPREPLY+=("$name"); else COMPREPLY+=("$(printf %q "$name")"); fi
             ;;
         esac

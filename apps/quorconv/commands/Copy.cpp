@@ -7,7 +7,6 @@
 #include "apps/quorconv/Steps.h"
 
 #include <memory>
-#include <unordered_set>
 
 namespace quorconv {
 
@@ -59,17 +58,23 @@ class Copy final : public Command {
         std::size_t count = 0;
         to.Edit(m_isDryRun, [&] {
             RequireReadable(*to);
-            std::unordered_set<std::wstring> copied;
+            QuorProbeFile::NameSet copied;
             Progress progress(L"probes", 0);
             for (HostFile* const from : sources) {
                 RequireReadable(**from);
+                const Duplicates duplicates(**from);
+                QuorProbeFile::NameMap<std::wstring> names;
                 for (const std::wstring& section : m_selection.In(**from)) {
                     progress.Step();
-                    if (!copied.insert(QuorProbeFile::Folded(section)).second)
+                    if (!copied.insert(section).second)
                         throw Problem{Place((*from)->Path(), section) +
                                       L": a probe of this name stands in several of the files"};
-                    CopyProbe(**from, section, *to, m_name.value_or(section), m_replaces);
+                    duplicates.Require(section);
+                    const std::wstring name = m_name.value_or(section);
+                    CopyProbe(**from, section, *to, name, m_replaces);
+                    names.emplace(section, name);
                 }
+                CopyOtherKeys(**from, names, *to);
             }
             count = copied.size();
         });

@@ -122,9 +122,11 @@ class Diff final : public Command {
 
 } // namespace
 
-const CommandRow diffRow{"diff",
-                         "Compare two files by probes and values; exits with 0 if they are equal, 1 if not",
-                         {"quorconv diff laboratory.ini laboratory-2024.ini"},
-                         Create<Diff>};
+const CommandRow diffRow{
+    "diff",
+    "Compare two files by probes and values, not sections of the instrument; exits with 0 if they are "
+    "equal, 1 if not",
+    {"quorconv diff laboratory.ini laboratory-2024.ini"},
+    Create<Diff>};
 
 } // namespace quorconv

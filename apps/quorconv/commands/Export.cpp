@@ -42,8 +42,10 @@ class Export final : public Command {
             table.emplace(RequireType(*m_selection.type).code, m_style);
         bool isFine = TellUnreadable(*file);
         std::size_t count = 0;
+        const Duplicates duplicates(*file);
         for (const std::wstring& section : sections) {
             progress.Step();
+            duplicates.Tell(section);
             try {
                 const Probe probe = ReadProbe(*file, section);
                 if (table)

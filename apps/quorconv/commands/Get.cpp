@@ -27,6 +27,7 @@ class Get final : public Command {
     ExitCode Run() override {
         HostFile file(m_path);
         const Probe probe = ReadProbe(*file, m_section);
+        Duplicates(*file).Tell(m_section);
         std::cout << QuorIniFile::ToPrintable(ValueOf(probe)) << '\n';
         return fine;
     }

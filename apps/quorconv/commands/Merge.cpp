@@ -401,7 +401,7 @@ class Merge final : public Command {
             return;
         }
         Probe probe = ReadProbe(file, change.section, change.values);
-        Assign(probe, file.Path(), change.values, ValueRules{true, true});
+        Assign(probe, file.Path(), change.values, ValueRules{true, true, false});
         file.Write(change.section, probe.Conversion());
     }
 };

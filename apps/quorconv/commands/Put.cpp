@@ -93,6 +93,7 @@ class Put final : public Command {
         const std::wstring from = m_from.value_or(standardInput);
         const std::string text = ReadAll(from);
         std::size_t count = 0;
+        m_rules.completes = true;
         HostFile file(m_path, ProbeFile::Opening::OrNew);
         file.Edit(m_isDryRun, [&] {
             RequireReadable(*file);

@@ -1,8 +1,11 @@
 #include "apps/quorconv/commands/Rows.h"
 
 #include "apps/quorconv/HostFile.h"
+#include "apps/quorconv/Records.h"
 #include "apps/quorconv/Selection.h"
 #include "apps/quorconv/Steps.h"
+
+#include <algorithm>
 
 namespace quorconv {
 namespace {
@@ -29,12 +32,21 @@ class Remove final : public Command {
             if (m_selection.IsMany())
                 RequireReadable(file);
             const auto sections = m_selection.In(file);
+            if (m_selection.type)
+                RequireTypes(file, sections);
             RemoveProbes(file, sections);
             return sections.size();
         });
         if (m_selection.IsMany() || paths.size() > 1)
             TellCount(count, L"probe", m_isDryRun ? "would be removed" : "removed");
         return fine;
+    }
+
+    /// Raises Problem for a probe whose type cannot be read: nobody knows whether it is meant by a type.
+    static void RequireTypes(QuorProbeFile::ProbeFile& file, const std::vector<std::wstring>& sections) {
+        for (const QuorProbeFile::ProbeEntry& probe : file.Probes())
+            if (!probe.type && std::find(sections.begin(), sections.end(), probe.section) != sections.end())
+                static_cast<void>(ReadProbe(file, probe.section)); // which tells what is wrong with it
     }
 };
 

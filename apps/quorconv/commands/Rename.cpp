@@ -23,6 +23,7 @@ class Rename final : public Command {
         HostFile file(m_path);
         file.Edit(m_isDryRun, [&] {
             RequireReadable(*file);
+            Duplicates(*file).Require(m_section);
             RenameProbe(*file, m_section, m_name);
         });
         return fine;

@@ -31,6 +31,7 @@ class Retype final : public Command {
         HostFile file(m_path);
         file.Edit(m_isDryRun, [&] {
             RequireReadable(*file);
+            Duplicates(*file).Require(m_section);
             RetypeProbe(*file, m_section, m_type, assignments, m_rules);
         });
         return fine;

@@ -51,9 +51,11 @@ class Set final : public Command {
             if (m_selection.IsMany())
                 RequireReadable(file);
             const auto sections = m_selection.In(file);
+            const Duplicates duplicates(file);
             Progress progress(L"probes of " + file.Path(), sections.size());
             for (const std::wstring& section : sections) {
                 progress.Step();
+                duplicates.Require(section);
                 SetValues(file, section, assignments, m_rules);
             }
             return sections.size();

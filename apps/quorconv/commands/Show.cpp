@@ -69,7 +69,9 @@ class Show final : public Command {
         const auto sections = m_selection.In(*file);
         Progress progress(L"probes", sections.size(), Progress::Results::InBetween);
         bool isFine = !m_selection.IsMany() || TellUnreadable(*file);
+        const Duplicates duplicates(*file);
         for (const std::wstring& section : sections) {
+            duplicates.Tell(section);
             progress.Step();
             const bool isShown = ShowProbe(*file, section, isInArray);
             count += isShown ? 1U : 0U;

@@ -216,3 +216,23 @@ TEST_F(QuorconvEditTest, TellsThatNobodyCanClickHere) {
     EXPECT_EQ(Quorconv({"edit", "host.ini"}).code, 2);
     EXPECT_EQ(folder.Read("host.ini"), before);
 }
+
+TEST_F(QuorconvEditTest, ATabEndsANameWithBlanksInADiff) {
+    const std::string file = "[P]\nConversionType=14\n[P - Settings]\nRTPW=25.5\n";
+    folder.Write("my lab.ini", file);
+    ExpectFine({"set", "my lab.ini", "P", "RTPW=1", "--dry-run"},
+               "--- my lab.ini\t\n+++ my lab.ini\t\n@@ -1,4 +1,4 @@\n [P]\n ConversionType=14\n"
+               " [P - Settings]\n-RTPW=25.5\n+RTPW=1\n");
+    ExpectShell("quorconv set 'my lab.ini' P RTPW=1 --dry-run | patch -s -p0 && cat 'my lab.ini'",
+                Replaced(file, "25.5", "1"));
+}
+
+TEST_F(QuorconvEditTest, AFileThatMustNotGrowIsAFailureThatIsTold) {
+    ExpectFine({"new", "a.ini", "P", "w90", "RTPW=1"});
+    const std::string written = "; " + std::string(2000, 'x') + "\n" + folder.Read("a.ini");
+    folder.Write("a.ini", written);
+    const Outcome run = Shell("ulimit -f 1; quorconv set a.ini P RTPW=2 2>&1 | cat; exit ${PIPESTATUS[0]}");
+    EXPECT_EQ(run.code, 1);
+    EXPECT_EQ(run.out, "quorconv: Disk full: a.ini: File too large\n");
+    EXPECT_EQ(folder.Read("a.ini"), written);
+}

@@ -295,3 +295,32 @@ TEST_F(QuorconvExchangeTest, DescribesItsJsonByASchemaThatTakesWhatItShowsAndNot
                               "/usr/bin/python3 '" QUOR_SCHEMA_CHECK "' '" QUOR_SCHEMA "' quorconv *.json");
     EXPECT_EQ(run.code, 0) << run.err << run.out;
 }
+
+TEST_F(QuorconvExchangeTest, AProbeOfAnUnknownTypeIsNoJsonForOtherPrograms) {
+    folder.Write("a.ini", "[A]\nConversionType=99\n[B]\nConversionType=10\n");
+    const std::string what = "quorconv: [A] ConversionType: 99 is the code of no conversion type\n";
+    const std::string json =
+        "{\"section\": \"B\", \"code\": 10, \"type\": \"CONV_OHMS\", \"name\": \"Ohms\", \"settings\": {}}\n";
+    ExpectShell("quorconv show a.ini --jsonl", json, what, 1);
+    ExpectShell("quorconv export a.ini --jsonl", json, what + "quorconv: 1 probe exported\n", 1);
+    ExpectShell("quorconv show a.ini A --json", "", what, 1);
+}
+
+TEST_F(QuorconvExchangeTest, AGreaterCountThatIsPutNeedsItsValues) {
+    ExpectFine({"new", "a.ini", "C", "cvd", "NumCoefficients=1", "Coefficients0=100"});
+    const std::string written = folder.Read("a.ini");
+    const std::string missing =
+        " a.ini: [C] Coefficients1: the value is missing, and the record has none yet\n";
+    folder.Write("in.csv", "section,type,NumCoefficients,Coefficients0,Coefficients1\nC,cvd,2,100.1,\n");
+    ExpectRefused({"put", "a.ini", "in.csv", "--csv"},
+                  "quorconv: a.ini: nothing was written, because a line of in.csv is wrong\n  in.csv:2:" +
+                      missing);
+    folder.Write("in.json", "{\"section\": \"C\", \"type\": \"CONV_CVD\", \"settings\": "
+                            "{\"NumCoefficients\": 2, \"Coefficients\": [100.1]}}");
+    const Outcome json = Quorconv({"put", "a.ini", "in.json", "--json"});
+    EXPECT_EQ(json.code, 1);
+    EXPECT_EQ(folder.Read("a.ini"), written);
+    folder.Write("in.csv",
+                 "section,type,NumCoefficients,Coefficients0,Coefficients1\nC,cvd,2,100.1,0.0039\n");
+    ExpectShell("quorconv put a.ini in.csv --csv", "", "quorconv: 1 probe put\n");
+}

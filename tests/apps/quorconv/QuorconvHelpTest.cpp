@@ -85,3 +85,17 @@ TEST_F(QuorconvHelpTest, CompletesTheSectionsAndKeysOfTheFileThatIsNamed) {
     EXPECT_EQ(Completed("quorconv explain hpt Num"), "NumCoefficients\n");
     EXPECT_EQ(Completed("quorconv get none.ini ''"), "\n");
 }
+
+TEST_F(QuorconvHelpTest, CompletesWhereNothingIsTypedYetAndWordsWithEscapedBlanks) {
+    folder.Write("a.ini", "[abc]\nConversionType=14\n[abc - Settings]\nRTPW=1\n"
+                          "[Bath 3]\nConversionType=14\n[Bath 3 - Settings]\nRTPW=1\n");
+    EXPECT_EQ(Completed("quorconv get a.ini ''"), "abc\nBath\\ 3\n");
+    EXPECT_EQ(Completed("quorconv get a.ini abc ''"), "RTPW\n");
+    EXPECT_EQ(Completed("quorconv get a.ini 'Bath\\ '"), "Bath\\ 3\n");
+}
+
+TEST_F(QuorconvHelpTest, ComparisonsSayThatTheyLeaveOutSectionsOfTheInstrument) {
+    EXPECT_NE(Quorconv({"diff", "--help"}).out.find("not sections of the instrument"), std::string::npos);
+    EXPECT_NE(Quorconv({"merge", "--help"}).out.find("sections of the instrument stay as they are"),
+              std::string::npos);
+}

@@ -321,3 +321,51 @@ TEST_F(QuorconvLossTest, OfAKeyThatIsGivenTwiceNeitherValueIsTaken) {
                 1);
     EXPECT_EQ(folder.Read("a.ini"), before);
 }
+
+TEST_F(QuorconvLossTest, ACopyHasTheKeysThatNoRecordHasAndTheValuesBeyondTheCount) {
+    folder.Write("a.ini", "[P]\nConversionType=2\nDue=2026-05\n\n"
+                          "[P - Settings]\nNumCoefficients=2\nUsePolynomial=0\nCoefficients0=100\n"
+                          "Coefficients1=0.0039\nCoefficients2=1.50\nCertificate=K17\n");
+    const std::string copy = "Version=1.0\nConversionType=2\nDue=2026-05\n\n"
+                             "[Q - Settings]\nVersion=1.0\nNumCoefficients=2\nUsePolynomial=False\n"
+                             "Coefficients0=100\nCoefficients1=0.0039\nCoefficients2=1.50\n"
+                             "Certificate=K17\n";
+    ExpectFine({"copy", "a.ini", "P", "b.ini", "Q"});
+    EXPECT_EQ(folder.Read("b.ini"), "[Q]\n" + copy);
+    ExpectShell("echo 'copy P Q' | quorconv apply a.ini --dry-run | grep '^+[^+]' | cut -c 2-",
+                Replaced("[Q]\n" + copy, "\n\n", "\n"), "quorconv: 1 step would be done\n");
+    ExpectFine({"copy", "a.ini", "P", "c.cvd", "Callendar-Van Dusen"});
+    EXPECT_NE(folder.Read("c.cvd").find("Coefficients2=1.50\nCertificate=K17\n"), std::string::npos)
+        << folder.Read("c.cvd");
+    ExpectFine({"copy", "c.cvd", "Callendar-Van Dusen", "d.ini", "Q"});
+    EXPECT_NE(folder.Read("d.ini").find("Coefficients2=1.50\n"), std::string::npos) << folder.Read("d.ini");
+    folder.Write("e.ini", Replaced("[P]\n" + Replaced(copy, "[Q", "[P"), "1.50", "1.6"));
+    ExpectFine({"copy", "a.ini", "P", "e.ini", "--replace"});
+    EXPECT_EQ(folder.Read("e.ini"), "[P]\n" + Replaced(copy, "[Q", "[P"));
+}
+
+TEST_F(QuorconvLossTest, AProbeThatOccursTwiceIsToldWhereItIsReadAndRefusedWhereItIsWritten) {
+    const std::string file = "[P]\nConversionType=14\n[P - Settings]\nRTPW=25.5\n"
+                             "[Q]\nConversionType=14\n[Q - Settings]\nRTPW=7\n[P - Settings]\nRTPW=25.6\n";
+    folder.Write("a.ini", file);
+    const std::string told =
+        "quorconv: a.ini:9: [P - Settings]: the section occurs twice; the one in line 3 is read\n";
+    ExpectShell("quorconv get a.ini P RTPW", "25.5\n", told);
+    ExpectShell("quorconv show a.ini P", "[P] CONV_WT90 W(T90)\nRTPW=25.5\n", told);
+    ExpectShell("quorconv export a.ini --csv --type w90",
+                "section,type,RTPW [ohm]\r\nP,CONV_WT90,25.5\r\nQ,CONV_WT90,7\r\n",
+                told + "quorconv: 2 probes exported\n");
+    const std::string what = "a.ini: nothing was written, because the probe occurs twice";
+    const std::string line = "line 9: [P - Settings] occurs twice; the first is in line 3\n";
+    const std::string refused = "quorconv: " + what + "\n  " + line;
+    ExpectRefused({"set", "a.ini", "P", "RTPW=1"}, refused);
+    ExpectRefused({"copy", "a.ini", "P", "b.ini"}, refused);
+    ExpectRefused({"rename", "a.ini", "P", "R"}, refused);
+    ExpectRefused({"retype", "a.ini", "P", "pt1"}, refused);
+    ExpectShell("echo 'set P RTPW=1' | quorconv apply a.ini", "",
+                "quorconv: a.ini: nothing was written, because a line of - is wrong\n  -:1: " + what +
+                    "\n    " + line,
+                1);
+    EXPECT_EQ(folder.Read("a.ini"), file);
+    ExpectFine({"set", "a.ini", "Q", "RTPW=8"});
+}

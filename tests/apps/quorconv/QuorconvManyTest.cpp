@@ -445,3 +445,32 @@ TEST_F(QuorconvManyTest, ExplainsWhatARecordHoldsAndEachKey) {
     ExpectRefused({"explain", ""},
                   "quorconv: \"\" is no conversion type; the command \"types\" lists them\n");
 }
+
+TEST_F(QuorconvManyTest, AProbeWhoseTypeCannotBeReadIsNotPassedOverByAType) {
+    const std::string file = "[A]\nConversionType=14\n[A - Settings]\nRTPW=25.5\n"
+                             "[B]\nConversionType=14x\n[B - Settings]\nRTPW=25.6\n";
+    folder.Write("a.ini", file);
+    const std::string what = "quorconv: a.ini: [B]: the conversion type cannot be read: \"14x\"\n";
+    ExpectShell("quorconv show a.ini --type w90", "[A] CONV_WT90 W(T90)\nRTPW=25.5\n",
+                what + "quorconv: 1 probe shown\n", 1);
+    ExpectShell("quorconv export a.ini --csv --type w90", "section,type,RTPW [ohm]\r\nA,CONV_WT90,25.5\r\n",
+                what + "quorconv: 1 probe exported\n", 1);
+    ExpectRefused({"set", "a.ini", "*", "--type", "w90", "RTPW=1"}, what);
+    ExpectRefused({"remove", "a.ini", "*", "--type", "w90"}, what);
+    ExpectRefused({"copy", "a.ini", "*", "--type", "w90", "b.ini"}, what);
+    EXPECT_EQ(folder.Read("a.ini"), file);
+}
+
+TEST_F(QuorconvManyTest, AQuoteBehindAClosingOneIsNoQuoteInside) {
+    folder.Write("a.ini", "[ab]\nConversionType=14\n[ab - Settings]\nRTPW=25.5\n"
+                          "[a\"b\\]\nConversionType=14\n[a\"b\\ - Settings]\nRTPW=25.5\n");
+    const std::string written = folder.Read("a.ini");
+    folder.Write("steps.txt", "set \"a\"\"b\" RTPW=1\n");
+    ExpectRefused({"apply", "a.ini", "steps.txt"},
+                  "quorconv: a.ini: nothing was written, because a line of steps.txt is wrong\n"
+                  "  steps.txt:1: a double quote follows a closing one; inside quotes it is written \\\"\n");
+    EXPECT_EQ(folder.Read("a.ini"), written);
+    folder.Write("steps.txt", "set \"a\\\"b\\\\\" RTPW=1\n");
+    ExpectShell("quorconv apply a.ini steps.txt", "", "quorconv: 1 step done\n");
+    EXPECT_EQ(folder.Read("a.ini"), written.substr(0, written.size() - 5) + "1\n");
+}
