@@ -234,6 +234,14 @@ wchar_t LastSign(Text text) {
     return at == Text::npos ? L'\0' : text[at];
 }
 
+/// Whether a number may be several: "100 200", "100,200,300", or the number of a row and a value,
+/// "1,100.012".
+bool MayBeSeveral(Text text, Text before, bool hasDecimal) {
+    const bool hasSigns = text.find_first_of(L".,") != Text::npos;
+    const bool mayBeRow = hasDecimal && before.find_first_of(L".,") == 1;
+    return (hasSigns && !hasDecimal) || mayBeRow || text.find(blank) != Text::npos;
+}
+
 /// The digits of a number and what divides them, without sign and exponent. Points or commas that do not
 /// stand for the decimal separator group.
 PastedNumber ReadMantissa(Text text, wchar_t separator, bool hasExponent) {
@@ -265,10 +273,7 @@ PastedNumber ReadMantissa(Text text, wchar_t separator, bool hasExponent) {
         return Refused(PasteRefusal::NoNumber);
     PastedNumber result;
     result.number = hasDecimal ? *whole + separator + *fraction : *whole;
-    // "100 200" and "100,200,300" may be several numbers, "1,100.012" the number of a row and a value.
-    const bool groupsSeveral = !hasDecimal && points + commas > 0;
-    const bool mayBeRow = both && before.find_first_of(L".,") == 1;
-    result.isToBeTold = couldGroup || groupsSeveral || mayBeRow || text.find(blank) != Text::npos;
+    result.isToBeTold = couldGroup || MayBeSeveral(text, before, hasDecimal);
     return result;
 }
 

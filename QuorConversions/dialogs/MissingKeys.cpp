@@ -10,7 +10,6 @@
 namespace QuorConversions {
 namespace {
 
-bool IsDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
 /// What groups the digits of a number and can be left out.
 bool Groups(wchar_t c) {
     return std::wstring_view(L" '\u00A0\u2009\u202F\u2019").find(c) != std::wstring_view::npos;
@@ -21,7 +20,7 @@ bool Groups(wchar_t c) {
 void MissingKeys::OnKey(const TextBox& box, wchar_t pressed, wchar_t taken,
                         const NumberSeparators& separators) {
     const std::wstring before = box.Text().substr(0, box.SelStart());
-    if (taken == 0 && Groups(pressed) && !before.empty() && IsDigit(before.back()))
+    if (taken == 0 && Groups(pressed) && !before.empty() && IsAsciiDigit(before.back()))
         return;
     const bool replacesText = box.SelLength() == box.Text().size();
     if (replacesText && !m_isAheadOfText)

@@ -8,6 +8,8 @@
 
 namespace QuorConversions {
 
+[[nodiscard]] inline bool IsAsciiDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
+
 /// The keys that were pressed in a text box and are missing in its text, or stand there as another character:
 /// the number that is left may not be the one that was meant. They are remembered until the text is replaced
 /// or cleared.

@@ -46,8 +46,6 @@ bool IsPrintable(std::int16_t keyAscii) {
     return CharacterOf(keyAscii) >= L' ' && CharacterOf(keyAscii) != deleteKey;
 }
 
-bool IsDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
-
 /// Whether a decimal separator and more digits could follow.
 bool IsWithoutFraction(const std::wstring& number, const std::wstring& separator) {
     return number.find(separator) == std::wstring::npos && number.find(L'E') == std::wstring::npos;
@@ -64,11 +62,11 @@ bool MayBeBroken(const PastedNumber& before, const PastedNumber& cell, bool isWh
     const bool isWhole = IsWithoutFraction(*before.number, separator);
     if (number.starts_with(separator))
         return isWhole;
-    if (number.size() > 1 && number[0] == L'0' && IsDigit(number[1]))
+    if (number.size() > 1 && number[0] == L'0' && IsAsciiDigit(number[1]))
         return true;
     const bool hasFraction = !isWhole && before.number->find(L'E') == std::wstring::npos;
     return isWholeLine && hasFraction && IsBare(before) && IsBare(cell) && number.size() <= fewDigits &&
-           std::all_of(number.begin(), number.end(), IsDigit) && number != L"0";
+           std::all_of(number.begin(), number.end(), IsAsciiDigit) && number != L"0";
 }
 
 /// Whether a box is one of a list, not of a grid.

@@ -98,8 +98,10 @@ OtherLines::OtherLines(const ProbeTable& table, const NameSet& sections) {
             const std::wstring key = Folded(line.Name());
             const bool isOfRecord = section.empty() && EqualFolded(key, QuorConversions::conversionTypeKey);
             if (!isOfRecord && !EqualFolded(key, QuorConversions::versionKey))
-                lines->push_back({Folded(PathOf(Folded(std::wstring(settingsMark)), section, key)),
-                                  section + L"/" + key + L"=" + line.Value(), !section.empty()});
+                lines->push_back(
+                    {Folded(PathOf(Folded(std::wstring(settingsMark)), section, key)),
+                     std::wstring(section).append(L"/").append(key).append(L"=").append(line.Value()),
+                     !section.empty()});
         } else if (lines) {
             lines->push_back(
                 {L"", section + L"/" + QuorIniFile::DecodeBytes(line.Bytes()), !section.empty()});

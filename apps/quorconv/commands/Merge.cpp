@@ -129,14 +129,14 @@ class Merge final : public Command {
             Progress progress(L"probes", 0);
             theirs.ForEach([&](const std::wstring& section) {
                 progress.Step();
-                MergeProbe({base, ours, theirs}, section, plan);
+                MergeProbe({{base, ours}, theirs}, section, plan);
             });
             base.ForEach([&](const std::wstring& section) {
                 progress.Step();
                 if (!theirs.Has(section))
-                    MergeRemoved({base, ours, theirs}, section, plan);
+                    MergeRemoved({{base, ours}, theirs}, section, plan);
             });
-            FindRenamed({base, ours, theirs}, plan);
+            FindRenamed({{base, ours}, theirs}, plan);
             RequireNothingElseLost({base, ours}, plan);
             FindTwoNames(base, ours, theirs, plan.conflicts);
             if (!plan.conflicts.empty())
@@ -169,8 +169,9 @@ class Merge final : public Command {
         for (const std::wstring& rest : {section, SettingsSection(section)}) {
             const bool isHosts = rest != section && !hasSettings;
             if (!isHosts && tables.theirs.HasSection(rest)) {
-                plan.conflicts.push_back(L"[" + section + L"]: is no probe any more in " + m_theirs +
-                                         L", but [" + rest + L"] is still there");
+                std::wstring conflict = L"[" + section + L"]: is no probe any more in " + m_theirs;
+                conflict.append(L", but [").append(rest).append(L"] is still there");
+                plan.conflicts.push_back(std::move(conflict));
                 return;
             }
         }
