@@ -119,48 +119,63 @@ bool HasValue(QuorIniFile::IniStore& store, const std::wstring& key, const std::
            (flag && store.ReadBoolean(key, presentFlag) && presentFlag == *flag);
 }
 
+/// The section of `to` for a section of `from`, if it is one of a probe that was copied.
+std::optional<std::wstring> TargetOf(const std::wstring& name, const ProbeFile& from,
+                                     const NameMap<std::wstring>& copied, const ProbeFile& to) {
+    auto owners = PossibleOwners(name);
+    owners.insert(owners.begin(), name);
+    for (const std::wstring_view owner : owners) {
+        const auto found = copied.find(std::wstring(owner));
+        if (found == copied.end())
+            continue;
+        std::wstring rest = name.substr(owner.size()); // " - Settings - Low Range"
+        if (rest.empty() && IsStandAlone(from, name))
+            rest = settingsMark;
+        if (!rest.empty() && IsStandAlone(to, found->second))
+            rest.erase(0, settingsMark.size());
+        return found->second + rest;
+    }
+    return std::nullopt;
+}
+
+/// A key of a section with its value.
+struct CopiedKey {
+    std::wstring section;
+    std::wstring name;
+    std::wstring text;
+    std::optional<bool> flag; ///< the value, if it is one
+};
+
+/// The key in a line of the selected section; nothing for a line that has none, or one of the record itself.
+std::optional<CopiedKey> KeyIn(const QuorIniFile::IniLines& line, QuorIniFile::IniStore& store,
+                               const std::wstring& target) {
+    if (!line.Is(QuorIniFile::IniLines::Kind::Key))
+        return std::nullopt;
+    CopiedKey key{target, line.Name(), {}, {}};
+    if (EqualFolded(key.name, QuorConversions::versionKey) ||
+        EqualFolded(key.name, QuorConversions::conversionTypeKey) || !store.ReadString(key.name, key.text))
+        return std::nullopt;
+    if (QuorIniFile::DoubleOf(line.Value()))
+        key.text = line.Value(); // without the comment behind it
+    if (bool flag = false; store.ReadBoolean(key.name, flag))
+        key.flag = flag;
+    return key;
+}
+
 } // namespace
 
 void CopyOtherKeys(ProbeFile& from, const NameMap<std::wstring>& copied, ProbeFile& to) {
-    using QuorIniFile::IniLines;
-    struct Key {
-        std::wstring section;
-        std::wstring name;
-        std::wstring text;
-        std::optional<bool> flag;
-    };
-    std::vector<Key> keys;
+    std::vector<CopiedKey> keys;
     std::optional<std::wstring> target; // of the section that is walked through
     for (auto line = from.Store()->Lines(); line.Next();) {
-        const std::wstring name = line.Name();
-        if (line.Is(IniLines::Kind::Header)) {
-            auto owners = PossibleOwners(name);
-            owners.insert(owners.begin(), name);
-            target.reset();
-            for (const std::wstring_view owner : owners) {
-                const auto found = copied.find(std::wstring(owner));
-                if (found == copied.end())
-                    continue;
-                std::wstring rest = name.substr(owner.size()); // " - Settings - Low Range"
-                if (rest.empty() && IsStandAlone(from, name))
-                    rest = settingsMark;
-                if (!rest.empty() && IsStandAlone(to, found->second))
-                    rest.erase(0, settingsMark.size());
-                target = found->second + rest;
-                from.Store()->SetSection(name);
-            }
+        if (line.Is(QuorIniFile::IniLines::Kind::Header)) {
+            target = TargetOf(line.Name(), from, copied, to);
+            from.Store()->SetSection(line.Name());
         }
-        std::wstring text;
-        if (target && line.Is(IniLines::Kind::Key) && !EqualFolded(name, QuorConversions::versionKey) &&
-            !EqualFolded(name, QuorConversions::conversionTypeKey) && from.Store()->ReadString(name, text)) {
-            if (QuorIniFile::DoubleOf(line.Value()))
-                text = line.Value(); // without the comment behind it
-            bool flag = false;
-            const bool isFlag = from.Store()->ReadBoolean(name, flag);
-            keys.push_back({*target, name, std::move(text), isFlag ? std::optional(flag) : std::nullopt});
-        }
+        if (const auto key = target ? KeyIn(line, *from.Store(), *target) : std::nullopt)
+            keys.push_back(*key);
     }
-    for (const Key& key : keys) {
+    for (const CopiedKey& key : keys) {
         to.Store()->SetSection(key.section);
         if (!HasValue(*to.Store(), key.name, key.text, key.flag))
             to.Store()->WriteString(key.name, key.text);

@@ -13,7 +13,8 @@
 namespace quorconv {
 
 std::vector<std::string> StartProgram(int argc, char** argv) {
-    std::signal(SIGXFSZ, SIG_IGN); // a file that must not grow is an error of its write, which is told
+    static_cast<void>(
+        std::signal(SIGXFSZ, SIG_IGN)); // a file that must not grow is an error of its write, which is told
     return {argv, argv + argc};
 }
 
