@@ -328,7 +328,8 @@ RecordAsRead ProbeFile::RecordOf(const RecordReading& reading, const ProbeEntry&
         IniLines lines = m_store->Lines(place->header);
         static_cast<void>(lines.Next());
         const std::size_t end = lines.NextHeader() ? lines.Here().offset : text.size();
-        state->text.append(text.substr(place->header.offset, end - place->header.offset)).append("\n");
+        const std::string_view piece = text.substr(place->header.offset, end - place->header.offset);
+        state->text.append(piece).append(piece.ends_with('\r') ? "\r\n" : "\n"); // a last CR is its value's
     }
     return RecordAsRead(std::move(state));
 }

@@ -125,7 +125,7 @@ public:
     /// listed once.
     [[nodiscard]] std::vector<ProbeProblem> Check();
     /// The same for hosts that show how far it is: calls `afterEach` after each probe, in the order of
-    /// Probes().
+    /// Probes(). It must not use this object.
     [[nodiscard]] std::vector<ProbeProblem> Check(const std::function<void()>& afterEach);
 
     /// Whether a file gives back what the conversion holds. It does not for a count below zero, for settings

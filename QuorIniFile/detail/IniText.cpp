@@ -941,14 +941,19 @@ std::optional<std::string> IniText::ComposedText() const {
         text.append(m_text, from, to - from);
     };
     copy(0, m_base);
-    // A text whose last line has no end stays one, also when that line was removed.
-    if (!m_edits.empty() && m_base > mark && m_text[m_base - 1] != '\n' && text.ends_with('\n'))
-        text.erase(text.size() - LineEndOf(text).size());
-    if (m_starts.empty())
+    // The last line had no end and was removed, and now another one is the last.
+    const bool hasNewLast =
+        !m_edits.empty() && m_base > mark && m_text[m_base - 1] != '\n' && text.ends_with('\n');
+    if (m_starts.empty()) {
+        if (hasNewLast) // a text whose last line has no end stays one
+            text.erase(text.size() - LineEndOf(text).size());
         return text;
-    // The first section of a text has no blank line above.
+    }
+    // The first section of a text has no blank line above. Nor does a line need the end that the removed one
+    // got when the section was added.
     const bool isFirst = text.size() <= mark;
-    copy(isFirst ? m_headers[m_firstAdded].name - 1U : m_base, m_text.size());
+    const std::size_t added = hasNewLast ? m_text.find('\n', m_base) + 1 : m_base;
+    copy(isFirst ? m_headers[m_firstAdded].name - 1U : added, m_text.size());
     return text;
 }
 

@@ -94,6 +94,15 @@ ProbeProblem ProblemOf(const ReadLog::Read& read, const ProbeEntry& entry, LineP
                      PhrasesOfWrong(read.value, key->value));
 }
 
+/// Whether a read has found a count below zero. A settings object may take it and only then give up, with a
+/// message that is that of a missing key, too.
+[[nodiscard]] static bool IsCountBelowZero(const ReadLog::Read& read) {
+    const auto* const count = std::get_if<std::int16_t>(&read.value);
+    return read.found && count && *count < 0 &&
+           (read.key == QuorConversions::numCoefficientsKey || read.key == QuorConversions::numPointsKey ||
+            read.key == QuorConversions::orderKey);
+}
+
 std::vector<ProbeProblem> ProblemsOf(const RecordReading& reading, const ProbeEntry& entry,
                                      LinePlaces& places) {
     const std::vector<ReadLog::Read>& reads = reading.Reads();
@@ -129,6 +138,11 @@ std::vector<ProbeProblem> ProblemsOf(const RecordReading& reading, const ProbeEn
                                                {{PROBE_TEXT_RECORD_REFUSED, {message.text}}}));
     }
 
+    for (const ReadLog::Read& read : reads)
+        if (IsCountBelowZero(read) && blamed.emplace(read.section, read.key).second)
+            problems.push_back(ProblemAt(read, entry, places, PROBLEM_VALUE_REFUSED,
+                                         {{PROBE_TEXT_VALUE_NOT_ACCEPTED, {ToText(read.value)}}}));
+
     // Keys that are missing, cannot be read, or hold what the object does not accept.
     const auto settings = reading.Settings();
     const auto image = settings ? RecordImage::Of(*settings) : nullptr;
@@ -139,7 +153,7 @@ std::vector<ProbeProblem> ProblemsOf(const RecordReading& reading, const ProbeEn
             continue;
         }
         const auto* const stored = image ? image->Find(PathOf(root, read.section, read.key)) : nullptr;
-        if (stored && !SameValue(stored->value, read.value) && !blamed.contains({read.section, read.key}))
+        if (stored && !IsTaken(read.value, stored->value) && !blamed.contains({read.section, read.key}))
             problems.push_back(
                 ProblemAt(read, entry, places, PROBLEM_VALUE_REPLACED,
                           {{PROBE_TEXT_VALUE_REPLACED, {ToText(read.value), ToText(stored->value)}}}));

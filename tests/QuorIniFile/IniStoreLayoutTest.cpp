@@ -170,6 +170,19 @@ TEST(IniStoreLayout, ALastLineWithoutAnEndStaysOne) {
               "[A]\r\nx=1\r\ny=2");
 }
 
+TEST(IniStoreLayout, ALineKeepsItsEndWhenTheLastSectionGoesAndAnotherComes) {
+    EXPECT_EQ(After("[A]\r\nx=1\r\n[B]\ny=2\nz=3",
+                    [](IniStore& store) {
+                        store.Hold();
+                        store.WriteInteger(L"x", 5, L"");
+                        store.RemoveSection(L"B");
+                        store.SetSection(L"C");
+                        store.WriteInteger(L"k", 7, L"");
+                        store.Release();
+                    }),
+              "[A]\r\nx=5\r\n\n[C]\nk=7");
+}
+
 TEST(IniStoreLayout, ACarriageReturnAtTheEndOfTheFileStaysWithItsValue) {
     EXPECT_EQ(After("[A]\nx=1\r",
                     [](IniStore& store) {

@@ -293,6 +293,53 @@ TEST_F(ProbeFileTest, OfARefusedRecordTheConversionHasTheTypeAlone) {
     EXPECT_TRUE(platform->Messages().empty());
 }
 
+TEST_F(ProbeFileTest, ACountBelowZeroIsRefusedToWhereAnotherKeyIsMissingAndGivesNothingOfTheProbeBefore) {
+    const std::string text = Replaced(Replaced(hostFile, "NumCoefficients=4", "NumCoefficients=-4"),
+                                      "UsePolynomial=", "UsedPolynomial=");
+    Host(text);
+    ProbeFile file(Path());
+    const auto platform = std::make_shared<Scripted::ScriptedPlatform>();
+    CQuorConversion conversion(platform);
+    conversion.SetConversionType(CONV_CVD);
+    const auto cvd = SettingsAs<CQuorCVD>(conversion);
+    cvd->SetCoefficients(CVD_R0, 99.5); // of another probe
+    ReadOutcome outcome = file.Read(L"P", conversion);
+    ASSERT_EQ(outcome.problems.size(), 2U);
+    EXPECT_EQ(outcome.problems[0].key, L"NumCoefficients");
+    EXPECT_EQ(outcome.problems[0].kind, PROBLEM_VALUE_REFUSED);
+    EXPECT_EQ(outcome.problems[1].key, L"UsePolynomial");
+    EXPECT_TRUE(platform->Messages().empty());
+    EXPECT_EQ(cvd->NumCoefficients(), 4);
+    EXPECT_EQ(cvd->Coefficients(CVD_R0), 0.0);
+    cvd->SetCoefficients(CVD_ALPHA, 0.0039);
+    EXPECT_THROW(static_cast<void>(file.WriteChanges(L"P", conversion, outcome.record)), ProbeFileError);
+    EXPECT_EQ(File(), text);
+}
+
+TEST_F(ProbeFileTest, ALastCarriageReturnBelongsToItsValueInTheRecordAsReadToo) {
+    const std::string text = "[P]\r\nVersion=1.0\r\nConversionType=2\r\n[P - Settings]\r\nVersion=1.0\r\n"
+                             "NumCoefficients=2\r\nUsePolynomial=True\r\nCoefficients0=100\r\n"
+                             "Coefficients1=0.0039\r";
+    Host(text);
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    ReadOutcome outcome = file.Read(L"P", conversion);
+    EXPECT_FALSE(outcome.IsWhole());
+    EXPECT_FALSE(outcome.record.IsChanged(conversion));
+    SettingsAs<CQuorCVD>(conversion)->SetCoefficients(CVD_R0, 100.5);
+    EXPECT_TRUE(file.WriteChanges(L"P", conversion, outcome.record).empty());
+    EXPECT_EQ(File(), Replaced(text, "=100\r", "=100.5\r"));
+}
+
+TEST_F(ProbeFileTest, AMinusZeroThatSettingsKeepAsTheirZeroIsNoProblem) {
+    Host("[W]\nVersion=1.0\nConversionType=14\n[W - Settings]\nVersion=1.0\nRTPW=-0\n");
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    EXPECT_TRUE(file.Read(L"W", conversion).IsWhole());
+    file.Copy(L"W", L"W 2");
+    EXPECT_TRUE(file.Read(L"W 2", conversion).IsWhole());
+}
+
 TEST_F(ProbeFileTest, AnUnknownTypeIsTold) {
     Host("[S]\nConversionType=77\n");
     ProbeFile file(Path());
