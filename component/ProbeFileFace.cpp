@@ -281,14 +281,13 @@ void ProbeFileFace::CopyFrom(ProbeFileFace& source, std::wstring section, std::w
 auto ProbeFileFace::TakeAll(const std::vector<Step>& steps) -> Records {
     Records records;
     std::vector<const Step*> written; // whole, since what was written is remembered
-    // Before a section that was written gets another name, or another probe its name.
+    // Before a section that was written gets another name, or another probe its name, or is written again.
     const auto remember = [&] {
         for (const Step* const step : std::exchange(written, {}))
             records.insert_or_assign(step->host, m_file.Record(step->section));
     };
     for (auto step = steps.begin(); step != steps.end();) {
-        if (!step->written || step->record)
-            remember();
+        remember();
         if (!step->written) {
             (step++)->other();
             continue;

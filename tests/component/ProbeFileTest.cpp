@@ -404,6 +404,26 @@ TEST_F(ProbeFileFromC, WhatIsCopiedOverAProbeThatABracketHasWrittenIsNobodysChan
               "Coefficients1=0.0039083\nCoefficients2=-5e-07\nCoefficients3=-4.183e-12\n");
 }
 
+TEST_F(ProbeFileFromC, OfTwoConversionsThatABracketWritesToOneProbeTheFirstTakesNothingBack) {
+    const Handle file = Open();
+    const Handle first = Read(file);
+    const Handle last = Read(file);
+    SetR0(first, 101);
+    SetR0(last, 102);
+    ASSERT_EQ(quor_probe_file_Hold(file), 0);
+    ASSERT_EQ(quor_probe_file_Write(file, Text("P"), first), 0);
+    ASSERT_EQ(quor_probe_file_Write(file, Text("P"), last), 0);
+    ASSERT_EQ(quor_probe_file_Release(file), 0);
+    const std::string written = Replaced(hostFile, "100.01 ;", "102 ;");
+    EXPECT_EQ(File(), written);
+    std::int16_t answer = -1;
+    ASSERT_EQ(quor_probe_file_Differs(file, Text("P"), first, &answer), 0);
+    EXPECT_EQ(answer, 0);
+    ASSERT_EQ(quor_probe_file_WriteChanges(file, Text("P"), first, &answer), 0);
+    EXPECT_EQ(answer, -1);
+    EXPECT_EQ(File(), written);
+}
+
 TEST_F(ProbeFileFromC, ABracketThatFailsLeavesWhatCountsAsRead) {
     const Handle file = Open();
     const Handle conversion = Read(file);
