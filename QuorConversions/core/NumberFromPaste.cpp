@@ -79,12 +79,12 @@ constexpr struct {
 
 /// Words that make of a name more than a name, in small letters: scaling units, factors, signs.
 constexpr Text tellingWords[] = {
-    L"v",       L"kv",     L"uv",    L"nv",    L"\u03BCv", L"mk",       L"uk",      L"kk",         L"\u03BCk",
-    L"kohm",    L"kohms",  L"mohm",  L"mohms", L"gohm",    L"gohms",    L"mc",      L"mr",         L"kr",
-    L"half",    L"double", L"twice", L"halb",  L"doppelt", L"cubed",    L"tenfold", L"percent",    L"ppm",
-    L"ppb",     L"times",  L"per",   L"minus", L"plus",    L"negative", L"inverse", L"reciprocal", L"lg",
-    L"ld",      L"lb",     L"sin",   L"cos",   L"tan",     L"abs",      L"mille",   L"hundred",    L"hundert",
-    L"tausend", L"neg",    L"mal",   L"hoch",  L"betrag",  L"kehrwert",
+    L"v",       L"kv",      L"uv",    L"nv",       L"\u03BCv", L"mk",         L"uk",      L"kk",
+    L"\u03BCk", L"pv",      L"mc",    L"mr",       L"kr",      L"half",       L"double",  L"twice",
+    L"halb",    L"doppelt", L"cubed", L"tenfold",  L"percent", L"ppm",        L"ppb",     L"times",
+    L"per",     L"minus",   L"plus",  L"negative", L"inverse", L"reciprocal", L"lg",      L"ld",
+    L"lb",      L"sin",     L"cos",   L"tan",      L"abs",     L"mille",      L"hundred", L"hundert",
+    L"tausend", L"neg",     L"mal",   L"hoch",     L"betrag",  L"kehrwert",
 };
 /// What the names of functions begin with, also where the argument follows without a bracket: "lnR"; and
 /// what scaling units begin with: "milliohms".
@@ -441,6 +441,11 @@ std::wstring InSmallLetters(Text text) {
     return small;
 }
 
+/// Whether a word in small letters is "ohm" with a prefix of one letter: "kohm", "\u03BCohms".
+bool IsScaledOhm(Text small) {
+    return small.size() > 1 && (small.substr(1) == L"ohm" || small.substr(1) == L"ohms");
+}
+
 /// Whether letters in front of a number may be a symbol and the beginning of a factor: "Ae3", "ALPHAE3",
 /// "RTPWe3", "Ax10". "Code2" and "Slope2" are words.
 bool MayEndInFactor(Text letters) {
@@ -475,7 +480,7 @@ bool IsPlainWord(Text word, Text before) {
     const bool isFactor = !before.empty() && (small == L"x" || (small == L"e" && !number.empty()) ||
                                               IsOneOf(word, lonePrefixes));
     return number.size() <= 2 && !isFactor && !(isNumbered && MayEndInFactor(letters)) &&
-           !IsOneOf(small, tellingWords) &&
+           !IsOneOf(small, tellingWords) && !IsScaledOhm(small) &&
            std::none_of(std::begin(tellingBeginnings), std::end(tellingBeginnings),
                         [&](Text beginning) { return small.starts_with(beginning); });
 }

@@ -24,20 +24,30 @@ bool IsEmptyAt(const std::vector<std::wstring_view>& line, std::size_t column) {
     return column >= line.size() || line[column].find_first_not_of(edges) == std::wstring_view::npos;
 }
 
-/// Takes away the columns in which no line has anything: the edges of what was copied from a spreadsheet.
-void DropEmptyColumns(PastedCells& cells) {
-    std::size_t columns = 0;
+/// Takes away the first and the last columns in which none of several lines has anything: the edges of what
+/// was copied from a spreadsheet. An empty column between others, or at the beginning of a single line, may
+/// be a value that is missing.
+void DropEmptyEdges(PastedCells& cells) {
+    const auto isEmpty = [&cells](std::size_t column) {
+        return std::all_of(cells.begin(), cells.end(),
+                           [&](const auto& line) { return IsEmptyAt(line, column); });
+    };
+    if (cells.size() == 1)
+        return;
+    std::size_t end = 1;
     for (const auto& line : cells)
-        columns = std::max(columns, line.size());
-    for (std::size_t column = columns; column-- > 0;)
-        if (std::all_of(cells.begin(), cells.end(),
-                        [&](const auto& line) { return IsEmptyAt(line, column); }))
-            for (auto& line : cells)
-                if (column < line.size())
-                    line.erase(line.begin() + static_cast<std::ptrdiff_t>(column));
-    for (auto& line : cells)
+        end = std::max(end, line.size());
+    while (end > 1 && isEmpty(end - 1))
+        --end;
+    std::size_t begin = 0;
+    while (begin + 1 < end && isEmpty(begin))
+        ++begin;
+    for (auto& line : cells) {
+        line.resize(std::min(end, line.size()));
+        line.erase(line.begin(), line.begin() + static_cast<std::ptrdiff_t>(std::min(begin, line.size())));
         if (line.empty()) // it remains an empty cell
             line.emplace_back();
+    }
 }
 
 using BoxRow = std::vector<TextBox*>;
@@ -82,7 +92,7 @@ PastedCells SplitIntoCells(std::wstring_view text) {
             row.push_back(TakeUpTo(line, L"\t"));
         }
     }
-    DropEmptyColumns(cells);
+    DropEmptyEdges(cells);
     return cells;
 }
 

@@ -12,8 +12,9 @@ namespace QuorConversions {
 /// The cells of a text: lines, each divided at tabs.
 using PastedCells = std::vector<std::vector<std::wstring_view>>;
 
-/// Splits a text at tabs and line ends only; those at its end, and before a single cell, divide nothing. A
-/// column that is empty on every line is none. The cells live as long as `text`.
+/// Splits a text at tabs and line ends only; those at its end, and before a single cell, divide nothing. Of
+/// several lines, the first and the last columns that are empty on every one are none. The cells live as long
+/// as `text`.
 [[nodiscard]] PastedCells SplitIntoCells(std::wstring_view text);
 
 /// The boxes that several cells go into, the cells one line after the other, when the first one goes into

@@ -53,8 +53,21 @@ bool IsWithoutFraction(const std::wstring& number, const std::wstring& separator
 
 bool IsBare(const PastedNumber& number) { return number.name.empty() && number.unit == PastedUnit::None; }
 
+bool AreAsciiDigits(const std::wstring& text) { return std::all_of(text.begin(), text.end(), IsAsciiDigit); }
+
+/// Whether a line may be the rest of the exponent of the number before it: "-4.183E-1" and "2".
+bool MayEndExponent(const PastedNumber& before, const PastedNumber& line) {
+    constexpr std::size_t fewDigits = 2;
+    const std::wstring& number = *before.number;
+    const auto exponent = number.find(L'E');
+    return before.unit == PastedUnit::None && exponent != std::wstring::npos &&
+           number.size() - number.find_first_of(L"0123456789", exponent) == 1 && IsBare(line) &&
+           line.number->size() <= fewDigits && AreAsciiDigits(*line.number);
+}
+
 /// Whether two cells may be one number that is broken over two lines: "100." and "012", "100" and ".012",
-/// "0.0039" and "083", "25.48" and "317". A 0 by itself would change nothing of the number before it.
+/// "0.0039" and "083", "25.48" and "317", "-4.183E-1" and "2". A 0 by itself would change nothing of the
+/// decimals before it.
 bool MayBeBroken(const PastedNumber& before, const PastedNumber& cell, bool isWholeLine,
                  const std::wstring& separator) {
     constexpr std::size_t fewDigits = 3;
@@ -64,9 +77,11 @@ bool MayBeBroken(const PastedNumber& before, const PastedNumber& cell, bool isWh
         return isWhole;
     if (number.size() > 1 && number[0] == L'0' && IsAsciiDigit(number[1]))
         return true;
+    if (isWholeLine && MayEndExponent(before, cell))
+        return true;
     const bool hasFraction = !isWhole && before.number->find(L'E') == std::wstring::npos;
     return isWholeLine && hasFraction && IsBare(before) && IsBare(cell) && number.size() <= fewDigits &&
-           std::all_of(number.begin(), number.end(), IsAsciiDigit) && number != L"0";
+           AreAsciiDigits(number) && number != L"0";
 }
 
 /// Whether a box is one of a list, not of a grid.
@@ -147,6 +162,12 @@ void SettingsDialog::ShowValue(const Field& field) {
     m_notes.erase(&field.box);
     field.box.SetText(FormatValue(field.get(), field.format(), UserSeparators(*m_platform)));
     Advise(field);
+}
+
+void SettingsDialog::ClearText(const Field& field) {
+    m_notes.erase(&field.box);
+    field.box.SetText({});
+    AdviseIfItCan(field);
 }
 
 void SettingsDialog::StoreValue(const Field& field) const {

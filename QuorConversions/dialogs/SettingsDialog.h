@@ -72,6 +72,8 @@ protected:
                     std::function<std::wstring()> format);
     /// The value in the format of its field.
     void ShowValue(const Field& field);
+    /// Empties the box of a field, with all that is told of its text.
+    void ClearText(const Field& field);
     /// The leading number of the text, or 0, stored in the object.
     void StoreValue(const Field& field) const;
     /// Adds a label and a list in a row of their own.

@@ -50,7 +50,9 @@ frmITS90Settings::Page frmITS90Settings::MakePage(CQuorITS90Range& range, std::s
         auto& box = Add<TextBox>(L"txt" + side + L"Coefficient", row);
         frame.AddRow({&rowLabel, &box});
         page.rows.push_back(&AddField(
-            rowLabel, box, [&range, index] { return range.Coefficients(index); },
+            rowLabel, box,
+            // A row that the selected range brings holds 0 until OK stores the range.
+            [&range, index] { return index < range.NumCoefficients() ? range.Coefficients(index) : 0.0; },
             [&range, index](double value) { range.SetCoefficients(index, value); },
             [&range] { return range.ValueFormat(); }));
     }
@@ -105,7 +107,7 @@ void frmITS90Settings::LoadControls() {
 
 void frmITS90Settings::LoadPage(const Page& page) {
     for (const Field* const row : page.rows)
-        row->box.SetText({});
+        ClearText(*row);
     ShowChoice(page.choice);
     if (!page.choice.list.HasSelection())
         SetupRows(page); // the range is none of the list, so no Click has come

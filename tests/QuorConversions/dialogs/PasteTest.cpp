@@ -385,7 +385,7 @@ TEST_F(PasteTest, AListTakesNoSeveralLinesWithSeveralColumns) {
         });
 }
 
-TEST_F(PasteTest, AColumnThatIsEmptyOnEveryLineIsNone) {
+TEST_F(PasteTest, AColumnAtTheEdgeThatIsEmptyOnEveryLineIsNone) {
     for (const wchar_t* const text : {L"1.5\t\n2.5\t \n", L"\t1.5\n\t2.5", L"\t1.5\t\t\n \t2.5\t\t\n"})
         Edit([&](Person& person) {
             person.Paste(L"R0", text);
@@ -446,7 +446,10 @@ TEST_F(PasteTest, ANumberThatADocumentBreaksOverLinesIsNotPastedInParts) {
                                           std::tuple(L"0.0039\n083", L"083", L"can be read in two ways"),
                                           std::tuple(L"100\n012", L"012", L"can be read in two ways"),
                                           std::tuple(L"25.48\n317", L"317", L"can be read in two ways"),
-                                          std::tuple(L"100.01\n1", L"1", L"can be read in two ways")})
+                                          std::tuple(L"100.01\n1", L"1", L"can be read in two ways"),
+                                          std::tuple(L"-4.183E-1\n2", L"2", L"can be read in two ways"),
+                                          std::tuple(L"1E-1\n0", L"0", L"can be read in two ways"),
+                                          std::tuple(L"A = 1E+1\n20", L"20", L"can be read in two ways")})
         Edit([&, text = text, part = part, why = why](Person& person) {
             person.Paste(L"R0", text);
             EXPECT_EQ(Boxes(person), untouched);
@@ -459,9 +462,10 @@ TEST_F(PasteTest, NumbersThatAreWholeByThemselvesMayFollowEachOther) {
     for (const auto& [text, first, second] :
          {std::tuple(L"0\n100", L"0", L"100"), std::tuple(L"100\n5", L"100", L"5"),
           std::tuple(L"1.5\n0", L"1.5", L"0"), std::tuple(L"100.01\n1000", L"100.01", L"1000"),
-          std::tuple(L"100.01\n-1", L"100.01", L"-1"), std::tuple(L"3.9083E-3\n1", L"3.9083E-3", L"1"),
-          std::tuple(L"100.01 ohm\n1", L"100.01", L"1"), std::tuple(L"100.01\nALPHA = 1", L"100.01", L"1"),
-          std::tuple(L"1 234\n567.5", L"1234", L"567.5")})
+          std::tuple(L"100.01\n-1", L"100.01", L"-1"), std::tuple(L"3.9083E-3\n100", L"3.9083E-3", L"100"),
+          std::tuple(L"3.9083E-03\n1", L"3.9083E-03", L"1"),
+          std::tuple(L"3.9083E-3 K^-1\n1", L"3.9083E-3", L"1"), std::tuple(L"100.01 ohm\n1", L"100.01", L"1"),
+          std::tuple(L"100.01\nALPHA = 1", L"100.01", L"1"), std::tuple(L"1 234\n567.5", L"1234", L"567.5")})
         Edit([&, text = text, first = first, second = second](Person& person) {
             person.Paste(L"R0", text);
             EXPECT_EQ(Boxes(person), (Texts{first, second, L"1.5", L"0.1"}));
@@ -479,7 +483,7 @@ TEST_F(PasteTest, FractionsWithoutAWholePartMayFollowEachOther) {
 }
 
 TEST_F(PasteTest, AnEmptyCellBeforeTheOthersKeepsThemFromStandingInTheWrongBoxes) {
-    for (const wchar_t* const text : {L"\n5\n6", L"\t5\n1\t6", L"\r\n\t5\t6", L" \n5\n6\n"})
+    for (const wchar_t* const text : {L"\n5\n6", L"\t5\n1\t6", L"\r\n\t5\t6", L" \n5\n6\n", L"\t5\t6"})
         Edit([&](Person& person) {
             person.Paste(L"R0", text);
             EXPECT_EQ(Boxes(person), untouched);
@@ -488,6 +492,27 @@ TEST_F(PasteTest, AnEmptyCellBeforeTheOthersKeepsThemFromStandingInTheWrongBoxes
             EXPECT_TRUE(person.Advice(L"R0").ends_with(L" is not a number")) << testing::PrintToString(text);
             person.Click(L"Cancel");
         });
+}
+
+TEST_F(PasteTest, AnEmptyCellBetweenOthersKeepsThemFromStandingInTheWrongBoxes) {
+    Edit([](Person& person) {
+        person.Paste(L"R0", L"100.01\t\t1.5\t0.1");
+        EXPECT_EQ(Boxes(person), untouched);
+        EXPECT_EQ(person.Advice(L"R0"), L"Nothing pasted: \"\" is not a number");
+        person.Paste(L"R0", L"100.01\t0.0039\t\t");
+        EXPECT_EQ(Boxes(person), (Texts{L"100.01", L"0.0039", L"1.5", L"0.1"})) << "at its end they are none";
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(PastedPointsTest, AnEmptyColumnBetweenOthersKeepsThemFromStandingInTheWrongBoxes) {
+    Edit([](Person& person) {
+        const Texts before = Points(person);
+        person.Paste(L"Temperature 1", L"0\t\t0\n100\t\t4.096");
+        EXPECT_EQ(Points(person), before);
+        EXPECT_EQ(person.Advice(L"Temperature 1"), L"Nothing pasted: \"\" is not a number");
+        person.Click(L"Cancel");
+    });
 }
 
 TEST_F(PasteTest, WhatWasReadIsToldAlsoOfANumberOfSomethingElse) {

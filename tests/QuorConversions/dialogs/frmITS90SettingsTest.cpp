@@ -1,5 +1,6 @@
 #include "QuorConversions/rtd/CQuorITS90.h"
 
+#include "tests/support/DecimalSeparator.h"
 #include "tests/support/DialogTest.h"
 
 using namespace QuorConversions;
@@ -294,6 +295,45 @@ TEST_F(frmITS90SettingsTest, RefillsOnlyTheRowsThatTheObjectHasWhenARangeIsChose
     });
     EXPECT_EQ(low.Range(), ITS90_RANGE_2);
     EXPECT_EQ(Values(low), (std::vector<double>{-0.25, 0.125, 7, 0, 0}));
+}
+
+TEST_F(frmITS90SettingsTest, TellsOfTheRowsOfARangeThatIsNotStoredYet) {
+    const FreshDecimalSeparator fresh;
+    const auto empty = L"Not a number: 0 would be stored";
+    low.SetRange(ITS90_NORANGE);
+    Edit([&](Person& person) {
+        EXPECT_FALSE(person.SeesAdvice(empty));
+        person.Choose(L"cboLowRange", range4);
+        EXPECT_EQ(Visible(person, L"txtLowCoefficient"), (Texts{L"", L""}));
+        EXPECT_EQ(person.Advice(L"A[4]"), empty);
+        EXPECT_EQ(person.Advice(L"B[4]"), empty);
+        person.Type(L"A[4]", L"0,00385");
+        EXPECT_EQ(person.Reads(L"A[4]"), L"000385");
+        EXPECT_EQ(person.Advice(L"A[4]"), L"The decimal separator here is the point");
+        person.Paste(L"A[4]", L"10.000");
+        EXPECT_EQ(person.Advice(L"A[4]"), L"Pasted as 10.000");
+        person.Type(L"A[4]", L"1E");
+        EXPECT_EQ(person.Advice(L"A[4]"), L"Only 1 of 1E would be stored");
+        EXPECT_EQ(person.Advice(L"B[4]"), empty);
+        person.Choose(L"cboLowRange", L"<none>");
+        EXPECT_FALSE(person.SeesAdvice(empty)) << "nothing of the rows is stored then";
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(frmITS90SettingsTest, ForgetsWhatItToldOfARowThatAFileEmpties) {
+    const FreshDecimalSeparator fresh;
+    low.SetRange(ITS90_NORANGE);
+    NextFileHolds([](CQuorITS90& opened) { opened.LowRange()->SetRange(ITS90_NORANGE); });
+    Edit([&](Person& person) {
+        person.Choose(L"cboLowRange", range4);
+        person.Type(L"A[4]", L"1/2");
+        EXPECT_EQ(person.Advice(L"A[4]"), L"\"/\" cannot be typed here");
+        person.Click(L"Open");
+        person.Choose(L"cboLowRange", range4);
+        EXPECT_EQ(person.Advice(L"A[4]"), L"Not a number: 0 would be stored");
+        person.Click(L"Cancel");
+    });
 }
 
 TEST_F(frmITS90SettingsTest, RefillsTheRowsWhenTheSelectedRangeIsChosenAgain) {

@@ -114,7 +114,9 @@ TEST_F(QuorconvEditTest, EditsAProbeOfEveryType) {
         const char* script;
         const char* line; // that the file then holds
     } cases[] = {
-        {"i90", "type RTPW 25.5\nchoose Select low range to use Range 4 (83K to 273K)\ntype A[4] -1e-4",
+        {"i90",
+         "type RTPW 25.5\nchoose Select low range to use Range 4 (83K to 273K)\n"
+         "expect advice Not a number: 0 would be stored\ntype A[4] -1e-4",
          "Coefficients0=-1e-04"},
         {"i68", "type R0 100\ntype ALPHA 0.0039\ntype DELTA 1.5", "Coefficients2=1.5"},
         {"cvd", "type R0 100\ntype ALPHA 0.0039\ntype DELTA 1.5", "Coefficients2=1.5"},
