@@ -5,15 +5,17 @@ from __future__ import annotations
 import os
 import weakref
 from array import array
+from contextlib import suppress
 from dataclasses import dataclass
 from functools import partial
 from types import TracebackType
-from typing import Any, Callable, Dict, Iterator, List, MutableMapping, NoReturn, Optional, Tuple, Type, TypeVar, Union
+from typing import (Any, Callable, Dict, Iterable, Iterator, List, MutableMapping, NoReturn, Optional, Tuple, Type, TypeVar,
+                    Union)
 
 from . import _low
 from ._host import PathText, Platform
 from ._low import ConversionType, ProbeFileError as ProbeFileErrorCode, ProbeProblem
-from ._runtime import QuorError, known
+from ._runtime import QuorError, _wrappers, _wrappers_lock, borrowed, known, library
 from ._settings import Conversion
 
 _Result = TypeVar("_Result")
@@ -132,6 +134,48 @@ def _require_name(name: str) -> None:
         raise ValueError(f"a section cannot have the name {name!r}: {reason}")
 
 
+class _Detached:
+    """A conversion that no longer belongs to the file. Its objects are referenced here, not their wrappers, so that it is
+    known whether the host can still reach one of them."""
+
+    def __init__(self, file: _low.ProbeFile, section: str, conversion: Conversion) -> None:
+        self.section = section
+        settings = conversion.settings
+        parts = [getattr(settings, part, None) for part in ("LowRange", "HighRange")]  # of an ITS-90
+        self._handles = [it._handle for it in (conversion, settings, *parts) if it is not None]
+        for handle in self._handles:
+            library.quor_add_ref(handle)
+        conversion.Changed = False
+        conversion._file = lambda: None
+        self._differed = self._differs(file, conversion)
+
+    def __del__(self) -> None:
+        for handle in self._handles:
+            library.quor_release(handle)
+
+    def is_of(self, conversion: Conversion) -> bool:
+        return bool(self._handles[0] == conversion._handle)
+
+    def is_reachable(self) -> bool:
+        """Whether the host has an object of it, and no other file has taken it."""
+        with _wrappers_lock:
+            there = [_wrappers.get(handle) for handle in self._handles]
+        if there[0] is not None and getattr(there[0], "_file", lambda: None)() is not None:
+            return False
+        return any(it is not None for it in there)
+
+    def is_changed(self, file: _low.ProbeFile) -> bool:
+        conversion = borrowed(self._handles[0])
+        return conversion.Changed or not self._differed and self._differs(file, conversion)
+
+    def _differs(self, file: _low.ProbeFile, conversion: Conversion) -> bool:
+        """From what the file object has read into it or written from it last: some changes set no flag."""
+        try:
+            return file.Differs(self.section, conversion)
+        except QuorError:
+            return True
+
+
 class ProbeFile(MutableMapping[str, Conversion]):
     """The probes of a host's file, or the one of a stand-alone settings file ("prt-1188.cvd"): a mapping of sections to
     conversions::
@@ -147,11 +191,12 @@ class ProbeFile(MutableMapping[str, Conversion]):
     A probe is read when it is first accessed. An incomplete one raises IncompleteProbeError, which has its values; `read`
     returns them without raising. `platform` is passed to the conversions.
 
-    After a save the probes that were accessed are read again, which gives their conversions the values that other
-    programs have written. If one has become incomplete, IncompleteProbeError is raised, once all others have been read:
-    the changes are saved, and its conversion keeps its values but no longer belongs to the file. Nor do conversions whose
-    probes other programs have removed, and those obtained before `discard` or an exception. If one of them is changed
-    afterwards, `save` raises ValueError, because the change would be lost."""
+    After a save, a `discard` or an exception that leaves the block, the probes that were accessed are read again into
+    their conversions, which then have the values of the file and still belong to it. If one has become incomplete, `save`
+    and `discard` raise IncompleteProbeError, once all others have been read (the changes are saved, or discarded), and its
+    conversion keeps its values but no longer belongs to the file. Nor do conversions whose probes another program has
+    removed or given another type, and those that were assigned but not saved before `discard` or an exception. If one of
+    them, or its settings, is changed afterwards, `save` raises ValueError, because the change would be lost."""
 
     def __init__(self, path: PathText, create: bool = False, platform: Optional[Platform] = None) -> None:
         """Loads the file. With `create` it need not exist: the first save creates it."""
@@ -161,7 +206,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
         self._file = _low.ProbeFile(self._path, create)
         self._probes: Dict[str, Tuple[str, Optional[Conversion], bool]] = {}  # folded -> section, None: removed, read
         self._before: Dict[str, int] = {}  # the types that were read
-        self._detached: List[Tuple[str, weakref.ref[Conversion]]] = []  # no longer of the file
+        self._detached: List[_Detached] = []  # no longer of the file
 
     @property
     def path(self) -> str:
@@ -244,15 +289,21 @@ class ProbeFile(MutableMapping[str, Conversion]):
         if there is None or there[1] is not conversion:
             self._probes[folded] = section, conversion, False
             conversion._file = weakref.ref(self)
+            self._detached = [one for one in self._detached if not one.is_of(conversion)]
 
     def duplicate(self, section: str, name: str) -> None:
-        """Copies the probe, as the file has it, to another section, and saves at once. ValueError if there are unsaved
-        changes."""
+        """Copies the probe, as the file has it, to another section, and saves at once. If that is a probe which was
+        accessed, its conversion gets the new values. ValueError if there are unsaved changes."""
         if any(True for _ in self._steps()):
             raise ValueError("there are unsaved changes")
         if _section(name) not in self:
             _require_name(name)
+        if self._file.Changed:
+            self._call(self._file.Reload)
+        if not self._is_in_file(name):
+            self._let_go(name)  # another program has removed the probe that had it
         self._call(lambda: self._file.Copy(_section(section), name))
+        self._reread({_folded(name)} & self._probes.keys())
 
     def __delitem__(self, section: str) -> None:
         if _section(section) not in self:
@@ -296,10 +347,10 @@ class ProbeFile(MutableMapping[str, Conversion]):
 
     def save(self) -> None:
         """Saves all changes, additions and removals, or none of them."""
-        for section, reference in self._detached:
-            changed = reference()
-            if changed is not None and changed._file() is None and changed.Changed:
-                raise ValueError(f"the conversion of [{section}] was changed, but no longer belongs to {self._path}; "
+        self._detached = [one for one in self._detached if one.is_reachable()]
+        for one in self._detached:
+            if one.is_changed(self._file):
+                raise ValueError(f"the conversion of [{one.section}] was changed, but no longer belongs to {self._path}; "
                                  "get it from the file again")
         steps = list(self._steps())
         if not steps:
@@ -314,23 +365,39 @@ class ProbeFile(MutableMapping[str, Conversion]):
                 self._raise(self._file, error)
             raise
         self._call(self._file.Release)
-        probes = [(section, conversion) for section, conversion, _ in self._probes.values() if conversion is not None]
-        self._probes = {}
-        self._before = {}
+        for folded, (section, saved, _) in self._probes.items():
+            if saved is not None:
+                self._probes[folded] = section, saved, True
+                self._before[folded] = saved.ConversionType
+        self._reread(self._probes)
+
+    def _reread(self, names: Iterable[str]) -> None:
+        """Reads the accessed conversions of these folded names again. One that cannot have the values of the file keeps its
+        own, and is detached. ProbeFileError for those that are incomplete, once all have been read."""
+        left = {name: (*self._probes.pop(name), self._before.pop(name, None)) for name in list(names)}
         incomplete: List[ProbeFileError] = []
-        for section, conversion in probes:
-            if not self._is_in_file(section):
-                self._detach(section, conversion)
-                continue
-            try:
-                # Into another conversion first: this one must not get defaults for values that another program has broken.
-                self._read_whole(section)
-            except ProbeFileError as error:
-                self._detach(section, conversion)
-                incomplete.append(error)
-                continue
-            self._call(lambda: self._file.Read(section, conversion))  # noqa: B023, called at once
-            self._remember(section, conversion)
+        try:
+            while left:
+                section, conversion, was_read, type_before = left[next(iter(left))]
+                if conversion is not None:
+                    try:
+                        # Into another conversion first: this one must not get defaults for values that another program
+                        # has broken, nor another type, for which it would drop the settings that the host holds.
+                        if (was_read and self._is_in_file(section)
+                                and self._read_whole(section).ConversionType == type_before):
+                            self._call(partial(self._file.Read, section, conversion))
+                            self._remember(section, conversion)
+                        else:
+                            self._detach(section, conversion)
+                    except ProbeFileError as error:
+                        self._detach(section, conversion)
+                        incomplete.append(error)
+                del left[next(iter(left))]
+        except BaseException:
+            for section, conversion, _, _ in left.values():
+                if conversion is not None:
+                    self._detach(section, conversion)
+            raise
         if incomplete:
             raise incomplete[0]
 
@@ -340,17 +407,15 @@ class ProbeFile(MutableMapping[str, Conversion]):
         conversion._file = weakref.ref(self)
 
     def _detach(self, section: str, conversion: Conversion) -> None:
-        conversion.Changed = False
-        conversion._file = lambda: None
-        self._detached = [known for known in self._detached if known[1]() is not None]
-        self._detached.append((section, weakref.ref(conversion)))
+        self._detached = [one for one in self._detached if one.is_reachable()]
+        self._detached.append(_Detached(self._file, section, conversion))
 
-    def _forget(self) -> None:
-        for section, conversion, _ in self._probes.values():
-            if conversion is not None:
-                self._detach(section, conversion)
-        self._probes = {}
-        self._before = {}
+    def _let_go(self, section: str) -> None:
+        """Detaches what was accessed under this name."""
+        self._before.pop(_folded(section), None)
+        _, conversion, _ = self._probes.pop(_folded(section), (section, None, False))
+        if conversion is not None:
+            self._detach(section, conversion)
 
     def _steps(self) -> Iterator[Callable[[], object]]:
         for folded, (section, conversion, was_read) in self._probes.items():
@@ -362,9 +427,14 @@ class ProbeFile(MutableMapping[str, Conversion]):
                 yield partial(self._file.WriteChanges, section, conversion)
 
     def discard(self) -> None:
-        """Discards unsaved changes and loads the current file."""
-        self._forget()
-        self._file.Reload()
+        """Discards unsaved changes and loads the current file: conversions of its probes get its values."""
+        try:
+            self._file.Reload()
+        except BaseException:
+            for section in list(self._probes):
+                self._let_go(section)
+            raise
+        self._reread(self._probes)
 
     @property
     def changed_by_others(self) -> bool:
@@ -382,8 +452,10 @@ class ProbeFile(MutableMapping[str, Conversion]):
         _require_name(_section(name))
         self._call(lambda: self._file.Rename(_section(section), name))
         known = self._probes.pop(_folded(section), None)
-        if known is not None and known[1] is not None:
-            self._before[_folded(name)] = self._before.pop(_folded(section))
+        type_before = self._before.pop(_folded(section), None)
+        self._let_go(name)  # another program has removed the probe that had it
+        if known is not None and known[1] is not None and type_before is not None:
+            self._before[_folded(name)] = type_before
             self._probes[_folded(name)] = name, known[1], True
 
     def __enter__(self) -> ProbeFile:
@@ -393,8 +465,9 @@ class ProbeFile(MutableMapping[str, Conversion]):
                  trace: Optional[TracebackType]) -> None:
         if kind is None:
             self.save()
-        else:
-            self._forget()
+            return
+        with suppress(QuorError):  # which would hide the exception
+            self._reread(self._probes)
 
     def __repr__(self) -> str:
         return f"ProbeFile({self._path!r}, {len(self)} probes)"

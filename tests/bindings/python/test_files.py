@@ -329,37 +329,178 @@ def test_conversions_stay_with_their_probes_when_others_are_renamed_and_copied(l
     assert file["Probe 9"] is probe
 
 
-def discarded(file, probe):
-    probe.settings.R0 = 99.5
+def discarded(file):
     file.discard()
 
 
-def left_by_an_exception(file, probe):
+def left_by_an_exception(file):
     with pytest.raises(ZeroDivisionError), file:
-        probe.settings.R0 = 99.5
         raise ZeroDivisionError
 
 
-def renamed_by_another_program(file, _):
-    ProbeFile(file.path).rename(PROBE, "Another")
-    file["Probe 10 PRT-1183"].settings.R0 = 99.0
-    file.save()
-
-
-@pytest.mark.parametrize("leave", [discarded, left_by_an_exception, renamed_by_another_program])
-def test_a_change_of_a_conversion_that_no_longer_belongs_to_the_file_is_not_lost_in_silence(laboratory, leave):
+@pytest.mark.parametrize("leave", [discarded, left_by_an_exception])
+def test_conversions_stay_with_the_file_after_a_discard_and_an_exception(laboratory, leave):
     file = ProbeFile(laboratory)
     probe = file[PROBE]
-    leave(file, probe)
-    file.save()  # what was discarded is no change
+    cvd = probe.settings
+    cvd.R0 = 99.5
+    leave(file)
+    assert file[PROBE] is probe
+    assert probe.settings is cvd
+    assert cvd.R0 == 100
     before = laboratory.read_bytes()
+    file.save()  # what was discarded is no change
+    assert laboratory.read_bytes() == before
+    cvd.R0 = 100.0123
+    file.save()
+    assert ProbeFile(laboratory)[PROBE].settings.R0 == 100.0123
+
+
+@pytest.mark.parametrize("leave", [discarded, left_by_an_exception])
+def test_a_conversion_that_was_assigned_and_not_saved_is_of_no_file(laboratory, leave):
+    file = ProbeFile(laboratory)
+    added = file["Added"] = Conversion(ConversionType.CVD)
+    leave(file)
+    assert "Added" not in file
+    added.settings.R0 = 100.0123
+    with pytest.raises(ValueError, match=r"\[Added\] was changed, but no longer belongs to"):
+        file.save()
+
+
+def test_an_exception_that_leaves_the_block_comes_out_though_a_probe_is_incomplete(tmp_path):
+    path = tmp_path / "host.ini"
+    path.write_text("[Q]\nVersion=1.0\nConversionType=10\n[P]\nVersion=1.0\nConversionType=14\n"
+                    "[P - Settings]\nVersion=1.0\nRTPW=25.5\n")
+    with pytest.raises(ZeroDivisionError), ProbeFile(path) as file:
+        wt90 = file["P"].settings
+        path.write_text(replaced(path.read_text(), "25.5", "n/a"))
+        file.duplicate("Q", "R")  # which loads the file
+        raise ZeroDivisionError
+    assert wt90.RTPW == 25.5
+    wt90.RTPW = 25.25
+    with pytest.raises(ValueError, match=r"\[P\] was changed, but no longer belongs to"):
+        file.save()
+
+
+def test_a_discard_tells_a_probe_that_is_incomplete_now_once_the_others_are_read(laboratory):
+    other = "Probe 10 PRT-1183"
+    file = ProbeFile(laboratory)
+    broken, whole = file[PROBE].settings, file[other].settings
+    whole.R0 = 99.5
+    text = laboratory.read_text(encoding="utf-8")
+    line = text.index("Coefficients1=", text.index(f"[{PROBE} - Settings]"))
+    laboratory.write_text(text[:line] + "Coefficients1=n/a" + text[text.index("\n", line):], encoding="utf-8")
+    with pytest.raises(quor.IncompleteProbeError, match=r"\[Probe 9 PRT-1182 - Settings\] Coefficients1: "):
+        file.discard()
+    assert broken.A == 0.0039083
+    assert (whole.R0, file[other].settings is whole) == (100, True)
+
+
+def renamed_by_another_program(file):
+    ProbeFile(file.path).rename(PROBE, "Another")
+
+
+def given_another_type_by_another_program(file):
+    with ProbeFile(file.path) as theirs:
+        theirs[PROBE].type = ConversionType.WT90
+
+
+@pytest.mark.parametrize("theirs", [renamed_by_another_program, given_another_type_by_another_program])
+@pytest.mark.parametrize("key, value", [("R0", 100.0123), ("UsePolynomial", False)])
+def test_a_change_of_settings_that_no_longer_belong_to_the_file_is_not_lost_in_silence(laboratory, theirs, key, value):
+    file = ProbeFile(laboratory)
+    cvd = file[PROBE].settings  # all that the host holds
+    theirs(file)
+    file.discard()
+    assert cvd.R0 == 100
+    file.save()
+    before = laboratory.read_bytes()
+    setattr(cvd, key, value)
+    with pytest.raises(ValueError, match=r"\[Probe 9 PRT-1182\] was changed, but no longer belongs to"):
+        file.save()
+    assert laboratory.read_bytes() == before
+    del cvd
+    file.save()  # nobody can see the change any more
+
+
+def test_a_change_of_a_range_that_no_longer_belongs_to_the_file_is_not_lost_in_silence(tmp_path):
+    path = tmp_path / "host.ini"
+    with ProbeFile(path, create=True) as file:
+        file["P"] = Conversion(ConversionType.ITS90)
+    low = file["P"].settings.low_range
+    with ProbeFile(path) as theirs:
+        del theirs["P"]
+    file.discard()
+    file.save()
+    low.Range = 1
+    low.A = 0.5
+    with pytest.raises(ValueError, match=r"\[P\] was changed, but no longer belongs to"):
+        file.save()
+
+
+def test_what_an_interrupt_keeps_from_being_read_no_longer_belongs_to_the_file(laboratory, monkeypatch):
+    file = ProbeFile(laboratory)
+    first, second = file[PROBE].settings, file["Probe 10 PRT-1183"].settings
+    read_whole = ProbeFile._read_whole
+
+    def interrupted(self, section):
+        if section != PROBE:
+            raise KeyboardInterrupt
+        return read_whole(self, section)
+
+    monkeypatch.setattr(ProbeFile, "_read_whole", interrupted)
+    with pytest.raises(KeyboardInterrupt):
+        file.discard()
+    monkeypatch.undo()
+    first.R0 = 100.0123
+    file.save()
+    assert ProbeFile(laboratory)[PROBE].settings.R0 == 100.0123
+    second.R0 = 100.5
+    with pytest.raises(ValueError, match=r"\[Probe 10 PRT-1183\] was changed, but no longer belongs to"):
+        file.save()
+
+
+def test_a_conversion_that_no_longer_belongs_to_the_file_can_be_assigned_again(laboratory):
+    file = ProbeFile(laboratory)
+    probe = file[PROBE]
+    renamed_by_another_program(file)
+    file["Probe 10 PRT-1183"].settings.R0 = 99.0
+    file.save()
     probe.settings.R0 = 100.0123
     with pytest.raises(ValueError, match="was changed, but no longer belongs to"):
         file.save()
-    assert laboratory.read_bytes() == before
     file["Probe 9 once more"] = probe  # now it does
     file.save()
     assert ProbeFile(laboratory)["Probe 9 once more"].settings.R0 == 100.0123
+
+
+def test_a_probe_that_is_copied_over_gives_its_conversion_the_new_numbers(laboratory):
+    file = ProbeFile(laboratory)
+    one, other = file[PROBE], file["Probe 10 PRT-1183"]
+    one.settings.R0 = 100.5
+    file.save()
+    file.duplicate(PROBE, "Probe 10 PRT-1183")
+    assert file["Probe 10 PRT-1183"] is other
+    assert other.settings.R0 == 100.5
+    one.settings.R0 = 100.25
+    file.save()
+    assert ProbeFile(laboratory)["Probe 10 PRT-1183"].settings.R0 == 100.5
+
+
+@pytest.mark.parametrize("give", [ProbeFile.rename, ProbeFile.duplicate])
+def test_the_name_of_a_probe_that_another_program_has_removed_goes_to_another_one(laboratory, give):
+    file = ProbeFile(laboratory)
+    gone = file["Probe 10 PRT-1183"]
+    with ProbeFile(laboratory) as theirs:
+        del theirs["Probe 10 PRT-1183"]
+        theirs[PROBE].settings.R0 = 100.5
+    give(file, PROBE, "Probe 10 PRT-1183")
+    assert gone.settings.R0 == 100
+    assert file["Probe 10 PRT-1183"] is not gone
+    assert file["Probe 10 PRT-1183"].settings.R0 == 100.5
+    gone.settings.R0 = 101
+    with pytest.raises(ValueError, match=r"\[Probe 10 PRT-1183\] was changed, but no longer belongs to"):
+        file.save()
 
 
 def test_a_probe_that_refuses_to_be_written_is_named_by_the_error(laboratory):
