@@ -203,15 +203,19 @@ namespace QuorConversions {
             }
         }
 
+        /// Tells the library the words of the error. Its number is returned whatever they are.
         static int Described(Exception exception) {
             const int Unexpected = unchecked((int)0x80004005);
-            var error = exception as QuorError ??
-                        new QuorError(Unexpected, exception.GetType().Name, exception.Message);
-            var number = error.Number != 0 ? error.Number : Unexpected;
-            using (var source = new TextIn(error.Source ?? ""))
-            using (var description = new TextIn(error.Message))
-            using (var helpFile = new TextIn(error.HelpFile ?? ""))
-                Native.quor_set_error(number, source.Value, description.Value, helpFile.Value, error.HelpContext);
+            var error = exception as QuorError;
+            var number = error != null && error.Number != 0 ? error.Number : Unexpected;
+            try {
+                using (var source = TextIn.Replaced(error != null ? error.Source : exception.GetType().Name))
+                using (var description = TextIn.Replaced(exception.Message))
+                using (var helpFile = TextIn.Replaced(error != null ? error.HelpFile : ""))
+                    Native.quor_set_error(number, source.Value, description.Value, helpFile.Value,
+                                          error != null ? error.HelpContext : 0);
+            } catch (Exception) { // Message may be the host's own
+            }
             return number;
         }
     }
@@ -264,10 +268,15 @@ namespace QuorConversions {
         static readonly Encoding s_utf8 = new UTF8Encoding(false, true);
         public readonly Text Value;
 
-        public TextIn(string text) {
+        public TextIn(string text) : this(text, s_utf8) {}
+
+        /// For people: half a pair becomes U+FFFD, and null an empty text.
+        public static TextIn Replaced(string text) { return new TextIn(text ?? "", Encoding.UTF8); }
+
+        TextIn(string text, Encoding encoding) {
             if (text == null)
                 throw new ArgumentNullException("text");
-            var bytes = s_utf8.GetBytes(text);
+            var bytes = encoding.GetBytes(text);
             Value.Bytes = Marshal.AllocHGlobal(bytes.Length + 1);
             Value.Size = (UIntPtr)bytes.Length;
             Marshal.Copy(bytes, 0, Value.Bytes, bytes.Length);

@@ -137,6 +137,29 @@ static class Tests {
         }
     }
 
+    sealed class Unspeakable : Exception {
+        public Func<string> Words;
+        public override string Message { get { return Words(); } }
+    }
+
+    static void AnExceptionWhoseWordsAreNoTextComesBackToo() {
+        using (var person = new Person())
+        using (var probe = CallendarVanDusen(person)) {
+            var words = new Func<string>[] {
+                () => "half of \ud83c", () => null, () => { throw new InvalidOperationException("no words"); }};
+            foreach (var word in words) {
+                var thrown = new Unspeakable {Words = word};
+                person.Seen = null;
+                person.Does = dialog => { throw thrown; };
+                Expect(ReferenceEquals(Raised<Unspeakable>(() => probe.Edit()), thrown), "as itself, whatever it says");
+                if (ReferenceEquals(word, words[0]) && person.Seen != null)
+                    Expect(person.Seen.Text.Contains("half of \ufffd"), "the message: " + person.Seen.Text);
+            }
+            person.Does = dialog => { throw new QuorError(4711, null, "half of \ud83c", null); };
+            Expect(Raised<QuorError>(() => probe.Edit()).Number == 4711, "the number of the host's own");
+        }
+    }
+
     /// Nobody but the library knows its platform.
     static CQuorConversion WithAForgottenPlatform() { return CallendarVanDusen(new Person {Looks = () => { s_looks++; }}); }
     static int s_looks;
@@ -232,6 +255,7 @@ static class Tests {
         AMessageReachesThePlatform();
         AnExceptionOfThePlatformComesBack();
         ThePersonReadsTheWordsOfAnExceptionAndLaterFunctionsRunAsEver();
+        AnExceptionWhoseWordsAreNoTextComesBackToo();
         APlatformLivesAsLongAsTheLibraryNeedsIt();
         ACallThatIsRefusedKeepsNoReference();
         EveryFunctionIsThereAndRefusesWhatIsNoHandle();
