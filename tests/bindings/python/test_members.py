@@ -216,6 +216,39 @@ def test_tables_of_functions_have_the_fields_that_the_header_has():
         assert [field for field, _ in offered._table._fields_] == declared, name
 
 
+CSHARP = {"int16_t": "short", "int32_t": "int", "uint64_t": "ulong", "double": "double", "void": "void", "quor_text": "Text",
+          "quor_int32s": "Array", "quor_doubles": "Array", "quor_error": "ErrorView", "void*": "IntPtr",
+          "const char*": "IntPtr", "const quor_platform_functions": "PlatformFunctions"}
+
+
+def in_csharp(declared, typedefs):
+    """The type of a parameter of C, as C# declares it: "quor_text* result" is "out Text"."""
+    of_type, name = re.fullmatch(r"(.*?)\s*(\w+)", declared).groups()
+    if of_type in CSHARP:
+        return CSHARP[of_type]
+    is_pointer = of_type.endswith("*")
+    of_type = of_type[:-1] if is_pointer else of_type
+    plain = CSHARP[typedefs.get(of_type, of_type)]
+    if not is_pointer:
+        return plain
+    # What the library only gives out; a variable that is read, too, has the same type in C.
+    is_out = name in ("result", "error", "count", "class_name", "platform") or name.endswith("_out")
+    return f"{'out' if is_out else 'ref'} {plain}"
+
+
+def test_the_functions_of_csharp_have_the_types_that_the_header_has():
+    header = re.sub(r"/\*.*?\*/", "", (ROOT / "component/quor.h").read_text(), flags=re.S)
+    typedefs = {name: of_type for of_type, name in re.findall(r"typedef (\w+) (\w+);", header)}
+    prototypes = {name: (result, " ".join(parameters.split()).split(", "))
+                  for result, name, parameters in re.findall(r"QUOR_API ([^;(]*?)\s*(\w+)\(([^)]*)\);", header)}
+    native = re.findall(r"static extern (\w+) (\w+)\((.*?)\);", (ROOT / "bindings/csharp/Quor.cs").read_text())
+    assert len(native) > 400
+    for result, name, parameters in native:
+        c_result, c_parameters = prototypes[name]
+        types = [parameter.rpartition(" ")[0] for parameter in parameters.split(", ")]
+        assert (name, result, types) == (name, CSHARP[c_result], [in_csharp(one, typedefs) for one in c_parameters])
+
+
 def test_a_number_that_its_type_does_not_hold_is_refused_and_not_cut():
     cvd = quor.Conversion(quor.ConversionType.CVD).settings
     with pytest.raises(OverflowError, match="65540 does not fit into 16 bits"):
