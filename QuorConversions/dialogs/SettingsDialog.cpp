@@ -318,6 +318,8 @@ void SettingsDialog::FormatText(const Field& field) {
         const std::wstring lost = AdviceOnShownValue(*number, text, separators);
         if (!lost.empty())
             m_notes[&field.box].formatted = lost;
+        if (text != field.box.Text())
+            m_notes[&field.box].keys.OnFormat();
         field.box.SetText(text);
         Advise(field);
     } catch (...) { // a row that the object refuses by now keeps the text that was typed
@@ -421,7 +423,8 @@ void SettingsDialog::PutPasted(TextBox& box, const PastedNumber& pasted, std::ws
     box.ReplaceSelection(*pasted.number);
     const bool isPart = box.Text() != *pasted.number;
     Notes& notes = m_notes[&box];
-    notes = {isPart ? std::move(notes.keys) : MissingKeys{}, {}, {}, {}};
+    notes.keys.OnPaste(box.Text(), !isPart, UserSeparators(*m_platform));
+    notes = {std::move(notes.keys), {}, {}, {}};
     notes.pasted = JoinAdvice(IsOfAnother(box, pasted) ? AdviceOnPastedFrom(text) : std::wstring{},
                               pasted.isToBeTold || isPart ? AdviceOnPasted(box.Text()) : std::wstring{});
     AdviseIfItCan(*FieldOf(box));

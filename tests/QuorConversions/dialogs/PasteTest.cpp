@@ -653,8 +653,8 @@ TEST_F(PasteTest, AKeyThatIsSwallowedIsToldUntilTheTextIsReplaced) {
              std::tuple(L"1\u00B75", L"15", L"\u00B7"),
              std::tuple(L"\u22125", L"5", L"\u2212"),
              std::tuple(L"\u20135", L"5", L"\u2013"),
-             std::tuple(L"5 k\u03A9", L"5", L"k\u03A9"),
-             std::tuple(L"50 %", L"50", L"%"),
+             std::tuple(L"5k\u03A9", L"5", L"k\u03A9"),
+             std::tuple(L"50%", L"50", L"%"),
          })
         Edit([&, typed = typed, reads = reads, keys = keys](Person& person) {
             SCOPED_TRACE(testing::PrintToString(typed));
@@ -716,6 +716,94 @@ TEST_F(PasteTest, BlanksAndApostrophesBetweenDigitsAreNotMissed) {
     Edit([&](Person& person) {
         person.Type(L"R0", L"1.5E 3");
         EXPECT_EQ(person.Advice(L"R0"), L"\"\u2423\" cannot be typed here");
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(PasteTest, ABlankOrApostropheThatGroupsNothingIsTold) {
+    for (const auto& [typed, reads, key] :
+         {std::tuple(L"3.9083 10E-3", L"3.908310E-3", L"\u2423"),
+          std::tuple(L"12 34.5", L"1234.5", L"\u2423"), std::tuple(L"1'5", L"15", L"'"),
+          std::tuple(L"100.01 2", L"100.012", L"\u2423"), std::tuple(L"1\u20195", L"15", L"\u2019")})
+        Edit([&, typed = typed, reads = reads, key = key](Person& person) {
+            SCOPED_TRACE(testing::PrintToString(typed));
+            const std::wstring advice = L"\"" + std::wstring(key) + L"\" cannot be typed here";
+            person.Type(L"R0", typed);
+            EXPECT_EQ(person.Reads(L"R0"), reads);
+            EXPECT_EQ(person.Advice(L"R0"), advice);
+            person.Tab();
+            EXPECT_EQ(person.Advice(L"R0"), advice);
+            person.Type(L"R0", L"7");
+            EXPECT_EQ(person.Advice(L"R0"), L"");
+            person.Click(L"Cancel");
+        });
+}
+
+TEST_F(PasteTest, ABlankAtTheEdgeOfANumberIsNotMissed) {
+    for (const wchar_t* const typed : {L" 12.5", L"12.5 ", L" 1 234.5 "})
+        Edit([&](Person& person) {
+            person.Type(L"R0", typed);
+            EXPECT_EQ(person.Advice(L"R0"), L"") << testing::PrintToString(typed);
+            person.Click(L"Cancel");
+        });
+    Edit([](Person& person) {
+        person.Type(L"R0", L"5 k\u03A9");
+        EXPECT_EQ(person.Advice(L"R0"), L"\"k\u03A9\" cannot be typed here");
+        person.TypeHere(L"7");
+        EXPECT_EQ(person.Reads(L"R0"), L"57");
+        EXPECT_EQ(person.Advice(L"R0"), L"\"\u2423k\u03A9\" cannot be typed here")
+            << "it is at the edge no more";
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(PasteTest, ABlankThatIsPressedAheadOfANewTextHidesNothingOfTheOldOne) {
+    const std::wstring advice = L"The decimal separator here is the point";
+    Edit([&](Person& person) {
+        person.Type(L"ALPHA", L"0,00385");
+        person.GoTo(L"R0");
+        person.GoTo(L"ALPHA");
+        person.TypeHere(L" ");
+        EXPECT_EQ(person.Reads(L"ALPHA"), L"000385");
+        EXPECT_EQ(person.Advice(L"ALPHA"), advice);
+        person.TypeHere(L"5");
+        EXPECT_EQ(person.Reads(L"ALPHA"), L"5");
+        EXPECT_EQ(person.Advice(L"ALPHA"), L"");
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(PasteTest, AMinusThatIsRefusedIsToldOfTheNumberThatIsPastedThen) {
+    const std::wstring advice = L"\"\u2212\" cannot be typed here";
+    Edit([&](Person& person) {
+        person.GoTo(L"ALPHA");
+        person.TypeHere(L"\u2212");
+        person.PasteHere(L"0.00058");
+        EXPECT_EQ(person.Reads(L"ALPHA"), L"0.00058");
+        EXPECT_EQ(person.Advice(L"ALPHA"), advice);
+        person.PasteHere(L"5");
+        EXPECT_EQ(person.Reads(L"ALPHA"), L"5");
+        EXPECT_EQ(person.Advice(L"ALPHA"), L"") << "it was meant for the number before";
+        person.Click(L"Cancel");
+    });
+}
+
+TEST_F(PasteTest, ASeparatorStaysDoubtfulWhenTheFormatHasAddedDecimals) {
+    const std::wstring advice = L"The decimal separator here is the point";
+    constexpr std::int16_t backspace = 8;
+    settings->SetValueFormat(0, L"0.00");
+    Edit([&](Person& person) {
+        person.Type(L"R0", L"1,234");
+        person.GoTo(L"ALPHA");
+        EXPECT_EQ(person.Reads(L"R0"), L"1234.00");
+        EXPECT_EQ(person.Advice(L"R0"), advice);
+        person.GoTo(L"R0");
+        dynamic_cast<TextBox&>(*person.Sees().Find(L"txtCoefficients(0)")).SetSelection(7, 0);
+        person.Press(backspace);
+        EXPECT_EQ(person.Reads(L"R0"), L"1234.0");
+        EXPECT_EQ(person.Advice(L"R0"), advice);
+        person.Type(L"R0", L"1234.0");
+        EXPECT_EQ(person.Advice(L"R0"), L"");
         person.Click(L"Cancel");
     });
 }
