@@ -153,9 +153,6 @@ class _Detached:
         for handle in self._handles:
             library.quor_release(handle)
 
-    def is_of(self, conversion: Conversion) -> bool:
-        return bool(self._handles[0] == conversion._handle)
-
     def is_reachable(self) -> bool:
         """Whether the host has an object of it, and no other file has taken it."""
         with _wrappers_lock:
@@ -206,7 +203,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
         self._file = _low.ProbeFile(self._path, create)
         self._probes: Dict[str, Tuple[str, Optional[Conversion], bool]] = {}  # folded -> section, None: removed, read
         self._before: Dict[str, int] = {}  # the types that were read
-        self._detached: List[_Detached] = []  # no longer of the file
+        self._detached: Dict[int, _Detached] = {}  # no longer of the file, by the handles of the conversions
 
     @property
     def path(self) -> str:
@@ -289,7 +286,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
         if there is None or there[1] is not conversion:
             self._probes[folded] = section, conversion, False
             conversion._file = weakref.ref(self)
-            self._detached = [one for one in self._detached if not one.is_of(conversion)]
+            self._detached.pop(conversion._handle, None)
 
     def duplicate(self, section: str, name: str) -> None:
         """Copies the probe, as the file has it, to another section, and saves at once. If that is a probe which was
@@ -347,8 +344,8 @@ class ProbeFile(MutableMapping[str, Conversion]):
 
     def save(self) -> None:
         """Saves all changes, additions and removals, or none of them."""
-        self._detached = [one for one in self._detached if one.is_reachable()]
-        for one in self._detached:
+        self._drop_unreachable()
+        for one in self._detached.values():
             if one.is_changed(self._file):
                 raise ValueError(f"the conversion of [{one.section}] was changed, but no longer belongs to {self._path}; "
                                  "get it from the file again")
@@ -374,6 +371,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
     def _reread(self, names: Iterable[str]) -> None:
         """Reads the accessed conversions of these folded names again. One that cannot have the values of the file keeps its
         own, and is detached. ProbeFileError for those that are incomplete, once all have been read."""
+        self._drop_unreachable()
         left = {name: (*self._probes.pop(name), self._before.pop(name, None)) for name in list(names)}
         incomplete: List[ProbeFileError] = []
         try:
@@ -407,8 +405,10 @@ class ProbeFile(MutableMapping[str, Conversion]):
         conversion._file = weakref.ref(self)
 
     def _detach(self, section: str, conversion: Conversion) -> None:
-        self._detached = [one for one in self._detached if one.is_reachable()]
-        self._detached.append(_Detached(self._file, section, conversion))
+        self._detached[conversion._handle] = _Detached(self._file, section, conversion)
+
+    def _drop_unreachable(self) -> None:
+        self._detached = {handle: one for handle, one in self._detached.items() if one.is_reachable()}
 
     def _let_go(self, section: str) -> None:
         """Detaches what was accessed under this name."""
