@@ -187,7 +187,8 @@ std::size_t AppendKeyLine(std::string& text, std::size_t start, std::string_view
 }
 
 /// What a line needs below that is rewritten, from `start` to `end`, as `line`: a blank line where it ends in
-/// a backslash and did not before, above whatever stands there. For a part of a line nothing.
+/// a backslash and did not before, above whatever stands there but an indented line. For a part of a line
+/// nothing.
 std::string_view BlankLineBelow(std::string_view text, std::size_t start, std::size_t end,
                                 std::string_view line) {
     if (!line.ends_with('\\') || text.substr(start, end - start).ends_with('\\'))
@@ -195,6 +196,9 @@ std::string_view BlankLineBelow(std::string_view text, std::size_t start, std::s
     const std::string_view below = text.substr(end);
     const std::size_t lineEnd = below.starts_with("\r\n") ? 2 : below.starts_with('\n') ? 1 : 0;
     if (lineEnd == 0 || lineEnd == below.size() || KindAt(text, end + lineEnd) == IniLineKind::Blank)
+        return {};
+    if (below[lineEnd] == ' ' ||
+        below[lineEnd] == '\t') // it continues the value, which nothing parts it from
         return {};
     return below.substr(0, lineEnd);
 }

@@ -170,6 +170,13 @@ TEST(IniStoreLayout, ALastLineWithoutAnEndStaysOne) {
               "[A]\r\nx=1\r\ny=2");
 }
 
+TEST(IniStoreLayout, AnIndentedLineBelowAValueThatGetsABackslashStaysWithIt) {
+    EXPECT_EQ(After("[A]\nk=v\n  more\n", [](IniStore& store) { store.WriteString(L"k", L"w\\"); }),
+              "[A]\nk=w\\\n  more\n");
+    EXPECT_EQ(After("[A]\nk=v\nmore=1\n", [](IniStore& store) { store.WriteString(L"k", L"w\\"); }),
+              "[A]\nk=w\\\n\nmore=1\n");
+}
+
 TEST(IniStoreLayout, ALineKeepsItsEndWhenTheLastSectionGoesAndAnotherComes) {
     EXPECT_EQ(After("[A]\r\nx=1\r\n[B]\ny=2\nz=3",
                     [](IniStore& store) {
