@@ -175,6 +175,7 @@ TEST_F(ScriptTest, ComplainsOfAFileDialogThatItDidNotExpect) {
 TEST_F(ScriptTest, EndsAtWhatAPersonCannotDo) {
     const std::pair<const wchar_t*, const wchar_t*> impossible[] = {
         {L"type R9 1", L"there is no \"R9\" in this dialog"},
+        {L"type R0 1 234.5", L"of \"1 234.5\" the box \"R0\" has \"1234.5\""},
         {L"click Apply", L"there is no \"Apply\" in this dialog"},
         {L"choose R0 x", L"\"R0\" is no list"},
         {L"page Low Range", L"there is no page \"Low Range\""}};
