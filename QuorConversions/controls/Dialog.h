@@ -184,6 +184,11 @@ public:
     void Focus(Control& control);
     /// The Tab key was pressed, with Shift if `backwards`.
     void Tab(bool backwards = false) { m_dialog.FocusNext(backwards); }
+    /// The code of a key that types a character: the 16 bits of the character, negative beyond 0x7FFF. What
+    /// has more than 16 bits is U+FFFD, which stands for a character that cannot be shown.
+    [[nodiscard]] static constexpr std::int16_t KeyAsciiOf(char32_t character) {
+        return static_cast<std::int16_t>(character > 0xFFFF ? 0xFFFD : character);
+    }
     /// A key with a character code was pressed in the box that has the focus. Returns the key to use instead,
     /// or 0 for none. The toolkit then changes the text as that key does, and reports it by Edit.
     [[nodiscard]] std::int16_t KeyPress(std::int16_t keyAscii);

@@ -1,5 +1,7 @@
 #include "toolkits/qt/TextBoxWidget.h"
 
+#include "QuorConversions/controls/Dialog.h"
+
 #include <QAction>
 #include <QContextMenuEvent>
 #include <QFontMetricsF>
@@ -21,7 +23,6 @@ namespace {
 constexpr std::int16_t backspaceKey = 8;
 constexpr std::int16_t enterKey = 13;
 constexpr std::int16_t pasteKey = 22;
-constexpr std::int16_t noSuchKey = -1;
 
 /// Keys that stand for what they do, in whatever combination the system has for it.
 const struct {
@@ -64,8 +65,7 @@ std::int16_t KeyAsciiOf(const QKeyEvent& event) {
         return enterKey;
     if (!IsTyped(event))
         return 0;
-    const char16_t character = event.text().front().unicode();
-    return character <= 0x7FFF ? static_cast<std::int16_t>(character) : noSuchKey;
+    return DialogInput::KeyAsciiOf(event.text().toUcs4().front());
 }
 
 TextBoxWidget::TextBoxWidget(KeyFilter filter, PasteHandler paste, QWidget* parent)
@@ -102,7 +102,7 @@ void TextBoxWidget::keyPressEvent(QKeyEvent* event) {
     if (pressed == 0)
         return QLineEdit::keyPressEvent(event);
     event->accept();
-    const std::int16_t counts = pressed == noSuchKey ? std::int16_t{0} : m_filter(pressed);
+    const std::int16_t counts = m_filter(pressed);
     if (counts == 0 || counts == enterKey) // an Enter that nobody took does nothing to a line of text
         return;
     // X11 has a key for the text that is selected elsewhere, too.
@@ -114,6 +114,17 @@ void TextBoxWidget::keyPressEvent(QKeyEvent* event) {
         QLineEdit::keyPressEvent(event);
     else
         Perform(counts);
+}
+
+void TextBoxWidget::inputMethodEvent(QInputMethodEvent* event) {
+    QInputMethodEvent composed(event->preeditString(), event->attributes());
+    composed.setCommitString({}, event->replacementStart(), event->replacementLength());
+    QLineEdit::inputMethodEvent(&composed);
+    for (const char32_t character : event->commitString().toUcs4()) { // they are keys like all others
+        QKeyEvent key(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString::fromUcs4(&character, 1));
+        keyPressEvent(&key);
+    }
+    event->accept();
 }
 
 void TextBoxWidget::Perform(std::int16_t keyAscii) {
@@ -129,8 +140,8 @@ void TextBoxWidget::Perform(std::int16_t keyAscii) {
         }
     if (keyAscii == backspaceKey)
         backspace();
-    else if (keyAscii >= ' ')
-        insert(QString(QChar(keyAscii)));
+    else if (const QChar typed(static_cast<char16_t>(keyAscii)); typed >= u' ')
+        insert(QString(typed));
 }
 
 void TextBoxWidget::focusInEvent(QFocusEvent* event) {

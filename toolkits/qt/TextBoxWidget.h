@@ -10,7 +10,7 @@ namespace QuorConversions::QtToolkit {
 
 /// The key code by which the dialogs know a key: that of its character, or 3 copy, 22 paste, 24 cut, 26 undo,
 /// 8 backspace, 13 Enter. 0 for a key that is no character, as the arrows, Home, Delete, Tab and the function
-/// keys are. A character whose code no key can have, beyond 0x7FFF, is -1.
+/// keys are.
 [[nodiscard]] std::int16_t KeyAsciiOf(const QKeyEvent& event);
 
 /// A box for a value: as wide as the longest number, which stands at its right edge and is written from left
@@ -33,6 +33,7 @@ public:
 protected:
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

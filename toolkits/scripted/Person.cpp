@@ -127,8 +127,7 @@ void Person::Paste(std::wstring_view box, const std::wstring& text) {
 
 void Person::TypeHere(std::wstring_view text) {
     for (const wchar_t character : text)
-        if (static_cast<std::uint32_t>(character) <= 0x7FFF) // no key has a greater code
-            Press(static_cast<std::int16_t>(character));
+        Press(DialogInput::KeyAsciiOf(static_cast<char32_t>(character)));
 }
 
 void Person::GoTo(std::wstring_view control) { OnOpenDialog().GoTo(Find(control)); }

@@ -547,13 +547,13 @@ LRESULT Win32Dialog::OnBox(TextBox& box, HWND window, UINT message, WPARAM w, LP
             return 0;
         }
         const bool isEditing = std::find(editingKeys.begin(), editingKeys.end(), w) != editingKeys.end();
-        if (!isEditing && (w < L' ' || w == 127 || w > 0x7FFF)) // what no key of the model is
+        if (!isEditing && (w < L' ' || w == 127)) // what no key of the model is
             return 0;
         std::int16_t counts = 0;
         Report([&] { counts = m_input.KeyPress(static_cast<std::int16_t>(w)); });
         if (counts == 0 || counts == 13) // a line of text knows no Enter
             return 0;
-        w = static_cast<WPARAM>(counts);
+        w = static_cast<std::uint16_t>(counts);
         if (w == pasteKey) {
             PasteInto(box, window);
             return 0;

@@ -653,6 +653,8 @@ TEST_F(PasteTest, AKeyThatIsSwallowedIsToldUntilTheTextIsReplaced) {
              std::tuple(L"1\u00B75", L"15", L"\u00B7"),
              std::tuple(L"\u22125", L"5", L"\u2212"),
              std::tuple(L"\u20135", L"5", L"\u2013"),
+             std::tuple(L"\uFF0D5", L"5", L"\uFF0D"),
+             std::tuple(L"\uFF11\uFF125", L"5", L"\uFF11\uFF12"),
              std::tuple(L"5k\u03A9", L"5", L"k\u03A9"),
              std::tuple(L"50%", L"50", L"%"),
          })

@@ -61,9 +61,9 @@ const Key keys[] = {
     {"EuroByAltGr", Qt::Key_E, altGr, u"\u20AC", 0x20AC},
     {"AtByTheSwitchOfGroups", Qt::Key_At, Qt::GroupSwitchModifier, u"@", '@'},
     {"ArabicSeparator", Qt::Key_unknown, none, u"\u066B", 0x66B},
-    {"LastCharacterThatAKeyCanHave", Qt::Key_unknown, none, u"\u7FFF", 0x7FFF},
-    {"FirstCharacterThatNoKeyCanHave", Qt::Key_unknown, none, u"\u8000", -1},
-    {"CharacterOfTwoUnits", Qt::Key_unknown, none, u"\U0001F321", -1},
+    {"GreatestPositiveCode", Qt::Key_unknown, none, u"\u7FFF", 0x7FFF},
+    {"FullWidthMinus", Qt::Key_unknown, none, u"\uFF0D", 0xFF0D - 0x10000},
+    {"CharacterOfTwoUnits", Qt::Key_unknown, none, u"\U0001F321", 0xFFFD - 0x10000},
     {"Left", Qt::Key_Left, none, u"", 0},
     {"Right", Qt::Key_Right, shift, u"", 0},
     {"Home", Qt::Key_Home, none, u"", 0},
@@ -152,9 +152,9 @@ TEST_F(TextBoxWidgetTest, TypesAReplacedKeyOverWhatIsSelected) {
 }
 
 TEST_F(TextBoxWidgetTest, TypesAReplacedKeyWithTheHighestCode) {
-    answer = [](std::int16_t) { return std::int16_t{0x7FFF}; };
+    answer = [](std::int16_t) { return std::int16_t{-1}; };
     QTest::keyClick(&box, '1');
-    EXPECT_EQ(box.text(), QString(QChar(0x7FFF)));
+    EXPECT_EQ(box.text(), QString(QChar(0xFFFF)));
 }
 
 TEST_F(TextBoxWidgetTest, TypesNothingForAKeyThatTheFilterSwallows) {
@@ -171,11 +171,9 @@ TEST_F(TextBoxWidgetTest, TypesNothingForAKeyThatTheFilterSwallows) {
     EXPECT_EQ(asked, (Codes{'x', 8, 22, 24, 13}));
 }
 
-TEST_F(TextBoxWidgetTest, AsksNobodyForACharacterThatNoKeyCanHaveAndTypesNothing) {
-    Press(Qt::Key_unknown, QString(QChar(0x8000)));
-    Press(Qt::Key_unknown, QString::fromUtf16(u"\U0001F321"));
-    EXPECT_EQ(Text(), "");
-    EXPECT_EQ(asked, Codes{});
+TEST_F(TextBoxWidgetTest, TypesTheCharacterThatPassesWhateverItsCode) {
+    Press(Qt::Key_unknown, QString(QChar(0xFF15)));
+    EXPECT_EQ(box.text(), QString(QChar(0xFF15)));
 }
 
 TEST_F(TextBoxWidgetTest, CopiesPastesCutsUndoesAndDeletesBackwards) {
@@ -247,13 +245,23 @@ TEST_F(TextBoxWidgetTest, TypesNothingForAnInvisibleMarkWithControl) {
     EXPECT_EQ(box.text().size(), 0) << "a number with a mark that nobody sees is none";
 }
 
-TEST_F(TextBoxWidgetTest, TakesWhatAnInputMethodCommits) {
-    answer = [](std::int16_t) { return std::int16_t{0}; };
+TEST_F(TextBoxWidgetTest, AsksForEachCharacterThatAnInputMethodCommits) {
+    answer = [](std::int16_t keyAscii) { return keyAscii == '5' ? keyAscii : std::int16_t{0}; };
+    box.setText(QStringLiteral("12"));
+    box.selectAll();
     QInputMethodEvent typed;
-    typed.setCommitString(QString::fromUtf16(u"\u6E29\U0001F321"));
+    typed.setCommitString(QString::fromUtf16(u"\uFF0D5\U0001F321"));
     QApplication::sendEvent(&box, &typed);
-    EXPECT_EQ(box.text(), QString::fromUtf16(u"\u6E29\U0001F321"));
-    EXPECT_EQ(asked, Codes{});
+    EXPECT_EQ(Text(), "5");
+    EXPECT_EQ(asked, (Codes{0xFF0D - 0x10000, '5', 0xFFFD - 0x10000}));
+}
+
+TEST_F(TextBoxWidgetTest, ReplacesWhatAnInputMethodReplaces) {
+    box.setText(QStringLiteral("12"));
+    QInputMethodEvent typed;
+    typed.setCommitString(QStringLiteral("34"), -1, 1);
+    QApplication::sendEvent(&box, &typed);
+    EXPECT_EQ(Text(), "134");
 }
 
 TEST_F(TextBoxWidgetTest, TakesATextThatIsDroppedOnIt) {
