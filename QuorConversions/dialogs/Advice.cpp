@@ -87,6 +87,10 @@ std::wstring AdviceOnNoRoom(std::size_t cells) {
     return Filled(IDS_PASTE_HAS_NO_ROOM, std::to_wstring(cells));
 }
 
+std::wstring AdviceOnEmptyCell(std::size_t line, std::size_t column) {
+    return Filled(IDS_PASTE_HAS_EMPTY_CELL, std::to_wstring(line), std::to_wstring(column));
+}
+
 std::wstring AdviceOnPasted(const std::wstring& number) { return Filled(IDS_PASTED_AS, number); }
 
 std::wstring AdviceOnPastedFrom(std::wstring_view text) {

@@ -25,6 +25,8 @@ namespace QuorConversions {
 [[nodiscard]] std::wstring AdviceOnRefusedPaste(std::wstring_view text, PasteRefusal refusal);
 /// Of cells that were not pasted.
 [[nodiscard]] std::wstring AdviceOnNoRoom(std::size_t cells);
+/// Of cells of which one is empty, at that place, counted from 1.
+[[nodiscard]] std::wstring AdviceOnEmptyCell(std::size_t line, std::size_t column);
 /// Of a number that was read from a text with another reading.
 [[nodiscard]] std::wstring AdviceOnPasted(const std::wstring& number);
 /// Of a number that the text says to be of something else than the box: "B = -5.775E-7", "25.5 mV".

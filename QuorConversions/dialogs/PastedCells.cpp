@@ -96,6 +96,14 @@ PastedCells SplitIntoCells(std::wstring_view text) {
     return cells;
 }
 
+std::optional<CellPlace> EmptyCell(const PastedCells& cells) {
+    for (std::size_t line = 0; line < cells.size(); ++line)
+        for (std::size_t column = 0; column < cells[line].size(); ++column)
+            if (IsEmptyAt(cells[line], column))
+                return CellPlace{line + 1, column + 1};
+    return std::nullopt;
+}
+
 std::optional<std::vector<TextBox*>> BoxesFor(const PastedCells& cells, const TextBox& first) {
     if (!first.Parent())
         return std::nullopt;

@@ -159,13 +159,13 @@ SettingsDialog::Field& SettingsDialog::AddField(Label& label, TextBox& box, std:
 }
 
 void SettingsDialog::ShowValue(const Field& field) {
-    m_notes.erase(&field.box);
+    Forget(field.box);
     field.box.SetText(FormatValue(field.get(), field.format(), UserSeparators(*m_platform)));
     Advise(field);
 }
 
 void SettingsDialog::ClearText(const Field& field) {
-    m_notes.erase(&field.box);
+    Forget(field.box);
     field.box.SetText({});
     AdviseIfItCan(field);
 }
@@ -285,11 +285,22 @@ bool SettingsDialog::Accept() {
     try {
         if (!GatherSettings())
             return false;
+        AdviseOnStored();
         context = IDS_VALIDATING_SETTINGS;
         return ValidateSettings();
     } catch (...) {
         ReportError(context);
         return false;
+    }
+}
+
+void SettingsDialog::AdviseOnStored() {
+    for (const Field& field : m_fields) {
+        if (!IsGathered(field))
+            continue;
+        m_notes[&field.box].formatted.clear();
+        Remember(field.box);
+        AdviseIfItCan(field);
     }
 }
 
@@ -321,6 +332,7 @@ void SettingsDialog::FormatText(const Field& field) {
         if (text != field.box.Text())
             m_notes[&field.box].keys.OnFormat();
         field.box.SetText(text);
+        Remember(field.box);
         Advise(field);
     } catch (...) { // a row that the object refuses by now keeps the text that was typed
     }
@@ -329,10 +341,13 @@ void SettingsDialog::FormatText(const Field& field) {
 void SettingsDialog::OnKeyPress(TextBox& box, std::int16_t& keyAscii) {
     const std::int16_t pressed = keyAscii;
     FilterNumericKeyExp(keyAscii, GetDecimalSeparator(*m_platform));
+    m_typed = IsPrintable(pressed) && keyAscii != 0;
     const Field* const field = FieldOf(box);
     if (field && IsPrintable(pressed)) {
         m_notes[&box].keys.OnKey(box, CharacterOf(pressed), CharacterOf(keyAscii),
                                  UserSeparators(*m_platform));
+        if (keyAscii == 0)
+            Remember(box);
         AdviseIfItCan(*field);
     }
     EnterToTab(keyAscii, *this, nullptr, false);
@@ -378,9 +393,33 @@ void SettingsDialog::OnEdit(TextBox& box) {
     if (!field)
         return;
     Notes& notes = m_notes[&box];
-    notes.keys.OnText(box.Text(), UserSeparators(*m_platform));
-    notes = {std::move(notes.keys), {}, {}, {}};
+    const auto& earlier = m_earlier[&box];
+    const auto found = std::exchange(m_typed, false) ? earlier.end() : earlier.find(box.Text());
+    if (found == earlier.end()) {
+        notes.keys.OnText(box.Text(), UserSeparators(*m_platform));
+        notes = {std::move(notes.keys), {}, {}, {}};
+        Remember(box);
+    } else {
+        notes = found->second;
+    }
     AdviseIfItCan(*field);
+}
+
+void SettingsDialog::Remember(const TextBox& box) {
+    const Notes& notes = m_notes[&box];
+    auto& earlier = m_earlier[&box];
+    constexpr std::size_t most = 1000; // of a key that is held down
+    if (earlier.size() >= most || (notes.keys.Advice() + notes.formatted + notes.pasted).empty()) {
+        earlier.erase(box.Text());
+        return;
+    }
+    Notes& kept = earlier[box.Text()] = {notes.keys, notes.formatted, notes.pasted, {}};
+    kept.keys.OnLeave();
+}
+
+void SettingsDialog::Forget(const TextBox& box) {
+    m_notes.erase(&box);
+    m_earlier.erase(&box);
 }
 
 void SettingsDialog::OnPaste(TextBox& box, const std::wstring& text) {
@@ -427,6 +466,7 @@ void SettingsDialog::PutPasted(TextBox& box, const PastedNumber& pasted, std::ws
     notes = {std::move(notes.keys), {}, {}, {}};
     notes.pasted = JoinAdvice(IsOfAnother(box, pasted) ? AdviceOnPastedFrom(text) : std::wstring{},
                               pasted.isToBeTold || isPart ? AdviceOnPasted(box.Text()) : std::wstring{});
+    Remember(box);
     AdviseIfItCan(*FieldOf(box));
     if (&box != ActiveControl())
         FormatText(*FieldOf(box)); // it will not be left, as the box that is pasted into
@@ -460,6 +500,8 @@ bool SettingsDialog::IsOfAnother(const TextBox& box, const PastedNumber& pasted)
 }
 
 void SettingsDialog::PasteCells(TextBox& box, const PastedCells& cells) {
+    if (const auto empty = EmptyCell(cells))
+        return RefusePaste(box, AdviceOnEmptyCell(empty->line, empty->column));
     const std::wstring& separator = GetDecimalSeparator(*m_platform);
     std::vector<PastedNumber> numbers;
     std::vector<std::wstring_view> texts;

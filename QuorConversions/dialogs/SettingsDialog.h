@@ -130,8 +130,14 @@ private:
     void Advise(const Field& field) const;
     /// The same, quietly where the object refuses the row by now.
     void AdviseIfItCan(const Field& field) const;
+    /// The same of all boxes, once the object has stored what they show.
+    void AdviseOnStored();
     /// Puts the text of a box into the format of its field, where it is a number.
     void FormatText(const Field& field);
+    /// Keeps what is told of the text of a box for when Undo brings that text back.
+    void Remember(const TextBox& box);
+    /// Drops all that was told of the texts of a box.
+    void Forget(const TextBox& box);
     /// Tells why nothing was pasted.
     void RefusePaste(TextBox& box, std::wstring why);
     void PasteNumber(TextBox& box, std::wstring_view text);
@@ -153,6 +159,8 @@ private:
     std::vector<PushButton*> m_okCancelHelp;
     std::deque<Field> m_fields;
     std::map<const TextBox*, Notes> m_notes;
+    std::map<const TextBox*, std::map<std::wstring, Notes>> m_earlier; ///< of texts that a box has had
+    bool m_typed = false;                                              ///< the last key types a character
     bool m_cancelled = false;
     bool m_activated = false;
     bool m_loading = false;

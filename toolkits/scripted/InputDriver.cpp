@@ -17,12 +17,20 @@ void ModelInputDriver::SelectAll() {
 
 void ModelInputDriver::Press(std::int16_t keyAscii) {
     constexpr std::int16_t backspace = 8;
+    constexpr std::int16_t undo = 26;
     const std::int16_t key = m_input.KeyPress(keyAscii);
     TextBox* const box = ActiveBox();
-    const bool changesText = key == backspace || key >= 32; // copy and the like have no clipboard here
+    const bool changesText =
+        key == backspace || key == undo || key >= 32; // copy and the like have no clipboard here
     if (!changesText || !box)
         return;
     std::wstring text = box->Text();
+    const auto before = std::exchange(m_before, {box, text});
+    if (key == undo) {
+        if (before.first == box)
+            m_input.Edit(*box, before.second, before.second.size(), 0);
+        return;
+    }
     std::size_t at = box->SelStart();
     const std::size_t selected = box->SelLength();
     if (key == backspace && selected == 0 && at > 0)
@@ -35,8 +43,10 @@ void ModelInputDriver::Press(std::int16_t keyAscii) {
 }
 
 void ModelInputDriver::Paste(const std::wstring& text) {
-    if (TextBox* const box = ActiveBox())
+    if (TextBox* const box = ActiveBox()) {
+        m_before = {box, box->Text()};
         m_input.Paste(*box, text);
+    }
 }
 
 } // namespace QuorConversions::Scripted

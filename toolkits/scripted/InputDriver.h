@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <utility>
 
 namespace QuorConversions::Scripted {
 
@@ -63,6 +64,7 @@ private:
 
     Dialog& m_dialog;
     DialogInput& m_input;
+    std::pair<const TextBox*, std::wstring> m_before; ///< a box, and its text before the last change
 };
 
 } // namespace QuorConversions::Scripted

@@ -108,6 +108,7 @@ TEST_F(StringTableTest, HoldsTheTextsUnderTheirNumbers) {
         {207, L"A system error has occurred"},
         {209, L"PT100"},
         {210, L"\"~\" cannot be typed here"},
+        {211, L"Nothing pasted: the cell in line ~, column ~ is empty"},
     };
     for (const auto& [id, text] : texts)
         EXPECT_EQ(TableText(id), text) << id;

@@ -595,6 +595,10 @@
         <source>Nothing pasted: there is no room for ~ numbers</source>
         <translation>Nichts eingefügt: Für ~ Zahlen ist kein Platz</translation>
     </message>
+    <message>
+        <source>Nothing pasted: the cell in line ~, column ~ is empty</source>
+        <translation>Nichts eingefügt: Die Zelle in Zeile ~, Spalte ~ ist leer</translation>
+    </message>
 </context>
 <context>
     <name>HelpWindow</name>
