@@ -1,5 +1,6 @@
 #include "component/Host.h"
 
+#include "QuorConversions/core/RecordNames.h"
 #include "QuorIniFile/IniStore.h"
 #include "QuorIniFile/Utf8.h"
 #include "component/Call.h"
@@ -24,12 +25,16 @@ private:
     std::string m_bytes;
 };
 
-/// A read that puts a value and whether it was found.
+/// A read that puts a value and whether it was found. The host may have cleared the value where it was not.
 template <class Value>
 bool Read(std::int32_t (*function)(void*, quor_text, Value*, std::int16_t*), void* user,
           std::wstring_view key, Value& value) {
     std::int16_t found = 0;
-    CallHost(iniFileSource, function, user, TextForHost(key).Get(), &value, &found);
+    Value read = value;
+    CallHost(iniFileSource, function, user, TextForHost(key).Get(), &read, &found);
+    // What a host has put in the place of a missing type is the type (CQuorConversion::ReadFromFile).
+    if (found != 0 || key == conversionTypeKey)
+        value = read;
     return found != 0;
 }
 

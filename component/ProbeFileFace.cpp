@@ -1,9 +1,11 @@
 #include "component/ProbeFileFace.h"
 
+#include "QuorProbeFile/ProbeNames.h"
 #include "component/Errors.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <limits>
 #include <optional>
 #include <type_traits>
 #include <unordered_set>
@@ -64,24 +66,43 @@ template <class Body>
 
 // ---- ProbeTableFace
 
-void ProbeTableFace::Add(std::wstring_view section, const CQuorConversion* conversion, std::size_t problems) {
-    m_sections.append(section).append(L"\n");
-    m_types.push_back(conversion ? conversion->ConversionType() : CONV_NONE);
-    m_problemCounts.push_back(conversion ? static_cast<std::int32_t>(problems) : -1);
+void ProbeTableFace::Add(const QuorProbeFile::ReadOutcome& outcome, const CQuorConversion& conversion) {
+    const std::wstring& section = outcome.probe.section;
+    const std::wstring root = outcome.probe.standAlone ? section : QuorProbeFile::SettingsSection(section);
+    bool isRefused = false; // and holds nothing but defaults
+    std::unordered_set<std::wstring> defaults;
+    for (const ProbeProblem& problem : outcome.problems) {
+        isRefused =
+            isRefused || problem.kind == PROBLEM_RECORD_REFUSED || problem.kind == PROBLEM_VALUE_REFUSED;
+        defaults.insert(QuorProbeFile::PathOf(root, problem.section, problem.key));
+    }
     std::wstring keys;
-    if (const auto settings = conversion ? conversion->Settings() : nullptr) {
+    if (const auto settings = conversion.Settings()) {
         const auto image = RecordImage::Of(*settings);
         for (const RecordImage::Entry& entry : image->Entries()) {
             std::visit(
                 [&](const auto& value) {
                     if constexpr (std::is_arithmetic_v<std::remove_cvref_t<decltype(value)>>) {
                         keys.append(keys.empty() ? L"" : L"\t").append(entry.path);
-                        m_values.push_back(static_cast<double>(value));
+                        m_values.push_back(isRefused || defaults.contains(entry.path)
+                                               ? std::numeric_limits<double>::quiet_NaN()
+                                               : static_cast<double>(value));
                     }
                 },
                 entry.value);
         }
     }
+    Finish(section, conversion.ConversionType(),
+           static_cast<std::int32_t>(outcome.problems.size() + outcome.messages.size()), std::move(keys));
+}
+
+void ProbeTableFace::AddUnreadable(std::wstring_view section) { Finish(section, CONV_NONE, -1, {}); }
+
+void ProbeTableFace::Finish(std::wstring_view section, EQuorConversionType type, std::int32_t problems,
+                            std::wstring keys) {
+    m_sections.append(section).append(L"\n");
+    m_types.push_back(type);
+    m_problemCounts.push_back(problems);
     const auto [list, isNew] =
         m_keyListNumbers.try_emplace(std::move(keys), static_cast<std::int32_t>(m_keyListNumbers.size()));
     if (isNew)
@@ -111,6 +132,12 @@ auto ProbeFileFace::Do(Body&& body) {
         m_messages = error.Messages();
         throw;
     }
+}
+
+template <class Body>
+void ProbeFileFace::DoAndKnow(Body&& body) {
+    Do(std::forward<Body>(body));
+    m_loaded.clear();
 }
 
 const ProbeEntry& ProbeFileFace::Probe(std::int32_t index) { return At(m_file.Probes(), index); }
@@ -179,10 +206,9 @@ std::shared_ptr<ProbeTableFace> ProbeFileFace::ReadAll() {
         CQuorConversion conversion;
         for (const ProbeEntry& probe : m_file.Probes()) {
             try {
-                const QuorProbeFile::ReadOutcome outcome = m_file.Read(probe.section, conversion);
-                table->Add(probe.section, &conversion, outcome.problems.size() + outcome.messages.size());
+                table->Add(m_file.Read(probe.section, conversion), conversion);
             } catch (const ProbeFileError&) { // its type cannot be read
-                table->Add(probe.section, nullptr, 0);
+                table->AddUnreadable(probe.section);
             }
         }
         return table;
@@ -216,14 +242,14 @@ void ProbeFileFace::Remember(const std::weak_ptr<CQuorConversion>& conversion, R
 
 void ProbeFileFace::Take(std::function<void()> step) {
     if (m_depth == 0)
-        Do(step);
+        DoAndKnow(step);
     else
         Do([&] { m_steps.push_back({.other = std::move(step)}); });
 }
 
 void ProbeFileFace::Write(std::wstring_view section, const Conversion& conversion) {
     if (m_depth == 0) {
-        Do([&] {
+        DoAndKnow([&] {
             m_file.Write(section, *conversion);
             Remember(conversion, m_file.Record(section));
         });
@@ -251,8 +277,12 @@ bool ProbeFileFace::WriteChanges(std::wstring_view section, const Conversion& co
         const auto known = m_records.find(conversion);
         if (known == m_records.end() && std::none_of(m_steps.begin(), m_steps.end(), isWritten))
             Throw(QUOR_ERROR_ARGUMENT, L"This object has neither read nor written the conversion");
-        if (m_depth == 0)
-            return MergeInto(section, *conversion, known->second);
+        if (m_depth == 0) {
+            const bool isDone = MergeInto(section, *conversion, known->second);
+            if (isDone)
+                m_loaded.clear();
+            return isDone;
+        }
         m_steps.push_back({std::wstring(section), Copied(m_file, section, *conversion), conversion,
                            known == m_records.end() ? RecordAsRead() : known->second});
         m_steps.back().isReadAnew = TakeReadAnew(conversion);
@@ -275,6 +305,37 @@ void ProbeFileFace::Copy(std::wstring section, std::wstring toSection) {
 void ProbeFileFace::CopyFrom(ProbeFileFace& source, std::wstring section, std::wstring toSection) {
     Take([this, from = source.weak_from_this(), section = std::move(section), to = std::move(toSection)] {
         m_file.CopyFrom(StillThere(from)->m_file, section, to);
+    });
+}
+
+auto ProbeFileFace::Look(std::wstring_view section) -> Present {
+    try {
+        return {m_file.Record(section)};
+    } catch (const ProbeFileError& error) {
+        return {{}, error.Code()};
+    }
+}
+
+void ProbeFileFace::RequireUnchanged(std::wstring section, const Conversion& conversion) {
+    const auto known = m_records.find(conversion);
+    Present before;
+    if (known != m_records.end() && QuorProbeFile::EqualFolded(known->second.Section(), section))
+        before.record = known->second;
+    else if (const auto loaded = m_loaded.find(Folded(section)); loaded != m_loaded.end())
+        before = loaded->second;
+    else
+        before = m_loaded[Folded(section)] = Look(section);
+    Take([this, section = std::move(section), before = std::move(before)] {
+        m_file.Edit([&] {
+            const Present now = Look(section);
+            if (now.code == before.code && before.record.HasSameValues(now.record))
+                return;
+            m_conflicts = {{section, {}, {}, {}, {}}};
+            throw QuorIniFile::QuorError(
+                changedMeanwhile, L"QuorProbeFile",
+                Path() + L": [" + section +
+                    L"]: another program has changed, added or removed the probe meanwhile");
+        });
     });
 }
 
@@ -328,7 +389,7 @@ void ProbeFileFace::Release() {
         return;
     const std::vector<Step> steps = std::exchange(m_steps, {});
     const auto readAnew = std::exchange(m_readAnew, {});
-    Do([&] {
+    DoAndKnow([&] {
         if (std::exchange(m_isAbandoned, false))
             Throw(changedMeanwhile, Path() + L": nothing is written: a bracket was abandoned");
         Records records;
@@ -357,7 +418,7 @@ void ProbeFileFace::SaveAs(std::wstring_view path) {
 bool ProbeFileFace::Changed() { return m_file.Changed(); }
 
 void ProbeFileFace::Reload() {
-    Do([&] { m_file.Reload(); });
+    DoAndKnow([&] { m_file.Reload(); });
 }
 
 } // namespace QuorConversions::Component

@@ -37,10 +37,15 @@ public:
     [[nodiscard]] std::span<const std::int32_t> ValueEnds() const { return m_valueEnds; }
     [[nodiscard]] std::span<const double> Values() const { return m_values; }
 
-    /// Adds a probe that was read, with that many problems; `conversion` null for one that cannot be read.
-    void Add(std::wstring_view section, const CQuorConversion* conversion, std::size_t problems);
+    /// Adds a probe that was read. Numbers that could not be read are NaN.
+    void Add(const QuorProbeFile::ReadOutcome& outcome, const CQuorConversion& conversion);
+    /// Adds a probe whose type cannot be read.
+    void AddUnreadable(std::wstring_view section);
 
 private:
+    void Finish(std::wstring_view section, EQuorConversionType type, std::int32_t problems,
+                std::wstring keys);
+
     std::wstring m_sections;
     std::vector<std::int32_t> m_types;
     std::vector<std::int32_t> m_problemCounts;
@@ -94,6 +99,8 @@ public:
     void Copy(std::wstring section, std::wstring toSection);
     void CopyFrom(ProbeFileFace& source, std::wstring section, std::wstring toSection);
 
+    void RequireUnchanged(std::wstring section, const Conversion& conversion);
+
     void Hold() { ++m_depth; }
     void Release();
     void Abandon();
@@ -120,14 +127,24 @@ private:
     /// What was read into the conversions of a host, or written from them.
     using Records = std::map<std::weak_ptr<CQuorConversion>, RecordAsRead, std::owner_less<>>;
 
+    /// A probe as the file has it, or why there is none.
+    struct Present {
+        RecordAsRead record = {};
+        EProbeFileError code = {};
+    };
+
     [[nodiscard]] const QuorProbeFile::ProbeEntry& Probe(std::int32_t index);
     [[nodiscard]] const QuorProbeFile::ProbeProblem& Problem(std::int32_t index) const;
     [[nodiscard]] const QuorProbeFile::RecordConflict& Conflict(std::int32_t index) const;
     /// Calls the file and keeps what is wrong with it. What was told of the call before is forgotten.
     template <class Body>
     auto Do(Body&& body);
+    /// The same of a call that writes or reloads, after which the text is the one that the host knows.
+    template <class Body>
+    void DoAndKnow(Body&& body);
     /// Takes the step now, or at the end of the bracket.
     void Take(std::function<void()> step);
+    [[nodiscard]] Present Look(std::wstring_view section);
     /// Takes all steps. What the records of the conversions are then.
     [[nodiscard]] Records TakeAll(const std::vector<Step>& steps);
     void TakeChanges(const Step& step, Records& records);
@@ -151,6 +168,9 @@ private:
     /// Those that were read in this bracket, since their last step.
     std::set<std::weak_ptr<CQuorConversion>, std::owner_less<>> m_readAnew;
     std::size_t m_recordsToLookThrough = 64; ///< for conversions that are gone, when there are so many
+    /// What RequireUnchanged has found as it was loaded, by folded sections: a bracket that fails loads the
+    /// current file.
+    std::map<std::wstring, Present> m_loaded;
     std::vector<Step> m_steps;
     int m_depth = 0;
     bool m_isAbandoned = false;

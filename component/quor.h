@@ -265,7 +265,8 @@ typedef struct quor_inifile_functions {
     int32_t (*put_section)(void* user, quor_text section);
     int32_t (*get_section)(void* user);
     /* If the section has the key with a value of that type, sets `found` to True and `value` to the value; read_string
-     * returns the text by quor_answer. Otherwise sets `found` to False, which is not an error. */
+     * returns the text by quor_answer. Otherwise sets `found` to False, which is not an error, and leaves `value` alone: it
+     * has the value that stays. */
     int32_t (*read_boolean)(void* user, quor_text key, quor_bool* value, quor_bool* found);
     int32_t (*read_double)(void* user, quor_text key, double* value, quor_bool* found);
     int32_t (*read_integer)(void* user, quor_text key, int16_t* value, quor_bool* found);
@@ -1646,7 +1647,7 @@ QUOR_API int32_t quor_probe_file_WriteChanges(quor_object probe_file, quor_text 
 QUOR_API int32_t quor_probe_file_get_ConflictCount(quor_object probe_file, int32_t* result);
 /* The section of such a value. */
 QUOR_API int32_t quor_probe_file_get_ConflictSection(quor_object probe_file, int32_t Index, quor_text* result);
-/* The key of such a value. */
+/* The key of such a value; empty if the whole probe is concerned (RequireUnchanged). */
 QUOR_API int32_t quor_probe_file_get_ConflictKey(quor_object probe_file, int32_t Index, quor_text* result);
 /* The value that was read; empty for none. */
 QUOR_API int32_t quor_probe_file_get_ConflictRead(quor_object probe_file, int32_t Index, quor_text* result);
@@ -1685,6 +1686,11 @@ QUOR_API int32_t quor_probe_file_get_ErrorOther(quor_object probe_file, quor_tex
  * whether it has another type or other values than the probe, as Read would give it. */
 QUOR_API int32_t quor_probe_file_Differs(quor_object probe_file, quor_text Section, quor_object Conversion,
                                          quor_bool* result);
+/* Error 75 if the file has the probe with other values than this object has read into the conversion or, if it has
+ * not read it from there, than it had loaded; also if there was no such probe and now is, or the reverse. Between
+ * Hold and Release it is Release that looks and raises this, so that a Write or Remove overwrites nothing that
+ * another program has saved meanwhile. ConflictSection is then the probe. */
+QUOR_API int32_t quor_probe_file_RequireUnchanged(quor_object probe_file, quor_text Section, quor_object Conversion);
 
 /* ProbeTable. The numbers of all probes of a file in one array each, for hosts in languages with slow calls, as
  * they were when ReadAll made it. The values of probe i begin where those of probe i - 1 end. */
@@ -1703,7 +1709,8 @@ QUOR_API int32_t quor_probe_table_get_KeyLists(quor_object probe_table, quor_tex
 QUOR_API int32_t quor_probe_table_get_KeyListOf(quor_object probe_table, quor_int32s* result);
 /* The index after the last value of each probe, where those of the next one begin. */
 QUOR_API int32_t quor_probe_table_get_ValueEnds(quor_object probe_table, quor_int32s* result);
-/* The values of all probes. Booleans are 1 and 0; texts, such as units, are not included. */
+/* The values of all probes; NaN where a value is missing or cannot be read, everywhere in a record that is refused
+ * as a whole. Booleans are 1 and 0; texts, such as units, are not included. */
 QUOR_API int32_t quor_probe_table_get_Values(quor_object probe_table, quor_doubles* result);
 
 #ifdef __cplusplus

@@ -4253,7 +4253,7 @@ namespace QuorConversions {
             QuorError.Raise(Native.quor_probe_file_get_ConflictSection(it, index, out result));
             return result.Take();
         }
-        /// <summary>The key of such a value.</summary>
+        /// <summary>The key of such a value; empty if the whole probe is concerned (RequireUnchanged).</summary>
         public string GetConflictKey(int index) {
             var it = NativeHandle;
             Text result;
@@ -4371,6 +4371,12 @@ namespace QuorConversions {
             using (var sectionText = new TextIn(section)) QuorError.Raise(Native.quor_probe_file_Differs(it, sectionText.Value, conversionHandle, out result));
             return result != 0;
         }
+        /// <summary>Error 75 if the file has the probe with other values than this object has read into the conversion or, if it has not read it from there, than it had loaded; also if there was no such probe and now is, or the reverse. Between Hold and Release it is Release that looks and raises this, so that a Write or Remove overwrites nothing that another program has saved meanwhile. ConflictSection is then the probe.</summary>
+        public void RequireUnchanged(string section, CQuorConversion conversion) {
+            var it = NativeHandle;
+            var conversionHandle = QuorObject.HandleOf(conversion);
+            using (var sectionText = new TextIn(section)) QuorError.Raise(Native.quor_probe_file_RequireUnchanged(it, sectionText.Value, conversionHandle));
+        }
     }
 
     /// <summary>The numbers of all probes of a file in one array each, for hosts in languages with slow calls, as they were when ReadAll made it. The values of probe i begin where those of probe i - 1 end.</summary>
@@ -4439,7 +4445,7 @@ namespace QuorConversions {
                 return result.Int32s();
             }
         }
-        /// <summary>The values of all probes. Booleans are 1 and 0; texts, such as units, are not included.</summary>
+        /// <summary>The values of all probes; NaN where a value is missing or cannot be read, everywhere in a record that is refused as a whole. Booleans are 1 and 0; texts, such as units, are not included.</summary>
         public double[] Values {
             get {
                 var it = NativeHandle;
@@ -4977,6 +4983,7 @@ namespace QuorConversions {
         [DllImport(Library, CallingConvention = Convention)] public static extern int quor_probe_file_get_ErrorCode(ulong it, out int result);
         [DllImport(Library, CallingConvention = Convention)] public static extern int quor_probe_file_get_ErrorOther(ulong it, out Text result);
         [DllImport(Library, CallingConvention = Convention)] public static extern int quor_probe_file_Differs(ulong it, Text p0, ulong p1, out short result);
+        [DllImport(Library, CallingConvention = Convention)] public static extern int quor_probe_file_RequireUnchanged(ulong it, Text p0, ulong p1);
         [DllImport(Library, CallingConvention = Convention)] public static extern int quor_probe_table_get_ProbeCount(ulong it, out int result);
         [DllImport(Library, CallingConvention = Convention)] public static extern int quor_probe_table_get_Sections(ulong it, out Text result);
         [DllImport(Library, CallingConvention = Convention)] public static extern int quor_probe_table_get_Types(ulong it, out Array result);

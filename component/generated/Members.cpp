@@ -135,6 +135,7 @@ constexpr NameRow names[] = { // in lower case, sorted
     {"reload", 159},
     {"remove", 155},
     {"rename", 154},
+    {"requireunchanged", 176},
     {"rowcontrols", 121},
     {"rowcount", 119},
     {"rowlength", 120},
@@ -991,6 +992,8 @@ constexpr MemberRow probe_fileMembers[] = {
      ByName<quor_probe_file_get_ErrorOther, OutText>, nullptr, nullptr},
     {"Differs", "Differs(Section: text, Conversion: CQuorConversion) -> bool", 175, 2, 2,
      nullptr, nullptr, ByName<quor_probe_file_Differs, OutBool, InText, InObject>},
+    {"RequireUnchanged", "RequireUnchanged(Section: text, Conversion: CQuorConversion)", 176, 2, 2,
+     nullptr, nullptr, ByName<quor_probe_file_RequireUnchanged, NoResult, InText, InObject>},
 };
 constexpr PlacesOfNumbers probe_filePlaces(probe_fileMembers);
 

@@ -2535,6 +2535,10 @@ int32_t quor_probe_file_Differs(quor_object probe_file, quor_text Section, quor_
     return Call<ProbeFileFace>(probe_file, [&](auto& it) { Out(result, it.Differs(Wide(Section), Reference<CQuorConversion>(Conversion))); });
 }
 
+int32_t quor_probe_file_RequireUnchanged(quor_object probe_file, quor_text Section, quor_object Conversion) {
+    return Call<ProbeFileFace>(probe_file, [&](auto& it) { it.RequireUnchanged(Wide(Section), Reference<CQuorConversion>(Conversion)); });
+}
+
 int32_t quor_probe_table_get_ProbeCount(quor_object probe_table, int32_t* result) {
     return Call<ProbeTableFace>(probe_table, [&](auto& it) { Out(result, it.ProbeCount()); });
 }

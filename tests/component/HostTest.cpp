@@ -44,6 +44,44 @@ TEST_F(Host, ItsIniFileHoldsARecord) {
     EXPECT_EQ(store.destroyed, 1);
 }
 
+TEST_F(Host, ItsIniFileMayClearAValueThatItDoesNotFind) {
+    MapIniFile host;
+    quor_inifile_functions functions = MapIniFile::Functions();
+    functions.read_boolean = [](void*, quor_text, std::int16_t* value, std::int16_t* found) {
+        return *value = *found = 0, 0;
+    };
+    functions.read_double = [](void*, quor_text, double* value, std::int16_t* found) {
+        return *value = 0, *found = 0, 0;
+    };
+    functions.read_integer = [](void*, quor_text key, std::int16_t* value, std::int16_t* found) {
+        return *value = Seen(key) == "ConversionType" ? 2 : 0, *found = 0, 0;
+    };
+    Handle file;
+    ASSERT_EQ(quor_inifile_from_host(&functions, &host, &file), 0);
+    const Handle conversion = Conversion(QUOR_CONV_CVD);
+    const Handle cvd = SettingsOf(conversion);
+    ASSERT_EQ(quor_cvd_put_Coefficients(cvd, QUOR_CVD_R0, 100.0123), 0);
+    ASSERT_EQ(quor_cvd_put_UsePolynomial(cvd, -1), 0);
+    std::int16_t whole = -1;
+    quor_object given = file;
+    ASSERT_EQ(quor_conversion_ReadFromFile(conversion, &given, {}, Text("P"), &whole), 0);
+    EXPECT_EQ(whole, 0);
+    double ohms = 0;
+    std::int16_t count = 0, isPolynomial = 0;
+    EXPECT_EQ(quor_cvd_get_NumCoefficients(cvd, &count), 0);
+    EXPECT_EQ(count, 4);
+    EXPECT_EQ(quor_cvd_get_Coefficients(cvd, QUOR_CVD_R0, &ohms), 0);
+    EXPECT_EQ(ohms, 100.0123);
+    EXPECT_EQ(quor_cvd_get_UsePolynomial(cvd, &isPolynomial), 0);
+    EXPECT_EQ(isPolynomial, -1);
+    // The type is what the host has put in its place.
+    const Handle other = Conversion(QUOR_CONV_OHMS);
+    ASSERT_EQ(quor_conversion_ReadFromFile(other, &given, {}, Text("P"), &whole), 0);
+    std::int32_t type = 0;
+    EXPECT_EQ(quor_conversion_get_ConversionType(other, &type), 0);
+    EXPECT_EQ(type, QUOR_CONV_CVD);
+}
+
 TEST_F(Host, ItsErrorNumberIsWhatTheUserIsTold) {
     RecordingPlatform host;
     MapIniFile store;

@@ -556,8 +556,38 @@ TEST_F(ProbeFileFromC, GivesTheNumbersOfAllProbesAtOnce) {
     EXPECT_EQ(numbers(quor_probe_table_get_ValueEnds), (Numbers{6, 7, 7, 8, 8}));
     quor_doubles values{};
     ASSERT_EQ(quor_probe_table_get_Values(table, &values), 0);
-    EXPECT_EQ(std::vector<double>(values.values, values.values + values.size),
-              (std::vector<double>{4, 1, 100.01, 0.0039083, -5.775E-07, -4.183E-12, 25.5, 0}));
+    ASSERT_EQ(values.size, 8U);
+    EXPECT_EQ(std::vector<double>(values.values, values.values + 7),
+              (std::vector<double>{4, 1, 100.01, 0.0039083, -5.775E-07, -4.183E-12, 25.5}));
+    EXPECT_TRUE(std::isnan(values.values[7]));
+}
+
+TEST_F(ProbeFileFromC, NumbersThatCannotBeReadAreNotNumbersAmongThoseOfAllProbes) {
+    const auto values = [&](const std::string& text) {
+        Put(text);
+        Handle table;
+        EXPECT_EQ(quor_probe_file_ReadAll(Open(), &table), 0);
+        quor_doubles given{};
+        EXPECT_EQ(quor_probe_table_get_Values(table, &given), 0);
+        std::string told;
+        for (std::size_t place = 0; place < given.size; ++place)
+            told += std::isnan(given.values[place]) ? "-" : "1";
+        return told;
+    };
+    EXPECT_EQ(values(hostFile), "1111111");
+    EXPECT_EQ(values(Replaced(hostFile, "100.01 ; ohms", "100,01")), "11-1111");
+    EXPECT_EQ(values(Replaced(hostFile, "UsePolynomial=True\n", "")), "1-11111");
+    EXPECT_EQ(values(Replaced(hostFile, "[Q - Settings]", "[Elsewhere]")), "111111-");
+    EXPECT_EQ(values(Replaced(hostFile, "NumCoefficients=4", "NumCoefficients=-4")).substr(0, 4), "----");
+    EXPECT_EQ(values("[P]\nConversionType=0\n[P - Settings]\nRTPW=25.5\n"
+                     "[P - Settings - Low Range]\nRange=9\nCoefficients0=1\nCoefficients1=2\n")
+                  .find('1'),
+              std::string::npos);
+    EXPECT_EQ(values("[P]\nConversionType=0\n[P - Settings]\nRTPW=25.5\n"
+                     "[P - Settings - Low Range]\nRange=4\n"
+                     "Coefficients0=1\nCoefficients1=x\n"
+                     "[P - Settings - High Range]\nRange=11\nCoefficients0=1\n"),
+              "11111-");
 }
 
 TEST_F(ProbeFileFromC, SaysWhetherAConversionDiffersFromItsProbeAsItIsRead) {
@@ -574,6 +604,54 @@ TEST_F(ProbeFileFromC, SaysWhetherAConversionDiffersFromItsProbeAsItIsRead) {
     EXPECT_TRUE(differs("P", cvd));
     EXPECT_FALSE(differs("Q", Conversion(QUOR_CONV_WT90)));
     EXPECT_TRUE(differs("Q", Conversion(QUOR_CONV_OHMS)));
+}
+
+TEST_F(ProbeFileFromC, OverwritesNothingThatAnotherProgramHasSavedWhereThatIsRequired) {
+    const Handle file = Open();
+    const Handle read = Read(file);
+    const Handle anew = Conversion(QUOR_CONV_CVD);
+    const auto write = [&](const char* section, quor_object conversion) {
+        EXPECT_EQ(quor_probe_file_Hold(file), 0);
+        EXPECT_EQ(quor_probe_file_RequireUnchanged(file, Text(section), conversion), 0);
+        EXPECT_EQ(quor_probe_file_Write(file, Text(section), anew), 0);
+        return quor_probe_file_Release(file);
+    };
+    const auto isRefused = [&](const char* section, quor_object conversion) {
+        const std::string before = File();
+        EXPECT_EQ(write(section, conversion), 75);
+        EXPECT_EQ(LastError().description,
+                  Path() + ": [" + section +
+                      "]: another program has changed, added or removed the probe meanwhile");
+        std::int32_t count = 0;
+        EXPECT_EQ(quor_probe_file_get_ConflictCount(file, &count), 0);
+        EXPECT_EQ(count, 1);
+        EXPECT_EQ(Row(quor_probe_file_get_ConflictSection, file, 0), section);
+        EXPECT_EQ(Row(quor_probe_file_get_ConflictKey, file, 0), "");
+        EXPECT_EQ(File(), before);
+    };
+    Put(Replaced(hostFile, "100.01 ; ohms", "101"));
+    for (const quor_object conversion :
+         {quor_object{anew}, quor_object{read}, quor_object{anew}}) // a failure has read nothing
+        isRefused("P", conversion);
+    EXPECT_EQ(quor_probe_file_RequireUnchanged(file, Text("P"), anew), 75); // it looks at once
+    const auto load = [&] {
+        EXPECT_EQ(quor_probe_file_Reload(file), 0);
+        EXPECT_EQ(Row(quor_probe_file_get_ProbeSection, file, 1), "Q");
+    };
+    load();
+    Put(hostFile + "[R]\nVersion=1.0\nConversionType=10\n");
+    isRefused("R", anew);
+    isRefused("R", anew);
+    load();
+    Put(hostFile.substr(0, hostFile.find("[Q]")));
+    isRefused("Q", anew);
+
+    Put(Replaced(hostFile, "100.01 ; ohms", "1.0001E2 ; of a calibration")); // the same number
+    EXPECT_EQ(write("P", read), 0);
+    EXPECT_EQ(quor_probe_file_RequireUnchanged(file, Text("P"), anew), 0); // as it was written
+    EXPECT_EQ(quor_probe_file_RequireUnchanged(file, Text("P"), read), 75);
+    EXPECT_EQ(write("R", read), 0); // the record is that of P
+    EXPECT_EQ(quor_probe_file_RequireUnchanged(file, Text("R"), anew), 0);
 }
 
 TEST_F(ProbeFileFromC, FindsProbesInTheFileAsItIsAfterAWrite) {

@@ -3174,7 +3174,7 @@ class ProbeFile(Object):
         return result.take()
 
     def get_ConflictKey(self, Index):
-        """The key of such a value."""
+        """The key of such a value; empty if the whole probe is concerned (RequireUnchanged)."""
         result = Text()
         check(_library.quor_probe_file_get_ConflictKey(self._handle, int32(Index), byref(result)))
         return result.take()
@@ -3270,6 +3270,14 @@ class ProbeFile(Object):
             check(_library.quor_probe_file_Differs(self._handle, text(Section), Conversion_handle, byref(result)))
         return result.value != 0
 
+    def RequireUnchanged(self, Section, Conversion):
+        """Error 75 if the file has the probe with other values than this object has read into the conversion or, if
+        it has not read it from there, than it had loaded; also if there was no such probe and now is, or the
+        reverse. Between Hold and Release it is Release that looks and raises this, so that a Write or Remove
+        overwrites nothing that another program has saved meanwhile. ConflictSection is then the probe."""
+        with lent(Conversion) as Conversion_handle:
+            check(_library.quor_probe_file_RequireUnchanged(self._handle, text(Section), Conversion_handle))
+
 
 class ProbeTable(Object):
     """The numbers of all probes of a file in one array each, for hosts in languages with slow calls, as they were when ReadAll made it. The values of probe i begin where those of probe i - 1 end."""
@@ -3327,7 +3335,8 @@ class ProbeTable(Object):
 
     @property
     def Values(self):
-        """The values of all probes. Booleans are 1 and 0; texts, such as units, are not included."""
+        """The values of all probes; NaN where a value is missing or cannot be read, everywhere in a record that is
+        refused as a whole. Booleans are 1 and 0; texts, such as units, are not included."""
         result = Doubles()
         check(_library.quor_probe_table_get_Values(self._handle, byref(result)))
         return result.take()
@@ -3816,6 +3825,7 @@ for _name, *_types in (
     ("quor_probe_file_get_ErrorCode", c_uint64, POINTER(c_int32)),
     ("quor_probe_file_get_ErrorOther", c_uint64, POINTER(Text)),
     ("quor_probe_file_Differs", c_uint64, TextIn, c_uint64, POINTER(c_int16)),
+    ("quor_probe_file_RequireUnchanged", c_uint64, TextIn, c_uint64),
     ("quor_probe_table_get_ProbeCount", c_uint64, POINTER(c_int32)),
     ("quor_probe_table_get_Sections", c_uint64, POINTER(Text)),
     ("quor_probe_table_get_Types", c_uint64, POINTER(Int32s)),

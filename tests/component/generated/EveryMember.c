@@ -5806,6 +5806,18 @@ void every_member_of_probe_file(quor_object object) {
         check(code, same, typed == result.as.boolean && result.kind == QUOR_BOOL, "quor_probe_file_Differs");
         quor_value_clear(&result);
     }
+    {
+        quor_value args[5] = {{0}};
+        quor_value result = {0};
+        args[0].kind = QUOR_TEXT; args[0].as.text = quor_text_of("sample");
+        args[1].kind = QUOR_OBJECT; args[1].as.object = sample_CQuorConversion;
+        before_call();
+        const int32_t code = quor_probe_file_RequireUnchanged(object, quor_text_of("sample"), sample_CQuorConversion);
+        before_call();
+        const int32_t same = by_name(object, "RequireUnchanged", QUOR_CALL, args, 2, &result);
+        check(code, same, 1, "quor_probe_file_RequireUnchanged");
+        quor_value_clear(&result);
+    }
 }
 
 void every_member_of_probe_table(quor_object object) {
@@ -5901,4 +5913,4 @@ void every_member_of_probe_table(quor_object object) {
     }
 }
 
-const int every_member_count = 484;
+const int every_member_count = 485;
