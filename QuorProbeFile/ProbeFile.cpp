@@ -572,9 +572,15 @@ void ProbeFile::Rename(std::wstring_view section, std::wstring_view name) {
 }
 
 void ProbeFile::Remove(std::wstring_view section) {
-    Edit([this, section = std::wstring(section)] {
-        static_cast<void>(Require(section));
-        MoveSections([&](ProbeMove& move) { move.isRemoved = EqualFolded(move.section, section); });
+    Remove(std::vector<std::wstring>{std::wstring(section)});
+}
+
+void ProbeFile::Remove(const std::vector<std::wstring>& sections) {
+    const NameSet removed(sections.begin(), sections.end());
+    Edit([&] {
+        for (const std::wstring& section : sections)
+            static_cast<void>(Require(section));
+        MoveSections([&](ProbeMove& move) { move.isRemoved = removed.contains(move.section); });
     });
 }
 

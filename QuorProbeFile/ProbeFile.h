@@ -182,6 +182,8 @@ public:
     /// set apart by a blank line stay. Raises PROBE_NO_SUCH_SECTION, PROBE_NO_RECORD and
     /// PROBE_SECTION_IS_SHARED.
     void Remove(std::wstring_view section);
+    /// Removes several probes: all of them, or none. Raises the same, for the first one that is not there.
+    void Remove(const std::vector<std::wstring>& sections);
     /// Copies the values of a probe of this file, or of another file as it was loaded, into the section
     /// `toSection`, which is new or has a probe of the same type; otherwise raises PROBE_OF_ANOTHER_TYPE.
     /// Raises PROBE_INCOMPLETE for a record that cannot be read completely, PROBE_UNKNOWN_TYPE for one whose

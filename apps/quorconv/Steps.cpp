@@ -4,7 +4,6 @@
 #include "QuorIniFile/Utf8.h"
 #include "QuorIniFile/ValueText.h"
 #include "QuorProbeFile/ProbeNames.h"
-#include "QuorProbeFile/SectionPlan.h"
 #include "apps/quorconv/Batch.h"
 #include "apps/quorconv/HostFile.h"
 #include "apps/quorconv/Nearest.h"
@@ -13,7 +12,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <unordered_set>
 #include <utility>
 
 namespace quorconv {
@@ -42,29 +40,6 @@ void NewProbe(ProbeFile& file, const std::wstring& section, const std::wstring& 
 void SetValues(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& assignments,
                const ValueRules& rules) {
     AssignInFile(file, section, assignments, rules);
-}
-
-void RemoveProbes(ProbeFile& file, const std::vector<std::wstring>& sections) {
-    if (sections.size() == 1) {
-        file.Remove(sections.front());
-        return;
-    }
-    std::unordered_set<std::wstring> names;
-    for (const std::wstring& section : sections)
-        names.insert(Folded(section));
-    std::vector<ProbeMove> moves;
-    for (const ProbeEntry& probe : file.Probes()) {
-        const bool goes = names.erase(Folded(probe.section)) > 0;
-        moves.push_back({probe.section, probe.section, goes, false, probe.standAlone});
-    }
-    if (!names.empty())
-        file.Remove(*names.begin()); // which tells why it cannot
-    std::optional<SharedSection> shared;
-    const SectionPlan plan = PlanSections(file.Store()->Sections(), moves, shared);
-    if (shared)
-        throw ProbeFileError(PROBE_SECTION_IS_SHARED, file.Path(), moves[shared->probe].section,
-                             moves[shared->other].section);
-    ApplyPlan(*file.Store(), plan);
 }
 
 void RenameProbe(ProbeFile& file, const std::wstring& section, const std::wstring& name) {

@@ -22,7 +22,6 @@ void NewProbe(QuorProbeFile::ProbeFile& file, const std::wstring& section, const
               const std::vector<Assignment>& assignments, const ValueRules& rules);
 void SetValues(QuorProbeFile::ProbeFile& file, const std::wstring& section,
                const std::vector<Assignment>& assignments, const ValueRules& rules);
-void RemoveProbes(QuorProbeFile::ProbeFile& file, const std::vector<std::wstring>& sections);
 void RenameProbe(QuorProbeFile::ProbeFile& file, const std::wstring& section, const std::wstring& name);
 void RetypeProbe(QuorProbeFile::ProbeFile& file, const std::wstring& section, const std::wstring& type,
                  const std::vector<Assignment>& assignments, const ValueRules& rules);

@@ -719,6 +719,17 @@ TEST_F(ProbeFileTest, RemovesAProbeWithItsSettings) {
     EXPECT_EQ(ErrorOf([&] { file.Remove(L"Instrument"); }), L"2 [Instrument] ");
 }
 
+TEST_F(ProbeFileTest, RemovesSeveralProbesOrNone) {
+    const std::string theirs = "[O - Settings]\nLamp=1\n";
+    Host(std::string(hostFile) + "[O]\nConversionType=10\n" + theirs);
+    const std::string before = File();
+    ProbeFile file(Path());
+    EXPECT_EQ(ErrorOf([&] { file.Remove(std::vector<std::wstring>{L"P", L"Other", L"Q"}); }), L"1 [Other] ");
+    EXPECT_EQ(File(), before);
+    file.Remove({L"p", L"O", L"Q"});
+    EXPECT_EQ(File(), "; the laboratory's file\n[Instrument]\nChannels=8\n\n" + theirs);
+}
+
 TEST_F(ProbeFileTest, ASectionThatIsCalledLikeSettingsOfAProbeWithoutAnyIsTheHosts) {
     const std::string theirs = "[P - Settings]\nChannel=4\n[P - Settings - Low Range]\nx=1\n";
     const std::string text = "[P]\nVersion=1.0\nConversionType=10\n" + theirs;

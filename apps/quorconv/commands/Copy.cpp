@@ -58,6 +58,7 @@ class Copy final : public Command {
         std::size_t count = 0;
         to.Edit(m_isDryRun, [&] {
             RequireReadable(*to);
+            const Duplicates there(*to);
             QuorProbeFile::NameSet copied;
             Progress progress(L"probes", 0);
             for (HostFile* const from : sources) {
@@ -71,6 +72,7 @@ class Copy final : public Command {
                                       L": a probe of this name stands in several of the files"};
                     duplicates.Require(section);
                     const std::wstring name = m_name.value_or(section);
+                    there.Require(name);
                     CopyProbe(**from, section, *to, name, m_replaces);
                     names.emplace(section, name);
                 }

@@ -98,6 +98,7 @@ class Put final : public Command {
         file.Edit(m_isDryRun, [&] {
             RequireReadable(*file);
             Batch batch(m_path, from);
+            const Duplicates duplicates(*file);
             Progress progress(L"probes", 0);
             std::unordered_set<std::wstring> sections;
             count = 0;
@@ -106,6 +107,7 @@ class Put final : public Command {
                 ++count;
                 batch.Do(entry.place, [&] {
                     RequireNew(sections, entry.section);
+                    duplicates.Require(entry.section);
                     PutProbe(*file, entry, m_rules);
                 });
             };

@@ -3,7 +3,6 @@
 #include "apps/quorconv/HostFile.h"
 #include "apps/quorconv/Records.h"
 #include "apps/quorconv/Selection.h"
-#include "apps/quorconv/Steps.h"
 
 #include <algorithm>
 
@@ -34,7 +33,10 @@ class Remove final : public Command {
             const auto sections = m_selection.In(file);
             if (m_selection.type)
                 RequireTypes(file, sections);
-            RemoveProbes(file, sections);
+            const Duplicates duplicates(file);
+            for (const std::wstring& section : sections)
+                duplicates.Require(section);
+            file.Remove(sections);
             return sections.size();
         });
         if (m_selection.IsMany() || paths.size() > 1)

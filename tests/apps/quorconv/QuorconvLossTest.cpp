@@ -362,6 +362,13 @@ TEST_F(QuorconvLossTest, AProbeThatOccursTwiceIsToldWhereItIsReadAndRefusedWhere
     ExpectRefused({"copy", "a.ini", "P", "b.ini"}, refused);
     ExpectRefused({"rename", "a.ini", "P", "R"}, refused);
     ExpectRefused({"retype", "a.ini", "P", "pt1"}, refused);
+    ExpectRefused({"remove", "a.ini", "P"}, refused);
+    ExpectRefused({"remove", "a.ini", "*"}, refused);
+    ExpectRefused({"copy", "a.ini", "Q", "a.ini", "p", "--replace"}, refused);
+    ExpectShell("quorconv export a.ini --csv --type w90 2>/dev/null | quorconv put a.ini --csv", "",
+                "quorconv: a.ini: nothing was written, because a line of - is wrong\n  -:2: " + what +
+                    "\n    " + line,
+                1);
     ExpectShell("echo 'set P RTPW=1' | quorconv apply a.ini", "",
                 "quorconv: a.ini: nothing was written, because a line of - is wrong\n  -:1: " + what +
                     "\n    " + line,

@@ -139,9 +139,16 @@ TEST_F(QuorconvManyTest, RemovesProbesWithTheirSettings) {
     ExpectShell("quorconv remove host.ini '*' --type w90", "", "quorconv: 2 probes removed\n");
     EXPECT_EQ(folder.Read("host.ini"), before.substr(0, start) + before.substr(before.find("[Oven]")));
     ExpectRefused({"remove", "host.ini", "Oven", "Bath A"},
-                  "quorconv: host.ini: [bath a]: there is no such section\n");
+                  "quorconv: host.ini: [Bath A]: there is no such section\n");
     ExpectRefused({"remove", "host.ini", "Instrument"},
                   "quorconv: host.ini: [Instrument]: the section is not the record of a probe\n");
+}
+
+TEST_F(QuorconvManyTest, RemovesNoSectionThatIsNamedLikeTheSettingsOfAProbeWithoutAny) {
+    const std::string host = "[O - Settings]\nLamp=1\n";
+    folder.Write("host.ini", "[O]\nConversionType=10\n" + host + "[Q]\nConversionType=10\n");
+    ExpectShell("quorconv remove host.ini O Q", "", "quorconv: 2 probes removed\n");
+    EXPECT_EQ(folder.Read("host.ini"), host);
 }
 
 TEST_F(QuorconvManyTest, RenamesAProbeWithTheSectionsOfItsSettings) {
