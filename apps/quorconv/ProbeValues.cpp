@@ -67,13 +67,21 @@ bool ProbeTable::IsOfProbe(const std::wstring& section) const {
 
 bool ProbeTable::HasSection(const std::wstring& section) const { return m_file.Store()->HasSection(section); }
 
-std::optional<std::wstring> ProbeTable::Text(const std::wstring& section, const std::wstring& path) const {
+std::wstring ProbeTable::Select(const std::wstring& section, const std::wstring& path) const {
     const auto standAlone = StandAloneSection(m_file.Path());
     const bool isStandAlone = standAlone && EqualFolded(*standAlone, section);
+    return SelectKey(*m_file.Store(), isStandAlone ? section : SettingsSection(section), path);
+}
+
+std::optional<std::wstring> ProbeTable::Text(const std::wstring& section, const std::wstring& path) const {
     std::wstring text;
-    const std::wstring key =
-        SelectKey(*m_file.Store(), isStandAlone ? section : SettingsSection(section), path);
+    const std::wstring key = Select(section, path);
     return m_file.Store()->ReadString(key, text) ? std::optional(text) : std::nullopt;
+}
+
+std::wstring ProbeTable::PlaceOf(const std::wstring& section, const std::wstring& path) const {
+    const std::wstring key = Select(section, path);
+    return std::wstring(m_file.Store()->Section()).append(L"/").append(key);
 }
 
 OtherLines::OtherLines(const ProbeTable& table, const NameSet& sections) {

@@ -40,6 +40,8 @@ public:
     /// The text of a value of a probe by its path, read or not; nothing when there is no such key.
     [[nodiscard]] std::optional<std::wstring> Text(const std::wstring& section,
                                                    const std::wstring& path) const;
+    /// Where a value of a probe stands, by its path: "section/key".
+    [[nodiscard]] std::wstring PlaceOf(const std::wstring& section, const std::wstring& path) const;
     [[nodiscard]] bool HasSection(const std::wstring& section) const;
     /// Whether a section is that of a probe, or of its settings.
     [[nodiscard]] bool IsOfProbe(const std::wstring& section) const;
@@ -48,6 +50,8 @@ public:
 
 private:
     friend class OtherLines;
+    /// Selects the section of a value, and returns its key.
+    [[nodiscard]] std::wstring Select(const std::wstring& section, const std::wstring& path) const;
     QuorProbeFile::ProbeFile& m_file;
     std::vector<QuorIniFile::IniWarning> m_duplicates; // by their lines
 };

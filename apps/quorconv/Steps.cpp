@@ -94,6 +94,14 @@ bool HasValue(QuorIniFile::IniStore& store, const std::wstring& key, const std::
            (flag && store.ReadBoolean(key, presentFlag) && presentFlag == *flag);
 }
 
+/// Whether sections named like the settings of a probe are its own.
+bool OwnsSettings(const ProbeFile& file, std::wstring_view section) {
+    std::int16_t code = 0;
+    file.Store()->SetSection(section);
+    const bool hasCode = file.Store()->ReadInteger(QuorConversions::conversionTypeKey, code);
+    return !hasCode || MayHaveSettings(static_cast<QuorConversions::EQuorConversionType>(code));
+}
+
 /// The section of `to` for a section of `from`, if it is one of a probe that was copied.
 std::optional<std::wstring> TargetOf(const std::wstring& name, const ProbeFile& from,
                                      const NameMap<std::wstring>& copied, const ProbeFile& to) {
@@ -101,9 +109,9 @@ std::optional<std::wstring> TargetOf(const std::wstring& name, const ProbeFile& 
     owners.insert(owners.begin(), name);
     for (const std::wstring_view owner : owners) {
         const auto found = copied.find(std::wstring(owner));
-        if (found == copied.end())
-            continue;
         std::wstring rest = name.substr(owner.size()); // " - Settings - Low Range"
+        if (found == copied.end() || (!rest.empty() && !OwnsSettings(from, owner)))
+            continue;
         if (rest.empty() && IsStandAlone(from, name))
             rest = settingsMark;
         if (!rest.empty() && IsStandAlone(to, found->second))
@@ -139,7 +147,7 @@ std::optional<CopiedKey> KeyIn(const QuorIniFile::IniLines& line, QuorIniFile::I
 
 } // namespace
 
-void CopyOtherKeys(ProbeFile& from, const NameMap<std::wstring>& copied, ProbeFile& to) {
+void CopyOtherKeys(ProbeFile& from, const NameMap<std::wstring>& copied, ProbeFile& to, const NameSet& but) {
     std::vector<CopiedKey> keys;
     std::optional<std::wstring> target; // of the section that is walked through
     for (auto line = from.Store()->Lines(); line.Next();) {
@@ -147,7 +155,8 @@ void CopyOtherKeys(ProbeFile& from, const NameMap<std::wstring>& copied, ProbeFi
             target = TargetOf(line.Name(), from, copied, to);
             from.Store()->SetSection(line.Name());
         }
-        if (const auto key = target ? KeyIn(line, *from.Store(), *target) : std::nullopt)
+        if (const auto key = target ? KeyIn(line, *from.Store(), *target) : std::nullopt;
+            key && !but.contains(std::wstring(from.Store()->Section()).append(L"/").append(key->name)))
             keys.push_back(*key);
     }
     for (const CopiedKey& key : keys) {

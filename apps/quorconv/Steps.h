@@ -30,9 +30,9 @@ void CopyProbe(QuorProbeFile::ProbeFile& from, const std::wstring& section, Quor
                const std::wstring& name, bool replaces);
 
 /// Copies what CopyProbe leaves behind: keys of the probe's own, and values beyond a count. By the sections
-/// of the probes, with those that they were copied to.
+/// of the probes, with those that they were copied to. What stands in `but` as "section/key" stays behind.
 void CopyOtherKeys(QuorProbeFile::ProbeFile& from, const QuorProbeFile::NameMap<std::wstring>& copied,
-                   QuorProbeFile::ProbeFile& to);
+                   QuorProbeFile::ProbeFile& to, const QuorProbeFile::NameSet& but = {});
 
 /// What a line of steps says.
 enum class StepLanguage : std::uint8_t {

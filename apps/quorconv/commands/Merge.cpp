@@ -9,9 +9,12 @@
 #include "apps/quorconv/Progress.h"
 #include "apps/quorconv/Records.h"
 #include "apps/quorconv/Selection.h"
+#include "apps/quorconv/Steps.h"
 
 #include <algorithm>
+#include <map>
 #include <optional>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -22,49 +25,67 @@ using namespace QuorProbeFile;
 
 namespace {
 
-/// The probes of a file that its base does not have, by their values.
+/// The probes of a table that another one does not have, in the order of the file.
+std::vector<std::wstring> Added(const ProbeTable& table, const ProbeTable& base) {
+    std::vector<std::wstring> sections;
+    table.ForEach([&](const std::wstring& section) {
+        if (!base.Has(section))
+            sections.push_back(section);
+    });
+    return sections;
+}
+
+/// Probes by their values.
 class AddedProbes {
 public:
-    AddedProbes(const ProbeTable& base, const ProbeTable& table) {
-        table.ForEach([&](const std::wstring& section) {
-            if (base.Has(section))
-                return;
-            for (const std::wstring& text : Texts(table.Read(section)))
-                m_byValue[text].push_back(m_sections.size());
-            m_sections.push_back(section);
-        });
+    AddedProbes(const ProbeTable& table, std::vector<std::wstring> sections)
+        : m_sections(std::move(sections)) {
+        for (std::size_t i = 0; i < m_sections.size(); ++i)
+            for (const std::wstring& text : Texts(table.Read(m_sections[i])))
+                m_byValue[text].push_back(i);
     }
 
     [[nodiscard]] bool IsEmpty() const { return m_sections.empty(); }
 
-    /// The name of the probe that has more than half of the values of one of the base: that one, renamed,
-    /// and perhaps changed as well. Nothing when there is none.
-    [[nodiscard]] std::optional<std::wstring> NameOf(const ProbeValues& probe) const {
+    /// The names of the probes that have more than half of the values of one of the base: that one, renamed,
+    /// and perhaps changed as well. Several only if they have as many of them; the first one comes first.
+    [[nodiscard]] std::vector<std::wstring> NamesOf(const ProbeValues& probe) const {
         constexpr std::size_t common = 100; // a value that so many have tells none from another
         const auto texts = Texts(probe);
-        std::unordered_map<std::size_t, std::size_t> shared; // values, by the number of the section
+        std::map<std::size_t, std::size_t> shared; // values, by the number of the section
         for (const std::wstring& text : texts) {
             const auto found = m_byValue.find(text);
             if (found != m_byValue.end() && (found->second.size() < common || texts.size() == 1))
                 for (const std::size_t section : found->second)
                     ++shared[section];
         }
-        const auto most = std::max_element(shared.begin(), shared.end(), [](const auto& a, const auto& b) {
-            return std::pair(a.second, b.first) < std::pair(b.second, a.first); // the first of several
-        });
-        if (most == shared.end() || most->second * 2 <= texts.size())
-            return std::nullopt;
-        return m_sections[most->first];
+        std::size_t most = texts.size() / 2 + 1;
+        for (const auto& [section, count] : shared)
+            most = std::max(most, count);
+        std::vector<std::wstring> names;
+        for (const auto& [section, count] : shared)
+            if (count == most)
+                names.push_back(m_sections[section]);
+        return names;
+    }
+
+    /// Whether a probe has a value by which it is known again.
+    [[nodiscard]] static bool IsKnownByItsValues(const ProbeValues& probe) {
+        return std::any_of(probe.entries.begin(), probe.entries.end(), IsTelling);
     }
 
 private:
-    /// The values of a probe with its type, without zeros: many have those. Of a probe without values its
-    /// type alone.
+    static bool IsTelling(const RecordImage::Entry& entry) {
+        const double* const number = std::get_if<double>(&entry.value);
+        return number && *number != 0.0; // many have zeros
+    }
+
+    /// The values of a probe with its type. Of a probe without values its type alone.
     static std::vector<std::wstring> Texts(const ProbeValues& probe) {
         const std::wstring type = std::to_wstring(probe.code);
         std::vector<std::wstring> texts;
         for (const RecordImage::Entry& entry : probe.entries)
-            if (const double* const number = std::get_if<double>(&entry.value); number && *number != 0.0)
+            if (IsTelling(entry))
                 texts.push_back(type + L"\n" + entry.path + L"=" + ToText(entry.value));
         if (texts.empty())
             texts.push_back(type);
@@ -74,6 +95,53 @@ private:
     std::vector<std::wstring> m_sections;
     std::unordered_map<std::wstring, std::vector<std::size_t>> m_byValue; // numbers of sections
 };
+
+/// Calls `use` with the name and the text of each section of a file.
+template <class Use>
+void ForEachSection(ProbeFile& file, const Use& use) {
+    const std::string_view text = file.Text();
+    auto lines = file.Store()->Lines();
+    for (bool isThere = lines.NextHeader(); isThere;) {
+        const std::wstring name = lines.Name();
+        const std::size_t begin = lines.Here().offset;
+        isThere = lines.NextHeader();
+        use(name, text.substr(begin, (isThere ? lines.Here().offset : text.size()) - begin));
+    }
+}
+
+/// The names of the probes of which some line is not as in the base, by the sections that differ. There are
+/// names of none among them.
+NameSet TouchedProbes(ProbeFile& base, ProbeFile& theirs) {
+    NameMap<std::string_view> before;
+    ForEachSection(base,
+                   [&](const std::wstring& name, std::string_view text) { before.emplace(name, text); });
+    NameSet touched;
+    const auto touch = [&](const std::wstring& section) {
+        touched.insert(section);
+        for (const std::wstring_view owner : PossibleOwners(section))
+            touched.insert(std::wstring(owner));
+    };
+    ForEachSection(theirs, [&](const std::wstring& name, std::string_view text) {
+        const auto found = before.find(name);
+        if (found == before.end() || found->second != text)
+            touch(name);
+        if (found != before.end())
+            before.erase(found);
+    });
+    for (const auto& [name, text] : before)
+        touch(name);
+    return touched;
+}
+
+/// Sections with settings of probes that are none (any more), by the names of these.
+NameMap<std::wstring> LeftSettings(ProbeFile& file, const ProbeTable& table) {
+    NameMap<std::wstring> left;
+    for (const std::wstring& section : file.Sections())
+        for (const std::wstring_view owner : PossibleOwners(section))
+            if (const std::wstring name(owner); !table.Has(name))
+                left.emplace(name, section);
+    return left;
+}
 
 class Merge final : public Command {
     std::wstring m_base;
@@ -93,6 +161,8 @@ class Merge final : public Command {
     };
     struct Tables : BaseAndOurs {
         const ProbeTable& theirs;
+        const NameMap<std::wstring>& leftInTheirs; // LeftSettings
+        const NameSet& touched;                    // TouchedProbes
     };
 
     /// What is done with the file, if there are no conflicts.
@@ -101,6 +171,9 @@ class Merge final : public Command {
         std::vector<std::wstring> retyped; // of the written ones
         std::vector<std::wstring> removed;
         std::vector<std::pair<std::wstring, std::wstring>> renamed; // from, to
+        NameMap<std::wstring> nameBefore;                           // of the renamed ones, by their new names
+        std::vector<std::wstring> otherKeys; // probes that receive the keys beside the values of theirs
+        NameSet valuesOfRecords;             // "section/key" of what is no such key in them
         std::vector<std::wstring> conflicts;
     };
 
@@ -121,42 +194,78 @@ class Merge final : public Command {
         RequireOnce(theirs, m_theirs);
         if (theirFile->Probes().empty() && !baseFile->Probes().empty())
             throw Problem{m_theirs + L": there is no probe in this file; nothing was written"};
+        const NameMap<std::wstring> left = LeftSettings(*theirFile, theirs);
+        const NameSet touched = TouchedProbes(*baseFile, *theirFile);
         Plan plan;
+        NameSet merged;
         file.Edit(m_isDryRun, [&] {
             const ProbeTable ours(*file);
             RequireOnce(ours, m_ours);
-            plan = {};
             Progress progress(L"probes", 0);
-            theirs.ForEach([&](const std::wstring& section) {
-                progress.Step();
-                MergeProbe({{base, ours}, theirs}, section, plan);
-            });
-            base.ForEach([&](const std::wstring& section) {
-                progress.Step();
-                if (!theirs.Has(section))
-                    MergeRemoved({{base, ours}, theirs}, section, plan);
-            });
-            FindRenamed({{base, ours}, theirs}, plan);
-            RequireNothingElseLost({base, ours}, plan);
-            FindTwoNames(base, ours, theirs, plan.conflicts);
+            plan = PlanOf({{base, ours}, theirs, left, touched}, progress);
             if (!plan.conflicts.empty())
-                throw Problem{m_ours + L": nothing was written, because both files have changed the same",
+                throw Problem{m_ours +
+                                  L": nothing was written, because both files have changed the same value",
                               std::move(plan.conflicts)};
+            file->Remove(plan.removed);
             for (const auto& [section, name] : plan.renamed)
                 file->Rename(section, name);
             for (const Change& change : plan.written) {
                 progress.Step();
                 Write(*file, *theirFile, change);
+                merged.insert(change.section);
             }
-            for (const std::wstring& section : plan.removed)
-                file->Remove(section);
+            NameMap<std::wstring> copied;
+            for (const std::wstring& section : plan.otherKeys)
+                copied.emplace(section, section);
+            CopyOtherKeys(*theirFile, copied, *file, plan.valuesOfRecords);
+            merged.insert(plan.otherKeys.begin(), plan.otherKeys.end());
         });
-        TellCount(plan.written.size(), L"probe", m_isDryRun ? "would be merged" : "merged");
+        TellCount(merged.size(), L"probe", m_isDryRun ? "would be merged" : "merged");
         if (!plan.renamed.empty())
             TellCount(plan.renamed.size(), L"probe", m_isDryRun ? "would be renamed" : "renamed");
         if (!plan.removed.empty())
             TellCount(plan.removed.size(), L"probe", m_isDryRun ? "would be removed" : "removed");
         return fine;
+    }
+
+    [[nodiscard]] Plan PlanOf(const Tables& tables, Progress& progress) const {
+        Plan plan;
+        FindRenamed(tables, plan);
+        for (const auto& [section, name] : plan.renamed)
+            plan.nameBefore.emplace(name, section);
+        tables.theirs.ForEach([&](const std::wstring& section) {
+            progress.Step();
+            MergeProbe(tables, section, plan);
+        });
+        NameSet renamed;
+        for (const auto& [section, name] : plan.renamed)
+            renamed.insert(section);
+        tables.base.ForEach([&](const std::wstring& section) {
+            progress.Step();
+            if (!tables.theirs.Has(section) && !renamed.contains(section))
+                MergeRemoved(tables, section, plan);
+        });
+        RequireNothingElseLost(tables, plan);
+        FindTwoNames(tables, plan.conflicts);
+        MergeOtherKeys(tables, plan);
+        return plan;
+    }
+
+    /// The name that a probe of theirs has here and in the base.
+    [[nodiscard]] static std::wstring NameHere(const Plan& plan, const std::wstring& section) {
+        const auto found = plan.nameBefore.find(section);
+        return found == plan.nameBefore.end() ? section : found->second;
+    }
+
+    /// A section that is still in theirs of a probe of the base that is none there any more.
+    [[nodiscard]] static std::optional<std::wstring> LeftOf(const Tables& tables, const ProbeValues& base) {
+        if (tables.theirs.HasSection(base.section))
+            return base.section;
+        const bool hasSettings = !base.entries.empty() || !FindType(base.code); // else they are the host's
+        const auto found = tables.leftInTheirs.find(base.section);
+        return hasSettings && found != tables.leftInTheirs.end() ? std::optional(found->second)
+                                                                 : std::nullopt;
     }
 
     /// A probe of the base that theirs lack.
@@ -165,35 +274,36 @@ class Merge final : public Command {
         if (!our)
             return;
         const ProbeValues base = tables.base.Read(section);
-        const bool hasSettings = !base.entries.empty() || !FindType(base.code);
-        for (const std::wstring& rest : {section, SettingsSection(section)}) {
-            const bool isHosts = rest != section && !hasSettings;
-            if (!isHosts && tables.theirs.HasSection(rest)) {
-                std::wstring conflict = L"[" + section + L"]: is no probe any more in " + m_theirs;
-                conflict.append(L", but [").append(rest).append(L"] is still there");
-                plan.conflicts.push_back(std::move(conflict));
-                return;
-            }
-        }
-        if (SameValues(*our, base))
+        if (const auto left = LeftOf(tables, base))
+            plan.conflicts.push_back(L"[" + section + L"]: is no probe any more in " + m_theirs + L", but [" +
+                                     *left + L"] is still there");
+        else if (SameValues(*our, base))
             plan.removed.push_back(our->section);
         else
             plan.conflicts.push_back(L"[" + section + L"]: changed here, removed in " + m_theirs);
     }
 
-    /// Of the probes that would be removed and added, those that theirs have under another name and that are
-    /// the same to the last line: they are renamed, which keeps what the file has beside their values. Where
-    /// several are the same, nobody can tell which one became which.
+    /// The probes of the base that theirs have under another name: they are renamed, which keeps what the
+    /// file has beside their values.
     void FindRenamed(const Tables& tables, Plan& plan) const {
-        NameSet removed(plan.removed.begin(), plan.removed.end());
-        NameSet added;
-        for (const Change& change : plan.written)
-            if (!tables.base.Has(change.section))
-                added.insert(change.section);
-        if (removed.empty() || added.empty())
+        std::vector<std::wstring> gone = Added(tables.base, tables.theirs);
+        std::erase_if(gone, [&](const std::wstring& section) {
+            return !tables.ours.Has(section) || LeftOf(tables, tables.base.Read(section));
+        });
+        std::vector<std::wstring> added = Added(tables.theirs, tables.base);
+        std::erase_if(added, [&](const std::wstring& section) { return tables.ours.Has(section); });
+        if (gone.empty() || added.empty())
             return;
-        const auto byText = [](const ProbeTable& table, const NameSet& sections) {
-            const OtherLines lines(table, sections);
+        FindUnchanged(tables, gone, added, plan);
+        FindAlike(tables, gone, added, plan);
+    }
+
+    /// Of the probes that are gone and added, those that are the same to the last line. Where several are the
+    /// same, nobody can tell which one became which.
+    static void FindUnchanged(const Tables& tables, std::vector<std::wstring>& gone,
+                              std::vector<std::wstring>& added, Plan& plan) {
+        const auto byText = [](const ProbeTable& table, const std::vector<std::wstring>& sections) {
+            const OtherLines lines(table, {sections.begin(), sections.end()});
             std::unordered_map<std::wstring, std::vector<std::wstring>> found;
             for (const std::wstring& section : sections) {
                 const ProbeValues probe = table.Read(section);
@@ -208,7 +318,7 @@ class Merge final : public Command {
         };
         const auto after = byText(tables.theirs, added);
         NameSet names;
-        for (const auto& [text, sections] : byText(tables.base, removed)) {
+        for (const auto& [text, sections] : byText(tables.base, gone)) {
             const auto found = after.find(text);
             if (found == after.end() || found->second.size() != 1 || sections.size() != 1)
                 continue;
@@ -216,8 +326,118 @@ class Merge final : public Command {
             names.insert(sections.front());
             names.insert(found->second.front());
         }
-        std::erase_if(plan.removed, [&](const std::wstring& section) { return names.contains(section); });
-        std::erase_if(plan.written, [&](const Change& change) { return names.contains(change.section); });
+        for (auto* const sections : {&gone, &added})
+            std::erase_if(*sections, [&](const std::wstring& section) { return names.contains(section); });
+    }
+
+    /// Of the others, those that have most of their values. Where nobody can tell which one became which,
+    /// what the file has beside the values of one must not be lost with it.
+    void FindAlike(const Tables& tables, const std::vector<std::wstring>& gone,
+                   const std::vector<std::wstring>& added, Plan& plan) const {
+        const AddedProbes probes(tables.theirs, added);
+        std::vector<std::pair<std::wstring, std::vector<std::wstring>>> alike;
+        NameMap<std::size_t> counts; // by the new names
+        for (const std::wstring& section : gone) {
+            alike.emplace_back(section, probes.NamesOf(tables.base.Read(section)));
+            for (const std::wstring& name : alike.back().second)
+                ++counts[name];
+        }
+        std::erase_if(alike, [&](const auto& pair) {
+            const auto& [section, names] = pair;
+            if (names.size() == 1 && counts[names.front()] == 1)
+                plan.renamed.emplace_back(section, names.front());
+            return names.empty() || (names.size() == 1 && counts[names.front()] == 1);
+        });
+        NameSet sections;
+        NameSet candidates;
+        for (const auto& [section, names] : alike) {
+            sections.insert(section);
+            candidates.insert(names.begin(), names.end());
+        }
+        const OtherLines before(tables.base, sections);
+        const OtherLines now(tables.ours, sections);
+        const OtherLines after(tables.theirs, candidates);
+        for (const auto& [section, names] : alike) {
+            const auto lines = now.Of(tables.ours.Read(section));
+            const auto hasThem = [&, &section = section](const std::wstring& name) {
+                ProbeValues probe = tables.base.Read(section);
+                probe.section = name;
+                const auto theirs = after.Of(probe);
+                return std::includes(theirs.begin(), theirs.end(), lines.begin(), lines.end());
+            };
+            if (lines == before.Of(tables.base.Read(section)) && // else RequireNothingElseLost tells it
+                !std::all_of(names.begin(), names.end(), hasThem))
+                plan.conflicts.push_back(L"[" + section + L"]: has keys beside its values, and may be [" +
+                                         names.front() + L"] in " + m_theirs + L" or another one");
+        }
+    }
+
+    /// Takes over the keys beside the values of probes that only theirs have changed.
+    void MergeOtherKeys(const Tables& tables, Plan& plan) const {
+        NameSet theirNames;
+        NameSet names; // here
+        for (const std::wstring& section : Sections(tables, plan)) {
+            theirNames.insert(section);
+            names.insert(NameHere(plan, section));
+        }
+        const OtherLines base(tables.base, names);
+        const OtherLines ours(tables.ours, names);
+        const OtherLines theirs(tables.theirs, theirNames);
+        for (const std::wstring& section : Sections(tables, plan))
+            MergeOtherKeys(tables, section, {base, ours, theirs}, plan);
+        const NameSet retyped(plan.retyped.begin(), plan.retyped.end());
+        for (const Change& change : plan.written)
+            if (!tables.ours.Has(NameHere(plan, change.section)) || retyped.contains(change.section))
+                plan.otherKeys.push_back(change.section);
+    }
+
+    /// The probes of theirs that are here as well and may have other keys than in the base.
+    [[nodiscard]] static std::vector<std::wstring> Sections(const Tables& tables, const Plan& plan) {
+        const NameSet retyped(plan.retyped.begin(), plan.retyped.end());
+        std::vector<std::wstring> sections;
+        tables.theirs.ForEach([&](const std::wstring& section) {
+            if (tables.touched.contains(section) && !retyped.contains(section) &&
+                tables.ours.Has(NameHere(plan, section)))
+                sections.push_back(section);
+        });
+        return sections;
+    }
+
+    struct OtherLinesOfAll {
+        const OtherLines& base;
+        const OtherLines& ours;
+        const OtherLines& theirs;
+    };
+
+    void MergeOtherKeys(const Tables& tables, const std::wstring& section, const OtherLinesOfAll& lines,
+                        Plan& plan) const {
+        const std::wstring name = NameHere(plan, section);
+        ProbeValues record = tables.theirs.Read(section); // with all that is a value in one of the files
+        for (const auto& other : {tables.ours.Find(name), tables.base.Find(name)})
+            if (other)
+                record.entries.insert(record.entries.end(), other->entries.begin(), other->entries.end());
+        const auto theirs = lines.theirs.Of(record);
+        record.section = name;
+        const auto ours = lines.ours.Of(record);
+        const auto base = lines.base.Of(record);
+        if (theirs == base || theirs == ours)
+            return;
+        const auto keyOf = [](const std::wstring& line) { return line.substr(0, line.find(L'=')); };
+        const auto isRemoved = [&](const std::wstring& line) {
+            return std::none_of(theirs.begin(), theirs.end(),
+                                [&](const std::wstring& their) { return keyOf(their) == keyOf(line); });
+        };
+        if (ours != base) {
+            plan.conflicts.push_back(L"[" + name + L"]: keys beside its values were changed here and in " +
+                                     m_theirs);
+        } else if (std::any_of(base.begin(), base.end(), isRemoved)) {
+            plan.conflicts.push_back(L"[" + name + L"]: keys beside its values were removed in " + m_theirs +
+                                     L"; a merge does not remove them here");
+        } else {
+            plan.otherKeys.push_back(section);
+            for (const RecordImage::Entry& entry : record.entries)
+                plan.valuesOfRecords.insert(tables.theirs.PlaceOf(section, entry.path));
+        }
     }
 
     /// Lines that no record has, and that this file has changed in a probe which theirs have removed, or
@@ -237,23 +457,32 @@ class Merge final : public Command {
         }
     }
 
-    /// A probe of the base that both files lack, and that both have added under another name: it would be
-    /// there twice.
-    void FindTwoNames(const ProbeTable& base, const ProbeTable& ours, const ProbeTable& theirs,
-                      std::vector<std::wstring>& conflicts) const {
-        const AddedProbes ourAdded(base, ours);
-        const AddedProbes theirAdded(base, theirs);
-        if (ourAdded.IsEmpty() || theirAdded.IsEmpty())
+    /// A probe of the base that both files lack, and that one or both have added under another name: it would
+    /// be there twice, or stay although the other has removed it.
+    void FindTwoNames(const Tables& tables, std::vector<std::wstring>& conflicts) const {
+        const AddedProbes ourAdded(tables.ours, Added(tables.ours, tables.base));
+        const AddedProbes theirAdded(tables.theirs, Added(tables.theirs, tables.base));
+        if (ourAdded.IsEmpty() && theirAdded.IsEmpty())
             return;
-        base.ForEach([&](const std::wstring& section) {
-            if (ours.Has(section) || theirs.Has(section))
+        tables.base.ForEach([&](const std::wstring& section) {
+            if (tables.ours.Has(section) || tables.theirs.Has(section))
                 return;
-            const ProbeValues probe = base.Read(section);
-            const auto our = ourAdded.NameOf(probe);
-            const auto their = theirAdded.NameOf(probe);
-            if (our && their && !theirs.Has(*our) && !ours.Has(*their))
-                conflicts.push_back(L"[" + section + L"]: renamed to [" + *our + L"] here, to [" + *their +
-                                    L"] in " + m_theirs);
+            const ProbeValues probe = tables.base.Read(section);
+            const auto our = ourAdded.NamesOf(probe);
+            const auto their = theirAdded.NamesOf(probe);
+            if ((!our.empty() && tables.theirs.Has(our.front())) ||
+                (!their.empty() && tables.ours.Has(their.front())))
+                return;
+            const bool isKnown = AddedProbes::IsKnownByItsValues(probe);
+            std::wstring what;
+            if (!our.empty() && !their.empty())
+                what = L"[" + our.front() + L"] here, to [" + their.front() + L"] in " + m_theirs;
+            else if (!our.empty() && isKnown)
+                what = L"[" + our.front() + L"] here, removed in " + m_theirs;
+            else if (!their.empty() && isKnown)
+                what = L"[" + their.front() + L"] in " + m_theirs + L", removed here";
+            if (!what.empty())
+                conflicts.push_back(L"[" + section + L"]: renamed to " + what);
         });
     }
 
@@ -271,13 +500,14 @@ class Merge final : public Command {
 
     /// Decides what becomes of a probe of theirs.
     void MergeProbe(const Tables& tables, const std::wstring& section, Plan& plan) const {
-        const auto base = tables.base.Find(section);
-        const auto our = tables.ours.Find(section);
+        const std::wstring name = NameHere(plan, section);
+        const auto base = tables.base.Find(name);
+        const auto our = tables.ours.Find(name);
         const ProbeValues their = tables.theirs.Read(section);
-        const std::wstring place = L"[" + their.section + L"]";
+        const std::wstring place = L"[" + name + L"]";
         if ((our && SameValues(*our, their)) || (base && SameValues(*base, their)))
             return; // they have changed nothing, or we the same
-        if (auto damage = DamageOf(tables.theirs, their); !damage.empty()) {
+        if (auto damage = DamageOf(tables.theirs, their, our ? our : base); !damage.empty()) {
             plan.conflicts.push_back(place + L" ConversionType: " + damage);
             return;
         }
@@ -304,11 +534,15 @@ class Merge final : public Command {
 
     /// What shows that a changed type of theirs is a mistake: to take it over would remove the settings that
     /// the probe has here. Empty for one that is right.
-    [[nodiscard]] std::wstring DamageOf(const ProbeTable& theirs, const ProbeValues& their) const {
+    [[nodiscard]] std::wstring DamageOf(const ProbeTable& theirs, const ProbeValues& their,
+                                        const std::optional<ProbeValues>& before) const {
         if (!FindType(their.code))
             return std::to_wstring(their.code) + L" in " + m_theirs + L" is the code of no conversion type";
         const std::wstring settings = SettingsSection(their.section);
-        if (!MayHaveSettings(static_cast<QuorConversions::EQuorConversionType>(their.code)) &&
+        const auto mayHaveSettings = [](const ProbeValues& probe) {
+            return MayHaveSettings(static_cast<QuorConversions::EQuorConversionType>(probe.code));
+        };
+        if (before && mayHaveSettings(*before) && !mayHaveSettings(their) && // else it is the host's
             theirs.HasSection(settings))
             return TypeName(their.code) + L" in " + m_theirs + L" has no settings, but [" + settings +
                    L"] is still there";

@@ -23,9 +23,10 @@ protected:
 
     void ExpectConflicts(const std::string& conflicts) const {
         const std::string ours = folder.Read("ours.ini");
-        ExpectRefused({"merge", "base.ini", "ours.ini", "theirs.ini"},
-                      "quorconv: ours.ini: nothing was written, because both files have changed the same\n" +
-                          conflicts);
+        ExpectRefused(
+            {"merge", "base.ini", "ours.ini", "theirs.ini"},
+            "quorconv: ours.ini: nothing was written, because both files have changed the same value\n" +
+                conflicts);
         EXPECT_EQ(folder.Read("ours.ini"), ours);
     }
 };
@@ -293,6 +294,97 @@ TEST_F(QuorconvCompareTest, AProbeThatTheOtherFileHasOnlyRenamedIsRenamedWhereIt
     ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "",
                 "quorconv: 0 probes merged\nquorconv: 1 probe renamed\n");
     EXPECT_EQ(folder.Read("ours.ini"), Replaced(Replaced(ours, "[A]", "[PRT 1]"), "[A - S", "[PRT 1 - S"));
+}
+
+TEST_F(QuorconvCompareTest,
+       AProbeThatTheOtherFileHasRenamedAndChangedIsRenamedAndKeepsWhatItHasBesideItsValues) {
+    const std::string own =
+        "; bath 3\n[A]\nVersion=1.0\nConversionType=2\nDue=2026-05\n"
+        "\n[A - Settings]\nVersion=1.0\nNumCoefficients=3\nUsePolynomial=False\nCoefficients0=100 ; ohms\n"
+        "Coefficients1=0.00385\nCoefficients2=1.5\nCoefficients3=0.25\nCertificate=K17\n";
+    for (const char* const name : {"base.ini", "ours.ini", "theirs.ini"})
+        folder.Write(name, own);
+    ExpectFine({"rename", "theirs.ini", "A", "PRT 1"});
+    ExpectFine({"set", "theirs.ini", "PRT 1", "Coefficients0=100.2"});
+    const std::string merged = folder.Read("theirs.ini");
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "",
+                "quorconv: 1 probe merged\nquorconv: 1 probe renamed\n");
+    EXPECT_EQ(folder.Read("ours.ini"), merged);
+    folder.Write("theirs.ini", Replaced(Replaced(merged, "; bath 3\n", ""), "2026-05", "2027-05"));
+    folder.Write("ours.ini", own);
+    ExpectFine({"set", "ours.ini", "A", "Coefficients2=1.6"}); // which theirs have not changed
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "",
+                "quorconv: 1 probe merged\nquorconv: 1 probe renamed\n");
+    EXPECT_EQ(folder.Read("ours.ini"), Replaced(Replaced(merged, "2026-05", "2027-05"), "1.5", "1.6"));
+    folder.Write("ours.ini", own);
+    ExpectFine({"set", "ours.ini", "A", "Coefficients0=100.3"});
+    ExpectConflicts("  [A] Coefficients0: 100 is 100.3 here and 100.2 in theirs.ini\n");
+}
+
+TEST_F(QuorconvCompareTest, OwnKeysThatWouldGoBecauseNobodyCanTellTheNewNameAreAConflict) {
+    const std::string probe = "[A]\nConversionType=14\nDue=2026-05\n[A - Settings]\nRTPW=25.5\n";
+    const std::string other = "[C]\nConversionType=14\n[C - Settings]\nRTPW=25.5\n";
+    folder.Write("base.ini", probe);
+    folder.Write("ours.ini", probe);
+    folder.Write("theirs.ini", other + Replaced(Replaced(other, "[C", "[D"), "[C", "[D"));
+    ExpectConflicts("  [A]: has keys beside its values, and may be [C] in theirs.ini or another one\n");
+    const std::string due = Replaced(other, "=14\n", "=14\nDue=2026-05\n");
+    folder.Write("theirs.ini", due + Replaced(Replaced(due, "[C", "[D"), "[C", "[D"));
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "",
+                "quorconv: 2 probes merged\nquorconv: 1 probe removed\n"); // both have its keys
+    EXPECT_EQ(Quorconv({"get", "ours.ini", "D", "RTPW"}).out, "25.5\n");
+    EXPECT_NE(folder.Read("ours.ini").find("[D]\nVersion=1.0\nConversionType=14\nDue=2026-05\n"),
+              std::string::npos)
+        << folder.Read("ours.ini");
+}
+
+TEST_F(QuorconvCompareTest, MergesKeysThatNoRecordHas) {
+    const std::string due = base + "Due=2025-05\nCoefficients1=7\n";
+    folder.Write("base.ini", due);
+    folder.Write("ours.ini", Replaced(due, "25.5", "25.4"));
+    folder.Write("theirs.ini", Replaced(due, "2025-05", "2026-05") +
+                                   "\n[N]\nVersion=1.0\nConversionType=14\nDue=2027-05\n"
+                                   "\n[N - Settings]\nVersion=1.0\nRTPW=7\nCertificate=K17\n");
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 2 probes merged\n");
+    EXPECT_EQ(folder.Read("ours.ini"), Replaced(folder.Read("theirs.ini"), "25.5", "25.4"));
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 0 probes merged\n");
+    folder.Write("ours.ini", Replaced(due, "2025-05", "2028-05"));
+    ExpectConflicts("  [B]: keys beside its values were changed here and in theirs.ini\n");
+    folder.Write("ours.ini", due);
+    folder.Write("theirs.ini", base);
+    ExpectConflicts(
+        "  [B]: keys beside its values were removed in theirs.ini; a merge does not remove them here\n");
+    folder.Write("ours.ini", base);
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 0 probes merged\n");
+}
+
+TEST_F(QuorconvCompareTest, AProbeIsNotRemovedAsLongAsTheOtherFileHasAnySectionOfItsSettings) {
+    ExpectFine({"new", "base.ini", "P", "i90", "RTPW=25.5", "High Range/Range=6"});
+    const std::string all = folder.Read("base.ini");
+    folder.Write("ours.ini", all);
+    const auto begin = all.find("[P]");
+    folder.Write("theirs.ini", all.substr(0, begin) + all.substr(all.find("[P - Settings - ")));
+    ExpectConflicts(
+        "  [P]: is no probe any more in theirs.ini, but [P - Settings - High Range] is still there\n");
+}
+
+TEST_F(QuorconvCompareTest, AProbeThatOneFileHasRenamedAndTheOtherHasRemovedIsAConflict) {
+    ExpectFine({"rename", "ours.ini", "A", "C"});
+    ExpectFine({"remove", "theirs.ini", "A"});
+    ExpectConflicts("  [A]: renamed to [C] here, removed in theirs.ini\n");
+    const std::string ours = folder.Read("ours.ini");
+    folder.Write("ours.ini", folder.Read("theirs.ini"));
+    folder.Write("theirs.ini", ours);
+    ExpectConflicts("  [A]: renamed to [C] in theirs.ini, removed here\n");
+}
+
+TEST_F(QuorconvCompareTest, ASectionOfTheHostBesideATypeWithoutSettingsIsNoDamage) {
+    const std::string ohms = "[O]\nConversionType=10\n[O - Settings]\nLamp=1\n";
+    folder.Write("base.ini", ohms);
+    folder.Write("ours.ini", ohms);
+    folder.Write("theirs.ini", Replaced(ohms, "=10", "=11"));
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
+    EXPECT_NE(folder.Read("ours.ini").find("ConversionType=11\n"), std::string::npos);
 }
 
 TEST_F(QuorconvCompareTest, OfProbesThatAreTheSameNoneIsTakenForTheOtherRenamed) {

@@ -136,7 +136,7 @@ TEST_F(QuorconvLossTest, TwoNamesForOneProbeAreAConflict) {
     ExpectFine({"rename", "theirs.ini", "P", "P one"});
     const std::string ours = folder.Read("ours.ini");
     ExpectRefused({"merge", "base.ini", "ours.ini", "theirs.ini"},
-                  "quorconv: ours.ini: nothing was written, because both files have changed the same\n"
+                  "quorconv: ours.ini: nothing was written, because both files have changed the same value\n"
                   "  [P]: renamed to [P 1] here, to [P one] in theirs.ini\n");
     EXPECT_EQ(folder.Read("ours.ini"), ours);
     ExpectFine({"rename", "theirs.ini", "P one", "p 1"});
@@ -154,11 +154,17 @@ TEST_F(QuorconvLossTest, TwoNamesForOneProbeAreAConflictAlsoWhereOneOfItsValuesW
     ExpectFine({"set", "theirs.ini", "P one", "Coefficients0=100.2"});
     const std::string ours = folder.Read("ours.ini");
     ExpectRefused({"merge", "base.ini", "ours.ini", "theirs.ini"},
-                  "quorconv: ours.ini: nothing was written, because both files have changed the same\n"
+                  "quorconv: ours.ini: nothing was written, because both files have changed the same value\n"
                   "  [P]: renamed to [P 1] here, to [P one] in theirs.ini\n");
     EXPECT_EQ(folder.Read("ours.ini"), ours);
     ExpectFine({"set", "theirs.ini", "P one", "Coefficients1=0.0039", "Coefficients2=1.6"}); // another probe
-    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
+    ExpectRefused({"merge", "base.ini", "ours.ini", "theirs.ini"},
+                  "quorconv: ours.ini: nothing was written, because both files have changed the same value\n"
+                  "  [P]: renamed to [P 1] here, removed in theirs.ini\n");
+    ExpectRefused(
+        {"merge", "base.ini", "theirs.ini", "ours.ini"},
+        "quorconv: theirs.ini: nothing was written, because both files have changed the same value\n"
+        "  [P]: renamed to [P 1] in ours.ini, removed here\n");
 }
 
 TEST_F(QuorconvLossTest, NothingIsAddedToAFileThatCannotBeReadWholly) {
@@ -342,6 +348,16 @@ TEST_F(QuorconvLossTest, ACopyHasTheKeysThatNoRecordHasAndTheValuesBeyondTheCoun
     folder.Write("e.ini", Replaced("[P]\n" + Replaced(copy, "[Q", "[P"), "1.50", "1.6"));
     ExpectFine({"copy", "a.ini", "P", "e.ini", "--replace"});
     EXPECT_EQ(folder.Read("e.ini"), "[P]\n" + Replaced(copy, "[Q", "[P"));
+}
+
+TEST_F(QuorconvLossTest, ACopyOfAProbeWithoutSettingsTakesNoSectionOfTheHostAlong) {
+    folder.Write("a.ini", "[O]\nConversionType=10\nDue=2026-05\n[O - Settings]\nLamp=1\n");
+    ExpectFine({"copy", "a.ini", "O", "b.ini"});
+    EXPECT_EQ(folder.Read("b.ini"), "[O]\nVersion=1.0\nConversionType=10\nDue=2026-05\n");
+    const std::string other = "[O]\nVersion=1.0\nConversionType=10\n[O - Settings]\nLamp=2\n";
+    folder.Write("b.ini", other);
+    ExpectFine({"copy", "a.ini", "O", "b.ini", "--replace"});
+    EXPECT_EQ(folder.Read("b.ini"), Replaced(other, "=10\n", "=10\nDue=2026-05\n"));
 }
 
 TEST_F(QuorconvLossTest, AProbeThatOccursTwiceIsToldWhereItIsReadAndRefusedWhereItIsWritten) {
