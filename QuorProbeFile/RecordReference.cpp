@@ -17,9 +17,12 @@ namespace {
 
 constexpr RecordChoice thermistorDirections[] = {{0, L"T(R)"}, {1, L"R(T)"}};
 constexpr RecordChoice scales[] = {{0, L"ITS-90"}, {1, L"IPTS-68"}};
-constexpr RecordChoice ranges[] = {
-    {-1, L"none"},          {1, L"13 K to 273 K"},  {2, L"24 K to 273 K"},   {3, L"54 K to 273 K"},
-    {4, L"83 K to 273 K"},  {5, L"234 K to 302 K"}, {6, L"273 K to 1234 K"}, {7, L"273 K to 933 K"},
+constexpr RecordChoice lowRanges[] = {
+    {-1, L"none"},         {1, L"13 K to 273 K"}, {2, L"24 K to 273 K"},
+    {3, L"54 K to 273 K"}, {4, L"83 K to 273 K"}, {5, L"234 K to 302 K"},
+};
+constexpr RecordChoice highRanges[] = {
+    {-1, L"none"},          {5, L"234 K to 302 K"}, {6, L"273 K to 1234 K"}, {7, L"273 K to 933 K"},
     {8, L"273 K to 692 K"}, {9, L"273 K to 505 K"}, {10, L"273 K to 429 K"}, {11, L"273 K to 302 K"},
 };
 constexpr RecordChoice thermocouples[] = {
@@ -39,7 +42,7 @@ struct Row {
     int last;
     RecordForm form;
     const wchar_t* name;
-    int numberOfFirst; ///< behind the name, counted on from the first key; or noNumber
+    int numberOfFirst; ///< after the name, counted on from the first key; or noNumber
     const wchar_t* meaning;
     const wchar_t* unit;
     const wchar_t* range;
@@ -92,13 +95,13 @@ std::vector<Row> Its90(std::int16_t lowRange) {
         Plain(rtpwKey, L"Resistance at the triple point of water, 273.16 K", L"ohm", anyNumber, 0.0, {},
               WARNING_RTPW_NOT_POSITIVE),
         In(highRangeName, Plain(rangeKey, L"The range of the ITS-90 above 273.16 K", L"", L"-1, 5 to 11",
-                                std::int16_t{-1}, ranges)),
+                                std::int16_t{-1}, highRanges)),
         In(highRangeName, Coefficient(0, L"a", deviation, L"1", WARNING_DEVIATION_A_SIZE)),
         In(highRangeName, Coefficient(1, L"b", deviation, L"1", WARNING_DEVIATION_SIZE)),
         In(highRangeName, Coefficient(2, L"c", deviation, L"1", WARNING_DEVIATION_SIZE)),
         In(highRangeName, Coefficient(3, L"d", deviation, L"1", WARNING_DEVIATION_SIZE)),
-        In(lowRangeName,
-           Plain(rangeKey, L"The range of the ITS-90 below 273.16 K", L"", L"-1, 1 to 5", lowRange, ranges)),
+        In(lowRangeName, Plain(rangeKey, L"The range of the ITS-90 below 273.16 K", L"", L"-1, 1 to 5",
+                               lowRange, lowRanges)),
         In(lowRangeName, Coefficient(0, L"a", deviation, L"1", WARNING_DEVIATION_A_SIZE)),
         In(lowRangeName, Coefficient(1, L"b", deviation, L"1", WARNING_DEVIATION_SIZE)),
         In(lowRangeName, Numbered(coefficientsKey, 2, 6, L"c", 1, deviation, L"1", WARNING_DEVIATION_SIZE)),
@@ -143,7 +146,7 @@ const std::map<EQuorConversionType, std::vector<Row>>& Table() {
         {CONV_CVD,
          {Count(4, L"0 to 32767; the equation has 4"),
           Plain(usePolynomialKey,
-                L"Whether the coefficients behind R0 are A, B, C (True) or ALPHA, DELTA, BETA (False)", L"",
+                L"Whether the coefficients after R0 are A, B, C (True) or ALPHA, DELTA, BETA (False)", L"",
                 L"True or False", false),
           Coefficient(0, L"R0", r0, L"ohm", WARNING_R0_NOT_POSITIVE, ofAny),
           Coefficient(1, L"ALPHA", L"Mean temperature coefficient from 0 \u00B0C to 100 \u00B0C",
@@ -200,7 +203,9 @@ const std::map<EQuorConversionType, std::vector<Row>>& Table() {
           Plain(offsetScaleKey, L"Unit of the offsets, as the dialog shows it", L"", L"any text", L"\u00B0C"),
           Numbered(temperaturesKey, 0, 2, L"T", 1, L"Temperature of the deviation point", tempScaleKey,
                    WARNING_TEMPERATURES_NOT_INCREASING),
-          Numbered(offsetsKey, 0, 2, L"ADJ", 1, L"Deviation at that temperature", offsetScaleKey),
+          Numbered(offsetsKey, 0, 2, L"ADJ", 1,
+                   L"Correction at that temperature, added to what the reference function gives",
+                   offsetScaleKey),
           Numbered(coefficientsKey, 0, 1, L"DC", 1, L"Further deviation coefficient of types R, S and AuPt",
                    L"")}},
         {CONV_TCTYPEPOLY,

@@ -126,3 +126,14 @@ TEST(RecordReference, NamesWhatANumberStandsFor) {
     EXPECT_EQ(ChoiceName(*range, -1), L"none");
     EXPECT_EQ(ChoiceName(*range, 6), L"273 K to 1234 K");
 }
+
+TEST(RecordReference, NamesTheRangesOfTheItsThatARecordMayHave) {
+    const auto codes = [](const wchar_t* path) {
+        std::vector<int> all;
+        for (const RecordChoice& choice : FindRecordKey(CONV_ITS90, path, RecordForm::Any)->choices)
+            all.push_back(choice.code);
+        return all;
+    };
+    EXPECT_EQ(codes(L"Low Range/Range"), (std::vector<int>{-1, 1, 2, 3, 4, 5}));
+    EXPECT_EQ(codes(L"High Range/Range"), (std::vector<int>{-1, 5, 6, 7, 8, 9, 10, 11}));
+}
