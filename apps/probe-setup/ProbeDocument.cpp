@@ -670,7 +670,7 @@ bool ProbeDocument::Changed() const {
 
 void ProbeDocument::Save(const OthersChanges& replaced) {
     // What was read stays in m_file, whatever becomes of this save.
-    ReadHistory();
+    const std::size_t lostSteps = ReadHistory();
     auto file = FileAt(m_path);
     bool othersWrote = false;
     file->Edit([&] {
@@ -678,7 +678,7 @@ void ProbeDocument::Save(const OthersChanges& replaced) {
         static_cast<void>(file->Store()->Sections());
         othersWrote = WriteChanges(*file, replaced);
     });
-    Settle();
+    Settle(lostSteps);
     m_file = std::move(file);
     if (othersWrote)
         TakeOthersChanges();
@@ -696,20 +696,22 @@ bool ProbeDocument::WriteChanges(ProbeFile& file, const OthersChanges& replaced)
     return DocumentSave(*m_file, m_probes, RemovedProbes(), requireWhole).WriteInto(file, replaced);
 }
 
-void ProbeDocument::ReadHistory() {
-    const auto isKept = [this](Step& step) {
-        return std::all_of(step.entries.begin(), step.entries.end(), [this](ListedProbe& entry) {
-            return entry.isNew ||
-                   (Load(entry).IsEmpty() && entry.content.type && ConversionEnumerator(*entry.content.type));
-        });
+std::size_t ProbeDocument::ReadHistory() {
+    const auto isWhole = [](const ProbeContent& content) {
+        return content.problems.IsEmpty() && content.type && ConversionEnumerator(*content.type);
+    };
+    const auto isKept = [&](Step& step) {
+        return std::all_of(step.contents.begin(), step.contents.end(), isWhole) &&
+               std::all_of(step.entries.begin(), step.entries.end(), [&](ListedProbe& entry) {
+                   return entry.isNew || (Load(entry).IsEmpty() && isWhole(entry.content));
+               });
     };
     const auto lost = std::find_if_not(m_done.rbegin(), m_done.rend(), isKept);
-    for (auto step = m_done.begin(); step != lost.base(); ++step)
-        std::move(step->entries.begin(), step->entries.end(), std::back_inserter(m_gone));
-    m_done.erase(m_done.begin(), lost.base());
+    return static_cast<std::size_t>(m_done.rend() - lost);
 }
 
-void ProbeDocument::Settle() {
+void ProbeDocument::Settle(std::size_t lostSteps) {
+    m_done.erase(m_done.begin(), m_done.begin() + static_cast<std::ptrdiff_t>(lostSteps));
     for (ListedProbe& entry : m_probes)
         entry.SetSaved();
     m_gone.clear();
@@ -741,8 +743,7 @@ void ProbeDocument::SaveTo(const std::wstring& path, const OthersChanges& replac
         Save(replaced);
         return;
     }
-    if (moves || isOwn)
-        ReadHistory();
+    const std::size_t lostSteps = moves || isOwn ? ReadHistory() : 0;
     bool othersWrote = false;
     try {
         const InMemory inMemory(*file->Store());
@@ -764,7 +765,7 @@ void ProbeDocument::SaveTo(const std::wstring& path, const OthersChanges& replac
     m_isReadOnly = false;
     if (!exists)
         m_foreign.reset(); // nothing but probes stands in it
-    Settle();
+    Settle(lostSteps);
     if (othersWrote)
         TakeOthersChanges();
 }

@@ -236,11 +236,12 @@ private:
     void SaveTo(const std::wstring& path, const OthersChanges& replaced, bool moves);
     /// Reads the file, which holds what others have written, too, after a save.
     void TakeOthersChanges();
-    /// Reads what only the file holds of the steps that were done, because a save takes it out of the file. A
-    /// step that cannot be kept so ends the history.
-    void ReadHistory();
-    /// Takes note that all is saved.
-    void Settle();
+    /// Reads what only the file holds of the steps that were done, because a save takes it out of the file.
+    /// Returns how many of them end with a save: a record that cannot be read wholly does not come back from
+    /// memory, and neither does what was done before.
+    [[nodiscard]] std::size_t ReadHistory();
+    /// Takes note that all is saved, and forgets the first steps that were done.
+    void Settle(std::size_t lostSteps);
 
     std::shared_ptr<QuietPlatform> m_platform;
     std::shared_ptr<QuorRegistryII::Registry> m_registry;

@@ -128,6 +128,43 @@ TEST_F(UndoPastSave, ARecordThatCannotBeReadDoesNotComeBackFromASavedRemoval) {
     EXPECT_EQ(File(), "[S]\nConversionType=10\n");
 }
 
+TEST_F(UndoPastSave, DefaultsOfARecordThatCannotBeReadAreNotWrittenAsItsOldValues) {
+    const std::string unreadable = "[P]\nConversionType=19\n[P - Settings]\nNumCoefficients=1\n"
+                                   "Coefficients0=1OO.02\n";
+    Open(unreadable);
+    document.SetType({0}, CONV_TCTYPEX);
+    document.Save();
+    EXPECT_EQ(document.UndoKind(), std::nullopt) << "100 would be written, as if it had been there";
+
+    Open(unreadable);
+    Edit(0, L"R0", L"100.0123");
+    document.Save();
+    EXPECT_EQ(document.UndoKind(), std::nullopt);
+}
+
+TEST_F(UndoPastSave, ATypeThatIsNotKnownOrCannotBeReadDoesNotComeBackWithoutItsSettings) {
+    Open("[P]\nConversionType=99\n[P - Settings]\nSecret=1.25\n[Q]\nConversionType=ten\n");
+    document.SetType({0}, CONV_OHMS);
+    document.Save();
+    EXPECT_EQ(document.UndoKind(), std::nullopt);
+    document.SetType({1}, CONV_OHMS);
+    document.Save();
+    EXPECT_EQ(document.UndoKind(), std::nullopt);
+}
+
+TEST_F(UndoPastSave, ASaveThatIsRefusedKeepsTheHistory) {
+    const std::string unreadable = "[P]\nConversionType=2\n";
+    Open(unreadable);
+    document.Remove({0});
+    document.Add(L"Probe 3", CONV_OHMS);
+    folder.Write("host.ini", unreadable + "[probe 3]\nConversionType=11\n");
+    EXPECT_EQ(FailureOf([&] { document.Save(); }), Failure::NameIsTaken);
+    static_cast<void>(document.Undo());
+    EXPECT_EQ(document.UndoKind(), StepKind::Remove);
+    static_cast<void>(document.Undo());
+    EXPECT_EQ(Names(), Texts{L"P"});
+}
+
 TEST_F(UndoPastSave, ValuesOfAnotherProgramEndTheHistory) {
     Open();
     Edit(0, L"R0", L"100.0123");
