@@ -55,7 +55,8 @@ bool DocumentSave::WriteInto(ProbeFile& file, const OthersChanges& replaced) con
 }
 
 void DocumentSave::WriteWhole(ProbeFile& file, const ListedProbe& probe) {
-    if (probe.content.replacesRecord && !MayHaveSettings(probe.typeInFile) &&
+    const bool hadSettings = !probe.isNew && MayHaveSettings(probe.typeInFile);
+    if ((probe.isNew || probe.content.replacesRecord) && !hadSettings &&
         MayHaveSettings(probe.content.type)) {
         for (const std::wstring& section : file.Sections()) {
             if (!HoldsSettingsOf(section, probe.name))

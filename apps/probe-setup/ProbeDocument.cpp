@@ -217,16 +217,20 @@ const std::vector<std::wstring>& ProbeDocument::Foreign() const {
     if (m_foreign || !m_file)
         return m_foreign ? *m_foreign : m_foreign.emplace();
     NameSet ours;
+    NameSet withSettings;
     for (const ProbeEntry& probe : m_file->Probes()) {
-        if (!probe.standAlone)
-            ours.insert(probe.section);
+        if (probe.standAlone)
+            continue;
+        ours.insert(probe.section);
+        if (MayHaveSettings(probe.type))
+            withSettings.insert(probe.section);
     }
     m_foreign.emplace();
     for (std::wstring& section : m_file->Sections()) {
         const std::vector<std::wstring_view> owners = PossibleOwners(section);
         if (!ours.contains(section) &&
             std::none_of(owners.begin(), owners.end(),
-                         [&](std::wstring_view owner) { return ours.contains(owner); }))
+                         [&](std::wstring_view owner) { return withSettings.contains(owner); }))
             m_foreign->push_back(std::move(section));
     }
     return *m_foreign;
@@ -248,6 +252,8 @@ NameProblem ProbeDocument::CheckName(std::wstring_view name, std::optional<std::
         if (HoldsSettingsOf(other, name))
             return NameProblem::SettingsSectionExists;
     }
+    if (except && EqualFolded(name, m_probes[*except].name)) // its own, in other letters
+        return NameProblem::None;
     for (const std::wstring& section : Foreign()) {
         if (EqualFolded(name, section))
             return NameProblem::SectionExists;
@@ -723,6 +729,7 @@ void ProbeDocument::Settle(std::size_t lostSteps) {
                 content.conversion->SetChanged(true);
         }
     }
+    m_foreign.reset();
     m_problems.reset();
     ++m_revision;
 }
@@ -763,8 +770,6 @@ void ProbeDocument::SaveTo(const std::wstring& path, const OthersChanges& replac
     m_file = FileAt(path);
     m_path = path;
     m_isReadOnly = false;
-    if (!exists)
-        m_foreign.reset(); // nothing but probes stands in it
     Settle(lostSteps);
     if (othersWrote)
         TakeOthersChanges();

@@ -381,6 +381,24 @@ TEST_F(ProbeDocumentTest, ASectionThatIsCalledLikeSettingsOfAProbeWithoutAnyIsTh
     EXPECT_EQ(File(), theirs);
 }
 
+TEST_F(ProbeDocumentTest, ANewProbeDoesNotGetTheHostsSectionThatIsCalledLikeItsSettings) {
+    const std::string theirs = "[P - Settings]\nChannel=4\n";
+    Open("[P]\nVersion=1.0\nConversionType=10\n" + theirs);
+    EXPECT_EQ(document.CheckName(L"p", 0), NameProblem::None) << "the probe's own name, in other letters";
+    document.Remove({0});
+    EXPECT_EQ(document.CheckName(L"P"), NameProblem::SettingsSectionExists);
+    EXPECT_EQ(document.FreeName(L"P"), L"P (2)");
+    document.Save();
+    EXPECT_EQ(document.CheckName(L"P"), NameProblem::SettingsSectionExists);
+    static_cast<void>(document.Undo());
+    document.SetType({0}, CONV_CVD); // of a probe that is to come back
+    EXPECT_EQ(ErrorOf([&] { document.Save(); }).failure, Failure::CannotWrite);
+    EXPECT_EQ(File(), theirs);
+    document.SetType({0}, CONV_VOLTS);
+    document.Save();
+    EXPECT_EQ(File(), theirs + "\n[P]\nVersion=1.0\nConversionType=11\n");
+}
+
 TEST_F(ProbeDocumentTest, AnotherTypeTakesThePlaceOfTheOldSettings) {
     Open();
     document.SetType({0}, CONV_PT100R0);
