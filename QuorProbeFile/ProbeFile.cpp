@@ -54,13 +54,15 @@ bool IsNested(std::wstring_view section) {
     });
 }
 
-/// Gives one conversion type and values of another one.
+/// Gives one conversion type and values of another one, and nothing of what it held before.
 void Assign(CQuorConversion& to, const CQuorConversion& from) {
     to.SetConversionType(from.ConversionType());
     if (const auto thermistor = SettingsAs<CQuorThermistor>(from)) // a host may have turned the other one
         SettingsAs<CQuorThermistor>(to)->SetConvType(thermistor->ConvType());
-    if (const auto settings = from.Settings())
+    if (const auto settings = from.Settings()) {
         RecordImage::Apply(RecordImage::Of(*settings), *to.Settings());
+        to.Settings()->ClearSpareValues();
+    }
 }
 
 /// Selects the section again that is selected now, when it goes.
@@ -291,27 +293,31 @@ ReadOutcome ProbeFile::Read(std::wstring_view section, CQuorConversion& conversi
     outcome.problems = ProblemsOf(reading, probe, places);
     for (const MessageCollector::Message& message : reading.Messages())
         outcome.messages.push_back(message.text);
-    outcome.record = RecordOf(reading, probe, outcome);
-    outcome.probe = std::move(probe);
-    if (IsRefused(outcome.problems)) { // what it was read up to is no record either
-        CQuorConversion defaults;
-        defaults.SetConversionType(reading.Conversion().ConversionType());
-        Assign(conversion, defaults);
-    } else {
-        Assign(conversion, reading.Conversion());
+    CQuorConversion defaults;
+    const bool isRefused = IsRefused(outcome.problems); // what it was read up to is no record either
+    if (isRefused) {
+        defaults.SetConversionType(*probe.type);
+        TakeLimits(defaults, reading.Conversion());
     }
+    const CQuorConversion& result = isRefused ? defaults : reading.Conversion();
+    outcome.record = RecordOf(reading, probe, outcome, result);
+    outcome.probe = std::move(probe);
+    Assign(conversion, result);
     conversion.SetChanged(false);
     return outcome;
 }
 
 /// Keeps the text of the sections that were read.
 RecordAsRead ProbeFile::RecordOf(const RecordReading& reading, const ProbeEntry& probe,
-                                 const ReadOutcome& outcome) {
+                                 const ReadOutcome& outcome, const CQuorConversion& result) {
     auto state = std::make_shared<RecordAsRead::State>();
     state->probe = probe;
     if (IsRefused(outcome.problems)) {
         state->refusal = outcome.problems;
         state->messages = outcome.messages;
+        const auto held = std::make_shared<KeptValues>();
+        WriteRecordTo(held, probe.section, result, probe.standAlone);
+        state->held = held->Written();
     }
     std::vector<std::wstring> sections;
     const auto add = [&sections](const std::wstring& section) {

@@ -165,7 +165,9 @@ public:
     /// Raises PROBE_NO_RECORD for a record of no probe, PROBE_OF_ANOTHER_TYPE if the conversion has another
     /// type than the record, PROBE_INCOMPLETE if the settings object had refused the record as a whole
     /// (PROBLEM_RECORD_REFUSED, PROBLEM_VALUE_REFUSED), so that the conversion holds none of its values; both
-    /// can only be replaced by Write. Raises PROBE_CANNOT_BE_WRITTEN and PROBE_INCONSISTENT.
+    /// can only be replaced by Write. But if such a conversion still holds what Read has set, there is
+    /// nothing to write: the list is empty and nothing is raised. Raises PROBE_CANNOT_BE_WRITTEN and
+    /// PROBE_INCONSISTENT.
     [[nodiscard]] std::vector<RecordConflict> WriteChanges(std::wstring_view section,
                                                            const QuorConversions::CQuorConversion& conversion,
                                                            RecordAsRead& record);
@@ -231,7 +233,8 @@ private:
     void WriteRecord(const std::shared_ptr<QuorIniFile::INIFile>& to, std::wstring_view section,
                      const QuorConversions::CQuorConversion& conversion, bool standAlone) const;
     [[nodiscard]] RecordAsRead RecordOf(const RecordReading& reading, const ProbeEntry& probe,
-                                        const ReadOutcome& outcome);
+                                        const ReadOutcome& outcome,
+                                        const QuorConversions::CQuorConversion& result);
 
     std::wstring m_path;
     std::shared_ptr<QuorIniFile::IniStore> m_store;

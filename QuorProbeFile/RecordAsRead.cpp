@@ -26,16 +26,8 @@ std::shared_ptr<KeptValues> RecordAsRead::State::Unchanged() const {
     auto unchanged = std::make_shared<KeptValues>(std::string(), held);
     if (!held.empty())
         return unchanged;
-    const auto write = [&](const CQuorConversion& conversion) {
-        WriteRecordTo(unchanged, probe.section, conversion, probe.standAlone);
-    };
-    if (!refusal.empty()) {
-        CQuorConversion defaults;
-        defaults.SetConversionType(*probe.type);
-        write(defaults);
-    } else {
-        write(RecordReading(Record(), probe).Conversion());
-    }
+    const RecordReading reading(Record(), probe);
+    WriteRecordTo(unchanged, probe.section, reading.Conversion(), probe.standAlone);
     return unchanged;
 }
 

@@ -9,6 +9,10 @@ CoefficientSettings::CoefficientSettings(std::shared_ptr<Platform> platform, con
                                          std::int32_t highestIndex)
     : SettingsObject(std::move(platform), traits), m_slots(traits.className, highestIndex) {}
 
+void CoefficientSettings::ClearSpareValues() {
+    m_slots.ClearSpare([](Slot& slot) { slot.value = 0.0; });
+}
+
 void CoefficientSettings::ResizeCoefficients(std::int16_t count) {
     if (count == m_slots.Count())
         return;

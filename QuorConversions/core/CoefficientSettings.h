@@ -14,6 +14,9 @@ namespace QuorConversions {
 /// A settings class that is essentially a list of coefficients with a count. Derived classes publish those of
 /// its members that they have.
 class QUORCONVERSIONS_EXPORT CoefficientSettings : public SettingsObject {
+public:
+    void ClearSpareValues() override;
+
 protected:
     /// For a class whose indices are limited by its count alone.
     static constexpr std::int32_t anyIndex = std::numeric_limits<std::int32_t>::max();

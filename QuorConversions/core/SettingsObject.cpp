@@ -33,6 +33,8 @@ bool SettingsObject::Edit() {
 
 std::wstring SettingsObject::GetName() const { return TableText(m_traits.name); }
 
+void SettingsObject::ClearSpareValues() {}
+
 void SettingsObject::SetFilePath(std::wstring value) { m_filePath = std::move(value); }
 
 FileRequest SettingsObject::RequestFor(FileDialogKind kind, std::int32_t hwnd,

@@ -54,6 +54,11 @@ public:
 
     // WriteToFile and ReadFromFile stand here in the order of the contract.
 
+    /// Sets the values to 0 that the object keeps behind its last coefficient or point, so that none shows
+    /// when the count grows. Call it when the object gets the values of another probe: ReadFromFile leaves
+    /// them, QuorProbeFile::ProbeFile::Read clears them. Formats stay, and Changed is not affected.
+    virtual void ClearSpareValues();
+
     /// The stand-alone files of this class: their extension, without a point, and their section.
     [[nodiscard]] std::wstring FileExtension() const { return m_traits.fileExtension; }
     [[nodiscard]] std::wstring SectionName() const { return m_traits.sectionName; }

@@ -39,6 +39,13 @@ public:
                                          TableText(IDS_SUBSCRIPT_OUT_OF_RANGE));
     }
 
+    /// Calls `clear` for each slot that is not accessible.
+    template <class Clear>
+    void ClearSpare(const Clear& clear) {
+        for (auto at = static_cast<std::size_t>(m_count < 0 ? 0 : m_count); at < m_slots.size(); ++at)
+            clear(m_slots[at]);
+    }
+
     /// Whether the index is accessible.
     [[nodiscard]] bool IsValid(std::int32_t index) const {
         return index >= 0 && index < m_count && index <= m_highestIndex;

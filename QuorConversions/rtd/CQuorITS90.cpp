@@ -32,6 +32,11 @@ void CQuorITS90::SetChanged(bool value) {
     m_highRange->SetChanged(value);
 }
 
+void CQuorITS90::ClearSpareValues() {
+    m_lowRange->ClearSpareValues();
+    m_highRange->ClearSpareValues();
+}
+
 void CQuorITS90::WriteRecord(RecordWriter& record) const {
     record.Double(rtpwKey, m_rtpw);
     record.Nested(highRangeName, *m_highRange);

@@ -42,6 +42,8 @@ public:
     using SettingsObject::OpenFile, SettingsObject::SaveFileAs;
     using SettingsObject::WriteToFile, SettingsObject::ReadFromFile;
 
+    void ClearSpareValues() override;
+
 private:
     void WriteRecord(RecordWriter& record) const override;
     void ReadRecord(RecordReader& record) override;

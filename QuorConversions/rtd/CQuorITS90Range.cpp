@@ -51,6 +51,10 @@ void CQuorITS90Range::SetRange(EITS90RangeNumber value) {
         m_coefficients.Resize(count);
 }
 
+void CQuorITS90Range::ClearSpareValues() {
+    m_coefficients.ClearSpare([](double& value) { value = 0.0; });
+}
+
 void CQuorITS90Range::FillRangeCombo(ListControl& ctrl) const {
     ctrl.Clear();
     AddItemWithData(ctrl, RangeName(ITS90_NORANGE), ITS90_NORANGE);

@@ -79,6 +79,9 @@ public:
 
     using QuorObject::WriteToFile, QuorObject::ReadFromFile;
 
+    /// Sets the value to 0 that the object keeps behind its last coefficient (SettingsObject).
+    void ClearSpareValues();
+
     /// How many coefficients a range of this side has, whether it is selected or not; 0 for any other value.
     [[nodiscard]] std::int16_t CoefficientsOf(std::int32_t range) const;
 

@@ -15,6 +15,10 @@ PointSettings::PointSettings(std::shared_ptr<Platform> platform, const SettingsT
     m_points.Resize(maxPoints);
 }
 
+void PointSettings::ClearSpareValues() {
+    m_points.ClearSpare([](Point& point) { point = {}; });
+}
+
 void PointSettings::SetNumPoints(std::int16_t value) {
     if (value > m_maxPoints || value == m_points.Count())
         return;

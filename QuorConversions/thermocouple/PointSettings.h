@@ -14,6 +14,9 @@ namespace QuorConversions {
 /// A settings class with points: temperatures, each with a second value. Derived classes publish its members
 /// under the name of that second value.
 class QUORCONVERSIONS_EXPORT PointSettings : public SettingsObject {
+public:
+    void ClearSpareValues() override;
+
 protected:
     /// A temperature with its second value: a voltage or an offset, in the units of the settings.
     struct Point {

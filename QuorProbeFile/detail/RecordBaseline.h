@@ -20,7 +20,7 @@ struct RecordAsRead::State {
     std::vector<std::wstring> messages; ///< of the settings object about that
     KeptValues::Values read;            ///< what WriteChanges has written into the record since
     /// All values that a conversion has that was neither changed since it was read nor since WriteChanges has
-    /// written it. Without any, those that a read of the text gives.
+    /// written it. Without any, those that a read of the text gives; of a refused record the default values.
     KeptValues::Values held;
 
     /// The record, with what was written.

@@ -23,20 +23,24 @@ std::wstring OnOneLine(const std::wstring& text) {
     return line;
 }
 
-/// Makes `to` a conversion of the type of `from` that refuses the same ranges.
+void TakeRangeLimits(CQuorITS90Range& to, const CQuorITS90Range& from) {
+    to.SetMinRange(from.MinRange());
+    to.SetMaxRange(from.MaxRange());
+    if (to.Range() < to.MinRange() || to.Range() > to.MaxRange())
+        to.SetRange(ITS90_NORANGE);
+}
+
+} // namespace
+
 void TakeLimits(CQuorConversion& to, const CQuorConversion& from) {
     const auto its90 = SettingsAs<CQuorITS90>(from);
     if (!its90)
         return;
     to.SetConversionType(from.ConversionType());
     const auto limited = SettingsAs<CQuorITS90>(to);
-    limited->LowRange()->SetMinRange(its90->LowRange()->MinRange());
-    limited->LowRange()->SetMaxRange(its90->LowRange()->MaxRange());
-    limited->HighRange()->SetMinRange(its90->HighRange()->MinRange());
-    limited->HighRange()->SetMaxRange(its90->HighRange()->MaxRange());
+    TakeRangeLimits(*limited->LowRange(), *its90->LowRange());
+    TakeRangeLimits(*limited->HighRange(), *its90->HighRange());
 }
-
-} // namespace
 
 void MessageCollector::ShowMessage(const MessageRequest& request) {
     m_messages.push_back(

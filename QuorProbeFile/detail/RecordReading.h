@@ -33,6 +33,10 @@ private:
     std::vector<Message> m_messages;
 };
 
+/// Makes `to`, which has default values, a conversion of the type of `from` that refuses the same ranges of
+/// the ITS-90; a default range that is refused is none. Nothing for another type.
+void TakeLimits(QuorConversions::CQuorConversion& to, const QuorConversions::CQuorConversion& from);
+
 /// A record, read by the library into a conversion that nobody sees: its values, what was looked for, and
 /// what the library had to say.
 class RecordReading {

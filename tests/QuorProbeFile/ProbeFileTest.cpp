@@ -5,6 +5,7 @@
 #include "QuorConversions/rtd/CQuorITS90.h"
 #include "QuorConversions/rtd/CQuorWT90.h"
 #include "QuorConversions/thermistor/CQuorThermistor.h"
+#include "QuorConversions/thermocouple/CQuorTCTable.h"
 #include "QuorConversions/thermocouple/CQuorTCTypePoly.h"
 #include "QuorIniFile/QuorError.h"
 #include "QuorProbeFile/ProbeTypes.h"
@@ -1100,6 +1101,99 @@ TEST_F(ProbeFileTest, ARangeThatTheHostsConversionRefusesIsAProblemAndIsNotLost)
     its90->SetRTPW(25.48318);
     EXPECT_TRUE(file.WriteChanges(L"P", conversion, outcome.record).empty());
     EXPECT_EQ(File(), Replaced(text, "25.5", "25.48318"));
+}
+
+TEST_F(ProbeFileTest, NoRangeShowsACoefficientOfTheProbeThatWasReadBefore) {
+    const auto its90 = [](const std::string& name, const std::string& low) {
+        return "[" + name + "]\nVersion=1.0\nConversionType=0\n[" + name + " - Settings]\nRTPW=25.5\n[" +
+               name + " - Settings - High Range]\nRange=-1\n[" + name + " - Settings - Low Range]\n" + low;
+    };
+    Host(its90("P", "Range=3\nCoefficients0=1\nCoefficients1=2\nCoefficients2=3\n") +
+         its90("Q", "Range=4\nCoefficients0=4\nCoefficients1=5\n") + its90("R", "Range=-1\n"));
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    EXPECT_TRUE(file.Read(L"P", conversion).IsWhole());
+    const auto settings = SettingsAs<CQuorITS90>(conversion);
+    const auto low = settings->LowRange();
+    EXPECT_TRUE(file.Read(L"Q", conversion).IsWhole());
+    EXPECT_EQ(conversion.Settings(), settings); // the one that the host holds
+    low->SetRange(ITS90_RANGE_3);
+    EXPECT_EQ(low->Coefficients(ITS90_LOW_A), 4);
+    EXPECT_EQ(low->Coefficients(ITS90_LOW_B), 5);
+    EXPECT_EQ(low->Coefficients(ITS90_LOW_C1), 0);
+    EXPECT_TRUE(file.Read(L"R", conversion).IsWhole());
+    EXPECT_FALSE(conversion.Changed());
+    low->SetRange(ITS90_RANGE_5);
+    EXPECT_EQ(low->Coefficients(ITS90_LOW_A), 0);
+}
+
+TEST_F(ProbeFileTest, NoGreaterCountShowsAValueOfTheProbeThatWasReadBefore) {
+    Host("[P]\nConversionType=4\n[P - Settings]\nOrder=5\nCoefficients0=1\nCoefficients1=2\nCoefficients2=3\n"
+         "Coefficients3=4\nCoefficients4=5\nCoefficients5=6\n"
+         "[Q]\nConversionType=4\n[Q - Settings]\nOrder=4\nCoefficients0=7\nCoefficients1=8\nCoefficients2=9\n"
+         "Coefficients3=10\nCoefficients4=11\n"
+         "[R]\nConversionType=8\n[R - Settings]\nNumPoints=2\nTemperatures0=1\nVoltages0=2\n"
+         "Temperatures1=3\nVoltages1=4\n"
+         "[S]\nConversionType=8\n[S - Settings]\nNumPoints=1\nTemperatures0=5\nVoltages0=6\n");
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    EXPECT_TRUE(file.Read(L"P", conversion).IsWhole());
+    EXPECT_TRUE(file.Read(L"Q", conversion).IsWhole());
+    const auto polynomial = SettingsAs<CQuorPolynomial>(conversion);
+    polynomial->SetOrder(5);
+    EXPECT_EQ(polynomial->Coefficients(POLY_A4), 11);
+    EXPECT_EQ(polynomial->Coefficients(POLY_A5), 0);
+
+    EXPECT_TRUE(file.Read(L"R", conversion).IsWhole());
+    EXPECT_TRUE(file.Read(L"S", conversion).IsWhole());
+    const auto table = SettingsAs<CQuorTCTable>(conversion);
+    table->SetNumPoints(2);
+    EXPECT_EQ(table->Voltages(0), 6);
+    EXPECT_EQ(table->Temperatures(1), 0);
+    EXPECT_EQ(table->Voltages(1), 0);
+}
+
+TEST_F(ProbeFileTest, AReadKeepsTheFormatOfACoefficientThatTheProbeDoesNotHave) {
+    Host("[P]\nConversionType=2\n[P - Settings]\nNumCoefficients=3\nUsePolynomial=False\nCoefficients0=100\n"
+         "Coefficients1=0.0039\nCoefficients2=1.5\n");
+    ProbeFile file(Path());
+    CQuorConversion conversion;
+    conversion.SetConversionType(CONV_CVD);
+    const auto cvd = SettingsAs<CQuorCVD>(conversion);
+    cvd->SetCoefficients(3, 0.1);
+    cvd->SetValueFormat(3, L"0.000");
+    EXPECT_TRUE(file.Read(L"P", conversion).IsWhole());
+    cvd->SetNumCoefficients(4);
+    EXPECT_EQ(cvd->Coefficients(3), 0);
+    EXPECT_EQ(cvd->ValueFormat(3), L"0.000");
+}
+
+TEST_F(ProbeFileTest, ADefaultRangeThatTheHostsConversionRefusesIsNoneAndNotTheOneOfTheProbeBefore) {
+    Host("[P]\nConversionType=17\n[P - Settings]\nRTPW=25.5\n[P - Settings - High Range]\nRange=-1\n"
+         "[P - Settings - Low Range]\nRange=4\nCoefficients0=1\nCoefficients1=2\n"
+         "[Q]\nConversionType=17\n[Q - Settings]\nRTPW=100\n[Q - Settings - High Range]\nRange=-1\n"
+         "[Q - Settings - Low Range]\nRange=5\nCoefficients0=3\nCoefficients1=4\n");
+    ProbeFile file(Path());
+    const auto platform = std::make_shared<Scripted::ScriptedPlatform>();
+    CQuorConversion conversion(platform);
+    conversion.SetConversionType(CONV_ITSSR5);
+    const auto its90 = SettingsAs<CQuorITS90>(conversion);
+    its90->LowRange()->SetMinRange(ITS90_RANGE_1);
+    its90->LowRange()->SetMaxRange(ITS90_RANGE_4);
+    EXPECT_TRUE(file.Read(L"P", conversion).IsWhole());
+    EXPECT_EQ(its90->LowRange()->Coefficients(ITS90_LOW_A), 1);
+
+    ReadOutcome outcome = file.Read(L"Q", conversion);
+    ASSERT_EQ(outcome.problems.size(), 1U);
+    EXPECT_EQ(outcome.problems[0].kind, PROBLEM_RECORD_REFUSED);
+    EXPECT_EQ(outcome.problems[0].section, L"Q - Settings - Low Range");
+    EXPECT_TRUE(platform->Messages().empty());
+    EXPECT_EQ(its90->RTPW(), 0);
+    EXPECT_EQ(its90->LowRange()->Range(), ITS90_NORANGE);
+    EXPECT_FALSE(outcome.record.IsChanged(conversion));
+    EXPECT_TRUE(file.WriteChanges(L"Q", conversion, outcome.record).empty());
+    its90->LowRange()->SetRange(ITS90_RANGE_4);
+    EXPECT_EQ(its90->LowRange()->Coefficients(ITS90_LOW_A), 0);
 }
 
 TEST_F(ProbeFileTest, ReadingAThermistorSetsTheDirectionThatAHostHasTurned) {

@@ -65,6 +65,21 @@ TEST(SpareArrayTest, ShowsItsSpareSlotAgainButNothingBeyondIt) {
     EXPECT_EQ(array.At(4), 0.0);
 }
 
+TEST(SpareArrayTest, ClearsTheSlotsThatCannotBeReached) {
+    const auto clear = [](double& slot) { slot = 0.0; };
+    auto array = Filled(3);
+    array.SetCount(2);
+    array.ClearSpare(clear);
+    array.SetCount(3);
+    EXPECT_EQ(array.At(1), 2.5);
+    EXPECT_EQ(array.At(2), 0.0);
+    array.SetCount(-1);
+    array.ClearSpare(clear);
+    array.SetCount(3);
+    EXPECT_EQ(array.At(0), 0.0);
+    EXPECT_EQ(array.At(1), 0.0);
+}
+
 TEST(SpareArrayTest, KeepsOneSlotEvenWithoutACount) {
     auto array = Filled(2);
     array.Resize(0);

@@ -438,6 +438,22 @@ def test_a_change_of_a_range_that_no_longer_belongs_to_the_file_is_not_lost_in_s
         file.save()
 
 
+def test_a_discard_leaves_no_coefficient_of_the_range_that_another_program_has_made_smaller(tmp_path):
+    path = tmp_path / "host.ini"
+    with ProbeFile(path, create=True) as file:
+        file["P"] = Conversion(ConversionType.ITS90)
+    low = file["P"].settings.low_range
+    low.Range = 3
+    low.C1 = 0.5
+    file.save()
+    with ProbeFile(path) as theirs:
+        theirs["P"].settings.low_range.Range = 4
+    file.discard()
+    assert low.Range == 4
+    low.Range = 3
+    assert low.C1 == 0
+
+
 def test_what_an_interrupt_keeps_from_being_read_no_longer_belongs_to_the_file(laboratory, monkeypatch):
     file = ProbeFile(laboratory)
     first, second = file[PROBE].settings, file["Probe 10 PRT-1183"].settings
