@@ -493,8 +493,10 @@ private:
         if (!isThere)
             SpellNew(key, m_spelling, keyNames);
         TextChanges();
-        if (m_number) {
+        if (isThere) {
             m_text->Write(*m_number, key, m_spelling, m_value);
+        } else if (m_number) {
+            m_text->WriteNew(*m_number, m_spelling, m_value);
         } else {
             SpellNew(m_section, m_sectionSpelling, sectionNames);
             m_number = m_text->AddSection(m_sectionSpelling, key, m_spelling, m_value);

@@ -720,11 +720,18 @@ bool IniText::LineDiffers(Section section, const Keys& keys, const Key& key) con
 
 void IniText::Write(Section section, std::wstring_view key, std::string_view spelling,
                     const IniNewValue& value) {
+    Key* const present = FindKey(KeysOf(section), key);
+    if (!present) {
+        WriteNew(section, spelling, value);
+        return;
+    }
+    Rewrite(section, KeepKeysOf(section), *present, value); // which stays where it is
+    m_isWritten = true;
+}
+
+void IniText::WriteNew(Section section, std::string_view spelling, const IniNewValue& value) {
     Keys& keys = KeysOf(section);
-    Key* const present = FindKey(keys, key);
-    if (present)
-        Rewrite(section, KeepKeysOf(section), *present, value); // which stays where it is
-    else if (IsAdded(section) && section + std::size_t{1} == m_headers.size() && keys.lines.empty())
+    if (IsAdded(section) && section + std::size_t{1} == m_headers.size() && keys.lines.empty())
         AppendKey(keys, spelling, value);
     else
         InsertKey(KeepKeysOf(section), spelling, value);
@@ -772,7 +779,8 @@ void IniText::InsertKey(Keys& keys, std::string_view spelling, const IniNewValue
 
 /// Makes the line of a new key.
 IniText::Key IniText::ComposeLine(const Keys& keys, std::string_view spelling, const IniNewValue& value) {
-    m_line.assign(spelling).append(1, '=').append(value.bytes);
+    m_line.assign(spelling).push_back('=');
+    m_line.append(value.bytes);
     if (!value.comment.empty())
         m_line.append(1, ' ').append(value.comment);
     Key key;

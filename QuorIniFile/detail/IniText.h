@@ -60,6 +60,8 @@ public:
     /// behind the last key of the section, with `spelling` as the bytes of the key; below a blank line where
     /// the line above ends in a backslash.
     void Write(Section section, std::wstring_view key, std::string_view spelling, const IniNewValue& value);
+    /// The same for a key that the section does not have.
+    void WriteNew(Section section, std::string_view spelling, const IniNewValue& value);
     /// Adds a section with its first key at the end, below a blank line of its own. `name` is spelled as it
     /// will stand in the text, and no section of that name is there. One that the text had when it was read
     /// and that was removed comes back in its old place, without its old keys.
