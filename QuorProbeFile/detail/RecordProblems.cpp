@@ -16,16 +16,23 @@ namespace QuorProbeFile {
 namespace {
 
 /// What is wrong with a value; and with what looks like a comment after it but is none, where it would be
-/// fine without.
+/// fine without, or wrong in a way of its own.
 std::vector<ProbePhrase> PhrasesOfWrong(const Value& kind, const std::wstring& text) {
-    std::vector<ProbePhrase> phrases{PhraseOfWrong(kind, text)};
+    const ProbePhrase whole = PhraseOfWrong(kind, text);
     const std::size_t sign = text.find_first_of(L"#;");
     if (sign == std::wstring::npos)
-        return phrases;
+        return {whole};
     const std::size_t end = text.find_last_not_of(L" \t", sign == 0 ? 0 : sign - 1);
-    if (end != std::wstring::npos && ParseAs(kind, text.substr(0, end + 1)))
-        phrases.push_back({text[sign] == L'#' ? PROBE_TEXT_COMMENT_SIGN : PROBE_TEXT_COMMENT_BLANK});
-    return phrases;
+    if (end == std::wstring::npos)
+        return {whole};
+    const std::wstring plain = text.substr(0, end + 1);
+    const ProbePhrase comment{text[sign] == L'#' ? PROBE_TEXT_COMMENT_SIGN : PROBE_TEXT_COMMENT_BLANK};
+    if (ParseAs(kind, plain))
+        return {whole, comment};
+    const ProbePhrase ofPlain = PhraseOfWrong(kind, plain); // a decimal comma, or beyond a double
+    if (ofPlain.text != whole.text)
+        return {ofPlain, comment};
+    return {whole};
 }
 
 } // namespace

@@ -74,6 +74,13 @@ const BadFile badFiles[] = {
     {"a number that is too close to zero is told", "[A]\nConversionType=14\n[A - Settings]\nRTPW=-1E-400\n",
      "host.ini:4: [A - Settings] RTPW: \"-1E-400\" is a number that no double can hold: too large, or too "
      "close to zero\n"},
+    {"a number that is too large is told also before a sign that begins no comment",
+     "[A]\nConversionType=14\n[A - Settings]\nRTPW=1E999 # x\n",
+     "host.ini:4: [A - Settings] RTPW: \"1E999\" is a number that no double can hold: too large, or too "
+     "close to zero; a comment begins with \";\"\n"},
+    {"so is a decimal comma", "[A]\nConversionType=14\n[A - Settings]\nRTPW=25,5#x\n",
+     "host.ini:4: [A - Settings] RTPW: \"25,5\" is not a number; the decimal separator is a point; a comment "
+     "begins with \";\"\n"},
     {"what is no number in any way is told without advice",
      "[A]\nConversionType=14\n[A - Settings]\nRTPW=1,2,3 # list\n",
      "host.ini:4: [A - Settings] RTPW: \"1,2,3 # list\" is not a number\n"},
