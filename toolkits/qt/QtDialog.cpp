@@ -196,6 +196,9 @@ QWidget* QtDialog::MakeFrame(const Frame& frame) {
 
 void QtDialog::FillRow(QGridLayout& grid, int row, const Frame::Row& controls, int columns) {
     const bool isAlone = ControlsIn(controls) == 1;
+    // In columns of their own, a label and its list above a grid do not widen the numbers of the grid's rows.
+    const bool isShort = !isAlone && 2 * controls.size() < static_cast<std::size_t>(columns);
+    auto* const line = isShort ? new QHBoxLayout : nullptr;
     for (std::size_t column = 0; column < controls.size(); ++column) {
         Control* const control = controls[column];
         if (!control)
@@ -210,9 +213,15 @@ void QtDialog::FillRow(QGridLayout& grid, int row, const Frame::Row& controls, i
                 note->setWordWrap(true);
                 note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
             }
+        } else if (line) {
+            line->addWidget(widget);
         } else {
             grid.addWidget(widget, row, static_cast<int>(column));
         }
+    }
+    if (line) {
+        line->addStretch(1);
+        grid.addLayout(line, row, 0, 1, columns);
     }
 }
 
