@@ -79,12 +79,11 @@ constexpr struct {
 
 /// Words that make of a name more than a name, in small letters: scaling units, factors, signs.
 constexpr Text tellingWords[] = {
-    L"v",       L"kv",      L"uv",    L"nv",       L"\u03BCv", L"mk",         L"uk",      L"kk",
-    L"\u03BCk", L"pv",      L"mc",    L"mr",       L"kr",      L"half",       L"double",  L"twice",
-    L"halb",    L"doppelt", L"cubed", L"tenfold",  L"percent", L"ppm",        L"ppb",     L"times",
-    L"per",     L"minus",   L"plus",  L"negative", L"inverse", L"reciprocal", L"lg",      L"ld",
-    L"lb",      L"sin",     L"cos",   L"tan",      L"abs",     L"mille",      L"hundred", L"hundert",
-    L"tausend", L"neg",     L"mal",   L"hoch",     L"betrag",  L"kehrwert",
+    L"v",       L"kv",      L"uv",      L"nv",      L"\u03BCv", L"mk",   L"uk",     L"kk",
+    L"\u03BCk", L"pv",      L"mc",      L"mr",      L"kr",      L"half", L"double", L"twice",
+    L"halb",    L"doppelt", L"cubed",   L"tenfold", L"percent", L"ppm",  L"ppb",    L"times",
+    L"per",     L"plus",    L"ld",      L"lb",      L"sin",     L"cos",  L"tan",    L"abs",
+    L"mille",   L"hundred", L"hundert", L"tausend", L"neg",     L"mal",  L"hoch",   L"betrag",
 };
 /// What the names of functions begin with, also where the argument follows without a bracket: "lnR"; and
 /// what scaling units begin with: "milliohms".
