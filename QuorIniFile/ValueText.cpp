@@ -11,6 +11,10 @@ std::wstring Wide(std::string_view ascii) { return {ascii.begin(), ascii.end()};
 } // namespace
 
 std::wstring ToValueText(double value) { return Wide(FormatDouble(value)); }
+void AppendValueText(std::string& text, double value) {
+    NumberText place;
+    text += FormatDouble(value, place);
+}
 std::wstring ToValueText(std::int16_t value) { return Wide(FormatInteger(value)); }
 std::wstring ToValueText(bool value) { return Wide(FormatBoolean(value)); }
 

@@ -13,6 +13,8 @@ namespace QuorIniFile {
 
 /// The shortest decimal text that reads back to the same bits, with a point; "NaN", "Infinity", "-Infinity".
 [[nodiscard]] QUORINIFILE_EXPORT std::wstring ToValueText(double value);
+/// Appends the same to a text in UTF-8.
+QUORINIFILE_EXPORT void AppendValueText(std::string& text, double value);
 /// The decimal digits, after a "-" if it is negative.
 [[nodiscard]] QUORINIFILE_EXPORT std::wstring ToValueText(std::int16_t value);
 /// "True" or "False".

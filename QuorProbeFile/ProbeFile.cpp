@@ -227,12 +227,17 @@ std::wstring ProbeFile::ConversionName(const ProbeEntry& probe) {
 std::vector<IniWarning> ProbeFile::DuplicateSections() {
     if (!Exists())
         return {};
-    std::vector<IniWarning> warnings = m_store->Warnings();
-    warnings.erase(std::remove_if(warnings.begin(), warnings.end(),
-                                  [](const IniWarning& warning) {
-                                      return warning.kind != IniWarningKind::DuplicateSection;
-                                  }),
-                   warnings.end());
+    std::vector<IniWarning> warnings;
+    SectionIndex sections;
+    for (IniLines lines = m_store->Lines(); lines.NextHeader();) {
+        if (!lines.Is(IniLines::Kind::Header) || sections.Add(lines))
+            continue;
+        const IniLines::Place first = sections.Find(lines.Name())->header;
+        IniLines header = m_store->Lines(first);
+        static_cast<void>(header.Next());
+        warnings.push_back(
+            {IniWarningKind::DuplicateSection, lines.Number(), first.number, header.Name(), {}});
+    }
     return warnings;
 }
 

@@ -8,17 +8,21 @@
 
 namespace quorconv {
 
-std::string CsvField(std::string_view field, CsvSeparator separator) {
-    const char special[] = {static_cast<char>(separator), '"', '\r', '\n', '\0'};
-    if (field.find_first_of(special) == std::string_view::npos)
-        return std::string(field);
-    std::string quoted = "\"";
+void AppendCsvField(std::string& text, std::string_view field, CsvSeparator separator) {
+    const auto isSpecial = [separator](char c) {
+        return c == static_cast<char>(separator) || c == '"' || c == '\r' || c == '\n';
+    };
+    if (std::none_of(field.begin(), field.end(), isSpecial)) {
+        text += field;
+        return;
+    }
+    text += '"';
     for (const char character : field) {
         if (character == '"')
-            quoted += '"';
-        quoted += character;
+            text += '"';
+        text += character;
     }
-    return quoted + '"';
+    text += '"';
 }
 
 namespace {

@@ -12,8 +12,8 @@ namespace quorconv {
 /// comma is the decimal sign. Never guessed.
 enum class CsvSeparator : char { Comma = ',', Semicolon = ';', Tab = '\t' };
 
-/// A field as CSV has it (RFC 4180): in quotes where it has a separator, a quote or a line break.
-[[nodiscard]] std::string CsvField(std::string_view field, CsvSeparator separator = CsvSeparator::Comma);
+/// Appends a field as CSV has it (RFC 4180): in quotes where it has a separator, a quote or a line break.
+void AppendCsvField(std::string& text, std::string_view field, CsvSeparator separator);
 
 /// A CSV text that cannot be read.
 struct CsvError {

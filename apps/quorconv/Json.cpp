@@ -14,13 +14,21 @@
 namespace quorconv {
 
 std::string JsonText(std::wstring_view text) {
+    std::string json;
+    AppendJsonText(json, text);
+    return json;
+}
+
+void AppendJsonText(std::string& json, std::wstring_view text) {
     const auto isPlain = [](wchar_t c) { return c >= L' ' && c <= L'~' && c != L'"' && c != L'\\'; };
     if (std::all_of(text.begin(), text.end(), isPlain)) { // as nearly all are
-        std::string plain(1, '"');
-        plain.append(text.begin(), text.end()).append(1, '"');
-        return plain;
+        json += '"';
+        for (const wchar_t character : text)
+            json += static_cast<char>(character);
+        json += '"';
+        return;
     }
-    std::string json = "\"";
+    json += '"';
     for (const char character : QuorIniFile::ToUtf8(text)) {
         constexpr std::string_view digits = "0123456789abcdef";
         const auto byte = static_cast<unsigned char>(character);
@@ -49,16 +57,17 @@ std::string JsonText(std::wstring_view text) {
             }
         }
     }
-    return json + '"';
+    json += '"';
 }
 
-std::string JsonNumber(double number) {
-    const std::wstring text = QuorIniFile::ToValueText(number);
-    if (!std::isfinite(number))
-        return JsonText(text);
-    std::string json(text.begin(), text.end());
+void AppendJsonNumber(std::string& json, double number) {
+    const bool isText = !std::isfinite(number);
+    json.append(isText ? "\"" : "");
+    QuorIniFile::AppendValueText(json, number);
+    json.append(isText ? "\"" : "");
     // Programs that take a whole number for an integer lose the sign of -0.
-    return json == "-0" ? "-0.0" : json;
+    if (number == 0.0 && std::signbit(number))
+        json += ".0";
 }
 
 const JsonValue* JsonValue::Find(std::wstring_view name) const {

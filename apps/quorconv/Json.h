@@ -10,9 +10,10 @@ namespace quorconv {
 
 /// A text as JSON has it, in its quotes.
 [[nodiscard]] std::string JsonText(std::wstring_view text);
-/// A number as JSON has it: the shortest text that reads back to the same bits. NaN and infinities, which
-/// JSON does not have, are the texts "NaN", "Infinity" and "-Infinity".
-[[nodiscard]] std::string JsonNumber(double number);
+void AppendJsonText(std::string& json, std::wstring_view text);
+/// Appends a number as JSON has it: the shortest text that reads back to the same bits. NaN and infinities,
+/// which JSON does not have, are the texts "NaN", "Infinity" and "-Infinity".
+void AppendJsonNumber(std::string& json, double number);
 
 /// A value of a JSON text, and where it stands. Numbers are kept as they are spelled, so that no bit is
 /// lost on the way.

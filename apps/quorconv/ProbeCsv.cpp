@@ -38,13 +38,6 @@ std::wstring ColumnName(EQuorConversionType type, const std::wstring& path) {
     return path + (described.empty() ? L"" : L" [" + described + L"]");
 }
 
-std::wstring FieldText(const Value& value, DecimalSign decimal) {
-    std::wstring text = ToText(value);
-    if (decimal == DecimalSign::Comma && std::holds_alternative<double>(value))
-        std::replace(text.begin(), text.end(), L'.', L',');
-    return text;
-}
-
 } // namespace
 
 void CsvStyle::Declare(Arguments& arguments) {
@@ -66,26 +59,41 @@ CsvSeparator CsvStyle::Separator() const {
 }
 
 void CsvTable::AddField(std::string_view field) {
-    const std::string ready = CsvField(field, m_separator);
-    m_fields.append(std::to_string(ready.size())).append(1, ':').append(ready);
+    const std::size_t length = m_fields.size();
+    AppendCsvField(m_fields, field, m_separator);
+    m_lengths.push_back(static_cast<std::uint32_t>(m_fields.size() - length));
 }
 
-void CsvTable::Add(const Probe& probe) {
-    m_rows.push_back({m_fields.size(), 0});
-    AddField(ToUtf8(probe.Section()));
-    const auto image =
-        probe.Settings() ? RecordImage::Of(*probe.Settings()) : std::make_shared<RecordImage>();
+std::size_t CsvTable::LayoutOf(const ProbeValues& probe) {
+    const auto known = m_layoutOf.find(probe.shape);
+    if (known != m_layoutOf.end())
+        return known->second;
     Paths paths;
-    for (const RecordImage::Entry& entry : image->Entries()) {
-        AddField(ToUtf8(FieldText(entry.value, m_decimal)));
+    for (const RecordImage::Entry& entry : probe.entries)
         paths.push_back(entry.path);
-    }
-    const auto layout = std::find(m_layouts.rbegin(), m_layouts.rend(), paths);
-    m_rows.back().layout = layout == m_layouts.rend()
-                               ? m_layouts.size()
-                               : static_cast<std::size_t>(m_layouts.rend() - layout) - 1;
-    if (layout == m_layouts.rend())
+    const auto found = std::find(m_layouts.begin(), m_layouts.end(), paths);
+    const auto layout = static_cast<std::size_t>(found - m_layouts.begin());
+    if (found == m_layouts.end())
         m_layouts.push_back(std::move(paths));
+    if (probe.shape != 0)
+        m_layoutOf[probe.shape] = layout;
+    return layout;
+}
+
+void CsvTable::Add(const ProbeValues& probe) {
+    m_rows.push_back(LayoutOf(probe));
+    AddField(ToUtf8(probe.section));
+    for (const RecordImage::Entry& entry : probe.entries) {
+        const double* const number = std::get_if<double>(&entry.value);
+        m_field.clear();
+        if (number)
+            QuorIniFile::AppendValueText(m_field, *number);
+        else
+            m_field = ToUtf8(ToText(entry.value));
+        if (number && m_decimal == DecimalSign::Comma)
+            std::replace(m_field.begin(), m_field.end(), '.', ',');
+        AddField(m_field);
+    }
 }
 
 /// In the order of the keys in records; keys that the reference does not have come last.
@@ -109,31 +117,33 @@ CsvTable::Paths CsvTable::Columns() const {
 void CsvTable::Print(std::ostream& out) const {
     const char separator = static_cast<char>(m_separator);
     const Paths columns = Columns();
-    out << ToUtf8(sectionColumn) << separator << ToUtf8(typeColumn);
+    std::string line = ToUtf8(sectionColumn) + separator + ToUtf8(typeColumn);
     for (const std::wstring& column : columns)
-        out << separator << CsvField(ToUtf8(ColumnName(m_type, column)), m_separator);
-    out << "\r\n";
+        AppendCsvField(line += separator, ToUtf8(ColumnName(m_type, column)), m_separator);
+    out << line << "\r\n";
     std::vector<std::vector<std::size_t>> places(m_layouts.size()); // the column of each key of a layout
     for (std::size_t layout = 0; layout < m_layouts.size(); ++layout)
         for (const std::wstring& path : m_layouts[layout])
             places[layout].push_back(
                 static_cast<std::size_t>(std::find(columns.begin(), columns.end(), path) - columns.begin()));
     const std::string type = ToUtf8(TypeName(m_type));
-    for (const Row& row : m_rows) {
-        std::size_t at = row.begin;
-        const auto next = [&] {
-            const std::size_t colon = m_fields.find(':', at);
-            const std::size_t length = std::stoul(m_fields.substr(at, colon - at));
-            at = colon + 1 + length;
-            return std::string_view(m_fields).substr(colon + 1, length);
-        };
-        out << next() << separator << type;
-        std::vector<std::string_view> fields(columns.size());
-        for (const std::size_t place : places[row.layout])
+    std::size_t at = 0;
+    auto length = m_lengths.begin();
+    const auto next = [&] {
+        const std::string_view field = std::string_view(m_fields).substr(at, *length++);
+        at += field.size();
+        return field;
+    };
+    std::vector<std::string_view> fields(columns.size());
+    for (const std::size_t layout : m_rows) {
+        line = next();
+        line.append(1, separator).append(type);
+        std::fill(fields.begin(), fields.end(), std::string_view());
+        for (const std::size_t place : places[layout])
             fields[place] = next();
         for (const std::string_view field : fields)
-            out << separator << field;
-        out << "\r\n";
+            line.append(1, separator).append(field);
+        out << line.append("\r\n");
     }
 }
 

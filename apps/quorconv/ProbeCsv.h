@@ -4,14 +4,16 @@
 #include "apps/quorconv/Arguments.h"
 #include "apps/quorconv/Batch.h"
 #include "apps/quorconv/Csv.h"
-#include "apps/quorconv/Probe.h"
+#include "apps/quorconv/ProbeReader.h"
 #include "apps/quorconv/Records.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <iosfwd>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace quorconv {
@@ -36,25 +38,24 @@ class CsvTable {
 public:
     CsvTable(QuorConversions::EQuorConversionType type, const CsvStyle& style)
         : m_type(type), m_decimal(style.Decimal()), m_separator(style.Separator()) {}
-    void Add(const Probe& probe);
+    void Add(const ProbeValues& probe);
     void Print(std::ostream& out) const;
 
 private:
     using Paths = std::vector<std::wstring>;
-    /// Of a row the fields, ready and each with its length in front, and which keys they are of.
-    struct Row {
-        std::size_t begin;
-        std::size_t layout;
-    };
     [[nodiscard]] Paths Columns() const;
+    [[nodiscard]] std::size_t LayoutOf(const ProbeValues& probe);
     void AddField(std::string_view field);
 
     QuorConversions::EQuorConversionType m_type;
     DecimalSign m_decimal;
     CsvSeparator m_separator;
-    std::vector<Paths> m_layouts; // most records of a type have the same keys
-    std::vector<Row> m_rows;
-    std::string m_fields;
+    std::vector<Paths> m_layouts;                            // most records of a type have the same keys
+    std::unordered_map<std::size_t, std::size_t> m_layoutOf; // by the shapes of probes
+    std::vector<std::size_t> m_rows;                         // the layout of each
+    std::string m_fields;                                    // of all rows, ready
+    std::vector<std::uint32_t> m_lengths;                    // of the fields
+    std::string m_field;                                     // that is being made
 };
 
 /// A line of such a table.

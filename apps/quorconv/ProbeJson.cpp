@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <map>
 #include <set>
+#include <utility>
 
 namespace quorconv {
 
@@ -41,22 +42,7 @@ Indexed SplitIndex(std::wstring_view key) {
     return {key, -1};
 }
 
-std::string ValueText(const Value& value, const RecordKey* key) {
-    struct Visitor {
-        const RecordKey* key;
-        std::string operator()(const std::wstring& text) const { return JsonText(text); }
-        std::string operator()(bool flag) const { return flag ? "true" : "false"; }
-        std::string operator()(double number) const { return JsonNumber(number); }
-        std::string operator()(std::int16_t number) const {
-            if (!key || key->choices.empty())
-                return std::to_string(number);
-            const std::wstring name = ChoiceName(*key, number);
-            return "{\"code\": " + std::to_string(number) +
-                   (name.empty() ? "}" : ", \"name\": " + JsonText(name) + "}");
-        }
-    };
-    return std::visit(Visitor{key}, value);
-}
+constexpr std::size_t sectionPlace = static_cast<std::size_t>(-1);
 
 /// Writes the members of objects and the items of lists, each on a line of its own or all in one.
 class Writer {
@@ -90,9 +76,34 @@ public:
         text += value;
     }
 
-    std::string text;
+    /// A place for an entry, of which the probes of a shape have values of their own; or for the section.
+    void Place(std::size_t entry) {
+        common.push_back(std::exchange(text, {}));
+        entries.push_back(entry);
+    }
+    /// The value of an entry; `key` is null for one in a list.
+    void Value(std::size_t entry, const QuorProbeFile::Value& value, const RecordKey* key) {
+        if (const bool* const flag = std::get_if<bool>(&value))
+            text += *flag ? "true" : "false";
+        else if (const std::int16_t* const number = std::get_if<std::int16_t>(&value))
+            Code(*number, key);
+        else
+            Place(entry);
+    }
+
+    std::string text; // behind the last place
+    std::vector<std::string> common;
+    std::vector<std::size_t> entries;
 
 private:
+    void Code(std::int16_t number, const RecordKey* key) {
+        const std::wstring name = key ? ChoiceName(*key, number) : L"";
+        const bool isCode = key && !key->choices.empty();
+        text.append(isCode ? "{\"code\": " : "").append(std::to_string(number));
+        if (!name.empty())
+            text.append(", \"name\": ").append(JsonText(name));
+        text.append(isCode ? "}" : "");
+    }
     void NewLine() {
         if (!m_inOneLine)
             text.append(1, '\n').append(static_cast<std::size_t>(m_depth) * 2, ' ');
@@ -113,8 +124,8 @@ void WriteEntries(Writer& writer, EQuorConversionType type, RecordForm form, con
     for (std::size_t at = first; at < last; ++at) {
         const Indexed& key = keys[at - first];
         if (key.index < 0) {
-            writer.Member(key.list,
-                          ValueText(entries[at].value, FindRecordKey(type, entries[at].path, form)));
+            writer.Name(key.list);
+            writer.Value(at, entries[at].value, FindRecordKey(type, entries[at].path, form));
             continue;
         }
         if (std::find(written.begin(), written.end(), key.list) != written.end())
@@ -130,7 +141,9 @@ void WriteEntries(Writer& writer, EQuorConversionType type, RecordForm form, con
             writer.text += "{";
             if (known && !known->name.empty())
                 writer.text.append("\"name\": ").append(JsonText(known->name)).append(", ");
-            writer.text.append("\"value\": ").append(ValueText(entries[item].value, nullptr)).append(1, '}');
+            writer.text += "\"value\": ";
+            writer.Value(item, entries[item].value, nullptr);
+            writer.text += '}';
         }
         writer.Close(']');
     }
@@ -143,39 +156,62 @@ std::wstring PrefixOf(const std::wstring& path) {
 
 } // namespace
 
-std::string ToJson(const Probe& probe, bool inOneLine, int indent) {
-    const EQuorConversionType type = probe.Conversion().ConversionType();
+ProbeToJson::Pattern ProbeToJson::PatternOf(const ProbeValues& probe) const {
+    const EQuorConversionType type{probe.code};
     if (!QuorProbeFile::FindType(type))
-        throw Problem{L"[" + probe.Section() + L"] ConversionType: " + probe.TypeName() +
+        throw Problem{L"[" + probe.section + L"] ConversionType: " + TypeName(type) +
                       L" is the code of no conversion type"};
-    Writer writer(inOneLine, indent);
+    Writer writer(m_inOneLine, m_indent);
     writer.Open('{');
-    writer.Member(L"section", JsonText(probe.Section()));
-    writer.Member(L"code", std::to_string(static_cast<std::int32_t>(type)));
-    writer.Member(L"type", JsonText(probe.TypeName()));
-    writer.Member(L"name", JsonText(probe.Name()));
+    writer.Name(L"section");
+    writer.Place(sectionPlace);
+    writer.Member(L"code", std::to_string(probe.code));
+    writer.Member(L"type", JsonText(TypeName(type)));
+    writer.Member(L"name", JsonText(probe.name));
     writer.Name(L"settings");
     writer.Open('{');
-    if (probe.Settings()) {
-        const auto image = RecordImage::Of(*probe.Settings());
-        const RecordForm form = FormOf(*image);
-        const auto& entries = image->Entries();
-        for (std::size_t first = 0, last = 0; first < entries.size(); first = last) {
-            const std::wstring prefix = PrefixOf(entries[first].path);
-            while (last < entries.size() && PrefixOf(entries[last].path) == prefix)
-                ++last;
-            if (!prefix.empty()) {
-                writer.Name(prefix.substr(0, prefix.size() - 1));
-                writer.Open('{');
-            }
-            WriteEntries(writer, type, form, prefix, entries, first, last);
-            if (!prefix.empty())
-                writer.Close('}');
+    const auto& entries = probe.entries;
+    const RecordForm form = FormOf(entries);
+    for (std::size_t first = 0, last = 0; first < entries.size(); first = last) {
+        const std::wstring prefix = PrefixOf(entries[first].path);
+        while (last < entries.size() && PrefixOf(entries[last].path) == prefix)
+            ++last;
+        if (!prefix.empty()) {
+            writer.Name(prefix.substr(0, prefix.size() - 1));
+            writer.Open('{');
         }
+        WriteEntries(writer, type, form, prefix, entries, first, last);
+        if (!prefix.empty())
+            writer.Close('}');
     }
     writer.Close('}');
     writer.Close('}');
-    return std::move(writer.text);
+    writer.common.push_back(std::move(writer.text));
+    return {std::move(writer.common), std::move(writer.entries)};
+}
+
+const std::string& ProbeToJson::Text(const ProbeValues& probe) {
+    constexpr std::size_t mostPatterns = 100;
+    if (m_patterns.size() == mostPatterns)
+        m_patterns.clear();
+    const auto [known, isNew] = m_patterns.try_emplace(probe.shape);
+    Pattern& pattern = known->second;
+    if (isNew || probe.shape == 0)
+        pattern = PatternOf(probe);
+    m_text = pattern.common.front();
+    for (std::size_t place = 0; place < pattern.entries.size(); ++place) {
+        const std::size_t entry = pattern.entries[place];
+        const double* const number =
+            entry == sectionPlace ? nullptr : std::get_if<double>(&probe.entries[entry].value);
+        if (number)
+            AppendJsonNumber(m_text, *number);
+        else
+            AppendJsonText(m_text, entry == sectionPlace
+                                       ? probe.section
+                                       : std::get<std::wstring>(probe.entries[entry].value));
+        m_text += pattern.common[place + 1];
+    }
+    return m_text;
 }
 
 namespace {

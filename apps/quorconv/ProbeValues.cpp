@@ -13,20 +13,6 @@ namespace quorconv {
 
 using namespace QuorProbeFile;
 
-const Value* ProbeValues::Find(const std::wstring& path) const {
-    const auto found = std::find_if(entries.begin(), entries.end(),
-                                    [&](const RecordImage::Entry& entry) { return entry.path == path; });
-    return found == entries.end() ? nullptr : &found->value;
-}
-
-bool SameValues(const ProbeValues& a, const ProbeValues& b) {
-    return a.code == b.code &&
-           std::equal(a.entries.begin(), a.entries.end(), b.entries.begin(), b.entries.end(),
-                      [](const RecordImage::Entry& x, const RecordImage::Entry& y) {
-                          return x.path == y.path && SameValue(x.value, y.value);
-                      });
-}
-
 ProbeTable::ProbeTable(ProbeFile& file) : m_file(file) {
     if (auto lines = UnreadableLines(file); !lines.empty())
         throw Problem{file.Path() + L": not all of this file can be read", std::move(lines)};
@@ -34,12 +20,24 @@ ProbeTable::ProbeTable(ProbeFile& file) : m_file(file) {
 }
 
 void ProbeTable::ForEach(const std::function<void(const std::wstring&)>& use) const {
+    using QuorIniFile::IniLines;
+    const std::string typeKey = QuorIniFile::ToUtf8(QuorConversions::conversionTypeKey);
+    const auto standAlone = StandAloneSection(m_file.Path());
     auto duplicate = m_duplicates.begin();
-    for (auto lines = m_file.Store()->Lines(); lines.NextHeader();) {
-        if (duplicate != m_duplicates.end() && duplicate->line == lines.Number())
-            ++duplicate;
-        else if (const std::wstring name = lines.Name(); Has(name))
-            use(name);
+    IniLines lines = m_file.Store()->Lines();
+    IniLines header = lines;
+    for (bool isLine = lines.NextHeader(); isLine;) {
+        bool isPassed = lines.Is(IniLines::Kind::UnclosedHeader); // the rest of the section
+        bool isProbe = lines.Is(IniLines::Kind::Key) && lines.HasName(typeKey);
+        if (lines.Is(IniLines::Kind::Header)) {
+            header = lines;
+            isProbe = standAlone && EqualFolded(*standAlone, header.Name());
+            isPassed = duplicate != m_duplicates.end() && duplicate->line == header.Number();
+            duplicate += isPassed ? 1 : 0;
+        }
+        if (isProbe && !isPassed)
+            use(header.Name());
+        isLine = isProbe || isPassed ? lines.NextHeader() : lines.Next();
     }
 }
 
@@ -55,8 +53,8 @@ bool ProbeTable::Has(const std::wstring& section) const {
     return standAlone && EqualFolded(*standAlone, section);
 }
 
-std::optional<ProbeValues> ProbeTable::Find(const std::wstring& section) const {
-    return Has(section) ? std::optional(Read(section)) : std::nullopt;
+const ProbeValues* ProbeTable::Find(const std::wstring& section) const {
+    return Has(section) ? &Read(section) : nullptr;
 }
 
 bool ProbeTable::IsOfProbe(const std::wstring& section) const {
@@ -133,12 +131,8 @@ std::vector<std::wstring> OtherLines::Of(const ProbeValues& probe) const {
     return texts;
 }
 
-ProbeValues ProbeTable::Read(const std::wstring& section) const {
-    const Probe probe = ReadProbe(m_file, section);
-    ProbeValues values{section, probe.Conversion().ConversionType(), {}};
-    if (probe.Settings())
-        values.entries = RecordImage::Of(*probe.Settings())->Entries();
-    return values;
+const ProbeValues& ProbeTable::Read(const std::wstring& section) const {
+    return m_reader.Read(m_file, section);
 }
 
 std::vector<ValueChange> ChangesOf(const ProbeValues& before, const ProbeValues& after) {

@@ -3,6 +3,7 @@
 #include "QuorProbeFile/ProbeFile.h"
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/RecordImage.h"
+#include "apps/quorconv/ProbeReader.h"
 
 #include <cstdint>
 #include <functional>
@@ -11,19 +12,6 @@
 #include <vector>
 
 namespace quorconv {
-
-/// A probe with its values, to be compared.
-struct ProbeValues {
-    std::wstring section;
-    std::int32_t code = 0;
-    std::vector<QuorProbeFile::RecordImage::Entry> entries;
-
-    /// Null for a key that the record does not have.
-    [[nodiscard]] const QuorProbeFile::Value* Find(const std::wstring& path) const;
-};
-
-/// Whether both have the same type and the same values, bit for bit.
-[[nodiscard]] bool SameValues(const ProbeValues& a, const ProbeValues& b);
 
 /// The probes of a file, whose values are read when they are asked for: there may be a hundred thousand.
 /// Raises Problem for a file of which not all can be read, and for a probe that cannot be read wholly: nobody
@@ -34,9 +22,10 @@ public:
     /// Calls `use` with the section of each probe, in the order of the file, from which nothing is held.
     void ForEach(const std::function<void(const std::wstring& section)>& use) const;
     [[nodiscard]] bool Has(const std::wstring& section) const;
-    /// Nothing when there is none of that name.
-    [[nodiscard]] std::optional<ProbeValues> Find(const std::wstring& section) const;
-    [[nodiscard]] ProbeValues Read(const std::wstring& section) const;
+    /// Null when there is none of that name. Valid until the next one of this table is read.
+    [[nodiscard]] const ProbeValues* Find(const std::wstring& section) const;
+    /// Valid until the next one of this table is read.
+    [[nodiscard]] const ProbeValues& Read(const std::wstring& section) const;
     /// The text of a value of a probe by its path, read or not; nothing when there is no such key.
     [[nodiscard]] std::optional<std::wstring> Text(const std::wstring& section,
                                                    const std::wstring& path) const;
@@ -53,6 +42,7 @@ private:
     /// Selects the section of a value, and returns its key.
     [[nodiscard]] std::wstring Select(const std::wstring& section, const std::wstring& path) const;
     QuorProbeFile::ProbeFile& m_file;
+    mutable ProbeReader m_reader;
     std::vector<QuorIniFile::IniWarning> m_duplicates; // by their lines
 };
 

@@ -5,6 +5,7 @@
 #include "QuorProbeFile/RecordMeaning.h"
 #include "apps/quorconv/Failure.h"
 #include "apps/quorconv/Nearest.h"
+#include "apps/quorconv/ProbeReader.h"
 
 #include <algorithm>
 #include <cmath>
@@ -41,7 +42,8 @@ bool IsCompletedBy(const ReadOutcome& outcome, const std::wstring& settings,
            });
 }
 
-/// Reads a record of a host as it stands, when there is nothing wrong with it: that costs least.
+} // namespace
+
 bool ReadWhole(ProbeFile& file, Probe& probe) {
     std::shared_ptr<QuorIniFile::INIFile> store = file.Store();
     std::int16_t code = 0;
@@ -49,6 +51,8 @@ bool ReadWhole(ProbeFile& file, Probe& probe) {
     return store->ReadInteger(conversionTypeKey, code) && FindType(code) &&
            probe.Conversion().ReadFromFile(store, L"", probe.Section()) && probe.Messages().empty();
 }
+
+namespace {
 
 std::wstring TellConflict(const std::wstring& file, const RecordConflict& conflict) {
     std::wstring text = Place(file, conflict.section) + L" " + conflict.key + L": another program has ";
@@ -92,12 +96,11 @@ void ValueRules::DeclareDrop(Arguments& arguments) {
                    "change is refused, and names them");
 }
 
-RecordForm FormOf(const RecordImage& image) {
-    const auto flag =
-        std::find_if(image.Entries().begin(), image.Entries().end(), [](const RecordImage::Entry& entry) {
-            return std::holds_alternative<bool>(entry.value);
-        });
-    if (flag == image.Entries().end())
+RecordForm FormOf(const std::vector<RecordImage::Entry>& entries) {
+    const auto flag = std::find_if(entries.begin(), entries.end(), [](const RecordImage::Entry& entry) {
+        return std::holds_alternative<bool>(entry.value);
+    });
+    if (flag == entries.end())
         return RecordForm::Any;
     return std::get<bool>(flag->value) ? RecordForm::Polynomial : RecordForm::AlphaDeltaBeta;
 }
@@ -133,7 +136,7 @@ Probe ReadProbeToEdit(ProbeFile& file, const std::wstring& section) {
 
 std::wstring MeantKey(const Probe& probe, const RecordImage& image, const std::wstring& typed) {
     const EQuorConversionType type = probe.Conversion().ConversionType();
-    const RecordForm form = FormOf(image);
+    const RecordForm form = FormOf(image.Entries());
     if (FindRecordKey(type, typed, RecordForm::Any))
         return L"; it needs another count, order or range";
     std::wstring named; // by a name that several keys may have ("High Range" and "Low Range": a)
@@ -402,10 +405,47 @@ void RequireNothingWrittenOver(ProbeFile& file, const std::wstring& section, con
     Assigning::RefuseLoss(Place(file.Path(), section) + L" ", std::move(lost));
 }
 
+/// Whether the settings take a value in the place of another one, and nothing else changes with it.
+bool IsTakenAlone(const Value& value, const Value& before, const ValueRules& rules) {
+    const double* const number = std::get_if<double>(&value);
+    if (!number)
+        return SameValue(value, before);
+    return (std::isfinite(*number) || rules.allowsNan) && !(*number == 0.0 && std::signbit(*number));
+}
+
+/// Gives numbers to a probe of which nothing is wrong, which needs no conversion. False when nothing was
+/// written, because there is more to look at.
+bool AssignNumbers(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& assignments,
+                   const ValueRules& rules) {
+    static ProbeReader reader; // which keeps what it has learned of records, and nothing of a file
+    const ProbeValues* const probe = reader.Find(file, section);
+    if (!probe || probe->shape == 0)
+        return false;
+    Entries changed;
+    for (const Assignment& assignment : assignments) {
+        const auto entry =
+            std::find_if(probe->entries.begin(), probe->entries.end(), [&](const RecordImage::Entry& one) {
+                return EqualFolded(one.path, assignment.key);
+            });
+        const auto value =
+            entry == probe->entries.end() ? std::nullopt : ParseAs(entry->value, assignment.value);
+        if (!value || !IsTakenAlone(*value, entry->value, rules))
+            return false;
+        if (!SameValue(*value, entry->value))
+            changed.push_back({entry->path, *value});
+    }
+    const std::wstring settings = SettingsSection(section);
+    for (const RecordImage::Entry& entry : changed)
+        WriteEntry(*file.Store(), settings, entry);
+    return true;
+}
+
 } // namespace
 
 void AssignInFile(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& assignments,
                   const ValueRules& rules) {
+    if (AssignNumbers(file, section, assignments, rules))
+        return;
     Probe probe(section);
     const bool isWhole = ReadWhole(file, probe) && probe.Settings();
     if (!isWhole)

@@ -40,6 +40,8 @@ struct ValueRules {
 /// "file: [section]", with which a failure begins.
 [[nodiscard]] std::wstring Place(const std::wstring& file, const std::wstring& section);
 
+/// Reads the record of a probe of a host as it stands. False when something is wrong with it.
+[[nodiscard]] bool ReadWhole(QuorProbeFile::ProbeFile& file, Probe& probe);
 /// Reads the probe of a section; raises Problem when the library could not read all of it, but for what
 /// `completion` gives.
 [[nodiscard]] Probe ReadProbe(QuorProbeFile::ProbeFile& file, const std::wstring& section,
@@ -83,6 +85,6 @@ void WriteEdited(Probe& probe, QuorProbeFile::ProbeFile& file);
 void RequireName(const std::wstring& file, const std::wstring& name);
 
 /// The form of the settings: what their "UsePolynomial" says.
-[[nodiscard]] QuorProbeFile::RecordForm FormOf(const QuorProbeFile::RecordImage& image);
+[[nodiscard]] QuorProbeFile::RecordForm FormOf(const std::vector<QuorProbeFile::RecordImage::Entry>& entries);
 
 } // namespace quorconv

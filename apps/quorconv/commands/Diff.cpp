@@ -50,8 +50,8 @@ class Diff final : public Command {
         Progress progress(L"probes", 0);
         before.ForEach([&](const std::wstring& section) {
             progress.Step();
-            const ProbeValues probe = before.Read(section);
-            const auto now = after.Find(section);
+            const ProbeValues& probe = before.Read(section);
+            const ProbeValues* const now = after.Find(section);
             if (!now)
                 PrintProbe('-', "removed", probe);
             else if (now->code != probe.code)

@@ -42,16 +42,18 @@ class Export final : public Command {
             table.emplace(RequireType(*m_selection.type).code, m_style);
         bool isFine = TellUnreadable(*file);
         std::size_t count = 0;
+        ProbeReader reader;
+        ProbeToJson json(true);
         const Duplicates duplicates(*file);
         for (const std::wstring& section : sections) {
             progress.Step();
             duplicates.Tell(section);
             try {
-                const Probe probe = ReadProbe(*file, section);
+                const ProbeValues& probe = reader.Read(*file, section);
                 if (table)
                     table->Add(probe);
                 else
-                    std::cout << ToJson(probe, true) << '\n';
+                    std::cout << json.Text(probe) << '\n';
                 ++count;
             } catch (...) {
                 PrintFailure(CurrentFailure());

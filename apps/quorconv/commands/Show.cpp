@@ -24,6 +24,10 @@ class Show final : public Command {
     bool m_isJson = false;
     bool m_isJsonLines = false;
     const char* m_separator = "";
+    ProbeReader m_reader;
+    ProbeToJson m_json{false};
+    ProbeToJson m_jsonItem{false, 2}; // of an array
+    ProbeToJson m_jsonLine{true};
 
     void Declare(Arguments& arguments) override {
         arguments.One("FILE", m_path, Meaning::File, "The INI file");
@@ -83,14 +87,14 @@ class Show final : public Command {
     /// False when it cannot be read, which is told.
     bool ShowProbe(ProbeFile& file, const std::wstring& section, bool isInArray) {
         try {
-            const Probe probe = ReadProbe(file, section);
+            const ProbeValues& probe = m_reader.Read(file, section);
             if (m_isJsonLines) {
-                std::cout << ToJson(probe, true) << '\n';
+                std::cout << m_jsonLine.Text(probe) << '\n';
             } else if (isInArray) {
-                std::cout << (*std::exchange(m_separator, ",") != '\0' ? "," : "[") << "\n  "
-                          << ToJson(probe, false, 2);
+                const std::string& text = m_jsonItem.Text(probe); // which may fail
+                std::cout << (*std::exchange(m_separator, ",") != '\0' ? "," : "[") << "\n  " << text;
             } else if (m_isJson) {
-                std::cout << ToJson(probe, false) << '\n';
+                std::cout << m_json.Text(probe) << '\n';
             } else {
                 std::cout << std::exchange(m_separator, "\n");
                 PrintProbe(probe);
@@ -104,13 +108,10 @@ class Show final : public Command {
         }
     }
 
-    static void PrintProbe(const Probe& probe) {
-        std::cout << ToPrintable(L"[" + probe.Section() + L"] " + probe.TypeName() + L" " + probe.Name())
+    static void PrintProbe(const ProbeValues& probe) {
+        std::cout << ToPrintable(L"[" + probe.section + L"] " + TypeName(probe.code) + L" " + probe.name)
                   << '\n';
-        if (!probe.Settings())
-            return;
-        const auto image = RecordImage::Of(*probe.Settings());
-        for (const auto& entry : image->Entries())
+        for (const auto& entry : probe.entries)
             std::cout << ToPrintable(entry.path + L"=" + ToText(entry.value)) << '\n';
     }
 };

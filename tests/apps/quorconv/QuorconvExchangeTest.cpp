@@ -209,6 +209,66 @@ TEST_F(QuorconvExchangeTest, PutsBackATableOfEachTypeAndEveryByteIsAsItWas) {
     }
 }
 
+TEST_F(QuorconvExchangeTest, ReadsEachOfManyProbesAsItReadsThatOneAlone) {
+    std::string text = Replaced(folder.Read("host.ini"), "=-0\n", "=0.1\n");
+    const auto add = [&text, host = text](const std::string& name, const std::string& from,
+                                          const std::string& to) {
+        std::string probe = Replaced(host, "[Bath]", "[" + name + "]");
+        probe = Replaced(probe, "[Bath - Settings]", "[" + name + " - Settings]");
+        text += "\n" + Replaced(probe, from, to);
+    };
+    add("Other numbers", "=100.0123\n", "=99.5 ; by the certificate\n");
+    add("Minus zero", "=0.1\n", "=-0\n");
+    add("Not a number", "=0.1\n", "=NaN\n");
+    add("Unreadable", "=0.1\n", "=0,1\n");
+    add("Missing", "Coefficients3=0.1\n", "");
+    add("Three", "NumCoefficients=4\n", "NumCoefficients=3\n");
+    add("Below zero", "NumCoefficients=4\n", "NumCoefficients=-4\n");
+    add("Polynomial", "UsePolynomial=False\n", "UsePolynomial=1\n");
+    add("Unknown type", "ConversionType=2\n", "ConversionType=99\n");
+    add("No type", "ConversionType=2\n", "ConversionType=two\n");
+    add("Last", "=1.499786\n", "=1e-3\n");
+    std::ifstream laboratory(QUOR_SAMPLES "/laboratory.ini", std::ios::binary);
+    const std::string samples{std::istreambuf_iterator<char>(laboratory), {}};
+    folder.Write("many.ini", text + "\n" + samples);
+    ExpectShell("quorconv list many.ini --json | grep -o '\"section\": \"[^\"]*' | cut -d '\"' -f 4 >names\n"
+                "while read -r name; do quorconv show many.ini \"$name\" --jsonl; done <names >one 2>errors\n"
+                "quorconv export many.ini --jsonl >all 2>failures\n"
+                "cmp one all && head -n -1 failures | cmp errors - && grep -c . all errors",
+                "all:36\nerrors:8\n");
+}
+
+TEST_F(QuorconvExchangeTest, GivesManyProbesValuesAsItGivesThemToEachAlone) {
+    folder.Write("host.ini", Replaced(before, "=-0\n", "=0.1\n") +
+                                 Replaced(Replaced(before, "[Bath]", "\n[Oil]"), "[Bath -", "[Oil -"));
+    folder.Write("steps", "Bath Coefficients0=99.5\n"
+                          "Bath coefficients0=99.75 NumCoefficients=4 UsePolynomial=0\n"
+                          "Oil Coefficients3=0.5 Coefficients1=1e-3\n"
+                          "Oil Coefficients3=-0\n"
+                          "Bath Coefficients3=-0\n"
+                          "Bath Coefficients2=0\n"
+                          "Oil UsePolynomial=True\n"
+                          "Oil NumCoefficients=5 Coefficients4=1\n"
+                          "Oil Coefficients0=NaN\n");
+    ExpectShell("cp host.ini each.ini\n"
+                "while read -r step; do quorconv set each.ini $step --drop --allow-nan; done <steps\n"
+                "sed 's/^/set /' steps | quorconv apply host.ini --drop --allow-nan\ncmp host.ini each.ini",
+                "", "quorconv: 9 steps done\n");
+    folder.Write("steps", "Bath Coefficients0=1\nBath Coefficients0=NaN\nBath Coefficients0=1,5\n"
+                          "Bath Coefficients9=1\nBath UsePolynomial=True\nBath NumCoefficients=2\n");
+    ExpectShell(
+        "quorconv set host.ini --from steps; cmp host.ini each.ini", "",
+        "quorconv: host.ini: nothing was written, because 4 lines of steps are wrong\n"
+        "  steps:2: host.ini: [Bath] Coefficients0: NaN gives no temperature; --allow-nan stores it\n"
+        "  steps:3: host.ini: [Bath] Coefficients0: \"1,5\" is not a number; the decimal separator is "
+        "a point\n"
+        "  steps:4: host.ini: [Bath] Coefficients9: there is no such key in a record of this type; "
+        "did you mean \"Coefficients0\"?\n"
+        "  steps:5: host.ini: [Bath] values of the probe would get another meaning; give them anew, "
+        "or use --drop to allow it\n"
+        "    Coefficients1=0.00385055, by UsePolynomial=True\n");
+}
+
 TEST_F(QuorconvExchangeTest, TakesATableOfNewCertificates) {
     folder.Write("in.csv", "\xEF\xBB\xBFsection,Coefficients0\n\"Bath\",\"99,5\"\n\n");
     ExpectShell("quorconv put host.ini in.csv --csv --type cvd --decimal comma", "",
