@@ -17,10 +17,15 @@ def _tell(text: str) -> None:
     print(_printable(text), file=sys.stderr)
 
 
-def _list(file: ProbeFile) -> None:
+def _list(file: ProbeFile) -> int:
+    wrong = 0
     for row in file.table():
         kind = row["type"]
-        print(f"{_printable(row['section'])}\t{kind.name if isinstance(kind, ConversionType) else kind}")
+        name = kind.name if isinstance(kind, ConversionType) else str(kind)
+        if row["problems"] < 0:  # its type cannot be read
+            name, wrong = "?", 1
+        print(f"{_printable(row['section'])}\t{name}")
+    return wrong
 
 
 def _show(file: ProbeFile, sections: List[str]) -> int:
@@ -36,11 +41,7 @@ def _show(file: ProbeFile, sections: List[str]) -> int:
 
 def _run(command: str, name: str, sections: List[str]) -> int:
     file = ProbeFile(name)
-    result = 0
-    if command == "show":
-        result = _show(file, sections)
-    else:
-        _list(file)
+    result = _show(file, sections) if command == "show" else _list(file)
     sys.stdout.flush()
     return result
 

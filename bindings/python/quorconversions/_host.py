@@ -15,8 +15,8 @@ from typing import Any, Callable, ClassVar, List, Optional, Tuple, Type, Union
 
 from ._low import Control, Dialog, FileDialogKind, MessageIcon
 from ._low import INIFile as _StoreOfLibrary
-from ._runtime import (HostObject, View, borrowed, check, declare, exchanged, hosted, int16, keep, known, library,
-                       others_kept, text)
+from ._runtime import (HostObject, View, borrowed, check, declare, double, exchanged, flag, hosted, int16, keep, known,
+                       library, others_kept, text)
 
 PathText = Union[str, "os.PathLike[str]"]
 _keys = itertools.count(1)
@@ -124,7 +124,7 @@ def _read_string(file: INIFile, key: View, found: Any) -> None:
 
 class INIFile(_Offered):
     """A host's own INI file. It stores values under the keys of the selected section. A read returns None if there is no
-    such key, or if its value has another type. Keys are compared without regard to the case of ASCII letters."""
+    such key, or if its value has another type; a text where a number or flag is read raises TypeError. Keys are compared without regard to the case of ASCII letters."""
 
     file_name: str = ""
     """The file that the object is bound to."""
@@ -170,9 +170,9 @@ class INIFile(_Offered):
         "get_file_name": _function(lambda file: _answer(file.file_name)),
         "put_section": _function(_put_section, View),
         "get_section": _function(lambda file: _answer(file.section)),
-        "read_boolean": _function(_reader(lambda f, k: f.read_boolean(k), lambda v: -1 if v else 0), View,
+        "read_boolean": _function(_reader(lambda f, k: f.read_boolean(k), flag), View,
                                   POINTER(c_int16), POINTER(c_int16)),
-        "read_double": _function(_reader(lambda f, k: f.read_double(k), float), View, POINTER(c_double),
+        "read_double": _function(_reader(lambda f, k: f.read_double(k), double), View, POINTER(c_double),
                                  POINTER(c_int16)),
         "read_integer": _function(_reader(lambda f, k: f.read_integer(k), int16), View, POINTER(c_int16),
                                   POINTER(c_int16)),
@@ -311,7 +311,7 @@ def _ask_for_file(platform: Platform, view: Any) -> None:
 
 
 def _call_help(platform: Platform, help_file: View, command: int, data: int, result: Any) -> None:
-    result[0] = -1 if platform.call_help(str(help_file), command, data) else 0
+    result[0] = flag(platform.call_help(str(help_file), command, data))
 
 
 def _get_mouse_pointer(platform: Platform, shape: Any) -> None:

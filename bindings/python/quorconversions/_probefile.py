@@ -43,7 +43,7 @@ class Conflict:
     """A value that another program has changed too since it was read. An empty text is a missing value."""
 
     section: str
-    key: str
+    key: str  #: empty if the probe was to be replaced or removed as a whole, and so are the values then
     read: str
     theirs: str
     ours: str
@@ -69,13 +69,14 @@ class IncompleteProbeError(ProbeFileError):
 
 
 class ConflictError(QuorError):
-    """Another program has changed the same values (`conflicts`). Nothing was written."""
+    """Another program has changed the same values, or a probe that was to be replaced or removed as a whole
+    (`conflicts`). Nothing was written."""
 
     def __init__(self, error: QuorError, conflicts: Tuple[Conflict, ...]) -> None:
         values = "; ".join(f"[{one.section}] {one.key}: {one.read or '(none)'} was read, theirs is "
-                           f"{one.theirs or '(none)'}, ours {one.ours or '(none)'}" for one in conflicts)
-        super().__init__(error.number, error.source, f"{error.description}: {values}", error.help_file,
-                         error.help_context)
+                           f"{one.theirs or '(none)'}, ours {one.ours or '(none)'}" for one in conflicts if one.key)
+        super().__init__(error.number, error.source, f"{error.description}: {values}" if values else error.description,
+                         error.help_file, error.help_context)
         self.conflicts = conflicts
 
 
@@ -84,7 +85,8 @@ class ProbeTable:
     probe: a dictionary with "section", "type", "problems" and each number under its key.
 
     The numbers themselves are in one array: those of probe i are `values[ends[i - 1]:ends[i]]`, and their keys are
-    `key_lists[key_list_of[i]]`. Booleans are 1.0 and 0.0; texts, such as units, are not included."""
+    `key_lists[key_list_of[i]]`. Booleans are 1.0 and 0.0; texts, such as units, are not included. Numbers that are missing or
+    cannot be read are NaN, and so are all of a record that is refused as a whole."""
 
     def __init__(self, table: _low.ProbeTable) -> None:
         self.sections: List[str] = table.Sections.split("\n")[:-1]
@@ -134,20 +136,39 @@ def _require_name(name: str) -> None:
         raise ValueError(f"a section cannot have the name {name!r}: {reason}")
 
 
+@dataclass(eq=False)
+class _Probe:
+    """What the host has of a section."""
+
+    section: str
+    conversion: Optional[Conversion]  #: None: the probe is to be removed
+    type_read: Optional[int] = None  #: of the conversion; None if it was not read from the section
+    replaces: Optional[_Probe] = None  #: what was read and is to be replaced or removed by this
+
+    def after(self, is_saved: bool) -> Iterator[Tuple[str, Conversion, Optional[int]]]:
+        """The conversions, each with the type that its section should have once everything was saved or discarded; None
+        for those that no longer belong to it."""
+        if self.conversion is not None:
+            yield self.section, self.conversion, self.conversion.ConversionType if is_saved else self.type_read
+        if self.replaces is not None:
+            for section, conversion, type_read in self.replaces.after(False):
+                yield section, conversion, None if is_saved else type_read
+
+
 class _Detached:
     """A conversion that no longer belongs to the file. Its objects are referenced here, not their wrappers, so that it is
     known whether the host can still reach one of them."""
 
-    def __init__(self, file: _low.ProbeFile, section: str, conversion: Conversion) -> None:
+    def __init__(self, section: str, conversion: Conversion) -> None:
         self.section = section
         settings = conversion.settings
-        parts = [getattr(settings, part, None) for part in ("LowRange", "HighRange")]  # of an ITS-90
+        parts = [getattr(settings, part, None) for part in _RANGES]
         self._handles = [it._handle for it in (conversion, settings, *parts) if it is not None]
         for handle in self._handles:
             library.quor_add_ref(handle)
         conversion.Changed = False
         conversion._file = lambda: None
-        self._differed = self._differs(file, conversion)
+        self._form = _form(conversion)
 
     def __del__(self) -> None:
         for handle in self._handles:
@@ -161,16 +182,17 @@ class _Detached:
             return False
         return any(it is not None for it in there)
 
-    def is_changed(self, file: _low.ProbeFile) -> bool:
+    def is_changed(self) -> bool:
         conversion = borrowed(self._handles[0])
-        return conversion.Changed or not self._differed and self._differs(file, conversion)
+        return conversion.Changed or _form(conversion) != self._form
 
-    def _differs(self, file: _low.ProbeFile, conversion: Conversion) -> bool:
-        """From what the file object has read into it or written from it last: some changes set no flag."""
-        try:
-            return file.Differs(self.section, conversion)
-        except QuorError:
-            return True
+
+_RANGES = ("LowRange", "HighRange")  # of an ITS-90
+
+
+def _form(conversion: Conversion) -> object:
+    """The only value of a record whose change sets no flag."""
+    return getattr(conversion.settings, "UsePolynomial", None)
 
 
 class ProbeFile(MutableMapping[str, Conversion]):
@@ -183,17 +205,20 @@ class ProbeFile(MutableMapping[str, Conversion]):
     All changes, additions and removals are saved together at the end of the block, or by `save`: all of them or none,
     and none if an exception leaves the block. Of a probe that was read, only the values that differ are written, so that
     values which another program has written in the meantime are kept; if both have changed the same value, ConflictError
-    is raised. No other line of the file changes.
+    is raised. So it is if a probe was assigned, given another type or removed, and another program has changed it in the
+    meantime, or has added one in its place. No other line of the file changes.
 
     A probe is read when it is first accessed. An incomplete one raises IncompleteProbeError, which has its values; `read`
     returns them without raising. `platform` is passed to the conversions.
 
-    After a save, a `discard` or an exception that leaves the block, the probes that were accessed are read again into
-    their conversions, which then have the values of the file and still belong to it. If one has become incomplete, `save`
-    and `discard` raise IncompleteProbeError, once all others have been read (the changes are saved, or discarded), and its
-    conversion keeps its values but no longer belongs to the file. Nor do conversions whose probes another program has
-    removed or given another type, and those that were assigned but not saved before `discard` or an exception. If one of
-    them, or its settings, is changed afterwards, `save` raises ValueError, because the change would be lost."""
+    After a `save`, `discard`, `rename` or `duplicate`, and after an exception that leaves the block, the probes that were
+    accessed are read again into their conversions, which then have the values of the file and still belong to it. If one
+    has become incomplete, or is refused by the range limits that the host has set (MinRange, MaxRange), the call raises
+    IncompleteProbeError, once all others have been read (the changes are saved, or discarded), and its conversion keeps its
+    values but no longer belongs to the file. Nor do conversions whose probes were removed, replaced or given another type,
+    by the host and a save or by another program, and those that were assigned but not saved before `discard` or an
+    exception. If one of them, or its settings, is changed afterwards, `save` raises ValueError, because the change would be
+    lost."""
 
     def __init__(self, path: PathText, create: bool = False, platform: Optional[Platform] = None) -> None:
         """Loads the file. With `create` it need not exist: the first save creates it."""
@@ -201,8 +226,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
         self._create = create
         self._platform = platform
         self._file = _low.ProbeFile(self._path, create)
-        self._probes: Dict[str, Tuple[str, Optional[Conversion], bool]] = {}  # folded -> section, None: removed, read
-        self._before: Dict[str, int] = {}  # the types that were read
+        self._probes: Dict[str, _Probe] = {}  # by folded sections
         self._detached: Dict[int, _Detached] = {}  # no longer of the file, by the handles of the conversions
 
     @property
@@ -242,51 +266,75 @@ class ProbeFile(MutableMapping[str, Conversion]):
         _section(section)
         pending = self._probes.get(_folded(section))
         if pending is not None:
-            if pending[1] is None:
+            if pending.conversion is None:
                 raise KeyError(section)
-            return pending[1]
+            return pending.conversion
         if not self._is_in_file(section):
             raise KeyError(section)
         conversion = self._read_whole(section)
         self._remember(section, conversion)
         return conversion
 
-    def _read_whole(self, section: str) -> Conversion:
-        """The probe, newly read; IncompleteProbeError if something is missing."""
-        conversion, problems = self.read(section)
+    def _read_whole(self, section: str, like: Optional[Conversion] = None) -> Conversion:
+        """The probe, newly read; IncompleteProbeError if something is missing, or if a conversion with the range limits of
+        `like` refuses it."""
+        conversion, problems = self._read(section, like)
         if self._file.ProblemCount or self._file.MessageCount:
             words = "; ".join(f"[{p.section}] {p.key}: {p.text}" for p in problems) or self._file.get_Messages(0)
             raise IncompleteProbeError(QuorError(75, "QuorProbeFile", f"{self._path}: {words}"), problems, conversion)
         return conversion
 
+    def _read(self, section: str, like: Optional[Conversion] = None) -> Tuple[Conversion, Tuple[Problem, ...]]:
+        conversion = Conversion(platform=self._platform)
+        if like is not None:
+            conversion.ConversionType = like.ConversionType
+            for part in _RANGES:
+                if hasattr(like.settings, part):
+                    limited, limits = getattr(conversion.settings, part), getattr(like.settings, part)
+                    limited.MinRange, limited.MaxRange = limits.MinRange, limits.MaxRange
+        self._call(lambda: self._file.Read(section, conversion))
+        return conversion, _problems(self._file)
+
     def read(self, section: str) -> Tuple[Conversion, Tuple[Problem, ...]]:
         """The probe as the file has it, with default values where something is missing, and its problems. The conversion
         does not belong to this mapping: changes to it are not saved unless it is assigned to a section."""
-        _section(section)
-        conversion = Conversion(platform=self._platform)
-        self._call(lambda: self._file.Read(section, conversion))
-        return conversion, _problems(self._file)
+        return self._read(_section(section))
 
     def __setitem__(self, section: str, conversion: Conversion) -> None:
         if not isinstance(conversion, Conversion):
             raise TypeError(f"expected a Conversion, not {conversion!r}")
         if _section(section) not in self:
             _require_name(section)
-        other_file = getattr(conversion, "_file", lambda: None)()
-        if other_file is not None and other_file is not self:
-            for other, known_conversion, _ in other_file._probes.values():
-                if known_conversion is conversion:
-                    raise ValueError(f"this conversion already belongs to [{other}] in {other_file.path}; "
-                                     "read gives another one")
         folded = _folded(section)
-        for name, (other, known_conversion, _) in self._probes.items():
-            if known_conversion is conversion and name != folded:
-                raise ValueError(f"this conversion already belongs to [{other}]; duplicate makes another one")
+        owner = getattr(conversion, "_file", lambda: None)()
+        if owner is None:
+            owner = self
+        for name, probe in owner._probes.items():
+            if probe.conversion is conversion and (owner is not self or name != folded):
+                advice = "; duplicate makes" if owner is self else f" in {owner.path}; read gives"
+                raise ValueError(f"this conversion already belongs to [{probe.section}]{advice} another one")
         there = self._probes.get(folded)
-        if there is None or there[1] is not conversion:
-            self._probes[folded] = section, conversion, False
-            conversion._file = weakref.ref(self)
-            self._detached.pop(conversion._handle, None)
+        if there is not None and there.conversion is conversion:
+            return
+        replaced = self._replaced(folded)
+        if replaced is not None and replaced.conversion is conversion:
+            self._probes[folded] = replaced
+            return
+        for probe in owner._probes.values():
+            if probe.replaces is not None and probe.replaces.conversion is conversion:
+                probe.replaces = None
+        self._probes[folded] = _Probe(section, conversion, replaces=replaced)
+        conversion._file = weakref.ref(self)
+        self._detached.pop(conversion._handle, None)
+
+    def _replaced(self, folded: str) -> Optional[_Probe]:
+        """What was read from this section, for its place to be taken. What was only assigned is detached."""
+        there = self._probes.get(folded)
+        if there is None or there.type_read is not None:
+            return there
+        if there.conversion is not None:
+            self._detach(there.section, there.conversion)
+        return there.replaces
 
     def duplicate(self, section: str, name: str) -> None:
         """Copies the probe, as the file has it, to another section, and saves at once. If that is a probe which was
@@ -300,15 +348,12 @@ class ProbeFile(MutableMapping[str, Conversion]):
         if not self._is_in_file(name):
             self._let_go(name)  # another program has removed the probe that had it
         self._call(lambda: self._file.Copy(_section(section), name))
-        self._reread({_folded(name)} & self._probes.keys())
+        self._reread()
 
     def __delitem__(self, section: str) -> None:
         if _section(section) not in self:
             raise KeyError(section)
-        if not self._is_in_file(section):
-            del self._probes[_folded(section)]  # it was only added here
-        else:
-            self._probes[_folded(section)] = section, None, False
+        self._probes[_folded(section)] = _Probe(section, None, replaces=self._replaced(_folded(section)))
 
     def _in_file(self) -> Iterator[str]:
         return (self._file.get_ProbeSection(place) for place in range(self._file.ProbeCount))
@@ -316,11 +361,12 @@ class ProbeFile(MutableMapping[str, Conversion]):
     def __iter__(self) -> Iterator[str]:
         stand = list(self._in_file())
         for section in stand:
-            if self._probes.get(_folded(section), (section, True))[1] is not None:
+            pending = self._probes.get(_folded(section))
+            if pending is None or pending.conversion is not None:
                 yield section
         names = {_folded(section) for section in stand}
-        yield from [section for folded, (section, conversion, _) in list(self._probes.items())
-                    if folded not in names and conversion is not None]
+        yield from [probe.section for folded, probe in list(self._probes.items())
+                    if folded not in names and probe.conversion is not None]
 
     def __len__(self) -> int:
         return sum(1 for _ in self)
@@ -329,10 +375,11 @@ class ProbeFile(MutableMapping[str, Conversion]):
         if not isinstance(section, str):
             return False
         pending = self._probes.get(_folded(section))
-        return self._is_in_file(section) if pending is None else pending[1] is not None
+        return self._is_in_file(section) if pending is None else pending.conversion is not None
 
     def table(self) -> ProbeTable:
-        """The numbers of all probes as the file has them, in one call: fast for a hundred thousand probes."""
+        """The numbers of all probes as the file has them, in one call: fast for a hundred thousand probes. Those that cannot
+        be read are NaN."""
         return ProbeTable(self._call(self._file.ReadAll))  # type: ignore[arg-type]
 
     def check(self) -> List[Problem]:
@@ -346,85 +393,95 @@ class ProbeFile(MutableMapping[str, Conversion]):
         """Saves all changes, additions and removals, or none of them."""
         self._drop_unreachable()
         for one in self._detached.values():
-            if one.is_changed(self._file):
+            if one.is_changed():
                 raise ValueError(f"the conversion of [{one.section}] was changed, but no longer belongs to {self._path}; "
                                  "get it from the file again")
         steps = list(self._steps())
-        if not steps:
+        if steps:
+            self._take(steps)
+        elif self._file.Changed:
+            self._call(self._file.Reload)
+        elif all(probe.type_read is not None for probe in self._probes.values()):
             return
-        self._file.Hold()
+        self._reread(is_saved=True)
+
+    def _take(self, steps: Iterable[Callable[[], object]]) -> None:
+        """Takes all steps, or none."""
         try:
+            self._file.Hold()
             for step in steps:
                 step()
+            self._file.Release()
         except BaseException as error:
+            # An interrupt may come before the bracket is open, or after it was saved: then this does nothing, and the next
+            # save finds nothing more to write.
             self._file.Abandon()
             if isinstance(error, QuorError):
                 self._raise(self._file, error)
             raise
-        self._call(self._file.Release)
-        for folded, (section, saved, _) in self._probes.items():
-            if saved is not None:
-                self._probes[folded] = section, saved, True
-                self._before[folded] = saved.ConversionType
-        self._reread(self._probes)
 
-    def _reread(self, names: Iterable[str]) -> None:
-        """Reads the accessed conversions of these folded names again. One that cannot have the values of the file keeps its
-        own, and is detached. ProbeFileError for those that are incomplete, once all have been read."""
+    def _reread(self, is_saved: bool = False) -> None:
+        """Reads the accessed conversions again, once everything was saved or discarded. One that cannot have the values of
+        the file keeps its own, and is detached. ProbeFileError for those that are incomplete, once all have been read."""
         self._drop_unreachable()
-        left = {name: (*self._probes.pop(name), self._before.pop(name, None)) for name in list(names)}
+        left = [one for probe in self._probes.values() for one in probe.after(is_saved)][::-1]
         incomplete: List[ProbeFileError] = []
         try:
+            self._probes.clear()
             while left:
-                section, conversion, was_read, type_before = left[next(iter(left))]
-                if conversion is not None:
-                    try:
-                        # Into another conversion first: this one must not get defaults for values that another program
-                        # has broken, nor another type, for which it would drop the settings that the host holds.
-                        if (was_read and self._is_in_file(section)
-                                and self._read_whole(section).ConversionType == type_before):
-                            self._call(partial(self._file.Read, section, conversion))
-                            self._remember(section, conversion)
-                        else:
-                            self._detach(section, conversion)
-                    except ProbeFileError as error:
+                section, conversion, of_type = left[-1]
+                try:
+                    # Into another conversion first: this one must not get defaults for values that another program has
+                    # broken, nor another type, for which it would drop the settings that the host holds.
+                    if (of_type is not None and self._is_in_file(section)
+                            and self._read_whole(section, conversion).ConversionType == of_type):
+                        self._call(partial(self._file.Read, section, conversion))
+                        self._remember(section, conversion)
+                    else:
                         self._detach(section, conversion)
-                        incomplete.append(error)
-                del left[next(iter(left))]
-        except BaseException:
-            for section, conversion, _, _ in left.values():
-                if conversion is not None:
+                except ProbeFileError as error:
                     self._detach(section, conversion)
+                    incomplete.append(error)
+                left.pop()
+        except BaseException:
+            for section, conversion, _ in left:
+                self._detach(section, conversion)
             raise
         if incomplete:
             raise incomplete[0]
 
     def _remember(self, section: str, conversion: Conversion) -> None:
-        self._probes[_folded(section)] = section, conversion, True
-        self._before[_folded(section)] = conversion.ConversionType
+        self._probes[_folded(section)] = _Probe(section, conversion, conversion.ConversionType)
         conversion._file = weakref.ref(self)
 
     def _detach(self, section: str, conversion: Conversion) -> None:
-        self._detached[conversion._handle] = _Detached(self._file, section, conversion)
+        self._detached[conversion._handle] = _Detached(section, conversion)
 
     def _drop_unreachable(self) -> None:
         self._detached = {handle: one for handle, one in self._detached.items() if one.is_reachable()}
 
     def _let_go(self, section: str) -> None:
         """Detaches what was accessed under this name."""
-        self._before.pop(_folded(section), None)
-        _, conversion, _ = self._probes.pop(_folded(section), (section, None, False))
-        if conversion is not None:
-            self._detach(section, conversion)
+        probe = self._probes.pop(_folded(section), None)
+        if probe is not None:
+            for _, conversion, _ in probe.after(True):
+                self._detach(section, conversion)
 
     def _steps(self) -> Iterator[Callable[[], object]]:
-        for folded, (section, conversion, was_read) in self._probes.items():
+        steps: List[Callable[[], object]] = []
+        for probe in self._probes.values():
+            section, conversion = probe.section, probe.conversion
             if conversion is None:
-                yield partial(self._file.Remove, section)
-            elif not was_read or conversion.ConversionType != self._before[folded]:
-                yield partial(self._file.Write, section, conversion)
+                if self._is_in_file(section):
+                    known = probe.replaces.conversion if probe.replaces is not None else None
+                    yield partial(self._file.RequireUnchanged, section, known or Conversion())
+                    steps.append(partial(self._file.Remove, section))
+            elif conversion.ConversionType != probe.type_read:
+                yield partial(self._file.RequireUnchanged, section, conversion)
+                steps.append(partial(self._file.Write, section, conversion))
             elif self._call(partial(self._file.Differs, section, conversion)):
-                yield partial(self._file.WriteChanges, section, conversion)
+                steps.append(partial(self._file.WriteChanges, section, conversion))
+        yield from steps
 
     def discard(self) -> None:
         """Discards unsaved changes and loads the current file: conversions of its probes get its values."""
@@ -434,7 +491,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
             for section in list(self._probes):
                 self._let_go(section)
             raise
-        self._reread(self._probes)
+        self._reread()
 
     @property
     def changed_by_others(self) -> bool:
@@ -452,11 +509,10 @@ class ProbeFile(MutableMapping[str, Conversion]):
         _require_name(_section(name))
         self._call(lambda: self._file.Rename(_section(section), name))
         known = self._probes.pop(_folded(section), None)
-        type_before = self._before.pop(_folded(section), None)
         self._let_go(name)  # another program has removed the probe that had it
-        if known is not None and known[1] is not None and type_before is not None:
-            self._before[_folded(name)] = type_before
-            self._probes[_folded(name)] = name, known[1], True
+        if known is not None and known.conversion is not None:
+            self._probes[_folded(name)] = _Probe(name, known.conversion, known.type_read)
+        self._reread()
 
     def __enter__(self) -> ProbeFile:
         return self
@@ -467,7 +523,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
             self.save()
             return
         with suppress(QuorError):  # which would hide the exception
-            self._reread(self._probes)
+            self.discard()
 
     def __repr__(self) -> str:
         return f"ProbeFile({self._path!r}, {len(self)} probes)"

@@ -56,6 +56,11 @@ def test_list_names_probes_and_types(laboratory, capsys):
     lines = capsys.readouterr().out.splitlines()
     assert len(lines) == 29
     assert lines[8] == f"{PROBE}\tCVD"
+    text = laboratory.read_text(encoding="utf-8")
+    begin = text.index("ConversionType=", text.index(f"[{PROBE}]"))
+    laboratory.write_text(text[:begin] + "ConversionType=x" + text[text.index("\n", begin):], encoding="utf-8")
+    assert main(["list", str(laboratory)]) == 1
+    assert capsys.readouterr().out.splitlines() == [*lines[:8], f"{PROBE}\t?", *lines[9:]]
 
 
 def test_show_tells_values_and_what_is_wrong(laboratory, capsys):

@@ -1,5 +1,7 @@
 """The probes of a file."""
 
+import math
+
 import pytest
 
 import quorconversions as quor
@@ -374,7 +376,6 @@ def test_an_exception_that_leaves_the_block_comes_out_though_a_probe_is_incomple
     with pytest.raises(ZeroDivisionError), ProbeFile(path) as file:
         wt90 = file["P"].settings
         path.write_text(replaced(path.read_text(), "25.5", "n/a"))
-        file.duplicate("Q", "R")  # which loads the file
         raise ZeroDivisionError
     assert wt90.RTPW == 25.5
     wt90.RTPW = 25.25
@@ -459,10 +460,10 @@ def test_what_an_interrupt_keeps_from_being_read_no_longer_belongs_to_the_file(l
     first, second = file[PROBE].settings, file["Probe 10 PRT-1183"].settings
     read_whole = ProbeFile._read_whole
 
-    def interrupted(self, section):
+    def interrupted(self, section, like=None):
         if section != PROBE:
             raise KeyboardInterrupt
-        return read_whole(self, section)
+        return read_whole(self, section, like)
 
     monkeypatch.setattr(ProbeFile, "_read_whole", interrupted)
     with pytest.raises(KeyboardInterrupt):
@@ -517,6 +518,281 @@ def test_the_name_of_a_probe_that_another_program_has_removed_goes_to_another_on
     gone.settings.R0 = 101
     with pytest.raises(ValueError, match=r"\[Probe 10 PRT-1183\] was changed, but no longer belongs to"):
         file.save()
+
+
+@pytest.mark.parametrize("leave", [ProbeFile.save, discarded])
+def test_range_limits_of_the_host_cost_no_values_when_a_probe_is_read_again(tmp_path, leave):
+    path = tmp_path / "host.ini"
+    path.write_text("[P]\nVersion=1.0\nConversionType=0\n[P - Settings]\nVersion=1.0\nRTPW=25.5\n"
+                    "[P - Settings - High Range]\nVersion=1.0\nRange=-1\n"
+                    "[P - Settings - Low Range]\nVersion=1.0\nRange=1\n"
+                    + "".join(f"Coefficients{place}=0\n" for place in range(7))
+                    + "[Q]\nVersion=1.0\nConversionType=14\n[Q - Settings]\nVersion=1.0\nRTPW=25\n")
+    file = ProbeFile(path)
+    its = file["P"].settings
+    its.low_range.MinRange = 4
+    file["Q"].settings.RTPW = 24
+    with pytest.raises(quor.IncompleteProbeError, match=r"\[P - Settings - Low Range\] Range: ") as raised:
+        leave(file)
+    assert raised.value.conversion.settings is not its
+    assert (its.RTPW, its.low_range.Range) == (25.5, 1)
+    its.low_range.MinRange = 1
+    assert file["P"].settings.RTPW == 25.5
+
+
+def added(file):
+    """A conversion that was removed before it was saved."""
+    conversion = file["Added"] = Conversion(ConversionType.CVD)
+    del file["Added"]
+    return "Added", conversion
+
+
+def removed(file):
+    conversion = file[PROBE]
+    del file[PROBE]
+    return PROBE, conversion
+
+
+def replaced_by_another(file):
+    conversion = file[PROBE]
+    file[PROBE] = Conversion(ConversionType.WT90)
+    return PROBE, conversion
+
+
+def replaced_and_removed(file):
+    conversion = file[PROBE]
+    file[PROBE] = Conversion(ConversionType.WT90)
+    del file[PROBE]
+    return PROBE, conversion
+
+
+@pytest.mark.parametrize("displace", [removed, replaced_by_another, replaced_and_removed])
+@pytest.mark.parametrize("leave", [discarded, left_by_an_exception])
+def test_a_conversion_whose_removal_or_replacement_is_discarded_belongs_to_the_file_again(laboratory, displace, leave):
+    file = ProbeFile(laboratory)
+    _, conversion = displace(file)
+    conversion.settings.R0 = 99
+    leave(file)
+    assert file[PROBE] is conversion
+    assert conversion.settings.R0 == 100
+    conversion.settings.R0 = 101
+    file.save()
+    assert ProbeFile(laboratory)[PROBE].settings.R0 == 101
+
+
+@pytest.mark.parametrize("displace", [added, removed, replaced_by_another, replaced_and_removed])
+@pytest.mark.parametrize("key, value", [("R0", 100.0123), ("UsePolynomial", None)])
+def test_no_change_of_a_conversion_that_was_removed_or_replaced_is_lost_in_silence(laboratory, displace, key, value):
+    file = ProbeFile(laboratory)
+    section, conversion = displace(file)
+    file.save()
+    before = laboratory.read_bytes()
+    file.save()
+    setattr(conversion.settings, key, not conversion.settings.UsePolynomial if value is None else value)
+    with pytest.raises(ValueError, match=rf"\[{section}\] was changed, but no longer belongs to"):
+        file.save()
+    assert laboratory.read_bytes() == before
+    file["Once more"] = conversion
+    file.save()
+    assert ProbeFile(laboratory)["Once more"].settings.coefficients == conversion.settings.coefficients
+
+
+def test_a_conversion_that_is_assigned_instead_of_another_unsaved_one_leaves_that_without_a_file(laboratory):
+    file = ProbeFile(laboratory)
+    first = file["Added"] = Conversion(ConversionType.CVD)
+    file["Added"] = Conversion(ConversionType.WT90)
+    first.settings.R0 = 100.0123
+    with pytest.raises(ValueError, match=r"\[Added\] was changed, but no longer belongs to"):
+        file.save()
+
+
+@pytest.mark.parametrize("displace", [removed, replaced_by_another, replaced_and_removed])
+def test_a_conversion_that_comes_back_to_its_section_is_as_if_it_had_stayed(laboratory, displace):
+    file = ProbeFile(laboratory)
+    _, conversion = displace(file)
+    with ProbeFile(laboratory) as theirs:
+        theirs[PROBE].settings.C = 0.5
+    conversion.settings.R0 = 100.0123
+    file[PROBE] = conversion
+    file.save()
+    assert list(ProbeFile(laboratory)[PROBE].settings.coefficients)[::3] == [100.0123, 0.5]
+
+
+def test_a_probe_moves_to_another_section_or_another_file(laboratory, tmp_path):
+    file, other = ProbeFile(laboratory), ProbeFile(tmp_path / "other.ini", create=True)
+    one, two = file[PROBE], file["Probe 10 PRT-1183"]
+    del file[PROBE], file["Probe 10 PRT-1183"]
+    file["Moved"] = one
+    other["Moved"] = two
+    other.save()
+    file.save()
+    one.settings.R0, two.settings.R0 = 101, 102
+    other.save()
+    file.discard()
+    assert (one.settings.R0, file["Moved"] is one) == (100, True)
+    assert (two.settings.R0, other["Moved"] is two) == (102, True)
+    assert ProbeFile(tmp_path / "other.ini")["Moved"].settings.R0 == 102
+
+
+def given_another_type(file):
+    file[PROBE].type = ConversionType.WT90
+
+
+def assigned_as_it_was_read(file):
+    file[PROBE], _ = file.read(PROBE)
+
+
+def assigned_anew(file):
+    file[PROBE] = Conversion(ConversionType.WT90)
+
+
+def removed_without_a_look(file):
+    del file[PROBE]
+
+
+@pytest.mark.parametrize("change", [given_another_type, assigned_as_it_was_read, assigned_anew, removed,
+                                    removed_without_a_look])
+@pytest.mark.parametrize("theirs", [lambda file: setattr(file[PROBE].settings, "R0", 100.0123), removed_without_a_look])
+def test_a_probe_that_another_program_has_changed_is_neither_replaced_nor_removed_as_a_whole(laboratory, change, theirs):
+    file = ProbeFile(laboratory)
+    assert PROBE in file
+    change(file)
+    with ProbeFile(laboratory) as other:
+        theirs(other)
+    before = laboratory.read_bytes()
+    both_remove = theirs is removed_without_a_look and change in (removed, removed_without_a_look)
+    for _ in range(1 if both_remove else 2):
+        with pytest.raises(quor.ConflictError) as raised:
+            file.save()
+        assert raised.value.conflicts == (quor.Conflict(PROBE, "", "", "", ""),)
+        assert str(raised.value) == (f"{laboratory}: [{PROBE}]: another program has changed, added or removed the probe "
+                                     "meanwhile (QuorProbeFile, error 75)")
+        assert laboratory.read_bytes() == before
+    file.discard()
+    if PROBE in file:
+        change(file)
+        file.save()
+        assert laboratory.read_bytes() != before or change is assigned_as_it_was_read
+
+
+def test_of_two_programs_that_add_a_probe_the_second_does_not_replace_the_first(laboratory):
+    mine, theirs = ProbeFile(laboratory), ProbeFile(laboratory)
+    assert "Probe 30" not in mine
+    mine["Probe 30"] = Conversion(ConversionType.CVD)
+    theirs["Probe 30"] = Conversion(ConversionType.WT90)
+    theirs.save()
+    before = laboratory.read_bytes()
+    with pytest.raises(quor.ConflictError):
+        mine.save()
+    assert laboratory.read_bytes() == before
+
+
+def test_a_conversion_that_was_read_before_others_have_saved_replaces_nothing_later(laboratory):
+    file = ProbeFile(laboratory)
+    conversion, _ = file.read(PROBE)
+    with ProbeFile(laboratory) as theirs:
+        theirs[PROBE].settings.R0 = 100.0123
+    file["Probe 10 PRT-1183"].settings.R0 = 99
+    file.save()  # which knows what they have saved
+    file[PROBE] = conversion
+    with pytest.raises(quor.ConflictError):
+        file.save()
+    assert ProbeFile(laboratory)[PROBE].settings.R0 == 100.0123
+
+
+def saved(file):
+    file.save()
+
+
+def another_one_renamed(file):
+    file.rename("Probe 10 PRT-1183", "Another")
+
+
+def another_one_duplicated(file):
+    file.duplicate("Probe 10 PRT-1183", "Another")
+
+
+@pytest.mark.parametrize("call", [saved, another_one_renamed, another_one_duplicated, left_by_an_exception])
+def test_without_own_changes_conversions_get_what_others_have_saved_too(laboratory, call):
+    file = ProbeFile(laboratory)
+    cvd = file[PROBE].settings
+    with ProbeFile(laboratory) as theirs:
+        theirs[PROBE].settings.R0 = 101
+    call(file)
+    assert cvd.R0 == 101
+    assert file[PROBE].settings is cvd
+
+
+@pytest.mark.parametrize("interrupted", ["Hold", "RequireUnchanged", "WriteChanges", "Release"])
+@pytest.mark.parametrize("comes", ["before", "after"])
+def test_an_interrupt_of_a_save_leaves_it_to_the_next_one(laboratory, monkeypatch, interrupted, comes):
+    file = ProbeFile(laboratory)
+    changed, gone = file[PROBE], file["Probe 10 PRT-1183"]
+    changed.settings.R0 = 100.0123
+    del file["Probe 10 PRT-1183"]
+    new = file["Probe 30"] = Conversion(ConversionType.WT90)
+    call = getattr(quor._low.ProbeFile, interrupted)
+
+    def stopped(self, *arguments):
+        if comes == "after":
+            call(self, *arguments)
+        raise KeyboardInterrupt
+
+    monkeypatch.setattr(quor._low.ProbeFile, interrupted, stopped)
+    before = laboratory.read_bytes()
+    with pytest.raises(KeyboardInterrupt):
+        file.save()
+    monkeypatch.undo()
+    is_saved = (interrupted, comes) == ("Release", "after")
+    assert (laboratory.read_bytes() != before) == is_saved
+    after = laboratory.read_bytes()
+    file.save()
+    assert (laboratory.read_bytes() == after) == is_saved
+    new.settings.RTPW = 25.5
+    changed.settings.R0 = 100.5
+    file.save()
+    now = ProbeFile(laboratory)
+    assert (now[PROBE].settings.R0, now["Probe 30"].settings.RTPW) == (100.5, 25.5)
+    assert "Probe 10 PRT-1183" not in now
+    gone.settings.R0 = 1
+    with pytest.raises(ValueError, match=r"\[Probe 10 PRT-1183\] was changed, but no longer belongs to"):
+        file.save()
+
+
+def test_an_interrupt_of_the_save_of_a_removal_alone_is_none_of_the_next_one(laboratory, monkeypatch):
+    file = ProbeFile(laboratory)
+    gone = file[PROBE]
+    del file[PROBE]
+    release = quor._low.ProbeFile.Release
+    monkeypatch.setattr(quor._low.ProbeFile, "Release", lambda self: release(self) or 1 / 0)
+    with pytest.raises(ZeroDivisionError):
+        file.save()
+    monkeypatch.undo()
+    file.save()
+    gone.settings.R0 = 1
+    with pytest.raises(ValueError, match=r"was changed, but no longer belongs to"):
+        file.save()
+
+
+@pytest.mark.parametrize("leave", [discarded, left_by_an_exception])
+def test_a_change_without_a_flag_is_none_to_be_lost_when_it_was_never_saved(laboratory, leave):
+    file = ProbeFile(laboratory)
+    added = file["Added"] = Conversion(ConversionType.CVD)
+    leave(file)
+    file.save()
+    added.settings.UsePolynomial = True
+    with pytest.raises(ValueError, match=r"\[Added\] was changed, but no longer belongs to"):
+        file.save()
+
+
+def test_numbers_that_cannot_be_read_are_nan_in_the_table(laboratory):
+    text = laboratory.read_text(encoding="utf-8")
+    line = text.index("Coefficients0=", text.index(f"[{PROBE} - Settings]"))
+    laboratory.write_text(text[:line] + "Coefficients0=100,0123" + text[text.index("\n", line):], encoding="utf-8")
+    (row,) = [row for row in ProbeFile(laboratory).table() if row["section"] == PROBE]
+    assert row["problems"] > 0
+    assert math.isnan(row["Coefficients0"])
+    assert row["Coefficients1"] == 0.0039083
 
 
 def test_a_probe_that_refuses_to_be_written_is_named_by_the_error(laboratory):

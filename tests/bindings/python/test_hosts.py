@@ -44,6 +44,17 @@ def test_an_ini_file_holds_a_record():
     assert other.settings.R0 == 100.0123
 
 
+@pytest.mark.parametrize("method, text", [("read_boolean", "False"), ("read_double", "1_00"), ("read_double", b"100"),
+                                          ("read_integer", "4")])
+def test_a_text_that_its_ini_file_gives_for_a_number_or_flag_is_a_type_error(method, text):
+    file = type("File", (MapINIFile,), {method: lambda self, key: text})()
+    conversion = Conversion(ConversionType.CVD, platform=Person())
+    Conversion(ConversionType.CVD).write(file, "Probe")
+    with pytest.raises(TypeError, match=repr(text) if method != "read_integer" else "integer"):
+        conversion.read(file, "Probe")
+    assert conversion.settings.R0 == 0
+
+
 @pytest.mark.parametrize("method", ["read_integer", "read_double", "read_boolean"])
 @pytest.mark.parametrize("raises", [lambda: Boom("the disk is on fire"), KeyboardInterrupt,
                                     lambda: quor.QuorError(4711, "Store", "no", "h.hlp", 7)],
