@@ -173,7 +173,7 @@ class Merge final : public Command {
         std::vector<std::pair<std::wstring, std::wstring>> renamed; // from, to
         NameMap<std::wstring> nameBefore;                           // of the renamed ones, by their new names
         std::vector<std::wstring> otherKeys; // probes that receive the keys beside the values of theirs
-        NameSet valuesOfRecords;             // "section/key" of what is no such key in them
+        NameSet kept;                        // "section/key" of what is not taken from these
         std::vector<std::wstring> conflicts;
     };
 
@@ -218,7 +218,7 @@ class Merge final : public Command {
             NameMap<std::wstring> copied;
             for (const std::wstring& section : plan.otherKeys)
                 copied.emplace(section, section);
-            CopyOtherKeys(*theirFile, copied, *file, plan.valuesOfRecords);
+            CopyOtherKeys(*theirFile, copied, *file, plan.kept);
             merged.insert(plan.otherKeys.begin(), plan.otherKeys.end());
         });
         TellCount(merged.size(), L"probe", m_isDryRun ? "would be merged" : "merged");
@@ -416,28 +416,45 @@ class Merge final : public Command {
         for (const auto& other : {tables.ours.Find(name), tables.base.Find(name)})
             if (other)
                 record.entries.insert(record.entries.end(), other->entries.begin(), other->entries.end());
-        const auto theirs = lines.theirs.Of(record);
+        const auto theirs = ByKey(lines.theirs.Of(record));
         record.section = name;
-        const auto ours = lines.ours.Of(record);
-        const auto base = lines.base.Of(record);
-        if (theirs == base || theirs == ours)
-            return;
-        const auto keyOf = [](const std::wstring& line) { return line.substr(0, line.find(L'=')); };
-        const auto isRemoved = [&](const std::wstring& line) {
-            return std::none_of(theirs.begin(), theirs.end(),
-                                [&](const std::wstring& their) { return keyOf(their) == keyOf(line); });
-        };
-        if (ours != base) {
-            plan.conflicts.push_back(L"[" + name + L"]: keys beside its values were changed here and in " +
-                                     m_theirs);
-        } else if (std::any_of(base.begin(), base.end(), isRemoved)) {
-            plan.conflicts.push_back(L"[" + name + L"]: keys beside its values were removed in " + m_theirs +
-                                     L"; a merge does not remove them here");
-        } else {
-            plan.otherKeys.push_back(section);
-            for (const RecordImage::Entry& entry : record.entries)
-                plan.valuesOfRecords.insert(tables.theirs.PlaceOf(section, entry.path));
+        auto ours = ByKey(lines.ours.Of(record));
+        auto base = ByKey(lines.base.Of(record));
+        NameSet kept;
+        for (const auto& [key, line] : theirs) {
+            const std::wstring& our = ours[key];
+            const std::wstring& before = base[key];
+            if (line == our || line == before) {
+                kept.insert(PlaceOf(tables.theirs, section, key));
+            } else if (our != before) {
+                plan.conflicts.push_back(L"[" + name +
+                                         L"]: keys beside its values were changed here and in " + m_theirs);
+                return;
+            }
         }
+        if (kept.size() == theirs.size())
+            return;
+        plan.otherKeys.push_back(section);
+        plan.kept.merge(kept);
+        for (const RecordImage::Entry& entry : record.entries)
+            plan.kept.insert(tables.theirs.PlaceOf(section, entry.path));
+    }
+
+    /// OtherLines by their keys, with what the section has behind the name of the probe.
+    static std::unordered_map<std::wstring, std::wstring> ByKey(const std::vector<std::wstring>& lines) {
+        std::unordered_map<std::wstring, std::wstring> byKey;
+        for (const std::wstring& line : lines)
+            byKey.emplace(line.substr(0, line.find(L'=')), line);
+        return byKey;
+    }
+
+    /// "section/key" of a key of ByKey.
+    static std::wstring PlaceOf(const ProbeTable& table, const std::wstring& section,
+                                const std::wstring& key) {
+        const std::size_t mark = settingsMark.size();
+        if (!EqualFolded(std::wstring_view(key).substr(0, mark), settingsMark))
+            return section + key;
+        return table.PlaceOf(section, key.substr(mark + (key[mark] == L'/' ? 1 : nestedMark.size())));
     }
 
     /// Lines that no record has, and that this file has changed in a probe which theirs have removed, or

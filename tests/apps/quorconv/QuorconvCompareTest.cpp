@@ -350,12 +350,30 @@ TEST_F(QuorconvCompareTest, MergesKeysThatNoRecordHas) {
     ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 0 probes merged\n");
     folder.Write("ours.ini", Replaced(due, "2025-05", "2028-05"));
     ExpectConflicts("  [B]: keys beside its values were changed here and in theirs.ini\n");
+    folder.Write("ours.ini", Replaced(due, "=14\n", "=14\nBath=3\n"));
+    folder.Write("theirs.ini", Replaced(due, "2025-05", "2026-05"));
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
+    EXPECT_EQ(folder.Read("ours.ini"),
+              Replaced(Replaced(due, "=14\n", "=14\nBath=3\n"), "2025-05", "2026-05"));
+    folder.Write("ours.ini", Replaced(due, "2025-05", "2027-05"));
+    folder.Write("theirs.ini", due + "Certificate=K17\n");
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
+    EXPECT_EQ(folder.Read("ours.ini"), Replaced(due, "2025-05", "2027-05") + "Certificate=K17\n");
     folder.Write("ours.ini", due);
-    folder.Write("theirs.ini", base);
-    ExpectConflicts(
-        "  [B]: keys beside its values were removed in theirs.ini; a merge does not remove them here\n");
-    folder.Write("ours.ini", base);
+    folder.Write("theirs.ini", base); // a file that was put from a table, say
     ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 0 probes merged\n");
+    EXPECT_EQ(folder.Read("ours.ini"), due);
+}
+
+TEST_F(QuorconvCompareTest, MergesKeysThatNoRecordHasOfAStandAloneFile) {
+    const std::string text = "[Callendar-Van Dusen]\nVersion=1.0\nNumCoefficients=2\nUsePolynomial=False\n"
+                             "Coefficients0=100\nCoefficients1=0.0039\nDue=2025-05\nBath=3\n";
+    folder.Write("base.cvd", text);
+    folder.Write("ours.cvd", Replaced(Replaced(text, "Bath=3", "Bath=4"), "=100", "=100.5"));
+    folder.Write("theirs.cvd", Replaced(text, "2025-05", "2026-05"));
+    ExpectShell("quorconv merge base.cvd ours.cvd theirs.cvd", "", "quorconv: 1 probe merged\n");
+    EXPECT_EQ(folder.Read("ours.cvd"),
+              Replaced(Replaced(Replaced(text, "Bath=3", "Bath=4"), "=100", "=100.5"), "2025-05", "2026-05"));
 }
 
 TEST_F(QuorconvCompareTest, AProbeIsNotRemovedAsLongAsTheOtherFileHasAnySectionOfItsSettings) {
