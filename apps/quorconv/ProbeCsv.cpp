@@ -48,6 +48,11 @@ void CsvStyle::Declare(Arguments& arguments) {
     arguments.Choice("--separator", separator, names, "The separator between the fields of the table");
 }
 
+void CsvStyle::RequireNone() const {
+    if (Decimal() != DecimalSign::Point || Separator() != CsvSeparator::Comma)
+        throw UsageError{L"--decimal and --separator are for --csv"};
+}
+
 DecimalSign CsvStyle::Decimal() const {
     return decimal == L"comma" ? DecimalSign::Comma : DecimalSign::Point;
 }
@@ -184,6 +189,8 @@ public:
         const TypeInfo* const info = ParseType(probe.type);
         if (!info || info->code == CONV_NONE)
             Fail(line, m_type == none ? m_section : m_type, L"\"" + probe.type + L"\" is no conversion type");
+        if (m_type != none && !type.empty() && ParseType(type) != info)
+            Fail(line, m_type, L"\"" + probe.type + L"\" is not the type of --type " + type);
         m_isWrong = true;
         RequireKeys(info->code);
         m_isWrong = false;
@@ -195,10 +202,11 @@ public:
             if (fields[i].empty() && !(key && std::holds_alternative<std::wstring>(key->initial)))
                 continue;
             std::wstring text = fields[i];
-            if (!key || std::holds_alternative<double>(key->initial))
+            const Value kind = key ? key->initial : Value(0.0);
+            if (std::holds_alternative<double>(kind))
                 text = WithPoint(std::move(text), line, i, decimal);
-            if (key && !ParseAs(key->initial, text))
-                Fail(line, i, WhatIsWrong(key->initial, text));
+            if (!ParseAs(kind, text))
+                Fail(line, i, WhatIsWrong(kind, fields[i]));
             probe.values.push_back({m_columns[i].key, std::move(text)});
         }
         return probe;

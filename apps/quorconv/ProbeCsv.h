@@ -27,6 +27,8 @@ struct CsvStyle {
     std::wstring separator; ///< "comma", "semicolon" or "tab"
     /// Declares "--decimal" and "--separator".
     void Declare(Arguments& arguments);
+    /// Raises UsageError when they say something, for an input or output that is no table.
+    void RequireNone() const;
     [[nodiscard]] DecimalSign Decimal() const;
     [[nodiscard]] CsvSeparator Separator() const;
 };
@@ -68,7 +70,7 @@ struct CsvProbe {
 
 /// Reads a table and calls `use` with each of its lines. Columns may stand in any order, and without the
 /// brackets; what stands in brackets must be the name and the unit of the key. `type` is that of a table
-/// without the column, or empty. What is wrong goes into `batch`, with line and column.
+/// without the column, or empty; what the column says must be the same type. What is wrong goes into `batch`, with line and column.
 void ReadProbeTable(std::string_view text, const std::wstring& place, const CsvStyle& style,
                     const std::wstring& type, Batch& batch, const std::function<void(CsvProbe&&)>& use);
 

@@ -213,10 +213,13 @@ public:
     void RequireGained() const {
         for (std::size_t at = 0; at < Result().size(); ++at) {
             const std::wstring& path = Result()[at].path;
+            if (m_isAssigned[at] || !std::holds_alternative<double>(Result()[at].value) ||
+                (at < m_before.size() && m_before[at].path == path)) // which most are, where nothing moves
+                continue;
             const bool wasThere =
                 std::any_of(m_before.begin(), m_before.end(),
                             [&](const RecordImage::Entry& entry) { return entry.path == path; });
-            if (!m_isAssigned[at] && !wasThere && std::holds_alternative<double>(Result()[at].value))
+            if (!wasThere)
                 throw Problem{m_place + path + L": the value is missing, and the record has none yet"};
         }
     }
@@ -242,8 +245,8 @@ public:
         }
         RefuseLoss(m_place, std::move(lost));
         if (!reinterpreted.empty())
-            throw Problem{m_place + L"values of the probe would get another meaning; give them anew, or use "
-                                    L"--drop to allow it",
+            throw Problem{m_place + L"values of the probe would change their meaning; enter them again, or "
+                                    L"use --drop to allow it",
                           std::move(reinterpreted)};
     }
 
@@ -265,14 +268,15 @@ public:
     }
 
 private:
-    /// The entries as they were of flags, counts, codes and texts that have other values now.
+    /// The entries as they were of flags, counts, codes and texts that have other values now. One that
+    /// the file did not have had no meaning for the others.
     [[nodiscard]] Entries Redecided() const {
         Entries redecided;
         std::copy_if(m_before.begin(), m_before.end(), std::back_inserter(redecided),
                      [&](const RecordImage::Entry& entry) {
                          const RecordImage::Entry* const stored = m_image->Find(entry.path);
                          return !std::holds_alternative<double>(entry.value) && stored &&
-                                !SameValue(stored->value, entry.value);
+                                !m_completed.contains(entry.path) && !SameValue(stored->value, entry.value);
                      });
         return redecided;
     }
@@ -295,6 +299,8 @@ private:
             RequireCode(entry.path, *code);
         entry.value = *value;
         m_assigned.push_back(entry);
+        if (assignment.completes)
+            m_completed.insert(entry.path);
     }
 
     /// Raises Problem for a code that stands for nothing, and for a count below zero, which the settings
@@ -337,6 +343,7 @@ private:
     std::shared_ptr<RecordImage> m_image; // of the settings as they are now
     Entries m_before;
     Entries m_assigned;
+    NameSet m_completed;
     std::vector<bool> m_isAssigned; // of the entries of m_image
 };
 
@@ -391,12 +398,13 @@ void WriteEntry(QuorIniFile::INIFile& store, const std::wstring& settings, const
 void RequireNothingWrittenOver(ProbeFile& file, const std::wstring& section, const std::wstring& settings,
                                const Entries& changed, const std::vector<Assignment>& assignments) {
     std::vector<std::wstring> lost;
+    NameSet given; // there may be 32767
+    for (const Assignment& assignment : assignments)
+        given.insert(assignment.key);
     for (const RecordImage::Entry& entry : changed) {
-        const bool isGiven =
-            std::any_of(assignments.begin(), assignments.end(),
-                        [&](const Assignment& given) { return EqualFolded(given.key, entry.path); });
         std::wstring text;
-        if (isGiven || !file.Store()->ReadString(SelectKey(*file.Store(), settings, entry.path), text))
+        if (given.contains(entry.path) ||
+            !file.Store()->ReadString(SelectKey(*file.Store(), settings, entry.path), text))
             continue;
         const auto present = ParseAs(entry.value, text);
         if (!text.empty() && !(present && (SameValue(*present, entry.value) || !SaysSomething(*present))))
@@ -440,6 +448,46 @@ bool AssignNumbers(ProbeFile& file, const std::wstring& section, const std::vect
     return true;
 }
 
+/// Writes those of the values for which the settings refuse the record as a whole, such as a count below
+/// zero: they hold nothing of it then, so that it is to be read again. False when none of them is given.
+bool WriteRefused(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& assignments) {
+    Probe probe(section);
+    const ReadOutcome outcome = file.Read(section, probe.Conversion());
+    const std::wstring settings = outcome.probe.standAlone ? section : SettingsSection(section);
+    bool isWritten = false;
+    for (const ProbeProblem& problem : outcome.problems) {
+        const std::wstring path = PathOf(settings, problem.section, problem.key);
+        const auto given = std::find_if(assignments.begin(), assignments.end(),
+                                        [&](const Assignment& a) { return EqualFolded(a.key, path); });
+        const RecordKey* const key =
+            FindRecordKey(probe.Conversion().ConversionType(), path, RecordForm::Any);
+        if (problem.kind != PROBLEM_VALUE_REFUSED || given == assignments.end() || !key)
+            continue;
+        if (const auto value = ParseAs(key->initial, given->value)) {
+            WriteEntry(*file.Store(), settings, {path, *value});
+            isWritten = true;
+        }
+    }
+    return isWritten;
+}
+
+/// The same values, with what completes the record.
+std::vector<Assignment> Completing(ProbeFile& file, const Probe& probe,
+                                   const std::vector<Assignment>& assignments) {
+    const std::wstring settings =
+        file.Find(probe.Section())->standAlone ? probe.Section() : SettingsSection(probe.Section());
+    std::vector<Assignment> completing = assignments;
+    for (Assignment& assignment : completing) {
+        std::wstring text;
+        const RecordKey* const key =
+            FindRecordKey(probe.Conversion().ConversionType(), assignment.key, RecordForm::Any);
+        assignment.completes =
+            key && !(file.Store()->ReadString(SelectKey(*file.Store(), settings, assignment.key), text) &&
+                     ParseAs(key->initial, text));
+    }
+    return completing;
+}
+
 } // namespace
 
 void AssignInFile(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& assignments,
@@ -447,10 +495,15 @@ void AssignInFile(ProbeFile& file, const std::wstring& section, const std::vecto
     if (AssignNumbers(file, section, assignments, rules))
         return;
     Probe probe(section);
-    const bool isWhole = ReadWhole(file, probe) && probe.Settings();
+    bool isWhole = ReadWhole(file, probe) && probe.Settings();
+    if (!isWhole && WriteRefused(file, section, assignments)) {
+        probe = Probe(section);
+        isWhole = ReadWhole(file, probe) && probe.Settings();
+    }
     if (!isWhole)
         probe = ReadProbe(file, section, assignments); // which tells what is wrong with it
-    const Entries changed = Assign(probe, file.Path(), assignments, rules);
+    const Entries changed =
+        Assign(probe, file.Path(), isWhole ? assignments : Completing(file, probe, assignments), rules);
     const std::wstring settings =
         isWhole || !file.Find(section)->standAlone ? SettingsSection(section) : section;
     if (!rules.drops)

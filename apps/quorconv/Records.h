@@ -17,6 +17,7 @@ namespace quorconv {
 struct Assignment {
     std::wstring key;
     std::wstring value;
+    bool completes = false; ///< there is no such key in the file, or none that can be read
 };
 
 /// Each text as a KEY=VALUE; UsageError for one that is none, and for a key that is given twice.

@@ -31,6 +31,8 @@ class Export final : public Command {
     ExitCode Run() override {
         if (m_isCsv == m_isJsonLines)
             throw UsageError{L"--csv or --jsonl expected"};
+        if (m_isJsonLines)
+            m_style.RequireNone();
         if (m_isCsv && !m_selection.type)
             throw UsageError{L"--csv needs --type: the columns are the keys of one type"};
         HostFile file(m_path);

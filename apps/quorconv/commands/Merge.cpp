@@ -374,16 +374,15 @@ class Merge final : public Command {
 
     /// Takes over the keys beside the values of probes that only theirs have changed.
     void MergeOtherKeys(const Tables& tables, Plan& plan) const {
-        NameSet theirNames;
+        const std::vector<std::wstring> sections = TouchedSections(tables, plan);
+        const NameSet theirNames(sections.begin(), sections.end());
         NameSet names; // here
-        for (const std::wstring& section : Sections(tables, plan)) {
-            theirNames.insert(section);
+        for (const std::wstring& section : sections)
             names.insert(NameHere(plan, section));
-        }
         const OtherLines base(tables.base, names);
         const OtherLines ours(tables.ours, names);
         const OtherLines theirs(tables.theirs, theirNames);
-        for (const std::wstring& section : Sections(tables, plan))
+        for (const std::wstring& section : sections)
             MergeOtherKeys(tables, section, {base, ours, theirs}, plan);
         const NameSet retyped(plan.retyped.begin(), plan.retyped.end());
         for (const Change& change : plan.written)
@@ -392,7 +391,7 @@ class Merge final : public Command {
     }
 
     /// The probes of theirs that are here as well and may have other keys than in the base.
-    [[nodiscard]] static std::vector<std::wstring> Sections(const Tables& tables, const Plan& plan) {
+    [[nodiscard]] static std::vector<std::wstring> TouchedSections(const Tables& tables, const Plan& plan) {
         const NameSet retyped(plan.retyped.begin(), plan.retyped.end());
         std::vector<std::wstring> sections;
         tables.theirs.ForEach([&](const std::wstring& section) {

@@ -80,7 +80,8 @@ class Put final : public Command {
         arguments.Flag("--json", m_isJson,
                        "The input is JSON as \"show --json\" prints it: an object, an array, or JSON Lines");
         arguments.Flag("--csv", m_isCsv, "The input is a table as \"export --csv\" prints it");
-        arguments.Option("--type", "TYPE", m_type, Meaning::Type, "The type of a table without the column");
+        arguments.Option("--type", "TYPE", m_type, Meaning::Type,
+                         "The type of all probes of a table, which then needs no column for it");
         m_style.Declare(arguments);
         m_rules.Declare(arguments);
         m_rules.DeclareDrop(arguments);
@@ -90,6 +91,12 @@ class Put final : public Command {
     ExitCode Run() override {
         if (m_isCsv == m_isJson)
             throw UsageError{L"--json or --csv expected"};
+        if (m_isJson && m_type)
+            throw UsageError{L"--type is for --csv; each probe in JSON has its own"};
+        if (m_isJson)
+            m_style.RequireNone();
+        if (m_type)
+            static_cast<void>(RequireSettingsType(*m_type));
         const std::wstring from = m_from.value_or(standardInput);
         const std::string text = ReadAll(from);
         std::size_t count = 0;

@@ -313,8 +313,29 @@ TEST_F(QuorconvExchangeTest, RefusesATableThatIsWrongWithLineAndColumn) {
     ExpectRefusedTable(
         "section,Coefficients0\nNew,1\n",
         "in.csv:2: host.ini: [New] NumCoefficients: the value is missing, and the probe is a new one", cvd);
+    ExpectRefusedTable("section,type\nBath,w90\n",
+                       "in.csv:2: column 2 (type): \"w90\" is not the type of --type CONV_CVD",
+                       {"--type", "CONV_CVD"});
+    ExpectRefusedTable("section,Coefficients0\nBath,\"1,2,3\"\n",
+                       "in.csv:2: column 2 (Coefficients0): \"1,2,3\" is not a number",
+                       {"--type", "cvd", "--decimal", "comma"});
+    ExpectRefusedTable("section,NumCoefficients,Coefficients4\nBath,5,x\n",
+                       "in.csv:2: column 3 (Coefficients4): \"x\" is not a number", cvd);
     ExpectRefusedTable("section,type\nBath,CONV_X\n",
                        "in.csv:2: column 2 (type): \"CONV_X\" is no conversion type");
+}
+
+TEST_F(QuorconvExchangeTest, RefusesOptionsThatSayNothingOfTheFormat) {
+    folder.Write("in.json", "[]");
+    const std::string style = "quorconv: --decimal and --separator are for --csv\n";
+    ExpectRefused({"put", "host.ini", "in.json", "--json", "--decimal", "comma"}, style, 2);
+    ExpectRefused({"put", "host.ini", "in.json", "--json", "--separator", "tab"}, style, 2);
+    ExpectRefused({"export", "host.ini", "--jsonl", "--decimal", "comma"}, style, 2);
+    ExpectRefused({"put", "host.ini", "in.json", "--json", "--type", "cvd"},
+                  "quorconv: --type is for --csv; each probe in JSON has its own\n", 2);
+    folder.Write("in.csv", "section,type\nBath,cvd\n");
+    ExpectRefused({"put", "host.ini", "in.csv", "--csv", "--type", "zzz"},
+                  "quorconv: \"zzz\" is no conversion type; the command \"types\" lists them\n");
 }
 
 TEST_F(QuorconvExchangeTest, KeepsEveryTextOfATable) {

@@ -45,7 +45,7 @@ TEST_F(QuorconvLossTest, AFlagTypeScaleOrRangeThatGivesOtherValuesAnotherMeaning
     ExpectFine({"new", "a.ini", "I", "i90", "High Range/Range=6", "High Range/Coefficients0=1e-3"});
     const std::string before = folder.Read("a.ini");
     const std::string other =
-        " values of the probe would get another meaning; give them anew, or use --drop to allow it\n";
+        " values of the probe would change their meaning; enter them again, or use --drop to allow it\n";
     ExpectRefused({"set", "a.ini", "C", "UsePolynomial=True"},
                   "quorconv: a.ini: [C]" + other +
                       "  Coefficients1=0.00385, by UsePolynomial=True\n"
@@ -73,6 +73,34 @@ TEST_F(QuorconvLossTest, AFlagTypeScaleOrRangeThatGivesOtherValuesAnotherMeaning
     folder.Write("a.ini", before);
     ExpectFine({"set", "a.ini", "C", "UsePolynomial=True", "--drop"});
     EXPECT_EQ(folder.Read("a.ini"), Replaced(before, "UsePolynomial=False", "UsePolynomial=True"));
+}
+
+TEST_F(QuorconvLossTest, ARecordThatIsRefusedForItsCountIsMendedByTheCountAlone) {
+    const std::string file = "[C]\nVersion=1.0\nConversionType=2\n"
+                             "[C - Settings]\nVersion=1.0\nNumCoefficients=-1\nUsePolynomial=False\n"
+                             "Coefficients0=100.01 ; ohms\nCoefficients1=0.003850\nCoefficients2=1.5\n";
+    folder.Write("a.ini", file);
+    for (const std::string values : {"NumCoefficients=-2", "NumCoefficients=x", "Coefficients0=1"}) {
+        const Outcome refused = Quorconv({"set", "a.ini", "C", values});
+        EXPECT_EQ(refused.code, 1) << values;
+        EXPECT_TRUE(refused.err.starts_with("quorconv: a.ini: [C]: the record cannot be read\n"))
+            << refused.err;
+        EXPECT_EQ(folder.Read("a.ini"), file) << values;
+    }
+    ExpectFine({"set", "a.ini", "C", "NumCoefficients=3"});
+    EXPECT_EQ(folder.Read("a.ini"), Replaced(file, "=-1", "=3"));
+    folder.Write("a.ini", file);
+    ExpectFine({"set", "a.ini", "C", "Coefficients0=100.02", "NumCoefficients=2"});
+    EXPECT_EQ(folder.Read("a.ini"), Replaced(Replaced(file, "=-1", "=2"), "100.01", "100.02"));
+}
+
+TEST_F(QuorconvLossTest, AFlagThatTheRecordLacksChangesNoMeaningWhenItIsGiven) {
+    const std::string file = "[C]\nVersion=1.0\nConversionType=2\n"
+                             "[C - Settings]\nVersion=1.0\nNumCoefficients=3\n"
+                             "Coefficients0=100.01\nCoefficients1=0.0039\nCoefficients2=-5e-7\n";
+    folder.Write("a.ini", file);
+    ExpectFine({"set", "a.ini", "C", "UsePolynomial=True"});
+    EXPECT_EQ(folder.Read("a.ini"), file + "UsePolynomial=True\n");
 }
 
 TEST_F(QuorconvLossTest, AGreaterCountDoesNotWriteOverValuesThatASmallerOneHasLeftInTheFile) {
