@@ -66,7 +66,7 @@ const std::vector<ProbeWarning>& Warnings() {
              L"ITS-90: a (W - 1) of platinum within the limits of ALPHA and DELTA"),
         Size(WARNING_DEVIATION_SIZE, L"deviation-size",
              L"b, c, d and c1 to c5 of an ITS-90 range, B of high-temperature PRT", -0.06, 0.06,
-             L"ITS-90: b (W - 1)\u00B2 as for a; the terms behind it are corrections to it"),
+             L"ITS-90: b (W - 1)\u00B2 as for a; the terms after it are corrections to it"),
         Size(WARNING_THERMISTOR_A0_SIZE, L"thermistor-a0-size", L"A0 of thermistor T(R), in 1/K", -0.006,
              0.006,
              L"Steinhart and Hart (1968): about 1/T - A1 ln R; at 25 \u00B0C with A1 up to 5E-4 and ln R "

@@ -129,7 +129,7 @@ bool FileCommands::Reload() {
     if (m_document.ChangedByOthers() && !Load(ToQt(m_document.Path())))
         return false;
     m_list.Show(m_document.Find(name).value_or(0));
-    ShowStatus(tr("%1 is loaded anew.").arg(FileName()));
+    ShowStatus(tr("%1 was reloaded.").arg(FileName()));
     return true;
 }
 

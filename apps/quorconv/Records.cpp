@@ -93,7 +93,7 @@ void ValueRules::DeclareDrop(Arguments& arguments) {
     arguments.Flag("--drop", drops,
                    "Allow the loss of values beyond the new count, order or range, and the change of a\n"
                    "flag, type or scale that gives other values another meaning; without it, such a\n"
-                   "change is refused, and names them");
+                   "change is refused, and the message names the values");
 }
 
 RecordForm FormOf(const std::vector<RecordImage::Entry>& entries) {

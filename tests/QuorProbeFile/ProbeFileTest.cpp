@@ -390,7 +390,7 @@ TEST_F(ProbeFileTest, AFileWhoseLinesEndInACarriageReturnAloneIsToldByACheckAndS
     ProbeFile file(Path());
     EXPECT_TRUE(file.Probes().empty());
     EXPECT_EQ(Told(file.Check()),
-              Texts{L"1 []  15 the line goes on behind a carriage return (CR), and what stands there is not "
+              Texts{L"1 []  15 the line goes on after a carriage return (CR), and what follows is not "
                     L"read; a line ends in a line feed (LF or CR LF)"});
     EXPECT_EQ(File(), text);
 }

@@ -150,7 +150,7 @@
         <translation>„%1“ ist in %2 geschrieben.</translation>
     </message>
     <message>
-        <source>%1 is loaded anew.</source>
+        <source>%1 was reloaded.</source>
         <translation>%1 ist neu geladen.</translation>
     </message>
     <message>
@@ -1152,7 +1152,7 @@ Qt %1, unter der LGPL.</translation>
         <translation>die Zeile ist nicht Schlüssel=Wert</translation>
     </message>
     <message>
-        <source>the line goes on behind a carriage return (CR), and what stands there is not read; a line ends in a line feed (LF or CR LF)</source>
+        <source>the line goes on after a carriage return (CR), and what follows is not read; a line ends in a line feed (LF or CR LF)</source>
         <translation>die Zeile geht hinter einem Wagenrücklauf (CR) weiter, und was dort steht, wird nicht gelesen; eine Zeile endet mit einem Zeilenvorschub (LF oder CR LF)</translation>
     </message>
     <message>
