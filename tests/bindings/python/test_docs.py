@@ -3,6 +3,7 @@
 import doctest
 import re
 
+import pandas
 import pytest
 from conftest import ROOT
 
@@ -33,7 +34,6 @@ def plain_blocks(document):
 
 
 def test_the_table_of_the_notebook_is_one_of_pandas(laboratory):
-    pandas = pytest.importorskip("pandas")
     names = {"file": ProbeFile(laboratory)}
     (block,) = plain_blocks("docs/python.md")
     exec(block, names)
