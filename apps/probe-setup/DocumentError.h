@@ -22,6 +22,7 @@ enum class Failure {
     CannotWrite,      ///< details: the section, and the library's messages
     NoProbesInText,   ///< what was pasted or dropped has no probe
     UnreadableText,   ///< details: as of UnreadableRecord, of a text that is not the document's
+    UnreadSections,   ///< details: the headers of sections of such a text that nobody reads
     SharedSection,    ///< details: a section that would go or move, the probe that it would follow, and
                       ///< another one, which has or keeps its settings in it too
 };

@@ -1,5 +1,6 @@
 #include "apps/probe-setup/ProbeDocument.h"
 
+#include "QuorConversions/core/modMessages.h"
 #include "QuorConversions/core/modPaths.h"
 #include "QuorConversions/core/modStrings.h"
 #include "QuorIniFile/Utf8.h"
@@ -86,6 +87,20 @@ ReadProblems ReadInto(CQuorConversion& conversion, ProbeFile& file, const std::w
         conversion.ReadFromFile(store, L"", section);
     }
     return ProblemsOf(outcome);
+}
+
+/// The headers of sections that nobody reads: their names have occurred before, or they have no "]".
+std::vector<std::wstring> HeadersOfWhatIsNotRead(ProbeFile& file) {
+    std::vector<std::wstring> headers;
+    for (const QuorIniFile::IniWarning& duplicate : file.DuplicateSections())
+        headers.push_back(L"[" + duplicate.section + L"]");
+    const std::vector<std::size_t>& lost = file.LostSections();
+    IniLines lines = file.Store()->Lines();
+    while (lines.Next()) {
+        if (std::find(lost.begin(), lost.end(), lines.Number()) != lost.end())
+            headers.push_back(L"[" + WithoutWhatCannotBeWritten(QuorIniFile::DecodeBytes(lines.Bytes())));
+    }
+    return headers;
 }
 
 /// A name of a probe as that of a file: a slash would lead into another folder.
@@ -369,28 +384,34 @@ bool ProbeDocument::Edit(std::size_t probe) {
 }
 
 std::vector<ProbeFinding> ProbeDocument::Check() {
-    if (m_file && !m_problems)
-        m_problems = m_file->Check();
     std::vector<ProbeFinding> findings;
-    if (m_problems)
-        findings = FindingsOf(*m_problems, m_probes);
-    const auto add = [&findings](std::size_t probe, ProbeProblem problem) {
+    const auto add = [&findings](std::optional<std::size_t> probe, ProbeProblem problem) {
         problem.line = 0;
         findings.push_back({probe, std::move(problem)});
     };
+    try {
+        if (m_file && !m_problems)
+            m_problems = m_file->Check();
+    } catch (const QuorError& error) { // the folder cannot be read any more
+        add({}, {PROBLEM_RECORD_REFUSED, 0, {}, {}, DescriptionOf(error)});
+    }
+    if (m_problems)
+        std::ranges::move(FindingsOf(*m_problems, m_probes), std::back_inserter(findings));
     // What has changed is checked in a file in memory, where it stands as a save would write it.
     for (std::size_t i = 0; i < m_probes.size(); ++i) {
         const ListedProbe& entry = m_probes[i];
         if ((!entry.isNew && !entry.content.IsChanged()) || !entry.content.conversion)
             continue;
-        const auto file = FileThatDoesNotExist(m_path.empty() ? std::wstring(L"new.ini") : m_path);
-        const InMemory inMemory(*file->Store());
         try {
+            const auto file = FileThatDoesNotExist(m_path.empty() ? std::wstring(L"new.ini") : m_path);
+            const InMemory inMemory(*file->Store());
             DocumentSave::WriteWhole(*file, entry);
             for (ProbeProblem& problem : file->Check())
                 add(i, std::move(problem));
         } catch (const DocumentError& error) {
             add(i, {PROBLEM_RECORD_REFUSED, 0, entry.name, {}, error.details.back(), error.phrases});
+        } catch (const QuorError& error) {
+            add(i, {PROBLEM_RECORD_REFUSED, 0, entry.name, {}, DescriptionOf(error)});
         }
     }
     return findings;
@@ -520,6 +541,8 @@ std::size_t ProbeDocument::Import(const std::wstring& path) {
 
 std::vector<std::size_t> ProbeDocument::AddFrom(const std::wstring& path) {
     const auto file = FileAt(path);
+    if (std::vector<std::wstring> headers = HeadersOfWhatIsNotRead(*file); !headers.empty())
+        throw DocumentError{Failure::UnreadSections, path, std::move(headers)};
     std::vector<NewProbe> added;
     for (const ProbeEntry& probe : file->Probes()) {
         if (!probe.type || !ConversionEnumerator(*probe.type))

@@ -107,8 +107,8 @@ public:
     /// DocumentError when the file is none or cannot be read wholly.
     std::size_t Import(const std::wstring& path);
     /// Adds the probes of another file under free names, in one step; their places. Raises QuorError when the
-    /// file cannot be read, and DocumentError, and adds none, when it has no probe, or one that cannot be
-    /// read wholly.
+    /// file cannot be read, and DocumentError, and adds none, when it has no probe, one that cannot be
+    /// read wholly, or sections that nobody reads.
     std::vector<std::size_t> AddFrom(const std::wstring& path);
     /// Keeps the name when it is the same to the letter.
     void Rename(std::size_t probe, const std::wstring& name);

@@ -2,6 +2,8 @@
 
 #include "QuorProbeFile/ProbeNames.h"
 
+#include <algorithm>
+#include <array>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -9,6 +11,17 @@
 namespace ProbeSetup {
 
 using namespace QuorProbeFile;
+
+namespace {
+
+/// Whether that is wrong with lines that a save of other values leaves alone.
+bool StaysInTheText(EProbeProblem kind) {
+    constexpr std::array kinds{PROBLEM_UNKNOWN_KEY, PROBLEM_DUPLICATE_KEY, PROBLEM_DUPLICATE_SECTION,
+                               PROBLEM_MALFORMED_LINE, PROBLEM_LINE_ENDS_IN_CR};
+    return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
+}
+
+} // namespace
 
 std::vector<ProbeFinding> FindingsOf(const std::vector<ProbeProblem>& problems,
                                      const std::vector<ListedProbe>& probes) {
@@ -31,7 +44,8 @@ std::vector<ProbeFinding> FindingsOf(const std::vector<ProbeProblem>& problems,
         }
         if (!isOfRecord)
             findings.push_back({std::nullopt, problem});
-        else if (!probes[found->second].content.IsChanged()) // its values are others now
+        else if (const ListedProbe& probe = probes[found->second];
+                 !probe.content.IsChanged() || (probe.IsMerged() && StaysInTheText(problem.kind)))
             findings.push_back({found->second, problem});
     }
     return findings;

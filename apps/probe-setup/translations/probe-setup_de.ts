@@ -1020,6 +1020,10 @@ Qt %1, unter der LGPL.</translation>
         <source>paste</source>
         <translation>Einfügen</translation>
     </message>
+    <message>
+        <source>These sections would be left out, because their names occur twice in it or their headers have no &quot;]&quot;:</source>
+        <translation>Diese Abschnitte würden fehlen, denn ihre Namen kommen darin zweimal vor, oder ihre Kopfzeilen haben kein „]“:</translation>
+    </message>
 </context>
 <context>
     <name>ProbeTexts</name>

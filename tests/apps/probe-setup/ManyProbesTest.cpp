@@ -71,6 +71,24 @@ TEST_F(ManyProbes, OfATextThatIsNoneAreRefused) {
     EXPECT_EQ(document.Count(), 2U);
 }
 
+TEST_F(ManyProbes, OfATextWithSectionsThatNobodyReadsAreRefused) {
+    Open();
+    const auto headersRefused = [this](const std::string& text) {
+        folder.Write("pasted.ini", text);
+        try {
+            document.AddFrom(folder.Name("pasted.ini"));
+        } catch (const DocumentError& error) {
+            EXPECT_EQ(error.failure, Failure::UnreadSections);
+            return error.details;
+        }
+        return Texts{};
+    };
+    EXPECT_EQ(headersRefused("[P]\nConversionType=10\n[Q]\nConversionType=10\n[p]\nConversionType=11\n"),
+              Texts{L"[P]"});
+    EXPECT_EQ(headersRefused("[P]\nConversionType=10\n[Q\nConversionType=11\n"), Texts{L"[Q"});
+    EXPECT_EQ(document.Count(), 2U);
+}
+
 TEST_F(ManyProbes, AreExportedUnderTheirNamesWithoutSlashes) {
     Open();
     document.Rename(0, L"A/B");

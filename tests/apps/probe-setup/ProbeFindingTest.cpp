@@ -1,11 +1,16 @@
 // What is wrong with the probes of a document, as it would be saved.
 
+#include "QuorIniFile/Utf8.h"
 #include "tests/apps/probe-setup/DocumentTest.h"
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
+namespace fs = std::filesystem;
 using namespace ProbeSetup;
 using namespace QuorConversions;
+using QuorIniFile::ToUtf8;
 using Texts = std::vector<std::wstring>;
 
 class ProbeFindings : public DocumentTest {
@@ -58,4 +63,30 @@ TEST_F(ProbeFindings, OfAProbeThatWasRenamedAreStillItsOwn) {
     EXPECT_EQ(Findings().size(), 1U) << "the section is in the file until it is saved";
     document.Save();
     EXPECT_EQ(Findings(), Texts{});
+}
+
+TEST_F(ProbeFindings, OfLinesThatASaveLeavesAloneOutliveAnEdit) {
+    Open("[Q]\nConversionType=19\n[Q - Settings]\nNumCoefficients=1\nCoefficients0=100\nCoefficients0=99\n"
+         "Color=red\nno key\n");
+    const Texts found{
+        L"0 line 6 [Q - Settings] Coefficients0 error: the key occurs twice; the one in line 5 is read",
+        L"0 line 7 [Q - Settings] Color error: unknown key: a record of this type and size does "
+        L"not hold it",
+        L"0 line 8 [Q - Settings]  error: the line is no key=value"};
+    EXPECT_EQ(Findings(), found);
+    Edit(0, L"R0", L"100.5");
+    EXPECT_EQ(Findings(), found);
+    document.Save();
+    EXPECT_EQ(Findings().size(), 3U) << "as quorconv check tells them";
+    document.SetType({0}, CONV_OHMS); // takes the settings out of the file
+    EXPECT_EQ(Findings(), Texts{});
+}
+
+TEST_F(ProbeFindings, OfAProbeThatCannotBeCheckedTellWhy) {
+    Open();
+    fs::create_directory(folder.Path("host.ini.1"));
+    Edit(0, L"R0", L"100.5");
+    const Texts findings = Findings();
+    ASSERT_EQ(findings.size(), 1U);
+    EXPECT_NE(findings.front().find(L"host.ini.1"), std::wstring::npos) << ToUtf8(findings.front());
 }
