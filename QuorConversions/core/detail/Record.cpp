@@ -2,17 +2,20 @@
 
 #include "QuorConversions/core/RecordNames.h"
 
+#include <charconv>
 #include <limits>
 #include <string>
 #include <utility>
 
 namespace QuorConversions {
 
-std::wstring IndexedKey(const wchar_t* name, std::int32_t index) {
-    const std::string digits = std::to_string(index); // many times as fast as std::to_wstring
-    std::wstring key;
-    key.reserve(std::char_traits<wchar_t>::length(name) + digits.size());
-    return key.append(name).append(digits.begin(), digits.end());
+IndexedKey::IndexedKey(const wchar_t* name, std::int32_t index) {
+    for (; *name != L'\0' && m_length < mostLetters; ++name)
+        m_text[m_length++] = *name;
+    std::array<char, mostDigits> digits{};
+    const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), index).ptr;
+    for (const char* digit = digits.data(); digit != end; ++digit)
+        m_text[m_length++] = static_cast<wchar_t>(*digit);
 }
 
 std::wstring NestedSection(const std::wstring& parent, const wchar_t* child) {
@@ -41,7 +44,7 @@ void RecordWriter::Integer(const wchar_t* key, std::int32_t value) {
     Store([&](INIFile& iniFile) { iniFile.WriteInteger(key, static_cast<std::int16_t>(value), L""); });
 }
 
-void RecordWriter::Double(const std::wstring& key, double value) {
+void RecordWriter::Double(std::wstring_view key, double value) {
     Store([&](INIFile& iniFile) { iniFile.WriteDouble(key, value, L""); });
 }
 
@@ -82,7 +85,7 @@ std::int32_t RecordReader::Integer(const wchar_t* key, std::int32_t current) {
     return value == primed ? current : value;
 }
 
-double RecordReader::Double(const std::wstring& key, double current) {
+double RecordReader::Double(std::wstring_view key, double current) {
     if (!m_iniFile->ReadDouble(key, current))
         Fail();
     return current;

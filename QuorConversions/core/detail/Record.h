@@ -3,14 +3,27 @@
 #include "QuorConversions/core/QuorObject.h"
 #include "QuorIniFile/INIFile.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace QuorConversions {
 
-/// The key of one element of an indexed value: "Coefficients" and 3 make "Coefficients3".
-[[nodiscard]] std::wstring IndexedKey(const wchar_t* name, std::int32_t index);
+/// The key of one element of an indexed value: "Coefficients" and 3 make "Coefficients3". It allocates
+/// nothing: many probes have many keys. `name` is one of RecordNames.h, with at most mostLetters.
+class IndexedKey {
+public:
+    IndexedKey(const wchar_t* name, std::int32_t index);
+    operator std::wstring_view() const { return {m_text.data(), m_length}; } // NOLINT: it is a text
+
+private:
+    static constexpr std::size_t mostLetters = 20, mostDigits = 11;
+    std::array<wchar_t, mostLetters + mostDigits> m_text{};
+    std::size_t m_length = 0;
+};
 
 /// The section of a nested record: parent section, " - ", child name.
 [[nodiscard]] std::wstring NestedSection(const std::wstring& parent, const wchar_t* child);
@@ -28,7 +41,7 @@ public:
     void Text(const wchar_t* key, const std::wstring& value);
     /// Codes and counts are 16-bit values in a file. Raises 6 "Overflow" for one that does not fit.
     void Integer(const wchar_t* key, std::int32_t value);
-    void Double(const std::wstring& key, double value);
+    void Double(std::wstring_view key, double value);
     void Boolean(const wchar_t* key, bool value);
     /// Writes a nested record into its own section. The selected section is another one afterwards, so nested
     /// records come last.
@@ -59,7 +72,7 @@ public:
     [[nodiscard]] std::int32_t Integer(const wchar_t* key, std::int32_t current);
     /// A count: always within 16 bits, as its current value is.
     [[nodiscard]] std::int16_t Count(const wchar_t* key, std::int16_t current);
-    [[nodiscard]] double Double(const std::wstring& key, double current);
+    [[nodiscard]] double Double(std::wstring_view key, double current);
     [[nodiscard]] bool Boolean(const wchar_t* key, bool current);
     void Nested(const wchar_t* name, QuorObject& child);
 
