@@ -37,6 +37,8 @@ std::optional<std::int32_t> ReadCoordinate(QuorRegistryII::Registry& registry, c
     return value;
 }
 
+constexpr std::int16_t undoKey = 26;
+
 wchar_t CharacterOf(std::int16_t keyAscii) {
     return static_cast<wchar_t>(static_cast<std::uint16_t>(keyAscii));
 }
@@ -341,7 +343,7 @@ void SettingsDialog::FormatText(const Field& field) {
 void SettingsDialog::OnKeyPress(TextBox& box, std::int16_t& keyAscii) {
     const std::int16_t pressed = keyAscii;
     FilterNumericKeyExp(keyAscii, GetDecimalSeparator(*m_platform));
-    m_typed = IsPrintable(pressed) && keyAscii != 0;
+    m_key = keyAscii;
     const Field* const field = FieldOf(box);
     if (field && IsPrintable(pressed)) {
         m_notes[&box].keys.OnKey(box, CharacterOf(pressed), CharacterOf(keyAscii),
@@ -394,13 +396,16 @@ void SettingsDialog::OnEdit(TextBox& box) {
         return;
     Notes& notes = m_notes[&box];
     const auto& earlier = m_earlier[&box];
-    const auto found = std::exchange(m_typed, false) ? earlier.end() : earlier.find(box.Text());
-    if (found == earlier.end()) {
+    const std::int16_t key = std::exchange(m_key, std::int16_t{0});
+    const auto found = IsPrintable(key) ? earlier.end() : earlier.find(box.Text());
+    if (found != earlier.end()) {
+        notes = found->second;
+    } else if (key == undoKey) {
+        notes = {}; // nothing was told of the text that has come back
+    } else {
         notes.keys.OnText(box.Text(), UserSeparators(*m_platform));
         notes = {std::move(notes.keys), {}, {}, {}};
         Remember(box);
-    } else {
-        notes = found->second;
     }
     AdviseIfItCan(*field);
 }

@@ -160,7 +160,7 @@ private:
     std::deque<Field> m_fields;
     std::map<const TextBox*, Notes> m_notes;
     std::map<const TextBox*, std::map<std::wstring, Notes>> m_earlier; ///< of texts that a box has had
-    bool m_typed = false;                                              ///< the last key types a character
+    std::int16_t m_key = 0; ///< the last key, until it has changed a text
     bool m_cancelled = false;
     bool m_activated = false;
     bool m_loading = false;

@@ -739,6 +739,11 @@ TEST_F(PasteTest, UndoBringsATextBackWithWhatWasToldOfIt) {
         EXPECT_EQ(person.Advice(L"R0"), L"\"/\" cannot be typed here");
         person.Type(L"R0", L"52");
         EXPECT_EQ(person.Advice(L"R0"), L"") << "the same text, without the key";
+        person.Type(L"R0", L"5/");
+        EXPECT_EQ(person.Advice(L"R0"), L"\"/\" cannot be typed here");
+        person.Press(undo);
+        EXPECT_EQ(person.Reads(L"R0"), L"52");
+        EXPECT_EQ(person.Advice(L"R0"), L"") << "the key was pressed in another text";
         person.Click(L"Cancel");
     });
 }
