@@ -227,6 +227,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
         self._platform = platform
         self._file = _low.ProbeFile(self._path, create)
         self._probes: Dict[str, _Probe] = {}  # by folded sections
+        self._is_read_again = True  # since the last call that writes, which loads the current file even if it fails
         self._detached: Dict[int, _Detached] = {}  # no longer of the file, by the handles of the conversions
 
     @property
@@ -293,6 +294,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
                     limited, limits = getattr(conversion.settings, part), getattr(like.settings, part)
                     limited.MinRange, limited.MaxRange = limits.MinRange, limits.MaxRange
         self._call(lambda: self._file.Read(section, conversion))
+        conversion._read_from = self._file._handle, _folded(section)
         return conversion, _problems(self._file)
 
     def read(self, section: str) -> Tuple[Conversion, Tuple[Problem, ...]]:
@@ -347,6 +349,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
             self._call(self._file.Reload)
         if not self._is_in_file(name):
             self._let_go(name)  # another program has removed the probe that had it
+        self._is_read_again = False
         self._call(lambda: self._file.Copy(_section(section), name))
         self._reread()
 
@@ -401,12 +404,13 @@ class ProbeFile(MutableMapping[str, Conversion]):
             self._take(steps)
         elif self._file.Changed:
             self._call(self._file.Reload)
-        elif all(probe.type_read is not None for probe in self._probes.values()):
+        elif self._is_read_again:
             return
         self._reread(is_saved=True)
 
     def _take(self, steps: Iterable[Callable[[], object]]) -> None:
         """Takes all steps, or none."""
+        self._is_read_again = False
         try:
             self._file.Hold()
             for step in steps:
@@ -428,6 +432,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
         incomplete: List[ProbeFileError] = []
         try:
             self._probes.clear()
+            self._is_read_again = True
             while left:
                 section, conversion, of_type = left[-1]
                 try:
@@ -467,17 +472,22 @@ class ProbeFile(MutableMapping[str, Conversion]):
             for _, conversion, _ in probe.after(True):
                 self._detach(section, conversion)
 
+    def _last_read(self, folded: str, probe: _Probe) -> Conversion:
+        """That into which the section was read last; a new one if it was not, which stands for the file as it was loaded."""
+        if getattr(probe.conversion, "_read_from", None) != (self._file._handle, folded) and probe.replaces is not None:
+            probe = probe.replaces
+        return probe.conversion or Conversion()
+
     def _steps(self) -> Iterator[Callable[[], object]]:
         steps: List[Callable[[], object]] = []
-        for probe in self._probes.values():
+        for folded, probe in self._probes.items():
             section, conversion = probe.section, probe.conversion
             if conversion is None:
                 if self._is_in_file(section):
-                    known = probe.replaces.conversion if probe.replaces is not None else None
-                    yield partial(self._file.RequireUnchanged, section, known or Conversion())
+                    yield partial(self._file.RequireUnchanged, section, self._last_read(folded, probe))
                     steps.append(partial(self._file.Remove, section))
             elif conversion.ConversionType != probe.type_read:
-                yield partial(self._file.RequireUnchanged, section, conversion)
+                yield partial(self._file.RequireUnchanged, section, self._last_read(folded, probe))
                 steps.append(partial(self._file.Write, section, conversion))
             elif self._call(partial(self._file.Differs, section, conversion)):
                 steps.append(partial(self._file.WriteChanges, section, conversion))
@@ -507,6 +517,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
         if any(True for _ in self._steps()):
             raise ValueError("there are unsaved changes")
         _require_name(_section(name))
+        self._is_read_again = False
         self._call(lambda: self._file.Rename(_section(section), name))
         known = self._probes.pop(_folded(section), None)
         self._let_go(name)  # another program has removed the probe that had it

@@ -467,8 +467,9 @@ class ITS90(_WithRTPW, Settings, _low.CQuorITS90):
 class Conversion(_low.CQuorConversion):
     """The conversion of one probe: its type, and the settings that belong to the type. It computes no temperatures."""
 
-    __slots__ = ("_file",)
+    __slots__ = ("_file", "_read_from")
     _file: Any  # a weak reference to the ProbeFile of which it is a probe
+    _read_from: Tuple[int, str]  # the file and the folded section from which it was read last
 
     def __init__(self, type: int = ConversionType.NONE, platform: Union[Platform, None] = None) -> None:  # noqa: A002
         super().__init__(platform)

@@ -700,6 +700,23 @@ def test_a_conversion_that_was_read_before_others_have_saved_replaces_nothing_la
     assert ProbeFile(laboratory)[PROBE].settings.R0 == 100.0123
 
 
+def test_after_a_conflict_only_what_was_read_then_replaces_what_another_program_has_saved(laboratory):
+    file = ProbeFile(laboratory)
+    file[PROBE].settings.R0 = 102
+    with ProbeFile(laboratory) as theirs:
+        theirs[PROBE].settings.R0 = 101
+    with pytest.raises(quor.ConflictError):
+        file.save()
+    file[PROBE] = Conversion(ConversionType.WT90)
+    with pytest.raises(quor.ConflictError):
+        file.save()
+    file[PROBE], _ = file.read(PROBE)
+    file[PROBE].settings.B = 0.5
+    file.save()
+    cvd = ProbeFile(laboratory)[PROBE].settings
+    assert (cvd.R0, cvd.B) == (101, 0.5)
+
+
 def saved(file):
     file.save()
 
@@ -712,7 +729,23 @@ def another_one_duplicated(file):
     file.duplicate("Probe 10 PRT-1183", "Another")
 
 
-@pytest.mark.parametrize("call", [saved, another_one_renamed, another_one_duplicated, left_by_an_exception])
+def saved_after_a_rename_that_failed(file):
+    with pytest.raises(quor.ProbeFileError):
+        file.rename("Probe 10 PRT-1183", "Probe 1 CSP-0417")
+    file.save()
+
+
+def saved_after_a_conflict_that_was_given_up(file):
+    read = file[PROBE].settings.R0
+    file[PROBE].settings.R0 = 102
+    with pytest.raises(quor.ConflictError):
+        file.save()
+    file[PROBE].settings.R0 = read
+    file.save()
+
+
+@pytest.mark.parametrize("call", [saved, saved_after_a_rename_that_failed, saved_after_a_conflict_that_was_given_up,
+                                  another_one_renamed, another_one_duplicated, left_by_an_exception])
 def test_without_own_changes_conversions_get_what_others_have_saved_too(laboratory, call):
     file = ProbeFile(laboratory)
     cvd = file[PROBE].settings
