@@ -2,6 +2,7 @@
 
 #include "QuorIniFile/Utf8.h"
 #include "QuorIniFile/detail/IniFileSystem.h"
+#include "QuorIniFile/detail/Unicode.h"
 
 #include <algorithm>
 #include <array>
@@ -9,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <cwchar>
 #include <iterator>
 #include <limits>
 #include <memory>
@@ -108,8 +110,6 @@ bool IsRefusal(int error) { return error == EPERM || error == EACCES || error ==
 // Paths
 // ------------------------------------------------------------------------------------------------------
 
-std::wstring Wide(const std::string& utf8) { return FromUtf8(utf8).value_or(std::wstring()); }
-
 /// A text whose length a call says when it has no room for it.
 template <class Call>
 std::wstring TextOf(const Call& call) {
@@ -124,18 +124,58 @@ std::wstring TextOf(const Call& call) {
     }
 }
 
-/// A path as the system takes it at any length. What has no such form (a device) stays as it is.
-std::wstring LongPath(const std::string& path) {
-    const std::wstring given = Wide(path);
-    std::wstring full = TextOf([&given](wchar_t* text, DWORD size) {
-        return ::GetFullPathNameW(given.c_str(), size, text, nullptr);
-    });
-    if (full.empty() || full.starts_with(L"\\\\?\\") || full.starts_with(L"\\\\.\\"))
-        return full.empty() ? given : full;
-    if (full.starts_with(L"\\\\"))
-        return L"\\\\?\\UNC" + full.substr(1);
-    return L"\\\\?\\" + full;
-}
+/// A path as the system takes it at any length. What has no such form (a device) stays as it is. The text is
+/// in the object itself: once a file is replaced, nothing that follows may fail for lack of memory.
+class LongPath {
+public:
+    explicit LongPath(std::string_view path) {
+        std::array<wchar_t, longest> given; // NOLINT: it is large, and written up to its end
+        if (!Widen(path, given)) {
+            std::wcscpy(m_text.data(), L"?"); // no file has that name
+            return;
+        }
+        wchar_t* const full = m_text.data() + roomForPrefix;
+        const DWORD length = ::GetFullPathNameW(given.data(), longest, full, nullptr);
+        if (length == 0 || length >= longest) {
+            std::wcscpy(m_text.data(), given.data());
+            return;
+        }
+        m_start = roomForPrefix;
+        const std::wstring_view found(full, length);
+        if (found.starts_with(L"\\\\?\\") || found.starts_with(L"\\\\.\\"))
+            return;
+        const bool isShare = found.starts_with(L"\\\\");
+        const std::wstring_view prefix = isShare ? L"\\\\?\\UNC" : L"\\\\?\\";
+        m_start += (isShare ? 1 : 0) - prefix.size(); // of a share's "\\" one stays
+        std::copy(prefix.begin(), prefix.end(), m_text.data() + m_start);
+    }
+    [[nodiscard]] const wchar_t* Get() const { return m_text.data() + m_start; }
+    [[nodiscard]] std::wstring_view View() const { return Get(); }
+
+private:
+    static constexpr std::size_t longest = 32768; // characters, with the zero at the end
+    static constexpr std::size_t roomForPrefix = 8;
+
+    /// False where the path is no UTF-8, or longer than any path can be.
+    static bool Widen(std::string_view utf8, std::array<wchar_t, longest>& text) {
+        std::size_t size = 0;
+        for (std::size_t at = 0; at < utf8.size();) {
+            std::uint32_t code = NextFromUtf8(utf8, at);
+            if (code == noCharacter || size + 2 >= longest)
+                return false;
+            if (code > 0xFFFF) {
+                text[size++] = static_cast<wchar_t>(LeadSurrogate(code));
+                code = TrailSurrogate(code);
+            }
+            text[size++] = static_cast<wchar_t>(code);
+        }
+        text[size] = L'\0';
+        return true;
+    }
+
+    std::array<wchar_t, roomForPrefix + longest> m_text; // written up to its end, too
+    std::size_t m_start = 0;
+};
 
 // Opening and looking
 // ----------------------------------------------------------------------------------------
@@ -158,7 +198,7 @@ private:
 };
 
 HANDLE OpenThere(const std::string& path, DWORD access, DWORD flags) {
-    return ::CreateFileW(LongPath(path).c_str(), access, shareAll, nullptr, OPEN_EXISTING, flags, nullptr);
+    return ::CreateFileW(LongPath(path).Get(), access, shareAll, nullptr, OPEN_EXISTING, flags, nullptr);
 }
 
 /// `time` in units of 100 nanoseconds since 1601, as seconds and nanoseconds since 1970.
@@ -196,13 +236,12 @@ IniResult<IniFileStatus> StatusFrom(HANDLE file) {
 
 /// The name that an entry has in its folder, where that is not the one that `path` has for it: an other case
 /// of letters, the short form of a long name.
-std::wstring OtherSpelling(const std::wstring& path) {
-    const std::size_t start = path.find_last_of(L"\\/:") + 1;
-    const std::wstring_view name = std::wstring_view(path).substr(start);
+std::wstring OtherSpelling(const LongPath& path) {
+    const std::wstring_view name = path.View().substr(path.View().find_last_of(L"\\/:") + 1);
     if (name.empty() || name.find_first_of(L"*?") != std::wstring_view::npos || name == L"." || name == L"..")
         return {};
     WIN32_FIND_DATAW entry{};
-    const HANDLE search = ::FindFirstFileW(path.c_str(), &entry);
+    const HANDLE search = ::FindFirstFileW(path.Get(), &entry);
     if (search == INVALID_HANDLE_VALUE)
         return {};
     ::FindClose(search);
@@ -320,6 +359,10 @@ int CopyRights(HANDLE from, HANDLE to) {
     return IsRefusal(LastError()) ? 0 : LastError();
 }
 
+struct SearchEnd {
+    void operator()(HANDLE search) const { ::FindClose(search); }
+};
+
 class WindowsFileSystem final : public IniFileSystem {
 public:
     IniResult<std::string> CurrentFolder() override {
@@ -329,16 +372,16 @@ public:
 
     IniResult<std::vector<std::string>> NamesIn(const std::string& folder) override {
         WIN32_FIND_DATAW entry{};
-        const HANDLE search = ::FindFirstFileW((LongPath(folder) + L"\\*").c_str(), &entry);
+        const HANDLE search = ::FindFirstFileW(LongPath(folder + "\\*").Get(), &entry);
         if (search == INVALID_HANDLE_VALUE)
             return {LastError(), {}};
+        const std::unique_ptr<void, SearchEnd> ended(search);
         std::vector<std::string> names;
         do {
             const std::wstring_view name = entry.cFileName;
             if (name != L"." && name != L"..")
                 names.push_back(ToUtf8(name));
         } while (::FindNextFileW(search, &entry) != FALSE);
-        ::FindClose(search);
         return {0, std::move(names)};
     }
 
@@ -353,8 +396,8 @@ public:
     /// A name that is not spelled as in its folder is a link to the one that is: all who save the file have
     /// one lock, and it keeps its name.
     IniResult<std::string> LinkAt(const std::string& path) override {
-        const std::wstring there = LongPath(path);
-        const DWORD attributes = ::GetFileAttributesW(there.c_str());
+        const LongPath there(path);
+        const DWORD attributes = ::GetFileAttributesW(there.Get());
         if (attributes == INVALID_FILE_ATTRIBUTES)
             return {LastError() == ENOENT ? ENOENT : EINVAL, {}};
         if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
@@ -371,7 +414,7 @@ public:
     }
 
     int MayWrite(const std::string& path) override {
-        const DWORD attributes = ::GetFileAttributesW(LongPath(path).c_str());
+        const DWORD attributes = ::GetFileAttributesW(LongPath(path).Get());
         if (attributes == INVALID_FILE_ATTRIBUTES)
             return LastError();
         const bool isFolder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
@@ -427,7 +470,7 @@ public:
         });
         if (now.empty())
             return ENOTSUP;
-        return ErrorUnless(::CreateHardLinkW(LongPath(path).c_str(), now.c_str(), nullptr));
+        return ErrorUnless(::CreateHardLinkW(LongPath(path).Get(), now.c_str(), nullptr));
     }
 
     // After a Sync that went well, closing has nothing to tell.
@@ -507,10 +550,10 @@ public:
     int SetRights(Handle /*file*/, std::uint32_t /*rights*/) override { return 0; }
 
     int Rename(const std::string& from, const std::string& to) override {
-        const std::wstring target = LongPath(to);
-        if (RenameOverOpenFile(from, target))
+        const LongPath target(to);
+        if (RenameOverOpenFile(from, target.View()))
             return 0;
-        if (::MoveFileExW(LongPath(from).c_str(), target.c_str(),
+        if (::MoveFileExW(LongPath(from).Get(), target.Get(),
                           MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE)
             return 0;
         const int error = LastError();
@@ -524,18 +567,16 @@ public:
     /// The system cannot do that.
     int Exchange(const std::string& /*one*/, const std::string& /*other*/) override { return ENOTSUP; }
 
-    int Remove(const std::string& path) override {
-        return ErrorUnless(::DeleteFileW(LongPath(path).c_str()));
-    }
+    int Remove(const std::string& path) override { return ErrorUnless(::DeleteFileW(LongPath(path).Get())); }
 
     int MakeFolder(const std::string& path) override {
-        const std::wstring folder = LongPath(path);
+        const LongPath folder(path);
         Private rights(L"OICI");
-        if (::CreateDirectoryW(folder.c_str(), rights.Get()) != FALSE)
+        if (::CreateDirectoryW(folder.Get(), rights.Get()) != FALSE)
             return 0;
         const int error = LastError();
         // The root of a drive is refused, though it is there.
-        return ::GetFileAttributesW(folder.c_str()) != INVALID_FILE_ATTRIBUTES ? EEXIST : error;
+        return ::GetFileAttributesW(folder.Get()) != INVALID_FILE_ATTRIBUTES ? EEXIST : error;
     }
 
     std::uint64_t RandomNumber() override {
@@ -558,9 +599,9 @@ private:
     }
 
     static HANDLE Create(const std::string& path, LPSECURITY_ATTRIBUTES rights) {
-        const std::wstring there = LongPath(path);
+        const LongPath there(path);
         const auto create = [&](DWORD access) {
-            return ::CreateFileW(there.c_str(), access, shareAll, rights, CREATE_NEW, FILE_ATTRIBUTE_NORMAL,
+            return ::CreateFileW(there.Get(), access, shareAll, rights, CREATE_NEW, FILE_ATTRIBUTE_NORMAL,
                                  nullptr);
         };
         // The access list and the owner are given to it later, where that is allowed.
@@ -571,7 +612,7 @@ private:
 
     /// In one step, in place of a file that others may have open, who go on reading the old one (Windows 10,
     /// NTFS). False where the system or the file system cannot do that.
-    static bool RenameOverOpenFile(const std::string& from, const std::wstring& to) {
+    static bool RenameOverOpenFile(const std::string& from, std::wstring_view to) {
         const Owned file(
             OpenThere(from, DELETE | SYNCHRONIZE, FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_WRITE_THROUGH));
         if (!file.IsOpen())
@@ -580,15 +621,15 @@ private:
         constexpr DWORD replaceIfExists = 1;
         constexpr DWORD posixSemantics = 2;
         const std::size_t nameSize = to.size() * sizeof(wchar_t);
-        std::vector<std::byte> bytes(sizeof(FILE_RENAME_INFO) + nameSize);
+        alignas(FILE_RENAME_INFO) std::array<std::byte, sizeof(FILE_RENAME_INFO) + sizeof(LongPath)> bytes{};
         // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): the system's interface
         auto* const info = reinterpret_cast<FILE_RENAME_INFO*>(bytes.data());
         constexpr DWORD flags = replaceIfExists | posixSemantics;
         std::memcpy(bytes.data(), &flags, sizeof flags); // where older headers know a flag of one byte only
         info->FileNameLength = static_cast<DWORD>(nameSize);
-        std::memcpy(static_cast<wchar_t*>(info->FileName), to.data(), nameSize);
+        std::memcpy(bytes.data() + offsetof(FILE_RENAME_INFO, FileName), to.data(), nameSize);
         return ::SetFileInformationByHandle(file.Get(), renameInfoEx, info,
-                                            static_cast<DWORD>(bytes.size())) != FALSE;
+                                            static_cast<DWORD>(sizeof(FILE_RENAME_INFO) + nameSize)) != FALSE;
     }
 };
 
