@@ -271,6 +271,8 @@ void FileCommands::Export(const std::vector<std::size_t>& probes) {
     std::vector<std::size_t> exported;
     std::copy_if(probes.begin(), probes.end(), std::back_inserter(exported),
                  [this](std::size_t probe) { return m_document.HasSettings(probe); });
+    if (probes.empty())
+        return;
     if (exported.empty())
         ShowStatus(tr("The selected probes have no settings to export."));
     else if (exported.size() == 1)

@@ -146,8 +146,10 @@ QAction* MainWindow::AddAction(QMenu& menu, const char* name, const QString& tex
 QAction& MainWindow::Action(const char* name) const { return *findChild<QAction*>(QLatin1String(name)); }
 
 void MainWindow::Run(const std::function<void()>& command) {
-    if (m_list->FinishEditing())
-        command();
+    RunOrTell(this, tr("The command has failed."), [&] {
+        if (m_list->FinishEditing())
+            command();
+    });
 }
 
 void MainWindow::MakeFileMenu() {
@@ -176,11 +178,11 @@ void MainWindow::MakeFileMenu() {
     file.addSeparator();
     m_rules.Add(*AddAction(file, "print", tr("&Print\u2026"), QKeySequence::Print,
                            tr("Print the selected probes, with all their values"),
-                           [this] { m_reports.Print(m_list->Selected()); }),
+                           [this] { m_reports.Print(m_probes.FreshSelection()); }),
                 {.probe = true});
     m_rules.Add(*AddAction(file, "pdf", tr("Save as P&DF\u2026"), {},
                            tr("Save the selected probes as a PDF file, as they would be printed"),
-                           [this] { m_reports.SavePdf(m_list->Selected()); }),
+                           [this] { m_reports.SavePdf(m_probes.FreshSelection()); }),
                 {.probe = true});
     file.addSeparator();
     AddAction(file, "quit", tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), tr("Leave Probe Setup"),

@@ -1,6 +1,7 @@
 #include "apps/probe-setup/ProbeCommands.h"
 
 #include "QuorConversions/qt/QtText.h"
+#include "QuorProbeFile/ProbeNames.h"
 #include "apps/probe-setup/FileCommands.h"
 #include "apps/probe-setup/MessageBox.h"
 #include "apps/probe-setup/ProbeClipboard.h"
@@ -61,54 +62,69 @@ void ProbeCommands::Add() {
     m_list.Table().setFocus();
 }
 
-bool ProbeCommands::IsFresh(std::size_t probe) {
-    if (!m_document.ChangedByOthers())
-        return true;
-    if (!m_document.Changed()) {
-        const std::wstring name = m_document.Name(probe);
-        return m_files.Reload() && m_document.Find(name);
+std::vector<std::size_t> ProbeCommands::FreshSelection() {
+    const std::vector<std::size_t> probes = m_list.Selected();
+    if (probes.empty() || !m_document.ChangedByOthers())
+        return probes;
+    if (m_document.Changed()) {
+        const std::vector<std::size_t> stale = m_document.StaleAmong(probes);
+        if (stale.empty())
+            return probes;
+        MessageBox box(&m_window, QMessageBox::Warning,
+                       tr("Another program has changed %1 in the file.").arg(NameOf(stale)),
+                       tr("Reload the file to see the current values."),
+                       QMessageBox::Save | QMessageBox::Cancel);
+        box.button(QMessageBox::Save)->setText(tr("&Reload"));
+        if (box.exec() == QMessageBox::Save)
+            static_cast<void>(m_files.Reload());
+        return {};
     }
-    if (!m_document.IsStale(probe))
-        return true;
-    MessageBox box(&m_window, QMessageBox::Warning,
-                   tr("Another program has changed \"%1\" in the file.").arg(ToQt(m_document.Name(probe))),
-                   tr("Reload the file to see its current values."), QMessageBox::Save | QMessageBox::Cancel);
-    box.button(QMessageBox::Save)->setText(tr("&Reload"));
-    if (box.exec() == QMessageBox::Save)
-        static_cast<void>(m_files.Reload());
-    return false;
+    QuorProbeFile::NameSet names;
+    for (const std::size_t probe : probes)
+        names.insert(m_document.Name(probe));
+    if (!m_files.Reload())
+        return {};
+    std::vector<std::size_t> found; // in other places, perhaps, or hidden now
+    for (std::size_t probe = 0; probe < m_document.Count(); ++probe) {
+        if (names.contains(m_document.Name(probe)))
+            found.push_back(probe);
+    }
+    if (!found.empty())
+        m_list.ShowNew(found);
+    return found.size() == probes.size() ? found : std::vector<std::size_t>();
 }
 
 void ProbeCommands::Edit() {
-    if (const auto stale = m_list.Current(); !stale || !IsFresh(*stale))
+    const std::vector<std::size_t> probes = FreshSelection();
+    if (probes.size() != 1)
         return;
-    const auto probe = m_list.Current(); // in another place, perhaps
-    const ReadProblems& problems = m_document.CheckRecord(*probe);
+    const std::size_t probe = probes.front();
+    const ReadProblems& problems = m_document.CheckRecord(probe);
     if (!problems.IsEmpty()) {
         // Where there is no dialog, no values stand in it.
-        const QString what = m_document.Type(*probe)
+        const QString what = m_document.Type(probe)
                                  ? tr("These keys are missing or cannot be read; they have default values:")
                                  : tr("This key is missing or cannot be read:");
         MessageBox(&m_window, QMessageBox::Warning,
                    tr("The record of \"%1\" in %2 cannot be read completely.")
-                       .arg(ToQt(m_document.Name(*probe)), ToQt(m_document.Path())),
+                       .arg(ToQt(m_document.Name(probe)), ToQt(m_document.Path())),
                    what + QLatin1Char('\n') + Wording::Lines(problems.Lines()))
             .exec();
     }
-    if (!HasSettings(*probe))
+    if (!HasSettings(probe))
         return;
-    if (m_document.Edit(*probe))
-        m_list.ShowChanged(*probe);
+    if (m_document.Edit(probe))
+        m_list.ShowChanged(probe);
 }
 
-void ProbeCommands::Export() { m_files.Export(m_list.Selected()); }
+void ProbeCommands::Export() { m_files.Export(FreshSelection()); }
 
 void ProbeCommands::ChangeType() {
-    const auto current = m_list.Current();
-    const std::vector<std::size_t> probes = m_list.Selected();
-    if (!current || probes.empty())
+    const std::vector<std::size_t> probes = FreshSelection();
+    if (probes.empty())
         return;
-    ProbeDialog dialog(&m_window, NameOf(probes), TypeChoice::Of(m_document.Conversion(*current)), m_help);
+    ProbeDialog dialog(&m_window, NameOf(probes), TypeChoice::Of(m_document.Conversion(probes.front())),
+                       m_help);
     if (dialog.exec() != QDialog::Accepted)
         return;
     m_document.SetType(probes, *dialog.ChosenType());
@@ -117,7 +133,7 @@ void ProbeCommands::ChangeType() {
 }
 
 void ProbeCommands::Duplicate() {
-    const std::vector<std::size_t> probes = m_list.Selected();
+    const std::vector<std::size_t> probes = FreshSelection();
     std::vector<std::size_t> copies;
     if (!probes.empty() && RunOrTell(&m_window, tr("%1 cannot be duplicated.").arg(NameOf(probes)),
                                      [&] { copies = m_document.Duplicate(probes); }))
@@ -136,7 +152,7 @@ void ProbeCommands::Remove() {
 }
 
 void ProbeCommands::Copy() {
-    const std::vector<std::size_t> probes = m_list.Selected();
+    const std::vector<std::size_t> probes = FreshSelection();
     if (!probes.empty() && RunOrTell(&m_window, tr("%1 cannot be copied.").arg(NameOf(probes)),
                                      [&] { ProbeClipboard::Copy(m_document, probes); }))
         ShowStatus(tr("%1 on the clipboard, as text.").arg(NameOf(probes)), aWhile);
@@ -164,7 +180,7 @@ void ProbeCommands::Redo() {
 void ProbeCommands::ShowStep(const std::vector<std::size_t>& places, std::size_t count) {
     if (m_document.Count() < count) {
         m_list.Show(places.front()); // probes have gone
-    } else if (m_document.Count() > count || !m_list.IsShown(places.front())) {
+    } else if (m_document.Count() > count || !m_list.AreShown(places)) {
         m_list.ShowNew(places);
     } else {
         for (const std::size_t place : places)

@@ -26,6 +26,10 @@ public:
     ProbeCommands(QMainWindow& window, ProbeDocument& document, ProbeList& list, FileCommands& files,
                   std::function<void()> help);
 
+    /// The selected probes, before their values are shown or copied: what another program has written is
+    /// taken in. Empty when the person has to see to it first, or when one of them is gone.
+    [[nodiscard]] std::vector<std::size_t> FreshSelection();
+
     void Add();
     void Edit();
     void Export();
@@ -38,9 +42,6 @@ public:
     void Redo();
 
 private:
-    /// Before a dialog shows values: takes in what another program has written. False when the person has to
-    /// see to it first.
-    [[nodiscard]] bool IsFresh(std::size_t probe);
     /// Tells the user when a probe has none.
     [[nodiscard]] bool HasSettings(std::size_t probe);
     /// Shows the list after a step was taken back or done again. There were `count` probes before.

@@ -468,29 +468,37 @@ bool ProbeDocument::ChangedByOthers() {
     }
 }
 
-bool ProbeDocument::IsStale(std::size_t probe) {
-    const ListedProbe& entry = m_probes[probe];
-    if (entry.isNew || !ChangedByOthers())
+std::vector<std::size_t> ProbeDocument::StaleAmong(const std::vector<std::size_t>& probes) {
+    std::vector<std::size_t> stale;
+    if (!ChangedByOthers())
+        return stale;
+    try {
+        const auto file = FileAt(m_path);
+        std::ranges::copy_if(probes, std::back_inserter(stale),
+                             [&](std::size_t probe) { return IsStale(m_probes[probe], *file); });
+    } catch (const QuorError&) {
+        // The file is gone: there is nothing newer.
+    }
+    return stale;
+}
+
+bool ProbeDocument::IsStale(const ListedProbe& entry, ProbeFile& file) {
+    if (entry.isNew)
         return false;
     const QuietPlatform::Quiet quiet(*m_platform);
-    const auto read = [&](ProbeFile& file, CQuorConversion& conversion) {
+    const auto read = [&](ProbeFile& from, CQuorConversion& conversion) {
         try {
-            return std::optional(file.Read(entry.Section(), conversion).problems.size());
+            return std::optional(from.Read(entry.Section(), conversion).problems.size());
         } catch (const ProbeFileError&) {
             return std::optional<std::size_t>();
         }
     };
-    try {
-        const auto before = NewConversion();
-        const auto now = NewConversion();
-        if (read(*m_file, *before) != read(*FileAt(m_path), *now) ||
-            before->ConversionType() != now->ConversionType())
-            return true;
-        return before->Settings() &&
-               !RecordImage::Same(*RecordImage::Of(*before->Settings()), *RecordImage::Of(*now->Settings()));
-    } catch (const QuorError&) {
-        return false; // the file is gone: there is nothing newer
-    }
+    const auto before = NewConversion();
+    const auto now = NewConversion();
+    if (read(*m_file, *before) != read(file, *now) || before->ConversionType() != now->ConversionType())
+        return true;
+    return before->Settings() &&
+           !RecordImage::Same(*RecordImage::Of(*before->Settings()), *RecordImage::Of(*now->Settings()));
 }
 
 // Changes of the list

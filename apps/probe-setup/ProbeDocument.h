@@ -152,8 +152,8 @@ public:
 
     /// Whether another program has changed the file since it was read, or has removed it.
     [[nodiscard]] bool ChangedByOthers();
-    /// Whether another program has changed what the file holds of a probe since it was read.
-    [[nodiscard]] bool IsStale(std::size_t probe);
+    /// Those of which another program has changed what the file holds since it was read.
+    [[nodiscard]] std::vector<std::size_t> StaleAmong(const std::vector<std::size_t>& probes);
 
     /// The last thing that was done, and the last that was taken back; nothing where there is none. It
     /// outlives a save, unless values of other programs have come in by it.
@@ -211,6 +211,8 @@ private:
     /// elsewhere.
     void RequireWhole(ListedProbe& entry);
 
+    /// Whether a file holds something else of a probe than when it was read.
+    [[nodiscard]] bool IsStale(const ListedProbe& entry, QuorProbeFile::ProbeFile& file);
     /// Adds probes under free names; their places.
     std::vector<std::size_t> Append(StepKind kind, std::vector<NewProbe> probes);
     void Do(Step step);

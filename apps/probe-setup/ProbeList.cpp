@@ -131,9 +131,13 @@ void ProbeList::Show(std::optional<std::size_t> current) {
     m_changed();
 }
 
+bool ProbeList::AreShown(const std::vector<std::size_t>& probes) const {
+    return std::all_of(probes.begin(), probes.end(), [this](std::size_t probe) { return IsShown(probe); });
+}
+
 void ProbeList::ShowNew(const std::vector<std::size_t>& probes) {
     m_model.Refresh();
-    if (!std::all_of(probes.begin(), probes.end(), [this](std::size_t probe) { return IsShown(probe); }))
+    if (!AreShown(probes))
         ClearFindBox();
     Select(probes);
     m_changed();
@@ -174,6 +178,10 @@ void ProbeList::SortBy(int column) {
 int ProbeList::SortColumn() const { return m_table->header()->sortIndicatorSection(); }
 
 void ProbeList::EditName() {
+    const std::vector<std::size_t> probes = Selected();
+    if (probes.size() != 1)
+        return;
+    Select(probes); // another row is the current one after a click that took it out of the selection
     m_table->edit(m_table->currentIndex().siblingAtColumn(ProbeTableModel::NameColumn));
 }
 

@@ -41,6 +41,7 @@ public:
     [[nodiscard]] std::vector<std::size_t> Selected() const;
     [[nodiscard]] int RowCount() const { return m_model.rowCount(); }
     [[nodiscard]] bool IsShown(std::size_t probe) const { return m_model.RowOf(probe).has_value(); }
+    [[nodiscard]] bool AreShown(const std::vector<std::size_t>& probes) const;
     /// As it stands in the table.
     [[nodiscard]] QString ConversionText(std::size_t probe) const { return m_model.ConversionText(probe); }
 
@@ -52,7 +53,7 @@ public:
     void ShowNew(const std::vector<std::size_t>& probes);
     /// Shows a probe whose name, conversion or mark has changed. The list stays where it is.
     void ShowChanged(std::size_t probe);
-    /// Selects probes that have a row, and makes the first of them the current one.
+    /// Selects probes, which all have a row, and makes the first of them the current one.
     void Select(const std::vector<std::size_t>& probes);
 
     /// Sorts by a column of the table; the second time in a row, the other way round. By none (-1) in the
@@ -61,7 +62,7 @@ public:
     /// The column that it is sorted by; -1 for none.
     [[nodiscard]] int SortColumn() const;
 
-    /// Opens an editor for the name of the current probe.
+    /// Opens an editor for the name of the probe that is selected.
     void EditName();
     /// Ends the editing of a name as Enter does. False when the name is refused; the person has been told.
     bool FinishEditing();

@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QTextDocument>
 
+#include <algorithm>
 #include <string>
 
 namespace ProbeSetup {
@@ -32,17 +33,19 @@ QString Table(const QString& rows) {
 void ProbeReport::Write(ProbeDocument& document, QuorConversions::Platform& platform,
                         const std::vector<std::size_t>& probes, const QDateTime& time, QTextDocument& paper) {
     QString html;
+    const std::vector<std::size_t> stale = document.StaleAmong(probes);
     for (const std::size_t probe : probes) {
         const QLatin1String newPage(html.isEmpty() ? "" : "page-break-before:always");
         html += QStringLiteral("<h1 style=\"%1\">").arg(newPage) +
                 ToQt(document.Name(probe)).toHtmlEscaped() + QStringLiteral("</h1>") +
-                Page(document, platform, probe, time);
+                Page(document, platform, probe, time,
+                     std::find(stale.begin(), stale.end(), probe) != stale.end());
     }
     paper.setHtml(html);
 }
 
 QString ProbeReport::Page(ProbeDocument& document, QuorConversions::Platform& platform, std::size_t probe,
-                          const QDateTime& time) {
+                          const QDateTime& time, bool isStale) {
     const auto line = [](const QString& name, const QString& text) { return Row(Cell(name) + Cell(text)); };
     const QString path = ToQt(document.Path());
     const QString conversion = TypeTexts::OfProbe(
@@ -50,6 +53,8 @@ QString ProbeReport::Page(ProbeDocument& document, QuorConversions::Platform& pl
     QString page = Table(
         line(tr("Conversion:"), conversion) + line(tr("File:"), path.isEmpty() ? tr("not saved yet") : path) +
         (document.IsChanged(probe) ? line(tr("State:"), tr("changed and not saved yet")) : QString()) +
+        (isStale ? line(tr("State:"), tr("another program has changed it in the file in the meantime"))
+                 : QString()) +
         line(tr("Printed:"), time.toString(QStringLiteral("yyyy-MM-dd HH:mm"))));
 
     QString rows =

@@ -26,7 +26,7 @@ public:
 
 private:
     [[nodiscard]] static QString Page(ProbeDocument& document, QuorConversions::Platform& platform,
-                                      std::size_t probe, const QDateTime& time);
+                                      std::size_t probe, const QDateTime& time, bool isStale);
 };
 
 } // namespace ProbeSetup

@@ -27,6 +27,8 @@ void ReportCommands::Write(const std::vector<std::size_t>& probes, QTextDocument
 }
 
 void ReportCommands::Print(const std::vector<std::size_t>& probes) {
+    if (probes.empty())
+        return;
     QPrinter printer(QPrinter::HighResolution);
     QPrintDialog dialog(&printer, &m_window);
     dialog.setWindowTitle(tr("Print probes"));
@@ -38,6 +40,8 @@ void ReportCommands::Print(const std::vector<std::size_t>& probes) {
 }
 
 void ReportCommands::SavePdf(const std::vector<std::size_t>& probes) {
+    if (probes.empty())
+        return;
     QFileDialog dialog(&m_window, tr("Save as PDF"), QFileInfo(ToQt(m_document.Path())).path(),
                        tr("PDF files (*.pdf)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);

@@ -544,6 +544,10 @@ Qt %1, under the LGPL.</source>
 Lizenz: MIT. Copyright © 2026 Quor Conversions contributors.
 Qt %1, unter der LGPL.</translation>
     </message>
+    <message>
+        <source>The command has failed.</source>
+        <translation>Der Befehl ist gescheitert.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBox</name>
@@ -579,12 +583,12 @@ Qt %1, unter der LGPL.</translation>
         <translation>Neuer Fühler</translation>
     </message>
     <message>
-        <source>Another program has changed &quot;%1&quot; in the file.</source>
-        <translation>Ein anderes Programm hat „%1“ in der Datei geändert.</translation>
+        <source>Another program has changed %1 in the file.</source>
+        <translation>Ein anderes Programm hat %1 in der Datei geändert.</translation>
     </message>
     <message>
-        <source>Reload the file to see its current values.</source>
-        <translation>Laden Sie die Datei neu, um die Werte zu sehen, wie sie jetzt sind.</translation>
+        <source>Reload the file to see the current values.</source>
+        <translation>Laden Sie die Datei neu, um die aktuellen Werte zu sehen.</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
@@ -734,6 +738,10 @@ Qt %1, unter der LGPL.</translation>
     <message>
         <source>Signature:</source>
         <translation>Unterschrift:</translation>
+    </message>
+    <message>
+        <source>another program has changed it in the file in the meantime</source>
+        <translation>inzwischen in der Datei von einem anderen Programm geändert</translation>
     </message>
 </context>
 <context>

@@ -396,7 +396,7 @@ TEST_F(ManyProbesWindow, NoDialogOpensOnValuesThatAnotherProgramHasChanged) {
     Press(Qt::Key_Return);
     EXPECT_EQ(
         text,
-        "Another program has changed \"Probe 1\" in the file.|Reload the file to see its current values.");
+        "Another program has changed \"Probe 1\" in the file.|Reload the file to see the current values.");
     EXPECT_TRUE(window->Document().Changed());
 }
 
@@ -409,4 +409,101 @@ TEST_F(ManyProbesWindow, SaveAsGoesOnWithTheOtherFile) {
     EXPECT_EQ(window->Document().Path(), folder.Name("other.ini"));
     EXPECT_EQ(folder.Read("other.ini"), host);
     EXPECT_EQ(window->windowTitle(), QString::fromUtf8("other.ini[*] – Probe Setup"));
+}
+
+TEST_F(ManyProbesWindow, AStepOfProbesOfWhichTheFindBoxHidesSomeIsTakenBackAndShowsAll) {
+    SelectAll();
+    WhenShown<QDialog>([](QDialog& dialog) {
+        QTest::keyClicks(dialog.findChild<QLineEdit*>("typeFilter"), "Ratio");
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    Action("changeType").trigger();
+    QTest::keyClicks(&Find<QLineEdit>("find"), "Probe 1");
+    ASSERT_EQ(Names(), QStringList{"Probe 1"});
+    Action("undo").trigger();
+    EXPECT_EQ(Names(), (QStringList{"Probe 1", "Probe 2"}));
+    EXPECT_EQ(Table().selectionModel()->selectedRows().size(), 2);
+    EXPECT_EQ(window->Document().Type(1), QuorConversions::CONV_OHMS);
+}
+
+TEST_F(ManyProbesWindow, WhatIsDoneWithOneProbeIsDoneWithTheOneThatIsSelected) {
+    GoTo(0);
+    const auto clickWithControl = [this](int row) {
+        QTest::mouseClick(Table().viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          Table().visualRect(Row(row)).center());
+    };
+    clickWithControl(1);
+    clickWithControl(1);
+    ASSERT_EQ(Table().currentIndex().row(), 1) << "it has the frame, and is not selected";
+    ASSERT_EQ(Table().selectionModel()->selectedRows().value(0).row(), 0);
+    WhenShown<QDialog>([](QDialog& dialog) {
+        EXPECT_TRUE(
+            dialog.findChild<QListWidget*>("probeType")->currentItem()->text().startsWith("Callendar"));
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    Action("changeType").trigger();
+    bool isEdited = false;
+    WhenShown<QDialog>([&isEdited](QDialog& dialog) {
+        isEdited = true;
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    Action("edit").trigger();
+    EXPECT_TRUE(isEdited) << "it is the one with settings";
+    Action("rename").trigger();
+    QTest::keyClicks(Table().viewport()->findChild<QLineEdit*>(), "Reference");
+    QTest::keyClick(Table().viewport()->findChild<QLineEdit*>(), Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Names()[0] == "Reference"; }));
+    EXPECT_EQ(Names()[1], "Probe 2");
+}
+
+TEST_F(ManyProbesWindow, AProbeThatTheFindBoxHidesAfterAReloadIsShownAndEdited) {
+    QTest::keyClicks(&Find<QLineEdit>("find"), "Callendar");
+    ASSERT_EQ(Names(), QStringList{"Probe 1"});
+    GoTo(0);
+    folder.Write("host.ini", "[A]\nConversionType=10\n[Probe 1]\nConversionType=19\n[Probe 1 - Settings]\n"
+                             "NumCoefficients=1\nCoefficients0=100.5\n");
+    QString value;
+    WhenShown<QDialog>([&value](QDialog& dialog) {
+        value = dialog.findChild<QLineEdit*>("txtCoefficients(0)")->text();
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    Action("edit").trigger();
+    EXPECT_EQ(value, "100.5");
+    EXPECT_EQ(Names(), (QStringList{"A", "Probe 1"}));
+    EXPECT_EQ(Table().currentIndex().data().toString(), "Probe 1");
+}
+
+TEST_F(ManyProbesWindow, WhatIsCopiedOrPrintedHasTheValuesOfTheFile) {
+    const auto writeR0 = [this](const std::string& value) {
+        std::string theirs = host;
+        folder.Write("host.ini", theirs.replace(theirs.find("=100.0\n"), 7, "=" + value + "\n"));
+    };
+    SelectAll();
+    writeR0("99.5");
+    Press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QApplication::clipboard()->text().contains("Coefficients0=99.5\n"));
+    EXPECT_EQ(Table().selectionModel()->selectedRows().size(), 2) << "the selection outlives the reload";
+    writeR0("99.25");
+    Press(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_NE(window->Document().TextOf({2}).find(L"Coefficients0=99.25\n"), std::wstring::npos);
+
+    writeR0("99.125"); // beside changes that are not saved
+    SelectAll();
+    for (const char* const command : {"pdf", "print", "export", "copy", "duplicate"}) {
+        QString text;
+        WillAnswer(QMessageBox::Cancel, &text);
+        Action(command).trigger();
+        EXPECT_EQ(text, "Another program has changed \"Probe 1\" in the file.|"
+                        "Reload the file to see the current values.");
+    }
+    GoTo(1);
+    Press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QApplication::clipboard()->text().startsWith("[Probe 2]")) << "this one is as in the file";
+
+    QTextDocument paper;
+    QuorConversions::QtToolkit::QtPlatform platform;
+    ProbeReport::Write(window->Document(), platform, {0}, QDateTime({2024, 3, 1}, {14, 5}), paper);
+    EXPECT_TRUE(
+        paper.toPlainText().contains("State:\nanother program has changed it in the file in the meantime\n"))
+        << "also when it does so while the printer is chosen";
 }
