@@ -431,11 +431,12 @@ void ProbeFile::RemoveOldSettings(const std::vector<ProbeToWrite>& probes) {
         MoveSections([&](ProbeMove& move) { move.changesType = changing.contains(move.section); });
 }
 
-void ProbeFile::WriteOne(const ProbeToWrite& probe) {
-    const EQuorConversionType type = probe.conversion.get().ConversionType();
-    const auto present = Locate(probe.section);
-    if (!present && HasSection(probe.section))
-        throw Error(PROBE_SECTION_OF_HOST, probe.section);
+/// Writes a probe by `write`, if it can stand in that section.
+void ProbeFile::WriteOne(const std::wstring& section, EQuorConversionType type,
+                         const std::function<void(bool standAlone)>& write) {
+    const auto present = Locate(section);
+    if (!present && HasSection(section))
+        throw Error(PROBE_SECTION_OF_HOST, section);
     const bool getsSettings =
         present && !present->standAlone && !MayHaveSettings(present->type) && MayHaveSettings(type);
     if ((!present || getsSettings) && m_namesText != m_store->TextNumber()) {
@@ -443,27 +444,26 @@ void ProbeFile::WriteOne(const ProbeToWrite& probe) {
         m_namesText = m_store->TextNumber();
     }
     if (!present)
-        RequireName(probe.section, nullptr, m_nested);
+        RequireName(section, nullptr, m_nested);
     if (!present || getsSettings)
-        RequireNoSettings(probe.section);
+        RequireNoSettings(section);
     const auto standAlone = StandAloneSection(m_path);
-    const bool isStandAlone =
-        present ? present->standAlone : standAlone && EqualFolded(*standAlone, probe.section);
+    const bool isStandAlone = present ? present->standAlone : standAlone && EqualFolded(*standAlone, section);
     if (isStandAlone) {
         // Types share sections, not extensions: a PT100 would fit into a "cvd" file, and then be no valid
         // one.
         const TypeInfo* const info = FindType(type);
         if (!info || info->extension != Folded(GetExtensionPart(m_path)))
-            throw Error(PROBE_DOES_NOT_FIT_FILE, probe.section, TypeName(type));
+            throw Error(PROBE_DOES_NOT_FIT_FILE, section, TypeName(type));
     }
     const bool namesAreKnown = m_namesText == m_store->TextNumber();
-    WriteRecord(m_store, probe.section, probe.conversion, isStandAlone);
+    write(isStandAlone);
     if (!namesAreKnown)
         return;
     // A host that writes thousands of new ones in one edit has no time to look at all sections for each.
-    for (const std::wstring& section : {probe.section, SettingsSection(probe.section)})
-        if (IsNested(section) && HasSection(section))
-            m_nested.Add(section);
+    for (const std::wstring& written : {section, SettingsSection(section)})
+        if (IsNested(written) && HasSection(written))
+            m_nested.Add(written);
     m_namesText = m_store->TextNumber();
 }
 
@@ -560,8 +560,55 @@ void ProbeFile::Write(const std::vector<ProbeToWrite>& probes) {
         RemoveOldSettings(probes);
         for (const ProbeToWrite& probe : probes) {
             RequireConsistent(probe.section, probe.conversion, check);
-            WriteOne(probe);
+            const CQuorConversion& conversion = probe.conversion;
+            WriteOne(probe.section, conversion.ConversionType(),
+                     [&](bool standAlone) { WriteRecord(m_store, probe.section, conversion, standAlone); });
         }
+    });
+}
+
+namespace {
+
+void WriteValue(IniStore& store, const std::wstring& key, const Value& value) {
+    struct Visitor {
+        IniStore& store;
+        const std::wstring& key;
+        void operator()(const std::wstring& text) const { store.WriteString(key, text); }
+        void operator()(std::int16_t number) const { store.WriteInteger(key, number, L""); }
+        void operator()(double number) const { store.WriteDouble(key, number, L""); }
+        void operator()(bool flag) const { store.WriteBoolean(key, flag); }
+    };
+    std::visit(Visitor{store, key}, value);
+}
+
+} // namespace
+
+void ProbeFile::WriteNew(std::wstring_view section, EQuorConversionType type,
+                         const std::vector<RecordImage::Entry>& values) {
+    const auto begin = [this](const std::wstring& name) {
+        m_store->SetSection(name);
+        m_store->WriteString(versionKey, QUOR_LIBRARY_VERSION);
+    };
+    Edit([&, section = std::wstring(section)] {
+        if (HasSection(section))
+            throw Error(PROBE_NAME_IS_TAKEN, section);
+        WriteOne(section, type, [&](bool standAlone) {
+            const std::wstring settings = standAlone ? section : SettingsSection(section);
+            if (!standAlone) {
+                begin(section);
+                m_store->WriteInteger(conversionTypeKey, static_cast<std::int16_t>(type), L"");
+            }
+            std::optional<std::wstring_view> nested; // the record that is being written
+            for (const RecordImage::Entry& entry : values) {
+                const auto slash = entry.path.find(L'/');
+                const auto key = slash == std::wstring::npos ? 0 : slash + 1;
+                const auto name = std::wstring_view(entry.path).substr(0, key == 0 ? 0 : slash);
+                if (nested != name)
+                    begin(name.empty() ? settings : std::wstring(settings).append(nestedMark).append(name));
+                nested = name;
+                WriteValue(*m_store, key == 0 ? entry.path : entry.path.substr(key), entry.value);
+            }
+        });
     });
 }
 

@@ -7,6 +7,7 @@
 #include "QuorProbeFile/ProbeFileError.h"
 #include "QuorProbeFile/ProbeProblem.h"
 #include "QuorProbeFile/RecordAsRead.h"
+#include "QuorProbeFile/RecordImage.h"
 #include "QuorProbeFile/RecordMerge.h"
 #include "QuorProbeFile/TakenNames.h"
 
@@ -148,6 +149,13 @@ public:
     /// PROBE_NAME_IS_TAKEN if two of them have the same section.
     void Write(const std::vector<ProbeToWrite>& probes);
 
+    /// Writes a new probe of the type `type` whose settings write `values`, in that order, and makes no
+    /// conversion: for hosts that write thousands of probes which differ in numbers alone, and know that a
+    /// conversion gives them back. Raises PROBE_NAME_IS_TAKEN for a section that exists, and what Write
+    /// raises for one that does not.
+    void WriteNew(std::wstring_view section, QuorConversions::EQuorConversionType type,
+                  const std::vector<RecordImage::Entry>& values);
+
     /// Writes only those values of a probe that have changed since `record` was read from this object, or
     /// from another one on the same file. What other programs have written in the meantime is kept, and so
     /// are keys that are missing or cannot be read, as long as the conversion holds what Read has set for
@@ -225,7 +233,8 @@ private:
     void RequireNoSettings(std::wstring_view section);
     void MoveSections(const std::function<void(ProbeMove&)>& move);
     void RemoveOldSettings(const std::vector<ProbeToWrite>& probes);
-    void WriteOne(const ProbeToWrite& probe);
+    void WriteOne(const std::wstring& section, QuorConversions::EQuorConversionType type,
+                  const std::function<void(bool standAlone)>& write);
     template <class Body>
     void WithRefusal(std::wstring_view section, const Body& body) const;
     void RequireConsistent(std::wstring_view section, const QuorConversions::CQuorConversion& conversion,

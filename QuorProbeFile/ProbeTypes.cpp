@@ -54,9 +54,8 @@ std::vector<const TypeInfo*> TypesOfExtension(const std::wstring& extension) {
 const TypeInfo* ParseType(const std::wstring& text) {
     if (const auto code = QuorIniFile::IntegerOf(text))
         return FindType(*code);
-    const std::wstring wanted = Folded(text);
     const auto type = std::find_if(Types().begin(), Types().end(), [&](const TypeInfo& t) {
-        return Folded(t.enumerator) == wanted || (!t.extension.empty() && t.extension == wanted);
+        return EqualFolded(t.enumerator, text) || (!t.extension.empty() && EqualFolded(t.extension, text));
     });
     return type == Types().end() ? nullptr : &*type;
 }

@@ -161,7 +161,7 @@ public:
         : m_place(place) {
         for (std::size_t i = 0; i < names.size(); ++i) {
             const auto bracket = names[i].find(L" [");
-            Column column{names[i].substr(0, bracket), names[i]};
+            Column column{names[i].substr(0, bracket), names[i], nullptr};
             for (const Column& before : m_columns)
                 if (EqualFolded(before.key, column.key))
                     Fail(1, i, L"the column occurs twice");
@@ -185,7 +185,7 @@ public:
                           std::to_wstring(m_columns.size())};
         if (std::all_of(fields.begin(), fields.end(), [](const std::wstring& f) { return f.empty(); }))
             throw Problem{m_place + std::to_wstring(line) + L": all fields of the line are empty"};
-        CsvProbe probe{line, fields[m_section], m_type == none ? type : fields[m_type], {}};
+        CsvProbe probe{line, fields[m_section], m_type == none ? type : fields[m_type], {}, {}};
         const TypeInfo* const info = ParseType(probe.type);
         if (!info || info->code == CONV_NONE)
             Fail(line, m_type == none ? m_section : m_type, L"\"" + probe.type + L"\" is no conversion type");
@@ -197,10 +197,12 @@ public:
         for (std::size_t i = 0; i < fields.size(); ++i) {
             if (i == m_section || i == m_type)
                 continue;
-            const RecordKey* const key = FindRecordKey(info->code, m_columns[i].key, RecordForm::Any);
+            const RecordKey* const key = m_columns[i].record;
             // An empty field is no value, but of a text, which may be empty.
-            if (fields[i].empty() && !(key && std::holds_alternative<std::wstring>(key->initial)))
+            if (fields[i].empty() && !(key && std::holds_alternative<std::wstring>(key->initial))) {
+                probe.empty.push_back(m_columns[i].key);
                 continue;
+            }
             std::wstring text = fields[i];
             const Value kind = key ? key->initial : Value(0.0);
             if (std::holds_alternative<double>(kind))
@@ -233,6 +235,7 @@ private:
     struct Column {
         std::wstring key;
         std::wstring name;
+        const RecordKey* record = nullptr; // of the type that was checked last; null for a further item
     };
 
     [[noreturn]] void Fail(std::size_t line, std::size_t column, const std::wstring& text) const {
@@ -248,8 +251,9 @@ private:
         for (std::size_t i = 0; i < m_columns.size(); ++i) {
             if (i == m_section || i == m_type)
                 continue;
-            const Column& column = m_columns[i];
+            Column& column = m_columns[i];
             const RecordKey* const key = FindRecordKey(type, column.key, RecordForm::Any);
+            column.record = key;
             if (!key && !IsFurtherItem(type, column.key)) {
                 std::vector<std::wstring> known{sectionColumn, typeColumn};
                 for (const RecordKey& one : RecordKeys(type))

@@ -65,7 +65,8 @@ struct CsvProbe {
     std::size_t line;
     std::wstring section;
     std::wstring type;
-    std::vector<Assignment> values; ///< without those of empty fields
+    std::vector<Assignment> values;  ///< without those of empty fields
+    std::vector<std::wstring> empty; ///< the keys of these
 };
 
 /// Reads a table and calls `use` with each of its lines. Columns may stand in any order, and without the

@@ -9,6 +9,7 @@
 #include "apps/quorconv/Nearest.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <map>
 #include <set>
 #include <utility>
@@ -231,32 +232,39 @@ const JsonValue& Require(const JsonValue& object, const wchar_t* name, Kind kind
     return *member;
 }
 
-void RequireMembers(const JsonValue& object, const std::vector<std::wstring>& known) {
+void RequireMembers(const JsonValue& object, std::initializer_list<std::wstring_view> known) {
     for (std::size_t at = 0; at < object.names.size(); ++at) {
         const std::wstring& name = object.names[at];
         const JsonValue& value = object.members[at];
         if (std::find(known.begin(), known.end(), name) == known.end())
-            Fail(value, L"there is no member \"" + name + L"\" here" + DidYouMean(name, known));
+            Fail(value, L"there is no member \"" + name + L"\" here" +
+                            DidYouMean(name, {known.begin(), known.end()}));
     }
+}
+
+/// The keys of a type; of lists without their index.
+const std::set<std::wstring>& KnownKeys(EQuorConversionType type) {
+    static std::map<EQuorConversionType, std::set<std::wstring>> all;
+    const auto [keys, isNew] = all.try_emplace(type);
+    if (isNew)
+        for (const RecordKey& key : RecordKeys(type))
+            keys->second.insert(key.index < 0 ? key.path : key.list);
+    return keys->second;
 }
 
 /// Reads the settings of a probe.
 class SettingsReader {
 public:
-    SettingsReader(EQuorConversionType type, RecordForm form) : m_type(type), m_form(form) {
-        for (const RecordKey& key : RecordKeys(type))
-            m_known.insert(key.index < 0 ? key.path : key.list);
-    }
+    SettingsReader(EQuorConversionType type, RecordForm form)
+        : m_type(type), m_form(form), m_known(KnownKeys(type)) {}
 
     void Read(const JsonValue& object, const std::wstring& prefix) {
         for (std::size_t at = 0; at < object.names.size(); ++at) {
             const std::wstring& name = object.names[at];
             const JsonValue& value = object.members[at];
             const std::wstring path = prefix + name;
-            const bool isNested =
-                prefix.empty() && std::any_of(m_known.begin(), m_known.end(), [&](const std::wstring& key) {
-                    return key.starts_with(path + L"/");
-                });
+            const auto nested = prefix.empty() ? m_known.lower_bound(path + L"/") : m_known.end();
+            const bool isNested = nested != m_known.end() && nested->starts_with(path + L"/");
             if (isNested) {
                 if (value.kind != Kind::Object)
                     Fail(value, L"\"" + path + L"\" is not an object");
@@ -352,7 +360,7 @@ private:
 
     EQuorConversionType m_type;
     RecordForm m_form;
-    std::set<std::wstring> m_known; // keys; of lists without their index
+    const std::set<std::wstring>& m_known;
 };
 
 } // namespace

@@ -93,25 +93,37 @@ void ProbeReader::Learn(IniStore& store) {
         m_shapes.pop_back();
 }
 
-ProbeValues* ProbeReader::Find(ProbeFile& file, const std::wstring& section) {
+/// The first shape of a type of which `isMeant` is true.
+template <class IsMeant>
+const ProbeValues* ProbeReader::First(std::int32_t code, const IsMeant& isMeant) {
+    const auto shape = std::find_if(m_shapes.begin(), m_shapes.end(), [&](const auto& known) {
+        return known->probe.code == code && isMeant(*known);
+    });
+    if (shape == m_shapes.end())
+        return nullptr;
+    std::rotate(m_shapes.begin(), shape, shape + 1);
+    return &m_shapes.front()->probe;
+}
+
+const ProbeValues* ProbeReader::Find(ProbeFile& file, const std::wstring& section) {
     IniStore& store = *file.Store();
     std::int16_t code = 0;
     store.SetSection(section);
     if (!store.ReadInteger(QuorConversions::conversionTypeKey, code))
         return nullptr;
-    const auto shape = std::find_if(m_shapes.begin(), m_shapes.end(), [&](const auto& known) {
-        return known->probe.code == code && Fill(*known, store, section);
-    });
-    if (shape != m_shapes.end()) {
-        std::rotate(m_shapes.begin(), shape, shape + 1);
-        return &m_shapes.front()->probe;
-    }
+    if (const ProbeValues* const known =
+            First(code, [&](Shape& shape) { return Fill(shape, store, section); }))
+        return known;
     Probe probe(section);
     if (!ReadWhole(file, probe))
         return nullptr;
     m_other = ValuesOf(probe);
     Learn(store);
     return &m_other;
+}
+
+const ProbeValues* ProbeReader::Make(std::int32_t code, const std::function<bool(ProbeValues&)>& fill) {
+    return First(code, [&](Shape& shape) { return fill(shape.probe); });
 }
 
 const ProbeValues& ProbeReader::Read(ProbeFile& file, const std::wstring& section) {

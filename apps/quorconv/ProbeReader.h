@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -39,7 +40,10 @@ struct ProbeValues {
 class ProbeReader {
 public:
     /// Null for a probe with which something is wrong. Valid until the next call.
-    [[nodiscard]] ProbeValues* Find(QuorProbeFile::ProbeFile& file, const std::wstring& section);
+    [[nodiscard]] const ProbeValues* Find(QuorProbeFile::ProbeFile& file, const std::wstring& section);
+    /// A record of a shape that was read, with the values that `fill` has given it: numbers and texts alone.
+    /// Null when it has taken none of that type. Valid until the next call.
+    [[nodiscard]] const ProbeValues* Make(std::int32_t code, const std::function<bool(ProbeValues&)>& fill);
     /// Raises Problem for a probe that the library cannot read wholly. Valid until the next call.
     [[nodiscard]] const ProbeValues& Read(QuorProbeFile::ProbeFile& file, const std::wstring& section);
 
@@ -52,6 +56,8 @@ private:
         ProbeValues probe; // the one that was read last
         std::vector<Key> keys;
     };
+    template <class IsMeant>
+    [[nodiscard]] const ProbeValues* First(std::int32_t code, const IsMeant& isMeant);
     [[nodiscard]] bool Fill(Shape& shape, QuorIniFile::IniStore& store, const std::wstring& section);
     void Learn(QuorIniFile::IniStore& store);
 

@@ -421,12 +421,38 @@ bool IsTakenAlone(const Value& value, const Value& before, const ValueRules& rul
     return (std::isfinite(*number) || rules.allowsNan) && !(*number == 0.0 && std::signbit(*number));
 }
 
+/// Keeps what it has learned of records, and nothing of a file.
+ProbeReader& KnownRecords() {
+    static ProbeReader reader;
+    return reader;
+}
+
+/// Gives a record all of its values: numbers, and what it has already. False when these are not all, or when
+/// one of them needs a closer look.
+bool GiveAll(ProbeValues& probe, const std::vector<Assignment>& assignments, const ValueRules& rules) {
+    if (probe.entries.size() != assignments.size()) // whose keys differ
+        return false;
+    for (std::size_t at = 0; at < assignments.size(); ++at) {
+        const auto isMeant = [&](const RecordImage::Entry& entry) {
+            return EqualFolded(entry.path, assignments[at].key);
+        };
+        auto entry = probe.entries.begin() + static_cast<std::ptrdiff_t>(at);
+        if (!isMeant(*entry))
+            entry = std::find_if(probe.entries.begin(), probe.entries.end(), isMeant);
+        auto value =
+            entry == probe.entries.end() ? std::nullopt : ParseAs(entry->value, assignments[at].value);
+        if (!value || !IsTakenAlone(*value, entry->value, rules))
+            return false;
+        entry->value = *std::move(value);
+    }
+    return true;
+}
+
 /// Gives numbers to a probe of which nothing is wrong, which needs no conversion. False when nothing was
 /// written, because there is more to look at.
 bool AssignNumbers(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& assignments,
                    const ValueRules& rules) {
-    static ProbeReader reader; // which keeps what it has learned of records, and nothing of a file
-    const ProbeValues* const probe = reader.Find(file, section);
+    const ProbeValues* const probe = KnownRecords().Find(file, section);
     if (!probe || probe->shape == 0)
         return false;
     Entries changed;
@@ -512,6 +538,18 @@ void AssignInFile(ProbeFile& file, const std::wstring& section, const std::vecto
         return file.Write(section, probe.Conversion());
     for (const RecordImage::Entry& entry : changed)
         WriteEntry(*file.Store(), settings, entry);
+}
+
+void WriteNewProbe(ProbeFile& file, const std::wstring& section, EQuorConversionType type,
+                   const std::vector<Assignment>& assignments, const ValueRules& rules) {
+    if (const ProbeValues* const probe =
+            KnownRecords().Make(type, [&](ProbeValues& one) { return GiveAll(one, assignments, rules); }))
+        return file.WriteNew(section, type, probe->entries);
+    Probe probe(section);
+    probe.Conversion().SetConversionType(type);
+    Assign(probe, file.Path(), assignments, rules, Assigned::All);
+    file.Write(section, probe.Conversion());
+    static_cast<void>(KnownRecords().Find(file, section)); // the next one may be like it
 }
 
 void WriteEdited(Probe& probe, ProbeFile& file) {

@@ -74,6 +74,11 @@ std::vector<QuorProbeFile::RecordImage::Entry> Assign(Probe& probe, const std::w
 void AssignInFile(QuorProbeFile::ProbeFile& file, const std::wstring& section,
                   const std::vector<Assignment>& assignments, const ValueRules& rules);
 
+/// Writes a new probe, of which each value must be given, inside an edit of the file, with as little cost.
+void WriteNewProbe(QuorProbeFile::ProbeFile& file, const std::wstring& section,
+                   QuorConversions::EQuorConversionType type, const std::vector<Assignment>& assignments,
+                   const ValueRules& rules);
+
 /// Writes what has become another value since the probe was read, by a person who may have taken his time,
 /// into the file as it is now, and nothing else. Raises Problem when another program has changed the same.
 void WriteEdited(Probe& probe, QuorProbeFile::ProbeFile& file);

@@ -9,6 +9,7 @@
 #include "apps/quorconv/Selection.h"
 #include "apps/quorconv/Steps.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 namespace quorconv {
@@ -23,6 +24,7 @@ struct Entry {
     std::wstring section;
     std::wstring type;
     std::vector<Assignment> values;
+    std::vector<std::wstring> empty; // keys whose fields in a table are empty
 };
 
 /// Whether a section is there; a file that is still to be created has none.
@@ -58,10 +60,22 @@ void PutProbe(ProbeFile& file, const Entry& entry, const ValueRules& rules) {
         return;
     }
     RequireName(file.Path(), entry.section);
-    Probe probe(entry.section);
-    probe.Conversion().SetConversionType(type.code);
-    Assign(probe, file.Path(), entry.values, rules, Assigned::All);
-    file.Write(entry.section, probe.Conversion());
+    WriteNewProbe(file, entry.section, type.code, entry.values, rules);
+}
+
+/// How many values a probe has kept because their fields are empty: it may lack keys that others have.
+std::size_t CountKept(ProbeFile& file, const Entry& entry) {
+    if (entry.empty.empty())
+        return 0;
+    QuorIniFile::IniStore& store = *file.Store();
+    std::wstring text;
+    store.SetSection(entry.section);
+    const bool isOfHost = store.ReadString(QuorConversions::conversionTypeKey, text);
+    const std::wstring settings = isOfHost ? SettingsSection(entry.section) : entry.section;
+    return static_cast<std::size_t>(
+        std::count_if(entry.empty.begin(), entry.empty.end(), [&](const std::wstring& path) {
+            return store.ReadString(SelectKey(store, settings, path), text);
+        }));
 }
 
 class Put final : public Command {
@@ -79,7 +93,9 @@ class Put final : public Command {
         arguments.Maybe("INPUT", m_from, Meaning::File, "The input file; without it, the standard input");
         arguments.Flag("--json", m_isJson,
                        "The input is JSON as \"show --json\" prints it: an object, an array, or JSON Lines");
-        arguments.Flag("--csv", m_isCsv, "The input is a table as \"export --csv\" prints it");
+        arguments.Flag("--csv", m_isCsv,
+                       "The input is a table as \"export --csv\" prints it;\n"
+                       "an empty field keeps the value of a probe that is there");
         arguments.Option("--type", "TYPE", m_type, Meaning::Type,
                          "The type of all probes of a table, which then needs no column for it");
         m_style.Declare(arguments);
@@ -100,6 +116,7 @@ class Put final : public Command {
         const std::wstring from = m_from.value_or(standardInput);
         const std::string text = ReadAll(from);
         std::size_t count = 0;
+        std::size_t kept = 0;
         m_rules.completes = true;
         HostFile file(m_path, ProbeFile::Opening::OrNew);
         file.Edit(m_isDryRun, [&] {
@@ -108,7 +125,7 @@ class Put final : public Command {
             const Duplicates duplicates(*file);
             Progress progress(L"probes", 0);
             std::unordered_set<std::wstring> sections;
-            count = 0;
+            count = kept = 0;
             const auto put = [&](const Entry& entry) {
                 progress.Step();
                 ++count;
@@ -116,19 +133,23 @@ class Put final : public Command {
                     RequireNew(sections, entry.section);
                     duplicates.Require(entry.section);
                     PutProbe(*file, entry, m_rules);
+                    kept += CountKept(*file, entry);
                 });
             };
             if (m_isJson)
                 ReadJson(text, from, batch, put);
             else
-                ReadProbeTable(text, from + L":", m_style, m_type.value_or(L""), batch,
-                               [&](CsvProbe&& probe) {
-                                   put({batch.PlaceOf(probe.line), std::move(probe.section),
-                                        std::move(probe.type), std::move(probe.values)});
-                               });
+                ReadProbeTable(
+                    text, from + L":", m_style, m_type.value_or(L""), batch, [&](CsvProbe&& probe) {
+                        put({batch.PlaceOf(probe.line), std::move(probe.section), std::move(probe.type),
+                             std::move(probe.values), std::move(probe.empty)});
+                    });
             batch.RequireFine();
         });
         TellCount(count, L"probe", m_isDryRun ? "would be put" : "put");
+        if (kept > 0)
+            TellCount(kept, L"value",
+                      m_isDryRun ? "would be kept: the fields are empty" : "kept: the fields are empty");
         return fine;
     }
 
@@ -147,8 +168,11 @@ class Put final : public Command {
             ReadJsonObjects(text, [&](const JsonValue& object) {
                 try {
                     JsonProbe probe = ReadJsonProbe(object);
-                    use({placeOf(object.line, object.column), std::move(probe.section), std::move(probe.type),
-                         std::move(probe.values)});
+                    use({placeOf(object.line, object.column),
+                         std::move(probe.section),
+                         std::move(probe.type),
+                         std::move(probe.values),
+                         {}});
                 } catch (const JsonError& error) {
                     batch.Do(placeOf(error.line, error.column), [&] { throw Problem{error.text}; });
                 }

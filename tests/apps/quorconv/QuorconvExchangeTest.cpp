@@ -269,6 +269,52 @@ TEST_F(QuorconvExchangeTest, GivesManyProbesValuesAsItGivesThemToEachAlone) {
         "    Coefficients1=0.00385055, by UsePolynomial=True\n");
 }
 
+TEST_F(QuorconvExchangeTest, WritesManyNewProbesAsItWritesEachAlone) {
+    std::filesystem::copy_file(QUOR_SAMPLES "/laboratory.ini", folder.Path("laboratory.ini"));
+    folder.Write("in.csv", "section,type,NumCoefficients,UsePolynomial,Coefficients0,Coefficients1\n"
+                           "First,cvd,2,False,100,0.0039\n"
+                           "Second,cvd,2,False,99.5,1e-3\n"
+                           "Minus zero,cvd,2,False,99.5,-0\n"
+                           "Another count,cvd,1,False,99.5,\n"
+                           "Another flag,cvd,2,True,99.5,0.0039\n"
+                           "Zero,cvd,2,0,99.5,0\n"
+                           "Not a number,cvd,2,False,NaN,0.0039\n");
+    ExpectShell("quorconv export laboratory.ini --jsonl | sed 's/\"section\": \"/&Another /' >second\n"
+                "{ quorconv export laboratory.ini --jsonl; cat second; } >in.jsonl 2>.told\n"
+                "quorconv put many.ini in.jsonl --json --allow-nan 2>.told || exit\n"
+                "quorconv put many.ini in.csv --csv --allow-nan 2>.told || exit\n"
+                "while IFS= read -r probe; do\n"
+                "printf '%s\\n' \"$probe\" | quorconv put each.ini --json --allow-nan 2>.told || exit\n"
+                "done <in.jsonl\n"
+                "for line in 2 3 4 5 6 7 8; do\n"
+                "sed -n \"1p;${line}p\" in.csv | quorconv put each.ini --csv --allow-nan 2>.told || exit\n"
+                "done\ncmp many.ini each.ini && quorconv list many.ini | grep -c .\n",
+                "65\n", "quorconv: 29 probes exported\n");
+    folder.Write("in.csv", "section,type,NumCoefficients,UsePolynomial,Coefficients0,Coefficients1\n"
+                           "First,cvd,2,False,100,0.0039\n"
+                           "Second,cvd,2,False,99.5,NaN\n"
+                           "Third,cvd,2,False,99.5,\n"
+                           "a]b,cvd,2,False,99.5,0.5\n"
+                           "First - Settings,cvd,2,False,99.5,0.5\n");
+    ExpectRefused({"put", "new.ini", "in.csv", "--csv"},
+                  "quorconv: new.ini: nothing was written, because 4 lines of in.csv are wrong\n"
+                  "  in.csv:3: new.ini: [Second] Coefficients1: NaN gives no temperature; --allow-nan "
+                  "stores it\n"
+                  "  in.csv:4: new.ini: [Third] Coefficients1: the value is missing, and the probe is a new "
+                  "one\n"
+                  "  in.csv:5: new.ini: [a]b]: no section can have this name: a \"]\" ends the name in the "
+                  "file\n"
+                  "  in.csv:6: new.ini: [First - Settings]: the section is not the record of a probe\n");
+}
+
+TEST_F(QuorconvExchangeTest, TellsHowManyValuesAnEmptyFieldHasKept) {
+    folder.Write("in.csv", "section,Coefficients0,Coefficients1,Coefficients2,Coefficients9\n"
+                           "Bath,99.5,,,\n");
+    ExpectShell("quorconv put host.ini in.csv --csv --type cvd", "",
+                "quorconv: 1 probe put\nquorconv: 2 values kept: the fields are empty\n");
+    EXPECT_EQ(folder.Read("host.ini"), Replaced(before, "100.0123", "99.5"));
+}
+
 TEST_F(QuorconvExchangeTest, TakesATableOfNewCertificates) {
     folder.Write("in.csv", "\xEF\xBB\xBFsection,Coefficients0\n\"Bath\",\"99,5\"\n\n");
     ExpectShell("quorconv put host.ini in.csv --csv --type cvd --decimal comma", "",
