@@ -474,19 +474,24 @@ std::vector<std::string_view> IniText::SectionNames() {
     return names;
 }
 
-void IniText::RemoveSection(Section section) {
-    ReadAllHeaders();
-    std::string buffer;
-    const std::string_view name = CanonicalName(Name(section), buffer);
+/// The edit of a section, for a change to be made; `move` is noted where the section was read.
+IniText::Edit& IniText::EditFor(Section section, Move move) {
     if (!IsAdded(section))
-        m_moves.push_back({std::string(name), std::nullopt});
+        m_moves.push_back(std::move(move));
     try {
-        m_edits.try_emplace(section, Edit{false, std::string(Name(section))}).first->second.isRemoved = true;
+        return m_edits.try_emplace(section, Edit{false, std::string(Name(section))}).first->second;
     } catch (...) {
         if (!IsAdded(section))
             m_moves.pop_back();
         throw;
     }
+}
+
+void IniText::RemoveSection(Section section) {
+    ReadAllHeaders();
+    std::string buffer;
+    const std::string_view name = CanonicalName(Name(section), buffer);
+    EditFor(section, {std::string(name), std::nullopt}).isRemoved = true;
     m_isWritten = true;
     const auto kept = m_kept.find(section);
     if (kept != m_kept.end()) {
@@ -518,18 +523,9 @@ bool IniText::RenameSection(Section section, std::string_view name) {
     const auto removed = FindNamed(to);
     m_names.Reserve(1);
     m_hidden.try_emplace(section, none);
-    if (!IsAdded(section))
-        m_moves.push_back({from, spelling});
-    try {
-        m_edits.try_emplace(section, Edit{false, std::string(Name(section))});
-    } catch (...) {
-        if (!IsAdded(section))
-            m_moves.pop_back();
-        throw;
-    }
+    Edit& edit = EditFor(section, {from, spelling});
     // Nothing can fail from here on.
     m_isWritten = true;
-    Edit& edit = m_edits.find(section)->second;
     edit.name = std::move(spelling);
     if (!SameName(from, to)) {
         GiveUpName(from, section);

@@ -165,6 +165,7 @@ private:
     [[nodiscard]] std::string_view Name(Section section) const;
     [[nodiscard]] bool IsAdded(Section section) const { return section >= m_firstAdded; }
     [[nodiscard]] const Edit* EditOf(Section section) const;
+    [[nodiscard]] Edit& EditFor(Section section, Move move);
     [[nodiscard]] bool IsRemoved(Section section) const;
     [[nodiscard]] bool IsThere(Section section) const;
     [[nodiscard]] bool IsFound(Section section, std::wstring_view name) const;
