@@ -1642,8 +1642,8 @@ QUOR_API int32_t quor_probe_file_Write(quor_object probe_file, quor_text Section
  * problems; Write replaces it. */
 QUOR_API int32_t quor_probe_file_WriteChanges(quor_object probe_file, quor_text Section, quor_object Conversion,
                                               quor_bool* result);
-/* How many values other programs have changed too, as found by the last WriteChanges or Release. The index of a
- * conflict counts from 0. */
+/* How many values other programs have changed too, as found by the last WriteChanges, RequireUnchanged or Release.
+ * The index of a conflict counts from 0. */
 QUOR_API int32_t quor_probe_file_get_ConflictCount(quor_object probe_file, int32_t* result);
 /* The section of such a value. */
 QUOR_API int32_t quor_probe_file_get_ConflictSection(quor_object probe_file, int32_t Index, quor_text* result);

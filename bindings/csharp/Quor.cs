@@ -4237,7 +4237,7 @@ namespace QuorConversions {
             using (var sectionText = new TextIn(section)) QuorError.Raise(Native.quor_probe_file_WriteChanges(it, sectionText.Value, conversionHandle, out result));
             return result != 0;
         }
-        /// <summary>How many values other programs have changed too, as found by the last WriteChanges or Release. The index of a conflict counts from 0.</summary>
+        /// <summary>How many values other programs have changed too, as found by the last WriteChanges, RequireUnchanged or Release. The index of a conflict counts from 0.</summary>
         public int ConflictCount {
             get {
                 var it = NativeHandle;

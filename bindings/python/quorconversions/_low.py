@@ -3161,8 +3161,8 @@ class ProbeFile(Object):
 
     @property
     def ConflictCount(self):
-        """How many values other programs have changed too, as found by the last WriteChanges or Release. The index
-        of a conflict counts from 0."""
+        """How many values other programs have changed too, as found by the last WriteChanges, RequireUnchanged or
+        Release. The index of a conflict counts from 0."""
         result = c_int32()
         check(_library.quor_probe_file_get_ConflictCount(self._handle, byref(result)))
         return result.value
