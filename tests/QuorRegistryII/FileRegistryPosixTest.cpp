@@ -2,8 +2,8 @@
 
 #include "QuorRegistryII/FileRegistry.h"
 
-#include "QuorIniFile/QuorError.h"
 #include "tests/support/Environment.h"
+#include "tests/support/RaisedError.h"
 #include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -14,22 +14,7 @@ namespace fs = std::filesystem;
 using QuorIniFile::QuorError;
 using QuorRegistryII::FileRegistry;
 using Support::ChangedVariable;
-
-namespace {
-
-/// The error that `action` raises.
-template <class Action>
-QuorError ErrorOf(const Action& action) {
-    try {
-        action();
-    } catch (const QuorError& error) {
-        return error;
-    }
-    ADD_FAILURE() << "nothing was raised";
-    return {0, L"", L""};
-}
-
-} // namespace
+using Support::ErrorOf;
 
 TEST(FileRegistry, TheFirstWriteMakesItsFoldersForTheUserAlone) {
     const TempFolder folder;

@@ -1,6 +1,6 @@
 #include "QuorRegistryII/FileRegistry.h"
 
-#include "QuorIniFile/QuorError.h"
+#include "tests/support/RaisedError.h"
 #include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -11,32 +11,7 @@
 namespace fs = std::filesystem;
 using QuorIniFile::QuorError;
 using QuorRegistryII::FileRegistry;
-
-namespace {
-
-template <class Action>
-std::int32_t NumberRaisedBy(const Action& action) {
-    try {
-        action();
-    } catch (const QuorError& error) {
-        return error.Number();
-    }
-    return 0;
-}
-
-/// The error that `action` raises.
-template <class Action>
-QuorError ErrorOf(const Action& action) {
-    try {
-        action();
-    } catch (const QuorError& error) {
-        return error;
-    }
-    ADD_FAILURE() << "nothing was raised";
-    return {0, L"", L""};
-}
-
-} // namespace
+using Support::ErrorOf;
 
 TEST(FileRegistry, WhatIsWrittenIsReadInALaterRun) {
     const TempFolder folder;
@@ -73,7 +48,7 @@ TEST(FileRegistry, TwoRegistriesOfOneApplicationAgree) {
 TEST(FileRegistry, AnApplicationNameMustBeAFileName) {
     for (const std::wstring& name : {std::wstring(), std::wstring(L"."), std::wstring(L".."),
                                      std::wstring(L"a/b"), std::wstring(L"a\0b", 3)})
-        EXPECT_EQ(NumberRaisedBy([&] { const FileRegistry registry(name, L"/tmp"); }), 52);
+        EXPECT_EQ(ErrorOf([&] { const FileRegistry registry(name, L"/tmp"); }).Number(), 52);
     const QuorError error = ErrorOf([] { const FileRegistry registry(L"a/b", L"/tmp"); });
     EXPECT_EQ(error.Description(), L"Bad file name or number: a/b");
     ASSERT_NE(error.Cause(), nullptr);
@@ -86,5 +61,5 @@ TEST(FileRegistry, AFileThatCannotBeReadIsAnErrorNotAMissingValue) {
     fs::create_directory(folder.Path("App.ini"));
     FileRegistry registry(L"App", folder.Path().wstring());
     std::wstring value;
-    EXPECT_EQ(NumberRaisedBy([&] { static_cast<void>(registry.ReadValue(L"A", L"x", value)); }), 75);
+    EXPECT_EQ(ErrorOf([&] { static_cast<void>(registry.ReadValue(L"A", L"x", value)); }).Number(), 75);
 }

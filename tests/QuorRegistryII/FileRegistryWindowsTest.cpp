@@ -2,8 +2,8 @@
 
 #include "QuorRegistryII/FileRegistry.h"
 
-#include "QuorIniFile/QuorError.h"
 #include "tests/support/Environment.h"
+#include "tests/support/RaisedError.h"
 #include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -11,22 +11,9 @@
 #include <initializer_list>
 #include <string>
 
-using QuorIniFile::QuorError;
 using QuorRegistryII::FileRegistry;
 using Support::ChangedVariable;
-
-namespace {
-
-std::int32_t NumberRaisedFor(const std::wstring& application, const std::wstring& folder) {
-    try {
-        const FileRegistry registry(application, folder);
-    } catch (const QuorError& error) {
-        return error.Number();
-    }
-    return 0;
-}
-
-} // namespace
+using Support::ErrorOf;
 
 TEST(FileRegistry, WithoutAFolderItIsTheUsersApplicationData) {
     const TempFolder folder;
@@ -40,18 +27,16 @@ TEST(FileRegistry, WithoutAFolderItIsTheUsersApplicationData) {
 TEST(FileRegistry, AUserWithoutApplicationDataHasNoRegistry) {
     for (const char* const none : {static_cast<const char*>(nullptr), "relative", "\\App"}) {
         const ChangedVariable data("APPDATA", none);
-        EXPECT_EQ(NumberRaisedFor(L"App", L""), 76);
-        try {
-            const FileRegistry registry(L"App");
-        } catch (const QuorError& error) {
-            EXPECT_EQ(error.Description(), L"Path not found: App.ini: The user's configuration folder is not "
-                                           L"known, because HOME (on Windows APPDATA) is not set");
-        }
+        const auto error = ErrorOf([] { const FileRegistry registry(L"App"); });
+        EXPECT_EQ(error.Number(), 76);
+        EXPECT_EQ(error.Description(), L"Path not found: App.ini: The user's configuration folder is not "
+                                       L"known, because HOME (on Windows APPDATA) is not set");
     }
 }
 
 TEST(FileRegistry, AnApplicationNameIsNoPathAndNoStream) {
     for (const wchar_t* const name : {L"a\\b", L"C:a", L"a:b", L"a*", L"a.", L"a ", L"a\tb"})
-        EXPECT_EQ(NumberRaisedFor(name, L"C:\\"), 52) << testing::PrintToString(std::wstring(name));
-    EXPECT_EQ(NumberRaisedFor(L"Probe Setup 1.0", L"C:\\"), 0);
+        EXPECT_EQ(ErrorOf([&] { const FileRegistry registry(name, L"C:\\"); }).Number(), 52)
+            << testing::PrintToString(std::wstring(name));
+    EXPECT_NO_THROW(const FileRegistry registry(L"Probe Setup 1.0", L"C:\\"));
 }
