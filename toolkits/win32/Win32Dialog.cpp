@@ -10,7 +10,11 @@
 #include <array>
 #include <commctrl.h>
 #include <cwctype>
+#include <memory>
+#include <ole2.h>
 #include <utility>
+
+#include <oleacc.h>
 
 extern "C" IMAGE_DOS_HEADER __ImageBase; // NOLINT: the module that this code is linked to
 
@@ -19,7 +23,6 @@ namespace {
 
 constexpr const wchar_t* frameClass = L"QuorConversionsDialog";
 constexpr const wchar_t* contentClass = L"QuorConversionsDialogContent";
-constexpr const wchar_t* dialogProperty = L"QuorConversionsDialog";
 constexpr DWORD frameStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU;
 constexpr DWORD frameStyleEx = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
 
@@ -176,17 +179,16 @@ Win32Dialog::Win32Dialog(Dialog& dialog, DialogInput& input, HWND owner)
         throw QuorIniFile::QuorError(QuorIniFile::ERR_CANNOT_CREATE, L"Win32Toolkit",
                                      TableText(IDS_NO_SCREEN));
     }
-    SetPropW(m_window, dialogProperty, this);
-    SetPropW(m_content, dialogProperty, this);
+    for (const HWND window : {m_window, m_content})
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     m_dialog.SetWindowHandle(static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(m_window)));
 }
 
 Win32Dialog::~Win32Dialog() {
-    m_dialog.SetListener(nullptr);
-    m_dialog.SetWindowHandle(0);
-    RemovePropW(m_window, dialogProperty);
-    RemovePropW(m_content, dialogProperty);
-    DestroyWindow(m_window);
+    if (m_window) {
+        Detach();
+        DestroyWindow(m_window);
+    }
     if (m_font)
         DeleteObject(m_font);
     UnregisterClasses();
@@ -231,9 +233,7 @@ void Win32Dialog::Run() {
 }
 
 void Win32Dialog::Dispatch(const MSG& message) {
-    auto* const dialog =
-        message.hwnd ? static_cast<Win32Dialog*>(GetPropW(GetAncestor(message.hwnd, GA_ROOT), dialogProperty))
-                     : nullptr;
+    auto* const dialog = message.hwnd ? DialogOf(GetAncestor(message.hwnd, GA_ROOT)) : nullptr;
     if (dialog && dialog->TakesKey(message))
         return;
     TranslateMessage(&message);
@@ -347,22 +347,30 @@ void Win32Dialog::TurnPage(bool backwards) {
 
 // Windows
 
+Win32Dialog* Win32Dialog::DialogOf(HWND window) {
+    // The windows of the host, and of another copy of this code, have data of their own there.
+    const auto procedure = reinterpret_cast<WNDPROC>(GetClassLongPtrW(window, GCLP_WNDPROC));
+    return procedure == FrameProcedure || procedure == ContentProcedure
+               ? reinterpret_cast<Win32Dialog*>(GetWindowLongPtrW(window, GWLP_USERDATA))
+               : nullptr;
+}
+
 LRESULT CALLBACK Win32Dialog::FrameProcedure(HWND window, UINT message, WPARAM w, LPARAM l) {
-    auto* const dialog = static_cast<Win32Dialog*>(GetPropW(window, dialogProperty));
+    auto* const dialog = DialogOf(window);
     return dialog ? dialog->Guarded([&] { return dialog->OnFrame(message, w, l); })
                   : DefWindowProcW(window, message, w, l);
 }
 
 LRESULT CALLBACK Win32Dialog::ContentProcedure(HWND window, UINT message, WPARAM w, LPARAM l) {
-    auto* const dialog = static_cast<Win32Dialog*>(GetPropW(window, dialogProperty));
+    auto* const dialog = DialogOf(window);
     return dialog ? dialog->Guarded([&] { return dialog->OnContent(message, w, l); })
                   : DefWindowProcW(window, message, w, l);
 }
 
-LRESULT CALLBACK Win32Dialog::ControlProcedure(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR id,
-                                               DWORD_PTR dialog) {
-    auto& self = *reinterpret_cast<Win32Dialog*>(dialog);
-    return self.Guarded([&] { return self.OnControl(*self.m_views[id].control, window, message, w, l); });
+LRESULT CALLBACK Win32Dialog::ControlProcedure(HWND window, UINT message, WPARAM w, LPARAM l) {
+    auto& self = *DialogOf(GetParent(window)); // until Detach gives the control its own procedure back
+    const View& view = self.m_views[static_cast<std::size_t>(GetDlgCtrlID(window) - firstControlId)];
+    return self.Guarded([&] { return self.OnControl(view, message, w, l); });
 }
 
 template <class Handle>
@@ -527,18 +535,20 @@ void Win32Dialog::ReportChoices() noexcept {
     }
 }
 
-LRESULT Win32Dialog::OnControl(Control& control, HWND window, UINT message, WPARAM w, LPARAM l) {
-    if (message == WM_MOUSEWHEEL && GetFocus() != window)
+LRESULT Win32Dialog::OnControl(const View& view, UINT message, WPARAM w, LPARAM l) {
+    Control& control = *view.control;
+    if (message == WM_MOUSEWHEEL && GetFocus() != view.window)
         return SendMessageW(m_window, message, w, l); // the wheel scrolls the window instead
     const LRESULT result = control.Kind() == ControlKind::TextBox
-                               ? OnBox(static_cast<TextBox&>(control), window, message, w, l)
-                               : DefSubclassProc(window, message, w, l);
+                               ? OnBox(view, static_cast<TextBox&>(control), message, w, l)
+                               : CallWindowProcW(view.system, view.window, message, w, l);
     if (message == WM_SETFOCUS)
         Report([&] { m_input.Focus(control); });
     return result;
 }
 
-LRESULT Win32Dialog::OnBox(TextBox& box, HWND window, UINT message, WPARAM w, LPARAM l) {
+LRESULT Win32Dialog::OnBox(const View& view, TextBox& box, UINT message, WPARAM w, LPARAM l) {
+    const HWND window = view.window;
     switch (message) {
     case WM_CHAR: {
         if (w == selectAllKey) {
@@ -579,7 +589,7 @@ LRESULT Win32Dialog::OnBox(TextBox& box, HWND window, UINT message, WPARAM w, LP
     default:
         break;
     }
-    const LRESULT result = DefSubclassProc(window, message, w, l);
+    const LRESULT result = CallWindowProcW(view.system, window, message, w, l);
     const bool movesCursor = message == WM_CHAR || message == WM_KEYDOWN || message == WM_LBUTTONDOWN ||
                              message == WM_LBUTTONUP || message == WM_LBUTTONDBLCLK || message == WM_UNDO ||
                              message == WM_CUT || message == WM_CLEAR ||
@@ -635,7 +645,8 @@ void Win32Dialog::CreateViews() {
         m_views[i].control = &control;
         m_views[i].window = CreateView(control, firstControlId + static_cast<int>(i));
         if (m_views[i].window && control.TakesFocus())
-            SetWindowSubclass(m_views[i].window, ControlProcedure, i, reinterpret_cast<DWORD_PTR>(this));
+            m_views[i].system = reinterpret_cast<WNDPROC>(SetWindowLongPtrW(
+                m_views[i].window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ControlProcedure)));
     }
     // What stands in a group or on a page is drawn over it: the outermost comes last.
     for (auto view = m_views.rbegin(); view != m_views.rend(); ++view)
@@ -649,7 +660,23 @@ void Win32Dialog::CreateViews() {
     Arrange(); // a box that had no width yet would scroll its text away
     for (View& view : m_views)
         Follow(view);
+    NameViews();
     ShowAdvice();
+}
+
+void Win32Dialog::NameViews() const {
+    void* service = nullptr;
+    if (FAILED(CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
+                                &service)))
+        return; // the thread of this host uses no COM: readers find the label beside a box themselves
+    const auto release = [](IAccPropServices* names) { names->Release(); };
+    const std::unique_ptr<IAccPropServices, decltype(release)> names(static_cast<IAccPropServices*>(service));
+    for (const ControlName& name : ControlNames(m_dialog)) {
+        const std::wstring spoken = name.units.empty() ? name.name : name.name + L", " + name.units;
+        if (name.label) // a button says its own caption
+            names->SetHwndPropStr(WindowOf(*name.control), static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF,
+                                  PROPID_ACC_NAME, spoken.c_str());
+    }
 }
 
 HWND Win32Dialog::CreateView(const Control& control, int id) const {
@@ -859,6 +886,7 @@ void Win32Dialog::ArrangeSoon() {
 }
 
 void Win32Dialog::Arrange() {
+    bool hasMoved = m_contentSize.cx == 0; // in a new font all is drawn anew
     const HDC dc = GetDC(m_content);
     const HGDIOBJ before = SelectObject(dc, m_font);
     // Rows that come and go do not make the window smaller.
@@ -867,7 +895,14 @@ void Win32Dialog::Arrange() {
     ReleaseDC(m_content, dc);
     m_contentSize = arrangement.Size();
 
-    const auto put = [](HWND window, const RECT& place, LONG more) {
+    const auto put = [&](HWND window, const RECT& place, LONG more) {
+        RECT now{};
+        GetWindowRect(window, &now);
+        MapWindowPoints(nullptr, m_content, reinterpret_cast<POINT*>(&now), 2);
+        now.bottom = more == 0 ? now.bottom : place.bottom; // a list has the height that it wants
+        if (!hasMoved && EqualRect(&now, &place))
+            return;
+        hasMoved = true;
         SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left,
                      place.bottom - place.top + more, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
     };
@@ -878,6 +913,8 @@ void Win32Dialog::Arrange() {
             put(view.window, *place, isList ? 10 * (place->bottom - place->top) : 0);
         }
     put(m_adviceLine, arrangement.AdvicePlace(), 0);
+    if (!hasMoved)
+        return; // an advice that changes while somebody types makes nothing flicker
     for (const View& view : m_views)
         if (view.control->Kind() == ControlKind::TabStrip && view.control->IsShown())
             m_pageColour = PageColourOf(view.window);
@@ -1018,14 +1055,20 @@ void Win32Dialog::Fail() noexcept {
     OnHidden();
 }
 
-void Win32Dialog::OnDestroyed() {
+void Win32Dialog::Detach() {
     m_dialog.SetListener(nullptr);
     m_dialog.SetWindowHandle(0);
-    RemovePropW(m_window, dialogProperty);
-    RemovePropW(m_content, dialogProperty);
-    for (std::size_t i = 0; i < m_views.size(); ++i)
-        if (const HWND window = std::exchange(m_views[i].window, nullptr))
-            RemoveWindowSubclass(window, ControlProcedure, i);
+    for (const View& view : m_views)
+        if (view.system)
+            SetWindowLongPtrW(view.window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(view.system));
+    for (const HWND window : {m_window, m_content})
+        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+}
+
+void Win32Dialog::OnDestroyed() {
+    Detach();
+    for (View& view : m_views)
+        view.window = nullptr;
     m_chosen.clear();
     m_window = m_content = m_adviceLine = nullptr;
     OnHidden();
@@ -1041,6 +1084,8 @@ void Win32Dialog::OnControlChanged(const Control& control) {
         if (control.Kind() != ControlKind::TextBox || view.wasShown != wasShown)
             ArrangeSoon(); // the text of a box takes no other room
     }
+    if (control.Kind() == ControlKind::Label)
+        NameViews();
     ShowAdvice();
 }
 

@@ -39,19 +39,21 @@ public:
 private:
     struct View {
         Control* control = nullptr;
-        HWND window = nullptr; ///< null for a frame without a caption
-        bool wasShown = false; ///< what the window shows now
+        HWND window = nullptr;    ///< null for a frame without a caption
+        WNDPROC system = nullptr; ///< what handles its messages otherwise, where this dialog sees them first
+        bool wasShown = false;    ///< what the window shows now
         bool wasEnabled = true;
     };
 
     static LRESULT CALLBACK FrameProcedure(HWND window, UINT message, WPARAM w, LPARAM l);
     static LRESULT CALLBACK ContentProcedure(HWND window, UINT message, WPARAM w, LPARAM l);
-    static LRESULT CALLBACK ControlProcedure(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR id,
-                                             DWORD_PTR dialog);
+    static LRESULT CALLBACK ControlProcedure(HWND window, UINT message, WPARAM w, LPARAM l);
+    /// The dialog of a frame or of its content; null for any other window.
+    [[nodiscard]] static Win32Dialog* DialogOf(HWND window);
     LRESULT OnFrame(UINT message, WPARAM w, LPARAM l);
     LRESULT OnContent(UINT message, WPARAM w, LPARAM l);
-    LRESULT OnControl(Control& control, HWND window, UINT message, WPARAM w, LPARAM l);
-    LRESULT OnBox(TextBox& box, HWND window, UINT message, WPARAM w, LPARAM l);
+    LRESULT OnControl(const View& view, UINT message, WPARAM w, LPARAM l);
+    LRESULT OnBox(const View& view, TextBox& box, UINT message, WPARAM w, LPARAM l);
     void OnCommand(int id, int code);
     /// A key that is the dialog's, whichever control has the focus.
     [[nodiscard]] bool TakesKey(const MSG& message);
@@ -61,6 +63,8 @@ private:
     void TurnPage(bool backwards);
 
     void CreateViews();
+    /// Gives boxes and lists their names and units for screen readers, as those in a grid of points.
+    void NameViews() const;
     [[nodiscard]] HWND CreateView(const Control& control, int id) const;
     /// Makes the window of a control show what the control says.
     void Follow(View& view);
@@ -100,6 +104,8 @@ private:
     /// Reports what was chosen in lists that have closed.
     void ReportChoices() noexcept;
     [[nodiscard]] bool IsChosen(const DropDownList& list) const;
+    /// Lets go of the model, and of the messages of the windows.
+    void Detach();
     /// The window is destroyed from outside, as with its owner: the dialog ends.
     void OnDestroyed();
 

@@ -8,7 +8,10 @@
 #include <algorithm>
 #include <commctrl.h>
 #include <exception>
+#include <ole2.h>
 #include <stdexcept>
+
+#include <oleacc.h>
 
 using namespace QuorConversions;
 using Support::ClickAt;
@@ -497,6 +500,36 @@ TEST_F(Win32DialogTest, FollowsTheSelectionThatTheUserMakes) {
         PressKey('V', VK_CONTROL);
         EXPECT_EQ(dialog.name.Text(), L"100.023");
     });
+}
+
+// Screen readers
+
+TEST_F(Win32DialogTest, NamesABoxByItsLabelHeadingAndUnit) {
+    if (GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version"))
+        GTEST_SKIP() << "Wine keeps no names for screen readers";
+    ASSERT_TRUE(SUCCEEDED(CoInitialize(nullptr)));
+    const auto spoken = [](const Control& control) {
+        IAccessible* box = nullptr;
+        BSTR name = nullptr;
+        VARIANT self{};
+        self.vt = VT_I4;
+        self.lVal = CHILDID_SELF;
+        if (FAILED(AccessibleObjectFromWindow(WindowOf(control), static_cast<DWORD>(OBJID_CLIENT),
+                                              __uuidof(IAccessible), reinterpret_cast<void**>(&box))))
+            return std::wstring();
+        box->get_accName(self, &name);
+        box->Release();
+        std::wstring text = name ? name : L"";
+        SysFreeString(name);
+        return text;
+    };
+    Run([&] {
+        EXPECT_EQ(spoken(dialog.r0), L"R0, \u03A9");
+        EXPECT_EQ(spoken(*dialog.voltages[1]), L"Voltage 2, mV");
+        dialog.lblR0.SetCaption(L"&RTPW:");
+        EXPECT_EQ(spoken(dialog.r0), L"RTPW, \u03A9");
+    });
+    CoUninitialize();
 }
 
 // Advice

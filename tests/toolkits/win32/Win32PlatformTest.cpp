@@ -119,6 +119,23 @@ TEST_F(Win32PlatformTest, OpensThePageOfATopicBesideTheHelpFileOrInItsFolder) {
         EXPECT_TRUE(std::filesystem::equivalent(opened, page)) << testing::PrintToString(opened);
 }
 
+TEST_F(Win32PlatformTest, OpensTheTopicOfAMessageByF1AndGoesOnShowingIt) {
+    folder.Write("10145.html", "<p>Reading settings</p>");
+    InSystemDialog(VK_ESCAPE, [](HWND box) {
+        // The button calls the same, but not under Wine.
+        ASSERT_NE(GetDlgItem(box, IDHELP), nullptr);
+        Support::SendKey(VK_F1);
+        Support::SendKey(VK_F1);
+    });
+    platform.ShowMessage(
+        {L"The probe is missing", L"Quor Scientific", ICON_CRITICAL, folder.Path().wstring(), 10145});
+    EXPECT_EQ(shown, 1);
+    ASSERT_EQ(platform.pages.size(), 2U) << "the box is still there for the second key";
+    for (const std::wstring& opened : platform.pages)
+        EXPECT_TRUE(std::filesystem::equivalent(opened, folder.Path("10145.html")))
+            << testing::PrintToString(opened);
+}
+
 TEST_F(Win32PlatformTest, SaysThatATopicHasNoPage) {
     InSystemDialog(VK_RETURN, [](HWND box) {
         const std::wstring text = TextOf(GetDlgItem(box, 0xFFFF));

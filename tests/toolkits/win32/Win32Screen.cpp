@@ -384,7 +384,11 @@ void Win32InputDriver::MoveTo(std::int32_t left, std::int32_t top) {
     HandleInput();
 }
 
-void Win32InputDriver::Close() { Key(VK_F4, VK_MENU); }
+void Win32InputDriver::Close() {
+    PostMessageW(WindowOf(m_dialog), WM_SYSCOMMAND, SC_CLOSE, 0); // as the close box does
+    HandleInput();
+    Look();
+}
 
 void Win32Screen::Run(Dialog& dialog, DialogInput& input, const std::function<void(InputDriver&)>& act) {
     std::exception_ptr failure;
