@@ -1,6 +1,7 @@
 #pragma once
 
 #include "QuorProbeFile/ProbeText.h"
+#include "QuorProbeFile/RecordAsRead.h"
 #include "QuorProbeFile/RecordMerge.h"
 
 #include <string>
@@ -26,19 +27,28 @@ enum class Failure {
     SharedSection,    ///< details: a section that would go or move, the probe that it would follow, and
                       ///< another one, which has or keeps its settings in it too
 };
+/// A probe that another program has changed or removed.
+struct ChangedProbe {
+    std::wstring name;
+    QuorProbeFile::RecordAsRead record; ///< as the file holds it now; of no probe when it is gone
+    friend bool operator==(const ChangedProbe& a, const ChangedProbe& b) {
+        return a.name == b.name && a.record.HasSameValues(b.record);
+    }
+};
 struct DocumentError {
     Failure failure;
     std::wstring file;
     std::vector<std::wstring> details;
     std::vector<QuorProbeFile::RecordConflict> conflicts = {};
     std::vector<QuorProbeFile::ProbePhrase> phrases = {}; ///< the last of the details, for another language
+    std::vector<ChangedProbe> changed = {};               ///< the probes of ChangedByOthers
 };
 
 /// What another program has written about the very probes or keys that are to be saved, and what is to give
 /// way: the user has seen it, in the error of a save. Whatever else it has written meanwhile refuses the save
 /// anew. What was removed of a changed probe comes back.
 struct OthersChanges {
-    std::vector<std::wstring> probes;
+    std::vector<ChangedProbe> probes;
     std::vector<QuorProbeFile::RecordConflict> values;
 };
 

@@ -28,6 +28,23 @@ void WriteRecord(const std::shared_ptr<INIFile>& iniFile, const ListedProbe& pro
     }
 }
 
+DocumentError ChangedByOthers(const std::wstring& path, std::vector<ChangedProbe> changed,
+                              std::vector<RecordConflict> conflicts) {
+    DocumentError error{Failure::ChangedByOthers, path, {}, std::move(conflicts)};
+    for (const ChangedProbe& probe : changed)
+        error.details.push_back(probe.name);
+    error.changed = std::move(changed);
+    return error;
+}
+
+RecordAsRead RecordIn(ProbeFile& file, const std::wstring& section) {
+    try {
+        return file.Record(section);
+    } catch (const ProbeFileError&) { // it says no type that could be read
+        return {};
+    }
+}
+
 } // namespace
 
 DocumentSave::DocumentSave(ProbeFile& before, const std::vector<ListedProbe>& probes,
@@ -73,7 +90,7 @@ std::unordered_set<const ListedProbe*> DocumentSave::CheckForConflicts(ProbeFile
                                                                        const OthersChanges& replaced) const {
     RequireFreeNames(file);
     IniStore& store = *file.Store();
-    std::vector<std::wstring> changed;
+    std::vector<ChangedProbe> changed;
     std::vector<RecordConflict> conflicts;
     std::unordered_set<const ListedProbe*> gone;
     for (const ListedProbe& probe : m_probes) {
@@ -81,17 +98,17 @@ std::unordered_set<const ListedProbe*> DocumentSave::CheckForConflicts(ProbeFile
             continue;
         if (!store.HasSection(probe.Section())) {
             gone.insert(&probe);
-            changed.push_back(probe.name);
+            changed.push_back({probe.name, RecordIn(file, probe.Section())});
         } else if (probe.IsMerged()) {
             const auto found = MergeOf(probe, file, probe.Section())->Conflicts();
             conflicts.insert(conflicts.end(), found.begin(), found.end());
         } else if (probe.content.IsChanged() && !IsSameRecord(file, probe.Section())) {
-            changed.push_back(probe.name);
+            changed.push_back({probe.name, RecordIn(file, probe.Section())});
         } // what is only renamed keeps the values that stand there
     }
     for (const ListedProbe* const probe : m_removed) {
         if (store.HasSection(probe->Section()) && !IsSameRecord(file, probe->Section()))
-            changed.push_back(probe->name);
+            changed.push_back({probe->name, RecordIn(file, probe->Section())});
     }
     const auto isAgreed = [](const auto& agreed) {
         return [&agreed](const auto& found) {
@@ -100,7 +117,7 @@ std::unordered_set<const ListedProbe*> DocumentSave::CheckForConflicts(ProbeFile
     };
     if (!std::all_of(changed.begin(), changed.end(), isAgreed(replaced.probes)) ||
         !std::all_of(conflicts.begin(), conflicts.end(), isAgreed(replaced.values)))
-        throw DocumentError{Failure::ChangedByOthers, file.Path(), std::move(changed), std::move(conflicts)};
+        throw ChangedByOthers(file.Path(), std::move(changed), std::move(conflicts));
     for (std::size_t i = 0; i < m_probes.size(); ++i) {
         if (gone.contains(&m_probes[i]))
             m_requireWhole(i);
@@ -133,14 +150,7 @@ void DocumentSave::RequireFreeNames(ProbeFile& file) const {
 }
 
 bool DocumentSave::IsSameRecord(ProbeFile& file, const std::wstring& section) const {
-    const auto recordIn = [&section](ProbeFile& present) {
-        try {
-            return present.Record(section);
-        } catch (const ProbeFileError&) { // it says no type that could be read
-            return RecordAsRead();
-        }
-    };
-    return recordIn(m_before).HasSameValues(recordIn(file));
+    return RecordIn(m_before, section).HasSameValues(RecordIn(file, section));
 }
 
 void DocumentSave::MoveSections(IniStore& store) const {

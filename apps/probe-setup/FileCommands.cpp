@@ -226,7 +226,7 @@ bool FileCommands::SaveBy(const QString& what, const std::function<void(const Ot
                 box.button(QMessageBox::Save)->setText(tr("&Replace"));
                 box.setDefaultButton(QMessageBox::Cancel);
                 isRefused = box.exec() != QMessageBox::Save;
-                replaced = {error.details, error.conflicts};
+                replaced = {error.changed, error.conflicts};
             }
         }
     });

@@ -65,7 +65,7 @@ protected:
     /// Saves as the user does who has seen what another program has written, and agrees to replace it.
     void SaveOverOthers() {
         const DocumentError shown = ErrorOf([&] { document.Save(); });
-        document.Save({shown.details, shown.conflicts});
+        document.Save({shown.changed, shown.conflicts});
     }
     template <class Action>
     DocumentError ErrorOf(const Action& action) const {
@@ -906,11 +906,11 @@ TEST_F(ProbeDocumentTest, WhatComesWhileTheUserIsAskedIsToldAnew) {
     const DocumentError shown = ErrorOf([&] { document.Save(); });
     const std::string newer = Replaced(host, "=100.0\n", "=99.25\n");
     folder.Write("host.ini", newer);
-    const DocumentError error = ErrorOf([&] { document.Save({shown.details, shown.conflicts}); });
+    const DocumentError error = ErrorOf([&] { document.Save({shown.changed, shown.conflicts}); });
     EXPECT_EQ(error.failure, Failure::ChangedByOthers);
     EXPECT_EQ(Lines(error.conflicts), Texts{L"[Probe 1 - Settings] Coefficients0: 100, 99.25, 100.0123"});
     EXPECT_EQ(File(), newer);
-    document.Save({error.details, error.conflicts});
+    document.Save({error.changed, error.conflicts});
     EXPECT_EQ(File(), Replaced(host, "=100.0\n", "=100.0123\n"));
 }
 
@@ -1028,10 +1028,16 @@ TEST_F(ProbeDocumentTest, NewerValuesOfAProbeThatGoesAreNotRemovedUnasked) {
     EXPECT_EQ(error.failure, Failure::ChangedByOthers);
     EXPECT_EQ(error.details, Texts{L"Probe 1"});
     EXPECT_EQ(File(), theirs);
+
+    const std::string newer = Replaced(host, "=1.5\n", "=1.9\n"); // while the user is asked
+    folder.Write("host.ini", newer);
+    EXPECT_EQ(ErrorOf([&] { document.Save({error.changed, error.conflicts}); }).details, Texts{L"Probe 1"});
+    EXPECT_EQ(File(), newer);
+
     document.Undo();
     document.Rename(0, L"Probe A");
     document.Save();
-    EXPECT_NE(File().find("Coefficients2=1.75"), std::string::npos) << "a new name leaves their values alone";
+    EXPECT_NE(File().find("Coefficients2=1.9"), std::string::npos) << "a new name leaves their values alone";
 }
 
 TEST_F(ProbeDocumentTest, ARenamedProbeThatAnotherProgramHasRemovedDoesNotVanishUnasked) {
