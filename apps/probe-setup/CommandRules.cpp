@@ -15,6 +15,8 @@ QString CommandRules::ReasonAgainst(const Needs& needs, const State& state) {
         return tr("No probe is selected");
     if (needs.one && state.selected > 1)
         return tr("This can be done with one probe only");
+    if (needs.settings && !state.haveSettings)
+        return tr("Conversions of this kind have no settings");
     if (needs.changes && !state.hasChanges)
         return tr("There are no changes to save");
     if (needs.undo && !state.canUndo)

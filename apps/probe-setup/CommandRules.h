@@ -19,6 +19,7 @@ public:
     struct Needs {
         bool probe = false;    ///< at least one is selected
         bool one = false;      ///< no more than one is selected
+        bool settings = false; ///< one of those that are selected may have settings
         bool writable = false; ///< the file may be written
         bool changes = false;  ///< there is something to save
         bool undo = false;     ///< there is a step to take back
@@ -27,6 +28,7 @@ public:
     /// What there is.
     struct State {
         std::size_t selected = 0;
+        bool haveSettings = false; ///< one of those that are selected
         bool isWritable = true;
         bool hasChanges = false;
         bool canUndo = false;

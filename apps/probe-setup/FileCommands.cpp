@@ -17,8 +17,6 @@
 #include <QStatusBar>
 #include <QTreeView>
 
-#include <algorithm>
-#include <iterator>
 #include <optional>
 #include <set>
 #include <string>
@@ -200,11 +198,12 @@ bool FileCommands::SaveTo(const QString& title,
     if (path.isEmpty())
         return false;
     const auto current = m_list.Current();
+    const std::wstring name = current ? m_document.Name(*current) : std::wstring();
     if (!SaveBy(tr("%1 cannot be saved.").arg(path),
                 [&](const OthersChanges& replaced) { save(FromQt(path), replaced); }))
         return false;
     m_recent.Add(QFileInfo(path).absoluteFilePath());
-    m_list.Show(current);
+    m_list.Show(m_document.Find(name)); // as after Save
     ShowStatus(tr("%1 is saved.").arg(path));
     return true;
 }
@@ -268,31 +267,43 @@ bool FileCommands::ImportPaths(const QStringList& paths) {
 }
 
 void FileCommands::Export(const std::vector<std::size_t>& probes) {
-    std::vector<std::size_t> exported;
-    std::copy_if(probes.begin(), probes.end(), std::back_inserter(exported),
-                 [this](std::size_t probe) { return m_document.HasSettings(probe); });
     if (probes.empty())
         return;
+    std::vector<std::size_t> exported;
+    std::vector<std::wstring> without;
+    for (const std::size_t probe : probes) {
+        if (m_document.HasSettings(probe))
+            exported.push_back(probe);
+        else
+            without.push_back(m_document.Name(probe));
+    }
+    const QString leftOut =
+        without.empty()
+            ? QString()
+            : QLatin1Char(' ') +
+                  tr("Without settings, and left out: %1")
+                      .arg(Wording::Lines(without).replace(QLatin1Char('\n'), QStringLiteral(", ")));
     if (exported.empty())
         ShowStatus(tr("The selected probes have no settings to export."));
     else if (exported.size() == 1)
-        ExportOne(exported.front());
+        ExportOne(exported.front(), leftOut);
     else if (const QString folder = QFileDialog::getExistingDirectory(
                  &m_window, tr("Export probes into a folder"), QFileInfo(ToQt(m_document.Path())).path());
              !folder.isEmpty())
-        ExportInto(folder, exported);
+        ExportInto(folder, exported, leftOut);
 }
 
-void FileCommands::ExportOne(std::size_t probe) {
+void FileCommands::ExportOne(std::size_t probe, const QString& leftOut) {
     const QString name = ToQt(m_document.Name(probe));
     std::optional<std::wstring> path;
     if (RunOrTell(&m_window, tr("\"%1\" cannot be exported.").arg(name),
                   [&] { path = m_document.Export(probe, m_platform.HandleOf(m_window)); }) &&
         path)
-        ShowStatus(tr("\"%1\" is written into %2.").arg(name, ToQt(*path)));
+        ShowStatus(tr("\"%1\" is written into %2.").arg(name, ToQt(*path)) + leftOut);
 }
 
-void FileCommands::ExportInto(const QString& folder, const std::vector<std::size_t>& probes) {
+void FileCommands::ExportInto(const QString& folder, const std::vector<std::size_t>& probes,
+                              const QString& leftOut) {
     std::vector<std::wstring> there;
     std::set<QString> paths; // names that differ by a slash only are one file
     for (const std::size_t probe : probes) {
@@ -316,7 +327,7 @@ void FileCommands::ExportInto(const QString& folder, const std::vector<std::size
             break;
         ++written;
     }
-    ShowStatus(tr("%1 probes are written into %2.").arg(QString::number(written), folder));
+    ShowStatus(tr("%1 probes are written into %2.").arg(QString::number(written), folder) + leftOut);
 }
 
 } // namespace ProbeSetup

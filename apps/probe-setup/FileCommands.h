@@ -69,8 +69,9 @@ private:
     /// Asks for a file and saves there.
     bool SaveTo(const QString& title,
                 const std::function<void(const std::wstring&, const OthersChanges&)>& save);
-    void ExportOne(std::size_t probe);
-    void ExportInto(const QString& folder, const std::vector<std::size_t>& probes);
+    /// `leftOut` tells behind the result of what is selected too, and not exported.
+    void ExportOne(std::size_t probe, const QString& leftOut);
+    void ExportInto(const QString& folder, const std::vector<std::size_t>& probes, const QString& leftOut);
     [[nodiscard]] QString AskForHostFile(const QString& title, bool toSave);
     void ShowStatus(const QString& text);
 

@@ -3,6 +3,7 @@
 #include "QuorConversions/core/CQuorConversion.h"
 #include "QuorConversions/qt/QtPlatform.h"
 #include "QuorConversions/qt/QtText.h"
+#include "QuorProbeFile/ProbeTypes.h"
 #include "apps/probe-setup/FindingPane.h"
 #include "apps/probe-setup/MessageBox.h"
 #include "apps/probe-setup/ProbeList.h"
@@ -174,7 +175,7 @@ void MainWindow::MakeFileMenu() {
     m_rules.Add(*AddAction(file, "export", tr("&Export probes\u2026"), QKeySequence(Qt::CTRL | Qt::Key_E),
                            tr("Write each selected probe into a settings file of its own"),
                            [this] { m_probes.Export(); }),
-                {.probe = true});
+                {.probe = true, .settings = true});
     file.addSeparator();
     m_rules.Add(*AddAction(file, "print", tr("&Print\u2026"), QKeySequence::Print,
                            tr("Print the selected probes, with all their values"),
@@ -244,7 +245,7 @@ void MainWindow::MakeProbeMenu() {
     AddAction(probe, "check", tr("&Check"), QKeySequence(Qt::Key_F7),
               tr("List everything that is wrong with the probes of the file"), [this] { Check(); });
     m_rules.Add(*add, {.writable = true});
-    m_rules.Add(*edit, {.probe = true, .one = true});
+    m_rules.Add(*edit, {.probe = true, .one = true, .settings = true});
     m_rules.Add(*rename, {.probe = true, .one = true, .writable = true});
     for (QAction* const action : {changeType, duplicate, remove})
         m_rules.Add(*action, {.probe = true, .writable = true});
@@ -377,7 +378,11 @@ void MainWindow::ShowState() {
 
     const auto undo = m_document->UndoKind();
     const auto redo = m_document->RedoKind();
+    const bool haveSettings = std::ranges::any_of(selected, [this](std::size_t probe) {
+        return QuorProbeFile::MayHaveSettings(m_document->Type(probe));
+    });
     m_rules.Apply({.selected = selected.size(),
+                   .haveSettings = haveSettings,
                    .isWritable = writable,
                    .hasChanges = changed || m_document->Path().empty(),
                    .canUndo = undo.has_value(),

@@ -58,6 +58,10 @@
         <source>There is no change to make again</source>
         <translation>Es gibt keine Änderung zu wiederholen</translation>
     </message>
+    <message>
+        <source>Conversions of this kind have no settings</source>
+        <translation>Umrechnungen dieser Art haben keine Einstellungen</translation>
+    </message>
 </context>
 <context>
     <name>FileCommands</name>
@@ -172,6 +176,10 @@
     <message>
         <source>%1 is not loaded: you have cancelled it.</source>
         <translation>%1 ist nicht geladen: Sie haben abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Without settings, and left out: %1</source>
+        <translation>Ohne Einstellungen und daher ausgelassen: %1</translation>
     </message>
 </context>
 <context>

@@ -106,6 +106,7 @@ TEST_F(ManyProbesWindow, EveryCommandCanBeUsedOrItsToolTipSaysWhyNot) {
     EXPECT_EQ(disabled(), (std::map<QString, QString>{{"redo", "There is no change to make again"}}));
     EXPECT_EQ(Action("save").toolTip(), "Write the changes into the file");
     Press(Qt::Key_Z, Qt::ControlModifier);
+    GoTo(0);
     EXPECT_EQ(disabled(), (std::map<QString, QString>{{"save", "There are no changes to save"},
                                                       {"undo", "There is no change to take back"}}));
     std::filesystem::permissions(folder.Path("host.ini"), std::filesystem::perms::owner_read);
@@ -277,6 +278,33 @@ TEST_F(ManyProbesWindow, SeveralProbesAreExportedIntoAFolder) {
     EXPECT_TRUE(std::filesystem::exists(folder.Path("Probe 1 (2).cvd")));
     EXPECT_TRUE(window->statusBar()->currentMessage().startsWith("2 probes are written into "))
         << window->statusBar()->currentMessage().toStdString();
+    EXPECT_TRUE(window->statusBar()->currentMessage().endsWith(". Without settings, and left out: Probe 2"))
+        << window->statusBar()->currentMessage().toStdString();
+}
+
+TEST_F(ManyProbesWindow, WhatNeedsSettingsIsDisabledWithTheReasonForProbesWithoutAny) {
+    GoTo(1);
+    for (const char* const name : {"edit", "export"}) {
+        EXPECT_FALSE(Action(name).isEnabled()) << name;
+        EXPECT_EQ(Action(name).toolTip(), "Conversions of this kind have no settings");
+    }
+    Open("[P]\nConversionType=99\n[Q]\n");
+    GoTo(0);
+    EXPECT_TRUE(Action("edit").isEnabled()) << "it tells why a type that is not known has no dialog";
+}
+
+TEST_F(ManyProbesWindow, SaveAsOntoTheOwnFileKeepsTheProbeThatIsSelected) {
+    window->Document().Rename(1, L"Second");
+    GoTo(1);
+    folder.Write("host.ini", "[A]\nConversionType=10\n" + host);
+    WhenShown<QFileDialog>([this](QFileDialog& dialog) {
+        dialog.findChild<QLineEdit*>("fileNameEdit")->setText(Path("host.ini"));
+        WillAnswer(QMessageBox::Yes); // it is there already
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    Action("saveAs").trigger();
+    EXPECT_EQ(Names(), (QStringList{"A", "Probe 1", "Second"}));
+    EXPECT_EQ(Table().currentIndex().data().toString(), "Second");
 }
 
 TEST_F(ManyProbesWindow, ProbesGoThroughTheClipboardAsText) {
