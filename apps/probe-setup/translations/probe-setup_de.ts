@@ -60,7 +60,7 @@
     </message>
     <message>
         <source>Conversions of this kind have no settings</source>
-        <translation>Umrechnungen dieser Art haben keine Einstellungen</translation>
+        <translation>Konversionen dieser Art haben keine Einstellungen</translation>
     </message>
 </context>
 <context>
