@@ -551,7 +551,7 @@ class Merge final : public Command {
     /// What shows that a changed type of theirs is a mistake: to take it over would remove the settings that
     /// the probe has here. Empty for one that is right.
     [[nodiscard]] std::wstring DamageOf(const ProbeTable& theirs, const ProbeValues& their,
-                                        const std::optional<ProbeValues>& before) const {
+                                        const ProbeValues* before) const {
         if (!FindType(their.code))
             return std::to_wstring(their.code) + L" in " + m_theirs + L" is the code of no conversion type";
         const std::wstring settings = SettingsSection(their.section);

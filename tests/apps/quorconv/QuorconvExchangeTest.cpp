@@ -264,7 +264,7 @@ TEST_F(QuorconvExchangeTest, GivesManyProbesValuesAsItGivesThemToEachAlone) {
         "a point\n"
         "  steps:4: host.ini: [Bath] Coefficients9: there is no such key in a record of this type; "
         "did you mean \"Coefficients0\"?\n"
-        "  steps:5: host.ini: [Bath] values of the probe would get another meaning; give them anew, "
+        "  steps:5: host.ini: [Bath] values of the probe would change their meaning; enter them again, "
         "or use --drop to allow it\n"
         "    Coefficients1=0.00385055, by UsePolynomial=True\n");
 }
