@@ -71,7 +71,8 @@ struct CsvProbe {
 
 /// Reads a table and calls `use` with each of its lines. Columns may stand in any order, and without the
 /// brackets; what stands in brackets must be the name and the unit of the key. `type` is that of a table
-/// without the column, or empty; what the column says must be the same type. What is wrong goes into `batch`, with line and column.
+/// without the column, or empty; what the column says must be the same type. What is wrong goes into `batch`,
+/// with line and column.
 void ReadProbeTable(std::string_view text, const std::wstring& place, const CsvStyle& style,
                     const std::wstring& type, Batch& batch, const std::function<void(CsvProbe&&)>& use);
 
