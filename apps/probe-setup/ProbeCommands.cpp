@@ -63,7 +63,7 @@ void ProbeCommands::Add() {
 }
 
 std::vector<std::size_t> ProbeCommands::FreshSelection() {
-    const std::vector<std::size_t> probes = m_list.Selected();
+    std::vector<std::size_t> probes = m_list.Selected();
     if (probes.empty() || !m_document.ChangedByOthers())
         return probes;
     if (m_document.Changed()) {
