@@ -592,6 +592,8 @@ void ProbeFile::WriteNew(std::wstring_view section, EQuorConversionType type,
     Edit([&, section = std::wstring(section)] {
         if (HasSection(section))
             throw Error(PROBE_NAME_IS_TAKEN, section);
+        if (!FindType(type))
+            throw Error(PROBE_UNKNOWN_TYPE, section, TypeName(type));
         WriteOne(section, type, [&](bool standAlone) {
             const std::wstring settings = standAlone ? section : SettingsSection(section);
             if (!standAlone) {

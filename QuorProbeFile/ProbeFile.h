@@ -151,8 +151,8 @@ public:
 
     /// Writes a new probe of the type `type` whose settings write `values`, in that order, and makes no
     /// conversion: for hosts that write thousands of probes which differ in numbers alone, and know that a
-    /// conversion gives them back. Raises PROBE_NAME_IS_TAKEN for a section that exists, and what Write
-    /// raises for one that does not.
+    /// conversion gives them back. Raises PROBE_NAME_IS_TAKEN for a section that exists, PROBE_UNKNOWN_TYPE,
+    /// and what Write raises for a section that does not exist.
     void WriteNew(std::wstring_view section, QuorConversions::EQuorConversionType type,
                   const std::vector<RecordImage::Entry>& values);
 

@@ -421,17 +421,12 @@ bool IsTakenAlone(const Value& value, const Value& before, const ValueRules& rul
     return (std::isfinite(*number) || rules.allowsNan) && !(*number == 0.0 && std::signbit(*number));
 }
 
-/// Keeps what it has learned of records, and nothing of a file.
-ProbeReader& KnownRecords() {
-    static ProbeReader reader;
-    return reader;
-}
-
 /// Gives a record all of its values: numbers, and what it has already. False when these are not all, or when
 /// one of them needs a closer look.
 bool GiveAll(ProbeValues& probe, const std::vector<Assignment>& assignments, const ValueRules& rules) {
-    if (probe.entries.size() != assignments.size()) // whose keys differ
+    if (probe.entries.size() != assignments.size())
         return false;
+    std::vector<bool> given(assignments.size());
     for (std::size_t at = 0; at < assignments.size(); ++at) {
         const auto isMeant = [&](const RecordImage::Entry& entry) {
             return EqualFolded(entry.path, assignments[at].key);
@@ -443,6 +438,10 @@ bool GiveAll(ProbeValues& probe, const std::vector<Assignment>& assignments, con
             entry == probe.entries.end() ? std::nullopt : ParseAs(entry->value, assignments[at].value);
         if (!value || !IsTakenAlone(*value, entry->value, rules))
             return false;
+        const auto place = static_cast<std::size_t>(entry - probe.entries.begin());
+        if (given[place]) // and another one is not
+            return false;
+        given[place] = true;
         entry->value = *std::move(value);
     }
     return true;
@@ -452,7 +451,8 @@ bool GiveAll(ProbeValues& probe, const std::vector<Assignment>& assignments, con
 /// written, because there is more to look at.
 bool AssignNumbers(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& assignments,
                    const ValueRules& rules) {
-    const ProbeValues* const probe = KnownRecords().Find(file, section);
+    static ProbeReader reader; // which keeps what it has learned of records, and nothing of a file
+    const ProbeValues* const probe = reader.Find(file, section);
     if (!probe || probe->shape == 0)
         return false;
     Entries changed;
@@ -542,14 +542,15 @@ void AssignInFile(ProbeFile& file, const std::wstring& section, const std::vecto
 
 void WriteNewProbe(ProbeFile& file, const std::wstring& section, EQuorConversionType type,
                    const std::vector<Assignment>& assignments, const ValueRules& rules) {
+    static ProbeReader writtenOnes; // which a conversion has accepted: a file may hold what it refuses
     if (const ProbeValues* const probe =
-            KnownRecords().Make(type, [&](ProbeValues& one) { return GiveAll(one, assignments, rules); }))
+            writtenOnes.Make(type, [&](ProbeValues& one) { return GiveAll(one, assignments, rules); }))
         return file.WriteNew(section, type, probe->entries);
     Probe probe(section);
     probe.Conversion().SetConversionType(type);
     Assign(probe, file.Path(), assignments, rules, Assigned::All);
     file.Write(section, probe.Conversion());
-    static_cast<void>(KnownRecords().Find(file, section)); // the next one may be like it
+    static_cast<void>(writtenOnes.Find(file, section)); // the next one may be like it
 }
 
 void WriteEdited(Probe& probe, ProbeFile& file) {

@@ -270,7 +270,7 @@ class Merge final : public Command {
 
     /// A probe of the base that theirs lack.
     void MergeRemoved(const Tables& tables, const std::wstring& section, Plan& plan) const {
-        const auto our = tables.ours.Find(section);
+        const auto* const our = tables.ours.Find(section);
         if (!our)
             return;
         const ProbeValues base = tables.base.Read(section);
@@ -306,7 +306,7 @@ class Merge final : public Command {
             const OtherLines lines(table, {sections.begin(), sections.end()});
             std::unordered_map<std::wstring, std::vector<std::wstring>> found;
             for (const std::wstring& section : sections) {
-                const ProbeValues probe = table.Read(section);
+                const ProbeValues& probe = table.Read(section);
                 std::wstring text = std::to_wstring(probe.code);
                 for (const RecordImage::Entry& entry : probe.entries)
                     text += L"\n" + entry.path + L"=" + ToText(entry.value);
@@ -517,8 +517,8 @@ class Merge final : public Command {
     /// Decides what becomes of a probe of theirs.
     void MergeProbe(const Tables& tables, const std::wstring& section, Plan& plan) const {
         const std::wstring name = NameHere(plan, section);
-        const auto base = tables.base.Find(name);
-        const auto our = tables.ours.Find(name);
+        const auto* const base = tables.base.Find(name);
+        const auto* const our = tables.ours.Find(name);
         const ProbeValues their = tables.theirs.Read(section);
         const std::wstring place = L"[" + name + L"]";
         if ((our && SameValues(*our, their)) || (base && SameValues(*base, their)))

@@ -5,6 +5,7 @@
 #include "apps/quorconv/HostFile.h"
 #include "apps/quorconv/ProbeCsv.h"
 #include "apps/quorconv/ProbeJson.h"
+#include "apps/quorconv/ProbeReader.h"
 #include "apps/quorconv/Progress.h"
 #include "apps/quorconv/Selection.h"
 #include "apps/quorconv/Steps.h"
@@ -63,18 +64,16 @@ void PutProbe(ProbeFile& file, const Entry& entry, const ValueRules& rules) {
     WriteNewProbe(file, entry.section, type.code, entry.values, rules);
 }
 
-/// How many values a probe has kept because their fields are empty: it may lack keys that others have.
-std::size_t CountKept(ProbeFile& file, const Entry& entry) {
+/// How many values a probe has kept because their fields are empty: it may lack values that others have.
+std::size_t CountKept(ProbeReader& reader, ProbeFile& file, const Entry& entry) {
     if (entry.empty.empty())
         return 0;
-    QuorIniFile::IniStore& store = *file.Store();
-    std::wstring text;
-    store.SetSection(entry.section);
-    const bool isOfHost = store.ReadString(QuorConversions::conversionTypeKey, text);
-    const std::wstring settings = isOfHost ? SettingsSection(entry.section) : entry.section;
+    const ProbeValues& probe = reader.Read(file, entry.section);
     return static_cast<std::size_t>(
         std::count_if(entry.empty.begin(), entry.empty.end(), [&](const std::wstring& path) {
-            return store.ReadString(SelectKey(store, settings, path), text);
+            return std::any_of(
+                probe.entries.begin(), probe.entries.end(),
+                [&](const RecordImage::Entry& value) { return EqualFolded(value.path, path); });
         }));
 }
 
@@ -124,6 +123,7 @@ class Put final : public Command {
             Batch batch(m_path, from);
             const Duplicates duplicates(*file);
             Progress progress(L"probes", 0);
+            ProbeReader reader;
             std::unordered_set<std::wstring> sections;
             count = kept = 0;
             const auto put = [&](const Entry& entry) {
@@ -133,7 +133,7 @@ class Put final : public Command {
                     RequireNew(sections, entry.section);
                     duplicates.Require(entry.section);
                     PutProbe(*file, entry, m_rules);
-                    kept += CountKept(*file, entry);
+                    kept += CountKept(reader, *file, entry);
                 });
             };
             if (m_isJson)

@@ -170,6 +170,13 @@ TEST_F(QuorconvExchangeTest, KeepsTheOtherValuesOfAProbeThatIsThere) {
         R"({"section": "bath", "type": "CONV_CVD", "settings": {"Coefficients": [{"value": 99.5}]}})");
     ExpectShell("quorconv put host.ini in.json --json", "", "quorconv: 1 probe put\n");
     EXPECT_EQ(folder.Read("host.ini"), Replaced(before, "100.0123", "99.5"));
+    // Not what stands in the file beyond the count.
+    const std::string twoPoints = "[Table]\nConversionType=8\n\n[Table - Settings]\nNumPoints=1\n"
+                                  "Temperatures0=0\nVoltages0=0\nTemperatures1=7\nVoltages1=8\n";
+    folder.Write("host.ini", twoPoints);
+    folder.Write("in.csv", "section,NumPoints,Temperatures0,Temperatures1,Voltages1\nTable,1,5,,\n");
+    ExpectShell("quorconv put host.ini in.csv --csv --type tct", "", "quorconv: 1 probe put\n");
+    EXPECT_EQ(folder.Read("host.ini"), Replaced(twoPoints, "Temperatures0=0", "Temperatures0=5"));
 }
 
 TEST_F(QuorconvExchangeTest, ExportsATableWithNamesAndUnits) {
@@ -305,6 +312,29 @@ TEST_F(QuorconvExchangeTest, WritesManyNewProbesAsItWritesEachAlone) {
                   "  in.csv:5: new.ini: [a]b]: no section can have this name: a \"]\" ends the name in the "
                   "file\n"
                   "  in.csv:6: new.ini: [First - Settings]: the section is not the record of a probe\n");
+}
+
+TEST_F(QuorconvExchangeTest, ACodeThatAnotherProbeOfTheFileHasIsRefusedForANewProbeAllTheSame) {
+    folder.Write("host.ini", "[A]\nConversionType=1\n\n[A - Settings]\nIPTS-68 scale=5\nNumCoefficients=1\n"
+                             "Coefficients0=25\n");
+    folder.Write("in.csv", "section,IPTS-68 scale,NumCoefficients,Coefficients0\n"
+                           "A,5,1,25.5\n"
+                           "B,5,1,25.6\n");
+    ExpectRefused({"put", "host.ini", "in.csv", "--csv", "--type", "i68"},
+                  "quorconv: host.ini: nothing was written, because a line of in.csv is wrong\n"
+                  "  in.csv:3: host.ini: [B] IPTS-68 scale: 5 is not accepted; range: 0 or 1\n");
+}
+
+TEST_F(QuorconvExchangeTest, AKeyThatIsGivenTwiceDoesNotStandForOneThatIsMissing) {
+    std::filesystem::copy_file(QUOR_SAMPLES "/laboratory.ini", folder.Path("laboratory.ini"));
+    ExpectShell("quorconv export laboratory.ini --jsonl --type i90 2>.told | head -n 1 >whole\n"
+                "sed 's/Probe 1/Another/' whole >another\n"
+                "sed 's/Probe 1/Third/; s/\"RTPW\": [0-9.]*, //; s/\"High Range\": /\"High Range\\/Range\": "
+                "{\"code\": 11, "
+                "\"name\": \"273 K to 302 K\"}, &/' whole >third\n"
+                "cat whole another third | quorconv put new.ini --json >told 2>&1\n"
+                "echo $?; grep -o 'RTPW: the value is missing' told",
+                "1\nRTPW: the value is missing\n", "");
 }
 
 TEST_F(QuorconvExchangeTest, TellsHowManyValuesAnEmptyFieldHasKept) {
