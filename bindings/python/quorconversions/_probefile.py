@@ -9,8 +9,8 @@ from contextlib import suppress
 from dataclasses import dataclass
 from functools import partial
 from types import TracebackType
-from typing import (Any, Callable, Dict, Iterable, Iterator, List, MutableMapping, NoReturn, Optional, Tuple, Type, TypeVar,
-                    Union)
+from typing import (Any, Callable, Dict, Iterable, Iterator, List, MutableMapping, NoReturn, Optional, Set, Tuple, Type,
+                    TypeVar, Union)
 
 from . import _low
 from ._host import PathText, Platform
@@ -206,7 +206,8 @@ class ProbeFile(MutableMapping[str, Conversion]):
     and none if an exception leaves the block. Of a probe that was read, only the values that differ are written, so that
     values which another program has written in the meantime are kept; if both have changed the same value, ConflictError
     is raised. So it is if a probe was assigned, given another type or removed, and another program has changed it in the
-    meantime, or has added one in its place. No other line of the file changes.
+    meantime, or has added one in its place: compared with what this mapping has read last from the section, has saved there
+    itself or, if it has done neither, has loaded. No other line of the file changes.
 
     A probe is read when it is first accessed. An incomplete one raises IncompleteProbeError, which has its values; `read`
     returns them without raising. `platform` is passed to the conversions.
@@ -228,6 +229,8 @@ class ProbeFile(MutableMapping[str, Conversion]):
         self._file = _low.ProbeFile(self._path, create)
         self._probes: Dict[str, _Probe] = {}  # by folded sections
         self._is_read_again = True  # since the last call that writes, which loads the current file even if it fails
+        self._reads = 0  # the number of the last read
+        self._missing: Set[str] = set()  # folded sections that the host has removed, or had, and the file has no longer
         self._detached: Dict[int, _Detached] = {}  # no longer of the file, by the handles of the conversions
 
     @property
@@ -294,8 +297,14 @@ class ProbeFile(MutableMapping[str, Conversion]):
                     limited, limits = getattr(conversion.settings, part), getattr(like.settings, part)
                     limited.MinRange, limited.MaxRange = limits.MinRange, limits.MaxRange
         self._call(lambda: self._file.Read(section, conversion))
-        conversion._read_from = self._file._handle, _folded(section)
-        return conversion, _problems(self._file)
+        problems = _problems(self._file)
+        self._mark_read(section, conversion)
+        return conversion, problems
+
+    def _mark_read(self, section: str, conversion: Conversion) -> None:
+        self._reads += 1
+        conversion._read_from = self._file._handle, _folded(section), self._reads
+        self._missing.discard(_folded(section))
 
     def read(self, section: str) -> Tuple[Conversion, Tuple[Problem, ...]]:
         """The probe as the file has it, with default values where something is missing, and its problems. The conversion
@@ -340,17 +349,23 @@ class ProbeFile(MutableMapping[str, Conversion]):
 
     def duplicate(self, section: str, name: str) -> None:
         """Copies the probe, as the file has it, to another section, and saves at once. If that is a probe which was
-        accessed, its conversion gets the new values. ValueError if there are unsaved changes."""
+        accessed, its conversion gets the new values. ValueError if there are unsaved changes; ConflictError, and nothing is
+        written, if another program has added or changed a probe there."""
         if any(True for _ in self._steps()):
             raise ValueError("there are unsaved changes")
         if _section(name) not in self:
             _require_name(name)
-        if self._file.Changed:
+        there = self._probes.get(_folded(name))
+        known = Conversion() if there is None else self._last_read(_folded(name), there)
+        copy = partial(self._file.Copy, _section(section), name)
+        try:
+            self._take([partial(self._file.RequireUnchanged, name, known), copy])
+        except ConflictError:
+            if self._is_in_file(name):
+                raise
+            self._let_go(name)  # another program has removed the probe that had it, so that nothing is overwritten
             self._call(self._file.Reload)
-        if not self._is_in_file(name):
-            self._let_go(name)  # another program has removed the probe that had it
-        self._is_read_again = False
-        self._call(lambda: self._file.Copy(_section(section), name))
+            self._take([partial(self._file.RequireUnchanged, name, Conversion()), copy])
         self._reread()
 
     def __delitem__(self, section: str) -> None:
@@ -431,6 +446,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
         left = [one for probe in self._probes.values() for one in probe.after(is_saved)][::-1]
         incomplete: List[ProbeFileError] = []
         try:
+            self._missing = {folded for folded in self._missing.union(self._probes) if not self._is_in_file(folded)}
             self._probes.clear()
             self._is_read_again = True
             while left:
@@ -456,6 +472,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
             raise incomplete[0]
 
     def _remember(self, section: str, conversion: Conversion) -> None:
+        self._mark_read(section, conversion)
         self._probes[_folded(section)] = _Probe(section, conversion, conversion.ConversionType)
         conversion._file = weakref.ref(self)
 
@@ -473,10 +490,17 @@ class ProbeFile(MutableMapping[str, Conversion]):
                 self._detach(section, conversion)
 
     def _last_read(self, folded: str, probe: _Probe) -> Conversion:
-        """That into which the section was read last; a new one if it was not, which stands for the file as it was loaded."""
-        if getattr(probe.conversion, "_read_from", None) != (self._file._handle, folded) and probe.replaces is not None:
-            probe = probe.replaces
-        return probe.conversion or Conversion()
+        """That into which the section was read last; a new one if it was not, or if the host knows that it is missing, which
+        stands for the file as it was loaded."""
+        if folded in self._missing and not self._is_in_file(folded):
+            return Conversion()
+        newest, of_read = Conversion(), 0
+        for one in (probe, probe.replaces):
+            if one is not None and one.conversion is not None:
+                file, section, read = getattr(one.conversion, "_read_from", (0, "", 0))
+                if (file, section) == (self._file._handle, folded) and read > of_read:
+                    newest, of_read = one.conversion, read
+        return newest
 
     def _steps(self) -> Iterator[Callable[[], object]]:
         steps: List[Callable[[], object]] = []
@@ -520,6 +544,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
         self._is_read_again = False
         self._call(lambda: self._file.Rename(_section(section), name))
         known = self._probes.pop(_folded(section), None)
+        self._missing.add(_folded(section))
         self._let_go(name)  # another program has removed the probe that had it
         if known is not None and known.conversion is not None:
             self._probes[_folded(name)] = _Probe(name, known.conversion, known.type_read)

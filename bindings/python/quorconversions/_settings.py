@@ -469,7 +469,7 @@ class Conversion(_low.CQuorConversion):
 
     __slots__ = ("_file", "_read_from")
     _file: Any  # a weak reference to the ProbeFile of which it is a probe
-    _read_from: Tuple[int, str]  # the file and the folded section from which it was read last
+    _read_from: Tuple[int, str, int]  # the file and the folded section from which it was read last, and when, as a number
 
     def __init__(self, type: int = ConversionType.NONE, platform: Union[Platform, None] = None) -> None:  # noqa: A002
         super().__init__(platform)

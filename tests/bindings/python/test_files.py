@@ -717,6 +717,109 @@ def test_after_a_conflict_only_what_was_read_then_replaces_what_another_program_
     assert (cvd.R0, cvd.B) == (101, 0.5)
 
 
+def removed_and_saved(file):
+    conversion = file[PROBE]
+    del file[PROBE]
+    file.save()
+    return conversion
+
+
+def read_removed_and_saved(file):
+    conversion, _ = file.read(PROBE)
+    del file[PROBE]
+    file.save()
+    return conversion
+
+
+def renamed_after_it_was_read(file):
+    conversion, _ = file.read(PROBE)
+    file.rename(PROBE, "Another")
+    return conversion
+
+
+def replaced_and_saved(file):
+    conversion = file[PROBE]
+    file[PROBE] = Conversion(ConversionType.WT90)
+    file.save()
+    return conversion
+
+
+def read_before_a_change_is_saved(file):
+    conversion, _ = file.read(PROBE)
+    file[PROBE].settings.R0 = 101
+    file.save()
+    return conversion
+
+
+@pytest.mark.parametrize("displace", [removed_and_saved, read_removed_and_saved, renamed_after_it_was_read,
+                                      replaced_and_saved, read_before_a_change_is_saved])
+def test_what_the_host_itself_has_saved_keeps_no_conversion_from_coming_back(laboratory, displace):
+    file = ProbeFile(laboratory)
+    file[PROBE] = displace(file)
+    file[PROBE].settings.C = 0.5
+    file.save()
+    cvd = ProbeFile(laboratory)[PROBE].settings
+    assert (cvd.R0, cvd.C) == (100, 0.5)
+
+
+def test_a_conversion_that_was_removed_and_saved_does_not_replace_what_another_program_adds_there(laboratory):
+    file = ProbeFile(laboratory)
+    conversion = removed_and_saved(file)
+    with ProbeFile(laboratory) as theirs:
+        theirs[PROBE] = Conversion(ConversionType.WT90)
+    file["Probe 10 PRT-1183"].settings.R0 = 99
+    file.save()  # which knows what they have saved
+    file[PROBE] = conversion
+    with pytest.raises(quor.ConflictError):
+        file.save()
+    assert ProbeFile(laboratory)[PROBE].type == ConversionType.WT90
+
+
+@pytest.mark.parametrize("theirs", [lambda file: setattr(file[PROBE].settings, "R0", 100.0123), removed_without_a_look])
+def test_after_a_conflict_a_conversion_is_saved_once_the_host_has_seen_what_another_program_has_saved(laboratory, theirs):
+    file = ProbeFile(laboratory)
+    file[PROBE], _ = file.read(PROBE)
+    conversion = file[PROBE]
+    with ProbeFile(laboratory) as other:
+        theirs(other)
+    with pytest.raises(quor.ConflictError):
+        file.save()
+    file.discard()
+    assert file.get(PROBE) is not conversion
+    file[PROBE] = conversion
+    file.save()
+    assert ProbeFile(laboratory)[PROBE].settings.R0 == 100
+
+
+def added_by_another_program(theirs):
+    theirs["Probe 99"] = Conversion(ConversionType.CVD)
+    theirs["Probe 99"].settings.R0 = 99
+
+
+def changed_by_another_program(theirs):
+    theirs["Probe 10 PRT-1183"].settings.R0 = 99
+
+
+@pytest.mark.parametrize("change, name", [(added_by_another_program, "Probe 99"),
+                                          (changed_by_another_program, "Probe 10 PRT-1183")])
+@pytest.mark.parametrize("is_accessed", [False, True])
+def test_no_copy_replaces_a_probe_that_another_program_has_added_or_changed(laboratory, change, name, is_accessed):
+    file = ProbeFile(laboratory)
+    if is_accessed:
+        file.get(name)
+    with ProbeFile(laboratory) as theirs:
+        change(theirs)
+    before = laboratory.read_bytes()
+    for _ in range(2):
+        with pytest.raises(quor.ConflictError) as raised:
+            file.duplicate(PROBE, name)
+        assert raised.value.conflicts == (quor.Conflict(name, "", "", "", ""),)
+        assert laboratory.read_bytes() == before
+    file.discard()
+    file.duplicate(PROBE, name)
+    assert ProbeFile(laboratory)[name].settings.R0 == 100
+
+
 def saved(file):
     file.save()
 
