@@ -437,7 +437,22 @@ class ProbeFile(MutableMapping[str, Conversion]):
             self._file.Abandon()
             if isinstance(error, QuorError):
                 self._raise(self._file, error)
+            self._mark_written()
             raise
+
+    def _mark_written(self) -> None:
+        """Marks new conversions that were written, after an interrupt that came once the bracket was saved."""
+        for probe in self._probes.values():
+            if probe.conversion is None or hasattr(probe.conversion, "_read_from"):
+                continue
+            try:
+                self._file.Hold()
+                self._file.WriteChanges(probe.section, probe.conversion)  # fails for one that was not written
+                self._mark_read(probe.section, probe.conversion)
+            except QuorError:
+                pass
+            finally:
+                self._file.Abandon()
 
     def _reread(self, is_saved: bool = False) -> None:
         """Reads the accessed conversions again, once everything was saved or discarded. One that cannot have the values of

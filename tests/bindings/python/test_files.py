@@ -865,6 +865,8 @@ def test_an_interrupt_of_a_save_leaves_it_to_the_next_one(laboratory, monkeypatc
     file = ProbeFile(laboratory)
     changed, gone = file[PROBE], file["Probe 10 PRT-1183"]
     changed.settings.R0 = 100.0123
+    displaced = file["Probe 1 CSP-0417"]
+    file["Probe 1 CSP-0417"] = Conversion(ConversionType.WT90)
     del file["Probe 10 PRT-1183"]
     new = file["Probe 30"] = Conversion(ConversionType.WT90)
     call = getattr(quor._low.ProbeFile, interrupted)
@@ -889,6 +891,7 @@ def test_an_interrupt_of_a_save_leaves_it_to_the_next_one(laboratory, monkeypatc
     file.save()
     now = ProbeFile(laboratory)
     assert (now[PROBE].settings.R0, now["Probe 30"].settings.RTPW) == (100.5, 25.5)
+    assert now["Probe 1 CSP-0417"].type == ConversionType.WT90 != displaced.type
     assert "Probe 10 PRT-1183" not in now
     gone.settings.R0 = 1
     with pytest.raises(ValueError, match=r"\[Probe 10 PRT-1183\] was changed, but no longer belongs to"):
