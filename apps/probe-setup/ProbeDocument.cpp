@@ -810,8 +810,13 @@ void ProbeDocument::TakeOthersChanges() {
     // Values of others that were kept would look like changes of ours, beside the file.
     for (ListedProbe& entry : m_probes)
         entry.content.conversion = nullptr;
+    // A step that is taken back would write their old values, also when the file cannot be read now.
+    m_done.clear();
+    m_undone.clear();
     try {
         Open(std::wstring(m_path));
+    } catch (const DocumentError&) {
+        // As below: it is no settings file any more.
     } catch (const QuorError&) {
         // Everything is saved. The list lacks what others have added until the file can be read again.
     }

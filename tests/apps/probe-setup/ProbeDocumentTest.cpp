@@ -1000,6 +1000,33 @@ TEST_F(ProbeDocumentTest, AProgramThatTakesNoLockMayWriteTheSameKeyAtAnyCallOfAS
     }
 }
 
+TEST_F(ProbeDocumentTest, ASaveThatTookInValuesOfOthersEndsTheHistoryAlsoWhenTheFileCannotBeReadThen) {
+    const std::string saved = Replaced(Replaced(host, "=100.0\n", "=100.0123\n"), "=1.5\n", "=1.75\n");
+    const auto refuse = [](std::string_view call) { return call == "Open" ? EACCES : 0; };
+    const auto replace = [this](std::string_view /*call*/) {
+        folder.Write("host.ini", "Good morning");
+        return 0;
+    };
+    for (const std::function<int(std::string_view)>& afterSave :
+         {std::function<int(std::string_view)>(refuse), std::function<int(std::string_view)>(replace)}) {
+        Open(host);
+        EXPECT_TRUE(Edit(0, TypeR0));
+        folder.Write("host.ini", Replaced(host, "=1.5\n", "=1.75\n"));
+        bool isSaved = false;
+        files.onCall = [&](std::string_view call) {
+            isSaved = isSaved || (files.openFiles == 0 && File() == saved); // the lock is given back
+            return isSaved ? afterSave(call) : 0;
+        };
+        EXPECT_NO_THROW(document.Save());
+        files.onCall = [](std::string_view) { return 0; };
+        EXPECT_TRUE(isSaved);
+        EXPECT_EQ(document.UndoKind(), std::nullopt) << "a save would write their old values";
+        EXPECT_EQ(document.RedoKind(), std::nullopt);
+        EXPECT_FALSE(document.Changed());
+        EXPECT_EQ(Names(), (Texts{L"Probe 1", L"Probe 2"}));
+    }
+}
+
 TEST_F(ProbeDocumentTest, AProgramThatTakesTheLockWaitsForTheEndOfASave) {
     Open();
     EXPECT_TRUE(Edit(0, TypeR0));
