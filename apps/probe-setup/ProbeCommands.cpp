@@ -64,12 +64,10 @@ void ProbeCommands::Add() {
 
 std::vector<std::size_t> ProbeCommands::FreshSelection() {
     std::vector<std::size_t> probes = m_list.Selected();
-    if (probes.empty() || !m_document.ChangedByOthers())
+    const std::vector<std::size_t> stale = m_document.StaleAmong(probes);
+    if (stale.empty())
         return probes;
-    if (m_document.Changed()) {
-        const std::vector<std::size_t> stale = m_document.StaleAmong(probes);
-        if (stale.empty())
-            return probes;
+    if (m_document.Changed() || m_document.UndoKind() || m_document.RedoKind()) { // a reload would end them
         MessageBox box(&m_window, QMessageBox::Warning,
                        tr("Another program has changed %1 in the file.").arg(NameOf(stale)),
                        tr("Reload the file to see the current values."),
@@ -86,12 +84,17 @@ std::vector<std::size_t> ProbeCommands::FreshSelection() {
         return {};
     std::vector<std::size_t> found; // in other places, perhaps, or hidden now
     for (std::size_t probe = 0; probe < m_document.Count(); ++probe) {
-        if (names.contains(m_document.Name(probe)))
+        if (names.erase(m_document.Name(probe)) != 0)
             found.push_back(probe);
     }
     if (!found.empty())
         m_list.ShowNew(found);
-    return found.size() == probes.size() ? found : std::vector<std::size_t>();
+    if (names.empty())
+        return found;
+    MessageBox(&m_window, QMessageBox::Warning, tr("Nothing was done. No longer in the file:"),
+               Wording::Lines({names.begin(), names.end()}))
+        .exec();
+    return {};
 }
 
 void ProbeCommands::Edit() {

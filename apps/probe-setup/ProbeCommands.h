@@ -26,8 +26,9 @@ public:
     ProbeCommands(QMainWindow& window, ProbeDocument& document, ProbeList& list, FileCommands& files,
                   std::function<void()> help);
 
-    /// The selected probes, before their values are shown or copied: what another program has written is
-    /// taken in. Empty when the person has to see to it first, or when one of them is gone.
+    /// The selected probes, before their values are shown or copied: what another program has written about
+    /// them is taken in. Empty when the person has to see to it first, because a reload would lose changes or
+    /// the history, and when one of them is gone, which is told.
     [[nodiscard]] std::vector<std::size_t> FreshSelection();
 
     void Add();

@@ -603,6 +603,10 @@ Qt %1, unter der LGPL.</translation>
         <translation>&amp;Neu laden</translation>
     </message>
     <message>
+        <source>Nothing was done. No longer in the file:</source>
+        <translation>Es wurde nichts getan. Nicht mehr in der Datei:</translation>
+    </message>
+    <message>
         <source>These keys are missing or cannot be read; they have default values:</source>
         <translation>Diese Schlüssel fehlen oder sind nicht lesbar; an ihrer Stelle stehen Vorgabewerte:</translation>
     </message>

@@ -535,3 +535,47 @@ TEST_F(ManyProbesWindow, WhatIsCopiedOrPrintedHasTheValuesOfTheFile) {
         paper.toPlainText().contains("State:\nanother program has changed it in the file in the meantime\n"))
         << "also when it does so while the printer is chosen";
 }
+
+TEST_F(ManyProbesWindow, WhatOnlyReadsProbesThatAreAsInTheFileKeepsTheHistory) {
+    GoTo(0);
+    Press(Qt::Key_D, Qt::ControlModifier);
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    std::string theirs = host;
+    theirs.replace(theirs.rfind("10\n"), 2, "11");
+    folder.Write("host.ini", theirs);
+    QApplication::clipboard()->clear();
+    GoTo(0);
+    Press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QApplication::clipboard()->text().startsWith("[Probe 1]"));
+    EXPECT_EQ(window->Document().RedoKind(), StepKind::Duplicate);
+
+    GoTo(1);
+    QString text;
+    WillAnswer(QMessageBox::Cancel, &text);
+    Press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(
+        text,
+        "Another program has changed \"Probe 2\" in the file.|Reload the file to see the current values.");
+    EXPECT_EQ(window->Document().RedoKind(), StepKind::Duplicate);
+}
+
+TEST_F(ManyProbesWindow, ProbesOfAFileThatIsGoneCanStillBeCopied) {
+    std::filesystem::remove(folder.Path("host.ini"));
+    QApplication::clipboard()->clear();
+    GoTo(0);
+    Press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QApplication::clipboard()->text().startsWith("[Probe 1]"));
+    EXPECT_EQ(Names(), (QStringList{"Probe 1", "Probe 2"}));
+}
+
+TEST_F(ManyProbesWindow, ACommandForProbesOfWhichOneIsGoneFromTheFileSaysWhichAndDoesNothing) {
+    SelectAll();
+    folder.Write("host.ini", host.substr(0, host.find("[Probe 2]")));
+    QApplication::clipboard()->setText("before");
+    QString text;
+    WillAnswer(QMessageBox::Ok, &text);
+    Press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(text, "Nothing was done. No longer in the file:|Probe 2");
+    EXPECT_EQ(QApplication::clipboard()->text(), "before");
+    EXPECT_EQ(Names(), QStringList{"Probe 1"});
+}
