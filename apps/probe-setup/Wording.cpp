@@ -95,8 +95,7 @@ QString Wording::Of(const DocumentError& error) {
         return tr("These keys are missing in it or cannot be read:") + lines(0);
     case Failure::UnreadSections:
         return tr("These sections would be left out, because their names occur twice in it or their headers "
-                  "have "
-                  "no \"]\":") +
+                  "have no \"]\":") +
                lines(0);
     case Failure::SharedSection:
         return tr("%1: the section [%2] belongs to both \"%3\" and \"%4\", so it cannot be removed or "
