@@ -16,6 +16,7 @@
 #include "QuorProbeFile/detail/RecordProblems.h"
 #include "QuorProbeFile/detail/RecordReading.h"
 #include "QuorProbeFile/detail/SectionIndex.h"
+#include "QuorProbeFile/detail/WriteValue.h"
 
 #include <algorithm>
 #include <utility>
@@ -566,22 +567,6 @@ void ProbeFile::Write(const std::vector<ProbeToWrite>& probes) {
         }
     });
 }
-
-namespace {
-
-void WriteValue(IniStore& store, const std::wstring& key, const Value& value) {
-    struct Visitor {
-        IniStore& store;
-        const std::wstring& key;
-        void operator()(const std::wstring& text) const { store.WriteString(key, text); }
-        void operator()(std::int16_t number) const { store.WriteInteger(key, number, L""); }
-        void operator()(double number) const { store.WriteDouble(key, number, L""); }
-        void operator()(bool flag) const { store.WriteBoolean(key, flag); }
-    };
-    std::visit(Visitor{store, key}, value);
-}
-
-} // namespace
 
 void ProbeFile::WriteNew(std::wstring_view section, EQuorConversionType type,
                          const std::vector<RecordImage::Entry>& values) {

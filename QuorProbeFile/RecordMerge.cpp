@@ -4,6 +4,7 @@
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/detail/KeptValues.h"
 #include "QuorProbeFile/detail/RecordMeaning.h"
+#include "QuorProbeFile/detail/WriteValue.h"
 
 #include <algorithm>
 #include <utility>
@@ -110,19 +111,11 @@ std::vector<RecordConflict> RecordMerge::Conflicts() const {
 
 template <class IsToBeWritten>
 void RecordMerge::Write(const IsToBeWritten& isToBeWritten) {
-    struct Visitor {
-        INIFile& file;
-        const std::wstring& key;
-        void operator()(const std::wstring& value) const { file.WriteString(key, value); }
-        void operator()(std::int16_t value) const { file.WriteInteger(key, value, L""); }
-        void operator()(double value) const { file.WriteDouble(key, value, L""); }
-        void operator()(bool value) const { file.WriteBoolean(key, value); }
-    };
     for (const Key& key : m_keys) {
         if (!isToBeWritten(key))
             continue;
         m_file->SetSection(key.section);
-        std::visit(Visitor{*m_file, key.name}, key.ours);
+        WriteValue(*m_file, key.name, key.ours);
     }
 }
 

@@ -269,7 +269,8 @@ public:
                 if (value.kind != Kind::Object)
                     Fail(value, L"\"" + path + L"\" is not an object");
                 Read(value, path + L"/");
-            } else if (!m_known.contains(path)) {
+            } else if (!m_known.contains(path) ||
+                       name.find(L'/') != std::wstring::npos) { // it stands in an object
                 Fail(value, L"there is no key \"" + path + L"\" in a record of this type" +
                                 DidYouMean(path, {m_known.begin(), m_known.end()}));
             } else if (SplitIndex(name + L"0").index == 0) {

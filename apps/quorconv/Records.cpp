@@ -424,9 +424,9 @@ bool IsTakenAlone(const Value& value, const Value& before, const ValueRules& rul
 /// Gives a record all of its values: numbers, and what it has already. False when these are not all, or when
 /// one of them needs a closer look.
 bool GiveAll(ProbeValues& probe, const std::vector<Assignment>& assignments, const ValueRules& rules) {
+    // The keys differ: the readers of tables and of JSON see to that.
     if (probe.entries.size() != assignments.size())
         return false;
-    std::vector<bool> given(assignments.size());
     for (std::size_t at = 0; at < assignments.size(); ++at) {
         const auto isMeant = [&](const RecordImage::Entry& entry) {
             return EqualFolded(entry.path, assignments[at].key);
@@ -438,10 +438,6 @@ bool GiveAll(ProbeValues& probe, const std::vector<Assignment>& assignments, con
             entry == probe.entries.end() ? std::nullopt : ParseAs(entry->value, assignments[at].value);
         if (!value || !IsTakenAlone(*value, entry->value, rules))
             return false;
-        const auto place = static_cast<std::size_t>(entry - probe.entries.begin());
-        if (given[place]) // and another one is not
-            return false;
-        given[place] = true;
         entry->value = *std::move(value);
     }
     return true;

@@ -325,7 +325,7 @@ TEST_F(QuorconvExchangeTest, ACodeThatAnotherProbeOfTheFileHasIsRefusedForANewPr
                   "  in.csv:3: host.ini: [B] IPTS-68 scale: 5 is not accepted; range: 0 or 1\n");
 }
 
-TEST_F(QuorconvExchangeTest, AKeyThatIsGivenTwiceDoesNotStandForOneThatIsMissing) {
+TEST_F(QuorconvExchangeTest, AKeyOfAnInnerObjectIsRefusedOutsideItWhereItCouldStandForOneThatIsMissing) {
     std::filesystem::copy_file(QUOR_SAMPLES "/laboratory.ini", folder.Path("laboratory.ini"));
     ExpectShell("quorconv export laboratory.ini --jsonl --type i90 2>.told | head -n 1 >whole\n"
                 "sed 's/Probe 1/Another/' whole >another\n"
@@ -333,8 +333,8 @@ TEST_F(QuorconvExchangeTest, AKeyThatIsGivenTwiceDoesNotStandForOneThatIsMissing
                 "{\"code\": 11, "
                 "\"name\": \"273 K to 302 K\"}, &/' whole >third\n"
                 "cat whole another third | quorconv put new.ini --json >told 2>&1\n"
-                "echo $?; grep -o 'RTPW: the value is missing' told",
-                "1\nRTPW: the value is missing\n", "");
+                "echo $?; grep -o 'there is no key \"High Range/Range\"' told; ls new.ini 2>&1 | grep -c ' '",
+                "1\nthere is no key \"High Range/Range\"\n1\n", "");
 }
 
 TEST_F(QuorconvExchangeTest, TellsHowManyValuesAnEmptyFieldHasKept) {
