@@ -1,5 +1,6 @@
 #include "QuorIniFile/IniLines.h"
 
+#include "QuorIniFile/AsciiCase.h"
 #include "QuorIniFile/detail/IniFormat.h"
 #include "QuorIniFile/detail/IniValue.h"
 
@@ -40,12 +41,17 @@ bool IniLines::Next() {
     return false;
 }
 
-bool IniLines::NextHeader() {
+bool IniLines::NextHeader() { return NextHeaderOr({}); }
+
+bool IniLines::NextHeaderOr(std::string_view key) {
     while (m_next.offset < m_text.size()) {
-        const std::size_t start = m_text.find_first_not_of(" \t", m_next.offset);
-        if (start != npos && m_text[start] == '[')
-            return Next();
-        m_next = {CutLine(m_text, m_next.offset).next, m_next.number + 1};
+        const std::size_t start = std::min(m_text.find_first_not_of(" \t", m_next.offset), m_text.size());
+        const std::string_view line = m_text.substr(start);
+        const bool isHeader = line.starts_with('[');
+        if (!isHeader && (key.empty() || !EqualFolded(line.substr(0, key.size()), key)))
+            m_next = {CutLine(m_text, m_next.offset).next, m_next.number + 1};
+        else if (Next() && (isHeader || (Is(Kind::Key) && HasName(key))))
+            return true;
     }
     return false;
 }

@@ -41,6 +41,9 @@ public:
     /// Moves to the next header, closed or not, and skips everything else: faster than calling Next. False
     /// after the last.
     [[nodiscard]] bool NextHeader();
+    /// Moves to the next header or to the next key of that name, which is ASCII, in any case; as fast as
+    /// NextHeader. False after the last of both.
+    [[nodiscard]] bool NextHeaderOr(std::string_view key);
 
     /// The number of the line, from 1.
     [[nodiscard]] std::size_t Number() const { return m_line.number; }

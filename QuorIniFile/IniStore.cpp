@@ -120,6 +120,11 @@ public:
         return m_text->FindSection(name).has_value();
     }
 
+    [[nodiscard]] bool HasPlainHeaders() {
+        LoadExisting();
+        return m_text->HasPlainHeaders();
+    }
+
     [[nodiscard]] bool HasText() {
         Load();
         return m_stamp.exists || m_text->IsDifferent();
@@ -607,6 +612,7 @@ bool IniStore::CanNameSection(std::wstring_view name) {
 }
 bool IniStore::HasSection(std::wstring_view name) { return m_session->HasSection(name); }
 IniLines IniStore::Lines(const IniLines::Place& from) { return {m_session->PresentText(), from}; }
+bool IniStore::HasPlainHeaders() { return m_session->HasPlainHeaders(); }
 std::uint64_t IniStore::TextNumber() const { return m_session->TextNumber(); }
 void IniStore::RemoveSection(std::wstring_view name) { m_session->RemoveSection(name); }
 void IniStore::RenameSection(std::wstring_view from, std::wstring_view to) {

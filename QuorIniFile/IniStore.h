@@ -108,6 +108,10 @@ public:
     /// The lines of the current text, including what was written, starting at a line that was visited earlier
     /// in the same text (IniLines::Here). Raises 53 if there is no file.
     [[nodiscard]] IniLines Lines(const IniLines::Place& from = {});
+    /// Whether each header of the text is closed and each section stands there once, as in nearly all files;
+    /// known without a walk through the lines. It may be false for a text from which later sections of a name
+    /// were removed, until that is saved. Raises 53 if there is no file.
+    [[nodiscard]] bool HasPlainHeaders();
     /// A number that changes whenever the text may have changed: something was written or discarded, or
     /// another program's text was loaded. For callers that store results of Lines.
     [[nodiscard]] std::uint64_t TextNumber() const;

@@ -118,6 +118,7 @@ void ProbeFile::Survey() {
     const SelectedSection selected(*m_store);
     const auto standAlone = StandAloneSection(m_path);
     const std::string typeKey = QuorIniFile::ToUtf8(conversionTypeKey);
+    const bool isPlain = m_store->HasPlainHeaders();
     SectionIndex sections;
     IniLines lines = m_store->Lines();
     IniLines header = lines; // of the section that is walked through
@@ -132,25 +133,17 @@ void ProbeFile::Survey() {
         else if (isFirst && standAlone && EqualFolded(header.Name(), *standAlone))
             m_probes.push_back({header.Name(), header.Number(), {}, true});
     };
-    while (lines.Next()) {
-        switch (lines.What()) {
-        case IniLines::Kind::Header:
-        case IniLines::Kind::UnclosedHeader:
+    while (lines.NextHeaderOr(typeKey)) {
+        if (!lines.Is(IniLines::Kind::Key)) {
             finish();
             header = lines;
-            isFirst = lines.Is(IniLines::Kind::Header) && sections.Add(lines) != nullptr;
+            isFirst = lines.Is(IniLines::Kind::Header) && (isPlain || sections.Add(lines) != nullptr);
             hasType = false;
             type.reset();
-            break;
-        case IniLines::Kind::Key:
-            if (!hasType && header.Number() != 0 && lines.HasName(typeKey)) {
-                hasType = true;
-                if (const auto code = lines.Integer())
-                    type = EQuorConversionType{*code};
-            }
-            break;
-        case IniLines::Kind::Malformed:
-            break;
+        } else if (!hasType && header.Number() != 0) {
+            hasType = true;
+            if (const auto code = lines.Integer())
+                type = EQuorConversionType{*code};
         }
     }
     finish();
@@ -226,7 +219,7 @@ std::wstring ProbeFile::ConversionName(const ProbeEntry& probe) {
 }
 
 std::vector<IniWarning> ProbeFile::DuplicateSections() {
-    if (!Exists())
+    if (!Exists() || m_store->HasPlainHeaders())
         return {};
     std::vector<IniWarning> warnings;
     SectionIndex sections;

@@ -474,6 +474,15 @@ std::vector<std::string_view> IniText::SectionNames() {
     return names;
 }
 
+bool IniText::HasPlainHeaders() {
+    ReadAllHeaders();
+    for (Section section = 0; section < m_headers.size(); ++section) {
+        if (m_headers[section].first != section)
+            return false;
+    }
+    return true;
+}
+
 /// The edit of a section, for a change to be made; `move` is noted where the section was read.
 IniText::Edit& IniText::EditFor(Section section, Move move) {
     if (!IsAdded(section))

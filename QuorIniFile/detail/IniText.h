@@ -53,6 +53,8 @@ public:
     /// The names as they stand in the text with all changes, in its order; of a name that stands several
     /// times the first. The views live until the next change.
     [[nodiscard]] std::vector<std::string_view> SectionNames();
+    /// Whether each header is closed, and the only one of its name.
+    [[nodiscard]] bool HasPlainHeaders();
     /// The bytes behind a key as they stand now, without edge blanks. The view lives until the next change.
     [[nodiscard]] std::optional<std::string_view> FindValue(Section section, std::wstring_view key);
 

@@ -62,7 +62,7 @@ struct FileText {
 
 FileText TextOf(ProbeFile& file) {
     FileText text{file.Text()};
-    if (!file.Exists())
+    if (!file.Exists() || file.Store()->HasPlainHeaders())
         return text;
     auto lines = file.Store()->Lines();
     while (!text.hasUnclosedHeader && lines.NextHeader())

@@ -26,18 +26,22 @@ void ProbeTable::ForEach(const std::function<void(const std::wstring&)>& use) co
     auto duplicate = m_duplicates.begin();
     IniLines lines = m_file.Store()->Lines();
     IniLines header = lines;
-    for (bool isLine = lines.NextHeader(); isLine;) {
-        bool isPassed = lines.Is(IniLines::Kind::UnclosedHeader); // the rest of the section
-        bool isProbe = lines.Is(IniLines::Kind::Key) && lines.HasName(typeKey);
-        if (lines.Is(IniLines::Kind::Header)) {
+    bool isOpen = false; // a section in which no type has been found
+    while (lines.NextHeaderOr(typeKey)) {
+        bool isProbe = isOpen && lines.Is(IniLines::Kind::Key);
+        if (!lines.Is(IniLines::Kind::Key)) {
             header = lines;
-            isProbe = standAlone && EqualFolded(*standAlone, header.Name());
-            isPassed = duplicate != m_duplicates.end() && duplicate->line == header.Number();
-            duplicate += isPassed ? 1 : 0;
+            isOpen = lines.Is(IniLines::Kind::Header);
+            if (duplicate != m_duplicates.end() && duplicate->line == header.Number()) {
+                isOpen = false;
+                ++duplicate;
+            }
+            isProbe = isOpen && standAlone && EqualFolded(*standAlone, header.Name());
         }
-        if (isProbe && !isPassed)
+        if (isProbe) {
             use(header.Name());
-        isLine = isProbe || isPassed ? lines.NextHeader() : lines.Next();
+            isOpen = false;
+        }
     }
 }
 

@@ -91,6 +91,18 @@ TEST_F(IniLinesTest, PassesEverythingOverUpToTheNextHeader) {
     EXPECT_FALSE(lines.NextHeader());
 }
 
+TEST_F(IniLinesTest, PassesEverythingOverUpToTheNextHeaderOrKeyOfAName) {
+    Load("type=0\n[A]\n; Type=1\n \tTYPE = 2\n\nTypes=3\nType\nx=[B]\nxType=4\ntype=5\n[C\nType=6");
+    IniLines lines = store.Lines();
+    std::vector<std::wstring> told;
+    while (lines.NextHeaderOr("Type"))
+        told.push_back(std::to_wstring(lines.Number()) +
+                       (lines.Is(IniLines::Kind::Key) ? L" is " : L" begins ") +
+                       (lines.Is(IniLines::Kind::Key) ? lines.Value() : lines.Name()));
+    EXPECT_EQ(told, (std::vector<std::wstring>{L"1 is 0", L"2 begins A", L"4 is 2", L"10 is 5", L"11 begins ",
+                                               L"12 is 6"}));
+}
+
 TEST_F(IniLinesTest, TellsAWholeNumberWithoutTheCommentBehindIt) {
     Load("[A]\nx=-7 ; degrees\ny=1.5\nz=40000\n");
     IniLines lines = store.Lines();

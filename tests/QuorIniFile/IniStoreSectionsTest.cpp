@@ -57,6 +57,35 @@ TEST_F(IniStoreSections, StandInTheOrderOfTheFileAndNewOnesBehindThem) {
     EXPECT_EQ(store->Sections(), (SectionNames{L"Köln", L"B", L"A", L"New"}));
 }
 
+TEST_F(IniStoreSections, ArePlainWhenEachHeaderIsClosedAndTheOnlyOneOfItsName) {
+    const std::pair<const char*, bool> files[] = {
+        {"", true},
+        {"x=1\n[A]\nx=[A]\n; [A]\n[A - Settings]\n[K\xC3\xB6ln]\n", true},
+        {"[A]\n[B]\n[a]\n", false},
+        {"[A]\n[A]\n[A]\n", false},
+        {"[K\xC3\xB6ln]\n\xFF=1\n[K\xF6ln]\n", false}, // one spelling is UTF-8, the other Latin-1
+        {"[A]\n[B\n[C\nx=1\n[D]\n", false},
+        {"[", false},
+    };
+    for (const auto& [bytes, isPlain] : files) {
+        File(bytes);
+        store->Reload();
+        EXPECT_EQ(store->HasPlainHeaders(), isPlain) << bytes;
+    }
+    File("[A]\n[B]\n");
+    store->Reload();
+    store->Hold();
+    Put(L"C", L"x", 1);
+    store->RenameSection(L"B", L"D");
+    Put(L"B", L"x", 1);
+    store->RemoveSection(L"A");
+    Put(L"A", L"x", 1);
+    EXPECT_TRUE(store->HasPlainHeaders());
+    store->Discard();
+    store->SetFileName(folder.Name("missing.ini"));
+    EXPECT_THROW(static_cast<void>(store->HasPlainHeaders()), QuorError);
+}
+
 TEST_F(IniStoreSections, OfAFileThatIsNotThereAreAnError) {
     EXPECT_EQ(Refusal([&] { static_cast<void>(store->Sections()); }), L"53 File not found: a.ini");
     store->RemoveSection(L"A");
