@@ -5,7 +5,7 @@
 
 namespace quorconv {
 
-void Batch::Do(const std::wstring& place, const std::function<void()>& piece) {
+void Batch::Do(const std::function<std::wstring()>& place, const std::function<void()>& piece) {
     Problem failure;
     try {
         return piece();
@@ -17,12 +17,11 @@ void Batch::Do(const std::wstring& place, const std::function<void()>& piece) {
         failure = CurrentFailure();
     }
     ++m_wrong;
-    m_failures.push_back(place + failure.text);
+    const std::wstring at = place();
+    m_failures.push_back((at.empty() ? L"" : m_from + L":" + at + L": ") + failure.text);
     for (const std::wstring& reason : failure.reasons)
         m_failures.push_back(L"  " + reason);
 }
-
-std::wstring Batch::PlaceOf(std::size_t line) const { return m_from + L":" + std::to_wstring(line) + L": "; }
 
 void Batch::RequireFine() const {
     if (m_failures.empty())

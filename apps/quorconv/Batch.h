@@ -13,11 +13,9 @@ public:
     /// What is wrong is told as wrong lines of `from`, because of which nothing is written into `path`.
     Batch(std::wstring path, std::wstring from) : m_path(std::move(path)), m_from(std::move(from)) {}
 
-    /// Does a piece, and keeps what is wrong with it. The next one finds the file as if this one had not
-    /// been.
-    void Do(const std::wstring& place, const std::function<void()>& piece);
-    /// "from:12: "
-    [[nodiscard]] std::wstring PlaceOf(std::size_t line) const;
+    /// Does a piece, and keeps what is wrong with it behind `place`, which is asked for then: "12", "12:34"
+    /// or nothing where the failure has told it. The next one finds the file as if this one had not been.
+    void Do(const std::function<std::wstring()>& place, const std::function<void()>& piece);
     /// Raises Problem with each failure when there is one.
     void RequireFine() const;
     void Forget();

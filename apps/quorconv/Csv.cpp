@@ -39,28 +39,31 @@ public:
     [[nodiscard]] bool IsAtEnd() const { return m_at >= m_text.size(); }
     [[nodiscard]] std::size_t Line() const { return m_line; }
 
-    /// The fields of the next row; none of an empty line.
-    std::vector<std::wstring> Row() {
-        std::vector<std::wstring> fields;
+    /// The fields of the next row; none of an empty line. Valid until the next call.
+    const std::vector<std::wstring>& Row() {
+        std::size_t count = 0;
         bool isEmpty = true;
         do {
+            if (count == m_fields.size())
+                m_fields.emplace_back();
             isEmpty = isEmpty && !Is('"');
-            const std::string field = Is('"') ? QuotedField() : PlainField();
-            auto decoded = QuorIniFile::FromUtf8(field);
-            if (!decoded)
-                Fail(L"the text is not UTF-8");
-            isEmpty = isEmpty && field.empty();
-            fields.push_back(*std::move(decoded));
+            if (Is('"'))
+                Decode(QuotedField(), m_fields[count]);
+            else
+                Decode(PlainField(), m_fields[count]);
+            isEmpty = isEmpty && m_fields[count].empty();
+            ++count;
         } while (Skip(m_separator));
+        m_fields.resize(count);
         Skip('\r');
         if (!IsAtEnd() && !Is('\n'))
             Fail(std::wstring(L"a ") + Name(m_separator) +
                  L" or the end of the line expected after a field in quotes");
         ++m_at;
         ++m_line;
-        if (isEmpty && fields.size() == 1)
-            fields.clear();
-        return fields;
+        if (isEmpty && count == 1)
+            m_fields.clear();
+        return m_fields;
     }
 
 private:
@@ -89,14 +92,25 @@ private:
         return field;
     }
 
-    std::string PlainField() {
-        std::string field;
+    std::string_view PlainField() {
+        const std::size_t start = m_at;
         for (; !IsAtEnd() && !Is(m_separator) && !Is('\r') && !Is('\n'); ++m_at) {
             if (Is('"'))
                 Fail(L"a quote inside a field: put the whole field in quotes and double the quote");
-            field += m_text[m_at];
         }
-        return field;
+        return m_text.substr(start, m_at - start);
+    }
+
+    void Decode(std::string_view bytes, std::wstring& text) const {
+        if (std::all_of(bytes.begin(), bytes.end(),
+                        [](char c) { return static_cast<unsigned char>(c) < 0x80; })) {
+            text.assign(bytes.begin(), bytes.end()); // as nearly all are
+            return;
+        }
+        auto decoded = QuorIniFile::FromUtf8(bytes);
+        if (!decoded)
+            Fail(L"the text is not UTF-8");
+        text = *std::move(decoded);
     }
 
     static const wchar_t* Name(char separator) {
@@ -111,6 +125,7 @@ private:
     char m_separator;
     std::size_t m_line = 1;
     std::size_t m_at = 0;
+    std::vector<std::wstring> m_fields;
 };
 
 } // namespace
@@ -120,7 +135,7 @@ void ReadCsv(std::string_view text, CsvSeparator separator,
     CsvReader reader(text, separator);
     while (!reader.IsAtEnd()) {
         const std::size_t line = reader.Line();
-        if (const auto fields = reader.Row(); !fields.empty())
+        if (const auto& fields = reader.Row(); !fields.empty())
             use(fields, line);
     }
 }
@@ -129,7 +144,7 @@ std::vector<std::wstring> FirstCsvRow(std::string_view text, CsvSeparator separa
     try {
         CsvReader reader(text, separator);
         while (!reader.IsAtEnd())
-            if (auto fields = reader.Row(); !fields.empty())
+            if (const auto& fields = reader.Row(); !fields.empty())
                 return fields;
     } catch (const CsvError&) { // then it has none
     }

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace quorconv {
 
@@ -77,12 +78,15 @@ const JsonValue* JsonValue::Find(std::wstring_view name) const {
 
 namespace {
 
-/// Makes values of what the parser finds, and finds their places in the text.
+/// Makes a value of what the parser finds, and finds the places of its parts in the text.
 class Builder {
 public:
-    Builder(std::string_view text, rapidjson::MemoryStream& stream,
-            const std::function<void(const JsonValue&)>& use)
-        : m_text(text), m_stream(stream), m_use(use) {}
+    /// The text starts at `offset` of a longer one.
+    Builder(std::string_view text, std::size_t offset, rapidjson::MemoryStream& stream)
+        : m_text(text), m_offset(offset), m_stream(stream) {}
+
+    /// The object that was read.
+    [[nodiscard]] JsonValue& Object() { return m_object; }
 
     // What the parser calls; "true" lets it go on.
     bool Null() { return Add(Value(JsonValue::Kind::Null)); }
@@ -124,13 +128,6 @@ public:
     static bool Uint64(std::uint64_t /*number*/) { return false; }
     static bool Double(double /*number*/) { return false; }
 
-    [[nodiscard]] bool WasList() const { return m_wasList; }
-
-    [[noreturn]] void FailAt(std::size_t offset, std::wstring text) {
-        GoTo(offset);
-        Fail(std::move(text));
-    }
-
     /// The names and indices that lead to the value that is being read: "settings/Coefficients[2]/value".
     [[nodiscard]] std::wstring Path() const {
         std::wstring path;
@@ -147,23 +144,15 @@ private:
     static constexpr std::size_t mostMembers = 1000;
     static constexpr std::size_t deepest = 20; // nobody needs more, and a hostile text no more stack
 
-    [[noreturn]] void Fail(std::wstring text) const { throw JsonError{m_line, m_column, std::move(text)}; }
+    [[noreturn]] void Fail(std::wstring text) const { throw JsonError{m_offset + m_at, std::move(text)}; }
 
     static std::wstring Wide(std::string_view bytes) {
         return *QuorIniFile::FromUtf8(bytes); // the parser has looked at the encoding
     }
 
-    void GoTo(std::size_t offset) {
-        for (; m_at < offset; ++m_at) {
-            const bool isEnd = m_text[m_at] == '\n';
-            m_line += isEnd ? 1 : 0;
-            m_column = isEnd ? 1 : m_column + 1;
-        }
-    }
-
     /// Goes to where that begins of which the parser has just read the end.
     void FindPlace() {
-        GoTo(std::min(m_text.find_first_not_of(" \t\r\n,:", m_end), m_text.size()));
+        m_at = std::min(m_text.find_first_not_of(" \t\r\n,:", m_end), m_text.size());
         m_end = m_stream.Tell();
     }
 
@@ -171,16 +160,13 @@ private:
         FindPlace();
         JsonValue value;
         value.kind = kind;
-        value.line = m_line;
-        value.column = m_column;
+        value.offset = m_offset + m_at;
         return value;
     }
 
     bool Open(JsonValue::Kind kind) {
         JsonValue value = Value(kind);
-        if (m_open.empty() && kind == JsonValue::Kind::List)
-            m_wasList = true;
-        else if (kind == JsonValue::Kind::List && IsOuter())
+        if (m_open.empty() && kind != JsonValue::Kind::Object)
             Fail(L"an object expected");
         if (m_open.size() > deepest)
             Fail(L"values are nested too deeply");
@@ -192,17 +178,14 @@ private:
         FindPlace();
         JsonValue value = std::move(m_open.back());
         m_open.pop_back();
-        return (m_open.empty() && m_wasList) || Add(std::move(value));
+        return Add(std::move(value));
     }
 
-    /// Whether what comes next is one of the objects that the text holds.
-    [[nodiscard]] bool IsOuter() const { return m_open.empty() || (m_wasList && m_open.size() == 1); }
-
     bool Add(JsonValue value) {
-        if (IsOuter() && value.kind != JsonValue::Kind::Object)
-            throw JsonError{value.line, value.column, L"an object expected"};
-        if (IsOuter())
-            m_use(value);
+        if (m_open.empty() && value.kind != JsonValue::Kind::Object)
+            Fail(L"an object expected");
+        if (m_open.empty())
+            m_object = std::move(value);
         else if (m_open.back().kind == JsonValue::Kind::List)
             m_open.back().items.push_back(std::move(value));
         else
@@ -211,45 +194,81 @@ private:
     }
 
     std::string_view m_text;
+    std::size_t m_offset;
     rapidjson::MemoryStream& m_stream;
-    const std::function<void(const JsonValue&)>& m_use;
     std::vector<JsonValue> m_open;
-    bool m_wasList = false; // the text is a list
-    std::size_t m_end = 0;  // of what was read last
-    std::size_t m_at = 0;   // where m_line and m_column are
-    std::size_t m_line = 1;
-    std::size_t m_column = 1;
+    JsonValue m_object;
+    std::size_t m_end = 0; // of what was read last
+    std::size_t m_at = 0;  // where that starts
 };
+
+/// What is wrong, in words that end a sentence.
+std::wstring ReasonOf(rapidjson::ParseErrorCode code) {
+    // "Missing a comma or '}' after an object member." is a sentence.
+    const std::string_view what = rapidjson::GetParseError_En(code);
+    std::wstring reason(what.begin(), what.end() - 1);
+    reason.front() = QuorIniFile::Small(reason.front());
+    return reason;
+}
 
 } // namespace
 
-void ReadJsonObjects(std::string_view text, const std::function<void(const JsonValue&)>& use) {
+void JsonObjects::SkipBlanks() { m_at = std::min(m_text.find_first_not_of(" \t\r\n", m_at), m_text.size()); }
+
+bool JsonObjects::Skip(char character) {
+    if (m_at == m_text.size() || m_text[m_at] != character)
+        return false;
+    ++m_at;
+    SkipBlanks();
+    return true;
+}
+
+std::string_view JsonObjects::Next() {
+    if (m_at == 0 && m_text.starts_with("\xEF\xBB\xBF"))
+        m_at = 3;
+    SkipBlanks();
+    const bool isFirst = !std::exchange(m_isBehindOne, true);
+    if (isFirst && m_at == m_text.size())
+        throw JsonError{m_at, L"an object or a list of objects expected"};
+    m_isList = m_isList || (isFirst && Skip('['));
+    if (!m_isList)
+        return m_text.substr(m_at);
+    if (!Skip(']')) {
+        if (!isFirst && !Skip(','))
+            throw JsonError{m_at, ReasonOf(rapidjson::kParseErrorArrayMissCommaOrSquareBracket)};
+        return m_at < m_text.size() ? m_text.substr(m_at) : throw JsonError{m_at, L"invalid value"};
+    }
+    if (m_at < m_text.size())
+        throw JsonError{m_at, L"nothing may follow the list"};
+    return {};
+}
+
+JsonValue JsonObjects::Read() {
     constexpr unsigned flags = rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseValidateEncodingFlag |
                                rapidjson::kParseStopWhenDoneFlag;
-    if (text.starts_with("\xEF\xBB\xBF"))
-        text.remove_prefix(3);
+    const std::string_view text = m_text.substr(m_at);
     rapidjson::MemoryStream stream(text.data(), text.size());
-    Builder builder(text, stream, use);
-    const auto skipBlanks = [&] {
-        rapidjson::SkipWhitespace(stream);
-        return stream.Tell() < text.size();
-    };
-    if (!skipBlanks())
-        builder.FailAt(text.size(), L"an object or a list of objects expected");
-    while (skipBlanks()) {
-        if (builder.WasList())
-            builder.FailAt(stream.Tell(), L"nothing may follow the list");
-        rapidjson::Reader reader;
-        if (!reader.Parse<flags>(stream, builder)) {
-            // "Missing a comma or } after an object member." is a sentence; here it ends one.
-            const std::string_view what = rapidjson::GetParseError_En(reader.GetParseErrorCode());
-            std::wstring reason(what.begin(), what.end() - 1);
-            reason.front() = QuorIniFile::Small(reason.front());
-            if (reader.GetParseErrorCode() == rapidjson::kParseErrorNumberTooBig)
-                reason = builder.Path() + L": the number is too large for a double";
-            builder.FailAt(std::min(reader.GetErrorOffset(), text.size()), std::move(reason));
+    Builder builder(text, m_at, stream);
+    rapidjson::Reader reader;
+    if (!reader.Parse<flags>(stream, builder))
+        throw JsonError{m_at + std::min(reader.GetErrorOffset(), text.size()),
+                        reader.GetParseErrorCode() == rapidjson::kParseErrorNumberTooBig
+                            ? builder.Path() + L": the number is too large for a double"
+                            : ReasonOf(reader.GetParseErrorCode())};
+    m_at += stream.Tell();
+    return std::move(builder.Object());
+}
+
+std::wstring TextPlaces::At(std::size_t offset) {
+    if (offset < m_at)
+        *this = TextPlaces(m_text);
+    for (; m_at < offset; ++m_at) {
+        if (m_text[m_at] == '\n') {
+            ++m_line;
+            m_start = m_at + 1;
         }
     }
+    return std::to_wstring(m_line) + L":" + std::to_wstring(offset - m_start + 1);
 }
 
 } // namespace quorconv

@@ -177,50 +177,63 @@ public:
             throw Problem{place + L"1: there is no column \"type\", and no --type says it"};
     }
 
-    [[nodiscard]] CsvProbe Read(const std::vector<std::wstring>& fields, std::size_t line,
-                                const std::wstring& type, DecimalSign decimal) {
+    /// Valid until the next call.
+    [[nodiscard]] const GivenProbe& Read(const std::vector<std::wstring>& fields, std::size_t line,
+                                         const std::wstring& type, DecimalSign decimal) {
         if (fields.size() != m_columns.size())
             throw Problem{m_place + std::to_wstring(line) + L": the line has " +
                           std::to_wstring(fields.size()) + L" fields, and the first one has " +
                           std::to_wstring(m_columns.size())};
         if (std::all_of(fields.begin(), fields.end(), [](const std::wstring& f) { return f.empty(); }))
             throw Problem{m_place + std::to_wstring(line) + L": all fields of the line are empty"};
-        CsvProbe probe{line, fields[m_section], m_type == none ? type : fields[m_type], {}, {}};
-        const TypeInfo* const info = ParseType(probe.type);
-        if (!info || info->code == CONV_NONE)
-            Fail(line, m_type == none ? m_section : m_type, L"\"" + probe.type + L"\" is no conversion type");
-        if (m_type != none && !type.empty() && ParseType(type) != info)
-            Fail(line, m_type, L"\"" + probe.type + L"\" is not the type of --type " + type);
-        m_isWrong = true;
-        RequireKeys(info->code);
-        m_isWrong = false;
+        m_probe.section = fields[m_section];
+        RequireType(m_type == none ? type : fields[m_type], line, type);
+        m_probe.empty.clear();
+        std::size_t given = 0;
         for (std::size_t i = 0; i < fields.size(); ++i) {
             if (i == m_section || i == m_type)
                 continue;
             const RecordKey* const key = m_columns[i].record;
             // An empty field is no value, but of a text, which may be empty.
             if (fields[i].empty() && !(key && std::holds_alternative<std::wstring>(key->initial))) {
-                probe.empty.push_back(m_columns[i].key);
+                m_probe.empty.push_back(m_columns[i].key);
                 continue;
             }
-            std::wstring text = fields[i];
+            if (given == m_probe.values.size())
+                m_probe.values.emplace_back();
+            Assignment& assignment = m_probe.values[given++];
+            assignment.key = m_columns[i].key;
+            assignment.value = fields[i];
             const Value kind = key ? key->initial : Value(0.0);
             if (std::holds_alternative<double>(kind))
-                text = WithPoint(std::move(text), line, i, decimal);
-            if (!ParseAs(kind, text))
+                RequirePoint(assignment.value, line, i, decimal);
+            if (!ParseAs(kind, assignment.value))
                 Fail(line, i, WhatIsWrong(kind, fields[i]));
-            probe.values.push_back({m_columns[i].key, std::move(text)});
         }
-        return probe;
+        m_probe.values.resize(given);
+        return m_probe;
     }
 
     /// Whether the first line is wrong, which was raised: nothing can be read then.
     [[nodiscard]] bool AreWrong() const { return m_isWrong; }
 
 private:
-    /// The text of a number with a point. Raises for one that has another decimal sign than the table.
-    [[nodiscard]] std::wstring WithPoint(std::wstring text, std::size_t line, std::size_t column,
-                                         DecimalSign decimal) const {
+    void RequireType(const std::wstring& name, std::size_t line, const std::wstring& type) {
+        if (m_checked && name == m_probe.type)
+            return;
+        const TypeInfo* const info = ParseType(name);
+        if (!info || info->code == CONV_NONE)
+            Fail(line, m_type == none ? m_section : m_type, L"\"" + name + L"\" is no conversion type");
+        if (m_type != none && !type.empty() && ParseType(type) != info)
+            Fail(line, m_type, L"\"" + name + L"\" is not the type of --type " + type);
+        m_isWrong = true;
+        RequireKeys(info->code);
+        m_isWrong = false;
+        m_probe.type = name;
+    }
+
+    /// Gives the text of a number a point. Raises for one that has another decimal sign than the table.
+    void RequirePoint(std::wstring& text, std::size_t line, std::size_t column, DecimalSign decimal) const {
         if (decimal == DecimalSign::Comma) {
             if (text.find(L'.') != std::wstring::npos)
                 Fail(line, column, L"\"" + text + L"\" has a point, and the decimal sign is a comma");
@@ -229,7 +242,6 @@ private:
             Fail(line, column,
                  L"\"" + text + L"\" is not a number; the decimal sign is a point without --decimal comma");
         }
-        return text;
     }
     static constexpr std::size_t none = static_cast<std::size_t>(-1);
     struct Column {
@@ -276,6 +288,7 @@ private:
     }
 
     std::wstring m_place;
+    GivenProbe m_probe; // of the line that was read last
     std::vector<Column> m_columns;
     std::size_t m_section = none;
     std::size_t m_type = none;
@@ -304,15 +317,18 @@ std::wstring MeantSeparator(std::string_view text, CsvSeparator separator) {
 } // namespace
 
 void ReadProbeTable(std::string_view text, const std::wstring& place, const CsvStyle& style,
-                    const std::wstring& type, Batch& batch, const std::function<void(CsvProbe&&)>& use) {
+                    const std::wstring& type, Batch& batch,
+                    const std::function<void(const GivenProbe&, std::size_t line)>& use) {
+    const auto toldAlready = [] { return std::wstring(); };
+    const DecimalSign decimal = style.Decimal();
     std::optional<Columns> columns;
-    batch.Do(L"", [&] {
+    batch.Do(toldAlready, [&] {
         try {
             ReadCsv(text, style.Separator(), [&](const std::vector<std::wstring>& fields, std::size_t line) {
                 if (!columns)
                     columns.emplace(fields, type, place);
                 else if (!columns->AreWrong())
-                    batch.Do(L"", [&] { use(columns->Read(fields, line, type, style.Decimal())); });
+                    batch.Do(toldAlready, [&] { use(columns->Read(fields, line, type, decimal), line); });
             });
         } catch (const CsvError& error) {
             throw Problem{place + std::to_wstring(error.line) + L": " + error.text +

@@ -60,20 +60,12 @@ private:
     std::string m_field;                                     // that is being made
 };
 
-/// A line of such a table.
-struct CsvProbe {
-    std::size_t line;
-    std::wstring section;
-    std::wstring type;
-    std::vector<Assignment> values;  ///< without those of empty fields
-    std::vector<std::wstring> empty; ///< the keys of these
-};
-
-/// Reads a table and calls `use` with each of its lines. Columns may stand in any order, and without the
-/// brackets; what stands in brackets must be the name and the unit of the key. `type` is that of a table
-/// without the column, or empty; what the column says must be the same type. What is wrong goes into `batch`,
-/// with line and column.
+/// Reads a table and calls `use` with each of its lines, and its number. Columns may stand in any order, and
+/// without the brackets; what stands in brackets must be the name and the unit of the key. `type` is that of
+/// a table without the column, or empty; what the column says must be the same type. What is wrong goes into
+/// `batch`, with line and column.
 void ReadProbeTable(std::string_view text, const std::wstring& place, const CsvStyle& style,
-                    const std::wstring& type, Batch& batch, const std::function<void(CsvProbe&&)>& use);
+                    const std::wstring& type, Batch& batch,
+                    const std::function<void(const GivenProbe&, std::size_t line)>& use);
 
 } // namespace quorconv

@@ -33,18 +33,6 @@ private:
     std::string m_text;
 };
 
-/// What a JSON object says of a probe: its section, its type, and its values by the keys of its record.
-struct JsonProbe {
-    std::wstring section;
-    std::wstring type; ///< an enumerator
-    std::vector<Assignment> values;
-};
-
-/// Reads an object as ToJson writes it. Raises JsonError for what no such object has: an unknown member or
-/// key, a coefficient under the name of another one, a code under the name of another one, a value of another
-/// kind. `path` names the file for failures of types.
-[[nodiscard]] JsonProbe ReadJsonProbe(const JsonValue& object);
-
 /// The JSON Schema of that object, made from the reference of the records.
 [[nodiscard]] std::string JsonSchema();
 

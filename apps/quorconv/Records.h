@@ -20,6 +20,14 @@ struct Assignment {
     bool completes = false; ///< there is no such key in the file, or none that can be read
 };
 
+/// What another program says of a probe: its section, its type, and values by the keys of its record.
+struct GivenProbe {
+    std::wstring section;
+    std::wstring type;
+    std::vector<Assignment> values;
+    std::vector<std::wstring> empty; ///< keys whose fields in a table are empty: they keep their values
+};
+
 /// Each text as a KEY=VALUE; UsageError for one that is none, and for a key that is given twice.
 [[nodiscard]] std::vector<Assignment> Assignments(const std::vector<std::wstring>& texts);
 

@@ -309,15 +309,16 @@ ExitCode RunSteps(const std::wstring& path, const std::wstring& from, StepLangua
             const std::string_view line = rest.substr(0, end);
             rest.remove_prefix(end);
             progress.Step();
-            batch.Do(batch.PlaceOf(number), [&] {
-                auto words = Words(isUtf8 ? *QuorIniFile::FromUtf8(line) : FromLatin1(line));
-                if (words.empty())
-                    return;
-                ++count;
-                for (const std::wstring& word : words)
-                    duplicates.Require(word);
-                MakeStep(std::move(words), language, rules)(*file);
-            });
+            batch.Do([number] { return std::to_wstring(number); },
+                     [&] {
+                         auto words = Words(isUtf8 ? *QuorIniFile::FromUtf8(line) : FromLatin1(line));
+                         if (words.empty())
+                             return;
+                         ++count;
+                         for (const std::wstring& word : words)
+                             duplicates.Require(word);
+                         MakeStep(std::move(words), language, rules)(*file);
+                     });
         }
         batch.RequireFine();
     });

@@ -3,8 +3,8 @@
 #include "QuorProbeFile/ProbeNames.h"
 #include "apps/quorconv/Batch.h"
 #include "apps/quorconv/HostFile.h"
+#include "apps/quorconv/JsonProbes.h"
 #include "apps/quorconv/ProbeCsv.h"
-#include "apps/quorconv/ProbeJson.h"
 #include "apps/quorconv/ProbeReader.h"
 #include "apps/quorconv/Progress.h"
 #include "apps/quorconv/Selection.h"
@@ -19,15 +19,6 @@ using namespace QuorProbeFile;
 
 namespace {
 
-/// A probe that was read, and where.
-struct Entry {
-    std::wstring place;
-    std::wstring section;
-    std::wstring type;
-    std::vector<Assignment> values;
-    std::vector<std::wstring> empty; // keys whose fields in a table are empty
-};
-
 /// Whether a section is there; a file that is still to be created has none.
 bool HasSection(ProbeFile& file, const std::wstring& section) {
     try {
@@ -40,37 +31,37 @@ bool HasSection(ProbeFile& file, const std::wstring& section) {
 }
 
 /// Raises Problem when the section that is there holds a probe of another type, or none.
-void RequireType(ProbeFile& file, const Entry& entry, const TypeInfo& type) {
+void RequireType(ProbeFile& file, const GivenProbe& given, const TypeInfo& type) {
     std::int16_t code = 0;
-    file.Store()->SetSection(entry.section);
+    file.Store()->SetSection(given.section);
     if (file.Store()->ReadInteger(QuorConversions::conversionTypeKey, code) && code == type.code)
         return;
-    const Probe present = ReadProbe(file, entry.section, entry.values);
+    const Probe present = ReadProbe(file, given.section, given.values);
     if (present.Conversion().ConversionType() != type.code)
-        throw Problem{Place(file.Path(), entry.section) + L": there is a probe of another type (" +
+        throw Problem{Place(file.Path(), given.section) + L": there is a probe of another type (" +
                       present.TypeName() + L") in this section; \"retype\" changes that"};
 }
 
 /// Writes a probe: over one of the same type, whose other values stay, or a new one, of which each value
 /// must be given.
-void PutProbe(ProbeFile& file, const Entry& entry, const ValueRules& rules) {
-    const TypeInfo& type = RequireSettingsType(entry.type);
-    if (HasSection(file, entry.section)) {
-        RequireType(file, entry, type);
-        AssignInFile(file, entry.section, entry.values, rules);
+void PutProbe(ProbeFile& file, const GivenProbe& given, const ValueRules& rules) {
+    const TypeInfo& type = RequireSettingsType(given.type);
+    if (HasSection(file, given.section)) {
+        RequireType(file, given, type);
+        AssignInFile(file, given.section, given.values, rules);
         return;
     }
-    RequireName(file.Path(), entry.section);
-    WriteNewProbe(file, entry.section, type.code, entry.values, rules);
+    RequireName(file.Path(), given.section);
+    WriteNewProbe(file, given.section, type.code, given.values, rules);
 }
 
 /// How many values a probe has kept because their fields are empty: it may lack values that others have.
-std::size_t CountKept(ProbeReader& reader, ProbeFile& file, const Entry& entry) {
-    if (entry.empty.empty())
+std::size_t CountKept(ProbeReader& reader, ProbeFile& file, const GivenProbe& given) {
+    if (given.empty.empty())
         return 0;
-    const ProbeValues& probe = reader.Read(file, entry.section);
+    const ProbeValues& probe = reader.Read(file, given.section);
     return static_cast<std::size_t>(
-        std::count_if(entry.empty.begin(), entry.empty.end(), [&](const std::wstring& path) {
+        std::count_if(given.empty.begin(), given.empty.end(), [&](const std::wstring& path) {
             return std::any_of(
                 probe.entries.begin(), probe.entries.end(),
                 [&](const RecordImage::Entry& value) { return EqualFolded(value.path, path); });
@@ -126,24 +117,23 @@ class Put final : public Command {
             ProbeReader reader;
             std::unordered_set<std::wstring> sections;
             count = kept = 0;
-            const auto put = [&](const Entry& entry) {
+            const auto put = [&](const GivenProbe& given, const std::function<std::wstring()>& place) {
                 progress.Step();
                 ++count;
-                batch.Do(entry.place, [&] {
-                    RequireNew(sections, entry.section);
-                    duplicates.Require(entry.section);
-                    PutProbe(*file, entry, m_rules);
-                    kept += CountKept(reader, *file, entry);
+                batch.Do(place, [&] {
+                    RequireNew(sections, given.section);
+                    duplicates.Require(given.section);
+                    PutProbe(*file, given, m_rules);
+                    kept += CountKept(reader, *file, given);
                 });
             };
             if (m_isJson)
-                ReadJson(text, from, batch, put);
+                ReadJson(text, batch, put);
             else
-                ReadProbeTable(
-                    text, from + L":", m_style, m_type.value_or(L""), batch, [&](CsvProbe&& probe) {
-                        put({batch.PlaceOf(probe.line), std::move(probe.section), std::move(probe.type),
-                             std::move(probe.values), std::move(probe.empty)});
-                    });
+                ReadProbeTable(text, from + L":", m_style, m_type.value_or(L""), batch,
+                               [&](const GivenProbe& given, std::size_t line) {
+                                   put(given, [line] { return std::to_wstring(line); });
+                               });
             batch.RequireFine();
         });
         TellCount(count, L"probe", m_isDryRun ? "would be put" : "put");
@@ -159,26 +149,24 @@ class Put final : public Command {
             throw Problem{L"[" + section + L"]: the section occurs twice"};
     }
 
-    static void ReadJson(const std::string& text, const std::wstring& from, Batch& batch,
-                         const std::function<void(const Entry&)>& use) {
-        const auto placeOf = [&](std::size_t line, std::size_t column) {
-            return from + L":" + std::to_wstring(line) + L":" + std::to_wstring(column) + L": ";
+    template <class Use>
+    static void ReadJson(const std::string& text, Batch& batch, const Use& use) {
+        JsonProbes probes(text);
+        TextPlaces places(text);
+        const auto tell = [&](const JsonError& error) {
+            batch.Do([&] { return places.At(error.offset); }, [&] { throw Problem{error.text}; });
         };
+        const auto place = [&] { return places.At(probes.Offset()); };
         try {
-            ReadJsonObjects(text, [&](const JsonValue& object) {
+            while (probes.Next()) {
                 try {
-                    JsonProbe probe = ReadJsonProbe(object);
-                    use({placeOf(object.line, object.column),
-                         std::move(probe.section),
-                         std::move(probe.type),
-                         std::move(probe.values),
-                         {}});
+                    use(probes.Read(), place);
                 } catch (const JsonError& error) {
-                    batch.Do(placeOf(error.line, error.column), [&] { throw Problem{error.text}; });
+                    tell(error);
                 }
-            });
+            }
         } catch (const JsonError& error) {
-            batch.Do(placeOf(error.line, error.column), [&] { throw Problem{error.text}; });
+            tell(error);
         }
     }
 };
