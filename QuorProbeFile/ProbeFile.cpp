@@ -81,12 +81,12 @@ private:
 } // namespace
 
 ProbeFile::ProbeFile(std::wstring_view path, Opening opening)
-    : m_path(path), m_store(std::make_shared<IniStore>()) {
+    : m_path(path), m_standAlone(StandAloneSection(path)), m_store(std::make_shared<IniStore>()) {
     Load(path, opening);
 }
 
 ProbeFile::ProbeFile(std::wstring_view path, QuorIniFile::IniFileSystem& files, Opening opening)
-    : m_path(path), m_store(std::make_shared<IniStore>(files)) {
+    : m_path(path), m_standAlone(StandAloneSection(path)), m_store(std::make_shared<IniStore>(files)) {
     Load(path, opening);
 }
 
@@ -116,7 +116,6 @@ void ProbeFile::Survey() {
     if (!exists)
         return;
     const SelectedSection selected(*m_store);
-    const auto standAlone = StandAloneSection(m_path);
     const std::string typeKey = QuorIniFile::ToUtf8(conversionTypeKey);
     const bool isPlain = m_store->HasPlainHeaders();
     SectionIndex sections;
@@ -130,7 +129,7 @@ void ProbeFile::Survey() {
             m_lostSections.push_back(header.Number());
         else if (isFirst && hasType)
             m_probes.push_back({header.Name(), header.Number(), type, false});
-        else if (isFirst && standAlone && EqualFolded(header.Name(), *standAlone))
+        else if (isFirst && m_standAlone && EqualFolded(header.Name(), *m_standAlone))
             m_probes.push_back({header.Name(), header.Number(), {}, true});
     };
     while (lines.NextHeaderOr(typeKey)) {
@@ -250,8 +249,7 @@ std::optional<ProbeEntry> ProbeFile::Locate(std::wstring_view section) {
             probe.type = EQuorConversionType{code};
         return probe;
     }
-    const auto standAlone = StandAloneSection(m_path);
-    if (!standAlone || !EqualFolded(*standAlone, section))
+    if (!m_standAlone || !EqualFolded(*m_standAlone, section))
         return std::nullopt;
     probe.standAlone = true;
     return probe;
@@ -381,9 +379,9 @@ TakenNames ProbeFile::NestedSections() {
 
 /// Raises if settings of a new probe would stand in a section that is there, or others be read as part of
 /// them.
-void ProbeFile::RequireNoSettings(std::wstring_view section) {
+void ProbeFile::RequireNoSettings(std::wstring_view section, const std::wstring& settings) {
     auto other = m_nested.SettingsOf(section);
-    if (const std::wstring settings = SettingsSection(section); HasSection(settings)) {
+    if (HasSection(settings)) {
         const std::vector<std::wstring> sections = Sections();
         other = *std::find_if(sections.begin(), sections.end(),
                               [&](const std::wstring& present) { return EqualFolded(present, settings); });
@@ -425,12 +423,11 @@ void ProbeFile::RemoveOldSettings(const std::vector<ProbeToWrite>& probes) {
         MoveSections([&](ProbeMove& move) { move.changesType = changing.contains(move.section); });
 }
 
-/// Writes a probe by `write`, if it can stand in that section.
+/// Writes a probe by `write`, if it can stand in that section, in which there is the probe `present`, or
+/// nothing.
 void ProbeFile::WriteOne(const std::wstring& section, EQuorConversionType type,
+                         const std::optional<ProbeEntry>& present,
                          const std::function<void(bool standAlone)>& write) {
-    const auto present = Locate(section);
-    if (!present && HasSection(section))
-        throw Error(PROBE_SECTION_OF_HOST, section);
     const bool getsSettings =
         present && !present->standAlone && !MayHaveSettings(present->type) && MayHaveSettings(type);
     if ((!present || getsSettings) && m_namesText != m_store->TextNumber()) {
@@ -439,10 +436,11 @@ void ProbeFile::WriteOne(const std::wstring& section, EQuorConversionType type,
     }
     if (!present)
         RequireName(section, nullptr, m_nested);
+    const std::wstring settings = SettingsSection(section);
     if (!present || getsSettings)
-        RequireNoSettings(section);
-    const auto standAlone = StandAloneSection(m_path);
-    const bool isStandAlone = present ? present->standAlone : standAlone && EqualFolded(*standAlone, section);
+        RequireNoSettings(section, settings);
+    const bool isStandAlone =
+        present ? present->standAlone : m_standAlone && EqualFolded(*m_standAlone, section);
     if (isStandAlone) {
         // Types share sections, not extensions: a PT100 would fit into a "cvd" file, and then be no valid
         // one.
@@ -455,9 +453,9 @@ void ProbeFile::WriteOne(const std::wstring& section, EQuorConversionType type,
     if (!namesAreKnown)
         return;
     // A host that writes thousands of new ones in one edit has no time to look at all sections for each.
-    for (const std::wstring& written : {section, SettingsSection(section)})
-        if (IsNested(written) && HasSection(written))
-            m_nested.Add(written);
+    for (const std::wstring* const written : {&section, &settings})
+        if (IsNested(*written) && HasSection(*written))
+            m_nested.Add(*written);
     m_namesText = m_store->TextNumber();
 }
 
@@ -555,7 +553,10 @@ void ProbeFile::Write(const std::vector<ProbeToWrite>& probes) {
         for (const ProbeToWrite& probe : probes) {
             RequireConsistent(probe.section, probe.conversion, check);
             const CQuorConversion& conversion = probe.conversion;
-            WriteOne(probe.section, conversion.ConversionType(),
+            const auto present = Locate(probe.section);
+            if (!present && HasSection(probe.section))
+                throw Error(PROBE_SECTION_OF_HOST, probe.section);
+            WriteOne(probe.section, conversion.ConversionType(), present,
                      [&](bool standAlone) { WriteRecord(m_store, probe.section, conversion, standAlone); });
         }
     });
@@ -572,7 +573,7 @@ void ProbeFile::WriteNew(std::wstring_view section, EQuorConversionType type,
             throw Error(PROBE_NAME_IS_TAKEN, section);
         if (!FindType(type))
             throw Error(PROBE_UNKNOWN_TYPE, section, TypeName(type));
-        WriteOne(section, type, [&](bool standAlone) {
+        WriteOne(section, type, std::nullopt, [&](bool standAlone) {
             const std::wstring settings = standAlone ? section : SettingsSection(section);
             if (!standAlone) {
                 begin(section);
@@ -599,8 +600,8 @@ void ProbeFile::Rename(std::wstring_view section, std::wstring_view name) {
         const ProbeEntry probe = Require(section);
         if (!EqualFolded(section, name)) // else its sections keep their places and their names
             RequireName(name, &probe, NamesBut(&probe));
-        const auto standAlone = StandAloneSection(m_path);
-        if (probe.standAlone || (standAlone && !EqualFolded(section, name) && EqualFolded(*standAlone, name)))
+        if (probe.standAlone ||
+            (m_standAlone && !EqualFolded(section, name) && EqualFolded(*m_standAlone, name)))
             throw Error(PROBE_DOES_NOT_FIT_FILE, name, section);
         MoveSections([&](ProbeMove& move) {
             if (EqualFolded(move.section, section))

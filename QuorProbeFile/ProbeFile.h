@@ -230,10 +230,11 @@ private:
     [[nodiscard]] TakenNames NamesBut(const ProbeEntry* except);
     [[nodiscard]] TakenNames NestedSections();
     void RequireName(std::wstring_view name, const ProbeEntry* except, const TakenNames& names);
-    void RequireNoSettings(std::wstring_view section);
+    void RequireNoSettings(std::wstring_view section, const std::wstring& settings);
     void MoveSections(const std::function<void(ProbeMove&)>& move);
     void RemoveOldSettings(const std::vector<ProbeToWrite>& probes);
     void WriteOne(const std::wstring& section, QuorConversions::EQuorConversionType type,
+                  const std::optional<ProbeEntry>& present,
                   const std::function<void(bool standAlone)>& write);
     template <class Body>
     void WithRefusal(std::wstring_view section, const Body& body) const;
@@ -246,6 +247,7 @@ private:
                                         const QuorConversions::CQuorConversion& result);
 
     std::wstring m_path;
+    std::optional<std::wstring> m_standAlone; // the section of its record if it is a stand-alone file
     std::shared_ptr<QuorIniFile::IniStore> m_store;
     std::uint64_t m_surveyed = 0; // the number of the text that was surveyed
     std::vector<ProbeEntry> m_probes;

@@ -5,7 +5,11 @@
 
 namespace QuorProbeFile {
 
-std::wstring SettingsSection(std::wstring_view probe) { return std::wstring(probe).append(settingsMark); }
+std::wstring SettingsSection(std::wstring_view probe) {
+    std::wstring section;
+    section.reserve(probe.size() + settingsMark.size());
+    return section.append(probe).append(settingsMark);
+}
 
 bool HoldsSettingsOf(std::wstring_view section, std::wstring_view probe) {
     const std::size_t length = probe.size() + settingsMark.size();

@@ -102,8 +102,10 @@ private:
     }
 
     void Decode(std::string_view bytes, std::wstring& text) const {
-        if (std::all_of(bytes.begin(), bytes.end(),
-                        [](char c) { return static_cast<unsigned char>(c) < 0x80; })) {
+        unsigned char all = 0;
+        for (const char byte : bytes)
+            all |= static_cast<unsigned char>(byte);
+        if (all < 0x80) {
             text.assign(bytes.begin(), bytes.end()); // as nearly all are
             return;
         }

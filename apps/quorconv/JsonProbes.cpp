@@ -209,7 +209,8 @@ GivenProbe ReadObject(const JsonValue& object, std::vector<PlaceInObject>& place
 }
 
 std::size_t CountDigits(std::string_view text) {
-    return std::min(text.find_first_not_of("0123456789"), text.size());
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isDigit) - text.begin());
 }
 
 /// The length of the number at the start of a text; 0 for what is none, or one of so many digits that it may

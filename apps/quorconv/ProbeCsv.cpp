@@ -207,7 +207,8 @@ public:
             const Value kind = key ? key->initial : Value(0.0);
             if (std::holds_alternative<double>(kind))
                 RequirePoint(assignment.value, line, i, decimal);
-            if (!ParseAs(kind, assignment.value))
+            assignment.parsed = ParseAs(kind, assignment.value);
+            if (!assignment.parsed)
                 Fail(line, i, WhatIsWrong(kind, fields[i]));
         }
         m_probe.values.resize(given);

@@ -429,16 +429,19 @@ bool GiveAll(ProbeValues& probe, const std::vector<Assignment>& assignments, con
         return false;
     for (std::size_t at = 0; at < assignments.size(); ++at) {
         const auto isMeant = [&](const RecordImage::Entry& entry) {
-            return EqualFolded(entry.path, assignments[at].key);
+            return entry.path == assignments[at].key || EqualFolded(entry.path, assignments[at].key);
         };
         auto entry = probe.entries.begin() + static_cast<std::ptrdiff_t>(at);
         if (!isMeant(*entry))
             entry = std::find_if(probe.entries.begin(), probe.entries.end(), isMeant);
-        auto value =
-            entry == probe.entries.end() ? std::nullopt : ParseAs(entry->value, assignments[at].value);
+        if (entry == probe.entries.end())
+            return false;
+        const bool isParsed =
+            assignments[at].parsed && assignments[at].parsed->index() == entry->value.index();
+        const auto value = isParsed ? assignments[at].parsed : ParseAs(entry->value, assignments[at].value);
         if (!value || !IsTakenAlone(*value, entry->value, rules))
             return false;
-        entry->value = *std::move(value);
+        entry->value = *value;
     }
     return true;
 }

@@ -18,6 +18,7 @@ struct Assignment {
     std::wstring key;
     std::wstring value;
     bool completes = false; ///< there is no such key in the file, or none that can be read
+    std::optional<QuorProbeFile::Value> parsed = std::nullopt; ///< where somebody has read the text already
 };
 
 /// What another program says of a probe: its section, its type, and values by the keys of its record.
