@@ -9,8 +9,8 @@
 
 namespace QuorProbeFile {
 
-/// What can be wrong with a probe's record or its file; from 101 on warnings about records that are readable
-/// but have implausible values (ProbeWarning.h). Hosts may store these numbers: they are only added to.
+/// What can be wrong with a probe's record or its file; from 101 on warnings about what is readable but
+/// implausible (ProbeWarning.h). Hosts may store these numbers: they are only added to.
 enum EProbeProblem : std::int32_t {
     PROBLEM_SECTION_MISSING = 1,    ///< there is no section with the settings, or with a range of them
     PROBLEM_KEY_MISSING = 2,        ///< the section has no such key
@@ -50,6 +50,7 @@ enum EProbeProblem : std::int32_t {
     WARNING_THERMISTOR_B1_SIZE = 120,
     WARNING_COUNT_DOES_NOT_FIT = 121, ///< values beyond the count are not 0
     WARNING_UNKNOWN_CODE = 122,       ///< the code is not that of a thermocouple type
+    WARNING_NO_SUCH_PROBE = 123,      ///< settings of a probe that is not there
 };
 
 /// One problem, and where it is.
@@ -61,7 +62,7 @@ struct ProbeProblem {
     std::wstring text;    ///< what is wrong, for people, without the place: "the key is missing"
     /// The parts of `text`, for programs that word it in another language.
     std::vector<ProbePhrase> phrases = {};
-    /// Whether it is a warning about an implausible value of a readable record.
+    /// Whether it is a warning: nothing that prevents a record from being read.
     [[nodiscard]] bool IsWarning() const { return kind >= WARNING_R0_NOT_POSITIVE; }
     /// The phrases say the same as the text.
     friend bool operator==(const ProbeProblem& a, const ProbeProblem& b) {

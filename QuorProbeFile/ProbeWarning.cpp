@@ -85,6 +85,12 @@ const std::vector<ProbeWarning>& Warnings() {
          L"out what was meant"},
         Size(WARNING_UNKNOWN_CODE, L"unknown-code", L"TCType of thermocouples", -1.0, 12.0,
              L"the codes of the types that have a letter, and -1 for none"),
+        {WARNING_NO_SUCH_PROBE, L"no-such-probe",
+         L"sections named like the settings of a probe P, or nested in them, that have a coefficient, a "
+         L"temperature or another measured value of a record",
+         L"P is a probe",
+         L"a probe is two sections or more; when only the first is removed or renamed, or has lost its "
+         L"ConversionType, nobody reads the others"},
     };
     return warnings;
 }

@@ -10,7 +10,7 @@
 namespace QuorProbeFile {
 
 /// A kind of warning of ProbeFile::Check, about a record that is readable but has values that no thermometer
-/// has. docs/checks.md has the same as a table.
+/// has, or about settings that no probe reads. docs/checks.md has the same as a table.
 struct ProbeWarning {
     EProbeProblem kind;  ///< its number
     std::wstring id;     ///< a short name that never changes, by which users silence it: "r0-not-positive"

@@ -637,7 +637,8 @@ enum {
     QUOR_WARNING_THERMISTOR_A3_SIZE = 119,
     QUOR_WARNING_THERMISTOR_B1_SIZE = 120,
     QUOR_WARNING_COUNT_DOES_NOT_FIT = 121, /* values beside a count that it leaves out are not 0 */
-    QUOR_WARNING_UNKNOWN_CODE = 122 /* no thermocouple type has the code */
+    QUOR_WARNING_UNKNOWN_CODE = 122, /* no thermocouple type has the code */
+    QUOR_WARNING_NO_SUCH_PROBE = 123 /* settings of a probe that is not there */
 };
 
 /* ---- Classes ---------------------------------------------------------------------------------------------------- */

@@ -5,6 +5,7 @@
 #include "QuorIniFile/ValueText.h"
 #include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeTypes.h"
+#include "QuorProbeFile/RecordReference.h"
 #include "QuorProbeFile/detail/RecordComparison.h"
 #include "QuorProbeFile/detail/RecordProblems.h"
 #include "QuorProbeFile/detail/RecordReading.h"
@@ -16,6 +17,7 @@
 #include <map>
 #include <set>
 #include <utility>
+#include <variant>
 
 namespace QuorProbeFile {
 
@@ -65,6 +67,19 @@ bool IsCounted(const CountKey& count, std::wstring_view key) {
         return index.find_first_not_of(L"0123456789") == std::wstring_view::npos &&
                (index.size() == 1 || index.front() != L'0');
     });
+}
+
+/// The keys for coefficients, points and other measured values that a section of any record can have.
+const NameSet& MeasuredKeys() {
+    static const NameSet keys = [] {
+        NameSet found;
+        for (const TypeInfo& type : Types())
+            for (const RecordKey& key : RecordKeys(type.code))
+                if (std::holds_alternative<double>(key.initial))
+                    found.insert(key.path.substr(key.path.find(L'/') + 1));
+        return found;
+    }();
+    return keys;
 }
 
 /// What the library has asked for in a section.
@@ -124,6 +139,25 @@ public:
         CheckSections(reading, probe, isLookedThrough);
     }
 
+    /// Settings of probes that are not there. A host may have sections that are named so: they count only if
+    /// they hold measured values.
+    void CheckOwners(const std::vector<ProbeEntry>& probes) {
+        NameSet owners;
+        for (const ProbeEntry& probe : probes)
+            owners.insert(probe.section);
+        const auto isThere = [&owners](std::wstring_view owner) { return owners.contains(owner); };
+        for (IniLines lines = m_store->Lines(); lines.NextHeader();) {
+            const std::wstring section = lines.Name();
+            const auto possible = PossibleOwners(section);
+            if (possible.empty() || std::any_of(possible.begin(), possible.end(), isThere))
+                continue;
+            const SectionIndex::Section& place = *m_places.Section(section);
+            if (place.header.number == lines.Number() && HoldsMeasured(place)) // the first one of its name
+                Report(ProblemIn(WARNING_NO_SUCH_PROBE, lines.Number(), section, {},
+                                 {{PROBE_TEXT_NO_SUCH_PROBE, {std::wstring(possible.back())}}}));
+        }
+    }
+
     /// What saves have left beside the file.
     void CheckLeftovers(std::vector<ProbeProblem>& problems) const {
         for (const IniLeftover& leftover : m_store->Leftovers())
@@ -140,6 +174,14 @@ public:
     }
 
 private:
+    [[nodiscard]] bool HoldsMeasured(const SectionIndex::Section& section) {
+        bool holds = false;
+        m_places.ForEachLine(section, [&](const IniLines& line) {
+            holds = holds || (line.Is(IniLines::Kind::Key) && MeasuredKeys().contains(line.Name()));
+        });
+        return holds;
+    }
+
     void Warn(const RecordReading& reading, const ProbeEntry& probe) {
         for (RecordWarning& warning : WarningsOf(reading))
             Report(ProblemAt(*warning.read, probe, m_places, warning.kind, {std::move(warning.phrase)}));
@@ -253,6 +295,8 @@ std::vector<ProbeProblem> CheckFile(const std::shared_ptr<IniStore>& store, cons
     for (const std::size_t line : lostSections)
         check.Report(ProblemIn(PROBLEM_UNCLOSED_HEADER, line, {}, {}, {{PROBE_TEXT_UNCLOSED_HEADER}}));
     check.CheckHiddenLines();
+    if (lostSections.empty()) // any of those may be the probe
+        check.CheckOwners(probes);
     for (const ProbeEntry& probe : probes) {
         check.CheckRecord(path, probe);
         afterEach();

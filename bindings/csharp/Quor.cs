@@ -663,6 +663,8 @@ namespace QuorConversions {
         WARNING_COUNT_DOES_NOT_FIT = 121,
         /// <summary>no thermocouple type has the code</summary>
         WARNING_UNKNOWN_CODE = 122,
+        /// <summary>settings of a probe that is not there</summary>
+        WARNING_NO_SUCH_PROBE = 123,
     }
 
     /// <summary>CQuorConversion</summary>

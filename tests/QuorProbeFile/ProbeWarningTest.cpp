@@ -312,6 +312,32 @@ TEST_F(ProbeWarningTest, TheFormsOfCallendarVanDusenHaveTheirOwnLimits) {
         << "nobody knows which form it is";
 }
 
+TEST_F(ProbeWarningTest, SettingsOfAProbeThatIsNotThereAreTold) {
+    EXPECT_EQ(Told("[P - Settings]\nRTPW=25.5\n[P - Settings - High Range]\nRange=8\nCoefficients0=-4E-4\n"
+                   "[P - Settings - Low Range]\nRange=-1\n[Q]\nConversionType=14\n[q - settings]\nRTPW=25\n"),
+              (Texts{L"1  123 these are settings of \"P\", but there is no such probe",
+                     L"3  123 these are settings of \"P\", but there is no such probe"}))
+        << "a range without coefficients holds nothing that was measured";
+    EXPECT_EQ(Told("[P]\nConversonType=14\n[P - Settings]\nrtpw=25\n"),
+              Texts{L"3  123 these are settings of \"P\", but there is no such probe"});
+    EXPECT_EQ(Told("[P]\nName=Display\n[P - Settings]\nRange=3\nName=x\nVersion=1.0\nCoefficients=4\n"),
+              Texts{})
+        << "it is the host's";
+    EXPECT_EQ(Told("[P]\nConversionType=-1\n[P - Settings]\nRTPW=25\n"), Texts{})
+        << "a probe without settings, and what was kept of another type";
+}
+
+TEST_F(ProbeWarningTest, SettingsWhoseProbeMayBeTheOneWithABrokenHeaderAreNotToldAsWell) {
+    EXPECT_EQ(Told("[P\nConversionType=14\n[P - Settings]\nRTPW=25\n"),
+              Texts{L"1  11 the header has no \"]\"; nobody can read the record below it"});
+}
+
+TEST_F(ProbeWarningTest, SettingsThatStandTwiceWithoutAProbeAreToldOnceAsThese) {
+    EXPECT_EQ(Told("[P - Settings]\nRTPW=25\n[P - Settings]\nRTPW=26\n"),
+              (Texts{L"1  123 these are settings of \"P\", but there is no such probe",
+                     L"3  10 the section occurs twice; the one in line 1 is read"}));
+}
+
 TEST_F(ProbeWarningTest, ARecordThatIsRefusedOrHasNoTypeHasNoWarnings) {
     EXPECT_EQ(
         Told(
@@ -349,7 +375,7 @@ TEST(ProbeWarnings, NumbersAndIdsAreDifferent) {
         EXPECT_EQ(FindWarning(warning.id), &warning);
         EXPECT_FALSE(warning.source.empty());
     }
-    EXPECT_EQ(next, 123);
+    EXPECT_EQ(next, 124);
     EXPECT_EQ(FindWarning(PROBLEM_KEY_MISSING), nullptr);
     EXPECT_EQ(FindWarning(L"no-such-warning"), nullptr);
 }

@@ -1223,5 +1223,9 @@ Qt %1, unter der LGPL.</translation>
         <source>~ leaves out these values, which are not 0: ~</source>
         <translation>~ lässt diese Werte weg, die nicht 0 sind: ~</translation>
     </message>
+    <message>
+        <source>these are settings of &quot;~&quot;, but there is no such probe</source>
+        <translation>dies sind Einstellungen von „~“, aber diesen Fühler gibt es nicht</translation>
+    </message>
 </context>
 </TS>

@@ -282,6 +282,7 @@ class ProbeProblem(IntEnum):
     WARNING_THERMISTOR_B1_SIZE = 120
     WARNING_COUNT_DOES_NOT_FIT = 121  # values beside a count that it leaves out are not 0
     WARNING_UNKNOWN_CODE = 122  # no thermocouple type has the code
+    WARNING_NO_SUCH_PROBE = 123  # settings of a probe that is not there
 
 
 class CQuorConversion(Object):

@@ -256,6 +256,7 @@ class ProbeProblem(IntEnum):
     WARNING_THERMISTOR_B1_SIZE = 120
     WARNING_COUNT_DOES_NOT_FIT = 121
     WARNING_UNKNOWN_CODE = 122
+    WARNING_NO_SUCH_PROBE = 123
 
 class CQuorConversion(Object):
     def __init__(self, platform: _Platform | HostObject | None = ...) -> None: ...

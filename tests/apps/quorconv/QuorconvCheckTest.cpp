@@ -206,6 +206,25 @@ TEST_F(QuorconvTest, WarnsOfCoefficientsThatACountLeavesOut) {
                "values, which are not 0: Coefficients1 [count-does-not-fit]\n");
 }
 
+TEST_F(QuorconvTest, WarnsOfSettingsWhoseProbeIsNotThere) {
+    folder.Write("host.ini", "[Display - Settings]\nBrightness=7\nRange=2\n"
+                             "[Bath - Settings]\nNumCoefficients=1\nCoefficients0=100\n");
+    const std::string text = "[Bath - Settings] these are settings of \"Bath\", but there is no such probe";
+    ExpectFine({"check", "host.ini"}, "host.ini:4: warning: " + text + " [no-such-probe]\n");
+    ExpectFine({"check", "host.ini", "--format", "gcc"},
+               "host.ini:4:1: warning: " + text + " [no-such-probe]\n");
+    ExpectFine({"check", "host.ini", "--format", "github"},
+               "::warning file=host.ini,line=4,title=no-such-probe::" + text + "\n");
+    ExpectFine({"check", "host.ini", "--json"},
+               R"([
+  {"file": "host.ini", "line": 4, "section": "Bath - Settings", "key": "", "id": "no-such-probe", )"
+               R"("severity": "warning", "text": "these are settings of \"Bath\", but there is no such probe"}
+]
+)");
+    ExpectFine({"check", "host.ini", "--strict", "--ignore", "no-such-probe"});
+    EXPECT_EQ(Quorconv({"check", "host.ini", "--strict"}).code, 1);
+}
+
 TEST_F(QuorconvTest, AStrictCheckEndsWithOneForAWarning) {
     folder.Write("host.ini", hardlyMeant);
     folder.Write("good.w90", "[W(T90)]\nRTPW=25.5\n");
