@@ -155,6 +155,8 @@ namespace {
 
 using Entries = std::vector<RecordImage::Entry>;
 
+bool IsMinusZero(double number) { return number == 0.0 && std::signbit(number); }
+
 /// Whether something is lost with a value. Counts, codes and flags follow from others where nobody gives
 /// them.
 bool SaysSomething(const Value& value) {
@@ -199,6 +201,12 @@ public:
             m_image = RecordImage::Of(m_settings);
         }
         RequireTaken();
+        const auto isMinusZero = [](const RecordImage::Entry& entry) {
+            const double* const number = std::get_if<double>(&entry.value);
+            return number && IsMinusZero(*number);
+        };
+        if (std::any_of(m_assigned.begin(), m_assigned.end(), isMinusZero))
+            m_image = AsReadAgain(); // some values are read as 0 from "-0": 0 is what is written of them
     }
 
     /// Raises Problem for a value that was not given.
@@ -268,6 +276,13 @@ public:
     }
 
 private:
+    /// The record as it is read from a file that has it.
+    [[nodiscard]] std::shared_ptr<RecordImage> AsReadAgain() const {
+        CQuorConversion conversion;
+        conversion.SetConversionType(m_probe.Conversion().ConversionType());
+        RecordImage::Apply(m_image, *conversion.Settings());
+        return RecordImage::Of(*conversion.Settings());
+    }
     /// The entries as they were of flags, counts, codes and texts that have other values now. One that
     /// the file did not have had no meaning for the others.
     [[nodiscard]] Entries Redecided() const {
@@ -418,7 +433,7 @@ bool IsTakenAlone(const Value& value, const Value& before, const ValueRules& rul
     const double* const number = std::get_if<double>(&value);
     if (!number)
         return SameValue(value, before);
-    return (std::isfinite(*number) || rules.allowsNan) && !(*number == 0.0 && std::signbit(*number));
+    return (std::isfinite(*number) || rules.allowsNan) && !IsMinusZero(*number);
 }
 
 /// Gives a record all of its values: numbers, and what it has already. False when these are not all, or when

@@ -89,6 +89,37 @@ TEST_F(QuorconvExchangeTest, LosesNoBitOfANumberInJson) {
               "it\n");
 }
 
+TEST_F(QuorconvExchangeTest, AMinusZeroIsStoredAsGivenOrAs0WhereItIsReadAs0) {
+    const std::string given = "[W]\nConversionType=14\n[W - Settings]\nRTPW=25\n"
+                              "[V]\nConversionType=14\n[V - Settings]\nRTPW=0.0\n"
+                              "[R]\nConversionType=19\n[R - Settings]\nNumCoefficients=1\nCoefficients0=0\n";
+    const std::string after = "[W]\nConversionType=14\n[W - Settings]\nRTPW=0\n"
+                              "[V]\nConversionType=14\n[V - Settings]\nRTPW=0.0\n"
+                              "[R]\nConversionType=19\n[R - Settings]\nNumCoefficients=1\nCoefficients0=-0\n";
+    folder.Write("steps", "set W RTPW=-0\nset V RTPW=-0\nset R Coefficients0=-0\n");
+    folder.Write("w.csv", "section,type,RTPW\nW,14,-0\nV,14,-0\n");
+    folder.Write("r.csv", "section,type,Coefficients0\nR,19,-0\n");
+    folder.Write("w.json", R"([{"section": "W", "type": "CONV_WT90", "settings": {"RTPW": -0.0}},)"
+                           R"({"section": "V", "type": "CONV_WT90", "settings": {"RTPW": -0.0}},)"
+                           R"({"section": "R", "type": "CONV_PT100R0", "settings": )"
+                           R"({"NumCoefficients": 1, "Coefficients": [{"name": "R0", "value": -0.0}]}}])");
+    for (const char* const line :
+         {"quorconv set host.ini W RTPW=-0 && quorconv set host.ini V RTPW=-0 && "
+          "quorconv set host.ini R Coefficients0=-0",
+          "quorconv apply host.ini steps 2>/dev/null",
+          "quorconv put host.ini w.csv --csv 2>/dev/null && quorconv put host.ini r.csv --csv 2>/dev/null",
+          "quorconv put host.ini w.json --json 2>/dev/null"}) {
+        folder.Write("host.ini", given);
+        ExpectShell(line, "");
+        EXPECT_EQ(folder.Read("host.ini"), after) << line;
+        ExpectShell("quorconv get host.ini W RTPW; quorconv get host.ini R Coefficients0", "0\n-0\n");
+    }
+    ExpectFine({"new", "new.ini", "W", "14", "RTPW=-0"});
+    ExpectFine({"get", "new.ini", "W", "RTPW"}, "0\n");
+    EXPECT_EQ(folder.Read("new.ini"),
+              "[W]\nVersion=1.0\nConversionType=14\n\n[W - Settings]\nVersion=1.0\nRTPW=0\n");
+}
+
 TEST_F(QuorconvExchangeTest, RefusesJsonThatNoProbeIsWithLineAndColumn) {
     ExpectRefusedJson("[\n  {\"section\": 1}\n]", "in.json:2:15: \"section\" is not a text");
     ExpectRefusedJson("{\"section\": \"P\"", "in.json:1:16: missing a comma or '}' after an object member");

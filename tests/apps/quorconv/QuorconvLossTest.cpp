@@ -133,16 +133,6 @@ TEST_F(QuorconvLossTest, StepsAndTablesNameTheirLineWhenTheyWouldLoseValues) {
     EXPECT_EQ(folder.Read("a.ini"), Replaced(before, "NumCoefficients=4", "NumCoefficients=1"));
 }
 
-TEST_F(QuorconvLossTest, AMinusZeroIsTakenWhereTheSettingsKeepTheirZero) {
-    ExpectFine({"new", "a.ini", "P", "w90", "RTPW=-0"});
-    EXPECT_EQ(folder.Read("a.ini"),
-              "[P]\nVersion=1.0\nConversionType=14\n\n[P - Settings]\nVersion=1.0\nRTPW=0\n");
-    ExpectFine({"set", "a.ini", "P", "RTPW=25.5"});
-    ExpectFine({"set", "a.ini", "P", "RTPW=-0"});
-    EXPECT_EQ(folder.Read("a.ini"),
-              "[P]\nVersion=1.0\nConversionType=14\n\n[P - Settings]\nVersion=1.0\nRTPW=-0\n");
-}
-
 TEST_F(QuorconvLossTest, SeveralFilesAreTriedBeforeTheFirstOneIsSaved) {
     ExpectFine({"new", "a.ini", "P", "w90", "RTPW=1"});
     ExpectFine({"new", "b.ini", "Q", "w90", "RTPW=1"});
