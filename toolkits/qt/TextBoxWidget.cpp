@@ -26,14 +26,15 @@ constexpr std::int16_t pasteKey = 22;
 
 /// Keys that stand for what they do, in whatever combination the system has for it.
 const struct {
+    const char* entry; // of the context menu: Qt's own text, in Qt's own translation
     QKeySequence::StandardKey key;
     std::int16_t keyAscii;
     void (QLineEdit::*perform)();
 } editingKeys[] = {
-    {QKeySequence::Copy, 3, nullptr},         // copying is const
-    {QKeySequence::Paste, pasteKey, nullptr}, // it asks what is to be pasted
-    {QKeySequence::Cut, 24, &QLineEdit::cut},
-    {QKeySequence::Undo, 26, &QLineEdit::undo},
+    {"&Copy", QKeySequence::Copy, 3, nullptr},          // copying is const
+    {"&Paste", QKeySequence::Paste, pasteKey, nullptr}, // it asks what is to be pasted
+    {"Cu&t", QKeySequence::Cut, 24, &QLineEdit::cut},
+    {"&Undo", QKeySequence::Undo, 26, &QLineEdit::undo},
 };
 
 /// A character typed with Control, Alt or the system key is a command. Both Control and Alt are AltGr.
@@ -175,12 +176,13 @@ void TextBoxWidget::mouseReleaseEvent(QMouseEvent* event) {
 void TextBoxWidget::contextMenuEvent(QContextMenuEvent* event) {
     QMenu* const menu = createStandardContextMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    static constexpr const char* caption = "&Paste"; // Qt's own text, in Qt's own translation
     for (QAction* const action : menu->actions())
-        if (action->text().startsWith(QLineEdit::tr(caption))) {
-            disconnect(action, nullptr, this, nullptr);
-            connect(action, &QAction::triggered, this, [this] { PasteFrom(QClipboard::Clipboard); });
-        }
+        for (const auto& row : editingKeys)
+            if (action->text().startsWith(QLineEdit::tr(row.entry))) { // it does what its key does
+                disconnect(action, nullptr, this, nullptr);
+                connect(action, &QAction::triggered, this,
+                        [this, key = row.keyAscii] { Perform(m_filter(key)); });
+            }
     menu->popup(event->globalPos());
 }
 

@@ -98,6 +98,17 @@ protected:
         box.grab(); // the text is scrolled when it is drawn
         return box.inputMethodQuery(Qt::ImCursorRectangle).toRect().center().x();
     }
+    /// Chooses an entry of the context menu.
+    void Choose(const char* entry) {
+        QContextMenuEvent asksForMenu(QContextMenuEvent::Mouse, {5, 5}, box.mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(&box, &asksForMenu);
+        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        for (QAction* const action : menu->actions())
+            if (action->text().startsWith(QLatin1String(entry)))
+                action->trigger();
+        menu->close();
+    }
     /// Presses a key that has a text, as the system reports it.
     void Press(int key, const QString& text, Qt::KeyboardModifiers modifiers = none) {
         QTest::sendKeyEvent(QTest::Click, &box, static_cast<Qt::Key>(key), text, modifiers);
@@ -279,14 +290,7 @@ TEST_F(TextBoxWidgetTest, TakesATextThatIsDroppedOnIt) {
 TEST_F(TextBoxWidgetTest, AsksWhatBecomesOfATextFromKeysMenuAndDrops) {
     QTest::keyClick(&box, Qt::Key_V, control);
     QTest::keyClick(&box, Qt::Key_Insert, shift);
-    QContextMenuEvent asksForMenu(QContextMenuEvent::Mouse, {5, 5}, box.mapToGlobal(QPoint(5, 5)));
-    QApplication::sendEvent(&box, &asksForMenu);
-    auto* const menu = box.findChild<QMenu*>();
-    ASSERT_NE(menu, nullptr);
-    for (QAction* const action : menu->actions())
-        if (action->text().startsWith(QStringLiteral("&Paste")))
-            action->trigger();
-    menu->close();
+    Choose("&Paste");
     QMimeData text;
     text.setText(QStringLiteral("99.9746"));
     QDragEnterEvent enters(box.rect().center(), Qt::MoveAction, &text, Qt::LeftButton, none);
@@ -324,6 +328,25 @@ TEST_F(TextBoxWidgetTest, UndoTakesBackAPasteAndNothingElse) {
     EXPECT_EQ(Text(), "2.5");
     QTest::keyClick(&box, Qt::Key_Z, control);
     EXPECT_EQ(Text(), "17");
+}
+
+TEST_F(TextBoxWidgetTest, TheMenuAsksAboutTheKeysThatItsEntriesStandFor) {
+    QTest::keyClicks(&box, QStringLiteral("17"));
+    asked.clear();
+    Choose("&Undo");
+    EXPECT_EQ(asked, Codes{26});
+    EXPECT_EQ(Text(), "");
+    QTest::keyClick(&box, Qt::Key_V, control);
+    box.selectAll();
+    asked.clear();
+    Choose("&Copy");
+    Choose("Cu&t");
+    Choose("&Paste");
+    EXPECT_EQ(asked, (Codes{3, 24, 22}));
+    EXPECT_EQ(Text(), "2.5");
+    answer = [](std::int16_t) { return std::int16_t{0}; };
+    Choose("&Undo");
+    EXPECT_EQ(Text(), "2.5") << "a key that does not count";
 }
 
 TEST_F(TextBoxWidgetTest, MarksItselfAndTellsWhy) {
