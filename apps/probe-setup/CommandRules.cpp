@@ -17,6 +17,8 @@ QString CommandRules::ReasonAgainst(const Needs& needs, const State& state) {
         return tr("This can be done with one probe only");
     if (needs.settings && !state.haveSettings)
         return tr("Conversions of this kind have no settings");
+    if (needs.type && !state.knowType)
+        return tr("The conversion type is not known");
     if (needs.changes && !state.hasChanges)
         return tr("There are no changes to save");
     if (needs.undo && !state.canUndo)

@@ -20,6 +20,7 @@ public:
         bool probe = false;    ///< at least one is selected
         bool one = false;      ///< no more than one is selected
         bool settings = false; ///< one of those that are selected may have settings
+        bool type = false;     ///< and its type is one that the library knows
         bool writable = false; ///< the file may be written
         bool changes = false;  ///< there is something to save
         bool undo = false;     ///< there is a step to take back
@@ -29,6 +30,7 @@ public:
     struct State {
         std::size_t selected = 0;
         bool haveSettings = false; ///< one of those that are selected
+        bool knowType = false;     ///< of one that has them
         bool isWritable = true;
         bool hasChanges = false;
         bool canUndo = false;

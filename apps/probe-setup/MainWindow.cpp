@@ -175,7 +175,7 @@ void MainWindow::MakeFileMenu() {
     m_rules.Add(*AddAction(file, "export", tr("&Export probes\u2026"), QKeySequence(Qt::CTRL | Qt::Key_E),
                            tr("Write each selected probe into a settings file of its own"),
                            [this] { m_probes.Export(); }),
-                {.probe = true, .settings = true});
+                {.probe = true, .settings = true, .type = true});
     file.addSeparator();
     m_rules.Add(*AddAction(file, "print", tr("&Print\u2026"), QKeySequence::Print,
                            tr("Print the selected probes, with all their values"),
@@ -378,11 +378,16 @@ void MainWindow::ShowState() {
 
     const auto undo = m_document->UndoKind();
     const auto redo = m_document->RedoKind();
-    const bool haveSettings = std::ranges::any_of(selected, [this](std::size_t probe) {
+    const auto haveSettings = [this](std::size_t probe) {
         return QuorProbeFile::MayHaveSettings(m_document->Type(probe));
-    });
+    };
+    const auto haveKnownSettings = [&](std::size_t probe) {
+        const ProbeType type = m_document->Type(probe);
+        return type && ConversionEnumerator(*type) && haveSettings(probe);
+    };
     m_rules.Apply({.selected = selected.size(),
-                   .haveSettings = haveSettings,
+                   .haveSettings = std::ranges::any_of(selected, haveSettings),
+                   .knowType = std::ranges::any_of(selected, haveKnownSettings),
                    .isWritable = writable,
                    .hasChanges = changed || m_document->Path().empty(),
                    .canUndo = undo.has_value(),

@@ -62,6 +62,10 @@
         <source>Conversions of this kind have no settings</source>
         <translation>Konversionen dieser Art haben keine Einstellungen</translation>
     </message>
+    <message>
+        <source>The conversion type is not known</source>
+        <translation>Der Typ der Konversion ist unbekannt</translation>
+    </message>
 </context>
 <context>
     <name>FileCommands</name>

@@ -291,6 +291,14 @@ TEST_F(ManyProbesWindow, WhatNeedsSettingsIsDisabledWithTheReasonForProbesWithou
     Open("[P]\nConversionType=99\n[Q]\n");
     GoTo(0);
     EXPECT_TRUE(Action("edit").isEnabled()) << "it tells why a type that is not known has no dialog";
+    EXPECT_FALSE(Action("export").isEnabled());
+    EXPECT_EQ(Action("export").toolTip(), "The conversion type is not known");
+    Open("[P]\nConversionType=99\n[Q]\nConversionType=abc\n" + host);
+    SelectAll();
+    EXPECT_TRUE(Action("export").isEnabled()) << "one of them can be exported";
+    Table().selectionModel()->select(QItemSelection(Row(2), Row(3)),
+                                     QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
+    EXPECT_EQ(Action("export").toolTip(), "The conversion type is not known");
 }
 
 TEST_F(ManyProbesWindow, SaveAsOntoTheOwnFileKeepsTheProbeThatIsSelected) {
