@@ -12,7 +12,9 @@
 #include <QTextDocument>
 
 #include <algorithm>
+#include <numeric>
 #include <unordered_map>
+#include <utility>
 
 namespace ProbeSetup {
 
@@ -43,10 +45,7 @@ void ProbeTableModel::Filter() {
     for (std::size_t probe = 0; probe < m_document.Count(); ++probe) {
         bool shown = m_filter.isEmpty() || matcher.indexIn(ToQt(m_document.Name(probe))) >= 0;
         if (!shown) {
-            const std::size_t key =
-                m_document.ConversionNumber(probe) * 0x10000 +
-                static_cast<std::uint16_t>(m_document.Type(probe).value_or(QuorConversions::CONV_NONE));
-            const auto [known, isNew] = conversions.try_emplace(key, false);
+            const auto [known, isNew] = conversions.try_emplace(ConversionKey(probe), false);
             if (isNew)
                 known->second = matcher.indexIn(ConversionText(probe)) >= 0;
             shown = known->second;
@@ -57,27 +56,53 @@ void ProbeTableModel::Filter() {
     Sort();
 }
 
+std::size_t ProbeTableModel::ConversionKey(std::size_t probe) const {
+    return m_document.ConversionNumber(probe) * 0x10000 +
+           static_cast<std::uint16_t>(m_document.Type(probe).value_or(QuorConversions::CONV_NONE));
+}
+
 void ProbeTableModel::Sort() {
     if (m_sortColumn >= 0) {
-        // Numbers by their value: "Probe 10" stands behind "Probe 9".
-        const QLocale user;
-        QCollator collator(user.language() == QLocale::C ? QLocale(QLocale::English) : user);
-        collator.setNumericMode(true);
-        collator.setCaseSensitivity(Qt::CaseInsensitive);
-        std::vector<QString> texts(m_document.Count());
-        for (const std::uint32_t probe : m_rows)
-            texts[probe] = m_sortColumn == NameColumn         ? ToQt(m_document.Name(probe))
-                           : m_sortColumn == ConversionColumn ? ConversionText(probe)
-                           : m_document.IsChanged(probe)      ? QStringLiteral("0")
-                                                              : QStringLiteral("1");
-        std::stable_sort(m_rows.begin(), m_rows.end(), [&](std::uint32_t a, std::uint32_t b) {
-            const int order = collator.compare(texts[a], texts[b]);
-            return m_sortOrder == Qt::AscendingOrder ? order < 0 : order > 0;
+        const std::vector<QCollatorSortKey> keys = SortKeys();
+        std::vector<std::uint32_t> order(m_rows.size());
+        std::iota(order.begin(), order.end(), 0);
+        std::stable_sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
+            return m_sortOrder == Qt::AscendingOrder ? keys[a] < keys[b] : keys[b] < keys[a];
         });
+        for (std::uint32_t& row : order)
+            row = m_rows[row];
+        m_rows = std::move(order);
     }
     m_rowOf.assign(m_document.Count(), -1);
     for (std::size_t row = 0; row < m_rows.size(); ++row)
         m_rowOf[m_rows[row]] = static_cast<int>(row);
+}
+
+std::vector<QCollatorSortKey> ProbeTableModel::SortKeys() const {
+    // Numbers by their value: "Probe 10" stands behind "Probe 9".
+    const QLocale user;
+    QCollator collator(user.language() == QLocale::C ? QLocale(QLocale::English) : user);
+    collator.setNumericMode(true);
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    std::vector<QCollatorSortKey> keys;
+    keys.reserve(m_rows.size());
+    std::unordered_map<std::size_t, QCollatorSortKey> known; // of texts that many probes have
+    for (const std::uint32_t probe : m_rows) {
+        if (m_sortColumn == NameColumn) {
+            keys.push_back(collator.sortKey(ToQt(m_document.Name(probe))));
+            continue;
+        }
+        const bool byConversion = m_sortColumn == ConversionColumn;
+        const std::size_t text = byConversion ? ConversionKey(probe) : m_document.IsChanged(probe) ? 0 : 1;
+        auto found = known.find(text);
+        if (found == known.end())
+            found = known
+                        .emplace(text, collator.sortKey(byConversion ? ConversionText(probe)
+                                                                     : QString::number(text)))
+                        .first;
+        keys.push_back(found->second);
+    }
+    return keys;
 }
 
 void ProbeTableModel::sort(int column, Qt::SortOrder order) {

@@ -3,6 +3,7 @@
 #include "apps/probe-setup/ProbeDocument.h"
 
 #include <QAbstractTableModel>
+#include <QCollator>
 #include <QCoreApplication>
 
 #include <cstdint>
@@ -57,6 +58,11 @@ private:
 
     void Filter();
     void Sort();
+    /// The same number for probes of the same conversion text.
+    [[nodiscard]] std::size_t ConversionKey(std::size_t probe) const;
+    /// What the rows are sorted by: made once each, because two of them are compared much sooner than two
+    /// texts.
+    [[nodiscard]] std::vector<QCollatorSortKey> SortKeys() const;
     [[nodiscard]] QVariant NameData(std::size_t probe, int role) const;
 
     const ProbeDocument& m_document;
