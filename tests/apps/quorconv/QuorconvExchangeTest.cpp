@@ -157,6 +157,58 @@ TEST_F(QuorconvExchangeTest, RefusesJsonThatNoProbeIsWithLineAndColumn) {
     ExpectRefusedJson("{\"a\": \"\xFF\"}", "in.json:1:8: invalid encoding in string");
 }
 
+TEST_F(QuorconvExchangeTest, ReadsAnObjectThatDiffersFromTheOneBeforeItInNumbersAloneBitForBit) {
+    const auto object = [](const std::string& section, const std::string& value) {
+        return R"({"section": ")" + section + R"(", "type": "CONV_WT90", "settings": {"RTPW": )" + value +
+               "}}";
+    };
+    const std::string record =
+        "[A]\nVersion=1.0\nConversionType=14\n\n[A - Settings]\nVersion=1.0\nRTPW=25.5\n";
+    const std::pair<const char*, const char*> numbers[] = {
+        {"25.5", "25.5"},
+        {"-25.50", "-25.5"},
+        {"5e-324", "5e-324"},
+        {"1E2", "100"},
+        {"1e+02", "100"},
+        {"0.1e1", "1"},
+        {"1234567890123456789012345678901234567890123", "1.2345678901234567e+42"},
+        {"0.10000000000000000555111512312578270211815834045410156250001", "0.1"},
+    };
+    for (const auto& [given, stored] : numbers) {
+        folder.Write("in.json", object("A", "25.5") + "\n" + object("B", given));
+        ExpectShell("rm -f new.ini; quorconv put new.ini in.json --json", "", "quorconv: 2 probes put\n");
+        EXPECT_EQ(folder.Read("new.ini"),
+                  record + "\n" +
+                      Replaced(Replaced(Replaced(record, "[A]", "[B]"), "[A -", "[B -"), "25.5", stored));
+    }
+    folder.Write("in.json", "[" + object("A", "25.5") + ",\n" + object("B", "25.5") + " , " +
+                                object("\\u0043\xC3\xBC", "25.5") + "]\n");
+    ExpectShell("rm -f new.ini; quorconv put new.ini in.json --json; quorconv list new.ini | cut -f 1",
+                "A\nB\nC\xC3\xBC\n", "quorconv: 3 probes put\n");
+}
+
+TEST_F(QuorconvExchangeTest, RefusesAnObjectThatIsNearlyLikeTheOneBeforeIt) {
+    const std::string first = R"({"section": "A", "type": "CONV_WT90", "settings": {"RTPW": 25.5}})";
+    const auto expect = [&](const std::string& what, const std::string& by, const std::string& said) {
+        ExpectRefusedJson(first + "\n" + Replaced(Replaced(first, "\"A\"", "\"B\""), what, by),
+                          "in.json:2:" + said);
+    };
+    expect("25.5", "1e400", "60: settings/RTPW: the number is too large for a double");
+    expect("25.5", "025.5", "61: missing a comma or '}' after an object member");
+    expect("25.5", "25.", "63: miss fraction part in number");
+    expect("25.5", "2e", "62: miss exponent in number");
+    expect("25.5", "-", "61: invalid value");
+    expect("25.5", ".5", "60: invalid value");
+    expect("25.5", "\"25.5\"", "60: RTPW: a number, \"NaN\", \"Infinity\" or \"-Infinity\" expected");
+    expect("25.5", "\"NaN\"", "1: host.ini: [B] RTPW: NaN gives no temperature; --allow-nan stores it");
+    expect("RTPW", "RTPX", "60: there is no key \"RTPX\" in a record of this type; did you mean \"RTPW\"?");
+    expect("}}", "} x}", "66: missing a comma or '}' after an object member");
+    expect("}}", "", "64: missing a comma or '}' after an object member");
+    expect("\"B\"", "\"B\xFF\"", "15: invalid encoding in string");
+    expect("\"B\"", "\"B\n\"", "15: invalid escape character in string");
+    expect("\"B\"", "\"A\"", "1: [A]: the section occurs twice");
+}
+
 TEST_F(QuorconvExchangeTest, NamesOfCoefficientsNeedTheFlagThatSaysWhatTheyMean) {
     ExpectRefusedJson(
         Probe("{\"Coefficients\": [{\"value\": 100}, {\"name\": \"ALPHA\", \"value\": 0.00385}]}"),
