@@ -130,8 +130,8 @@ std::size_t EndOfKeys(std::string_view text, std::size_t start, std::size_t end)
     return EndOfAll(IniLineKind::Comment, text, behind, end);
 }
 
-/// Where a new key stands: below the last value, with the lines that continue it. `start` is its key line; in
-/// a section without one the first line.
+/// Where a new key stands: below the last value of the section whose first line starts at `start`, with the
+/// lines that continue it.
 std::size_t BehindLastValue(std::string_view text, std::size_t start) {
     std::size_t behind = start;
     IniContinuation continuation;
@@ -353,8 +353,8 @@ bool IniText::IsRemoved(Section section) const {
 bool IniText::IsThere(Section section) const {
     if (!IsRemoved(section))
         return true;
-    const auto kept = m_kept.find(section);
-    return kept != m_kept.end() && !kept->second.list.empty();
+    const auto changes = m_changes.find(section);
+    return changes != m_changes.end() && !changes->second.empty();
 }
 
 bool IniText::IsFound(Section section, std::wstring_view name) const {
@@ -408,6 +408,7 @@ void IniText::TakeBack(std::size_t length) noexcept {
     for (; !m_headers.empty() && m_headers.back().name > length; m_headers.pop_back()) {
         const auto section = static_cast<Section>(m_headers.size() - 1);
         m_kept.erase(section);
+        m_changes.erase(section);
         m_edits.erase(section);
         m_hidden.erase(section);
     }
@@ -502,15 +503,14 @@ void IniText::RemoveSection(Section section) {
     const std::string_view name = CanonicalName(Name(section), buffer);
     EditFor(section, {std::string(name), std::nullopt}).isRemoved = true;
     m_isWritten = true;
-    const auto kept = m_kept.find(section);
-    if (kept != m_kept.end()) {
-        const Keys& keys = kept->second;
-        m_differing -=
-            static_cast<std::size_t>(std::count_if(keys.list.begin(), keys.list.end(), [&](const Key& key) {
-                return LineDiffers(section, keys, key);
-            }));
-        m_kept.erase(kept);
+    const auto changes = m_changes.find(section);
+    if (changes != m_changes.end()) {
+        m_differing -= static_cast<std::size_t>(
+            std::count_if(changes->second.begin(), changes->second.end(),
+                          [&](const Change& change) { return Differs(section, change); }));
+        m_changes.erase(changes);
     }
+    m_kept.erase(section);
     m_keysOf = none;
     if (!IsAdded(section))
         return;
@@ -568,32 +568,25 @@ IniText::Keys& IniText::KeysOf(Section section) {
             return kept->second;
     }
     ReadKeys(section);
-    return m_keys.length > shortSection || m_keys.isIndexed ? KeepKeysOf(section) : m_keys;
-}
-
-IniText::Keys& IniText::KeepKeysOf(Section section) {
-    Keys& keys = KeysOf(section);
-    if (m_keysOf != section)
-        return keys;
+    if (m_keys.length <= shortSection && !m_keys.isIndexed)
+        return m_keys;
     Keys& kept = m_kept[section];
     kept = std::exchange(m_keys, {});
     m_keysOf = none;
     return kept;
 }
 
-/// Finds the keys of a section in the text.
+/// Finds the keys of a section in the text and among its changes.
 void IniText::ReadKeys(Section section) {
     m_keysOf = none;
     m_keys.list.clear();
-    m_keys.lines.clear();
-    m_keys.written = 0;
+    m_keys.changes = nullptr;
     if (std::exchange(m_keys.isIndexed, false))
         m_keys.names = {};
     const std::string_view text = TextUpTo(section);
     const std::size_t begin = Begin(section);
     const std::size_t end = IsRemoved(section) ? begin : text.size();
     std::size_t at = begin;
-    m_keys.last = begin;
     while (at < end) {
         if (text[at] == '\n') { // as there may be millions
             ++at;
@@ -607,12 +600,6 @@ void IniText::ReadKeys(Section section) {
             Key& key = m_keys.list.emplace_back(); // in its place: a copy of each would take longer
             Describe(key, cut.line, line);
             key.start = static_cast<std::uint32_t>(at);
-            m_keys.last = at;
-            if (IsAdded(section)) {
-                key.written = ++m_keys.written;
-                key.isText = std::binary_search(m_texts.begin(), m_texts.end(), at);
-                key.hasComment = !key.isText;
-            }
             if (m_keys.list.size() > few) {
                 const Key last = key;
                 m_keys.list.pop_back();
@@ -623,7 +610,30 @@ void IniText::ReadKeys(Section section) {
     }
     m_keys.length = at - begin;
     m_next = std::max(m_next, at); // no header stands before it
+    if (!m_changes.empty())
+        ReadChanges(section);
     m_keysOf = section;
+}
+
+/// Puts the lines that were written in the place of those that stand in the text, or behind them.
+void IniText::ReadChanges(Section section) {
+    const auto found = m_changes.find(section);
+    if (found == m_changes.end())
+        return;
+    m_keys.changes = &found->second;
+    for (std::uint32_t number = 0; number < found->second.size(); ++number) {
+        const Change& change = found->second[number];
+        Key changed;
+        changed.start = change.start;
+        changed.change = number;
+        Describe(changed, change.line, ClassifyLine(change.line));
+        if (change.start == none)
+            AddKey(m_keys, changed, true);
+        else
+            *std::lower_bound(m_keys.list.begin(), m_keys.list.end(), change.start,
+                              [](const Key& key, std::uint32_t start) { return key.start < start; }) =
+                changed;
+    }
 }
 
 /// Notes in `key` where name and value stand in its line.
@@ -681,7 +691,7 @@ void IniText::AddKey(Keys& keys, const Key& key, bool isFirst) const {
 
 /// The start of the bytes of a line as it is now.
 const char* IniText::BytesOf(const Keys& keys, const Key& key) const {
-    return key.own == none ? m_text.data() + key.start : keys.lines[key.own].data();
+    return key.change == none ? m_text.data() + key.start : (*keys.changes)[key.change].line.data();
 }
 
 std::string_view IniText::NameOf(const Keys& keys, const Key& key) const {
@@ -714,76 +724,86 @@ std::optional<std::string_view> IniText::FindValue(Section section, std::wstring
 }
 
 /// A key line as it stands in the text.
-std::string_view IniText::LineInText(Section section, const Key& key) const {
-    return CutLine(TextUpTo(section), key.start).line;
+std::string_view IniText::LineInText(Section section, std::uint32_t start) const {
+    return CutLine(TextUpTo(section), start).line;
 }
 
 /// Whether a line is to be another one than in the text.
-bool IniText::LineDiffers(Section section, const Keys& keys, const Key& key) const {
-    return key.own != none && (key.start == none || keys.lines[key.own] != LineInText(section, key));
+bool IniText::Differs(Section section, const Change& change) const {
+    return change.start == none || change.line != LineInText(section, change.start);
+}
+
+/// The change of a key; of one of an added section that stands in the text as it was written, what its
+/// change would be.
+IniText::Change IniText::ChangeOf(Section section, const Keys& keys, const Key& key) const {
+    if (key.change != none)
+        return (*keys.changes)[key.change];
+    const bool isText = std::binary_search(m_texts.begin(), m_texts.end(), key.start);
+    return {key.start, isText, IsAdded(section) && !isText, std::string(LineInText(section, key.start))};
 }
 
 void IniText::Write(Section section, std::wstring_view key, std::string_view spelling,
                     const IniNewValue& value) {
-    Key* const present = FindKey(KeysOf(section), key);
-    if (!present) {
+    Keys& keys = KeysOf(section);
+    if (Key* const present = FindKey(keys, key))
+        Rewrite(section, keys, *present, value);
+    else
         WriteNew(section, spelling, value);
-        return;
-    }
-    Rewrite(section, KeepKeysOf(section), *present, value); // which stays where it is
     m_isWritten = true;
 }
 
 void IniText::WriteNew(Section section, std::string_view spelling, const IniNewValue& value) {
     Keys& keys = KeysOf(section);
-    if (IsAdded(section) && section + std::size_t{1} == m_headers.size() && keys.lines.empty())
+    if (IsAdded(section) && section + std::size_t{1} == m_headers.size() && !keys.changes)
         AppendKey(keys, spelling, value);
     else
-        InsertKey(KeepKeysOf(section), spelling, value);
+        InsertKey(section, keys, spelling, value);
     m_isWritten = true;
 }
 
+/// The changes of a section, for another one to be added.
+IniText::Changes& IniText::ChangesFor(Section section, Keys& keys) {
+    if (!keys.changes)
+        keys.changes = &m_changes[section];
+    return *keys.changes;
+}
+
 void IniText::Rewrite(Section section, Keys& keys, Key& key, const IniNewValue& value) {
-    const bool differed = LineDiffers(section, keys, key);
-    const std::string_view old = key.own == none ? LineInText(section, key) : keys.lines[key.own];
-    std::string line = RewriteLine(old, value);
-    Key rewritten;
-    Describe(rewritten, line, ClassifyLine(line));
-    rewritten.start = key.start;
-    rewritten.own = key.own;
-    rewritten.written = key.written != 0 ? key.written : keys.written + 1;
-    rewritten.isText = value.isText;
-    rewritten.hasComment = !value.isText && (key.hasComment || !value.comment.empty());
-    if (key.own != none) {
-        keys.lines[key.own] = std::move(line);
-    } else if (line != old) {
-        rewritten.own = static_cast<std::uint32_t>(keys.lines.size());
-        keys.lines.push_back(std::move(line));
+    Change change = ChangeOf(section, keys, key);
+    change.isText = value.isText;
+    change.hasComment = !value.isText && (change.hasComment || !value.comment.empty());
+    change.line = RewriteLine(change.line, value);
+    Key rewritten = key;
+    Describe(rewritten, change.line, ClassifyLine(change.line));
+    Changes& changes = ChangesFor(section, keys);
+    if (key.change == none) {
+        rewritten.change = static_cast<std::uint32_t>(changes.size());
+        changes.push_back(std::move(change));
+    } else {
+        m_differing -= Differs(section, changes[key.change]) ? 1 : 0;
+        changes[key.change] = std::move(change);
     }
     key = rewritten;
-    keys.written = std::max(keys.written, key.written);
-    m_differing -= differed ? 1 : 0;
-    m_differing += LineDiffers(section, keys, key) ? 1 : 0;
+    m_differing += Differs(section, changes[key.change]) ? 1 : 0;
 }
 
 /// Adds a key behind the last one of its section, for the next save.
-void IniText::InsertKey(Keys& keys, std::string_view spelling, const IniNewValue& value) {
-    Key key = ComposeLine(keys, spelling, value);
-    key.start = none;
-    key.own = static_cast<std::uint32_t>(keys.lines.size());
-    keys.lines.push_back(m_line);
+void IniText::InsertKey(Section section, Keys& keys, std::string_view spelling, const IniNewValue& value) {
+    Key key = ComposeLine(spelling, value);
+    Changes& changes = ChangesFor(section, keys);
+    key.change = static_cast<std::uint32_t>(changes.size());
+    changes.push_back({none, value.isText, !value.isText, m_line});
     try {
         AddKey(keys, key, true);
     } catch (...) {
-        keys.lines.pop_back();
+        changes.pop_back();
         throw;
     }
-    ++keys.written;
     ++m_differing;
 }
 
 /// Makes the line of a new key.
-IniText::Key IniText::ComposeLine(const Keys& keys, std::string_view spelling, const IniNewValue& value) {
+IniText::Key IniText::ComposeLine(std::string_view spelling, const IniNewValue& value) {
     m_line.assign(spelling).push_back('=');
     m_line.append(value.bytes);
     if (!value.comment.empty())
@@ -792,9 +812,6 @@ IniText::Key IniText::ComposeLine(const Keys& keys, std::string_view spelling, c
     Describe(key, m_line,
              {IniLineKind::Key, std::string_view(m_line).substr(0, spelling.size()),
               std::string_view(m_line).substr(spelling.size() + 1)});
-    key.written = keys.written + 1;
-    key.isText = value.isText;
-    key.hasComment = !value.isText;
     return key;
 }
 
@@ -802,7 +819,7 @@ IniText::Key IniText::ComposeLine(const Keys& keys, std::string_view spelling, c
 void IniText::AppendKey(Keys& keys, std::string_view spelling, const IniNewValue& value) {
     const std::size_t length = m_text.size();
     try {
-        Key key = ComposeLine(keys, spelling, value);
+        Key key = ComposeLine(spelling, value);
         const std::size_t start = AppendKeyLine(m_text, MarkLength(m_text), m_line);
         if (start >= none)
             throw std::bad_alloc();
@@ -810,7 +827,6 @@ void IniText::AppendKey(Keys& keys, std::string_view spelling, const IniNewValue
         if (value.isText)
             m_texts.push_back(key.start);
         AddKey(keys, key, true);
-        ++keys.written;
         m_next = m_text.size();
     } catch (...) {
         TakeBack(length);
@@ -832,25 +848,31 @@ std::vector<IniText::Place> IniText::Places() const {
     return places;
 }
 
+/// What the lines that were written make of the text.
+void IniText::AddChanges(std::vector<Patch>& patches) const {
+    patches.reserve(m_differing);
+    for (const auto& [section, changes] : m_changes) {
+        std::size_t place = npos; // of new lines
+        for (const Change& change : changes) {
+            if (change.start != none) {
+                const std::string_view old = LineInText(section, change.start);
+                if (change.line != old)
+                    patches.push_back({change.start, change.start + old.size(), &change.line, false});
+                continue;
+            }
+            if (place == npos)
+                place =
+                    IsRemoved(section) ? Begin(section) : BehindLastValue(TextUpTo(section), Begin(section));
+            patches.push_back({place, place, &change.line, true});
+        }
+    }
+}
+
 /// What all changes but additions at the end make of the text, in its order; what is added stands before
 /// what is removed in the same place.
 std::vector<IniText::Patch> IniText::Patches() const {
     std::vector<Patch> patches;
-    for (const auto& [section, keys] : m_kept) {
-        std::size_t place = npos;
-        for (const Key& key : keys.list) {
-            if (key.own == none)
-                continue;
-            if (key.start != none) {
-                patches.push_back(
-                    {key.start, key.start + LineInText(section, key).size(), keys.lines[key.own], false});
-                continue;
-            }
-            if (place == npos)
-                place = IsRemoved(section) ? keys.last : BehindLastValue(TextUpTo(section), keys.last);
-            patches.push_back({place, place, keys.lines[key.own], true});
-        }
-    }
+    AddChanges(patches);
     if (!m_edits.empty()) {
         AddEditsOfRead(patches);
         AddEditsOfAdded(patches);
@@ -873,7 +895,7 @@ std::vector<IniText::Patch> IniText::Patches() const {
 void IniText::AddRenaming(std::vector<Patch>& patches, std::size_t name, std::size_t length,
                           const Edit& edit) const {
     if (std::string_view(m_text).substr(name, length) != edit.name)
-        patches.push_back({name, name + length, edit.name, false});
+        patches.push_back({name, name + length, &edit.name, false});
 }
 
 /// What goes with a removed section, of which another place than the first is never kept.
@@ -928,7 +950,7 @@ void IniText::AddEditsOfAdded(std::vector<Patch>& patches) const {
             continue;
         const Header& header = m_headers[section];
         if (edit.isRemoved) // another one follows
-            patches.push_back({header.name - 1U, m_headers[section + 1].name - 1U, {}, false});
+            patches.push_back({header.name - 1U, m_headers[section + 1].name - 1U, nullptr, false});
         else
             AddRenaming(patches, header.name, header.nameLength, edit);
     }
@@ -940,7 +962,7 @@ std::optional<std::string> IniText::ComposedText() const {
     const std::vector<Patch> patches = Patches();
     std::size_t size = m_text.size();
     for (const Patch& patch : patches)
-        size += patch.bytes.size() + 4; // with a line end, and that of a blank line above
+        size += patch.bytes ? patch.bytes->size() + 4 : 0; // with a line end, and that of a blank line above
     std::string text;
     text.reserve(size);
     const std::size_t mark = MarkLength(m_text);
@@ -949,10 +971,10 @@ std::optional<std::string> IniText::ComposedText() const {
         for (; patch != patches.end() && patch->end <= to; ++patch) {
             text.append(m_text, from, patch->start - from);
             if (patch->isLine)
-                AppendKeyLine(text, mark, patch->bytes);
-            else
-                text.append(patch->bytes)
-                    .append(BlankLineBelow(m_text, patch->start, patch->end, patch->bytes));
+                AppendKeyLine(text, mark, *patch->bytes);
+            else if (patch->bytes)
+                text.append(*patch->bytes)
+                    .append(BlankLineBelow(m_text, patch->start, patch->end, *patch->bytes));
             from = patch->end;
         }
         text.append(m_text, from, to - from);
@@ -981,22 +1003,23 @@ void IniText::TakeAsRead() noexcept {
     m_texts.clear();
     m_keysOf = none;
     m_kept.clear();
+    m_changes.clear();
     m_hidden.clear();
     m_moves.clear();
     m_isWritten = false;
 }
 
 /// Whether each key that a section has in the text was written, so that its changes are all of it.
-bool IniText::IsWrittenWhole(Keys& keys) const {
-    return std::all_of(keys.list.begin(), keys.list.end(), [&](const Key& key) {
-        return key.written != 0 || FindKey(keys, DecodeBytes(NameOf(keys, key)))->written != 0;
-    });
+bool IniText::IsWrittenWhole(Section section, Keys& keys) const {
+    return IsAdded(section) || std::all_of(keys.list.begin(), keys.list.end(), [&](const Key& key) {
+               return key.change != none || FindKey(keys, DecodeBytes(NameOf(keys, key)))->change != none;
+           });
 }
 
 /// The sections in which something may have been written, in their order.
 std::vector<IniText::Section> IniText::SectionsThatMayBeWritten() const {
     std::vector<Section> sections;
-    for (const auto& [section, keys] : m_kept) {
+    for (const auto& [section, changes] : m_changes) {
         if (!IsAdded(section))
             sections.push_back(section);
     }
@@ -1008,13 +1031,14 @@ std::vector<IniText::Section> IniText::SectionsThatMayBeWritten() const {
     return sections;
 }
 
-/// The keys that were written, in the order of that.
-std::vector<IniText::Key> IniText::WrittenKeys(const Keys& keys) {
+/// The keys that were written, in the order of that: of an added section all.
+std::vector<IniText::Key> IniText::WrittenKeys(Section section, const Keys& keys) const {
+    if (IsAdded(section))
+        return keys.list;
     std::vector<Key> written;
     std::copy_if(keys.list.begin(), keys.list.end(), std::back_inserter(written),
-                 [](const Key& key) { return key.written != 0; });
-    std::sort(written.begin(), written.end(),
-              [](const Key& a, const Key& b) { return a.written < b.written; });
+                 [](const Key& key) { return key.change != none; });
+    std::sort(written.begin(), written.end(), [](const Key& a, const Key& b) { return a.change < b.change; });
     return written;
 }
 
@@ -1025,18 +1049,19 @@ std::optional<IniConflict> IniText::ApplyChangesTo(IniText& other) {
     for (const Section section : SectionsThatMayBeWritten()) {
         Keys& keys = KeysOf(section);
         std::optional<Section> there = other.FindSection(DecodeBytes(Name(section)));
-        for (const Key& key : WrittenKeys(keys)) {
+        for (const Key& key : WrittenKeys(section, keys)) {
             // Some of its keys without the others would be half a section.
-            if (!there && !isEmpty && !IsWrittenWhole(keys))
+            if (!there && !isEmpty && !IsWrittenWhole(section, keys))
                 return IniConflict{IniConflict::Kind::SectionIsGone, std::string(NameInText(section))};
             const std::wstring name = DecodeBytes(NameOf(keys, key));
             const std::string_view bytes = ValueOf(keys, key);
-            IniNewValue value{{}, key.isText, {}};
-            if (key.isText)
+            const Change change = ChangeOf(section, keys, key);
+            IniNewValue value{{}, change.isText, {}};
+            if (change.isText)
                 value.bytes = TextFor(other, there ? other.FindValue(*there, name) : std::nullopt, bytes);
             else
                 value.bytes = SplitComment(bytes).plain;
-            if (key.hasComment)
+            if (change.hasComment)
                 value.comment = CommentFor(other, SplitComment(bytes).comment, Encoding());
             const std::string spelling = NameFor(other, NameOf(keys, key));
             if (there)

@@ -43,6 +43,11 @@ public:
     using Section = std::uint32_t;
 
     explicit IniText(std::string text = {});
+    IniText(const IniText&) = delete; // the keys point to their changes
+    IniText& operator=(const IniText&) = delete;
+    IniText(IniText&&) = default;
+    IniText& operator=(IniText&&) = default;
+    ~IniText() = default;
 
     /// How new text has to be written. Decided by the whole text as it was read, when it is first asked for.
     [[nodiscard]] IniEncoding Encoding();
@@ -113,25 +118,29 @@ private:
         Section first = none;            // the first section of its name, once it is indexed
         bool hasOtherSpellings = false;  // of a first section: a later one of its name is spelled otherwise
     };
-    /// A key line.
-    struct Key {
+    /// A key line that was written.
+    struct Change {
         std::uint32_t start = none; // where the line stands in the text; none: nowhere, it is new
-        std::uint32_t own = none;   // the number of the line that takes its place
-        std::uint32_t name = 0, nameLength = 0, value = 0, valueLength = 0; // in the line
-        std::uint32_t tag = 0;     // that names have in common which differ in the case of ASCII letters only
-        std::uint32_t written = 0; // in which place of all keys of the section it was; 0: it was not
-        bool isText = false;       // the value that was written
-        bool hasComment = false;   // the comment was written with it
+        bool isText = false;        // the value that was written
+        bool hasComment = false;    // the comment was written with it
+        std::string line;           // as it is now
     };
-    /// The key lines of one section. Few are looked through, many have an index, which knows the first of
-    /// each name.
+    /// Those of a section, in the order in which they were written first.
+    using Changes = std::vector<Change>;
+    /// A key line as it is now.
+    struct Key {
+        std::uint32_t start = none;  // where the line stands in the text; none: nowhere, it is new
+        std::uint32_t change = none; // the number of its change
+        std::uint32_t name = 0, nameLength = 0, value = 0, valueLength = 0; // in the line
+        std::uint32_t tag = 0; // that names have in common which differ in the case of ASCII letters only
+    };
+    /// The key lines of one section: those of the text in its order, then the new ones in that of their
+    /// writing. Few are looked through, many have an index, which knows the first of each name.
     struct Keys {
         std::vector<Key> list;
-        std::vector<std::string> lines; // that stand in the text otherwise, or not yet
-        std::uint32_t written = 0;      // how many keys were written
+        Changes* changes = nullptr; // of the section in m_changes, where it has any
         IniNameIndex names;
         bool isIndexed = false;
-        std::size_t last = 0;   // where the last key line starts in the text; without one, the first line
         std::size_t length = 0; // of the section in the text, in bytes
     };
     /// What has become of a section. Later ones of its name share its lot.
@@ -147,7 +156,7 @@ private:
     /// What takes the place of a part of the text: a line that is added, or other bytes.
     struct Patch {
         std::size_t start = 0, end = 0;
-        std::string_view bytes;
+        const std::string* bytes = nullptr; // none: nothing
         bool isLine = false;
     };
     /// A header line of the text as it was read, and the first section of its name.
@@ -179,9 +188,8 @@ private:
     [[nodiscard]] std::string_view TextUpTo(Section section) const;
     [[nodiscard]] std::size_t Begin(Section section) const;
     [[nodiscard]] Keys& KeysOf(Section section);
-    /// The same for a section that is to be written into: they are kept.
-    [[nodiscard]] Keys& KeepKeysOf(Section section);
     void ReadKeys(Section section);
+    void ReadChanges(Section section);
     static void Describe(Key& key, std::string_view line, const IniLine& parsed);
     void IndexKeys(Keys& keys) const;
     [[nodiscard]] std::optional<std::uint32_t> FindIndexed(const Keys& keys, std::string_view name,
@@ -191,15 +199,18 @@ private:
     [[nodiscard]] std::string_view NameOf(const Keys& keys, const Key& key) const;
     [[nodiscard]] std::string_view ValueOf(const Keys& keys, const Key& key) const;
     [[nodiscard]] Key* FindKey(Keys& keys, std::wstring_view name) const;
-    [[nodiscard]] std::string_view LineInText(Section section, const Key& key) const;
-    [[nodiscard]] bool LineDiffers(Section section, const Keys& keys, const Key& key) const;
-    [[nodiscard]] Key ComposeLine(const Keys& keys, std::string_view spelling, const IniNewValue& value);
+    [[nodiscard]] std::string_view LineInText(Section section, std::uint32_t start) const;
+    [[nodiscard]] bool Differs(Section section, const Change& change) const;
+    [[nodiscard]] Change ChangeOf(Section section, const Keys& keys, const Key& key) const;
+    [[nodiscard]] Changes& ChangesFor(Section section, Keys& keys);
+    [[nodiscard]] Key ComposeLine(std::string_view spelling, const IniNewValue& value);
     void Rewrite(Section section, Keys& keys, Key& key, const IniNewValue& value);
-    void InsertKey(Keys& keys, std::string_view spelling, const IniNewValue& value);
+    void InsertKey(Section section, Keys& keys, std::string_view spelling, const IniNewValue& value);
     void AppendKey(Keys& keys, std::string_view spelling, const IniNewValue& value);
 
     // Saving and merging.
     [[nodiscard]] std::vector<Place> Places() const;
+    void AddChanges(std::vector<Patch>& patches) const;
     [[nodiscard]] std::vector<Patch> Patches() const;
     void AddRenaming(std::vector<Patch>& patches, std::size_t name, std::size_t length,
                      const Edit& edit) const;
@@ -207,8 +218,8 @@ private:
     void AddEditsOfRead(std::vector<Patch>& patches) const;
     void AddEditsOfAdded(std::vector<Patch>& patches) const;
     [[nodiscard]] std::vector<Section> SectionsThatMayBeWritten() const;
-    [[nodiscard]] static std::vector<Key> WrittenKeys(const Keys& keys);
-    [[nodiscard]] bool IsWrittenWhole(Keys& keys) const;
+    [[nodiscard]] std::vector<Key> WrittenKeys(Section section, const Keys& keys) const;
+    [[nodiscard]] bool IsWrittenWhole(Section section, Keys& keys) const;
     [[nodiscard]] std::optional<IniConflict> ApplyMovesTo(IniText& other) const;
 
     std::string m_text;     // as it was read, and the sections that were added
@@ -225,7 +236,8 @@ private:
 
     Keys m_keys; // of the section that was asked last
     Section m_keysOf = none;
-    std::unordered_map<Section, Keys> m_kept; // of long sections, and of those that have other lines now
+    std::unordered_map<Section, Keys> m_kept; // of long sections
+    std::unordered_map<Section, Changes> m_changes;
 
     std::unordered_map<Section, Edit> m_edits;
     std::unordered_map<Section, Section> m_hidden; // the removed section that had the name of another before

@@ -706,6 +706,35 @@ TEST(IniText, ALineThatIsWrittenAgainIsTheLastOneWhateverItsLength) {
     EXPECT_EQ(Merged(text), "[A]\nx=\ny=other\n");
 }
 
+TEST(IniText, WhatIsWrittenInTurnIntoSeveralSectionsIsReadAndMergedInTheOrderOfItsWriting) {
+    for (const int count :
+         {3, 33, 1000}) { // a few keys, more than are looked through, more than are read again
+        const std::string keys = ManyKeys(count).substr(std::string("[A]\n").size());
+        IniText text("[A]\n" + keys + "[B]\n" + keys);
+        const auto writeBoth = [&text](const std::string& key, const std::string& value) {
+            for (const char* const section : {"A", "B"})
+                Write(text, section, key, {section + value, false, {}});
+        };
+        writeBoth("new", "1");
+        writeBoth("K2", "2");
+        writeBoth("K0", "3");
+        writeBoth("newer", "4");
+        writeBoth("new", "5");
+        writeBoth("K2", "6");
+        EXPECT_EQ(ValueOf(text, "A", "k0") + ValueOf(text, "A", "new") + ValueOf(text, "B", "k2"), "A3A5B6");
+        const std::string rest = keys.substr(std::min(keys.size(), keys.find("K3=")));
+        const auto changed = [&](const std::string& section) {
+            return "[" + section + "]\nK0=" + section + "3\nK1=1\nK2=" + section + "6\n" + rest +
+                   "new=" + section + "5\nnewer=" + section + "4\n";
+        };
+        EXPECT_EQ(Merged(text), changed("A") + changed("B"));
+        IniText empty("");
+        EXPECT_FALSE(text.ApplyChangesTo(empty));
+        EXPECT_EQ(Merged(empty), "[A]\nnew=A5\nK2=A6\nK0=A3\nnewer=A4\n\n"
+                                 "[B]\nnew=B5\nK2=B6\nK0=B3\nnewer=B4\n");
+    }
+}
+
 TEST(IniText, WhatGoesWithItsSectionIsGoneAndTheSectionCanBeWrittenAgain) {
     for (const int count : {1, 33, 1000}) {
         for (const char* const before : {"[B]\nx=other\n", "[A]\nold=1\n\n[B]\nx=other\n"}) {
