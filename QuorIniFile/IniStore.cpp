@@ -39,6 +39,11 @@ class IniStore::Session {
 public:
     explicit Session(IniFileSystem& files) : m_files(files) {}
 
+    void SetText(std::string_view text) {
+        FileText file{IniText(std::string(text))};
+        file.stamp.exists = true;
+        Adopt(std::move(file));
+    }
     void SetFileName(std::wstring_view fileName) {
         IniFileName file = IniFileName::Absolute(fileName, m_files);
         if (file == m_file)
@@ -236,6 +241,8 @@ public:
     void Save() {
         if (!m_text || !m_text->HasWrites())
             return;
+        if (FileName().empty())
+            throw FileError(ERR_BAD_FILE_NAME, FileName());
         if (!m_text->IsDifferent() && !FileChanged()) {
             m_text->TakeAsRead();
             return;
@@ -553,6 +560,12 @@ private:
 
 IniStore::IniStore() : IniStore(IniFileSystem::System()) {}
 IniStore::IniStore(IniFileSystem& files) : m_session(std::make_unique<Session>(files)) {}
+
+std::shared_ptr<IniStore> IniStore::OfText(std::string_view text) {
+    auto store = std::make_shared<IniStore>();
+    store->m_session->SetText(text);
+    return store;
+}
 
 IniStore::~IniStore() {
     try {

@@ -56,6 +56,9 @@ public:
     IniStore();
     /// A store on other files, which must outlive it: those of a test, which fail on demand.
     explicit IniStore(IniFileSystem& files);
+    /// A store of a text in memory (Text of another store), such as an earlier state of a file. It has no
+    /// file: what is written into it stays in memory, and raises 52.
+    [[nodiscard]] static std::shared_ptr<IniStore> OfText(std::string_view text);
     IniStore(const IniStore&) = delete;
     IniStore& operator=(const IniStore&) = delete;
     /// Saves what is still held, ignoring failures: a caller that must know calls Release. A save that has

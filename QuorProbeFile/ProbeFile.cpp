@@ -37,6 +37,10 @@ std::wstring TypeName(std::int32_t code) {
     return enumerator ? enumerator : std::to_wstring(code);
 }
 
+std::wstring TypeName(const std::optional<EQuorConversionType>& type) {
+    return type ? TypeName(std::int32_t{*type}) : L"?";
+}
+
 bool IsNamedByItsValues(std::int32_t code) { return code == CONV_TCTYPEX || code == CONV_TCTYPEPOLY; }
 
 /// Whether the settings object has given up reading the record.
@@ -88,6 +92,13 @@ ProbeFile::ProbeFile(std::wstring_view path, Opening opening)
 ProbeFile::ProbeFile(std::wstring_view path, QuorIniFile::IniFileSystem& files, Opening opening)
     : m_path(path), m_standAlone(StandAloneSection(path)), m_store(std::make_shared<IniStore>(files)) {
     Load(path, opening);
+}
+
+ProbeFile::ProbeFile(std::wstring path, std::shared_ptr<IniStore> store)
+    : m_path(std::move(path)), m_store(std::move(store)) {}
+
+std::unique_ptr<ProbeFile> ProbeFile::Snapshot(ProbeFile& file) {
+    return std::unique_ptr<ProbeFile>(new ProbeFile(file.m_path, IniStore::OfText(file.Text())));
 }
 
 ProbeFile::~ProbeFile() = default;
@@ -297,16 +308,15 @@ ReadOutcome ProbeFile::Read(std::wstring_view section, CQuorConversion& conversi
         TakeLimits(defaults, reading.Conversion());
     }
     const CQuorConversion& result = isRefused ? defaults : reading.Conversion();
-    outcome.record = RecordOf(reading, probe, outcome, result);
+    outcome.record = RecordOf(probe, outcome, result);
     outcome.probe = std::move(probe);
     Assign(conversion, result);
     conversion.SetChanged(false);
     return outcome;
 }
 
-/// Keeps the text of the sections that were read.
-RecordAsRead ProbeFile::RecordOf(const RecordReading& reading, const ProbeEntry& probe,
-                                 const ReadOutcome& outcome, const CQuorConversion& result) {
+RecordAsRead ProbeFile::RecordOf(const ProbeEntry& probe, const ReadOutcome& outcome,
+                                 const CQuorConversion& result) {
     auto state = std::make_shared<RecordAsRead::State>();
     state->probe = probe;
     if (IsRefused(outcome.problems)) {
@@ -316,13 +326,21 @@ RecordAsRead ProbeFile::RecordOf(const RecordReading& reading, const ProbeEntry&
         WriteRecordTo(held, probe.section, result, probe.standAlone);
         state->held = held->Written();
     }
-    std::vector<std::wstring> sections;
-    const auto add = [&sections](const std::wstring& section) {
-        if (std::find(sections.begin(), sections.end(), section) == sections.end())
-            sections.push_back(section);
-    };
-    for (const ReadLog::Read& read : reading.Reads())
-        add(read.section);
+    state->text = TextOf(probe);
+    return RecordAsRead(std::move(state));
+}
+
+/// The text of the sections of a record, also of those that a settings object which refuses it has not read.
+std::string ProbeFile::TextOf(const ProbeEntry& probe) {
+    const std::wstring settings = probe.standAlone ? probe.section : SettingsSection(probe.section);
+    std::vector<std::wstring> sections{probe.section};
+    if (probe.standAlone || MayHaveSettings(probe.type)) {
+        if (!probe.standAlone)
+            sections.push_back(settings);
+        for (const wchar_t* const range : {highRangeName, lowRangeName})
+            sections.push_back(std::wstring(settings).append(nestedMark).append(range));
+    }
+    std::string record;
     const std::string_view text = m_store->Text();
     for (const std::wstring& section : sections) {
         const SectionIndex::Section* const place = Places().Section(section);
@@ -332,9 +350,9 @@ RecordAsRead ProbeFile::RecordOf(const RecordReading& reading, const ProbeEntry&
         static_cast<void>(lines.Next());
         const std::size_t end = lines.NextHeader() ? lines.Here().offset : text.size();
         const std::string_view piece = text.substr(place->header.offset, end - place->header.offset);
-        state->text.append(piece).append(piece.ends_with('\r') ? "\r\n" : "\n"); // a last CR is its value's
+        record.append(piece).append(piece.ends_with('\r') ? "\r\n" : "\n"); // a last CR is its value's
     }
-    return RecordAsRead(std::move(state));
+    return record;
 }
 
 std::vector<ProbeProblem> ProbeFile::Check() {
@@ -495,7 +513,7 @@ std::vector<RecordConflict> ProbeFile::WriteChanges(std::wstring_view section,
     const RecordAsRead::State& state = *record.m_state;
     const ProbeEntry& probe = state.probe;
     if (probe.type != conversion.ConversionType())
-        throw Error(PROBE_OF_ANOTHER_TYPE, section, TypeName(*probe.type));
+        throw Error(PROBE_OF_ANOTHER_TYPE, section, TypeName(probe.type));
     ConsistencyCheck check;
     RequireConsistent(section, conversion, check);
     if (!state.refusal.empty()) { // with the changes it would be refused as before, or mix values of both
@@ -533,8 +551,16 @@ std::vector<RecordConflict> ProbeFile::WriteChanges(std::wstring_view section,
 }
 
 RecordAsRead ProbeFile::Record(std::wstring_view section) {
-    CQuorConversion conversion;
-    return Read(section, conversion).record;
+    const SelectedSection selected(*m_store);
+    ProbeEntry probe = Require(section);
+    if (probe.standAlone || probe.type) {
+        CQuorConversion conversion;
+        return Read(section, conversion).record;
+    }
+    auto state = std::make_shared<RecordAsRead::State>();
+    state->text = TextOf(probe);
+    state->probe = std::move(probe);
+    return RecordAsRead(std::move(state));
 }
 
 void ProbeFile::Write(std::wstring_view section, const CQuorConversion& conversion) {
@@ -640,7 +666,7 @@ void ProbeFile::CopyFrom(ProbeFile& source, std::wstring_view section, std::wstr
         if (present && present->standAlone)
             present->type = RequireType(*present);
         if (present && present->type != conversion.ConversionType())
-            throw Error(PROBE_OF_ANOTHER_TYPE, toSection, present->type ? TypeName(*present->type) : L"?");
+            throw Error(PROBE_OF_ANOTHER_TYPE, toSection, TypeName(present->type));
         Write(toSection, conversion);
     });
 }

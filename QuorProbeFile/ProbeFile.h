@@ -75,6 +75,9 @@ public:
     explicit ProbeFile(std::wstring_view path, Opening opening = Opening::Existing);
     /// The same on other files, such as those of a test, which must outlive this object.
     ProbeFile(std::wstring_view path, QuorIniFile::IniFileSystem& files, Opening opening = Opening::Existing);
+    /// The probes as reads of `file` see them now, in memory: they stay when it is written or reloaded.
+    /// Writing to them raises 52.
+    [[nodiscard]] static std::unique_ptr<ProbeFile> Snapshot(ProbeFile& file);
     ProbeFile(const ProbeFile&) = delete;
     ProbeFile& operator=(const ProbeFile&) = delete;
     ~ProbeFile();
@@ -180,7 +183,8 @@ public:
                                                            const QuorConversions::CQuorConversion& conversion,
                                                            RecordAsRead& record);
     /// The record of a probe as it is in the file, for WriteChanges of a conversion that Write has written
-    /// there. Raises what Read raises.
+    /// there, and for HasSameValues, also if its type cannot be read. Raises PROBE_NO_SUCH_SECTION and
+    /// PROBE_NO_RECORD.
     [[nodiscard]] RecordAsRead Record(std::wstring_view section);
 
     /// Renames a probe and the sections of its settings. `name` may differ only in case. Raises what Read and
@@ -218,6 +222,7 @@ public:
     [[nodiscard]] const std::shared_ptr<QuorIniFile::IniStore>& Store() const { return m_store; }
 
 private:
+    ProbeFile(std::wstring path, std::shared_ptr<QuorIniFile::IniStore> store);
     void Load(std::wstring_view path, Opening opening);
     void Survey();
     [[nodiscard]] LinePlaces& Places();
@@ -242,9 +247,9 @@ private:
                            ConsistencyCheck& check) const;
     void WriteRecord(const std::shared_ptr<QuorIniFile::INIFile>& to, std::wstring_view section,
                      const QuorConversions::CQuorConversion& conversion, bool standAlone) const;
-    [[nodiscard]] RecordAsRead RecordOf(const RecordReading& reading, const ProbeEntry& probe,
-                                        const ReadOutcome& outcome,
+    [[nodiscard]] RecordAsRead RecordOf(const ProbeEntry& probe, const ReadOutcome& outcome,
                                         const QuorConversions::CQuorConversion& result);
+    [[nodiscard]] std::string TextOf(const ProbeEntry& probe);
 
     std::wstring m_path;
     std::optional<std::wstring> m_standAlone; // the section of its record if it is a stand-alone file

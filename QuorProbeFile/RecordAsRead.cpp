@@ -1,10 +1,15 @@
 #include "QuorProbeFile/RecordAsRead.h"
 
 #include "QuorConversions/core/RecordNames.h"
+#include "QuorIniFile/IniStore.h"
+#include "QuorIniFile/Utf8.h"
+#include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/detail/RecordBaseline.h"
 #include "QuorProbeFile/detail/RecordReading.h"
 
 #include <algorithm>
+#include <map>
+#include <utility>
 
 namespace QuorProbeFile {
 
@@ -47,16 +52,49 @@ bool RecordAsRead::IsChanged(const CQuorConversion& conversion) const {
         [](const auto& a, const auto& b) { return a.first == b.first && SameValue(a.second, b.second); });
 }
 
+namespace {
+
+/// The values of the lines of a record by their sections and keys, as texts where nothing reads them. A line
+/// that is no key has none.
+using RecordLines = std::multimap<std::pair<std::wstring, std::wstring>, Value>;
+
+RecordLines LinesOf(const std::string& text, const RecordReading& reading) {
+    RecordLines all;
+    const auto store = QuorIniFile::IniStore::OfText(text);
+    std::wstring section;
+    for (QuorIniFile::IniLines lines = store->Lines(); lines.Next();) {
+        if (lines.Is(QuorIniFile::IniLines::Kind::Header))
+            section = Folded(lines.Name());
+        else if (!lines.Is(QuorIniFile::IniLines::Kind::Key))
+            all.emplace(std::pair(section, L""), QuorIniFile::DecodeBytes(lines.Bytes()));
+        else if (std::wstring key = lines.Name(); !EqualFolded(key, QuorConversions::versionKey))
+            all.emplace(std::pair(section, Folded(std::move(key))), lines.Value());
+    }
+    for (const ReadLog::Read& read : reading.Reads()) {
+        if (!read.found)
+            continue;
+        const std::pair name(Folded(read.section), Folded(read.key));
+        const auto first = all.lower_bound(name); // which is read
+        if (first != all.end() && first->first == name)
+            first->second = read.value;
+        else
+            all.emplace(name, read.value);
+    }
+    return all;
+}
+
+} // namespace
+
 bool RecordAsRead::HasSameValues(const RecordAsRead& other) const {
     if (!m_state || !other.m_state)
         return !m_state && !other.m_state;
     const RecordReading mine(m_state->Record(), m_state->probe);
     const RecordReading theirs(other.m_state->Record(), m_state->probe);
-    return std::equal(mine.Reads().begin(), mine.Reads().end(), theirs.Reads().begin(), theirs.Reads().end(),
-                      [](const ReadLog::Read& a, const ReadLog::Read& b) {
-                          return a.section == b.section && a.key == b.key && a.found == b.found &&
-                                 (!a.found || SameValue(a.value, b.value));
-                      });
+    const RecordLines before = LinesOf(m_state->text, mine);
+    const RecordLines now = LinesOf(other.m_state->text, theirs);
+    return std::equal(before.begin(), before.end(), now.begin(), now.end(), [](const auto& a, const auto& b) {
+        return a.first == b.first && SameValue(a.second, b.second);
+    });
 }
 
 } // namespace QuorProbeFile

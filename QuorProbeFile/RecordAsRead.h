@@ -23,8 +23,10 @@ public:
     /// or that WriteChanges has written last. True for one of no probe.
     [[nodiscard]] bool IsChanged(const QuorConversions::CQuorConversion& conversion) const;
 
-    /// Whether a conversion would read the same values from the other one, and miss the same keys. Of two of
-    /// no probe as well.
+    /// Whether a conversion would read the same values from the other one, miss the same keys, and all other
+    /// lines are the same: values that cannot be read, those that a settings object which refuses the record
+    /// does not come to, and keys of others. How a number is written, comments and "Version" do not count. Of
+    /// two of no probe as well.
     [[nodiscard]] bool HasSameValues(const RecordAsRead& other) const;
 
 private:

@@ -114,7 +114,8 @@ void ProbeTableFace::Finish(std::wstring_view section, EQuorConversionType type,
 // ---- ProbeFileFace: the rows
 
 ProbeFileFace::ProbeFileFace(std::wstring_view path, bool mayBeNew)
-    : m_file(path, mayBeNew ? ProbeFile::Opening::OrNew : ProbeFile::Opening::Existing) {}
+    : m_file(path, mayBeNew ? ProbeFile::Opening::OrNew : ProbeFile::Opening::Existing),
+      m_known(ProbeFile::Snapshot(m_file)) {}
 
 template <class Body>
 auto ProbeFileFace::Do(Body&& body) {
@@ -137,7 +138,7 @@ auto ProbeFileFace::Do(Body&& body) {
 template <class Body>
 void ProbeFileFace::DoAndKnow(Body&& body) {
     Do(std::forward<Body>(body));
-    m_loaded.clear();
+    m_known = ProbeFile::Snapshot(m_file);
 }
 
 const ProbeEntry& ProbeFileFace::Probe(std::int32_t index) { return At(m_file.Probes(), index); }
@@ -280,7 +281,7 @@ bool ProbeFileFace::WriteChanges(std::wstring_view section, const Conversion& co
         if (m_depth == 0) {
             const bool isDone = MergeInto(section, *conversion, known->second);
             if (isDone)
-                m_loaded.clear();
+                m_known = ProbeFile::Snapshot(m_file);
             return isDone;
         }
         m_steps.push_back({std::wstring(section), Copied(m_file, section, *conversion), conversion,
@@ -295,7 +296,10 @@ void ProbeFileFace::Rename(std::wstring section, std::wstring name) {
 }
 
 void ProbeFileFace::Remove(std::wstring section) {
-    Take([this, section = std::move(section)] { m_file.Remove(section); });
+    if (m_depth == 0)
+        DoAndKnow([&] { m_file.Remove(section); });
+    else
+        Do([&] { m_steps.push_back({.section = std::move(section), .isRemoval = true}); });
 }
 
 void ProbeFileFace::Copy(std::wstring section, std::wstring toSection) {
@@ -308,9 +312,9 @@ void ProbeFileFace::CopyFrom(ProbeFileFace& source, std::wstring section, std::w
     });
 }
 
-auto ProbeFileFace::Look(std::wstring_view section) -> Present {
+auto ProbeFileFace::Look(ProbeFile& file, std::wstring_view section) -> Present {
     try {
-        return {m_file.Record(section)};
+        return {file.Record(section)};
     } catch (const ProbeFileError& error) {
         return {{}, error.Code()};
     }
@@ -318,16 +322,12 @@ auto ProbeFileFace::Look(std::wstring_view section) -> Present {
 
 void ProbeFileFace::RequireUnchanged(std::wstring section, const Conversion& conversion) {
     const auto known = m_records.find(conversion);
-    Present before;
-    if (known != m_records.end() && QuorProbeFile::EqualFolded(known->second.Section(), section))
-        before.record = known->second;
-    else if (const auto loaded = m_loaded.find(Folded(section)); loaded != m_loaded.end())
-        before = loaded->second;
-    else
-        before = m_loaded[Folded(section)] = Look(section);
-    Take([this, section = std::move(section), before = std::move(before)] {
+    const bool isOfSection =
+        known != m_records.end() && QuorProbeFile::EqualFolded(known->second.Section(), section);
+    const Present before = isOfSection ? Present{known->second} : Look(*m_known, section);
+    const auto require = [this, section = std::move(section), before] {
         m_file.Edit([&] {
-            const Present now = Look(section);
+            const Present now = Look(m_file, section);
             if (now.code == before.code && before.record.HasSameValues(now.record))
                 return;
             m_conflicts = {{section, {}, {}, {}, {}}};
@@ -336,6 +336,12 @@ void ProbeFileFace::RequireUnchanged(std::wstring section, const Conversion& con
                 Path() + L": [" + section +
                     L"]: another program has changed, added or removed the probe meanwhile");
         });
+    };
+    Do([&] {
+        if (m_depth == 0)
+            require();
+        else
+            m_steps.push_back({.other = require});
     });
 }
 
@@ -347,26 +353,36 @@ auto ProbeFileFace::TakeAll(const std::vector<Step>& steps) -> Records {
         for (const Step* const step : std::exchange(written, {}))
             records.insert_or_assign(step->host, m_file.Record(step->section));
     };
+    // Many of a kind in one call, which is faster, as long as each section is named once.
+    const auto runOf = [&](auto step, const auto& isOfKind, const auto& take) {
+        std::unordered_set<std::wstring> sections;
+        for (; step != steps.end() && isOfKind(*step) && sections.insert(Folded(step->section)).second;
+             ++step)
+            take(*step);
+        return step;
+    };
     for (auto step = steps.begin(); step != steps.end();) {
         remember();
-        if (!step->written) {
+        if (step->other) {
             (step++)->other();
-            continue;
+        } else if (step->record) {
+            TakeChanges(*step++, records);
+        } else if (step->isRemoval) {
+            std::vector<std::wstring> removed;
+            step = runOf(
+                step, [](const Step& one) { return one.isRemoval; },
+                [&](const Step& one) { removed.push_back(one.section); });
+            m_file.Remove(removed);
+        } else {
+            std::vector<QuorProbeFile::ProbeToWrite> probes;
+            step = runOf(
+                step, [](const Step& one) { return one.written && !one.record; },
+                [&](const Step& one) {
+                    probes.push_back({one.section, *one.written});
+                    written.push_back(&one);
+                });
+            m_file.Write(probes);
         }
-        if (step->record) {
-            TakeChanges(*step, records);
-            ++step;
-            continue;
-        }
-        std::vector<QuorProbeFile::ProbeToWrite> probes; // many in one call, which is faster
-        std::unordered_set<std::wstring> sections;       // of which each is written once
-        for (; step != steps.end() && step->written && !step->record &&
-               sections.insert(Folded(step->section)).second;
-             ++step) {
-            probes.push_back({step->section, *step->written});
-            written.push_back(&*step);
-        }
-        m_file.Write(probes);
     }
     remember();
     return records;

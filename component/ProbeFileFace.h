@@ -122,6 +122,7 @@ private:
         std::weak_ptr<CQuorConversion> host = {}; ///< of which it is a copy
         std::optional<RecordAsRead> record = {};  ///< of a write of changes
         bool isReadAnew = false;                  ///< since the step before of this conversion
+        bool isRemoval = false;
         std::function<void()> other = {};
     };
     /// What was read into the conversions of a host, or written from them.
@@ -139,12 +140,13 @@ private:
     /// Calls the file and keeps what is wrong with it. What was told of the call before is forgotten.
     template <class Body>
     auto Do(Body&& body);
-    /// The same of a call that writes or reloads, after which the text is the one that the host knows.
+    /// The same of a call that writes or reloads, after which the text is the one that the host knows. A call
+    /// that fails, and what is written through the store, may load another one.
     template <class Body>
     void DoAndKnow(Body&& body);
     /// Takes the step now, or at the end of the bracket.
     void Take(std::function<void()> step);
-    [[nodiscard]] Present Look(std::wstring_view section);
+    [[nodiscard]] static Present Look(QuorProbeFile::ProbeFile& file, std::wstring_view section);
     /// Takes all steps. What the records of the conversions are then.
     [[nodiscard]] Records TakeAll(const std::vector<Step>& steps);
     void TakeChanges(const Step& step, Records& records);
@@ -168,9 +170,7 @@ private:
     /// Those that were read in this bracket, since their last step.
     std::set<std::weak_ptr<CQuorConversion>, std::owner_less<>> m_readAnew;
     std::size_t m_recordsToLookThrough = 64; ///< for conversions that are gone, when there are so many
-    /// What RequireUnchanged has found as it was loaded, by folded sections: a bracket that fails loads the
-    /// current file.
-    std::map<std::wstring, Present> m_loaded;
+    std::unique_ptr<QuorProbeFile::ProbeFile> m_known; ///< the file as the host knows it
     std::vector<Step> m_steps;
     int m_depth = 0;
     bool m_isAbandoned = false;

@@ -1687,10 +1687,11 @@ QUOR_API int32_t quor_probe_file_get_ErrorOther(quor_object probe_file, quor_tex
  * whether it has another type or other values than the probe, as Read would give it. */
 QUOR_API int32_t quor_probe_file_Differs(quor_object probe_file, quor_text Section, quor_object Conversion,
                                          quor_bool* result);
-/* Error 75 if the file has the probe with other values than this object has read into the conversion or, if it has
- * not read it from there, than it had loaded; also if there was no such probe and now is, or the reverse. Between
- * Hold and Release it is Release that looks and raises this, so that a Write or Remove overwrites nothing that
- * another program has saved meanwhile. ConflictSection is then the probe. */
+/* Error 75 if the file has the probe with other values, or other lines that nothing reads, than this object has
+ * read into the conversion or, if it has not read it from there, than it had when it was loaded, reloaded or last
+ * written through this object (not by a call that failed, nor through Store); also if there was no such probe and
+ * now is, or the reverse. Between Hold and Release it is Release that looks and raises this, so that a Write or
+ * Remove overwrites nothing that another program has saved meanwhile. ConflictSection is then the probe. */
 QUOR_API int32_t quor_probe_file_RequireUnchanged(quor_object probe_file, quor_text Section, quor_object Conversion);
 
 /* ProbeTable. The numbers of all probes of a file in one array each, for hosts in languages with slow calls, as

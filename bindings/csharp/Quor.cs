@@ -4373,7 +4373,7 @@ namespace QuorConversions {
             using (var sectionText = new TextIn(section)) QuorError.Raise(Native.quor_probe_file_Differs(it, sectionText.Value, conversionHandle, out result));
             return result != 0;
         }
-        /// <summary>Error 75 if the file has the probe with other values than this object has read into the conversion or, if it has not read it from there, than it had loaded; also if there was no such probe and now is, or the reverse. Between Hold and Release it is Release that looks and raises this, so that a Write or Remove overwrites nothing that another program has saved meanwhile. ConflictSection is then the probe.</summary>
+        /// <summary>Error 75 if the file has the probe with other values, or other lines that nothing reads, than this object has read into the conversion or, if it has not read it from there, than it had when it was loaded, reloaded or last written through this object (not by a call that failed, nor through Store); also if there was no such probe and now is, or the reverse. Between Hold and Release it is Release that looks and raises this, so that a Write or Remove overwrites nothing that another program has saved meanwhile. ConflictSection is then the probe.</summary>
         public void RequireUnchanged(string section, CQuorConversion conversion) {
             var it = NativeHandle;
             var conversionHandle = QuorObject.HandleOf(conversion);

@@ -138,6 +138,20 @@ TEST_F(IniStoreTest, WithoutAGoodFileNameNothingIsReadOrWritten) {
     }
 }
 
+TEST_F(IniStoreTest, ATextInMemoryIsReadLikeAFileAndNeverSaved) {
+    File("[A]\nx=1\n");
+    const auto before = IniStore::OfText(store.Text());
+    store.WriteString(L"x", L"2");
+    before->SetSection(L"a");
+    std::wstring value;
+    EXPECT_TRUE(before->ReadString(L"X", value));
+    EXPECT_EQ(value, L"1");
+    EXPECT_EQ(RaisedBy([&] { before->WriteString(L"x", L"3"); }).Number(), 52);
+    EXPECT_EQ(RaisedBy([&] { before->Edit([] {}); }).Number(), 52);
+    EXPECT_TRUE(IniStore::OfText("")->Sections().empty());
+    EXPECT_EQ(File(), "[A]\nx=2\n");
+}
+
 TEST_F(IniStoreTest, SettingTheFileNameTouchesNoFile) {
     store.SetFileName(folder.Name("b.ini"));
     EXPECT_EQ(store.FileName(), folder.Name("b.ini"));

@@ -954,6 +954,55 @@ TEST_F(ProbeFileTest, RecordsAreTheSameWhenTheSameWouldBeReadFromThem) {
     EXPECT_TRUE(RecordAsRead().HasSameValues(RecordAsRead()));
 }
 
+TEST_F(ProbeFileTest, ALineThatNothingReadsMakesARecordAnotherOne) {
+    const auto areSame = [&](const std::string& text, const std::string& from, const std::string& to) {
+        Host(text);
+        ProbeFile file(Path());
+        const RecordAsRead before = file.Record(L"P");
+        Host(Replaced(text, from, to));
+        file.Reload();
+        return before.HasSameValues(file.Record(L"P"));
+    };
+    const std::string unreadable = Replaced(hostFile, "3.9083E-3", "n/a");
+    EXPECT_FALSE(areSame(unreadable, "n/a", "0,0039083"));
+    EXPECT_TRUE(areSame(unreadable, "100.0 ; ohms", "1E2 ; of 2026"));
+    const std::string refused = Replaced(hostFile, "NumCoefficients=4", "NumCoefficients=-4");
+    EXPECT_FALSE(areSame(refused, "Coefficients2=1.5", "Coefficients2=1.6"));
+    const std::string noType = Replaced(hostFile, "ConversionType=2", "ConversionType=cvd");
+    EXPECT_FALSE(areSame(noType, "=cvd", "=pt100"));
+    EXPECT_FALSE(areSame(noType, "Coefficients2=1.5", "Coefficients2=1.6"));
+    EXPECT_FALSE(areSame(hostFile, "Coefficients3=0\n", "Coefficients3=0\nCertificate=A-17\n"));
+    EXPECT_FALSE(areSame(hostFile, "Coefficients3=0\n", "Coefficients3=0\nnot a key\n"));
+    const std::string its90 = "[P]\nConversionType=0\n[P - Settings]\nRTPW=n/a\n"
+                              "[P - Settings - Low Range]\nRange=99\nCoefficients0=1\n"
+                              "[P - Settings - High Range]\nRange=11\nCoefficients0=2\n";
+    EXPECT_FALSE(areSame(its90, "Coefficients0=1", "Coefficients0=3"));
+    EXPECT_FALSE(areSame(its90, "Coefficients0=2", "Coefficients0=3"));
+    EXPECT_TRUE(areSame(its90, "[P - Settings - High", "[p - settings - High"));
+}
+
+TEST_F(ProbeFileTest, TheRecordOfATypeThatCannotBeReadIsThatOfNoConversion) {
+    Host(Replaced(hostFile, "ConversionType=2", "ConversionType=cvd"));
+    ProbeFile file(Path());
+    RecordAsRead record = file.Record(L"p");
+    CQuorConversion conversion;
+    conversion.SetConversionType(CONV_CVD);
+    EXPECT_TRUE(record.IsChanged(conversion));
+    EXPECT_EQ(ErrorOf([&] { (void)file.WriteChanges(L"P", conversion, record); }), L"11 [P] ?");
+}
+
+TEST_F(ProbeFileTest, ASnapshotStaysAsTheFileWas) {
+    Host(hostFile);
+    ProbeFile file(Path());
+    const auto before = ProbeFile::Snapshot(file);
+    file.Remove(L"Q");
+    EXPECT_EQ(before->Probes().size(), 2U);
+    EXPECT_EQ(before->Path(), Path());
+    EXPECT_TRUE(before->Record(L"P").HasSameValues(file.Record(L"P")));
+    EXPECT_THROW(before->Remove(L"Q"), QuorIniFile::QuorError);
+    EXPECT_EQ(file.Probes().size(), 1U);
+}
+
 TEST_F(ProbeFileTest, AProblemSaysInPhrasesWhatItSaysInItsText) {
     Host(Replaced(Replaced(Replaced(hostFile, "3.9083E-3", "0.0039 # alpha"), "100.0 ;", "-1 ;"),
                   "Coefficients3=0\n", "Colour=red\n"));

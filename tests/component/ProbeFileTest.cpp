@@ -654,6 +654,77 @@ TEST_F(ProbeFileFromC, OverwritesNothingThatAnotherProgramHasSavedWhereThatIsReq
     EXPECT_EQ(quor_probe_file_RequireUnchanged(file, Text("R"), anew), 0);
 }
 
+TEST_F(ProbeFileFromC, AfterABracketThatFailedAllProbesCountAsTheHostKnowsThem) {
+    const Handle file = Open();
+    const Handle anew = Conversion(QUOR_CONV_CVD);
+    const auto remove = [&](const char* section) {
+        EXPECT_EQ(quor_probe_file_Hold(file), 0);
+        EXPECT_EQ(quor_probe_file_RequireUnchanged(file, Text(section), anew), 0);
+        EXPECT_EQ(quor_probe_file_Remove(file, Text(section)), 0);
+        return quor_probe_file_Release(file);
+    };
+    const std::string theirs = Replaced(Replaced(hostFile, "100.01 ;", "101 ;"), "25.5", "25.4");
+    Put(theirs);
+    EXPECT_EQ(remove("P"), 75);
+    EXPECT_EQ(remove("Q"), 75) << "which the first bracket did not name";
+    EXPECT_EQ(LastError().description,
+              Path() + ": [Q]: another program has changed, added or removed the probe meanwhile");
+    EXPECT_EQ(File(), theirs);
+    const Handle read = Read(file, "Q"); // of the current file
+    EXPECT_EQ(quor_probe_file_RequireUnchanged(file, Text("Q"), read), 0);
+    EXPECT_EQ(quor_probe_file_RequireUnchanged(file, Text("P"), anew), 75)
+        << "a look at Q shows nothing of P";
+    ASSERT_EQ(quor_probe_file_Reload(file), 0);
+    EXPECT_EQ(remove("P"), 0);
+    EXPECT_EQ(File(), theirs.substr(0, theirs.find("[P]")) + theirs.substr(theirs.find("[Q]")));
+}
+
+TEST_F(ProbeFileFromC, WhatTheStoreLoadsWhenItIsWrittenIsNotKnownToTheHost) {
+    const Handle file = Open();
+    const Handle anew = Conversion(QUOR_CONV_CVD);
+    Handle store;
+    ASSERT_EQ(quor_probe_file_get_Store(file, &store), 0);
+    ASSERT_EQ(quor_inifile_put_Section(store, Text("Instrument")), 0);
+    Put(Replaced(hostFile, "25.5", "25.4"));
+    ASSERT_EQ(quor_inifile_WriteInteger(store, Text("Channels"), 9, Text("")), 0);
+    EXPECT_EQ(File(), Replaced(Replaced(hostFile, "25.5", "25.4"), "=8", "=9"));
+    EXPECT_EQ(quor_probe_file_RequireUnchanged(file, Text("P"), anew), 0);
+    EXPECT_EQ(quor_probe_file_RequireUnchanged(file, Text("Q"), anew), 75);
+}
+
+TEST_F(ProbeFileFromC, SeesAChangeOfARecordThatCannotBeRead) {
+    for (const auto& [line, change] : {std::pair{"Coefficients1=0.0039083", "Coefficients1=n/a"},
+                                       std::pair{"NumCoefficients=4", "NumCoefficients=-4"},
+                                       std::pair{"ConversionType=2", "ConversionType=cvd"}}) {
+        const std::string broken = Replaced(hostFile, line, change);
+        for (const auto& [from, to] : {std::pair{std::string(change), std::string(change) + "1"},
+                                       std::pair{std::string("=-5.775E-07"), std::string("=-5.8E-07")}}) {
+            Put(broken);
+            const Handle file = Open();
+            const Handle anew = Conversion(QUOR_CONV_CVD);
+            Put(Replaced(broken, from, to));
+            EXPECT_EQ(quor_probe_file_RequireUnchanged(file, Text("P"), anew), 75) << change << to;
+            Put(broken);
+            EXPECT_EQ(quor_probe_file_RequireUnchanged(file, Text("P"), anew), 0) << change << to;
+        }
+    }
+}
+
+TEST_F(ProbeFileFromC, RemovesManyInABracketAndEachOnce) {
+    const Handle file = Open();
+    ASSERT_EQ(quor_probe_file_Hold(file), 0);
+    for (const char* const section : {"P", "Q", "p"})
+        ASSERT_EQ(quor_probe_file_Remove(file, Text(section)), 0);
+    EXPECT_EQ(quor_probe_file_Release(file), 75);
+    EXPECT_EQ(ErrorCode(file), QUOR_PROBE_NO_SUCH_SECTION);
+    EXPECT_EQ(File(), hostFile);
+    ASSERT_EQ(quor_probe_file_Hold(file), 0);
+    ASSERT_EQ(quor_probe_file_Remove(file, Text("P")), 0);
+    ASSERT_EQ(quor_probe_file_Remove(file, Text("Q")), 0);
+    ASSERT_EQ(quor_probe_file_Release(file), 0);
+    EXPECT_EQ(File(), hostFile.substr(0, hostFile.find("\n[P]")));
+}
+
 TEST_F(ProbeFileFromC, FindsProbesInTheFileAsItIsAfterAWrite) {
     const Handle file = Open();
     const auto place = [&](const char* section) {

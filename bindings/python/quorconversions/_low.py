@@ -3272,10 +3272,12 @@ class ProbeFile(Object):
         return result.value != 0
 
     def RequireUnchanged(self, Section, Conversion):
-        """Error 75 if the file has the probe with other values than this object has read into the conversion or, if
-        it has not read it from there, than it had loaded; also if there was no such probe and now is, or the
-        reverse. Between Hold and Release it is Release that looks and raises this, so that a Write or Remove
-        overwrites nothing that another program has saved meanwhile. ConflictSection is then the probe."""
+        """Error 75 if the file has the probe with other values, or other lines that nothing reads, than this object
+        has read into the conversion or, if it has not read it from there, than it had when it was loaded,
+        reloaded or last written through this object (not by a call that failed, nor through Store); also if
+        there was no such probe and now is, or the reverse. Between Hold and Release it is Release that looks and
+        raises this, so that a Write or Remove overwrites nothing that another program has saved meanwhile.
+        ConflictSection is then the probe."""
         with lent(Conversion) as Conversion_handle:
             check(_library.quor_probe_file_RequireUnchanged(self._handle, text(Section), Conversion_handle))
 

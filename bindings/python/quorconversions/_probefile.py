@@ -229,6 +229,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
         self._file = _low.ProbeFile(self._path, create)
         self._probes: Dict[str, _Probe] = {}  # by folded sections
         self._is_read_again = True  # since the last call that writes, which loads the current file even if it fails
+        self._has_given_store = False  # and may load the current file at any time
         self._reads = 0  # the number of the last read
         self._missing: Set[str] = set()  # folded sections that the host has removed, or had, and the file has no longer
         self._detached: Dict[int, _Detached] = {}  # no longer of the file, by the handles of the conversions
@@ -239,7 +240,10 @@ class ProbeFile(MutableMapping[str, Conversion]):
 
     @property
     def store(self) -> _low.INIFile:
-        """The store of the file, for its other sections. What is written through it is saved at once."""
+        """The store of the file, for its other sections. What is written through it is saved at once. Conversions that were
+        accessed before get it, and what other programs have saved, with the next `save` or `discard`; a probe in which it
+        has changed something is a conflict like any other until then."""
+        self._has_given_store = True
         store = self._file.Store
         assert isinstance(store, _low.INIFile)
         return store
@@ -419,7 +423,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
             self._take(steps)
         elif self._file.Changed:
             self._call(self._file.Reload)
-        elif self._is_read_again:
+        elif self._is_read_again and not self._has_given_store:
             return
         self._reread(is_saved=True)
 

@@ -1,6 +1,7 @@
 """The probes of a file."""
 
 import math
+import time
 
 import pytest
 
@@ -948,3 +949,92 @@ def test_half_a_character_is_the_name_of_no_probe(laboratory):
     assert "\ud800" not in file
     with pytest.raises(KeyError):
         file["\ud800"]
+
+
+def test_a_removal_after_a_save_that_failed_takes_no_newer_record(laboratory):
+    other = "Probe 10 PRT-1183"
+    file = ProbeFile(laboratory)
+    file[PROBE].settings.R0 = 102
+    with ProbeFile(laboratory) as theirs:
+        theirs[PROBE].settings.R0 = 101
+        theirs[other].settings.R0 = 99.5
+    before = laboratory.read_bytes()
+    with pytest.raises(quor.ConflictError):
+        file.save()
+    file[PROBE].settings.R0 = 100  # as it was read: no change
+    del file[other]
+    with pytest.raises(quor.ConflictError) as raised:
+        file.save()
+    assert raised.value.conflicts == (quor.Conflict(other, "", "", "", ""),)
+    assert laboratory.read_bytes() == before
+    file.discard()
+    del file[other]
+    file.save()
+    assert other not in ProbeFile(laboratory)
+
+
+def test_what_is_written_through_the_store_overwrites_nothing_and_is_read_again_by_a_save(laboratory):
+    other = "Probe 10 PRT-1183"
+    file = ProbeFile(laboratory)
+    cvd = file[PROBE].settings
+    with ProbeFile(laboratory) as theirs:
+        theirs[other].settings.R0 = 99.5
+    file.store.Section = f"{PROBE} - Settings"
+    file.store.WriteDouble("Coefficients0", 100.0123, "")  # loads what they have saved
+    before = laboratory.read_bytes()
+    file.save()
+    assert (cvd.R0, laboratory.read_bytes()) == (100.0123, before)
+
+    file.store.WriteDouble("Coefficients0", 100.5, "")
+    cvd.A = 0.0039
+    file.save()
+    assert (cvd.R0, cvd.A) == (100.5, 0.0039)
+
+    file.store.WriteDouble("Coefficients0", 101, "")
+    del file[PROBE]
+    with pytest.raises(quor.ConflictError):
+        file.save()
+    file.discard()
+    assert (cvd.R0, file[PROBE].settings is cvd) == (101, True)
+
+
+def test_a_removal_after_a_write_through_the_store_takes_no_newer_record(laboratory):
+    file = ProbeFile(laboratory)
+    with ProbeFile(laboratory) as theirs:
+        theirs[PROBE].settings.R0 = 99.5
+    file.store.Section = "Instrument"
+    file.store.WriteInteger("Channels", 9, "")
+    del file[PROBE]
+    before = laboratory.read_bytes()
+    with pytest.raises(quor.ConflictError):
+        file.save()
+    assert laboratory.read_bytes() == before
+
+
+@pytest.mark.parametrize("change", [removed_without_a_look, assigned_as_it_was_read])
+def test_a_change_of_a_value_that_cannot_be_read_is_seen_too(laboratory, change):
+    text = laboratory.read_text(encoding="utf-8")
+    line = text.index("Coefficients1=", text.index(f"[{PROBE} - Settings]"))
+    end = text.index("\n", line)
+    laboratory.write_text(text[:line] + "Coefficients1=n/a" + text[end:], encoding="utf-8")
+    file = ProbeFile(laboratory)
+    change(file)
+    laboratory.write_text(text[:line] + "Coefficients1=0,0039083" + text[end:], encoding="utf-8")
+    before = laboratory.read_bytes()
+    with pytest.raises(quor.ConflictError):
+        file.save()
+    assert laboratory.read_bytes() == before
+
+
+def test_thousands_of_removals_take_time_in_proportion(tmp_path):
+    def seconds(count):
+        path = tmp_path / "host.ini"
+        path.write_text("".join(f"[P{i}]\nConversionType=14\n[P{i} - Settings]\nRTPW=25\n" for i in range(count)))
+        start = time.process_time()
+        with ProbeFile(path) as file:
+            for section in list(file):
+                del file[section]
+        assert path.read_text() == ""
+        return time.process_time() - start
+
+    assert min(seconds(1600), seconds(1600)) < 8 * min(seconds(400), seconds(400))
