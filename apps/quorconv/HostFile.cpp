@@ -108,8 +108,10 @@ std::string ReadAll(const std::wstring& path) {
 
 std::wstring ReadText(const std::wstring& path) {
     constexpr wchar_t byteOrderMark = L'\uFEFF';
-    std::wstring text = QuorIniFile::DecodeBytes(ReadAll(path));
-    return text.starts_with(byteOrderMark) ? text.substr(1) : text;
+    const auto text = QuorIniFile::FromUtf8(ReadAll(path));
+    if (!text)
+        throw Problem{path + L": the text is not UTF-8"};
+    return text->starts_with(byteOrderMark) ? text->substr(1) : *text;
 }
 
 std::vector<std::wstring> UnreadableLines(ProbeFile& file) {

@@ -21,7 +21,7 @@ inline constexpr const wchar_t* standardInput = L"-";
 /// All that a file holds, or the standard input. Raises Problem when it cannot be read, and for a standard
 /// input in which there is nothing: the program before it in the pipe has failed, most likely.
 [[nodiscard]] std::string ReadAll(const std::wstring& path);
-/// The same as text, without a byte-order mark.
+/// The same as text, without a byte-order mark. Raises Problem for a text that is not UTF-8, too.
 [[nodiscard]] std::wstring ReadText(const std::wstring& path);
 
 /// Lines of a file that keep what stands below them, or behind them, from being read, each told with its

@@ -170,13 +170,6 @@ namespace {
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-std::wstring FromLatin1(std::string_view bytes) {
-    std::wstring text;
-    for (const char byte : bytes)
-        text += static_cast<wchar_t>(static_cast<unsigned char>(byte));
-    return text;
-}
-
 using Strings = std::vector<std::wstring>;
 
 /// The words from one on.
@@ -292,7 +285,6 @@ Strings Words(std::wstring_view line) {
 ExitCode RunSteps(const std::wstring& path, const std::wstring& from, StepLanguage language,
                   const ValueRules& rules, bool isDryRun) {
     const std::string text = ReadAll(from); // a line of which is made text when it is its turn
-    const bool isUtf8 = QuorIniFile::FromUtf8(text).has_value();
     std::size_t count = 0;
     HostFile file(path, ProbeFile::Opening::OrNew);
     file.Edit(isDryRun, [&] {
@@ -311,7 +303,10 @@ ExitCode RunSteps(const std::wstring& path, const std::wstring& from, StepLangua
             progress.Step();
             batch.Do([number] { return std::to_wstring(number); },
                      [&] {
-                         auto words = Words(isUtf8 ? *QuorIniFile::FromUtf8(line) : FromLatin1(line));
+                         const auto decoded = QuorIniFile::FromUtf8(line);
+                         if (!decoded) // another encoding would be a guess, and names would be wrong
+                             throw Problem{L"the text is not UTF-8"};
+                         auto words = Words(*decoded);
                          if (words.empty())
                              return;
                          ++count;

@@ -305,6 +305,18 @@ TEST_F(QuorconvManyTest, TellsEachWrongStepWithItsLineAndDoesNoneOfThem) {
             "  steps.txt:3: host.ini: [Bath]: there is no such section\n");
 }
 
+TEST_F(QuorconvManyTest, GuessesNoEncodingOfStepsWhichWouldGiveProbesWrongNames) {
+    folder.Write("steps.txt",
+                 "# a caf\xE9\nrename Oven \"K\xC3\xBChler\"\nset Oven Coefficients0=1 # \xB0\n");
+    ExpectRefused({"apply", "host.ini", "steps.txt"},
+                  "quorconv: host.ini: nothing was written, because 2 lines of steps.txt are wrong\n"
+                  "  steps.txt:1: the text is not UTF-8\n"
+                  "  steps.txt:3: the text is not UTF-8\n");
+    ExpectRefused({"edit", "host.ini", "Oven", "--script", "steps.txt"},
+                  "quorconv: steps.txt: the text is not UTF-8\n");
+    ExpectUnchanged();
+}
+
 TEST_F(QuorconvManyTest, SetsWhatTheLinesOfAFileSay) {
     ExpectShell("printf '\"Bath A\" RTPW=25.4\\nOven Coefficients0=99.9\\n' | quorconv set host.ini --from -",
                 "", "quorconv: 2 steps done\n");
