@@ -105,6 +105,7 @@ bool FileCommands::OpenHostFile(const QString& path) {
     m_recent.Add(full);
     m_list.ClearFindBox();
     m_list.Show(0);
+    m_list.FitNames();
     if (!m_document.LostRecords().empty()) {
         std::vector<std::wstring> lines;
         for (const std::size_t line : m_document.LostRecords())

@@ -77,8 +77,8 @@ void ProbeList::MakeTable() {
     m_table->setSortingEnabled(true);
     m_table->header()->setSectionResizeMode(ProbeTableModel::ChangedColumn, QHeaderView::ResizeToContents);
     const int screenWidth = screen()->availableSize().width();
-    const int nameWidth = std::min(fontMetrics().averageCharWidth() * 30, screenWidth / 6);
-    m_table->header()->resizeSection(ProbeTableModel::NameColumn, nameWidth);
+    m_nameWidth = std::min(fontMetrics().averageCharWidth() * 30, screenWidth / 6);
+    m_table->header()->resizeSection(ProbeTableModel::NameColumn, m_nameWidth);
     // Names of conversions are not cut where the screen has room for them: the panes give way.
     int conversionWidth = 0;
     for (const TypeChoice& type : TypeChoice::All())
@@ -89,7 +89,7 @@ void ProbeList::MakeTable() {
                      m_table->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * m_table->frameWidth();
     // On a narrow screen a name that is cut has a tool tip, but the values beside the list must not be cut.
     const int panes = fontMetrics().averageCharWidth() * 64;
-    m_table->setMinimumWidth(std::min(nameWidth + conversionWidth + margins + rest,
+    m_table->setMinimumWidth(std::min(m_nameWidth + conversionWidth + margins + rest,
                                       std::max(screenWidth - panes, screenWidth / 2)));
     m_table->header()->setSectionResizeMode(ProbeTableModel::ConversionColumn, QHeaderView::Stretch);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { m_changed(); });
@@ -107,6 +107,23 @@ void ProbeList::MakeTable() {
 }
 
 QTreeView& ProbeList::Table() { return *m_table; }
+
+void ProbeList::FitNames() {
+    const QAbstractItemView& view = *m_table;
+    QHeaderView& header = *m_table->header();
+    const int width = header.sectionSize(ProbeTableModel::NameColumn);
+    const int room = view.viewport()->width() - header.sectionSize(ProbeTableModel::ChangedColumn) -
+                     view.sizeHintForColumn(ProbeTableModel::ConversionColumn);
+    const int wanted = view.sizeHintForColumn(ProbeTableModel::NameColumn);
+    header.resizeSection(ProbeTableModel::NameColumn, room > width
+                                                          ? std::max(width, std::min(wanted, room))
+                                                          : std::max(room, std::min(width, m_nameWidth)));
+}
+
+void ProbeList::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    FitNames();
+}
 
 std::optional<std::size_t> ProbeList::Current() const {
     const QModelIndex index = m_table->currentIndex();

@@ -62,6 +62,9 @@ public:
     /// The column that it is sorted by; -1 for none.
     [[nodiscard]] int SortColumn() const;
 
+    /// Gives names that are cut the room that conversions leave empty, and no more.
+    void FitNames();
+
     /// Opens an editor for the name of the probe that is selected.
     void EditName();
     /// Ends the editing of a name as Enter does. False when the name is refused; the person has been told.
@@ -80,6 +83,7 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void MakeTable();
@@ -92,6 +96,7 @@ private:
     ProbeTable* m_table;
     QLabel* m_emptyText;
     QLineEdit* m_find;
+    int m_nameWidth = 0; // of the names' column, where there is no more room
 };
 
 } // namespace ProbeSetup

@@ -9,11 +9,13 @@
 #include <QFileInfo>
 #include <QFont>
 #include <QLocale>
+#include <QMainWindow>
 #include <QPageLayout>
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QSaveFile>
+#include <QStatusBar>
 #include <QTextDocument>
 
 namespace ProbeSetup {
@@ -49,7 +51,7 @@ void ReportCommands::SavePdf(const std::vector<std::size_t>& probes) {
     if (dialog.exec() != QDialog::Accepted)
         return;
     const QString path = dialog.selectedFiles().value(0);
-    RunOrTell(&m_window, tr("%1 cannot be written.").arg(path), [&] {
+    const bool done = RunOrTell(&m_window, tr("%1 cannot be written.").arg(path), [&] {
         QSaveFile file(path);
         const auto fail = [&file] {
             throw QuorIniFile::QuorError(QuorIniFile::ERR_PATH_FILE_ACCESS, L"ReportCommands",
@@ -72,6 +74,9 @@ void ReportCommands::SavePdf(const std::vector<std::size_t>& probes) {
         if (!file.commit())
             fail();
     });
+    constexpr int aWhile = 5000; // milliseconds
+    if (done)
+        m_window.statusBar()->showMessage(tr("%1 is saved.").arg(path), aWhile);
 }
 
 } // namespace ProbeSetup

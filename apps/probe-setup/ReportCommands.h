@@ -7,8 +7,8 @@
 #include <cstddef>
 #include <vector>
 
+class QMainWindow;
 class QTextDocument;
-class QWidget;
 
 namespace ProbeSetup {
 
@@ -18,7 +18,7 @@ class ReportCommands {
 
 public:
     /// All of it outlives the commands. Questions and failures are shown over `window`.
-    ReportCommands(QWidget& window, ProbeDocument& document, QuorConversions::Platform& platform)
+    ReportCommands(QMainWindow& window, ProbeDocument& document, QuorConversions::Platform& platform)
         : m_window(window), m_document(document), m_platform(platform) {}
 
     /// Asks for a printer.
@@ -29,7 +29,7 @@ public:
 private:
     void Write(const std::vector<std::size_t>& probes, QTextDocument& paper);
 
-    QWidget& m_window;
+    QMainWindow& m_window;
     ProbeDocument& m_document;
     QuorConversions::Platform& m_platform;
 };

@@ -551,7 +551,7 @@
 
 Licence: MIT. Copyright © 2026 Quor Conversions contributors.
 Qt %1, under the LGPL.</source>
-        <translation>Die Fühlerkonversionen von Präzisionsthermometern: gehalten, bearbeitet, in INI-Dateien aufbewahrt.
+        <translation>Bearbeitet die Fühlerkonversionen von Präzisionsthermometern und bewahrt sie in INI-Dateien auf.
 
 Lizenz: MIT. Copyright © 2026 Quor Conversions contributors.
 Qt %1, unter der LGPL.</translation>
@@ -796,6 +796,10 @@ Qt %1, unter der LGPL.</translation>
 </context>
 <context>
     <name>ReportCommands</name>
+    <message>
+        <source>%1 is saved.</source>
+        <translation>%1 ist gespeichert.</translation>
+    </message>
     <message>
         <source>Print probes</source>
         <translation>Fühler drucken</translation>

@@ -4,6 +4,7 @@
 #include "QuorConversions/qt/QtPlatform.h"
 #include "apps/probe-setup/ProbeDialog.h"
 #include "apps/probe-setup/ProbeReport.h"
+#include "apps/probe-setup/ProbeTableModel.h"
 #include "apps/probe-setup/ReportCommands.h"
 #include "apps/probe-setup/TypeTexts.h"
 #include "tests/apps/probe-setup/WindowTest.h"
@@ -385,6 +386,26 @@ TEST_F(ManyProbesWindow, APdfHasAPageForEachProbe) {
     const std::string pdf = folder.Read("probes.pdf");
     EXPECT_EQ(pdf.substr(0, 5), "%PDF-");
     EXPECT_NE(pdf.find("/Count 2"), std::string::npos);
+    EXPECT_EQ(window->statusBar()->currentMessage(), Path("probes.pdf") + " is saved.");
+}
+
+TEST_F(ManyProbesWindow, NamesThatAreCutGetTheRoomThatConversionsLeaveEmpty) {
+    Open("[Triple point cell no. 760 in the second bath of the laboratory]\nConversionType=10\n" + host);
+    const auto isCut = [this](int column) {
+        const QAbstractItemView& view = Table();
+        return view.sizeHintForColumn(column) > Table().header()->sectionSize(column);
+    };
+    window->resize(700, 600);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(isCut(ProbeTableModel::NameColumn));
+    EXPECT_FALSE(isCut(ProbeTableModel::ConversionColumn));
+    window->resize(1800, 600);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(isCut(ProbeTableModel::NameColumn));
+    EXPECT_FALSE(isCut(ProbeTableModel::ConversionColumn));
+    window->resize(700, 600);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(isCut(ProbeTableModel::ConversionColumn));
 }
 
 TEST_F(ManyProbesWindow, ABarOffersToReloadWhenAnotherProgramHasChangedTheFile) {
