@@ -85,12 +85,12 @@ private:
 } // namespace
 
 ProbeFile::ProbeFile(std::wstring_view path, Opening opening)
-    : m_path(path), m_standAlone(StandAloneSection(path)), m_store(std::make_shared<IniStore>()) {
+    : m_path(path), m_store(std::make_shared<IniStore>()) {
     Load(path, opening);
 }
 
 ProbeFile::ProbeFile(std::wstring_view path, QuorIniFile::IniFileSystem& files, Opening opening)
-    : m_path(path), m_standAlone(StandAloneSection(path)), m_store(std::make_shared<IniStore>(files)) {
+    : m_path(path), m_store(std::make_shared<IniStore>(files)) {
     Load(path, opening);
 }
 

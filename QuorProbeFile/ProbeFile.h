@@ -5,6 +5,7 @@
 #include "QuorProbeFile/Export.h"
 #include "QuorProbeFile/ProbeEntry.h"
 #include "QuorProbeFile/ProbeFileError.h"
+#include "QuorProbeFile/ProbeNames.h"
 #include "QuorProbeFile/ProbeProblem.h"
 #include "QuorProbeFile/RecordAsRead.h"
 #include "QuorProbeFile/RecordImage.h"
@@ -252,7 +253,7 @@ private:
     [[nodiscard]] std::string TextOf(const ProbeEntry& probe);
 
     std::wstring m_path;
-    std::optional<std::wstring> m_standAlone; // the section of its record if it is a stand-alone file
+    std::optional<std::wstring> m_standAlone = StandAloneSection(m_path); // the section of its record
     std::shared_ptr<QuorIniFile::IniStore> m_store;
     std::uint64_t m_surveyed = 0; // the number of the text that was surveyed
     std::vector<ProbeEntry> m_probes;

@@ -74,9 +74,9 @@ void ReportCommands::SavePdf(const std::vector<std::size_t>& probes) {
         if (!file.commit())
             fail();
     });
-    constexpr int aWhile = 5000; // milliseconds
+    constexpr int shown = 5000; // milliseconds
     if (done)
-        m_window.statusBar()->showMessage(tr("%1 is saved.").arg(path), aWhile);
+        m_window.statusBar()->showMessage(tr("%1 is saved.").arg(path), shown);
 }
 
 } // namespace ProbeSetup

@@ -168,7 +168,7 @@ private:
     const std::set<std::wstring>& m_known;
 };
 
-constexpr std::size_t sectionPlace = static_cast<std::size_t>(-1);
+constexpr std::size_t ofSection = static_cast<std::size_t>(-1);
 
 GivenProbe ReadObject(const JsonValue& object, std::vector<PlaceInObject>& places) {
     RequireMembers(object, {L"section", L"code", L"type", L"name", L"settings"});
@@ -204,13 +204,15 @@ GivenProbe ReadObject(const JsonValue& object, std::vector<PlaceInObject>& place
         Fail(settings, L"\"UsePolynomial\" is missing, which says what the coefficients are");
     probe.values = std::move(reader.values);
     places = std::move(reader.numbers);
-    places.push_back({section.offset + 1, section.text.size(), sectionPlace}); // behind its quote
+    places.push_back({section.offset + 1, section.text.size(), ofSection}); // behind its quote
     return probe;
 }
 
 std::size_t CountDigits(std::string_view text) {
-    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
-    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isDigit) - text.begin());
+    std::size_t count = 0;
+    while (count < text.size() && text[count] >= '0' && text[count] <= '9')
+        ++count;
+    return count;
 }
 
 /// The length of the number at the start of a text; 0 for what is none, or one of so many digits that it may
@@ -242,15 +244,16 @@ std::size_t NumberLength(std::string_view text) {
 
 /// The length of the text up to its quote, all of it as it is meant, in ASCII; nothing for any other text.
 std::optional<std::size_t> PlainLength(std::string_view text) {
-    const auto end = std::find_if(text.begin(), text.end(),
-                                  [](char c) { return c < ' ' || c > '~' || c == '"' || c == '\\'; });
-    return end != text.end() && *end == '"' ? std::optional(static_cast<std::size_t>(end - text.begin()))
-                                            : std::nullopt;
+    const auto isPlain = [](char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; };
+    std::size_t length = 0;
+    while (length < text.size() && isPlain(text[length]))
+        ++length;
+    return text.substr(length).starts_with('"') ? std::optional(length) : std::nullopt;
 }
 
 /// The length of what stands in a place; nothing if it needs the parser.
 std::optional<std::size_t> LengthOf(const PlaceInObject& place, std::string_view text) {
-    if (place.value == sectionPlace)
+    if (place.value == ofSection)
         return PlainLength(text);
     const std::size_t length = NumberLength(text);
     return length > 0 ? std::optional(length) : std::nullopt;
@@ -278,7 +281,7 @@ std::size_t JsonProbes::Match(Pattern& pattern, std::string_view text) {
     for (const PlaceInObject& place : pattern.places) {
         const std::string_view bytes = text.substr(place.offset, place.length);
         std::wstring& meant =
-            place.value == sectionPlace ? pattern.probe.section : pattern.probe.values[place.value].value;
+            place.value == ofSection ? pattern.probe.section : pattern.probe.values[place.value].value;
         meant.assign(bytes.begin(), bytes.end());
     }
     return at;

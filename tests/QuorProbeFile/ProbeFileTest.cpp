@@ -1001,6 +1001,10 @@ TEST_F(ProbeFileTest, ASnapshotStaysAsTheFileWas) {
     EXPECT_TRUE(before->Record(L"P").HasSameValues(file.Record(L"P")));
     EXPECT_THROW(before->Remove(L"Q"), QuorIniFile::QuorError);
     EXPECT_EQ(file.Probes().size(), 1U);
+    folder.Write("a.w90", "[W(T90)]\nVersion=1.0\nRTPW=25\n");
+    ProbeFile standAlone(folder.Name("a.w90"));
+    EXPECT_TRUE(
+        ProbeFile::Snapshot(standAlone)->Record(L"W(T90)").HasSameValues(standAlone.Record(L"W(T90)")));
 }
 
 TEST_F(ProbeFileTest, AProblemSaysInPhrasesWhatItSaysInItsText) {
