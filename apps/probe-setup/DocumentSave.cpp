@@ -55,8 +55,7 @@ DocumentSave::DocumentSave(ProbeFile& before, const std::vector<ListedProbe>& pr
       m_removed(std::move(removed)),
       m_requireWhole(std::move(requireWhole)) {}
 
-bool DocumentSave::WriteInto(ProbeFile& file, const OthersChanges& replaced) const {
-    const bool othersWrote = m_before.Changed();
+void DocumentSave::WriteInto(ProbeFile& file, bool othersWrote, const OthersChanges& replaced) const {
     std::unordered_set<const ListedProbe*> gone;
     if (othersWrote)
         gone = CheckForConflicts(file, replaced);
@@ -68,7 +67,6 @@ bool DocumentSave::WriteInto(ProbeFile& file, const OthersChanges& replaced) con
             WriteWhole(file, probe);
     }
     SpellNewNames(*file.Store());
-    return othersWrote;
 }
 
 void DocumentSave::WriteWhole(ProbeFile& file, const ListedProbe& probe) {

@@ -25,11 +25,11 @@ public:
     DocumentSave(QuorProbeFile::ProbeFile& before, const std::vector<ListedProbe>& probes,
                  std::vector<const ListedProbe*> removed, std::function<void(std::size_t)> requireWhole);
 
-    /// Writes into `file`, within an edit, which may call it again, or in memory. Returns whether others have
-    /// written into the file. Raises DocumentError when a section would go that belongs to another probe too,
-    /// when a record is refused by its class, and when what others have written is in the way and is not
-    /// among `replaced`.
-    [[nodiscard]] bool WriteInto(QuorProbeFile::ProbeFile& file, const OthersChanges& replaced) const;
+    /// Writes into `file`, within an edit, which may call it again, or in memory. What others have written
+    /// into it is looked for if `othersWrote`. Raises DocumentError when a section would go that belongs to
+    /// another probe too, when a record is refused by its class, and when what others have written is in the
+    /// way and is not among `replaced`.
+    void WriteInto(QuorProbeFile::ProbeFile& file, bool othersWrote, const OthersChanges& replaced) const;
 
     /// Writes one probe, with all its values. Raises DocumentError when its class refuses the record.
     static void WriteWhole(QuorProbeFile::ProbeFile& file, const ListedProbe& probe);

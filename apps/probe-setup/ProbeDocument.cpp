@@ -468,6 +468,14 @@ bool ProbeDocument::ChangedByOthers() {
     }
 }
 
+bool ProbeDocument::IsGone() const {
+    try {
+        return !FileAt(m_path, Opening::OrNew)->Exists();
+    } catch (const QuorError&) {
+        return true; // it cannot be read any more
+    }
+}
+
 std::vector<std::size_t> ProbeDocument::StaleAmong(const std::vector<std::size_t>& probes) {
     std::vector<std::size_t> stale;
     if (!ChangedByOthers())
@@ -730,7 +738,9 @@ void ProbeDocument::WriteAll(ProbeFile& file) {
 
 bool ProbeDocument::WriteChanges(ProbeFile& file, const OthersChanges& replaced) {
     const auto requireWhole = [this](std::size_t probe) { RequireWhole(m_probes[probe]); };
-    return DocumentSave(*m_file, m_probes, RemovedProbes(), requireWhole).WriteInto(file, replaced);
+    const bool othersWrote = ChangedByOthers();
+    DocumentSave(*m_file, m_probes, RemovedProbes(), requireWhole).WriteInto(file, othersWrote, replaced);
+    return othersWrote;
 }
 
 std::size_t ProbeDocument::ReadHistory() {
@@ -774,20 +784,21 @@ void ProbeDocument::SaveAs(const std::wstring& path, const OthersChanges& replac
 }
 
 void ProbeDocument::SaveTo(const std::wstring& path, const OthersChanges& replaced, bool moves) {
-    const bool isOwn = m_file && m_file->Store()->IsOwnFile(path);
-    const auto file = m_path.empty() ? FileThatDoesNotExist(path) : FileAt(m_path, Opening::OrNew);
-    const bool exists = file->Exists();
-    if (isOwn && exists) {
+    // Where somebody has removed the file, all of its text is still here.
+    const bool isGone = m_file && IsGone();
+    if (isGone)
+        m_file->SaveAs(path);
+    if (m_file && m_file->Store()->IsOwnFile(path)) {
         Save(replaced);
         return;
     }
-    const std::size_t lostSteps = moves || isOwn ? ReadHistory() : 0;
+    const auto file = m_file ? FileAt(isGone ? path : m_path) : FileThatDoesNotExist(path);
+    const std::size_t lostSteps = moves ? ReadHistory() : 0;
     bool othersWrote = false;
     try {
         const InMemory inMemory(*file->Store());
-        // Where somebody has removed the file, the probes are what can be saved of it.
-        if (exists)
-            othersWrote = WriteChanges(*file, replaced);
+        if (m_file)
+            othersWrote = WriteChanges(*file, replaced) && !isGone;
         else
             WriteAll(*file);
         file->SaveAs(path);
@@ -796,7 +807,7 @@ void ProbeDocument::SaveTo(const std::wstring& path, const OthersChanges& replac
             error.file = path;
         throw;
     }
-    if (!moves && !isOwn)
+    if (!moves)
         return;
     m_file = FileAt(path);
     m_path = path;

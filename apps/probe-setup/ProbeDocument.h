@@ -173,10 +173,10 @@ public:
     /// in the list afterwards. The document must have a file.
     void Save(const OthersChanges& replaced = {});
     /// Saves the document, with all of the file around the probes, under another name, in place of what is
-    /// there; without its surroundings, when its own file is gone. The document stays with its own file, if
-    /// it has one, and takes the new one otherwise; a file of its own that was gone is its own again. Raises
-    /// what Save raises, and DocumentError when the file is gone and a probe, whose text is lost with it, was
-    /// not read wholly or is of an unknown type.
+    /// there; when its own file is gone, with all that stood in it when it was read. The document stays with
+    /// its own file, if it has one, and takes the new one otherwise; a file of its own that was gone is its
+    /// own again. Raises what Save raises; if its own file is gone, the other one then may hold what stood in
+    /// it, without the changes.
     void SaveCopyAs(const std::wstring& path, const OthersChanges& replaced = {});
     /// Saves as SaveCopyAs does, and the document goes over to the new file.
     void SaveAs(const std::wstring& path, const OthersChanges& replaced = {});
@@ -229,6 +229,8 @@ private:
     FileThatDoesNotExist(const std::wstring& path) const;
     /// The names of the file's sections that belong to no probe.
     [[nodiscard]] const std::vector<std::wstring>& Foreign() const;
+    /// Whether the file has been removed since it was read, or cannot be read any more.
+    [[nodiscard]] bool IsGone() const;
     /// Writes all probes into an empty file.
     void WriteAll(QuorProbeFile::ProbeFile& file);
     [[nodiscard]] std::vector<const ListedProbe*> RemovedProbes() const;
