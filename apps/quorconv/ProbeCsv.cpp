@@ -189,14 +189,16 @@ public:
         m_probe.section = fields[m_section];
         RequireType(m_type == none ? type : fields[m_type], line, type);
         m_probe.empty.clear();
+        m_probe.emptyTexts.clear();
         std::size_t given = 0;
         for (std::size_t i = 0; i < fields.size(); ++i) {
             if (i == m_section || i == m_type)
                 continue;
             const RecordKey* const key = m_columns[i].record;
-            // An empty field is no value, but of a text, which may be empty.
-            if (fields[i].empty() && !(key && std::holds_alternative<std::wstring>(key->initial))) {
+            if (fields[i].empty()) {
                 m_probe.empty.push_back(m_columns[i].key);
+                if (key && std::holds_alternative<std::wstring>(key->initial))
+                    m_probe.emptyTexts.push_back(m_columns[i].key);
                 continue;
             }
             if (given == m_probe.values.size())

@@ -110,29 +110,45 @@ OtherLines::OtherLines(const ProbeTable& table, const NameSet& sections) {
             if (!isOfRecord && !EqualFolded(key, QuorConversions::versionKey))
                 lines->push_back(
                     {Folded(PathOf(Folded(std::wstring(settingsMark)), section, key)),
+                     std::wstring(section).append(L"/").append(key),
                      std::wstring(section).append(L"/").append(key).append(L"=").append(line.Value()),
                      !section.empty()});
         } else if (lines) {
             lines->push_back(
-                {L"", section + L"/" + QuorIniFile::DecodeBytes(line.Bytes()), !section.empty()});
+                {L"", L"", section + L"/" + QuorIniFile::DecodeBytes(line.Bytes()), !section.empty()});
         }
     }
 }
 
-std::vector<std::wstring> OtherLines::Of(const ProbeValues& probe) const {
-    std::vector<std::wstring> texts;
+std::vector<const OtherLines::Line*> OtherLines::LinesOf(const ProbeValues& probe) const {
+    std::vector<const Line*> lines;
     const auto found = m_lines.find(probe.section);
     if (found == m_lines.end())
-        return texts;
+        return lines;
     NameSet read;
     for (const RecordImage::Entry& entry : probe.entries)
         read.insert(entry.path);
     const bool hasSettings = !read.empty() || !FindType(probe.code);
     for (const Line& line : found->second)
         if ((hasSettings || !line.isOfSettings) && (line.path.empty() || !read.contains(line.path)))
-            texts.push_back(line.text);
+            lines.push_back(&line);
+    return lines;
+}
+
+std::vector<std::wstring> OtherLines::Of(const ProbeValues& probe) const {
+    std::vector<std::wstring> texts;
+    for (const Line* const line : LinesOf(probe))
+        texts.push_back(line->text);
     std::sort(texts.begin(), texts.end());
     return texts;
+}
+
+std::unordered_map<std::wstring, std::wstring> OtherLines::ByKey(const ProbeValues& probe) const {
+    std::unordered_map<std::wstring, std::wstring> byKey;
+    for (const Line* const line : LinesOf(probe))
+        if (!line->key.empty())
+            byKey.emplace(line->key, line->text);
+    return byKey;
 }
 
 const ProbeValues& ProbeTable::Read(const std::wstring& section) const {

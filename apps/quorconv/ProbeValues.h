@@ -9,6 +9,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace quorconv {
@@ -54,13 +55,18 @@ public:
     OtherLines(const ProbeTable& table, const QuorProbeFile::NameSet& sections);
     /// Those of one of them, sorted.
     [[nodiscard]] std::vector<std::wstring> Of(const ProbeValues& probe) const;
+    /// Those that are keys, by what stands before their "="; of a key that stands twice the first one, which
+    /// is read.
+    [[nodiscard]] std::unordered_map<std::wstring, std::wstring> ByKey(const ProbeValues& probe) const;
 
 private:
     struct Line {
         std::wstring path; ///< of a value of the settings; empty for any other line
-        std::wstring text; ///< with the section as far as it is not the probe's name
+        std::wstring key;  ///< empty for a line that is no key
+        std::wstring text; ///< both with the section as far as it is not the probe's name
         bool isOfSettings; ///< stands in a section that is the host's where the type has no settings
     };
+    [[nodiscard]] std::vector<const Line*> LinesOf(const ProbeValues& probe) const;
     QuorProbeFile::NameMap<std::vector<Line>> m_lines; // by the sections of the probes
 };
 

@@ -25,21 +25,53 @@ bool IsOfKey(const ProbeProblem& problem) {
            problem.kind == PROBLEM_VALUE_UNREADABLE;
 }
 
+/// The section in which the settings of a probe begin, as the file spells it.
+std::wstring SettingsOf(const ProbeEntry& probe) {
+    return probe.standAlone ? probe.section : SettingsSection(probe.section);
+}
+
 /// Whether there is no complaint about a record but that it lacks keys which are about to be given. A type
-/// that nobody knows, and a value that the settings replace, are shown as they are.
-bool IsCompletedBy(const ReadOutcome& outcome, const std::wstring& settings,
-                   const std::vector<Assignment>& assignments) {
+/// that nobody knows is shown as it is; a value that the settings replace is only for who edits the record.
+bool IsCompletedBy(const ReadOutcome& outcome, const std::vector<Assignment>& assignments, bool isEdited) {
     const auto& problems = outcome.problems;
+    const std::wstring settings = SettingsOf(outcome.probe);
     const bool lacksKeys = std::any_of(problems.begin(), problems.end(), IsOfKey);
     return (outcome.messages.empty() || lacksKeys) &&
            std::all_of(problems.begin(), problems.end(), [&](const ProbeProblem& problem) {
-               if (problem.kind == PROBLEM_UNKNOWN_TYPE || problem.kind == PROBLEM_VALUE_REPLACED)
+               if (problem.kind == PROBLEM_UNKNOWN_TYPE ||
+                   (isEdited && problem.kind == PROBLEM_VALUE_REPLACED))
                    return true;
                return IsOfKey(problem) &&
                       std::any_of(assignments.begin(), assignments.end(), [&](const Assignment& a) {
                           return EqualFolded(a.key, PathOf(settings, problem.section, problem.key));
                       });
            });
+}
+
+/// Whether the file has each whole number and each flag that the settings hold: they replace some that are
+/// out of their range without a message.
+bool HoldsWhatStands(const SettingsObject& settings, QuorIniFile::INIFile& store,
+                     const std::wstring& section) {
+    struct Visitor {
+        QuorIniFile::INIFile& store;
+        const std::wstring& key;
+        bool operator()(std::int16_t held) const {
+            std::int16_t present = 0;
+            return store.ReadInteger(key, present) && present == held;
+        }
+        bool operator()(bool held) const {
+            bool present = false;
+            return store.ReadBoolean(key, present) && present == held;
+        }
+        bool operator()(double /*held*/) const { return true; }
+        bool operator()(const std::wstring& /*held*/) const { return true; }
+    };
+    const auto image = RecordImage::Of(settings);
+    return std::all_of(image->Entries().begin(), image->Entries().end(),
+                       [&](const RecordImage::Entry& entry) {
+                           const std::wstring key = SelectKey(store, SettingsSection(section), entry.path);
+                           return std::visit(Visitor{store, key}, entry.value);
+                       });
 }
 
 } // namespace
@@ -49,7 +81,8 @@ bool ReadWhole(ProbeFile& file, Probe& probe) {
     std::int16_t code = 0;
     store->SetSection(probe.Section());
     return store->ReadInteger(conversionTypeKey, code) && FindType(code) &&
-           probe.Conversion().ReadFromFile(store, L"", probe.Section()) && probe.Messages().empty();
+           probe.Conversion().ReadFromFile(store, L"", probe.Section()) && probe.Messages().empty() &&
+           (!probe.Settings() || HoldsWhatStands(*probe.Settings(), *store, probe.Section()));
 }
 
 namespace {
@@ -108,12 +141,11 @@ RecordForm FormOf(const std::vector<RecordImage::Entry>& entries) {
 namespace {
 
 /// Reads a probe with what is wrong with it, and its record.
-Probe ReadWithRecord(ProbeFile& file, const std::wstring& section,
-                     const std::vector<Assignment>& completion = {}) {
+Probe ReadWithRecord(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& completion,
+                     bool isEdited) {
     Probe probe(section);
     const ReadOutcome outcome = file.Read(section, probe.Conversion());
-    const std::wstring settings = outcome.probe.standAlone ? section : SettingsSection(section);
-    if (!IsCompletedBy(outcome, settings, completion))
+    if (!IsCompletedBy(outcome, completion, isEdited))
         throw Problem{Place(file.Path(), section) + L": the record cannot be read",
                       Reasons(outcome.messages, outcome.problems)};
     return probe;
@@ -123,11 +155,11 @@ Probe ReadWithRecord(ProbeFile& file, const std::wstring& section,
 
 Probe ReadProbe(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& completion) {
     Probe whole(section);
-    return ReadWhole(file, whole) ? std::move(whole) : ReadWithRecord(file, section, completion);
+    return ReadWhole(file, whole) ? std::move(whole) : ReadWithRecord(file, section, completion, false);
 }
 
 Probe ReadProbeToEdit(ProbeFile& file, const std::wstring& section) {
-    Probe probe = ReadWithRecord(file, section);
+    Probe probe = ReadWithRecord(file, section, {}, true);
     if (!probe.Settings())
         throw Problem{Place(file.Path(), section) + L": " + probe.TypeName() + L" has no settings"};
     probe.Record() = file.Record(section);
@@ -240,7 +272,7 @@ public:
         std::vector<std::wstring> reinterpreted;
         for (const RecordImage::Entry& entry : m_before) {
             const RecordImage::Entry* const stored = m_image->Find(entry.path);
-            if ((stored && m_isAssigned[PlaceOf(stored)]) || !SaysSomething(entry.value))
+            if ((stored && IsEnteredAgain(*stored, entry)) || !SaysSomething(entry.value))
                 continue;
             if (!stored || !SameValue(stored->value, entry.value))
                 lost.push_back(entry.path + L"=" + ToText(entry.value));
@@ -294,6 +326,13 @@ private:
                                 !m_completed.contains(entry.path) && !SameValue(stored->value, entry.value);
                      });
         return redecided;
+    }
+    /// Whether a value was given for what it means now. A table and JSON carry each value, also where nobody
+    /// has looked at it: there it is entered again if it is another one.
+    [[nodiscard]] bool IsEnteredAgain(const RecordImage::Entry& stored,
+                                      const RecordImage::Entry& before) const {
+        return m_isAssigned[PlaceOf(&stored)] &&
+               !(m_rules.completes && SameValue(stored.value, before.value));
     }
     [[nodiscard]] const Entries& Result() const { return m_image->Entries(); }
     [[nodiscard]] std::size_t PlaceOf(const RecordImage::Entry* entry) const {
@@ -489,11 +528,12 @@ bool AssignNumbers(ProbeFile& file, const std::wstring& section, const std::vect
 }
 
 /// Writes those of the values for which the settings refuse the record as a whole, such as a count below
-/// zero: they hold nothing of it then, so that it is to be read again. False when none of them is given.
+/// zero, or take another one: they hold nothing of what stands there then, so that it is to be read again.
+/// False when none of them is given.
 bool WriteRefused(ProbeFile& file, const std::wstring& section, const std::vector<Assignment>& assignments) {
     Probe probe(section);
     const ReadOutcome outcome = file.Read(section, probe.Conversion());
-    const std::wstring settings = outcome.probe.standAlone ? section : SettingsSection(section);
+    const std::wstring settings = SettingsOf(outcome.probe);
     bool isWritten = false;
     for (const ProbeProblem& problem : outcome.problems) {
         const std::wstring path = PathOf(settings, problem.section, problem.key);
@@ -501,7 +541,9 @@ bool WriteRefused(ProbeFile& file, const std::wstring& section, const std::vecto
                                         [&](const Assignment& a) { return EqualFolded(a.key, path); });
         const RecordKey* const key =
             FindRecordKey(probe.Conversion().ConversionType(), path, RecordForm::Any);
-        if (problem.kind != PROBLEM_VALUE_REFUSED || given == assignments.end() || !key)
+        const bool isRefused =
+            problem.kind == PROBLEM_VALUE_REFUSED || problem.kind == PROBLEM_VALUE_REPLACED;
+        if (!isRefused || given == assignments.end() || !key)
             continue;
         if (const auto value = ParseAs(key->initial, given->value)) {
             WriteEntry(*file.Store(), settings, {path, *value});
@@ -514,8 +556,7 @@ bool WriteRefused(ProbeFile& file, const std::wstring& section, const std::vecto
 /// The same values, with what completes the record.
 std::vector<Assignment> Completing(ProbeFile& file, const Probe& probe,
                                    const std::vector<Assignment>& assignments) {
-    const std::wstring settings =
-        file.Find(probe.Section())->standAlone ? probe.Section() : SettingsSection(probe.Section());
+    const std::wstring settings = SettingsOf(*file.Find(probe.Section()));
     std::vector<Assignment> completing = assignments;
     for (Assignment& assignment : completing) {
         std::wstring text;
@@ -544,8 +585,7 @@ void AssignInFile(ProbeFile& file, const std::wstring& section, const std::vecto
         probe = ReadProbe(file, section, assignments); // which tells what is wrong with it
     const Entries changed =
         Assign(probe, file.Path(), isWhole ? assignments : Completing(file, probe, assignments), rules);
-    const std::wstring settings =
-        isWhole || !file.Find(section)->standAlone ? SettingsSection(section) : section;
+    const std::wstring settings = isWhole ? SettingsSection(section) : SettingsOf(*file.Find(section));
     if (!rules.drops)
         RequireNothingWrittenOver(file, section, settings, changed, assignments);
     if (!isWhole)

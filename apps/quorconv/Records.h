@@ -26,7 +26,8 @@ struct GivenProbe {
     std::wstring section;
     std::wstring type;
     std::vector<Assignment> values;
-    std::vector<std::wstring> empty; ///< keys whose fields in a table are empty: they keep their values
+    std::vector<std::wstring> empty;      ///< keys whose fields in a table are empty: they keep their values
+    std::vector<std::wstring> emptyTexts; ///< those of them that are texts, which are empty in a new probe
 };
 
 /// Each text as a KEY=VALUE; UsageError for one that is none, and for a key that is given twice.
@@ -38,8 +39,9 @@ struct ValueRules {
     /// Values that are not 0 may be lost to a smaller count or another range, or get another meaning by a
     /// flag, type or scale.
     bool drops = false;
-    /// A value that the record gains, by a greater count or another range, must be given: it would be 0 and
-    /// pass for a value.
+    /// The values come from a table or JSON, which carry all of them. A value that the record gains, by a
+    /// greater count or another range, must be given: it would be 0 and pass for a value. One that is given
+    /// as it stands is not entered again.
     bool completes = false;
     /// Declares "--allow-nan".
     void Declare(Arguments& arguments);

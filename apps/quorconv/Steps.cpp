@@ -149,6 +149,7 @@ std::optional<CopiedKey> KeyIn(const QuorIniFile::IniLines& line, QuorIniFile::I
 
 void CopyOtherKeys(ProbeFile& from, const NameMap<std::wstring>& copied, ProbeFile& to, const NameSet& but) {
     std::vector<CopiedKey> keys;
+    NameSet seen = but;                 // "section/key": of a key that stands twice, the first line is read
     std::optional<std::wstring> target; // of the section that is walked through
     for (auto line = from.Store()->Lines(); line.Next();) {
         if (line.Is(QuorIniFile::IniLines::Kind::Header)) {
@@ -156,7 +157,7 @@ void CopyOtherKeys(ProbeFile& from, const NameMap<std::wstring>& copied, ProbeFi
             from.Store()->SetSection(line.Name());
         }
         if (const auto key = target ? KeyIn(line, *from.Store(), *target) : std::nullopt;
-            key && !but.contains(std::wstring(from.Store()->Section()).append(L"/").append(key->name)))
+            key && seen.insert(std::wstring(from.Store()->Section()).append(L"/").append(key->name)).second)
             keys.push_back(*key);
     }
     for (const CopiedKey& key : keys) {

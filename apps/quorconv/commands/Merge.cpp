@@ -415,10 +415,10 @@ class Merge final : public Command {
         for (const auto& other : {tables.ours.Find(name), tables.base.Find(name)})
             if (other)
                 record.entries.insert(record.entries.end(), other->entries.begin(), other->entries.end());
-        const auto theirs = ByKey(lines.theirs.Of(record));
+        const auto theirs = lines.theirs.ByKey(record);
         record.section = name;
-        auto ours = ByKey(lines.ours.Of(record));
-        auto base = ByKey(lines.base.Of(record));
+        auto ours = lines.ours.ByKey(record);
+        auto base = lines.base.ByKey(record);
         NameSet kept;
         for (const auto& [key, line] : theirs) {
             const std::wstring& our = ours[key];
@@ -439,15 +439,7 @@ class Merge final : public Command {
             plan.kept.insert(tables.theirs.PlaceOf(section, entry.path));
     }
 
-    /// OtherLines by their keys, with what the section has behind the name of the probe.
-    static std::unordered_map<std::wstring, std::wstring> ByKey(const std::vector<std::wstring>& lines) {
-        std::unordered_map<std::wstring, std::wstring> byKey;
-        for (const std::wstring& line : lines)
-            byKey.emplace(line.substr(0, line.find(L'=')), line);
-        return byKey;
-    }
-
-    /// "section/key" of a key of ByKey.
+    /// "section/key" of a key of OtherLines::ByKey.
     static std::wstring PlaceOf(const ProbeTable& table, const std::wstring& section,
                                 const std::wstring& key) {
         const std::size_t mark = settingsMark.size();

@@ -43,16 +43,24 @@ void RequireType(ProbeFile& file, const GivenProbe& given, const TypeInfo& type)
 }
 
 /// Writes a probe: over one of the same type, whose other values stay, or a new one, of which each value
-/// must be given.
-void PutProbe(ProbeFile& file, const GivenProbe& given, const ValueRules& rules) {
+/// must be given. True when it was there.
+bool PutProbe(ProbeFile& file, const GivenProbe& given, const ValueRules& rules) {
     const TypeInfo& type = RequireSettingsType(given.type);
     if (HasSection(file, given.section)) {
         RequireType(file, given, type);
         AssignInFile(file, given.section, given.values, rules);
-        return;
+        return true;
     }
     RequireName(file.Path(), given.section);
-    WriteNewProbe(file, given.section, type.code, given.values, rules);
+    if (given.emptyTexts.empty()) {
+        WriteNewProbe(file, given.section, type.code, given.values, rules);
+        return false;
+    }
+    std::vector<Assignment> values = given.values;
+    for (const std::wstring& key : given.emptyTexts)
+        values.push_back({key, L""});
+    WriteNewProbe(file, given.section, type.code, values, rules);
+    return false;
 }
 
 /// How many values a probe has kept because their fields are empty: it may lack values that others have.
@@ -123,8 +131,8 @@ class Put final : public Command {
                 batch.Do(place, [&] {
                     RequireNew(sections, given.section);
                     duplicates.Require(given.section);
-                    PutProbe(*file, given, m_rules);
-                    kept += CountKept(reader, *file, given);
+                    if (PutProbe(*file, given, m_rules))
+                        kept += CountKept(reader, *file, given);
                 });
             };
             if (m_isJson)

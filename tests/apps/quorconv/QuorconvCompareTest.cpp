@@ -365,6 +365,20 @@ TEST_F(QuorconvCompareTest, MergesKeysThatNoRecordHas) {
     EXPECT_EQ(folder.Read("ours.ini"), due);
 }
 
+TEST_F(QuorconvCompareTest, OfAnOwnKeyThatStandsTwiceTheFirstLineIsMergedAndALineThatIsNoKeyIsNot) {
+    const std::string due = base + "Due=2026\nDue=1\n";
+    folder.Write("base.ini", due);
+    folder.Write("ours.ini", due);
+    folder.Write("theirs.ini", Replaced(due, "Due=2026", "Due=2027"));
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
+    EXPECT_EQ(folder.Read("ours.ini"), folder.Read("theirs.ini"));
+    folder.Write("base.ini", base);
+    folder.Write("ours.ini", base);
+    folder.Write("theirs.ini", base + "garbage\n");
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 0 probes merged\n");
+    EXPECT_EQ(folder.Read("ours.ini"), base);
+}
+
 TEST_F(QuorconvCompareTest, MergesKeysThatNoRecordHasOfAStandAloneFile) {
     const std::string text = "[Callendar-Van Dusen]\nVersion=1.0\nNumCoefficients=2\nUsePolynomial=False\n"
                              "Coefficients0=100\nCoefficients1=0.0039\nDue=2025-05\nBath=3\n";

@@ -428,6 +428,16 @@ TEST_F(QuorconvExchangeTest, TellsHowManyValuesAnEmptyFieldHasKept) {
     EXPECT_EQ(folder.Read("host.ini"), Replaced(before, "100.0123", "99.5"));
 }
 
+TEST_F(QuorconvExchangeTest, AnEmptyFieldKeepsATextAsItKeepsANumber) {
+    ExpectFine({"new", "a.ini", "T", "tcx", "TCType=4", "NumPoints=1", "Temperatures0=5", "Offsets0=0.25",
+                "TempScale=C", "OffsetScale=C"});
+    const std::string written = folder.Read("a.ini");
+    folder.Write("in.csv", "section,TempScale,OffsetScale,Offsets0\nT,,,0.5\n");
+    ExpectShell("quorconv put a.ini in.csv --csv --type tcx", "",
+                "quorconv: 1 probe put\nquorconv: 2 values kept: the fields are empty\n");
+    EXPECT_EQ(folder.Read("a.ini"), Replaced(written, "0.25", "0.5"));
+}
+
 TEST_F(QuorconvExchangeTest, TakesATableOfNewCertificates) {
     folder.Write("in.csv", "\xEF\xBB\xBFsection,Coefficients0\n\"Bath\",\"99,5\"\n\n");
     ExpectShell("quorconv put host.ini in.csv --csv --type cvd --decimal comma", "",

@@ -410,3 +410,112 @@ TEST_F(QuorconvLossTest, AProbeThatOccursTwiceIsToldWhereItIsReadAndRefusedWhere
     EXPECT_EQ(folder.Read("a.ini"), file);
     ExpectFine({"set", "a.ini", "Q", "RTPW=8"});
 }
+
+TEST_F(QuorconvLossTest, ACopyHasTheFirstOfTwoLinesOfAKeyWhichIsTheOneThatIsRead) {
+    folder.Write("a.ini", "[P]\nConversionType=2\nDue=5\nDue=1\nConversionType=3\n\n"
+                          "[P - Settings]\nNumCoefficients=2\nUsePolynomial=0\nCoefficients0=100.0\n"
+                          "Coefficients1=0.0039\ncoefficients0=999.0\nNumCoefficients=7\n");
+    const std::string copy = "Version=1.0\nConversionType=2\nDue=5\n\n"
+                             "[Q - Settings]\nVersion=1.0\nNumCoefficients=2\nUsePolynomial=False\n"
+                             "Coefficients0=100\nCoefficients1=0.0039\n";
+    ExpectFine({"copy", "a.ini", "P", "b.ini", "Q"});
+    EXPECT_EQ(folder.Read("b.ini"), "[Q]\n" + copy);
+    ExpectShell("echo 'copy P Q' | quorconv apply a.ini --dry-run | grep '^+[^+]' | cut -c 2-",
+                Replaced("[Q]\n" + copy, "\n\n", "\n"), "quorconv: 1 step would be done\n");
+    folder.Write("empty.ini", "");
+    folder.Write("c.ini", "");
+    ExpectShell("quorconv merge empty.ini c.ini a.ini", "", "quorconv: 1 probe merged\n");
+    EXPECT_EQ(folder.Read("c.ini"), Replaced("[P]\n" + copy, "[Q", "[P"));
+}
+
+TEST_F(QuorconvLossTest, ARecordOfWhichAValueWouldBeAnotherOneIsRefusedAndMendedByThatValue) {
+    for (const std::string order : {"-5", "99"}) {
+        const std::string file =
+            "[P]\nVersion=1.0\nConversionType=4\n\n[P - Settings]\nVersion=1.0\nOrder=" + order +
+            "\nCoefficients0=1\nCoefficients1=2\nCoefficients2=3\n"
+            "Coefficients3=4\nCoefficients4=5\n";
+        folder.Write("a.ini", file);
+        const std::string refusal = "a.ini: [P]: the record cannot be read\n"
+                                    "  line 7: [P - Settings] Order: the value " +
+                                    order + " is not accepted" +
+                                    (order == "99" ? "; 4 would be used\n" : "\n");
+        for (const auto& command :
+             std::vector<std::vector<std::string>>{{"show", "a.ini", "P"},
+                                                   {"show", "a.ini", "P", "--jsonl"},
+                                                   {"get", "a.ini", "P", "Order"},
+                                                   {"set", "a.ini", "P", "Coefficients0=7"}})
+            ExpectRefused(command, "quorconv: " + refusal);
+        ExpectShell("quorconv export a.ini --jsonl", "",
+                    "quorconv: " + refusal + "quorconv: 0 probes exported\n", 1);
+        ExpectFine({"set", "a.ini", "P", "Order=4"});
+        EXPECT_EQ(folder.Read("a.ini"), Replaced(file, "Order=" + order, "Order=4"));
+        folder.Write("a.ini", file);
+        folder.Write("in.csv", "section,Order,Coefficients1\nP,4,8\n");
+        ExpectShell("quorconv put a.ini in.csv --csv --type ply", "", "quorconv: 1 probe put\n");
+        EXPECT_EQ(folder.Read("a.ini"), Replaced(Replaced(file, "Order=" + order, "Order=4"), "1=2", "1=8"));
+        const std::string good = Replaced(file, "Order=" + order, "Order=4");
+        folder.Write("good.ini", good);
+        folder.Write("a.ini", file);
+        ExpectRefused({"merge", "good.ini", "good.ini", "a.ini"}, "quorconv: " + refusal);
+        EXPECT_EQ(folder.Read("good.ini"), good);
+    }
+    const std::string table =
+        "[T]\nConversionType=9\n[T - "
+        "Settings]\nTCType=4\nCoefficients0=0\nCoefficients1=0\nNumPoints=11\nTempScale=C\n"
+        "OffsetScale=C\n";
+    folder.Write("t.ini", table);
+    EXPECT_EQ(Quorconv({"set", "t.ini", "T", "NumPoints=0"}).err, "");
+    EXPECT_EQ(folder.Read("t.ini"), Replaced(table, "=11", "=0"));
+}
+
+TEST_F(QuorconvLossTest, AKeyThatIsMissingOrRefusedIsGivenUnderAnySpellingOfTheSection) {
+    folder.Write("a.ini", "[Probe]\nConversionType=14\n[Probe - Settings]\n");
+    ExpectShell("echo 'set pROBE RTPW=25.5' | quorconv apply a.ini", "", "quorconv: 1 step done\n");
+    ExpectFine({"get", "a.ini", "Probe", "RTPW"}, "25.5\n");
+    const std::string file = "[P]\nConversionType=4\n[P - Settings]\nOrder=-1\nCoefficients0=1\n"
+                             "Coefficients1=2\nCoefficients2=3\nCoefficients3=4\nCoefficients4=5\n";
+    folder.Write("b.ini", file);
+    folder.Write("in.csv", "section,Order\np,4\n");
+    ExpectShell("quorconv put b.ini in.csv --csv --type ply", "", "quorconv: 1 probe put\n");
+    EXPECT_EQ(folder.Read("b.ini"), Replaced(file, "-1", "4"));
+}
+
+TEST_F(QuorconvLossTest, ATableThatChangesAFlagOrAScaleAloneGivesNoValuesAnotherMeaning) {
+    ExpectFine({"new", "a.ini", "C", "cvd", "Coefficients0=100", "Coefficients1=0.00385", "Coefficients2=1.5",
+                "Coefficients3=0"});
+    const std::string before = folder.Read("a.ini");
+    const std::string meaning =
+        "a.ini: [C] values of the probe would change their meaning; enter them again, or use --drop to "
+        "allow it\n    Coefficients1=0.00385, by UsePolynomial=True\n"
+        "    Coefficients2=1.5, by UsePolynomial=True\n";
+    ExpectShell("quorconv export a.ini --csv --type cvd | sed s/False/True/ >t.csv; "
+                "quorconv put a.ini t.csv --csv",
+                "",
+                "quorconv: 1 probe exported\n"
+                "quorconv: a.ini: nothing was written, because a line of t.csv is wrong\n  t.csv:2: " +
+                    meaning,
+                1);
+    ExpectShell(
+        "quorconv show a.ini C --json | sed s/false/true/ | grep -v name | quorconv put a.ini - --json", "",
+        "quorconv: a.ini: nothing was written, because a line of - is wrong\n  -:1:1: " + meaning, 1);
+    EXPECT_EQ(folder.Read("a.ini"), before);
+    // New values, of which two are as they were and mean the same in both forms, or nothing.
+    ExpectShell("sed -i 's/0.00385/0.0039/; s/1.5/-5.8e-7/' t.csv; quorconv put a.ini t.csv --csv", "",
+                "quorconv: 1 probe put\n");
+    EXPECT_EQ(folder.Read("a.ini"),
+              Replaced(Replaced(Replaced(before, "False", "True"), "0.00385", "0.0039"), "1.5", "-5.8e-07"));
+    ExpectFine({"new", "a.ini", "T", "tcx", "TCType=4", "NumPoints=1", "Temperatures0=5", "Offsets0=0.25",
+                "TempScale=C", "OffsetScale=C"});
+    const std::string points = folder.Read("a.ini");
+    ExpectShell(
+        "printf 'section,TempScale,Temperatures0\nT,F,5\n' >s.csv; "
+        "quorconv put a.ini s.csv --csv --type tcx",
+        "",
+        "quorconv: a.ini: nothing was written, because a line of s.csv is wrong\n  s.csv:2: a.ini: [T] "
+        "values of the probe would change their meaning; enter them again, or use --drop to allow it\n"
+        "    Temperatures0=5, by TempScale=F\n",
+        1);
+    EXPECT_EQ(folder.Read("a.ini"), points);
+    ExpectShell("quorconv put a.ini s.csv --csv --type tcx --drop", "", "quorconv: 1 probe put\n");
+    EXPECT_EQ(folder.Read("a.ini"), Replaced(points, "TempScale=C", "TempScale=F"));
+}
