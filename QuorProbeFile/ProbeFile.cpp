@@ -370,15 +370,16 @@ std::vector<ProbeProblem> ProbeFile::Check(const std::function<void()>& afterEac
 
 void ProbeFile::Edit(const std::function<void()>& edit) { m_store->Edit(edit); }
 
-/// The sections of the probe `except`, if there is one, do not count.
-TakenNames ProbeFile::NamesBut(const ProbeEntry* except) {
-    const auto isOfIt = [except](const std::wstring& section) {
-        return except && (EqualFolded(section, except->section) ||
-                          (MayHaveSettings(except->type) && HoldsSettingsOf(section, except->section)));
+/// The sections of these probes do not count.
+TakenNames ProbeFile::NamesBut(const NameMap<ProbeEntry>& probes) {
+    const auto isOwner = [&probes](std::wstring_view name) {
+        const auto probe = probes.find(name);
+        return probe != probes.end() && MayHaveSettings(probe->second.type);
     };
     TakenNames names;
     for (const std::wstring& section : Sections()) {
-        if (!isOfIt(section))
+        const auto owners = PossibleOwners(section);
+        if (!probes.contains(section) && std::none_of(owners.begin(), owners.end(), isOwner))
             names.Add(section);
     }
     return names;
@@ -408,10 +409,8 @@ void ProbeFile::RequireNoSettings(std::wstring_view section, const std::wstring&
         throw Error(PROBE_SETTINGS_ARE_TAKEN, section, *other);
 }
 
-void ProbeFile::RequireName(std::wstring_view name, const ProbeEntry* except, const TakenNames& names) {
-    const auto isProbe = [&](std::wstring_view owner) {
-        return !(except && EqualFolded(owner, except->section)) && Locate(owner).has_value();
-    };
+void ProbeFile::RequireName(std::wstring_view name, const TakenNames& names,
+                            const std::function<bool(std::wstring_view)>& isProbe) {
     if (const auto obstacle = names.ObstacleTo(name, isProbe))
         throw Error(obstacle->code, name, obstacle->other);
 }
@@ -453,7 +452,7 @@ void ProbeFile::WriteOne(const std::wstring& section, EQuorConversionType type,
         m_namesText = m_store->TextNumber();
     }
     if (!present)
-        RequireName(section, nullptr, m_nested);
+        RequireName(section, m_nested, [this](std::wstring_view owner) { return Locate(owner).has_value(); });
     const std::wstring settings = SettingsSection(section);
     if (!present || getsSettings)
         RequireNoSettings(section, settings);
@@ -621,17 +620,53 @@ void ProbeFile::WriteNew(std::wstring_view section, EQuorConversionType type,
 
 // Names may be views into Probes(), which is looked at anew inside an edit: they are copied before.
 
-void ProbeFile::Rename(std::wstring_view section, std::wstring_view name) {
-    Edit([this, section = std::wstring(section), name = std::wstring(name)] {
-        const ProbeEntry probe = Require(section);
-        if (!EqualFolded(section, name)) // else its sections keep their places and their names
-            RequireName(name, &probe, NamesBut(&probe));
-        if (probe.standAlone ||
-            (m_standAlone && !EqualFolded(section, name) && EqualFolded(*m_standAlone, name)))
+/// Raises for a name that a probe cannot have once all of them have theirs.
+void ProbeFile::RequireNames(const std::vector<std::pair<std::wstring, std::wstring>>& names,
+                             const NameMap<ProbeEntry>& probes) {
+    TakenNames taken = NamesBut(probes);
+    NameSet given;
+    const auto isProbe = [&](std::wstring_view owner) {
+        return given.contains(owner) || (!probes.contains(owner) && Locate(owner).has_value());
+    };
+    const auto give = [&](const std::wstring& name) {
+        taken.Add(name);
+        given.insert(name);
+    };
+    for (const auto& [section, name] : names) {
+        if (EqualFolded(section, name)) // its sections keep their places and their names
+            give(name);
+    }
+    for (const auto& [section, name] : names) {
+        const bool keepsName = EqualFolded(section, name);
+        if (!keepsName)
+            RequireName(name, taken, isProbe);
+        if (probes.find(section)->second.standAlone ||
+            (m_standAlone && !keepsName && EqualFolded(*m_standAlone, name)))
             throw Error(PROBE_DOES_NOT_FIT_FILE, name, section);
+        if (!keepsName)
+            give(name);
+    }
+}
+
+void ProbeFile::Rename(std::wstring_view section, std::wstring_view name) {
+    Rename({{std::wstring(section), std::wstring(name)}});
+}
+
+void ProbeFile::Rename(const std::vector<std::pair<std::wstring, std::wstring>>& names) {
+    if (names.empty())
+        return;
+    Edit([&] {
+        NameMap<ProbeEntry> probes;
+        NameMap<std::wstring> nameOf;
+        for (const auto& [section, name] : names) {
+            probes.emplace(section, Require(section));
+            if (!nameOf.emplace(section, name).second)
+                throw Error(PROBE_NAME_IS_TAKEN, section);
+        }
+        RequireNames(names, probes);
         MoveSections([&](ProbeMove& move) {
-            if (EqualFolded(move.section, section))
-                move.name = name;
+            if (const auto found = nameOf.find(move.section); found != nameOf.end())
+                move.name = found->second;
         });
     });
 }

@@ -20,6 +20,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace QuorProbeFile {
@@ -192,6 +193,10 @@ public:
     /// Write raise, and PROBE_NAME_IS_TAKEN; the record of a stand-alone settings file cannot be renamed, and
     /// no other probe can receive its name (PROBE_DOES_NOT_FIT_FILE).
     void Rename(std::wstring_view section, std::wstring_view name);
+    /// Renames several probes, each from the first name to the second: all of them at once, so that they may
+    /// exchange their names, or none. Raises the same, for the first one that cannot have its name, and
+    /// PROBE_NAME_IS_TAKEN also for a probe that is listed twice.
+    void Rename(const std::vector<std::pair<std::wstring, std::wstring>>& names);
     /// Removes a probe with the sections of its settings, or those nested in a stand-alone one. A section
     /// that is named like settings, of a probe whose type has none, belongs to the host and stays. Comments
     /// set apart by a blank line stay. Raises PROBE_NO_SUCH_SECTION, PROBE_NO_RECORD and
@@ -233,9 +238,12 @@ private:
     [[nodiscard]] ProbeFileError Error(EProbeFileError code, std::wstring_view section,
                                        std::wstring_view other = {}) const;
     [[nodiscard]] QuorConversions::EQuorConversionType RequireType(const ProbeEntry& probe);
-    [[nodiscard]] TakenNames NamesBut(const ProbeEntry* except);
+    [[nodiscard]] TakenNames NamesBut(const NameMap<ProbeEntry>& probes);
     [[nodiscard]] TakenNames NestedSections();
-    void RequireName(std::wstring_view name, const ProbeEntry* except, const TakenNames& names);
+    void RequireName(std::wstring_view name, const TakenNames& names,
+                     const std::function<bool(std::wstring_view)>& isProbe);
+    void RequireNames(const std::vector<std::pair<std::wstring, std::wstring>>& names,
+                      const NameMap<ProbeEntry>& probes);
     void RequireNoSettings(std::wstring_view section, const std::wstring& settings);
     void MoveSections(const std::function<void(ProbeMove&)>& move);
     void RemoveOldSettings(const std::vector<ProbeToWrite>& probes);

@@ -250,6 +250,78 @@ std::function<void(ProbeFile&)> MakeStep(Strings words, StepLanguage language, c
     return command->make(words, rules);
 }
 
+/// Steps one below the other that remove probes, or that rename them: they are done together, because each
+/// time all sections of the file are looked through.
+class Moves {
+public:
+    Moves(ProbeFile& file, Batch& batch) : m_file(file), m_batch(batch) {}
+
+    [[nodiscard]] static bool IsMove(const Strings& words) {
+        return (words.size() == 2 && words[0] == L"remove") || (words.size() == 3 && words[0] == L"rename");
+    }
+
+    void Add(std::size_t line, Strings words) {
+        const auto isKnown = [this](const std::wstring& name) { return m_names.contains(name); };
+        if (!m_steps.empty() && (m_steps.front().words.size() != words.size() ||
+                                 std::any_of(words.begin() + 1, words.end(), isKnown)))
+            Finish();
+        m_names.insert(words.begin() + 1, words.end());
+        m_steps.push_back({line, std::move(words)});
+    }
+
+    void Finish() {
+        Do(0, m_steps.size());
+        m_steps.clear();
+        m_names.clear();
+    }
+
+private:
+    struct Step {
+        std::size_t line;
+        Strings words;
+    };
+
+    /// Of those that fail together, each one that is wrong is told with its line.
+    void Do(std::size_t first, std::size_t last) {
+        if (first == last)
+            return;
+        if (last - first == 1)
+            return m_batch.Do([&] { return std::to_wstring(m_steps[first].line); },
+                              [&] { DoTogether(first, last); });
+        try {
+            return DoTogether(first, last);
+        } catch (const Problem&) {
+        } catch (const ProbeFileError&) { // both are raised before anything was written
+        }
+        const std::size_t middle = first + (last - first) / 2;
+        Do(first, middle);
+        Do(middle, last);
+    }
+
+    void DoTogether(std::size_t first, std::size_t last) {
+        Strings removed;
+        std::vector<std::pair<std::wstring, std::wstring>> renamed;
+        for (std::size_t at = first; at < last; ++at) {
+            const Strings& words = m_steps[at].words;
+            if (words.size() == 2) {
+                removed.push_back(words[1]);
+            } else {
+                RequireName(m_file.Path(), words[2]);
+                renamed.emplace_back(words[1], words[2]);
+            }
+        }
+        if (removed.empty())
+            m_file.Rename(renamed);
+        else
+            m_file.Remove(removed);
+    }
+
+    ProbeFile& m_file;
+    Batch& m_batch;
+    std::vector<Step> m_steps;
+    NameSet m_names; // in them
+};
+
 } // namespace
 
 Strings Words(std::wstring_view line) {
@@ -292,6 +364,7 @@ ExitCode RunSteps(const std::wstring& path, const std::wstring& from, StepLangua
         RequireReadable(*file);
         Batch batch(path, from);
         const Duplicates duplicates(*file);
+        Moves moves(*file, batch);
         Progress progress(L"steps", static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')));
         count = 0;
         std::string_view rest = text;
@@ -302,20 +375,30 @@ ExitCode RunSteps(const std::wstring& path, const std::wstring& from, StepLangua
             const std::string_view line = rest.substr(0, end);
             rest.remove_prefix(end);
             progress.Step();
-            batch.Do([number] { return std::to_wstring(number); },
-                     [&] {
-                         const auto decoded = QuorIniFile::FromUtf8(line);
-                         if (!decoded) // another encoding would be a guess, and names would be wrong
-                             throw Problem{L"the text is not UTF-8"};
-                         auto words = Words(*decoded);
-                         if (words.empty())
-                             return;
-                         ++count;
-                         for (const std::wstring& word : words)
-                             duplicates.Require(word);
-                         MakeStep(std::move(words), language, rules)(*file);
-                     });
+            const auto place = [number] { return std::to_wstring(number); };
+            batch.Do(place, [&] {
+                Strings words;
+                try {
+                    const auto decoded = QuorIniFile::FromUtf8(line);
+                    if (!decoded) // another encoding would be a guess, and names would be wrong
+                        throw Problem{L"the text is not UTF-8"};
+                    words = Words(*decoded);
+                    if (words.empty())
+                        return;
+                    ++count;
+                    for (const std::wstring& word : words)
+                        duplicates.Require(word);
+                    if (language == StepLanguage::Commands && Moves::IsMove(words))
+                        return moves.Add(number, std::move(words));
+                } catch (const Problem&) {
+                    moves.Finish(); // what is wrong in the lines above is told first
+                    throw;
+                }
+                moves.Finish();
+                MakeStep(std::move(words), language, rules)(*file);
+            });
         }
+        moves.Finish();
         batch.RequireFine();
     });
     TellCount(count, L"step", isDryRun ? "would be done" : "done");

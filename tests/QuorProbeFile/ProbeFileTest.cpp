@@ -698,6 +698,30 @@ TEST_F(ProbeFileTest, RenamesAProbeWithItsSettings) {
     EXPECT_EQ(file.Probes().front().section, L"prt-1188");
 }
 
+TEST_F(ProbeFileTest, RenamesSeveralProbesAtOnceOrNone) {
+    using Names = std::vector<std::pair<std::wstring, std::wstring>>;
+    Host(hostFile);
+    ProbeFile file(Path());
+    const auto error = [&](const Names& names) { return ErrorOf([&] { file.Rename(names); }); };
+    EXPECT_EQ(error({{L"P", L"A"}, {L"Z", L"B"}}), L"1 [Z] ");
+    EXPECT_EQ(error({{L"P", L"A"}, {L"Q", L"a"}}), L"7 [a] ");
+    EXPECT_EQ(error({{L"P", L"A"}, {L"Q", L"Instrument"}}), L"7 [Instrument] ");
+    EXPECT_EQ(error({{L"P", L"A"}, {L"p", L"B"}}), L"7 [p] ");
+    EXPECT_EQ(error({{L"P", L"q"}, {L"Q", L"q"}}), L"7 [q] ") << "Q keeps its name, in another case";
+    EXPECT_EQ(error({{L"P", L"A"}, {L"Q", L"A - Settings"}}), L"8 [A - Settings] A");
+    EXPECT_EQ(error({{L"P", L"A - Settings"}, {L"Q", L"A"}}), L"9 [A] A - Settings");
+    EXPECT_EQ(File(), hostFile);
+    file.Rename(Names{});
+    EXPECT_EQ(File(), hostFile);
+    file.Rename({{L"p", L"Q"}, {L"Q", L"P"}});
+    EXPECT_EQ(File(),
+              "; the laboratory's file\n[Instrument]\nChannels=8\n\n"
+              "[Q]\nVersion=1.0\nConversionType=2\n\n"
+              "[Q - Settings]\nVersion=1.0\nNumCoefficients=4\nUsePolynomial=False\n"
+              "Coefficients0=100.0 ; ohms\nCoefficients1=3.9083E-3\nCoefficients2=1.5\nCoefficients3=0\n\n"
+              "[P]\nVersion=1.0\nConversionType=14\n[P - Settings]\nVersion=1.0\nRTPW=25.5\n");
+}
+
 TEST_F(ProbeFileTest, ANameThatIsTakenIsRefused) {
     Host(hostFile);
     ProbeFile file(Path());

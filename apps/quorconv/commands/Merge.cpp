@@ -208,8 +208,7 @@ class Merge final : public Command {
                                   L": nothing was written, because both files have changed the same value",
                               std::move(plan.conflicts)};
             file->Remove(plan.removed);
-            for (const auto& [section, name] : plan.renamed)
-                file->Rename(section, name);
+            file->Rename(plan.renamed);
             for (const Change& change : plan.written) {
                 progress.Step();
                 Write(*file, *theirFile, change);

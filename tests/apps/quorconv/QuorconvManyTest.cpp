@@ -282,6 +282,35 @@ TEST_F(QuorconvManyTest, DoesTheStepsOfAFileTogether) {
     EXPECT_EQ(folder.Read("host.ini"), Replaced(Replaced(before, "25.5", "25.4"), "100.02", "100.03"));
 }
 
+TEST_F(QuorconvManyTest, RemovesAndRenamesStepByStep) {
+    ExpectShell("quorconv apply host.ini <<'end'\n"
+                "rename Oven Kiln\n"
+                "rename \"Bath A\" Oven\n"
+                "rename \"Bath B\" \"Bath A\"\n"
+                "rename \"Bath A\" \"Bath B\"\n"
+                "remove Kiln\n"
+                "rename \"Bath B\" Kiln\n"
+                "remove Kiln\n"
+                "end",
+                "", "quorconv: 7 steps done\n");
+    ExpectFine({"list", "host.ini"}, "Oven\tCONV_WT90\tW(T90)\n");
+}
+
+TEST_F(QuorconvManyTest, TellsEachWrongRemovalAndNewNameWithItsLine) {
+    folder.Write("steps.txt",
+                 "remove Oven\nremove Stove\nremove Oven\nremove \"Bath A\n"
+                 "rename \"Bath A\" \"Bath B\"\nrename \"Bath A\" \"x]\"\nrename \"Bath B\" B\n");
+    ExpectRefused(
+        {"apply", "host.ini", "steps.txt"},
+        "quorconv: host.ini: nothing was written, because 5 lines of steps.txt are wrong\n"
+        "  steps.txt:2: host.ini: [Stove]: there is no such section\n"
+        "  steps.txt:3: host.ini: [Oven]: there is no such section\n"
+        "  steps.txt:4: a double quote is not closed\n"
+        "  steps.txt:5: host.ini: [Bath B]: there is a section of this name already\n"
+        "  steps.txt:6: host.ini: [x]]: no section can have this name: a \"]\" ends the name in the file\n");
+    ExpectUnchanged();
+}
+
 TEST_F(QuorconvManyTest, TellsEachWrongStepWithItsLineAndDoesNoneOfThem) {
     const auto refused = [&](const std::string& steps, const std::string& said) {
         folder.Write("steps.txt", steps);
@@ -428,7 +457,8 @@ TEST_F(QuorconvManyTest, TellsOnATerminalHowFarAWorkOfMoreThanASecondIs) {
     std::string steps;
     for (int i = 0; i < 5000; ++i) {
         probes += "[P" + std::to_string(i) + "]\nConversionType=10\n";
-        steps += "rename P" + std::to_string(i) + " Q" + std::to_string(i) + "\n";
+        const std::string number = std::to_string(i / 2); // each probe twice: no two steps are done together
+        steps += i % 2 == 0 ? "rename P" + number + " Q\n" : "rename Q R" + number + "\n";
     }
     folder.Write("many.ini", probes);
     folder.Write("steps.txt", steps);
