@@ -269,7 +269,7 @@ private:
             Column& column = m_columns[i];
             const RecordKey* const key = FindRecordKey(type, column.key, RecordForm::Any);
             column.record = key;
-            if (!key && !IsFurtherItem(type, column.key)) {
+            if (!MayHaveKey(type, column.key)) {
                 std::vector<std::wstring> known{sectionColumn, typeColumn};
                 for (const RecordKey& one : RecordKeys(type))
                     known.push_back(one.path);
@@ -282,12 +282,6 @@ private:
                 Fail(1, i, L"\"" + column.name + L"\" is not \"" + meant + L"\"");
         }
         m_checked = type;
-    }
-
-    /// A coefficient past those of the equation, which some records may have.
-    static bool IsFurtherItem(EQuorConversionType type, const std::wstring& key) {
-        const auto digits = key.find_last_not_of(L"0123456789") + 1;
-        return digits < key.size() && FindRecordKey(type, key.substr(0, digits) + L"0", RecordForm::Any);
     }
 
     std::wstring m_place;

@@ -607,6 +607,12 @@ void WriteNewProbe(ProbeFile& file, const std::wstring& section, EQuorConversion
     static_cast<void>(writtenOnes.Find(file, section)); // the next one may be like it
 }
 
+bool MayHaveKey(EQuorConversionType type, const std::wstring& key) {
+    const auto digits = key.find_last_not_of(L"0123456789") + 1;
+    return FindRecordKey(type, key, RecordForm::Any) ||
+           (digits < key.size() && FindRecordKey(type, key.substr(0, digits) + L"0", RecordForm::Any));
+}
+
 void WriteEdited(Probe& probe, ProbeFile& file) {
     std::vector<std::wstring> told;
     for (const RecordConflict& conflict :

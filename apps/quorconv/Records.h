@@ -101,6 +101,9 @@ void WriteEdited(Probe& probe, QuorProbeFile::ProbeFile& file);
 /// Raises Problem with the reason when no probe can have that name in a file.
 void RequireName(const std::wstring& file, const std::wstring& name);
 
+/// Whether a record of that type may have a key: also an item of a list beyond those of its equation.
+[[nodiscard]] bool MayHaveKey(QuorConversions::EQuorConversionType type, const std::wstring& key);
+
 /// The form of the settings: what their "UsePolynomial" says.
 [[nodiscard]] QuorProbeFile::RecordForm FormOf(const std::vector<QuorProbeFile::RecordImage::Entry>& entries);
 

@@ -61,7 +61,7 @@ void RetypeProbe(ProbeFile& file, const std::wstring& section, const std::wstrin
     Probe probe(section);
     probe.Conversion().SetConversionType(info.code);
     Assign(probe, file.Path(), assignments, rules);
-    file.Write(section, probe.Conversion());
+    WriteRetyped(file, section, probe.Conversion());
 }
 
 void CopyProbe(ProbeFile& from, const std::wstring& section, ProbeFile& to, const std::wstring& name,
@@ -127,44 +127,103 @@ struct CopiedKey {
     std::wstring name;
     std::wstring text;
     std::optional<bool> flag; ///< the value, if it is one
+    std::wstring comment;     ///< behind a number
 };
+
+/// What becomes of a comment behind a number.
+enum class Comment : std::uint8_t { Stays, Goes };
 
 /// The key in a line of the selected section; nothing for a line that has none, or one of the record itself.
 std::optional<CopiedKey> KeyIn(const QuorIniFile::IniLines& line, QuorIniFile::IniStore& store,
-                               const std::wstring& target) {
+                               const std::wstring& target, Comment comment) {
     if (!line.Is(QuorIniFile::IniLines::Kind::Key))
         return std::nullopt;
-    CopiedKey key{target, line.Name(), {}, {}};
+    CopiedKey key{target, line.Name(), {}, {}, {}};
     if (EqualFolded(key.name, QuorConversions::versionKey) ||
         EqualFolded(key.name, QuorConversions::conversionTypeKey) || !store.ReadString(key.name, key.text))
         return std::nullopt;
-    if (QuorIniFile::DoubleOf(line.Value()))
-        key.text = line.Value(); // without the comment behind it
+    if (const std::wstring number = line.Value(); QuorIniFile::DoubleOf(number)) {
+        const auto begin = key.text.find_first_not_of(L" \t;#", number.size());
+        if (comment == Comment::Stays && begin != std::wstring::npos)
+            key.comment = key.text.substr(begin);
+        key.text = number;
+    }
     if (bool flag = false; store.ReadBoolean(key.name, flag))
         key.flag = flag;
     return key;
 }
 
+/// The keys that CopyOtherKeys copies. Of a key that stands twice the first line, which is read.
+std::vector<CopiedKey> OtherKeys(ProbeFile& from, const NameMap<std::wstring>& copied, const ProbeFile& to,
+                                 NameSet but, Comment comment) {
+    using Kind = QuorIniFile::IniLines::Kind;
+    std::vector<CopiedKey> keys;
+    auto line = from.Store()->Lines();
+    for (bool isThere = line.NextHeader(); isThere;) {
+        const std::wstring section = line.Name();
+        const auto target = line.Is(Kind::Header) ? TargetOf(section, from, copied, to) : std::nullopt;
+        if (!target) {
+            isThere = line.NextHeader();
+            continue;
+        }
+        from.Store()->SetSection(section);
+        while ((isThere = line.Next()) && (line.Is(Kind::Key) || line.Is(Kind::Malformed)))
+            if (const auto key = KeyIn(line, *from.Store(), *target, comment);
+                key && but.insert(std::wstring(section).append(L"/").append(key->name)).second)
+                keys.push_back(*key);
+    }
+    return keys;
+}
+
+void WriteKeys(ProbeFile& to, const std::vector<CopiedKey>& keys) {
+    for (const CopiedKey& key : keys) {
+        to.Store()->SetSection(key.section);
+        if (HasValue(*to.Store(), key.name, key.text, key.flag))
+            continue;
+        if (key.comment.empty())
+            to.Store()->WriteString(key.name, key.text);
+        else
+            to.Store()->WriteDouble(key.name, *QuorIniFile::DoubleOf(key.text), key.comment);
+    }
+}
+
+/// Whether a key of the settings of a probe is a value of one of two types.
+bool IsValue(const CopiedKey& key, const std::wstring& probe, const TypeInfo* before, const TypeInfo& now) {
+    const std::wstring place = key.section.substr(probe.size() + settingsMark.size()); // " - Low Range"
+    const std::wstring path = place.empty() ? key.name : place.substr(nestedMark.size()) + L"/" + key.name;
+    return MayHaveKey(now.code, path) ||
+           (before ? MayHaveKey(before->code, path)
+                   : std::any_of(Types().begin(), Types().end(),
+                                 [&](const TypeInfo& type) { return MayHaveKey(type.code, path); }));
+}
+
 } // namespace
 
 void CopyOtherKeys(ProbeFile& from, const NameMap<std::wstring>& copied, ProbeFile& to, const NameSet& but) {
-    std::vector<CopiedKey> keys;
-    NameSet seen = but;                 // "section/key": of a key that stands twice, the first line is read
-    std::optional<std::wstring> target; // of the section that is walked through
-    for (auto line = from.Store()->Lines(); line.Next();) {
-        if (line.Is(QuorIniFile::IniLines::Kind::Header)) {
-            target = TargetOf(line.Name(), from, copied, to);
-            from.Store()->SetSection(line.Name());
-        }
-        if (const auto key = target ? KeyIn(line, *from.Store(), *target) : std::nullopt;
-            key && seen.insert(std::wstring(from.Store()->Section()).append(L"/").append(key->name)).second)
-            keys.push_back(*key);
+    WriteKeys(to, OtherKeys(from, copied, to, but, Comment::Goes));
+}
+
+void WriteRetyped(ProbeFile& file, const std::wstring& section,
+                  const QuorConversions::CQuorConversion& conversion) {
+    std::int16_t code = 0;
+    file.Store()->SetSection(section);
+    const TypeInfo* const before =
+        file.Store()->ReadInteger(QuorConversions::conversionTypeKey, code) ? FindType(code) : nullptr;
+    const TypeInfo& now = *FindType(conversion.ConversionType());
+    auto keys = OtherKeys(file, {{section, section}}, file, {}, Comment::Stays);
+    std::erase_if(keys, [&](const CopiedKey& key) {
+        return EqualFolded(key.section, section) || IsValue(key, section, before, now);
+    });
+    if (!keys.empty() && !MayHaveSettings(now.code)) {
+        std::vector<std::wstring> own;
+        for (const CopiedKey& key : keys)
+            own.push_back(L"[" + key.section + L"] " + key.name + L"=" + key.text);
+        throw Problem{Place(file.Path(), section) + L": " + now.enumerator +
+                          L" has no settings, and keys beside the values would be lost with them",
+                      std::move(own)};
     }
-    for (const CopiedKey& key : keys) {
-        to.Store()->SetSection(key.section);
-        if (!HasValue(*to.Store(), key.name, key.text, key.flag))
-            to.Store()->WriteString(key.name, key.text);
-    }
+    file.Write(section, conversion);
+    WriteKeys(file, keys);
 }
 
 namespace {

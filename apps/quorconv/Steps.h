@@ -25,6 +25,10 @@ void SetValues(QuorProbeFile::ProbeFile& file, const std::wstring& section,
 void RenameProbe(QuorProbeFile::ProbeFile& file, const std::wstring& section, const std::wstring& name);
 void RetypeProbe(QuorProbeFile::ProbeFile& file, const std::wstring& section, const std::wstring& type,
                  const std::vector<Assignment>& assignments, const ValueRules& rules);
+/// Writes a conversion over a probe of another type. Keys of its settings that are no values of either type
+/// stay; comments behind the values go with these.
+void WriteRetyped(QuorProbeFile::ProbeFile& file, const std::wstring& section,
+                  const QuorConversions::CQuorConversion& conversion);
 /// Over a probe that stands there only with `replaces`. The keys that no record has stay behind.
 void CopyProbe(QuorProbeFile::ProbeFile& from, const std::wstring& section, QuorProbeFile::ProbeFile& to,
                const std::wstring& name, bool replaces);

@@ -209,9 +209,10 @@ class Merge final : public Command {
                               std::move(plan.conflicts)};
             file->Remove(plan.removed);
             file->Rename(plan.renamed);
+            const NameSet retyped(plan.retyped.begin(), plan.retyped.end());
             for (const Change& change : plan.written) {
                 progress.Step();
-                Write(*file, *theirFile, change);
+                Write(*file, *theirFile, change, retyped.contains(change.section));
                 merged.insert(change.section);
             }
             NameMap<std::wstring> copied;
@@ -636,10 +637,13 @@ class Merge final : public Command {
 
     static std::wstring TextOf(const Value* value) { return value ? ToText(*value) : L"(none)"; }
 
-    static void Write(ProbeFile& file, ProbeFile& theirFile, const Change& change) {
+    static void Write(ProbeFile& file, ProbeFile& theirFile, const Change& change, bool isRetyped) {
         if (change.values.empty()) {
             const Probe probe = ReadProbe(theirFile, change.section);
-            file.Write(change.section, probe.Conversion());
+            if (isRetyped)
+                WriteRetyped(file, change.section, probe.Conversion());
+            else
+                file.Write(change.section, probe.Conversion());
             return;
         }
         Probe probe = ReadProbe(file, change.section, change.values);

@@ -20,8 +20,9 @@ class Retype final : public Command {
         arguments.One("SECTION", m_section, Meaning::Section, "The section of the probe");
         arguments.One("TYPE", m_type, Meaning::Type,
                       "A code (2), an enumerator (CONV_CVD) or a file extension (cvd)");
-        arguments.Rest("KEY=VALUE", m_values, 0, Meaning::Assignment,
-                       "Values; the others are those of a new probe, and the old settings go");
+        arguments.Rest(
+            "KEY=VALUE", m_values, 0, Meaning::Assignment,
+            "Values; the others are those of a new probe, the old ones go, and keys of your own stay");
         m_rules.Declare(arguments);
         DeclareDryRun(arguments, m_isDryRun);
     }

@@ -173,6 +173,27 @@ TEST_F(QuorconvManyTest, GivesAProbeAnotherTypeWithNewSettings) {
                   "quorconv: host.ini: [Oven 9]: there is no such section\n");
 }
 
+TEST_F(QuorconvManyTest, AProbeOfAnotherTypeKeepsTheKeysThatAreNoValuesOfItsType) {
+    const std::string old = "[P]\nVersion=1.0\nConversionType=2\nBath=3\n\n[P - Settings]\nVersion=1.0\n"
+                            "NumCoefficients=1\nUsePolynomial=0\nDue=2027 ; mine\nCoefficients0=100\n"
+                            "Coefficients7=1\nNote=\"K 17\"\nNote=2\n";
+    folder.Write("a.ini", old);
+    ExpectFine({"retype", "a.ini", "p", "w90", "RTPW=25"});
+    const std::string now = "[P]\nVersion=1.0\nConversionType=14\nBath=3\n\n[P - Settings]\nVersion=1.0\n"
+                            "RTPW=25\nDue=2027 ; mine\nNote=K 17\n";
+    EXPECT_EQ(folder.Read("a.ini"), now);
+    folder.Write("base.ini", old);
+    folder.Write("ours.ini", old);
+    folder.Write("theirs.ini", Replaced(now, "Due=2027 ; mine\n", "")); // by a program that keeps no such key
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
+    EXPECT_EQ(folder.Read("ours.ini"), now);
+    ExpectRefused(
+        {"retype", "base.ini", "P", "CONV_OHMS"},
+        "quorconv: base.ini: [P]: CONV_OHMS has no settings, and keys beside the values would be lost "
+        "with them\n  [P - Settings] Due=2027\n  [P - Settings] Note=K 17\n");
+    EXPECT_EQ(folder.Read("base.ini"), old);
+}
+
 TEST_F(QuorconvManyTest, CopiesAllProbesThatAreLikeAPatternAndAsksBeforeItWritesOverOne) {
     ExpectShell("quorconv copy host.ini 'Bath*' other.ini", "", "quorconv: 2 probes copied\n");
     ExpectFine({"list", "other.ini"}, "Bath A\tCONV_WT90\tW(T90)\nBath B\tCONV_WT90\tW(T90)\n");
