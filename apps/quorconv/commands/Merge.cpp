@@ -199,8 +199,10 @@ class Merge final : public Command {
         Plan plan;
         NameSet merged;
         file.Edit(m_isDryRun, [&] {
+            const auto renamedHere = RenamedHere(*file, base, theirs, touched);
+            for (const auto& [section, name] : renamedHere) // which is called so as long as it is merged
+                file->Rename(name, section);
             const ProbeTable ours(*file);
-            RequireOnce(ours, m_ours);
             Progress progress(L"probes", 0);
             plan = PlanOf({{base, ours}, theirs, left, touched}, progress);
             if (!plan.conflicts.empty())
@@ -220,6 +222,8 @@ class Merge final : public Command {
                 copied.emplace(section, section);
             CopyOtherKeys(*theirFile, copied, *file, plan.kept);
             merged.insert(plan.otherKeys.begin(), plan.otherKeys.end());
+            for (const auto& [section, name] : renamedHere)
+                file->Rename(section, name);
         });
         TellCount(merged.size(), L"probe", m_isDryRun ? "would be merged" : "merged");
         if (!plan.renamed.empty())
@@ -227,6 +231,19 @@ class Merge final : public Command {
         if (!plan.removed.empty())
             TellCount(plan.removed.size(), L"probe", m_isDryRun ? "would be removed" : "removed");
         return fine;
+    }
+
+    /// The probes that this file has renamed, and that theirs may have changed under the name of the base.
+    [[nodiscard]] std::vector<std::pair<std::wstring, std::wstring>>
+    RenamedHere(ProbeFile& file, const ProbeTable& base, const ProbeTable& theirs,
+                const NameSet& touched) const {
+        const ProbeTable ours(file);
+        RequireOnce(ours, m_ours);
+        const NameMap<std::wstring> left = LeftSettings(file, ours);
+        Plan plan;
+        FindRenamed({{base, theirs}, ours, left, touched}, plan); // the other way round
+        std::erase_if(plan.renamed, [&](const auto& pair) { return !touched.contains(pair.first); });
+        return std::move(plan.renamed);
     }
 
     [[nodiscard]] Plan PlanOf(const Tables& tables, Progress& progress) const {

@@ -321,6 +321,33 @@ TEST_F(QuorconvCompareTest,
     ExpectConflicts("  [A] Coefficients0: 100 is 100.3 here and 100.2 in theirs.ini\n");
 }
 
+TEST_F(QuorconvCompareTest, WhatTheOtherFileHasChangedOfAProbeThatIsRenamedHereIsMergedUnderItsNewName) {
+    const std::string three = Replaced(Replaced(base, "NumCoefficients=2", "NumCoefficients=3"), "0.00385\n",
+                                       "0.00385\nCoefficients2=1.5\n");
+    for (const char* const name : {"base.ini", "ours.ini", "theirs.ini"})
+        folder.Write(name, three);
+    ExpectFine({"rename", "ours.ini", "A", "One"});
+    folder.Write("ours.ini", Replaced(folder.Read("ours.ini"), "[One]\n", "; bath 3\n[One]\nDue=2027\n"));
+    ExpectFine({"set", "theirs.ini", "A", "Coefficients1=0.0039"});
+    const std::string ours = folder.Read("ours.ini");
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
+    EXPECT_EQ(folder.Read("ours.ini"), Replaced(ours, "0.00385", "0.0039"));
+    folder.Write("ours.ini", Replaced(ours, "0.00385", "0.00386"));
+    ExpectConflicts("  [A] Coefficients1: 0.00385 is 0.00386 here and 0.0039 in theirs.ini\n");
+    folder.Write("ours.ini", Replaced(ours, "=100\n", "=100.5\n"));
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
+    EXPECT_EQ(folder.Read("ours.ini"), Replaced(Replaced(ours, "0.00385", "0.0039"), "=100\n", "=100.5\n"));
+    // Renamed alike in both.
+    folder.Write("theirs.ini", three);
+    ExpectFine({"rename", "theirs.ini", "A", "One"});
+    folder.Write("ours.ini", ours);
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 0 probes merged\n");
+    EXPECT_EQ(folder.Read("ours.ini"), ours);
+    // And differently.
+    ExpectFine({"rename", "theirs.ini", "One", "Two"});
+    ExpectConflicts("  [A]: renamed to [One] here, to [Two] in theirs.ini\n");
+}
+
 TEST_F(QuorconvCompareTest, OwnKeysThatWouldGoBecauseNobodyCanTellTheNewNameAreAConflict) {
     const std::string probe = "[A]\nConversionType=14\nDue=2026-05\n[A - Settings]\nRTPW=25.5\n";
     const std::string other = "[C]\nConversionType=14\n[C - Settings]\nRTPW=25.5\n";
