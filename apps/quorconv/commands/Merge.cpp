@@ -12,6 +12,7 @@
 #include "apps/quorconv/Steps.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <optional>
 #include <string_view>
@@ -147,6 +148,7 @@ class Merge final : public Command {
     std::wstring m_base;
     std::wstring m_ours;
     std::wstring m_theirs;
+    ValueRules m_rules;
     bool m_isDryRun = false;
 
     /// What is written of theirs: those values, or all of the probe where there are none.
@@ -181,6 +183,7 @@ class Merge final : public Command {
         arguments.One("BASE", m_base, Meaning::File, "The common base of both");
         arguments.One("FILE", m_ours, Meaning::File, "The file that receives the changes");
         arguments.One("OTHER", m_theirs, Meaning::File, "The file whose changes since BASE are merged");
+        m_rules.Declare(arguments);
         DeclareDryRun(arguments, m_isDryRun);
     }
 
@@ -532,6 +535,8 @@ class Merge final : public Command {
         const std::wstring place = L"[" + name + L"]";
         if ((our && SameValues(*our, their)) || (base && SameValues(*base, their)))
             return; // they have changed nothing, or we the same
+        if (!m_rules.allowsNan)
+            RequireFinite(base, our, their, plan.conflicts);
         if (auto damage = DamageOf(tables.theirs, their, our ? our : base); !damage.empty()) {
             plan.conflicts.push_back(place + L" ConversionType: " + damage);
             return;
@@ -589,6 +594,26 @@ class Merge final : public Command {
                 conflicts.push_back(L"[" + our.section + L"] " + entry.path + L": " + *present +
                                     L" stands here beyond the count, and would become " +
                                     ToText(entry.value) + L" of " + m_theirs);
+        }
+    }
+
+    /// Values that would become NaN or infinite: a mistake more often than meant, as for "set".
+    void RequireFinite(const ProbeValues* base, const ProbeValues* our, const ProbeValues& their,
+                       std::vector<std::wstring>& conflicts) const {
+        const auto isSame = [](const Value* a, const Value* b) {
+            return a && b ? SameValue(*a, *b) : a == b;
+        };
+        for (const RecordImage::Entry& entry : their.entries) {
+            const double* const number = std::get_if<double>(&entry.value);
+            if (!number || std::isfinite(*number))
+                continue;
+            const Value* const here = our ? our->Find(entry.path) : nullptr;
+            const Value* const before = base ? base->Find(entry.path) : nullptr;
+            if (isSame(here, before) &&
+                !isSame(before, &entry.value)) // else it stays, or is a conflict anyway
+                conflicts.push_back(L"[" + (our ? our : &their)->section + L"] " + entry.path + L": " +
+                                    TextOf(here) + L" would become " + ToText(entry.value) + L" of " +
+                                    m_theirs + L", which gives no temperature; --allow-nan stores it");
         }
     }
 

@@ -167,6 +167,24 @@ TEST_F(QuorconvCompareTest, AFlagOfOneFileAndAValueOfTheOtherThatItSaysNothingOf
     ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
 }
 
+TEST_F(QuorconvCompareTest, NaNAndInfinityAreMergedOnlyWhereTheyAreAllowed) {
+    folder.Write("theirs.ini", Replaced(Replaced(base, "=100\n", "=NaN\n"), "25.5", "-Infinity"));
+    const std::string end = " of theirs.ini, which gives no temperature; --allow-nan stores it\n";
+    ExpectConflicts("  [A] Coefficients0: 100 would become NaN" + end +
+                    "  [B] RTPW: 25.5 would become -Infinity" + end);
+    folder.Write("theirs.ini", base + "\n[C]\nVersion=1.0\nConversionType=14\n"
+                                      "\n[C - Settings]\nVersion=1.0\nRTPW=NaN\n");
+    ExpectConflicts("  [C] RTPW: (none) would become NaN" + end);
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini --allow-nan", "", "quorconv: 1 probe merged\n");
+    ExpectShell("quorconv get ours.ini C RTPW", "NaN\n", "");
+    folder.Write("base.ini", folder.Read("ours.ini")); // a NaN that was there stays, and goes
+    ExpectFine({"set", "theirs.ini", "B", "RTPW=25.6"});
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
+    ExpectFine({"set", "theirs.ini", "C", "RTPW=25.7"});
+    ExpectShell("quorconv merge base.ini ours.ini theirs.ini", "", "quorconv: 1 probe merged\n");
+    ExpectShell("quorconv get ours.ini C RTPW", "25.7\n", "");
+}
+
 TEST_F(QuorconvCompareTest, AnotherFileThatIsEmptyOrDamagedRemovesNothing) {
     folder.Write("theirs.ini", "");
     Outcome refused = Quorconv({"merge", "base.ini", "ours.ini", "theirs.ini"});
