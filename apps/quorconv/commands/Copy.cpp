@@ -88,10 +88,11 @@ class Copy final : public Command {
 
 } // namespace
 
-const CommandRow copyRow{"copy",
-                         "Copy a probe, or all that match a pattern, to the same or another file",
-                         {"quorconv copy prt-1188.cvd \"Callendar-Van Dusen\" laboratory.ini \"Probe 38\"",
-                          "quorconv copy laboratory.ini \"*\" --type cvd platinum.ini"},
-                         Create<Copy>};
+const CommandRow copyRow{
+    "copy",
+    "Copy a probe, or all that match a pattern, to the same or another file; values go as they are",
+    {"quorconv copy prt-1188.cvd \"Callendar-Van Dusen\" laboratory.ini \"Probe 38\"",
+     "quorconv copy laboratory.ini \"*\" --type cvd platinum.ini"},
+    Create<Copy>};
 
 } // namespace quorconv

@@ -35,7 +35,8 @@ class Show final : public Command {
                        "The sections of probes, or patterns with * and ?; without it, all probes");
         m_selection.DeclareType(arguments);
         arguments.Options("--also", "FILE", m_also, Meaning::File,
-                          "Also those of that file; may be repeated");
+                          "Also those of that file; may be repeated. JSON does not say which file a\n"
+                          "probe is from, and \"put\" refuses two of one name");
         arguments.Flag("--json", m_isJson, "Print JSON: an object for one section, an array for more");
         arguments.Flag("--jsonl", m_isJsonLines, "Print JSON Lines: one object per line");
     }
