@@ -8,7 +8,7 @@
 namespace quorconv {
 
 /// What an argument means: what a shell completes it with.
-enum class Meaning { Text, File, Section, Key, Assignment, Type, Choice };
+enum class Meaning { Text, File, Section, Key, Assignment, Type, Choice, Warning, Shell };
 
 /// An argument as a command declares it.
 struct Argument {

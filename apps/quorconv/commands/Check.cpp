@@ -171,7 +171,7 @@ class Check final : public Command {
     void Declare(Arguments& arguments) override {
         arguments.Rest("FILE", m_paths, 1, Meaning::File, "The files");
         arguments.Flag("--strict", m_isStrict, "Exit with 1 for warnings too");
-        arguments.Options("--ignore", "ID", m_ignoredIds, Meaning::Text,
+        arguments.Options("--ignore", "ID", m_ignoredIds, Meaning::Warning,
                           "Do not report warnings with that ID; may be repeated");
         arguments.Options("--section", "SECTION", m_selection.patterns, Meaning::Section,
                           "Only that probe, or those that match a pattern with * and ?; may be repeated");

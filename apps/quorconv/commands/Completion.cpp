@@ -2,6 +2,7 @@
 
 #include "QuorIniFile/Utf8.h"
 #include "QuorProbeFile/ProbeTypes.h"
+#include "QuorProbeFile/ProbeWarning.h"
 #include "apps/quorconv/CommandLine.h"
 
 #include <iostream>
@@ -28,6 +29,14 @@ std::string WordOf(const Argument& argument) {
             words += ":" + choice;
         return words;
     }
+    case Meaning::Warning: {
+        std::string words = "choice";
+        for (const QuorProbeFile::ProbeWarning& warning : QuorProbeFile::Warnings())
+            words += ":" + QuorIniFile::ToUtf8(warning.id);
+        return words;
+    }
+    case Meaning::Shell:
+        return "choice:bash";
     case Meaning::Text:
         break;
     }
@@ -38,10 +47,9 @@ const char* const functions = R"shell(
 # A name with blanks is completed in double quotes, whose last one the shell adds.
 _quorconv_names() { # CURRENT NAME...
     local current=${1#[\"\']} name quoted=
-    case ${COMP_WORDS[COMP_CWORD]-} in [\"\']*) ;; *) current=${current//\\/} ;; esac
+    case $1 in [\"\']*) quoted=yes ;; *) current=${current//\\/} ;; esac
     current=${current,,}
     shift
-    case ${COMP_WORDS[COMP_CWORD]-} in [\"\']*) quoted=yes ;; esac
     for name; do
         case ${name,,} in
         "$current"*)
@@ -51,52 +59,11 @@ _quorconv_names() { # CURRENT NAME...
     done
 }
 
-_quorconv() {
-    local current=${COMP_WORDS[COMP_CWORD]} command=${COMP_WORDS[1]-} word option meaning='' file='' section=''
-    local -a meanings options names
-    local -i at position=0
-    COMPREPLY=()
-    if [ "$COMP_CWORD" -le 1 ]; then
-        mapfile -t COMPREPLY < <(compgen -W "$_quorconv_commands --help --version" -- "$current")
-        return
-    fi
-    [ "${_quorconv_arguments[$command]+known}" ] || return
-    read -ra meanings <<<"${_quorconv_arguments[$command]}"
-    read -ra options <<<"${_quorconv_options[$command]}"
-    for ((at = 2; at < COMP_CWORD; ++at)); do
-        word=${COMP_WORDS[at]}
-        case $word in
-        --*)
-            for option in "${options[@]}"; do
-                if [ "${option%%=*}" = "$word" ] && [ "$option" != "$word" ]; then
-                    ((at + 1 == COMP_CWORD)) && meaning=${option#*=}
-                    ((++at))
-                fi
-            done
-            ;;
-        *)
-            case $word in # without its quotes
-            \"*\" | \'*\') word=${word:1:${#word}-2} ;;
-            *) word=${word//\\/} ;;
-            esac
-            case ${meanings[position]-} in
-            file*) [ "$file" ] || file=$word ;;
-            section* | type) [ "$section" ] || section=$word ;;
-            esac
-            case ${meanings[position]-} in *...) ;; *) ((++position)) ;; esac
-            ;;
-        esac
-    done
-    if [ ! "$meaning" ]; then
-        case $current in
-        -*)
-            mapfile -t COMPREPLY < <(compgen -W "${options[*]%%=*} --help" -- "$current")
-            return
-            ;;
-        esac
-        meaning=${meanings[position]-}
-    fi
-    case ${meaning%...} in
+# The value that is typed behind "--option=" or in an argument of its own, without what stands before it.
+_quorconv_values() { # MEANING CURRENT
+    local meaning=${1%...} current=$2 coefficient=''
+    local -a names
+    case $meaning in
     file)
         compopt -o filenames 2>/dev/null
         mapfile -t COMPREPLY < <(compgen -f -- "$current")
@@ -114,19 +81,89 @@ _quorconv() {
         _quorconv_names "$current" "${names[@]}"
         ;;
     key | assignment)
-        if [ "$command" = explain ]; then
-            mapfile -t names < <("${COMP_WORDS[0]}" explain "$section" 2>/dev/null |
-                sed -n 's/^\([A-Z][^ ]*\)\( (.*\)\{0,1\}$/\1/p' | sort -u)
+        if [ "$type" ]; then # "explain" takes the names of coefficients, too
+            [ "$command" = explain ] && coefficient='\n\1'
+            mapfile -t names < <("${COMP_WORDS[0]}" explain "$type" 2>/dev/null |
+                sed -n '/^$/{n;s/, with UsePolynomial=.*//;s/ (\([^)]*\))$/'"$coefficient"'/;p;}' | sort -u)
         elif [ -f "$file" ]; then
             mapfile -t names < <("${COMP_WORDS[0]}" show "$file" "$section" 2>/dev/null | sed -n '2,$s/=.*//p')
+            [ "$command" = get ] && names+=(ConversionType)
         fi
-        if [ "${meaning%...}" = assignment ]; then
+        if [ "$meaning" = assignment ]; then
+            case $current in *=*) return ;; esac
             names=("${names[@]/%/=}")
             compopt -o nospace 2>/dev/null
         fi
         _quorconv_names "$current" "${names[@]}"
         ;;
     esac
+}
+
+_quorconv() {
+    local current=${COMP_WORDS[COMP_CWORD]} command=${COMP_WORDS[1]-} word option meaning='' before=''
+    local file='' section='' type='' typed
+    local -a words meanings options
+    local -i at position=0
+    COMPREPLY=()
+    if [ "$COMP_CWORD" -le 1 ]; then
+        mapfile -t COMPREPLY < <(compgen -W "$_quorconv_commands --help --version" -- "$current")
+        return
+    fi
+    [ "${_quorconv_arguments[$command]+known}" ] || return
+    read -ra meanings <<<"${_quorconv_arguments[$command]}"
+    read -ra options <<<"${_quorconv_options[$command]}"
+    for ((at = 2; at <= COMP_CWORD; ++at)); do # "--type=cvd" and "Order=1" may have been split at the "="
+        word=${COMP_WORDS[at]}
+        case ${#words[@]},$word,${COMP_WORDS[at - 1]} in
+        [1-9]*,=,* | [1-9]*,=) words[-1]+=$word ;;
+        *) words+=("$word") ;;
+        esac
+    done
+    typed=${words[-1]}
+    unset 'words[-1]'
+    for ((at = 0; at < ${#words[@]}; ++at)); do
+        word=${words[at]}
+        case $word in
+        --*=*) ;;
+        --*)
+            for option in "${options[@]}"; do
+                if [ "${option%%=*}" = "$word" ] && [ "$option" != "$word" ]; then
+                    ((at + 1 == ${#words[@]})) && meaning=${option#*=}
+                    ((++at))
+                fi
+            done
+            ;;
+        *)
+            case $word in # without its quotes
+            \"*\" | \'*\') word=${word:1:${#word}-2} ;;
+            *) word=${word//\\/} ;;
+            esac
+            case ${meanings[position]-} in
+            file*) [ "$file" ] || file=$word ;;
+            section*) [ "$section" ] || section=$word ;;
+            type) type=$word ;;
+            esac
+            case ${meanings[position]-} in *...) ;; *) ((++position)) ;; esac
+            ;;
+        esac
+    done
+    case $meaning,$typed in
+    ,--*=*)
+        before=${typed%%=*}=
+        for option in "${options[@]}"; do
+            case $option in "$before"*) meaning=${option#*=} ;; esac
+        done
+        ;;
+    ,-*) mapfile -t COMPREPLY < <(compgen -W "${options[*]%%=*} --help" -- "$typed") ;;
+    ,*) meaning=${meanings[position]-} ;;
+    esac
+    _quorconv_values "$meaning" "${typed#"$before"}"
+    # The part of the word in which nothing is replaced.
+    [ "$current" = = ] || typed=${typed%"$current"}
+    for at in "${!COMPREPLY[@]}"; do
+        word=$before${COMPREPLY[at]}
+        COMPREPLY[at]=${word#"$typed"}
+    done
 }
 
 complete -F _quorconv quorconv
@@ -146,7 +183,7 @@ class Completion final : public Command {
     std::wstring m_shell;
 
     void Declare(Arguments& arguments) override {
-        arguments.One("SHELL", m_shell, Meaning::Text, "The shell: bash");
+        arguments.One("SHELL", m_shell, Meaning::Shell, "The shell: bash");
     }
 
     ExitCode Run() override {

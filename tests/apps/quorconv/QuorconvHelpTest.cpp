@@ -86,11 +86,47 @@ TEST_F(QuorconvHelpTest, CompletesTheSectionsAndKeysOfTheFileThatIsNamed) {
     EXPECT_EQ(Completed("quorconv get none.ini ''"), "\n");
 }
 
+TEST_F(QuorconvHelpTest, CompletesTheValueOfAnOptionBehindItsEqualsSignSplitByTheShellOrNot) {
+    EXPECT_EQ(Completed("quorconv check laboratory.ini --format = g"), "gcc\ngithub\n");
+    EXPECT_EQ(Completed("quorconv check laboratory.ini --format ="), "text\ngcc\ngithub\njson\n");
+    EXPECT_EQ(Completed("quorconv check laboratory.ini --format=g"), "--format=gcc\n--format=github\n");
+    EXPECT_EQ(Completed("quorconv export laboratory.ini --type = tc"), "tcp\ntct\ntcx\n");
+    EXPECT_EQ(Completed("quorconv put laboratory.ini --decimal = c"), "comma\n");
+    EXPECT_EQ(Completed("quorconv put laboratory.ini --separator=t"), "--separator=tab\n");
+    EXPECT_EQ(Completed("quorconv show laboratory.ini --also = labo"),
+              "laboratory-2024.ini\nlaboratory.ini\n");
+    EXPECT_EQ(Completed("quorconv set laboratory.ini --from=ste"), "--from=steps.txt\n");
+    EXPECT_EQ(Completed("quorconv edit laboratory.ini P --script = ste"), "steps.txt\n");
+    EXPECT_EQ(Completed("quorconv check laboratory.ini --section = Probe\\ 9"), "Probe\\ 9\\ PRT-1182\n");
+    const std::string probe9 = " '\"Probe 9 PRT-1182\"' ";
+    EXPECT_EQ(Completed("quorconv set laboratory.ini --also = copy.ini" + probe9 + "Coefficients0 = 1 Num"),
+              "NumCoefficients=\n");
+    EXPECT_EQ(Completed("quorconv set laboratory.ini" + probe9 + "Coefficients0 ="), "\n");
+    EXPECT_EQ(Completed("quorconv set laboratory.ini" + probe9 + "Coefficients0=Num"), "\n");
+}
+
+TEST_F(QuorconvHelpTest, CompletesTheKeysOfTheTypeThatIsTyped) {
+    EXPECT_EQ(Completed("quorconv retype laboratory.ini '\"Probe 9 PRT-1182\"' pt1 C"), "Coefficients0=\n");
+    EXPECT_EQ(Completed("quorconv new laboratory.ini X cvd C"),
+              "Coefficients0=\nCoefficients1=\nCoefficients2=\nCoefficients3=\n");
+    EXPECT_EQ(Completed("quorconv new laboratory.ini X i90 Low\\ Range/R"), "Low\\ Range/Range=\n");
+    EXPECT_EQ(Completed("quorconv explain cvd A"), "A\nALPHA\n");
+    EXPECT_EQ(Completed("quorconv explain cvd CO"),
+              "Coefficients0\nCoefficients1\nCoefficients2\nCoefficients3\n");
+    EXPECT_EQ(Completed("quorconv explain tcp m"), "mV\\(25C\\)\n");
+    EXPECT_EQ(Completed("quorconv get laboratory.ini '\"Probe 9 PRT-1182\"' Conv"), "ConversionType\n");
+}
+
+TEST_F(QuorconvHelpTest, CompletesTheIdsOfWarningsAndTheNamesOfShells) {
+    EXPECT_EQ(Completed("quorconv check laboratory.ini --ignore r0"), "r0-not-positive\n");
+    EXPECT_EQ(Completed("quorconv completion b"), "bash\n");
+}
+
 TEST_F(QuorconvHelpTest, CompletesWhereNothingIsTypedYetAndWordsWithEscapedBlanks) {
     folder.Write("a.ini", "[abc]\nConversionType=14\n[abc - Settings]\nRTPW=1\n"
                           "[Bath 3]\nConversionType=14\n[Bath 3 - Settings]\nRTPW=1\n");
     EXPECT_EQ(Completed("quorconv get a.ini ''"), "abc\nBath\\ 3\n");
-    EXPECT_EQ(Completed("quorconv get a.ini abc ''"), "RTPW\n");
+    EXPECT_EQ(Completed("quorconv get a.ini abc ''"), "RTPW\nConversionType\n");
     EXPECT_EQ(Completed("quorconv get a.ini 'Bath\\ '"), "Bath\\ 3\n");
 }
 
