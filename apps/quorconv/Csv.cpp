@@ -48,17 +48,20 @@ public:
                 m_fields.emplace_back();
             isEmpty = isEmpty && !Is('"');
             if (Is('"'))
-                Decode(QuotedField(), m_fields[count]);
+                Decode(QuotedField(count), m_fields[count]);
             else
                 Decode(PlainField(), m_fields[count]);
             isEmpty = isEmpty && m_fields[count].empty();
             ++count;
         } while (Skip(m_separator));
         m_fields.resize(count);
-        Skip('\r');
+        const bool hasCr = Skip('\r');
+        if (!IsAtEnd() && !Is('\n') && hasCr)
+            Fail(L"the line ends in a lone carriage return");
         if (!IsAtEnd() && !Is('\n'))
-            Fail(std::wstring(L"a ") + Name(m_separator) +
-                 L" or the end of the line expected after a field in quotes");
+            FailQuoted(std::wstring(L"a ") + Name(m_separator) +
+                       L" or the end of the line expected after the field in quotes" +
+                       (m_line > m_quotedLine ? L", which ends in line " + std::to_wstring(m_line) : L""));
         ++m_at;
         ++m_line;
         if (isEmpty && count == 1)
@@ -75,11 +78,18 @@ private:
         return isThere;
     }
 
-    std::string QuotedField() {
+    /// Tells the place where the last field in quotes begins: a quote is missing there, not where it shows.
+    [[noreturn]] void FailQuoted(const std::wstring& what) const {
+        throw CsvError{m_quotedLine, L"column " + std::to_wstring(m_quotedColumn + 1) + L": " + what};
+    }
+
+    std::string QuotedField(std::size_t column) {
+        m_quotedLine = m_line;
+        m_quotedColumn = column;
         std::string field;
         for (++m_at;; ++m_at) {
             if (IsAtEnd())
-                Fail(L"a quote is not closed");
+                FailQuoted(L"the quote that begins the field is not closed");
             if (m_text[m_at] == '"') {
                 if (m_at + 1 == m_text.size() || m_text[m_at + 1] != '"')
                     break;
@@ -127,6 +137,8 @@ private:
     char m_separator;
     std::size_t m_line = 1;
     std::size_t m_at = 0;
+    std::size_t m_quotedLine = 1; // of the last field in quotes
+    std::size_t m_quotedColumn = 0;
     std::vector<std::wstring> m_fields;
 };
 

@@ -41,6 +41,11 @@ std::string Rest(std::istream& in, const std::wstring& path, Input input) {
     return bytes;
 }
 
+/// Blanks, ends of lines and a byte-order mark, or nothing.
+bool IsBlank(std::string_view text) {
+    return text.find_first_not_of(" \t\r\n\xEF\xBB\xBF") == std::string_view::npos;
+}
+
 std::string StandardInput(Input input) {
     static bool isRead = false;
     if (std::exchange(isRead, true))
@@ -48,7 +53,7 @@ std::string StandardInput(Input input) {
     std::string bytes = Rest(std::cin, standardInput, input);
     if (std::cin.bad() || std::ferror(stdin) != 0)
         throw Problem{L"-: the standard input cannot be read"};
-    if (bytes.empty() && input != Input::NewHostFile)
+    if (IsBlank(bytes) && input != Input::NewHostFile)
         throw Problem{L"-: there is nothing in the standard input"};
     return bytes;
 }
@@ -103,6 +108,8 @@ std::string ReadAll(const std::wstring& path) {
     std::string bytes = Rest(file, path, Input::Text);
     if (file.bad())
         throw Problem{path + L": the file cannot be read"};
+    if (IsBlank(bytes))
+        throw Problem{path + L": there is nothing in this file"};
     return bytes;
 }
 

@@ -18,8 +18,8 @@ inline constexpr const wchar_t* standardInput = L"-";
 /// A path as the libraries have it, for the streams of the standard library.
 [[nodiscard]] std::filesystem::path FilePath(const std::wstring& path);
 
-/// All that a file holds, or the standard input. Raises Problem when it cannot be read, and for a standard
-/// input in which there is nothing: the program before it in the pipe has failed, most likely.
+/// All that a file holds, or the standard input. Raises Problem when it cannot be read, and when there is
+/// nothing in it but blanks: the program that should have written it has failed, most likely.
 [[nodiscard]] std::string ReadAll(const std::wstring& path);
 /// The same as text, without a byte-order mark. Raises Problem for a text that is not UTF-8, too.
 [[nodiscard]] std::wstring ReadText(const std::wstring& path);

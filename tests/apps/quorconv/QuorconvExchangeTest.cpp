@@ -224,7 +224,9 @@ TEST_F(QuorconvExchangeTest, AnEmptyTextGoesThroughATable) {
 }
 
 TEST_F(QuorconvExchangeTest, AnInputWithoutAProbeIsNoSuccess) {
-    ExpectRefusedJson("", "in.json:1:1: an object or a list of objects expected");
+    folder.Write("in.json", "");
+    ExpectRefused({"put", "host.ini", "in.json", "--json"},
+                  "quorconv: in.json: there is nothing in this file\n");
     std::filesystem::create_directory(folder.Path("in"));
     ExpectRefused({"put", "host.ini", "in", "--json"}, "quorconv: in: this is a folder\n");
 }
@@ -447,7 +449,6 @@ TEST_F(QuorconvExchangeTest, TakesATableOfNewCertificates) {
 
 TEST_F(QuorconvExchangeTest, RefusesATableThatIsWrongWithLineAndColumn) {
     const std::vector<std::string> cvd{"--type", "cvd"};
-    ExpectRefusedTable("", "in.csv:1: there is no line of column names");
     ExpectRefusedTable("name,type\n", "in.csv:1: there is no column \"section\"");
     ExpectRefusedTable("section,Coefficients0\n",
                        "in.csv:1: there is no column \"type\", and no --type says it");
@@ -474,9 +475,17 @@ TEST_F(QuorconvExchangeTest, RefusesATableThatIsWrongWithLineAndColumn) {
         {"--type", "cvd", "--decimal", "comma"});
     ExpectRefusedTable("section,Coefficients0\nBath,1,2\n",
                        "in.csv:2: the line has 3 fields, and the first one has 2", cvd);
-    ExpectRefusedTable("section,Coefficients0\nBath,\"1\n", "in.csv:3: a quote is not closed", cvd);
-    ExpectRefusedTable("section,Coefficients0\nBath,\"1\"2\n",
-                       "in.csv:2: a comma or the end of the line expected after a field in quotes", cvd);
+    ExpectRefusedTable("section,Coefficients0\nBath,\"1\nOven,2\nOil,3\n",
+                       "in.csv:2: column 2: the quote that begins the field is not closed", cvd);
+    ExpectRefusedTable(
+        "section,Coefficients0\nBath,\"1\"2\n",
+        "in.csv:2: column 2: a comma or the end of the line expected after the field in quotes", cvd);
+    ExpectRefusedTable("section,Coefficients0\nBath,\"1\nOven,2\nOil,\"3\"\n",
+                       "in.csv:2: column 2: a comma or the end of the line expected after the field in "
+                       "quotes, which ends in line 4",
+                       cvd);
+    ExpectRefusedTable("section,Coefficients0\r\"Bath\",1\r",
+                       "in.csv:1: the line ends in a lone carriage return", cvd);
     ExpectRefusedTable("section,Coefficients0\nBath,1\nbath,2\n",
                        "in.csv:3: [bath]: the section occurs twice", cvd);
     ExpectRefusedTable(

@@ -230,7 +230,9 @@ TEST_F(QuorconvLossTest, ATableOfASpreadsheetIsReadByItsOwnSeparatorAloneAndNeve
     const std::string hint = "; \"--separator semicolon\" reads a table like this\n";
     folder.Write("in.csv", "\"section\";\"type\"\n");
     ExpectRefused({"put", "a.ini", "in.csv", "--csv"},
-                  head + "  in.csv:1: a comma or the end of the line expected after a field in quotes" +
+                  head +
+                      "  in.csv:1: column 1: a comma or the end of the line expected after the field in "
+                      "quotes" +
                       hint);
     folder.Write("in.csv", "section;type;Coefficients1 [ALPHA, 1/\xC2\xB0"
                            "C or A, 1/\xC2\xB0"
@@ -271,6 +273,28 @@ TEST_F(QuorconvLossTest, AnEmptyStandardInputIsNoSuccess) {
         ExpectShell("quorconv " + command + " </dev/null", "",
                     "quorconv: -: there is nothing in the standard input\n", 1);
     ExpectShell("quorconv new - A w90 RTPW=1 </dev/null", folder.Read("a.ini"));
+}
+
+TEST_F(QuorconvLossTest, NothingAtAllInAnInputIsNoSuccessAndAnExplicitNothingIsOne) {
+    ExpectFine({"new", "a.ini", "A", "w90", "RTPW=1"});
+    for (const char* const nothing : {"", "\n", " \t\r\n\n", "\xEF\xBB\xBF\r\n"}) {
+        folder.Write("in", nothing);
+        for (const std::string command : {"apply a.ini", "set a.ini --from", "put a.ini --json",
+                                          "put a.ini --csv", "edit a.ini A --script"}) {
+            ExpectShell("quorconv " + command + " in", "", "quorconv: in: there is nothing in this file\n",
+                        1);
+            ExpectShell("quorconv " + command + " - <in", "",
+                        "quorconv: -: there is nothing in the standard input\n", 1);
+        }
+        ExpectShell("quorconv list - <in", "", "quorconv: -: there is nothing in the standard input\n", 1);
+    }
+    folder.Write("steps.txt", "# nothing to do\n");
+    folder.Write("in.json", "[]\n");
+    folder.Write("in.csv", "section,type\n");
+    ExpectShell("quorconv apply a.ini steps.txt", "", "quorconv: 0 steps done\n");
+    ExpectShell("quorconv set a.ini --from steps.txt", "", "quorconv: 0 steps done\n");
+    ExpectShell("quorconv put a.ini in.json --json", "", "quorconv: 0 probes put\n");
+    ExpectShell("quorconv put a.ini in.csv --csv", "", "quorconv: 0 probes put\n");
 }
 
 TEST_F(QuorconvLossTest, ShownJsonIsWholeOrNothing) {
