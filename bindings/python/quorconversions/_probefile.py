@@ -61,7 +61,8 @@ class ProbeFileError(QuorError):
 
 
 class IncompleteProbeError(ProbeFileError):
-    """Something of a probe is missing or cannot be read: `problems`. `conversion` has default values in these places."""
+    """Something of a probe is missing or cannot be read: `problems`. `conversion` has default values in these places; an
+    error that comes from another process (pickle) does not have it."""
 
     def __init__(self, error: QuorError, problems: Tuple[Problem, ...], conversion: Conversion) -> None:
         super().__init__(error, ProbeFileErrorCode.INCOMPLETE, "", problems)
@@ -112,6 +113,12 @@ class ProbeTable:
 
     def __iter__(self) -> Iterator[Dict[str, Any]]:
         return (self[place] for place in range(len(self)))
+
+
+def _absolute(path: PathText) -> str:
+    """No path stays none, which the library refuses; it is not the current folder."""
+    name = os.fspath(path)
+    return os.path.abspath(name) if name else name
 
 
 def _folded(section: str) -> str:
@@ -223,7 +230,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
 
     def __init__(self, path: PathText, create: bool = False, platform: Optional[Platform] = None) -> None:
         """Loads the file. With `create` it need not exist: the first save creates it."""
-        self._path = os.path.abspath(os.fspath(path))
+        self._path = _absolute(path)
         self._create = create
         self._platform = platform
         self._file = _low.ProbeFile(self._path, create)
@@ -270,15 +277,18 @@ class ProbeFile(MutableMapping[str, Conversion]):
         except UnicodeEncodeError:  # half of a surrogate pair, which no file has
             return False
 
+    def _no_probe(self, section: str) -> KeyError:
+        return KeyError(f"{self._path} has no probe [{section}]")
+
     def __getitem__(self, section: str) -> Conversion:
         _section(section)
         pending = self._probes.get(_folded(section))
         if pending is not None:
             if pending.conversion is None:
-                raise KeyError(section)
+                raise self._no_probe(section)
             return pending.conversion
         if not self._is_in_file(section):
-            raise KeyError(section)
+            raise self._no_probe(section)
         conversion = self._read_whole(section)
         self._remember(section, conversion)
         return conversion
@@ -321,12 +331,11 @@ class ProbeFile(MutableMapping[str, Conversion]):
         if _section(section) not in self:
             _require_name(section)
         folded = _folded(section)
-        owner = getattr(conversion, "_file", lambda: None)()
-        if owner is None:
-            owner = self
-        for name, probe in owner._probes.items():
+        owner: Any = getattr(conversion, "_file", lambda: None)()
+        owned: Dict[str, _Probe] = {} if owner is None else owner._probes
+        for name, probe in owned.items():
             if probe.conversion is conversion and (owner is not self or name != folded):
-                advice = "; duplicate makes" if owner is self else f" in {owner.path}; read gives"
+                advice = "; duplicate makes" if owner is self else f" in {owner.path}; copy_from makes"
                 raise ValueError(f"this conversion already belongs to [{probe.section}]{advice} another one")
         there = self._probes.get(folded)
         if there is not None and there.conversion is conversion:
@@ -335,7 +344,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
         if replaced is not None and replaced.conversion is conversion:
             self._probes[folded] = replaced
             return
-        for probe in owner._probes.values():
+        for probe in owned.values():
             if probe.replaces is not None and probe.replaces.conversion is conversion:
                 probe.replaces = None
         self._probes[folded] = _Probe(section, conversion, replaces=replaced)
@@ -350,6 +359,11 @@ class ProbeFile(MutableMapping[str, Conversion]):
         if there.conversion is not None:
             self._detach(there.section, there.conversion)
         return there.replaces
+
+    def copy_from(self, source: ProbeFile, section: str, name: Optional[str] = None) -> None:
+        """Assigns a copy of a probe of another file, as that file has it, to the section `name`, or to that of the same name.
+        It is saved with the other changes. IncompleteProbeError if something of it is missing."""
+        self[section if name is None else name] = source._read_whole(_section(section))
 
     def duplicate(self, section: str, name: str) -> None:
         """Copies the probe, as the file has it, to another section, and saves at once. If that is a probe which was
@@ -374,7 +388,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
 
     def __delitem__(self, section: str) -> None:
         if _section(section) not in self:
-            raise KeyError(section)
+            raise self._no_probe(section)
         self._probes[_folded(section)] = _Probe(section, None, replaces=self._replaced(_folded(section)))
 
     def _in_file(self) -> Iterator[str]:
@@ -553,7 +567,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
 
     def save_as(self, path: PathText) -> None:
         """Replaces another file with the text of this one as it was last loaded or saved."""
-        self._file.SaveAs(os.path.abspath(os.fspath(path)))
+        self._file.SaveAs(_absolute(path))
 
     def rename(self, section: str, name: str) -> None:
         """Renames a probe and its settings sections, and saves at once. ValueError if there are unsaved changes."""
@@ -582,6 +596,9 @@ class ProbeFile(MutableMapping[str, Conversion]):
 
     def __repr__(self) -> str:
         return f"ProbeFile({self._path!r}, {len(self)} probes)"
+
+    def __copy__(self) -> ProbeFile:
+        raise TypeError("ProbeFile cannot be copied")
 
     __hash__ = object.__hash__
 

@@ -14,7 +14,7 @@ from ctypes import POINTER, byref, c_char_p, c_double, c_int16, c_int32, c_size_
 from enum import IntEnum
 from pathlib import Path
 from types import TracebackType
-from typing import Any, Dict, Iterable, Iterator, List, Optional, Type, TypeVar, Union
+from typing import Any, Dict, Iterable, Iterator, List, Optional, Tuple, Type, TypeVar, Union
 
 UNEXPECTED = -2147467259  # 0x80004005
 
@@ -26,15 +26,16 @@ def flag(value: object) -> int:
     return -1 if value else 0
 
 
-def _load() -> ctypes.CDLL:
-    """The library that the variable QUORCONVERSIONS_LIBRARY names, or the one beside the package, or that of the system."""
+def _load() -> ctypes.PyDLL:
+    """The library that the variable QUORCONVERSIONS_LIBRARY names, or the one beside the package, or that of the system.
+    Its calls keep Python's global lock, so that threads which share an object by mistake do not end the process."""
     given = os.environ.get("QUORCONVERSIONS_LIBRARY")
     if given:
-        return ctypes.CDLL(given)
+        return ctypes.PyDLL(given)
     name = {"win32": "quor.dll", "darwin": "libquor.1.dylib"}.get(sys.platform, "libquor.so.1")
     beside = Path(__file__).parent / name
     try:
-        return ctypes.CDLL(str(beside) if beside.exists() else name)
+        return ctypes.PyDLL(str(beside) if beside.exists() else name)
     except OSError as error:
         raise ImportError(f"quorconversions needs {name}: beside the package, where the system finds libraries, or "
                           f"named by the variable QUORCONVERSIONS_LIBRARY ({error})") from error
@@ -159,6 +160,17 @@ class QuorError(Exception):
 
     def __str__(self) -> str:
         return f"{self.description} ({self.source}, error {self.number})"
+
+    def __reduce__(self) -> Tuple[Any, ...]:
+        """For another process; objects of the library stay in this one."""
+        state = {name: value for name, value in self.__dict__.items() if not isinstance(value, Object)}
+        return _unpickled, (type(self), self.args, state)
+
+
+def _unpickled(error_class: Type[QuorError], arguments: Tuple[Any, ...], state: Dict[str, Any]) -> QuorError:
+    error = error_class.__new__(error_class, *arguments)
+    error.__dict__.update(state)
+    return error
 
 
 class _ErrorView(ctypes.Structure):

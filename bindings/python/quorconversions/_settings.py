@@ -48,10 +48,14 @@ def allow_nan() -> Iterator[None]:
         _nan_is_allowed.reset(token)
 
 
-def _number(value: Any) -> Any:
+def _number(value: Any, name: object) -> Any:
     """A value to be stored. ValueError for NaN and infinities."""
-    if not _nan_is_allowed.get() and not math.isfinite(value):
-        raise ValueError(f"{float(value)} gives no temperature; to store it, use \"with allow_nan():\"")
+    try:
+        is_finite = math.isfinite(value)
+    except TypeError:
+        raise TypeError(f"{name}: expected a number, not {value!r}") from None
+    if not is_finite and not _nan_is_allowed.get():
+        raise ValueError(f"{name}: {float(value)} gives no temperature; to store it, use \"with allow_nan():\"")
     return value
 
 
@@ -96,13 +100,13 @@ class Values(Sequence[float]):
 
     def __setitem__(self, index: Union[int, str, slice], value: Any) -> None:
         if not isinstance(index, slice):
-            self._put(self._index(index), _number(value))
+            self._put(self._index(index), _number(value, index))
             return
         places = range(*index.indices(len(self)))
-        values = [_number(one) for one in value]
+        values = list(value)
         if len(values) != len(places):
             raise ValueError(f"{len(values)} values for {len(places)} places")
-        for place, one in zip(places, values):
+        for place, one in [(place, _number(one, place)) for place, one in zip(places, values)]:
             self._put(place, one)
 
     def __eq__(self, other: object) -> bool:
@@ -399,7 +403,7 @@ class _WithRTPW:
 
         @RTPW.setter
         def RTPW(self, value: float) -> None:
-            super(_WithRTPW, type(self)).RTPW.fset(self, _number(value))
+            super(_WithRTPW, type(self)).RTPW.fset(self, _number(value, "RTPW"))
 
 
 @_stands_for("CQuorWT90")

@@ -197,3 +197,17 @@ def test_lists_are_filled():
 
 def test_the_version_is_that_of_the_library():
     assert quor.version().count(".") == 2
+
+
+def test_a_value_that_is_refused_is_named():
+    cvd = Conversion(ConversionType.CVD).settings
+    for wrong, text in ((lambda: setattr(cvd, "R0", "100,5"), "R0: expected a number, not '100,5'"),
+                        (lambda: cvd.coefficients.__setitem__(slice(1, 3), [0, None]), "2: expected a number, not None"),
+                        (lambda: setattr(Conversion(ConversionType.WT90).settings, "RTPW", "x"),
+                         "RTPW: expected a number, not 'x'")):
+        with pytest.raises(TypeError) as raised:
+            wrong()
+        assert str(raised.value) == text
+    with pytest.raises(ValueError, match="^ALPHA: nan gives no temperature"):
+        cvd.ALPHA = math.nan
+    assert list(cvd.coefficients) == [0, 0, 0, 0]
