@@ -536,19 +536,23 @@ class ProbeFile(MutableMapping[str, Conversion]):
         return newest
 
     def _steps(self) -> Iterator[Callable[[], object]]:
-        steps: List[Callable[[], object]] = []
+        """Removals, which leave their names to others, before what is written whole, and that before changes: the library
+        takes steps of one kind that follow each other together."""
+        removed: List[Callable[[], object]] = []
+        written: List[Callable[[], object]] = []
+        changed: List[Callable[[], object]] = []
         for folded, probe in self._probes.items():
             section, conversion = probe.section, probe.conversion
             if conversion is None:
                 if self._is_in_file(section):
                     yield partial(self._file.RequireUnchanged, section, self._last_read(folded, probe))
-                    steps.append(partial(self._file.Remove, section))
+                    removed.append(partial(self._file.Remove, section))
             elif conversion.ConversionType != probe.type_read:
                 yield partial(self._file.RequireUnchanged, section, self._last_read(folded, probe))
-                steps.append(partial(self._file.Write, section, conversion))
+                written.append(partial(self._file.Write, section, conversion))
             elif self._call(partial(self._file.Differs, section, conversion)):
-                steps.append(partial(self._file.WriteChanges, section, conversion))
-        yield from steps
+                changed.append(partial(self._file.WriteChanges, section, conversion))
+        yield from removed + written + changed
 
     def discard(self) -> None:
         """Discards unsaved changes and loads the current file: conversions of its probes get its values."""
