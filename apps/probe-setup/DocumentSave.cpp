@@ -37,6 +37,14 @@ DocumentError ChangedByOthers(const std::wstring& path, std::vector<ChangedProbe
     return error;
 }
 
+/// Whether a save writes settings of a probe that has none in the file: what stands in their place is the
+/// host's.
+bool GetsSettings(const ListedProbe& probe) {
+    const bool hadSettings = !probe.isNew && MayHaveSettings(probe.typeInFile);
+    return (probe.isNew || probe.content.replacesRecord) && !hadSettings &&
+           MayHaveSettings(probe.content.type);
+}
+
 RecordAsRead RecordIn(ProbeFile& file, const std::wstring& section) {
     try {
         return file.Record(section);
@@ -60,27 +68,34 @@ void DocumentSave::WriteInto(ProbeFile& file, bool othersWrote, const OthersChan
     if (othersWrote)
         gone = CheckForConflicts(file, replaced);
     MoveSections(*file.Store());
+    NameSet owners; // of what stands there now: the files of many probes are looked through once
+    for (const std::wstring& section : file.Sections()) {
+        for (const std::wstring_view owner : PossibleOwners(section))
+            owners.emplace(owner);
+    }
     for (const ListedProbe& probe : m_probes) {
-        if (probe.IsMerged() && !gone.contains(&probe))
+        if (probe.IsMerged() && !gone.contains(&probe)) {
             WriteMerged(file, probe);
-        else if (probe.isNew || probe.content.IsChanged() || gone.contains(&probe))
+        } else if (probe.isNew || probe.content.IsChanged() || gone.contains(&probe)) {
+            if (GetsSettings(probe) && owners.contains(probe.name))
+                RequireNoSettingsOfTheHost(file, probe);
             WriteWhole(file, probe);
+        }
     }
     SpellNewNames(*file.Store());
 }
 
-void DocumentSave::WriteWhole(ProbeFile& file, const ListedProbe& probe) {
-    const bool hadSettings = !probe.isNew && MayHaveSettings(probe.typeInFile);
-    if ((probe.isNew || probe.content.replacesRecord) && !hadSettings &&
-        MayHaveSettings(probe.content.type)) {
-        for (const std::wstring& section : file.Sections()) {
-            if (!HoldsSettingsOf(section, probe.name))
-                continue; // else it is the host's
-            const ProbeFileError taken(PROBE_SETTINGS_ARE_TAKEN, file.Path(), probe.name, section);
-            throw DocumentError{
-                Failure::CannotWrite, file.Path(), {probe.name, taken.Description()}, {}, {taken.Phrase()}};
-        }
+void DocumentSave::RequireNoSettingsOfTheHost(ProbeFile& file, const ListedProbe& probe) {
+    for (const std::wstring& section : file.Sections()) {
+        if (!HoldsSettingsOf(section, probe.name))
+            continue;
+        const ProbeFileError taken(PROBE_SETTINGS_ARE_TAKEN, file.Path(), probe.name, section);
+        throw DocumentError{
+            Failure::CannotWrite, file.Path(), {probe.name, taken.Description()}, {}, {taken.Phrase()}};
     }
+}
+
+void DocumentSave::WriteWhole(ProbeFile& file, const ListedProbe& probe) {
     WriteRecord(file.Store(), probe, probe.name, file.Path());
 }
 

@@ -35,6 +35,8 @@ public:
     static void WriteWhole(QuorProbeFile::ProbeFile& file, const ListedProbe& probe);
 
 private:
+    /// Raises DocumentError when a section of the host stands where the settings of the probe would.
+    static void RequireNoSettingsOfTheHost(QuorProbeFile::ProbeFile& file, const ListedProbe& probe);
     /// Raises DocumentError when what was done cannot be joined with what others have written into `file`.
     /// Returns the changed probes that are gone there.
     [[nodiscard]] std::unordered_set<const ListedProbe*>

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+
 using namespace ProbeSetup;
 using namespace QuorConversions;
 using Texts = std::vector<std::wstring>;
@@ -33,6 +35,24 @@ TEST_F(ManyProbes, GetAnotherTypeInOneStepAndThoseThatHaveItStayAsTheyAre) {
     EXPECT_FALSE(document.IsChanged(1));
     static_cast<void>(document.Undo());
     EXPECT_FALSE(document.Changed());
+}
+
+TEST_F(ManyProbes, ThatGetSettingsAreSavedInAboutTheTimeThatTheirNumberTakes) {
+    const auto secondsFor = [this](std::size_t count) {
+        std::string text;
+        std::vector<std::size_t> all(count);
+        for (std::size_t i = 0; i < count; ++i) {
+            text += "[Probe " + std::to_string(i) + "]\nConversionType=10\n";
+            all[i] = i;
+        }
+        Open(text);
+        document.SetType(all, CONV_CVD);
+        const std::clock_t start = std::clock();
+        document.Save();
+        return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+    };
+    const double few = secondsFor(200);
+    EXPECT_LT(secondsFor(1600) / few, 20) << "8 is the ratio of the numbers, 64 that of their squares";
 }
 
 TEST_F(ManyProbes, GoIntoATextAndComeBackUnderFreeNames) {
