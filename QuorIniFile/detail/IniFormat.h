@@ -1,11 +1,10 @@
 #pragma once
 
 #include "QuorIniFile/Utf8.h"
+#include "QuorIniFile/detail/Unicode.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -153,23 +152,18 @@ enum class IniEncoding : std::uint8_t { Utf8, Latin1 };
 [[nodiscard]] inline bool IsSameAscii(std::string_view name, const wchar_t* wanted) {
     constexpr std::size_t step = 8; // characters at once; the last ones again with some before them
     const auto isSame = [&](std::size_t from, std::size_t count) {
-        std::array<char, step> narrow{};
-        std::uint32_t all = 0;
-        for (std::size_t at = 0; at < count; ++at) {
-            // NOLINTNEXTLINE(bugprone-signed-char-misuse): a wide character, whatever its sign
-            const auto unit = static_cast<std::uint32_t>(wanted[from + at]);
-            narrow[at] = static_cast<char>(unit);
-            all |= unit;
-        }
-        return all < 0x80 && std::memcmp(narrow.data(), name.data() + from, count) == 0;
+        std::uint32_t differing = 0;
+        for (std::size_t at = from; at < from + count; ++at)
+            differing |= static_cast<std::uint32_t>(wanted[at]) ^ static_cast<unsigned char>(name[at]);
+        return differing == 0;
     };
     if (name.size() < step)
-        return isSame(0, name.size());
+        return isSame(0, name.size()) && IsAscii(name);
     for (std::size_t at = 0; at + step < name.size(); at += step) {
         if (!isSame(at, step))
             return false;
     }
-    return isSame(name.size() - step, step);
+    return isSame(name.size() - step, step) && IsAscii(name);
 }
 
 /// The same for a name as a host gives it. One that no bytes of a file can spell is never meant.

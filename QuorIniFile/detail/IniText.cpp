@@ -70,17 +70,11 @@ struct HeaderCut {
     std::size_t next = 0; // where the line behind it starts
 };
 
-/// The header line that starts at a '['. Nearly all have their line end right behind the ']', or no ']' at
-/// all: one look at each character tells.
+/// The header line that starts at a '['. Nearly all end with their only ']', behind the name.
 HeaderCut CutHeader(std::string_view text, std::size_t at) {
-    std::size_t end = at + 1;
-    while (end < text.size() && text[end] != ']' && text[end] != '\n')
-        ++end;
-    if (end < text.size() && text[end] == '\n')
-        return {{IniLineKind::BrokenSection, {}, {}}, end + 1};
-    if (end + 1 < text.size() && text[end + 1] == '\n')
-        return {{IniLineKind::Section, text.substr(at + 1, end - at - 1), {}}, end + 2};
     const IniCut cut = CutLine(text, at);
+    if (cut.line.find(']') == cut.line.size() - 1)
+        return {{IniLineKind::Section, cut.line.substr(1, cut.line.size() - 2), {}}, cut.next};
     return {ClassifyLine(cut.line), cut.next};
 }
 
