@@ -227,6 +227,27 @@ static class Tests {
         }
     }
 
+    static void ARemovalAfterABracketThatFailedTakesNoNewerRecord() {
+        var path = Path.Combine(s_folder, "newer.ini");
+        var record = "[P]\nVersion=1.0\nConversionType=14\n[P - Settings]\nVersion=1.0\nRTPW=25.5\n";
+        var text = record + record.Replace("[P", "[Q");
+        File.WriteAllText(path, text);
+        using (var file = new ProbeFile(path))
+        using (var anew = CallendarVanDusen()) {
+            text = text.Replace("25.5", "n/a");
+            File.WriteAllText(path, text);
+            foreach (var section in new[] {"P", "Q"}) {
+                file.Hold();
+                file.RequireUnchanged(section, anew);
+                file.Remove(section);
+                var error = Raised<QuorError>(() => file.Release());
+                Expect(error.Number == 75 && error.Message.Contains(path + ": [" + section + "]: "), "who has changed");
+                Expect(file.ConflictCount == 1 && file.GetConflictSection(0) == section, "the probe");
+            }
+            Expect(File.ReadAllText(path) == text, "the file");
+        }
+    }
+
     static void ADialogIsClosedByItsPerson() {
         using (var person = new Person())
         using (var probe = CallendarVanDusen(person)) {
@@ -260,6 +281,7 @@ static class Tests {
         ACallThatIsRefusedKeepsNoReference();
         EveryFunctionIsThereAndRefusesWhatIsNoHandle();
         TheNumbersOfAllProbesComeAtOnce();
+        ARemovalAfterABracketThatFailedTakesNoNewerRecord();
         ADialogIsClosedByItsPerson();
         // The platform that nobody disposes of keeps its own.
         Expect(Handles() == 1, "handles that are left: " + Handles());
