@@ -71,6 +71,7 @@ void ProbeList::MakeTable() {
     m_table->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_table->viewport()->installEventFilter(this); // its width changes with a scroll bar, too
     m_table->header()->setStretchLastSection(false);
     m_table->header()->setSortIndicatorClearable(true);
     m_table->header()->setSortIndicator(-1, Qt::AscendingOrder);
@@ -118,11 +119,6 @@ void ProbeList::FitNames() {
     header.resizeSection(ProbeTableModel::NameColumn, room > width
                                                           ? std::max(width, std::min(wanted, room))
                                                           : std::max(room, std::min(width, m_nameWidth)));
-}
-
-void ProbeList::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    FitNames();
 }
 
 std::optional<std::size_t> ProbeList::Current() const {
@@ -239,6 +235,8 @@ void ProbeList::SetEmptyText(const QString& text) {
 }
 
 bool ProbeList::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_table->viewport() && event->type() == QEvent::Resize)
+        FitNames();
     if (watched == m_find && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Escape)

@@ -406,6 +406,13 @@ TEST_F(ManyProbesWindow, NamesThatAreCutGetTheRoomThatConversionsLeaveEmpty) {
     window->resize(700, 600);
     QCoreApplication::processEvents();
     EXPECT_FALSE(isCut(ProbeTableModel::ConversionColumn));
+    std::string many = "[" + std::string(300, 'x') + "]\nConversionType=10\n";
+    for (int i = 0; i < 100; ++i)
+        many += "[Probe " + std::to_string(i) + "]\nConversionType=10\n";
+    Open(many);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(isCut(ProbeTableModel::NameColumn));
+    EXPECT_FALSE(isCut(ProbeTableModel::ConversionColumn)) << "beside a scroll bar";
 }
 
 TEST_F(ManyProbesWindow, ABarOffersToReloadWhenAnotherProgramHasChangedTheFile) {
