@@ -125,6 +125,11 @@ public:
         return m_text->FindSection(name).has_value();
     }
 
+    [[nodiscard]] bool CanSpell(std::wstring_view name) {
+        Load();
+        return NameToWrite(name, EncodingFor(name)).has_value();
+    }
+
     [[nodiscard]] bool HasPlainHeaders() {
         LoadExisting();
         return m_text->HasPlainHeaders();
@@ -528,7 +533,7 @@ private:
         if (!CopyAscii(name, spelling)) { // as nearly all are
             auto bytes = NameToWrite(name, m_text->Encoding());
             if (!bytes)
-                throw ErrorAbout(name, rule.refusal);
+                throw ErrorAbout(name, NameToFind(name) ? INI_CAUSE_NAME_NOT_IN_LATIN1 : rule.refusal);
             spelling = *std::move(bytes);
         }
         if (!rule.readsBack(spelling))
@@ -623,6 +628,7 @@ bool IniStore::CanNameSection(std::wstring_view name) {
     const auto spelled = NameToFind(name);
     return spelled && QuorIniFile::IsSectionName(*spelled);
 }
+bool IniStore::CanSpell(std::wstring_view name) { return m_session->CanSpell(name); }
 bool IniStore::HasSection(std::wstring_view name) { return m_session->HasSection(name); }
 IniLines IniStore::Lines(const IniLines::Place& from) { return {m_session->PresentText(), from}; }
 bool IniStore::HasPlainHeaders() { return m_session->HasPlainHeaders(); }

@@ -106,6 +106,9 @@ public:
     /// Whether a new section can have that name: it has no line break, no ']', which would end it, and
     /// nothing that could not be read back from a file.
     [[nodiscard]] static bool CanNameSection(std::wstring_view name);
+    /// Whether a new section or key of this file can have that name as far as its encoding goes: a Latin-1
+    /// file has no bytes for the characters beyond U+00FF. In a file that does not exist yet it can have any.
+    [[nodiscard]] bool CanSpell(std::wstring_view name);
     /// Whether there is a section of that name, even one without keys. Raises 53 if there is no file.
     [[nodiscard]] bool HasSection(std::wstring_view name);
     /// The lines of the current text, including what was written, starting at a line that was visited earlier
@@ -125,7 +128,7 @@ public:
     void RemoveSection(std::wstring_view name);
     /// Rewrites the name in the header of a section and in those of later sections of that name, and nothing
     /// else. Raises 75 if there is no section `from`, if another section is called `to`, or if that name
-    /// could not be read back from the file.
+    /// could not be read back from the file or has characters that the encoding of the file lacks.
     void RenameSection(std::wstring_view from, std::wstring_view to);
     /// Discards what was written, removed or renamed and is not in the file yet because it was held or could
     /// not be saved. The file is loaded again when it is next needed.

@@ -196,16 +196,11 @@ std::optional<std::string> NameToFind(std::wstring_view name) {
 }
 
 std::optional<std::string> NameToWrite(std::wstring_view name, IniEncoding encoding) {
-    if (encoding == IniEncoding::Latin1 && std::all_of(name.begin(), name.end(), [](wchar_t c) {
-            return static_cast<std::uint32_t>(c) <= 0xFF;
-        })) {
-        std::string bytes(name.size(), '\0');
-        std::transform(name.begin(), name.end(), bytes.begin(),
-                       [](wchar_t c) { return static_cast<char>(c); });
-        if (DecodeBytes(bytes) == name)
-            return bytes;
-    }
-    return NameToFind(name);
+    if (encoding == IniEncoding::Utf8)
+        return NameToFind(name);
+    std::string bytes(name.size(), '\0');
+    std::transform(name.begin(), name.end(), bytes.begin(), [](wchar_t c) { return static_cast<char>(c); });
+    return DecodeBytes(bytes) == name ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 std::string_view CanonicalName(std::string_view name, std::string& buffer) {

@@ -134,7 +134,7 @@ enum class IniEncoding : std::uint8_t { Utf8, Latin1 };
 [[nodiscard]] std::optional<std::string> NameToFind(std::wstring_view name);
 
 /// The bytes that spell `name` in a file of that encoding, or nothing when none reads back as `name`.
-/// A character that Latin-1 lacks makes the name UTF-8, because a name knows no escapes.
+/// A name knows no escapes, and in UTF-8 it would make a Latin-1 file one of two encodings.
 [[nodiscard]] std::optional<std::string> NameToWrite(std::wstring_view name, IniEncoding encoding);
 
 /// `name` as it stands in a file, as look-ups take it: UTF-8. `buffer` holds the answer when it is not

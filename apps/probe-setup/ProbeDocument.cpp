@@ -275,7 +275,7 @@ NameProblem ProbeDocument::CheckName(std::wstring_view name, std::optional<std::
         if (HoldsSettingsOf(section, name))
             return NameProblem::SettingsSectionExists;
     }
-    return NameProblem::None;
+    return !m_file || m_file->Store()->CanSpell(name) ? NameProblem::None : NameProblem::CannotBeSpelled;
 }
 
 std::wstring ProbeDocument::FreeName(const std::wstring& wish) const {
@@ -284,6 +284,8 @@ std::wstring ProbeDocument::FreeName(const std::wstring& wish) const {
     std::wstring name = stem;
     NameProblem problem = CheckName(name);
     for (int number = 2; problem != NameProblem::None; problem = CheckName(name), ++number) {
+        if (problem == NameProblem::CannotBeSpelled)
+            stem = L"Probe";
         // No number behind the name of a section of settings makes it another one's.
         if (problem == NameProblem::IsSettingsOfProbe)
             stem.resize(Folded(stem).rfind(Folded(std::wstring(settingsMark))));

@@ -25,6 +25,7 @@ enum class NameProblem {
     None,
     Empty,
     CannotBeWritten,       ///< no section of a file can have it
+    CannotBeSpelled,       ///< the file is in Latin-1, which lacks characters of it
     ProbeExists,           ///< names are the same in any case of ASCII letters
     SectionExists,         ///< the host's file has a section of its own with that name
     IsSettingsOfProbe,     ///< another probe keeps its settings in that section

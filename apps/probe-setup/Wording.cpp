@@ -113,6 +113,8 @@ QString Wording::Of(NameProblem problem, const QString& name) {
         return tr("A probe needs a name.");
     case NameProblem::CannotBeWritten:
         return tr("No section of a file can be called \"%1\".").arg(name);
+    case NameProblem::CannotBeSpelled:
+        return tr("The file is in Latin-1, which cannot spell \"%1\".").arg(name);
     case NameProblem::ProbeExists:
         return tr("There is a probe called \"%1\" already.").arg(name);
     case NameProblem::SectionExists:

@@ -622,7 +622,7 @@ void WriteEdited(Probe& probe, ProbeFile& file) {
         throw Problem{told.front(), {std::next(told.begin()), told.end()}};
 }
 
-void RequireName(const std::wstring& file, const std::wstring& name) {
+void RequireName(ProbeFile& file, const std::wstring& name) {
     // The store gives back more names than other programs that read the file.
     const struct {
         bool isBroken;
@@ -636,10 +636,12 @@ void RequireName(const std::wstring& file, const std::wstring& name) {
                            std::iswspace(static_cast<std::wint_t>(name.back())) != 0),
          L"blanks around it would be lost in the file"},
         {!QuorIniFile::IniStore::CanNameSection(name), L"the file could not give it back"},
+        {!file.Store()->CanSpell(name),
+         L"the file is in Latin-1, which cannot spell it; save the file as UTF-8 first"},
     };
     for (const auto& [isBroken, reason] : rules) {
         if (isBroken)
-            throw Problem{Place(file, name) + L": no section can have this name: " + reason};
+            throw Problem{Place(file.Path(), name) + L": no section can have this name: " + reason};
     }
 }
 

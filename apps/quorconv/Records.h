@@ -98,8 +98,8 @@ void WriteEdited(Probe& probe, QuorProbeFile::ProbeFile& file);
 [[nodiscard]] std::wstring SelectKey(QuorIniFile::INIFile& store, const std::wstring& settings,
                                      const std::wstring& path);
 
-/// Raises Problem with the reason when no probe can have that name in a file.
-void RequireName(const std::wstring& file, const std::wstring& name);
+/// Raises Problem with the reason when no new probe can have that name in a file.
+void RequireName(QuorProbeFile::ProbeFile& file, const std::wstring& name);
 
 /// Whether a record of that type may have a key: also an item of a list beyond those of its equation.
 [[nodiscard]] bool MayHaveKey(QuorConversions::EQuorConversionType type, const std::wstring& key);

@@ -21,7 +21,7 @@ using namespace QuorProbeFile;
 const TypeInfo& RequireSettingsType(const std::wstring& text) {
     const TypeInfo& type = RequireType(text);
     if (type.code == QuorConversions::CONV_NONE)
-        throw Problem{L"\"" + text + L"\" is no conversion type; the command \"types\" lists them"};
+        throw UsageError{L"\"" + text + L"\" is no conversion type; the command \"types\" lists them"};
     return type;
 }
 
@@ -30,7 +30,7 @@ void NewProbe(ProbeFile& file, const std::wstring& section, const std::wstring& 
     const TypeInfo& info = RequireSettingsType(type);
     if (file.Find(section))
         throw Problem{Place(file.Path(), section) + L": there is a probe in this section already"};
-    RequireName(file.Path(), section);
+    RequireName(file, section);
     Probe probe(section);
     probe.Conversion().SetConversionType(info.code);
     Assign(probe, file.Path(), assignments, rules);
@@ -43,7 +43,7 @@ void SetValues(ProbeFile& file, const std::wstring& section, const std::vector<A
 }
 
 void RenameProbe(ProbeFile& file, const std::wstring& section, const std::wstring& name) {
-    RequireName(file.Path(), name);
+    RequireName(file, name);
     file.Rename(section, name);
 }
 
@@ -67,7 +67,7 @@ void RetypeProbe(ProbeFile& file, const std::wstring& section, const std::wstrin
 void CopyProbe(ProbeFile& from, const std::wstring& section, ProbeFile& to, const std::wstring& name,
                bool replaces) {
     if (!to.Find(name))
-        RequireName(to.Path(), name);
+        RequireName(to, name);
     else if (!replaces)
         throw Problem{Place(to.Path(), name) +
                       L": there is a probe in this section already; --replace writes over it"};
@@ -365,7 +365,7 @@ private:
             if (words.size() == 2) {
                 removed.push_back(words[1]);
             } else {
-                RequireName(m_file.Path(), words[2]);
+                RequireName(m_file, words[2]);
                 renamed.emplace_back(words[1], words[2]);
             }
         }

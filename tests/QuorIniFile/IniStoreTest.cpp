@@ -189,6 +189,26 @@ TEST_F(IniStoreTest, ANameThatWouldNotReadBackIsRefusedBeforeAnythingIsChanged) 
     EXPECT_EQ(File(), "[B]\nx=1\n") << "1 is True already, and nothing was left pending";
 }
 
+TEST_F(IniStoreTest, ANameThatTheFilesLatin1CannotSpellIsRefusedBeforeAnythingIsChanged) {
+    const std::string text = "[K\xF6ln]\nx=1\n";
+    File(text);
+    const std::wstring refusal = L"Path/File access error: " + folder.Name("a.ini") +
+                                 L": The file is in Latin-1, which cannot spell the name \"";
+    for (const std::wstring name : {L"K\u00F6ln \u2126", L"\u00B5 \u03A9", L"\u00C3\u00BC"}) {
+        EXPECT_FALSE(store.CanSpell(name));
+        const std::wstring told = refusal + name + L"\"; save the file as UTF-8 first";
+        store.SetSection(name);
+        EXPECT_EQ(RaisedBy([&] { store.WriteInteger(L"x", 2, L""); }).Description(), told);
+        EXPECT_EQ(RaisedBy([&] { store.RenameSection(L"K\u00F6ln", name); }).Description(), told);
+        store.SetSection(L"K\u00F6ln");
+        EXPECT_EQ(RaisedBy([&] { store.WriteInteger(name, 2, L""); }).Description(), told);
+        EXPECT_EQ(File(), text);
+    }
+    EXPECT_TRUE(store.CanSpell(L"\u00B5 \u00FC"));
+    store.RenameSection(L"K\u00F6ln", L"\u00B5 \u00FC");
+    EXPECT_EQ(File(), "[\xB5 \xFC]\nx=1\n");
+}
+
 TEST_F(IniStoreTest, AnyOtherNameComesBackInAnySpelling) {
     store.SetSection(L" Range [0..100], \u2126 ");
     store.WriteInteger(L"C\u00F6 [0] ; \"x\"", 3, L"");

@@ -985,6 +985,10 @@ Qt %1, unter der LGPL.</translation>
         <translation>Kein Abschnitt einer Datei kann „%1“ heißen.</translation>
     </message>
     <message>
+        <source>The file is in Latin-1, which cannot spell &quot;%1&quot;.</source>
+        <translation>Die Datei ist in Latin-1 geschrieben, das „%1“ nicht schreiben kann.</translation>
+    </message>
+    <message>
         <source>There is a probe called &quot;%1&quot; already.</source>
         <translation>Es gibt schon einen Fühler namens „%1“.</translation>
     </message>

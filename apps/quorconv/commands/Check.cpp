@@ -44,6 +44,9 @@ const std::pair<EProbeProblem, const wchar_t*> problemIds[] = {
     {PROBLEM_LINE_ENDS_IN_CR, L"line-ends-in-cr"},
 };
 
+/// That of a warning about a file as a whole.
+constexpr const wchar_t* mixedEncodingId = L"mixed-encoding";
+
 std::wstring IdOf(const ProbeProblem& problem) {
     if (const ProbeWarning* const warning = FindWarning(problem.kind))
         return warning->id;
@@ -235,7 +238,30 @@ class Check final : public Command {
         if (const auto zero = text.find('\0'); zero != std::string_view::npos)
             findings.push_back({path, 1 + Count(text.substr(0, zero), '\n'), L"", L"", L"zero-byte",
                                 L"there is a zero byte: this is no text", false});
+        AddMixedEncoding(findings, path, text);
         return findings;
+    }
+
+    /// Tells the first line in UTF-8 of a file that has one in Latin-1, too.
+    static void AddMixedEncoding(std::vector<Finding>& findings, const std::wstring& path,
+                                 std::string_view text) {
+        std::size_t inUtf8 = 0;
+        std::size_t inLatin1 = 0;
+        for (std::size_t number = 1; !text.empty() && (inUtf8 == 0 || inLatin1 == 0); ++number) {
+            const std::string_view line = text.substr(0, text.find('\n'));
+            text.remove_prefix(std::min(line.size() + 1, text.size()));
+            if (std::all_of(line.begin(), line.end(),
+                            [](char c) { return static_cast<unsigned char>(c) < 0x80; }))
+                continue;
+            std::size_t& first = QuorIniFile::FromUtf8(line) ? inUtf8 : inLatin1;
+            first = first == 0 ? number : first;
+        }
+        if (inUtf8 != 0 && inLatin1 != 0)
+            findings.push_back(
+                {path, inUtf8, L"", L"", mixedEncodingId,
+                 L"the line is in UTF-8, and line " + std::to_wstring(inLatin1) +
+                     L" is not: programs that take the file for one of the two misread the other",
+                 true});
     }
 
     static std::size_t Count(std::string_view text, char character) {
@@ -253,9 +279,9 @@ class Check final : public Command {
 
     [[nodiscard]] std::set<std::wstring> Ignored() const {
         for (const std::wstring& id : m_ignoredIds) {
-            if (FindWarning(id))
+            if (FindWarning(id) || id == mixedEncodingId)
                 continue;
-            std::vector<std::wstring> known;
+            std::vector<std::wstring> known{mixedEncodingId};
             for (const ProbeWarning& warning : Warnings())
                 known.push_back(warning.id);
             throw UsageError{L"there is no warning \"" + id + L"\"; each ends with its id in brackets" +

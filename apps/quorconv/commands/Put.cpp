@@ -51,7 +51,7 @@ bool PutProbe(ProbeFile& file, const GivenProbe& given, const ValueRules& rules)
         AssignInFile(file, given.section, given.values, rules);
         return true;
     }
-    RequireName(file.Path(), given.section);
+    RequireName(file, given.section);
     if (given.emptyTexts.empty()) {
         WriteNewProbe(file, given.section, type.code, given.values, rules);
         return false;

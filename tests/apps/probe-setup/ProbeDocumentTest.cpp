@@ -437,6 +437,15 @@ TEST_F(ProbeDocumentTest, TellsWhyAProbeCannotHaveAName) {
     EXPECT_EQ(document.FreeName(L"Lost"), L"Lost (2)");
 }
 
+TEST_F(ProbeDocumentTest, AFileInLatin1GetsNoNameThatLatin1CannotSpell) {
+    Open("; caf\xE9\n[P\xFC]\nConversionType=11\n");
+    ASSERT_EQ(document.Count(), 1U);
+    EXPECT_EQ(document.CheckName(L"P\u00B5"), NameProblem::None);
+    EXPECT_EQ(document.CheckName(L"P\u03A9"), NameProblem::CannotBeSpelled);
+    EXPECT_EQ(document.CheckName(L"P\u00FC", 0), NameProblem::None) << "its own name";
+    EXPECT_EQ(document.FreeName(L"P\u03A9"), L"Probe (2)");
+}
+
 TEST_F(ProbeDocumentTest, EveryStepCanBeTakenBackAndDoneAgain) {
     Open();
     document.Add(L"Probe 3", CONV_VOLTS);

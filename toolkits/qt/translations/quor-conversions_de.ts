@@ -536,6 +536,10 @@
         <translation>Ein anderes Programm hat den Abschnitt „~“ entfernt oder umbenannt, von dem nur ein Teil geschrieben wurde</translation>
     </message>
     <message>
+        <source>The file is in Latin-1, which cannot spell the name &quot;~&quot;; save the file as UTF-8 first</source>
+        <translation>Die Datei ist in Latin-1 geschrieben, das den Namen „~“ nicht schreiben kann; speichern Sie die Datei erst als UTF-8</translation>
+    </message>
+    <message>
         <source>An edit of it has not ended</source>
         <translation>Eine Bearbeitung der Datei ist noch nicht beendet</translation>
     </message>
