@@ -57,7 +57,7 @@ public:
         m_fields.resize(count);
         const bool hasCr = Skip('\r');
         if (!IsAtEnd() && !Is('\n') && hasCr)
-            Fail(L"the line ends in a lone carriage return");
+            Fail(L"the line ends in a lone carriage return; save the table with line ends LF or CR LF");
         if (!IsAtEnd() && !Is('\n'))
             FailQuoted(std::wstring(L"a ") + Name(m_separator) +
                        L" or the end of the line expected after the field in quotes" +
@@ -121,7 +121,7 @@ private:
         }
         auto decoded = QuorIniFile::FromUtf8(bytes);
         if (!decoded)
-            Fail(L"the text is not UTF-8");
+            Fail(L"the text is not UTF-8; save the table as \"CSV UTF-8\"");
         text = *std::move(decoded);
     }
 

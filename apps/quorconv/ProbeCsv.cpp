@@ -126,11 +126,13 @@ void CsvTable::Print(std::ostream& out) const {
     for (const std::wstring& column : columns)
         AppendCsvField(line += separator, ToUtf8(ColumnName(m_type, column)), m_separator);
     out << line << "\r\n";
-    std::vector<std::vector<std::size_t>> places(m_layouts.size()); // the column of each key of a layout
+    std::unordered_map<std::wstring_view, std::size_t> places; // of the columns, by their keys
+    for (const std::wstring& column : columns)
+        places.emplace(column, places.size());
+    std::vector<std::vector<std::size_t>> placesOf(m_layouts.size()); // the column of each key of a layout
     for (std::size_t layout = 0; layout < m_layouts.size(); ++layout)
         for (const std::wstring& path : m_layouts[layout])
-            places[layout].push_back(
-                static_cast<std::size_t>(std::find(columns.begin(), columns.end(), path) - columns.begin()));
+            placesOf[layout].push_back(places.at(path));
     const std::string type = ToUtf8(TypeName(m_type));
     std::size_t at = 0;
     auto length = m_lengths.begin();
@@ -144,7 +146,7 @@ void CsvTable::Print(std::ostream& out) const {
         line = next();
         line.append(1, separator).append(type);
         std::fill(fields.begin(), fields.end(), std::string_view());
-        for (const std::size_t place : places[layout])
+        for (const std::size_t place : placesOf[layout])
             fields[place] = next();
         for (const std::string_view field : fields)
             line.append(1, separator).append(field);
@@ -160,6 +162,12 @@ public:
     Columns(const std::vector<std::wstring>& names, const std::wstring& type, const std::wstring& place)
         : m_place(place) {
         for (std::size_t i = 0; i < names.size(); ++i) {
+            if (names[i].empty() && IsEmptyFrom(names, i)) {
+                m_further = names.size() - i;
+                break;
+            }
+            if (names[i].empty())
+                Fail(1, i, L"the column has no name");
             const auto bracket = names[i].find(L" [");
             Column column{names[i].substr(0, bracket), names[i], nullptr};
             for (const Column& before : m_columns)
@@ -180,10 +188,13 @@ public:
     /// Valid until the next call.
     [[nodiscard]] const GivenProbe& Read(const std::vector<std::wstring>& fields, std::size_t line,
                                          const std::wstring& type, DecimalSign decimal) {
-        if (fields.size() != m_columns.size())
+        if (fields.size() != m_columns.size() + m_further)
             throw Problem{m_place + std::to_wstring(line) + L": the line has " +
                           std::to_wstring(fields.size()) + L" fields, and the first one has " +
-                          std::to_wstring(m_columns.size())};
+                          std::to_wstring(m_columns.size() + m_further)};
+        for (std::size_t i = m_columns.size(); i < fields.size(); ++i)
+            if (!fields[i].empty())
+                Fail(line, i, L"there is a value in a column that has no name");
         if (std::all_of(fields.begin(), fields.end(), [](const std::wstring& f) { return f.empty(); }))
             throw Problem{m_place + std::to_wstring(line) + L": all fields of the line are empty"};
         m_probe.section = fields[m_section];
@@ -191,7 +202,7 @@ public:
         m_probe.empty.clear();
         m_probe.emptyTexts.clear();
         std::size_t given = 0;
-        for (std::size_t i = 0; i < fields.size(); ++i) {
+        for (std::size_t i = 0; i < m_columns.size(); ++i) {
             if (i == m_section || i == m_type)
                 continue;
             const RecordKey* const key = m_columns[i].record;
@@ -221,6 +232,10 @@ public:
     [[nodiscard]] bool AreWrong() const { return m_isWrong; }
 
 private:
+    static bool IsEmptyFrom(const std::vector<std::wstring>& fields, std::size_t first) {
+        return std::all_of(fields.begin() + static_cast<std::ptrdiff_t>(first), fields.end(),
+                           [](const std::wstring& field) { return field.empty(); });
+    }
     void RequireType(const std::wstring& name, std::size_t line, const std::wstring& type) {
         if (m_checked && name == m_probe.type)
             return;
@@ -287,6 +302,7 @@ private:
     std::wstring m_place;
     GivenProbe m_probe; // of the line that was read last
     std::vector<Column> m_columns;
+    std::size_t m_further = 0; // at the end, without a name, as spreadsheets leave them: empty in every line
     std::size_t m_section = none;
     std::size_t m_type = none;
     std::optional<EQuorConversionType> m_checked;

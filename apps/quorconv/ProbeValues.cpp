@@ -155,15 +155,27 @@ const ProbeValues& ProbeTable::Read(const std::wstring& section) const {
     return m_reader.Read(m_file, section);
 }
 
+namespace {
+
+/// The value of a key that most records of the type have at the same place: there may be 32767 of them.
+const Value* FindNear(const ProbeValues& probe, std::size_t at, const std::wstring& path) {
+    const bool isThere = at < probe.entries.size() && probe.entries[at].path == path;
+    return isThere ? &probe.entries[at].value : probe.Find(path);
+}
+
+} // namespace
+
 std::vector<ValueChange> ChangesOf(const ProbeValues& before, const ProbeValues& after) {
     std::vector<ValueChange> changes;
-    for (const RecordImage::Entry& entry : before.entries) {
-        const Value* const now = after.Find(entry.path);
+    for (std::size_t at = 0; at < before.entries.size(); ++at) {
+        const RecordImage::Entry& entry = before.entries[at];
+        const Value* const now = FindNear(after, at, entry.path);
         if (!now || !SameValue(entry.value, *now))
             changes.push_back({entry.path, &entry.value, now});
     }
-    for (const RecordImage::Entry& entry : after.entries) {
-        if (!before.Find(entry.path))
+    for (std::size_t at = 0; at < after.entries.size(); ++at) {
+        const RecordImage::Entry& entry = after.entries[at];
+        if (!FindNear(before, at, entry.path))
             changes.push_back({entry.path, nullptr, &entry.value});
     }
     return changes;

@@ -241,12 +241,23 @@ public:
             m_image = AsReadAgain(); // some values are read as 0 from "-0": 0 is what is written of them
     }
 
-    /// Raises Problem for a value that was not given.
+    /// Raises Problem with the values that were not given.
     void RequireAll() const {
-        for (std::size_t at = 0; at < Result().size(); ++at)
-            if (!m_isAssigned[at])
-                throw Problem{m_place + Result()[at].path +
-                              L": the value is missing, and the probe is a new one"};
+        constexpr std::size_t mostNamed = 20;
+        std::wstring missing;
+        std::size_t count = 0;
+        for (std::size_t at = 0; at < Result().size(); ++at) {
+            if (m_isAssigned[at])
+                continue;
+            if (++count <= mostNamed)
+                missing += (missing.empty() ? L"" : L", ") + Result()[at].path;
+        }
+        if (count > mostNamed)
+            missing += L" and " + std::to_wstring(count - mostNamed) + L" more";
+        if (count > 0)
+            throw Problem{m_place + missing +
+                          (count == 1 ? L": the value is missing" : L": the values are missing") +
+                          L", and the probe is a new one"};
     }
 
     /// Raises Problem for a value that the record has gained and that was not given.
@@ -370,6 +381,16 @@ private:
         return L" is not accepted" + (key && !key->range.empty() ? L"; range: " + key->range : L"");
     }
 
+    /// The count that leaves out a value, if there is one: "; it is beyond NumCoefficients=3".
+    [[nodiscard]] std::wstring Beyond(const std::wstring& path) const {
+        const auto slash = path.find(L'/');
+        const std::wstring nested = slash == std::wstring::npos ? L"" : path.substr(0, slash + 1);
+        const auto count = std::find_if(Result().begin(), Result().end(), [&](const auto& entry) {
+            return entry.path.starts_with(nested + L"Num");
+        });
+        return count == Result().end() ? L"" : L"; it is beyond " + count->path + L"=" + ToText(count->value);
+    }
+
     /// Raises Problem for a value that the settings have not taken. Of what was given several times the last
     /// one counts.
     void RequireTaken() {
@@ -384,7 +405,8 @@ private:
                               NotInRange(std::holds_alternative<std::int16_t>(entry.value)
                                              ? FindRecordKey(m_probe.Conversion().ConversionType(),
                                                              entry.path, RecordForm::Any)
-                                             : nullptr)};
+                                             : nullptr) +
+                              (stored ? L"" : Beyond(entry.path))};
             m_isAssigned[PlaceOf(stored)] = true;
         }
     }
@@ -631,6 +653,8 @@ void RequireName(ProbeFile& file, const std::wstring& name) {
         {name.empty(), L"a name needs a character"},
         {name.find(L']') != std::wstring::npos, L"a \"]\" ends the name in the file"},
         {name.find_first_of(L"\r\n") != std::wstring::npos, L"it has a line break"},
+        {std::any_of(name.begin(), name.end(), [](wchar_t c) { return c < L' ' || c == L'\x7F'; }),
+         L"it has a tab or another control character, which no list of names can show as it is"},
         {name.starts_with(L'#') || name.starts_with(L';'), L"what begins so is a comment to other programs"},
         {!name.empty() && (std::iswspace(static_cast<std::wint_t>(name.front())) != 0 ||
                            std::iswspace(static_cast<std::wint_t>(name.back())) != 0),

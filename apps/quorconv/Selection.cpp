@@ -50,8 +50,8 @@ const TypeInfo& RequireType(const std::wstring& text) {
         known.push_back(info.enumerator);
         known.push_back(info.extension);
     }
-    throw Problem{L"\"" + text + L"\" is no conversion type; the command \"types\" lists them" +
-                  DidYouMean(text, known)};
+    throw UsageError{L"\"" + text + L"\" is no conversion type; the command \"types\" lists them" +
+                     DidYouMean(text, known)};
 }
 
 void Selection::DeclareType(Arguments& arguments) {
@@ -126,7 +126,8 @@ std::vector<std::wstring> Selection::In(ProbeFile& file) const {
 }
 
 void TellCount(std::size_t number, const wchar_t* what, const char* done) {
-    std::cout.flush();
+    if (!std::cout.flush())
+        return; // the failure is told at the end of the program
     std::cerr << "quorconv: " << number << ' ' << QuorIniFile::ToUtf8(what) << (number == 1 ? " " : "s ")
               << done << '\n';
 }

@@ -34,7 +34,7 @@ public:
     [[nodiscard]] std::vector<std::wstring> In(QuorProbeFile::ProbeFile& file) const;
 };
 
-/// Tells on the standard error how much was done: "12 probes set".
+/// Tells on the standard error how much was done: "12 probes set"; not when the results cannot be written.
 void TellCount(std::size_t number, const wchar_t* what, const char* done);
 
 /// `section` as the file spells it. To be asked for one probe: it is looked up from the start of the file.

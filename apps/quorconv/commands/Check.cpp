@@ -68,7 +68,7 @@ struct Finding {
 
 /// "[section] key: text"
 std::wstring Told(const Finding& finding) {
-    if (finding.line == 0 || finding.section.empty())
+    if (finding.section.empty())
         return finding.text;
     return L"[" + finding.section + L"] " + (finding.key.empty() ? L"" : finding.key + L": ") + finding.text;
 }
@@ -192,18 +192,15 @@ class Check final : public Command {
             std::find_if(std::begin(formats), std::end(formats),
                          [&](const auto& known) { return m_format == QuorIniFile::DecodeBytes(known.name); });
         const auto report = format->make();
+        if (m_selection.type)
+            static_cast<void>(RequireType(*m_selection.type));
         bool isFine = true;
         for (const std::wstring& path : m_paths) {
-            try {
-                for (const Finding& finding : Findings(path)) {
-                    if (finding.isWarning && ignored.contains(finding.id))
-                        continue;
-                    isFine = isFine && finding.isWarning && !m_isStrict;
-                    report->Print(finding);
-                }
-            } catch (const QuorIniFile::QuorError& error) {
-                report->Print({path, 0, {}, {}, L"file-unreadable", error.Description(), false});
-                isFine = false;
+            for (const Finding& finding : FindingsOrWhyNone(path)) {
+                if (finding.isWarning && ignored.contains(finding.id))
+                    continue;
+                isFine = isFine && finding.isWarning && !m_isStrict;
+                report->Print(finding);
             }
         }
         report->Finish();
@@ -214,20 +211,64 @@ class Check final : public Command {
 
     [[nodiscard]] bool IsSelecting() const { return m_selection.type || !m_selection.patterns.empty(); }
 
+    /// Those of a file, or what keeps it from being checked: the others are checked, and the report has an
+    /// end.
+    [[nodiscard]] std::vector<Finding> FindingsOrWhyNone(const std::wstring& path) {
+        try {
+            return Findings(path);
+        } catch (const QuorIniFile::QuorError& error) {
+            return {{path, 0, L"", L"", L"file-unreadable", WithoutFile(error.Description(), path)}};
+        } catch (const Problem& problem) {
+            return {{path, 0, L"", L"", L"file-unreadable", WithoutFile(problem.text, path)}};
+        }
+    }
+
+    /// A failure without the file, which each finding names already: "path: what", "what: path: why" or
+    /// "what: path".
+    static std::wstring WithoutFile(std::wstring text, const std::wstring& path) {
+        if (text.starts_with(path + L": "))
+            return text.substr(path.size() + 2);
+        const auto at = text.find(L": " + path);
+        const auto end = at + 2 + path.size();
+        if (at != std::wstring::npos && (end == text.size() || text[end] == L':'))
+            text.erase(at, end - at);
+        return text;
+    }
+
+    /// The sections that are to be checked, folded; what names no probe goes into `findings`.
+    [[nodiscard]] std::unordered_set<std::wstring> Chosen(HostFile& file, const std::wstring& path,
+                                                          std::vector<Finding>& findings) const {
+        std::unordered_set<std::wstring> chosen;
+        const auto choose = [&](const Selection& selection) {
+            for (const std::wstring& section : selection.In(*file)) {
+                if (file->Find(section))
+                    chosen.insert(Folded(section));
+                else
+                    findings.push_back({path, 0, section, L"", L"probe-missing",
+                                        file->Store()->HasSection(section)
+                                            ? L"the section is not the record of a probe"
+                                            : L"there is no such section"});
+            }
+        };
+        if (m_selection.patterns.empty())
+            choose(m_selection);
+        for (const std::wstring& pattern : m_selection.patterns) {
+            try {
+                choose({{pattern}, m_selection.type});
+            } catch (const Problem& problem) { // no probe is like it
+                findings.push_back({path, 0, L"", L"", L"probe-missing", WithoutFile(problem.text, path)});
+            }
+        }
+        return chosen;
+    }
+
     [[nodiscard]] std::vector<Finding> Findings(const std::wstring& path) {
         HostFile file(path);
-        std::unordered_set<std::wstring> chosen;
-        if (IsSelecting()) {
-            for (const std::wstring& section : m_selection.In(*file)) {
-                if (!file->Find(section))
-                    throw Problem{Place(path, section) + (file->Store()->HasSection(section)
-                                                              ? L": the section is not the record of a probe"
-                                                              : L": there is no such section")};
-                chosen.insert(Folded(section));
-            }
-            m_count += chosen.size();
-        }
         std::vector<Finding> findings;
+        std::unordered_set<std::wstring> chosen;
+        if (IsSelecting())
+            chosen = Chosen(file, path, findings);
+        m_count += chosen.size();
         Progress progress(L"probes of " + path, file->Probes().size());
         for (const ProbeProblem& problem : file->Check([&progress] { progress.Step(); })) {
             if (!IsSelecting() || IsOf(problem.section, chosen))

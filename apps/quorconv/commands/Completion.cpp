@@ -226,9 +226,10 @@ class Completion final : public Command {
 
 } // namespace
 
-const CommandRow completionRow{"completion",
-                               "Print the completion script of a shell, for commands, sections and keys",
-                               {"quorconv completion bash >quorconv.bash"},
-                               Create<Completion>};
+const CommandRow completionRow{
+    "completion",
+    "Print the completion script of a shell, for commands, sections and keys",
+    {"source <(quorconv completion bash)", "quorconv completion bash >quorconv.bash"},
+    Create<Completion>};
 
 } // namespace quorconv

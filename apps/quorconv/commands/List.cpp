@@ -61,6 +61,10 @@ class List final : public Command {
 } // namespace
 
 const CommandRow listRow{
-    "list", "List the probes of a file: section, type, name", {"quorconv list laboratory.ini"}, Create<List>};
+    "list",
+    "List the probes of a file: section, type, name, with tabs between them; a tab in a name is\n"
+    "printed as \\t, and --json prints every name so that it can be read back",
+    {"quorconv list laboratory.ini", "quorconv list laboratory.ini --json"},
+    Create<List>};
 
 } // namespace quorconv

@@ -182,7 +182,8 @@ class Put final : public Command {
 } // namespace
 
 const CommandRow putRow{"put",
-                        "Write probes that another program has produced: all of them, or none",
+                        "Write probes that another program has produced: all of them, or none; a new probe\n"
+                        "needs every value, a probe that is there keeps those that are not given",
                         {"quorconv show laboratory.ini --json | quorconv put copy.ini --json",
                          "quorconv put laboratory.ini certificates.csv --csv --decimal comma --dry-run"},
                         Create<Put>};

@@ -61,7 +61,8 @@ class Show final : public Command {
             std::cout << "\n]\n";
         else if (isArray && isFine)
             std::cout << "[]\n";
-        if (m_selection.IsMany() && (m_selection.type || !m_selection.patterns.empty()))
+        const bool isSelected = m_selection.type || !m_selection.patterns.empty();
+        if (m_selection.IsMany() && isSelected && (isFine || count > 0))
             TellCount(count, L"probe", "shown");
         return isFine ? fine : problemFound;
     }

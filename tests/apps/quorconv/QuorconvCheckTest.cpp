@@ -172,11 +172,10 @@ TEST_F(QuorconvTest, ChecksEveryFileAndGoesOnAfterABadOne) {
     folder.Write("d.w90", "[W(T90)]\nRTPW=25\n");
     const Outcome run = Quorconv({"check", "a.w90", "b.w90", "c.w90", "missing.w90", "d.w90"});
     EXPECT_EQ(run.code, 1);
-    EXPECT_EQ(run.out,
-              "a.w90:2: [W(T90)] RTPW: \"x\" is not a number\n"
-              "b.w90:1: [W(T90)] the section is missing\n"
-              "c.w90: Path/File access error: c.w90: The file is UTF-16 text with an odd number of bytes\n"
-              "missing.w90: File not found: missing.w90\n");
+    EXPECT_EQ(run.out, "a.w90:2: [W(T90)] RTPW: \"x\" is not a number\n"
+                       "b.w90:1: [W(T90)] the section is missing\n"
+                       "c.w90: Path/File access error: The file is UTF-16 text with an odd number of bytes\n"
+                       "missing.w90: File not found\n");
 }
 
 namespace {

@@ -485,12 +485,16 @@ TEST_F(QuorconvExchangeTest, RefusesATableThatIsWrongWithLineAndColumn) {
                        "quotes, which ends in line 4",
                        cvd);
     ExpectRefusedTable("section,Coefficients0\r\"Bath\",1\r",
-                       "in.csv:1: the line ends in a lone carriage return", cvd);
+                       "in.csv:1: the line ends in a lone carriage return; save the table with line ends "
+                       "LF or CR LF",
+                       cvd);
     ExpectRefusedTable("section,Coefficients0\nBath,1\nbath,2\n",
                        "in.csv:3: [bath]: the section occurs twice", cvd);
     ExpectRefusedTable(
         "section,Coefficients0\nNew,1\n",
-        "in.csv:2: host.ini: [New] NumCoefficients: the value is missing, and the probe is a new one", cvd);
+        "in.csv:2: host.ini: [New] NumCoefficients, UsePolynomial, Coefficients1, Coefficients2, "
+        "Coefficients3: the values are missing, and the probe is a new one",
+        cvd);
     ExpectRefusedTable("section,type\nBath,w90\n",
                        "in.csv:2: column 2 (type): \"w90\" is not the type of --type CONV_CVD",
                        {"--type", "CONV_CVD"});
@@ -499,8 +503,31 @@ TEST_F(QuorconvExchangeTest, RefusesATableThatIsWrongWithLineAndColumn) {
                        {"--type", "cvd", "--decimal", "comma"});
     ExpectRefusedTable("section,NumCoefficients,Coefficients4\nBath,5,x\n",
                        "in.csv:2: column 3 (Coefficients4): \"x\" is not a number", cvd);
+    ExpectRefusedTable(
+        "section,Coefficients0\rBath,1\r",
+        "in.csv:1: the line ends in a carriage return alone; save the table with line ends LF or "
+        "CR LF",
+        cvd);
+    ExpectRefusedTable("section,Coefficients0\nB\xE4th,1\n",
+                       "in.csv:2: the text is not UTF-8; save the table as \"CSV UTF-8\"", cvd);
+    ExpectRefusedTable(
+        "section,NumCoefficients,Coefficients0,Coefficients1,Coefficients2,Coefficients3\n"
+        "Bath,3,100,0.0039,1.5,-4.183e-12\n",
+        "in.csv:2: host.ini: [Bath] Coefficients3: the value -4.183e-12 is not accepted; it is "
+        "beyond NumCoefficients=3",
+        cvd);
+    ExpectRefusedTable("section,,Coefficients0\nBath,,1\n", "in.csv:1: column 2: the column has no name",
+                       cvd);
+    ExpectRefusedTable("section,Coefficients0,,\nBath,1,,7\n",
+                       "in.csv:2: column 4: there is a value in a column that has no name", cvd);
     ExpectRefusedTable("section,type\nBath,CONV_X\n",
                        "in.csv:2: column 2 (type): \"CONV_X\" is no conversion type");
+}
+
+TEST_F(QuorconvExchangeTest, LeavesOutColumnsAtTheEndThatAreEmptyInEveryLine) {
+    folder.Write("in.csv", "section,type,RTPW,,\nNew,w90,25.5,,\n");
+    ExpectShell("quorconv put new.ini in.csv --csv", "", "quorconv: 1 probe put\n");
+    ExpectFine({"get", "new.ini", "New", "RTPW"}, "25.5\n");
 }
 
 TEST_F(QuorconvExchangeTest, RefusesOptionsThatSayNothingOfTheFormat) {
@@ -513,7 +540,7 @@ TEST_F(QuorconvExchangeTest, RefusesOptionsThatSayNothingOfTheFormat) {
                   "quorconv: --type is for --csv; each probe in JSON has its own\n", 2);
     folder.Write("in.csv", "section,type\nBath,cvd\n");
     ExpectRefused({"put", "host.ini", "in.csv", "--csv", "--type", "zzz"},
-                  "quorconv: \"zzz\" is no conversion type; the command \"types\" lists them\n");
+                  "quorconv: \"zzz\" is no conversion type; the command \"types\" lists them\n", 2);
 }
 
 TEST_F(QuorconvExchangeTest, KeepsEveryTextOfATable) {

@@ -269,9 +269,10 @@ TEST_F(QuorconvLossTest, EachWrongLineOfATableAndEachWrongStepIsTold) {
 TEST_F(QuorconvLossTest, AnEmptyStandardInputIsNoSuccess) {
     ExpectFine({"new", "a.ini", "A", "w90", "RTPW=1"});
     for (const std::string command :
-         {"check -", "list -", "export - --jsonl", "apply a.ini", "set a.ini --from -", "put a.ini --json"})
+         {"list -", "export - --jsonl", "apply a.ini", "set a.ini --from -", "put a.ini --json"})
         ExpectShell("quorconv " + command + " </dev/null", "",
                     "quorconv: -: there is nothing in the standard input\n", 1);
+    ExpectShell("quorconv check - </dev/null", "-: there is nothing in the standard input\n", "", 1);
     ExpectShell("quorconv new - A w90 RTPW=1 </dev/null", folder.Read("a.ini"));
 }
 

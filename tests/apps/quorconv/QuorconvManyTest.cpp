@@ -80,7 +80,8 @@ TEST_F(QuorconvManyTest, TellsTheNearestCommandTypeAndKey) {
     ExpectUnchanged();
     ExpectRefused({"explain", "cdv"},
                   "quorconv: \"cdv\" is no conversion type; the command \"types\" lists them; did you mean "
-                  "\"cvd\"?\n");
+                  "\"cvd\"?\n",
+                  2);
     ExpectRefused(
         {"set", "host.ini", "Oven", "Coeficients0=1"},
         "quorconv: host.ini: [Oven] Coeficients0: there is no such key in a record of this type; did "
@@ -433,7 +434,7 @@ TEST_F(QuorconvManyTest, ChecksForPeopleEditorsBuildServersAndPrograms) {
         "\"id\": \"rtpw-not-positive\", \"severity\": \"warning\", \"text\": \"RTPW is -1; limit: above "
         "0\"},\n"
         "  {\"file\": \"none.ini\", \"line\": 0, \"section\": \"\", \"key\": \"\", \"id\": "
-        "\"file-unreadable\", \"severity\": \"error\", \"text\": \"File not found: none.ini\"}\n]\n");
+        "\"file-unreadable\", \"severity\": \"error\", \"text\": \"File not found\"}\n]\n");
     EXPECT_EQ(Quorconv({"check", "--format", "gcc", "a,b.ini"}).out,
               "a,b.ini:11:1: error: [Bath A - Settings] RTPW: \"x\" is not a number [value-unreadable]\n"
               "a,b.ini:19:1: warning: [Bath B - Settings] RTPW: RTPW is -1; limit: above 0 "
@@ -458,8 +459,58 @@ TEST_F(QuorconvManyTest, ChecksTheProbesOfATypeAlone) {
 }
 
 TEST_F(QuorconvManyTest, ASectionToCheckThatIsNotThereIsNoSuccess) {
-    ExpectRefused({"check", "--section", "Oven 9", "host.ini"},
-                  "quorconv: host.ini: [Oven 9]: there is no such section\n");
+    ExpectShell("quorconv check --section 'Oven 9' host.ini", "host.ini: [Oven 9] there is no such section\n",
+                "quorconv: 0 probes checked\n", 1);
+    ExpectShell("quorconv check --section 'Oven*9' --section Oven --format gcc host.ini",
+                "host.ini:1:1: error: no probe is like \"Oven*9\" [probe-missing]\n",
+                "quorconv: 1 probe checked\n", 1);
+}
+
+TEST_F(QuorconvManyTest, EachFileIsCheckedAndTheReportHasItsEndWhenOneHasNoSuchProbe) {
+    folder.Write("none.ini", "[Instrument]\n");
+    folder.Write("bad.ini", Replaced(before, "RTPW=25.5 ; ohms", "RTPW=x"));
+    ExpectShell(
+        "quorconv check --json host.ini none.ini bad.ini --section 'Bath A' --section Instrument",
+        "[\n  {\"file\": \"host.ini\", \"line\": 0, \"section\": \"Instrument\", \"key\": \"\", "
+        "\"id\": \"probe-missing\", \"severity\": \"error\", \"text\": \"the section is not the "
+        "record of a probe\"},\n"
+        "  {\"file\": \"none.ini\", \"line\": 0, \"section\": \"Bath A\", \"key\": \"\", \"id\": "
+        "\"probe-missing\", \"severity\": \"error\", \"text\": \"there is no such section\"},\n"
+        "  {\"file\": \"none.ini\", \"line\": 0, \"section\": \"Instrument\", \"key\": \"\", \"id\": "
+        "\"probe-missing\", \"severity\": \"error\", \"text\": \"the section is not the record of a "
+        "probe\"},\n"
+        "  {\"file\": \"bad.ini\", \"line\": 0, \"section\": \"Instrument\", \"key\": \"\", \"id\": "
+        "\"probe-missing\", \"severity\": \"error\", \"text\": \"the section is not the record of a "
+        "probe\"},\n"
+        "  {\"file\": \"bad.ini\", \"line\": 11, \"section\": \"Bath A - Settings\", \"key\": "
+        "\"RTPW\", \"id\": \"value-unreadable\", \"severity\": \"error\", \"text\": \"\\\"x\\\" is not "
+        "a number\"}\n]\n",
+        "quorconv: 2 probes checked\n", 1);
+}
+
+TEST_F(QuorconvManyTest, AMistypedTypeOnTheCommandLineIsWrongUsageOfEveryCommand) {
+    folder.Write("in.csv", "section,RTPW\nP,1\n");
+    const std::string told = "quorconv: \"w9\" is no conversion type; the command \"types\" lists them; did "
+                             "you mean \"w90\"?\n";
+    for (const std::vector<std::string>& arguments :
+         std::vector<std::vector<std::string>>{{"show", "host.ini", "--type", "w9"},
+                                               {"check", "none.ini", "host.ini", "--type", "w9", "--json"},
+                                               {"export", "host.ini", "--csv", "--type", "w9"},
+                                               {"set", "host.ini", "*", "RTPW=1", "--type", "w9"},
+                                               {"new", "host.ini", "P", "w9"},
+                                               {"retype", "host.ini", "Oven", "w9"},
+                                               {"put", "host.ini", "in.csv", "--csv", "--type", "w9"},
+                                               {"explain", "w9"}})
+        ExpectRefused(arguments, told, 2);
+    ExpectUnchanged();
+}
+
+TEST_F(QuorconvManyTest, TellsNoCountOfProbesBesideAnErrorOrWhenNothingWasPrinted) {
+    ExpectRefused({"show", "host.ini", "x*"}, "quorconv: host.ini: no probe is like \"x*\"\n");
+    const std::string told = "quorconv: the results cannot be written\n";
+    ExpectShell("quorconv export host.ini --jsonl >/dev/full", "", told, 1);
+    ExpectShell("quorconv show host.ini '*' >/dev/full", "", told, 1);
+    ExpectShell("quorconv set - '*' --type w90 RTPW=1 <host.ini >/dev/full", "", told, 1);
 }
 
 TEST_F(QuorconvManyTest, ColoursATerminalAloneAndOnlyWhereColoursAreWanted) {
@@ -512,8 +563,8 @@ TEST_F(QuorconvManyTest, ExplainsWhatARecordHoldsAndEachKey) {
     ExpectFine({"explain", "CONV_OHMS"}, "CONV_OHMS (10): Ohms\nA record of this type has no settings.\n");
     ExpectRefused({"explain", "cvd", "GAMMA"}, "quorconv: CONV_CVD: there is no key \"GAMMA\"\n");
     ExpectRefused({"explain", "cvd", ""}, "quorconv: CONV_CVD: there is no key \"\"\n");
-    ExpectRefused({"explain", ""},
-                  "quorconv: \"\" is no conversion type; the command \"types\" lists them\n");
+    ExpectRefused({"explain", ""}, "quorconv: \"\" is no conversion type; the command \"types\" lists them\n",
+                  2);
 }
 
 TEST_F(QuorconvManyTest, AProbeWhoseTypeCannotBeReadIsNotPassedOverByAType) {

@@ -45,3 +45,17 @@ TEST_F(QuorconvNamesTest, InAnotherEncodingThanTheRestOfTheFileAreToldByACheck) 
     folder.Write("l1.ini", latin1);
     ExpectFine({"check", "l1.ini"});
 }
+
+TEST_F(QuorconvNamesTest, WithControlCharactersAreNotGivenToNewProbesAndAreReadWhereTheyStand) {
+    const std::string tabbed = "[a\tb]\nConversionType=14\n[a\tb - Settings]\nRTPW=25\n";
+    folder.Write("host.ini", tabbed);
+    for (const std::string name : {"c\td", "c\x1B", "c\x7F"})
+        EXPECT_EQ(Quorconv({"rename", "host.ini", "a\tb", name}).code, 1);
+    ExpectRefused({"new", "host.ini", "c\td", "w90", "RTPW=25"},
+                  "quorconv: host.ini: [c\\td]: no section can have this name: it has a tab or another "
+                  "control character, which no list of names can show as it is\n");
+    EXPECT_EQ(folder.Read("host.ini"), tabbed);
+    ExpectFine({"get", "host.ini", "a\tb", "RTPW"}, "25\n");
+    ExpectFine({"rename", "host.ini", "a\tb", "a\\tb"});
+    ExpectFine({"list", "host.ini"}, "a\\tb\tCONV_WT90\tW(T90)\n");
+}

@@ -138,7 +138,7 @@ TEST_F(QuorconvPrintTest, RefusesToCopyAndToAddInOneLine) {
     ExpectPlainOutput({"new", file, hostile, "cvd"}, 1, "",
                       "quorconv: " + fileAsPrinted + ": [" + printed +
                           "]: there is a probe in this section already\n");
-    ExpectPlainOutput({"new", file, "P", hostile}, 1, "",
+    ExpectPlainOutput({"new", file, "P", hostile}, 2, "",
                       "quorconv: \"" + printed +
                           "\" is no conversion type; the command \"types\" lists them\n");
     ExpectPlainOutput({"new", "none/" + file, "P", "cvd"}, 1, "",
@@ -154,7 +154,7 @@ TEST_F(QuorconvPrintTest, ChecksWithALineAProblem) {
                           ":15" + section + printed +
                           ": the key occurs twice; the one in line 14 is read\n"
                           "gone\\n" +
-                          printed + ": File not found: gone\\n" + printed + "\n");
+                          printed + ": File not found\n");
     folder.Write(file, Replaced(Record(), "=0.25", "=" + hostile));
     ExpectPlainOutput({"check", file}, 1,
                       fileAsPrinted + ":11" + section + "Offsets0: \"" + printed + "\" is not a number\n");

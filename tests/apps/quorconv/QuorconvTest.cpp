@@ -186,7 +186,7 @@ TEST_F(QuorconvTest, RefusesANewProbeWhereSomethingStands) {
     ExpectRefused({"new", "host.ini", "Instrument", "cvd"},
                   "quorconv: host.ini: [Instrument]: the section exists and is not the record of a probe\n");
     ExpectRefused({"new", "other.ini", "Probe 1", "CONV_XYZ"},
-                  "quorconv: \"CONV_XYZ\" is no conversion type; the command \"types\" lists them\n");
+                  "quorconv: \"CONV_XYZ\" is no conversion type; the command \"types\" lists them\n", 2);
     ExpectRefused({"new", "other.ini", "Probe 1", "CONV_OHMS", "R0=1"},
                   "quorconv: other.ini: [Probe 1] R0: CONV_OHMS has no settings\n");
     ExpectRefused({"new", "none/other.ini", "Probe 1", "cvd"}, "quorconv: Path not found: none/other.ini\n");
