@@ -340,7 +340,7 @@ const CommandRow checkRow{
     "check",
     "Check every probe of the files; each problem is a line FILE:LINE: [SECTION] KEY: ...,\n"
     "each implausible value FILE:LINE: warning: ... [ID]",
-    {"quorconv check laboratory.ini *.cvd", "quorconv check laboratory.ini --type cvd --json"},
+    {"quorconv check --strict *.ini", "quorconv check laboratory.ini --type cvd --json"},
     Create<Check>};
 
 } // namespace quorconv

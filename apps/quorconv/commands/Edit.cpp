@@ -112,7 +112,9 @@ class Edit final : public Command {
 
 const CommandRow editRow{"edit",
                          "Edit a probe in its dialog, on the screen or by a script",
-                         {"quorconv edit laboratory.ini \"Probe 9 PRT-1182\" --script steps.txt"},
+                         {"quorconv edit laboratory.ini \"Probe 9 PRT-1182\" --show",
+                          "printf 'type R0 100.0123\\nclick OK\\n' | quorconv edit laboratory.ini \"Probe 9 "
+                          "PRT-1182\" --script -"},
                          Create<Edit>};
 
 } // namespace quorconv

@@ -24,7 +24,8 @@ class New final : public Command {
         arguments.One("TYPE", m_type, Meaning::Type,
                       "A code (2), an enumerator (CONV_CVD) or a file extension (cvd)");
         arguments.Rest("KEY=VALUE", m_values, 0, Meaning::Assignment,
-                       "Values, by the keys that \"show\" prints");
+                       "Values, by the keys that \"explain TYPE\" lists; the others get the\n"
+                       "defaults that it tells, mostly 0");
         m_rules.Declare(arguments);
         DeclareDryRun(arguments, m_isDryRun);
     }
@@ -43,10 +44,9 @@ class New final : public Command {
 
 } // namespace
 
-const CommandRow newRow{
-    "new",
-    "Add a probe to a file, which is created if it does not exist",
-    {"quorconv new laboratory.ini \"Probe 37\" cvd Coefficients0=100.012 UsePolynomial=True"},
-    Create<New>};
+const CommandRow newRow{"new",
+                        "Add a probe to a file, which is created if it does not exist",
+                        {"quorconv new laboratory.ini \"Probe 37\" pt1 Coefficients0=100.0123"},
+                        Create<New>};
 
 } // namespace quorconv

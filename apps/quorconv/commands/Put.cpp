@@ -185,7 +185,7 @@ const CommandRow putRow{"put",
                         "Write probes that another program has produced: all of them, or none; a new probe\n"
                         "needs every value, a probe that is there keeps those that are not given",
                         {"quorconv show laboratory.ini --json | quorconv put copy.ini --json",
-                         "quorconv put laboratory.ini certificates.csv --csv --decimal comma --dry-run"},
+                         "quorconv put laboratory.ini certificates.csv --csv --dry-run"},
                         Create<Put>};
 
 } // namespace quorconv

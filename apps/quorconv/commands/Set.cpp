@@ -72,7 +72,7 @@ const CommandRow setRow{
     "set",
     "Change values of a probe, or of all probes that match a pattern",
     {"quorconv set laboratory.ini \"Probe 1 CSP-0417\" \"Low Range/Coefficients0\"=-2.1E-4",
-     "quorconv set laboratory.ini \"Probe 1* PRT-*\" --type cvd NumCoefficients=4 --dry-run"},
+     "quorconv set laboratory.ini \"*\" --type pt1 Coefficients0=100 --dry-run"},
     Create<Set>};
 
 } // namespace quorconv
