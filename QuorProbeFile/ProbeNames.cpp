@@ -11,18 +11,26 @@ std::wstring SettingsSection(std::wstring_view probe) {
     return section.append(probe).append(settingsMark);
 }
 
+namespace {
+
+/// Whether the name of a section goes on so behind that of a probe.
+bool IsSettings(std::wstring_view rest) {
+    return EqualFolded(rest.substr(0, settingsMark.size()), settingsMark) &&
+           (rest.size() == settingsMark.size() || rest.substr(settingsMark.size()).starts_with(nestedMark));
+}
+
+} // namespace
+
 bool HoldsSettingsOf(std::wstring_view section, std::wstring_view probe) {
-    const std::size_t length = probe.size() + settingsMark.size();
-    return section.size() >= length && EqualFolded(section.substr(0, probe.size()), probe) &&
-           EqualFolded(section.substr(probe.size(), settingsMark.size()), settingsMark) &&
-           (section.size() == length || section.substr(length).starts_with(nestedMark));
+    return section.size() > probe.size() && EqualFolded(section.substr(0, probe.size()), probe) &&
+           IsSettings(section.substr(probe.size()));
 }
 
 std::vector<std::wstring_view> PossibleOwners(std::wstring_view section) {
     std::vector<std::wstring_view> owners;
     for (std::size_t at = section.find(nestedMark); at != std::wstring_view::npos;
          at = section.find(nestedMark, at + 1)) {
-        if (HoldsSettingsOf(section, section.substr(0, at)))
+        if (IsSettings(section.substr(at)))
             owners.push_back(section.substr(0, at));
     }
     return owners;

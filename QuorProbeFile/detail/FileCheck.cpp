@@ -143,9 +143,14 @@ public:
     /// they hold measured values.
     void CheckOwners(const std::vector<ProbeEntry>& probes) {
         NameSet owners;
-        for (const ProbeEntry& probe : probes)
+        std::size_t longest = 0; // a name of many pieces is not looked up piece by piece
+        for (const ProbeEntry& probe : probes) {
             owners.insert(probe.section);
-        const auto isThere = [&owners](std::wstring_view owner) { return owners.contains(owner); };
+            longest = std::max(longest, probe.section.size());
+        }
+        const auto isThere = [&](std::wstring_view owner) {
+            return owner.size() <= longest && owners.contains(owner);
+        };
         for (IniLines lines = m_store->Lines(); lines.NextHeader();) {
             const std::wstring section = lines.Name();
             const auto possible = PossibleOwners(section);

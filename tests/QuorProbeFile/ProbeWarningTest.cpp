@@ -338,6 +338,13 @@ TEST_F(ProbeWarningTest, SettingsThatStandTwiceWithoutAProbeAreToldOnceAsThese) 
                      L"3  10 the section occurs twice; the one in line 1 is read"}));
 }
 
+TEST_F(ProbeWarningTest, ANameOfManyPiecesIsCheckedAtOnce) { // by their lengths squared it would be minutes
+    std::string name;
+    for (int i = 0; i < 100000; ++i)
+        name += " - Settings";
+    EXPECT_EQ(Told("[" + name + "]\nRTPW=1\n").size(), 1U);
+}
+
 TEST_F(ProbeWarningTest, ARecordThatIsRefusedOrHasNoTypeHasNoWarnings) {
     EXPECT_EQ(
         Told(
