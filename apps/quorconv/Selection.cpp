@@ -13,11 +13,7 @@ namespace quorconv {
 
 using namespace QuorProbeFile;
 
-namespace {
-
 bool IsPattern(const std::wstring& text) { return text.find_first_of(L"*?") != std::wstring::npos; }
-
-} // namespace
 
 bool IsLike(const std::wstring& name, const std::wstring& pattern) {
     const std::wstring text = Folded(name);

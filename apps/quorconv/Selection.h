@@ -14,6 +14,9 @@ namespace quorconv {
 /// any ASCII case.
 [[nodiscard]] bool IsLike(const std::wstring& name, const std::wstring& pattern);
 
+/// Whether a text has a "*" or "?".
+[[nodiscard]] bool IsPattern(const std::wstring& text);
+
 /// The conversion type that a person means, with settings or without; UsageError when there is none.
 [[nodiscard]] const QuorProbeFile::TypeInfo& RequireType(const std::wstring& text);
 

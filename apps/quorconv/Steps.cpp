@@ -158,10 +158,14 @@ std::vector<CopiedKey> OtherKeys(ProbeFile& from, const NameMap<std::wstring>& c
                                  NameSet but, Comment comment) {
     using Kind = QuorIniFile::IniLines::Kind;
     std::vector<CopiedKey> keys;
+    // Of one probe, as in each of thousands of steps, a glance at a name tells most of the others from it.
+    const std::wstring begin = copied.size() == 1 ? copied.begin()->first : L"";
     auto line = from.Store()->Lines();
     for (bool isThere = line.NextHeader(); isThere;) {
         const std::wstring section = line.Name();
-        const auto target = line.Is(Kind::Header) ? TargetOf(section, from, copied, to) : std::nullopt;
+        const bool mayBeOfIt = EqualFolded(std::wstring_view(section).substr(0, begin.size()), begin);
+        const auto target =
+            mayBeOfIt && line.Is(Kind::Header) ? TargetOf(section, from, copied, to) : std::nullopt;
         if (!target) {
             isThere = line.NextHeader();
             continue;
@@ -248,9 +252,11 @@ struct StepCommand {
 
 constexpr std::size_t any = static_cast<std::size_t>(-1);
 
+constexpr std::wstring_view newStep = L"new";
+
 const std::vector<StepCommand>& StepCommands() {
     static const std::vector<StepCommand> commands{
-        {L"new", L"SECTION TYPE [KEY=VALUE...]", 2, any,
+        {newStep.data(), L"SECTION TYPE [KEY=VALUE...]", 2, any,
          [](const Strings& words, const ValueRules& rules) -> std::function<void(ProbeFile&)> {
              return [words, rules, values = Assignments(WordsFrom(words, 2))](ProbeFile& file) {
                  NewProbe(file, words[0], words[1], values, rules);
@@ -306,7 +312,16 @@ std::function<void(ProbeFile&)> MakeStep(Strings words, StepLanguage language, c
     if (words.size() < command->least || words.size() > command->most)
         throw Problem{(language == StepLanguage::Commands ? name + L" " : L"") + command->arguments +
                       L" expected"};
-    return command->make(words, rules);
+    auto step = command->make(words, rules);
+    if (command->name == newStep || !IsPattern(words.front()))
+        return step;
+    return [step = std::move(step), section = words.front()](ProbeFile& file) {
+        if (!file.Find(section))
+            throw Problem{L"[" + section +
+                          L"]: no probe has this name; a step is for one probe, and takes no "
+                          L"pattern"};
+        step(file);
+    };
 }
 
 /// Steps one below the other that remove probes, or that rename them: they are done together, because each
@@ -316,7 +331,9 @@ public:
     Moves(ProbeFile& file, Batch& batch) : m_file(file), m_batch(batch) {}
 
     [[nodiscard]] static bool IsMove(const Strings& words) {
-        return (words.size() == 2 && words[0] == L"remove") || (words.size() == 3 && words[0] == L"rename");
+        return ((words.size() == 2 && words[0] == L"remove") ||
+                (words.size() == 3 && words[0] == L"rename")) &&
+               !IsPattern(words[1]);
     }
 
     void Add(std::size_t line, Strings words) {

@@ -17,8 +17,9 @@ class Apply final : public Command {
         arguments.Maybe(
             "STEPS", m_from, Meaning::File,
             "A file with one step per line: new, set, copy, rename, retype, remove, with their arguments\n"
-            "except the file; put names with blanks in double quotes, and \\\" and \\\\ inside them for\n"
-            "\" and \\; \"#\" begins a comment.\n"
+            "except the file, each for one probe by its name: no patterns, and no options but --replace of\n"
+            "copy; put names with blanks in double quotes, and \\\" and \\\\ inside them for \" and \\;\n"
+            "\"#\" begins a comment.\n"
             "Without it the standard input");
         m_rules.Declare(arguments);
         m_rules.DeclareDrop(arguments);

@@ -203,8 +203,10 @@ class Merge final : public Command {
         NameSet merged;
         file.Edit(m_isDryRun, [&] {
             const auto renamedHere = RenamedHere(*file, base, theirs, touched);
-            for (const auto& [section, name] : renamedHere) // which is called so as long as it is merged
-                file->Rename(name, section);
+            std::vector<std::pair<std::wstring, std::wstring>> back;
+            for (const auto& [section, name] : renamedHere)
+                back.emplace_back(name, section);
+            file->Rename(back); // as long as it is merged
             const ProbeTable ours(*file);
             Progress progress(L"probes", 0);
             plan = PlanOf({{base, ours}, theirs, left, touched}, progress);
@@ -225,8 +227,7 @@ class Merge final : public Command {
                 copied.emplace(section, section);
             CopyOtherKeys(*theirFile, copied, *file, plan.kept);
             merged.insert(plan.otherKeys.begin(), plan.otherKeys.end());
-            for (const auto& [section, name] : renamedHere)
-                file->Rename(section, name);
+            file->Rename(renamedHere);
         });
         TellCount(merged.size(), L"probe", m_isDryRun ? "would be merged" : "merged");
         if (!plan.renamed.empty())

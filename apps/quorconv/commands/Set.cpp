@@ -29,7 +29,7 @@ class Set final : public Command {
         arguments.Options("--also", "FILE", m_also, Meaning::File, "The same in that file; may be repeated");
         arguments.Option("--from", "FILE", m_from, Meaning::File,
                          "A file with lines SECTION KEY=VALUE..., all of which are carried out, or none;\n"
-                         "put names with blanks in double quotes");
+                         "SECTION is a name, no pattern; put names with blanks in double quotes");
         m_rules.Declare(arguments);
         m_rules.DeclareDrop(arguments);
         DeclareDryRun(arguments, m_isDryRun);

@@ -368,6 +368,19 @@ TEST_F(QuorconvManyTest, GuessesNoEncodingOfStepsWhichWouldGiveProbesWrongNames)
     ExpectUnchanged();
 }
 
+TEST_F(QuorconvManyTest, AStepIsForOneProbeAndSaysSoOfAPattern) {
+    ExpectShell("printf 'set \"Bath*\" RTPW=1\\nremove \"Bath ?\"\\n' | quorconv apply host.ini", "",
+                "quorconv: host.ini: nothing was written, because 2 lines of - are wrong\n"
+                "  -:1: [Bath*]: no probe has this name; a step is for one probe, and takes no pattern\n"
+                "  -:2: [Bath ?]: no probe has this name; a step is for one probe, and takes no pattern\n",
+                1);
+    EXPECT_EQ(folder.Read("host.ini"), before);
+    ExpectShell(
+        "printf 'rename \"Bath A\" \"B*\"\\nset \"B*\" RTPW=1\\nremove \"B*\"\\n' | quorconv apply host.ini",
+        "",
+        "quorconv: 3 steps done\n"); // which is a name, too
+}
+
 TEST_F(QuorconvManyTest, SetsWhatTheLinesOfAFileSay) {
     ExpectShell("printf '\"Bath A\" RTPW=25.4\\nOven Coefficients0=99.9\\n' | quorconv set host.ini --from -",
                 "", "quorconv: 2 steps done\n");
