@@ -156,7 +156,7 @@ std::optional<CopiedKey> KeyIn(const QuorIniFile::IniLines& line, QuorIniFile::I
 /// The keys that CopyOtherKeys copies. Of a key that stands twice the first line, which is read.
 std::vector<CopiedKey> OtherKeys(ProbeFile& from, const NameMap<std::wstring>& copied, const ProbeFile& to,
                                  NameSet but, Comment comment) {
-    using Kind = QuorIniFile::IniLines::Kind;
+    using LineKind = QuorIniFile::IniLines::Kind;
     std::vector<CopiedKey> keys;
     // Of one probe, as in each of thousands of steps, a glance at a name tells most of the others from it.
     const std::wstring begin = copied.size() == 1 ? copied.begin()->first : L"";
@@ -165,13 +165,13 @@ std::vector<CopiedKey> OtherKeys(ProbeFile& from, const NameMap<std::wstring>& c
         const std::wstring section = line.Name();
         const bool mayBeOfIt = EqualFolded(std::wstring_view(section).substr(0, begin.size()), begin);
         const auto target =
-            mayBeOfIt && line.Is(Kind::Header) ? TargetOf(section, from, copied, to) : std::nullopt;
+            mayBeOfIt && line.Is(LineKind::Header) ? TargetOf(section, from, copied, to) : std::nullopt;
         if (!target) {
             isThere = line.NextHeader();
             continue;
         }
         from.Store()->SetSection(section);
-        while ((isThere = line.Next()) && (line.Is(Kind::Key) || line.Is(Kind::Malformed)))
+        while ((isThere = line.Next()) && (line.Is(LineKind::Key) || line.Is(LineKind::Malformed)))
             if (const auto key = KeyIn(line, *from.Store(), *target, comment);
                 key && but.insert(std::wstring(section).append(L"/").append(key->name)).second)
                 keys.push_back(*key);
@@ -220,6 +220,7 @@ void WriteRetyped(ProbeFile& file, const std::wstring& section,
     });
     if (!keys.empty() && !MayHaveSettings(now.code)) {
         std::vector<std::wstring> own;
+        own.reserve(keys.size());
         for (const CopiedKey& key : keys)
             own.push_back(L"[" + key.section + L"] " + key.name + L"=" + key.text);
         throw Problem{Place(file.Path(), section) + L": " + now.enumerator +
@@ -431,6 +432,18 @@ Strings Words(std::wstring_view line) {
     }
 }
 
+namespace {
+
+/// The words of a line of an input. Another encoding than UTF-8 would be a guess, and names would be wrong.
+Strings WordsOfBytes(std::string_view line) {
+    const auto text = QuorIniFile::FromUtf8(line);
+    if (!text)
+        throw Problem{L"the text is not UTF-8"};
+    return Words(*text);
+}
+
+} // namespace
+
 ExitCode RunSteps(const std::wstring& path, const std::wstring& from, StepLanguage language,
                   const ValueRules& rules, bool isDryRun) {
     const std::string text = ReadAll(from); // a line of which is made text when it is its turn
@@ -455,10 +468,7 @@ ExitCode RunSteps(const std::wstring& path, const std::wstring& from, StepLangua
             batch.Do(place, [&] {
                 Strings words;
                 try {
-                    const auto decoded = QuorIniFile::FromUtf8(line);
-                    if (!decoded) // another encoding would be a guess, and names would be wrong
-                        throw Problem{L"the text is not UTF-8"};
-                    words = Words(*decoded);
+                    words = WordsOfBytes(line);
                     if (words.empty())
                         return;
                     ++count;

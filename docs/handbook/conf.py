@@ -7,7 +7,7 @@ from unittest import mock
 # The reference of the Python package is made from its docstrings. Importing it needs no library: no function is called.
 sys.path.insert(0, str(pathlib.Path(__file__).parents[2] / "bindings/python"))
 sys.dont_write_bytecode = True
-ctypes.CDLL = mock.MagicMock()
+ctypes.CDLL = ctypes.PyDLL = mock.MagicMock()
 
 project = "Quor Conversions"
 author = "Quor Conversions"

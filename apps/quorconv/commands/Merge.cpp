@@ -204,6 +204,7 @@ class Merge final : public Command {
         file.Edit(m_isDryRun, [&] {
             const auto renamedHere = RenamedHere(*file, base, theirs, touched);
             std::vector<std::pair<std::wstring, std::wstring>> back;
+            back.reserve(renamedHere.size());
             for (const auto& [section, name] : renamedHere)
                 back.emplace_back(name, section);
             file->Rename(back); // as long as it is merged

@@ -26,16 +26,31 @@ def flag(value: object) -> int:
     return -1 if value else 0
 
 
-def _load() -> ctypes.PyDLL:
-    """The library that the variable QUORCONVERSIONS_LIBRARY names, or the one beside the package, or that of the system.
-    Its calls keep Python's global lock, so that threads which share an object by mistake do not end the process."""
+class _Library:
+    """The functions of the library. Their calls keep Python's global lock, so that threads which share an object by mistake
+    do not end the process; but in those that may wait for a person other threads go on."""
+
+    _WAITING = ("_Edit", "_OpenFile", "_SaveFileAs", "_ReadFromFile", "_WriteToFile")
+
+    def __init__(self, path: str) -> None:
+        self._quick = ctypes.PyDLL(path)
+        self._waiting = ctypes.CDLL(path)
+
+    def __getattr__(self, name: str) -> Any:
+        function = getattr(self._waiting if name.endswith(self._WAITING) else self._quick, name)
+        setattr(self, name, function)
+        return function
+
+
+def _load() -> _Library:
+    """The library that the variable QUORCONVERSIONS_LIBRARY names, or the one beside the package, or that of the system."""
     given = os.environ.get("QUORCONVERSIONS_LIBRARY")
     if given:
-        return ctypes.PyDLL(given)
+        return _Library(given)
     name = {"win32": "quor.dll", "darwin": "libquor.1.dylib"}.get(sys.platform, "libquor.so.1")
     beside = Path(__file__).parent / name
     try:
-        return ctypes.PyDLL(str(beside) if beside.exists() else name)
+        return _Library(str(beside) if beside.exists() else name)
     except OSError as error:
         raise ImportError(f"quorconversions needs {name}: beside the package, where the system finds libraries, or "
                           f"named by the variable QUORCONVERSIONS_LIBRARY ({error})") from error

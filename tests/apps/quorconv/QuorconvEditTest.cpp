@@ -171,7 +171,7 @@ TEST_F(QuorconvEditTest, WritesNothingWhenTheDialogGoesOtherwise) {
     ExpectGoneWrong("type R0 7\ntype R1 7\nclick OK",
                     "  there is no \"R1\" in this dialog\n  in line 2: type R1 7\n" + leftOpen);
     ExpectGoneWrong("type R0 7\n", leftOpen);
-    ExpectGoneWrong("", leftOpen);
+    ExpectGoneWrong("# nothing\n", leftOpen);
     ExpectGoneWrong("expect Boo\ntype R0 7\nclick OK",
                     "  there was no message \"Boo\"\n  in line 1: expect Boo\n");
     ExpectGoneWrong("expect Boo\ntype R0 7\nclick OK\ntype R0 8\nclick OK",
@@ -192,6 +192,7 @@ TEST_F(QuorconvEditTest, CountsTheLinesOfTheScriptAlone) {
 TEST_F(QuorconvEditTest, RefusesAScriptThatItCannotRead) {
     ExpectRefused(Playing("type R0 7\n\npress OK\n"),
                   "quorconv: steps.txt: line 3: there is no command \"press\"\n");
+    ExpectRefused(Playing(""), "quorconv: steps.txt: there is nothing in this file\n");
     ExpectRefused(Playing("type"), "quorconv: steps.txt: line 1: \"type\" needs more\n");
     ExpectRefused({"edit", "host.ini", "Probe 1", "--script", "none.txt"},
                   "quorconv: File not found: none.txt\n");

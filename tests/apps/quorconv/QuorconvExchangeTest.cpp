@@ -505,7 +505,7 @@ TEST_F(QuorconvExchangeTest, RefusesATableThatIsWrongWithLineAndColumn) {
                        "in.csv:2: column 3 (Coefficients4): \"x\" is not a number", cvd);
     ExpectRefusedTable(
         "section,Coefficients0\rBath,1\r",
-        "in.csv:1: the line ends in a carriage return alone; save the table with line ends LF or "
+        "in.csv:1: the line ends in a lone carriage return; save the table with line ends LF or "
         "CR LF",
         cvd);
     ExpectRefusedTable("section,Coefficients0\nB\xE4th,1\n",
