@@ -45,7 +45,9 @@ bool IniLines::NextHeader() { return NextHeaderOr({}); }
 
 bool IniLines::NextHeaderOr(std::string_view key) {
     while (m_next.offset < m_text.size()) {
-        const std::size_t start = std::min(m_text.find_first_not_of(" \t", m_next.offset), m_text.size());
+        std::size_t start = m_next.offset;
+        while (start < m_text.size() && (m_text[start] == ' ' || m_text[start] == '\t'))
+            ++start;
         const std::string_view line = m_text.substr(start);
         const bool isHeader = line.starts_with('[');
         if (!isHeader && (key.empty() || !EqualFolded(line.substr(0, key.size()), key)))

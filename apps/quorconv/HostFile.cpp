@@ -5,6 +5,7 @@
 #include "apps/quorconv/System.h"
 #include "apps/quorconv/UnifiedDiff.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
@@ -25,10 +26,24 @@ namespace {
 /// What an input is read for: a host's file may be UTF-16.
 enum class Input : std::uint8_t { Text, HostFile, NewHostFile };
 
+/// How many bytes are still to be read; 0 where that is not known, as of a pipe.
+std::size_t LengthOfRest(std::istream& in) {
+    const std::streamoff here = in.tellg();
+    in.seekg(0, std::ios::end);
+    const std::streamoff end = in.tellg();
+    in.clear(); // nothing is wrong with a pipe
+    if (here < 0 || end <= here)
+        return 0;
+    in.seekg(here);
+    return static_cast<std::size_t>(end - here);
+}
+
 /// All that is still to be read. Raises Problem for bytes that no text has: a device may have no end of them.
 std::string Rest(std::istream& in, const std::wstring& path, Input input) {
     std::string bytes;
     constexpr std::size_t step = std::size_t{1} << 20U;
+    constexpr std::size_t most = std::size_t{1} << 30U; // what a device tells of its length is no measure
+    bytes.reserve(std::min(LengthOfRest(in), most) + step);
     for (std::size_t size = 0; in; bytes.resize(size)) {
         bytes.resize(size + step);
         in.read(bytes.data() + size, static_cast<std::streamsize>(step));

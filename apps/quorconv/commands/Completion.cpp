@@ -32,7 +32,7 @@ std::string WordOf(const Argument& argument) {
     case Meaning::Warning: {
         std::string words = "choice";
         for (const QuorProbeFile::ProbeWarning& warning : QuorProbeFile::Warnings())
-            words += ":" + QuorIniFile::ToUtf8(warning.id);
+            words.append(":").append(QuorIniFile::ToUtf8(warning.id));
         return words;
     }
     case Meaning::Shell:
