@@ -470,9 +470,10 @@ void ProbeFile::WriteOne(const std::wstring& section, EQuorConversionType type,
     if (!namesAreKnown)
         return;
     // A host that writes thousands of new ones in one edit has no time to look at all sections for each.
-    for (const std::wstring* const written : {&section, &settings})
-        if (IsNested(*written) && HasSection(*written))
-            m_nested.Add(*written);
+    if (section.find(nestedMark) != std::wstring::npos) // else none of both is nested
+        for (const std::wstring* const written : {&section, &settings})
+            if (IsNested(*written) && HasSection(*written))
+                m_nested.Add(*written);
     m_namesText = m_store->TextNumber();
 }
 

@@ -90,14 +90,16 @@ void CsvTable::Add(const ProbeValues& probe) {
     AddField(ToUtf8(probe.section));
     for (const RecordImage::Entry& entry : probe.entries) {
         const double* const number = std::get_if<double>(&entry.value);
-        m_field.clear();
+        if (number && m_decimal == DecimalSign::Point) { // which needs no quotes with any separator
+            const std::size_t length = m_fields.size();
+            QuorIniFile::AppendValueText(m_fields, *number);
+            m_lengths.push_back(static_cast<std::uint32_t>(m_fields.size() - length));
+            continue;
+        }
+        std::string field = ToUtf8(ToText(entry.value));
         if (number)
-            QuorIniFile::AppendValueText(m_field, *number);
-        else
-            m_field = ToUtf8(ToText(entry.value));
-        if (number && m_decimal == DecimalSign::Comma)
-            std::replace(m_field.begin(), m_field.end(), '.', ',');
-        AddField(m_field);
+            std::replace(field.begin(), field.end(), '.', ',');
+        AddField(field);
     }
 }
 
@@ -142,16 +144,23 @@ void CsvTable::Print(std::ostream& out) const {
         return field;
     };
     std::vector<std::string_view> fields(columns.size());
+    constexpr std::size_t atOnce = std::size_t{1} << 16U;
+    line.clear();
     for (const std::size_t layout : m_rows) {
-        line = next();
+        line.append(next());
         line.append(1, separator).append(type);
         std::fill(fields.begin(), fields.end(), std::string_view());
         for (const std::size_t place : placesOf[layout])
             fields[place] = next();
         for (const std::string_view field : fields)
             line.append(1, separator).append(field);
-        out << line.append("\r\n");
+        line.append("\r\n");
+        if (line.size() > atOnce) {
+            out << line;
+            line.clear();
+        }
     }
+    out << line;
 }
 
 namespace {

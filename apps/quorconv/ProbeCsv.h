@@ -57,7 +57,6 @@ private:
     std::vector<std::size_t> m_rows;                         // the layout of each
     std::string m_fields;                                    // of all rows, ready
     std::vector<std::uint32_t> m_lengths;                    // of the fields
-    std::string m_field;                                     // that is being made
 };
 
 /// Reads a table and calls `use` with each of its lines, and its number. Columns may stand in any order, and
