@@ -66,6 +66,8 @@ bool IniLines::HasName(std::string_view name) const {
 
 std::wstring IniLines::Value() const { return DecodeBytes(SplitComment(m_value).plain); }
 
+std::wstring IniLines::ValueWithComment() const { return DecodeBytes(m_value); }
+
 std::optional<std::int16_t> IniLines::Integer() const { return ParseInteger(SplitComment(m_value).plain); }
 
 } // namespace QuorIniFile

@@ -65,6 +65,8 @@ public:
     [[nodiscard]] bool HasName(std::string_view name) const;
     /// The value of a key unchanged, with its quotes, but without the comment that may follow a number.
     [[nodiscard]] std::wstring Value() const;
+    /// The value of a key with the comment behind it, unchanged: see IniStore::WriteAsItStands.
+    [[nodiscard]] std::wstring ValueWithComment() const;
     /// The value of a key as a whole number; nothing if it is not one, or not within 16 bits.
     [[nodiscard]] std::optional<std::int16_t> Integer() const;
 

@@ -107,6 +107,19 @@ public:
         Put(key, present.has_value());
     }
 
+    void WriteAsItStands(std::wstring_view key, std::wstring_view value) {
+        Load();
+        const std::optional<std::string> bytes = NameToWrite(value, m_text->Encoding());
+        if (!bytes)
+            return WriteText(key, value);
+        const IniCommentedValue line = SplitComment(*bytes);
+        m_value.bytes = line.plain;
+        m_value.isText = false;
+        m_value.comment = line.comment;
+        const bool isThere = FindValue(key).has_value();
+        Put(key, isThere);
+    }
+
     [[nodiscard]] std::vector<std::wstring> Sections() {
         LoadExisting();
         std::vector<std::wstring> names;
@@ -618,6 +631,10 @@ void IniStore::WriteInteger(std::wstring_view key, std::int16_t value, std::wstr
 
 void IniStore::WriteString(std::wstring_view key, std::wstring_view value) {
     m_session->WriteText(key, value);
+}
+
+void IniStore::WriteAsItStands(std::wstring_view key, std::wstring_view value) {
+    m_session->WriteAsItStands(key, value);
 }
 
 bool IniStore::HasText() { return m_session->HasText(); }

@@ -90,6 +90,11 @@ public:
     void WriteInteger(std::wstring_view key, std::int16_t value, std::wstring_view comment) override;
     void WriteString(std::wstring_view key, std::wstring_view value) override;
 
+    /// Writes a value and the comment behind it as they stand in a line (IniLines::ValueWithComment), such as
+    /// that of a key whose meaning is not known. A comment that is there stays where none is given. What the
+    /// encoding of the file lacks is written as WriteString writes it.
+    void WriteAsItStands(std::wstring_view key, std::wstring_view value);
+
     /// Whether there is a text: a file, or what was written for one that does not exist yet. Without a text
     /// there are no sections.
     [[nodiscard]] bool HasText();

@@ -283,13 +283,16 @@ std::wstring ProbeDocument::FreeName(const std::wstring& wish) const {
         !wish.empty() && IniStore::CanNameSection(wish) ? wish : WithoutWhatCannotBeWritten(wish);
     std::wstring name = stem;
     NameProblem problem = CheckName(name);
-    for (int number = 2; problem != NameProblem::None; problem = CheckName(name), ++number) {
-        if (problem == NameProblem::CannotBeSpelled)
-            stem = L"Probe";
+    for (int number = 2; problem != NameProblem::None; problem = CheckName(name)) {
+        if (problem == NameProblem::CannotBeSpelled) { // the rest of it tells the probe still
+            std::erase_if(stem, [this](wchar_t c) { return !m_file->Store()->CanSpell(std::wstring(1, c)); });
+            name = stem = WithoutWhatCannotBeWritten(stem);
+            continue;
+        }
         // No number behind the name of a section of settings makes it another one's.
         if (problem == NameProblem::IsSettingsOfProbe)
             stem.resize(Folded(stem).rfind(Folded(std::wstring(settingsMark))));
-        name = stem + L" (" + std::to_wstring(number) + L")";
+        name = stem + L" (" + std::to_wstring(number++) + L")";
     }
     return name;
 }

@@ -82,18 +82,6 @@ bool IsStandAlone(const ProbeFile& file, const std::wstring& section) {
     return standAlone && EqualFolded(*standAlone, section);
 }
 
-/// Whether the selected section of a file has a value already, in whatever spelling.
-bool HasValue(QuorIniFile::IniStore& store, const std::wstring& key, const std::wstring& text,
-              const std::optional<bool>& flag) {
-    std::wstring present;
-    bool presentFlag = false;
-    double presentNumber = 0.0;
-    const auto number = QuorIniFile::DoubleOf(text);
-    return (store.ReadString(key, present) && present == text) ||
-           (number && store.ReadDouble(key, presentNumber) && SameValue(presentNumber, *number)) ||
-           (flag && store.ReadBoolean(key, presentFlag) && presentFlag == *flag);
-}
-
 /// Whether sections named like the settings of a probe are its own.
 bool OwnsSettings(const ProbeFile& file, std::wstring_view section) {
     std::int16_t code = 0;
@@ -121,41 +109,28 @@ std::optional<std::wstring> TargetOf(const std::wstring& name, const ProbeFile& 
     return std::nullopt;
 }
 
-/// A key of a section with its value.
+/// A key of a section, with its value and comment as they stand there: nobody knows its type.
 struct CopiedKey {
     std::wstring section;
     std::wstring name;
     std::wstring text;
-    std::optional<bool> flag; ///< the value, if it is one
-    std::wstring comment;     ///< behind a number
+    std::wstring plain; ///< without the comment behind a number or flag
 };
 
-/// What becomes of a comment behind a number.
-enum class Comment : std::uint8_t { Stays, Goes };
-
-/// The key in a line of the selected section; nothing for a line that has none, or one of the record itself.
-std::optional<CopiedKey> KeyIn(const QuorIniFile::IniLines& line, QuorIniFile::IniStore& store,
-                               const std::wstring& target, Comment comment) {
+/// The key in a line; nothing for a line that has none, or one of the record itself.
+std::optional<CopiedKey> KeyIn(const QuorIniFile::IniLines& line, const std::wstring& target) {
     if (!line.Is(QuorIniFile::IniLines::Kind::Key))
         return std::nullopt;
-    CopiedKey key{target, line.Name(), {}, {}, {}};
+    CopiedKey key{target, line.Name(), line.ValueWithComment(), line.Value()};
     if (EqualFolded(key.name, QuorConversions::versionKey) ||
-        EqualFolded(key.name, QuorConversions::conversionTypeKey) || !store.ReadString(key.name, key.text))
+        EqualFolded(key.name, QuorConversions::conversionTypeKey))
         return std::nullopt;
-    if (const std::wstring number = line.Value(); QuorIniFile::DoubleOf(number)) {
-        const auto begin = key.text.find_first_not_of(L" \t;#", number.size());
-        if (comment == Comment::Stays && begin != std::wstring::npos)
-            key.comment = key.text.substr(begin);
-        key.text = number;
-    }
-    if (bool flag = false; store.ReadBoolean(key.name, flag))
-        key.flag = flag;
     return key;
 }
 
 /// The keys that CopyOtherKeys copies. Of a key that stands twice the first line, which is read.
 std::vector<CopiedKey> OtherKeys(ProbeFile& from, const NameMap<std::wstring>& copied, const ProbeFile& to,
-                                 NameSet but, Comment comment) {
+                                 NameSet but) {
     using LineKind = QuorIniFile::IniLines::Kind;
     std::vector<CopiedKey> keys;
     // Of one probe, as in each of thousands of steps, a glance at a name tells most of the others from it.
@@ -170,24 +145,39 @@ std::vector<CopiedKey> OtherKeys(ProbeFile& from, const NameMap<std::wstring>& c
             isThere = line.NextHeader();
             continue;
         }
-        from.Store()->SetSection(section);
         while ((isThere = line.Next()) && (line.Is(LineKind::Key) || line.Is(LineKind::Malformed)))
-            if (const auto key = KeyIn(line, *from.Store(), *target, comment);
+            if (const auto key = KeyIn(line, *target);
                 key && but.insert(std::wstring(section).append(L"/").append(key->name)).second)
                 keys.push_back(*key);
     }
     return keys;
 }
 
+/// Whether the selected section has a value of a record already, in whatever spelling: it was written by its
+/// type.
+bool HasValue(QuorIniFile::IniStore& store, const CopiedKey& key) {
+    const auto mark = key.section.find(settingsMark);
+    const std::wstring place =
+        mark == std::wstring::npos ? L"" : key.section.substr(mark + settingsMark.size());
+    const std::wstring path = place.empty() ? key.name : place.substr(nestedMark.size()) + L"/" + key.name;
+    if (std::none_of(Types().begin(), Types().end(),
+                     [&](const TypeInfo& type) { return MayHaveKey(type.code, path); }))
+        return false;
+    std::wstring text;
+    bool flag = false;
+    double number = 0.0;
+    const auto givenNumber = QuorIniFile::DoubleOf(key.plain);
+    const auto givenFlag = QuorIniFile::BooleanOf(key.plain);
+    return (store.ReadString(key.name, text) && text == key.plain) ||
+           (givenNumber && store.ReadDouble(key.name, number) && SameValue(number, *givenNumber)) ||
+           (givenFlag && store.ReadBoolean(key.name, flag) && flag == *givenFlag);
+}
+
 void WriteKeys(ProbeFile& to, const std::vector<CopiedKey>& keys) {
     for (const CopiedKey& key : keys) {
         to.Store()->SetSection(key.section);
-        if (HasValue(*to.Store(), key.name, key.text, key.flag))
-            continue;
-        if (key.comment.empty())
-            to.Store()->WriteString(key.name, key.text);
-        else
-            to.Store()->WriteDouble(key.name, *QuorIniFile::DoubleOf(key.text), key.comment);
+        if (!HasValue(*to.Store(), key))
+            to.Store()->WriteAsItStands(key.name, key.text);
     }
 }
 
@@ -204,7 +194,7 @@ bool IsValue(const CopiedKey& key, const std::wstring& probe, const TypeInfo* be
 } // namespace
 
 void CopyOtherKeys(ProbeFile& from, const NameMap<std::wstring>& copied, ProbeFile& to, const NameSet& but) {
-    WriteKeys(to, OtherKeys(from, copied, to, but, Comment::Goes));
+    WriteKeys(to, OtherKeys(from, copied, to, but));
 }
 
 void WriteRetyped(ProbeFile& file, const std::wstring& section,
@@ -214,7 +204,7 @@ void WriteRetyped(ProbeFile& file, const std::wstring& section,
     const TypeInfo* const before =
         file.Store()->ReadInteger(QuorConversions::conversionTypeKey, code) ? FindType(code) : nullptr;
     const TypeInfo& now = *FindType(conversion.ConversionType());
-    auto keys = OtherKeys(file, {{section, section}}, file, {}, Comment::Stays);
+    auto keys = OtherKeys(file, {{section, section}}, file, {});
     std::erase_if(keys, [&](const CopiedKey& key) {
         return EqualFolded(key.section, section) || IsValue(key, section, before, now);
     });

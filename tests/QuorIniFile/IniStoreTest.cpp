@@ -152,6 +152,31 @@ TEST_F(IniStoreTest, ATextInMemoryIsReadLikeAFileAndNeverSaved) {
     EXPECT_EQ(File(), "[A]\nx=2\n");
 }
 
+TEST_F(IniStoreTest, AValueOfAnUnknownTypeIsWrittenAsItStandsInALine) {
+    const char* const lines[] = {"Part=00123 ; asset", "Big=12345678901234567891",
+                                 "On=True ; by M",     "Note=\"K 17\" ; old",
+                                 "Due=2027-05 ; n",    "Empty=",
+                                 "Path=C:\\a;b",       "Ort=K\xC3\xB6ln ; b\xC3\xA4h"};
+    std::string text = "[A]\n";
+    for (const char* const line : lines)
+        text.append(line).append("\n");
+    const auto from = IniStore::OfText(text);
+    store.Hold();
+    for (IniLines line = from->Lines(); line.Next();)
+        if (line.Is(IniLines::Kind::Key))
+            store.WriteAsItStands(line.Name(), line.ValueWithComment());
+    store.Release();
+    EXPECT_EQ(File(), text);
+    // Over another value: its comment stays where none is given.
+    store.WriteAsItStands(L"Part", L"7");
+    store.WriteAsItStands(L"Big", L"007 ; new");
+    EXPECT_EQ(File().substr(0, 33), "[A]\nPart=7 ; asset\nBig=007 ; new\n");
+    File("[A]\n; caf\xE9\nx=1\n");
+    store.Reload();
+    store.WriteAsItStands(L"x", L"\u03A9");
+    EXPECT_EQ(File(), "[A]\n; caf\xE9\nx=\"\\u{3A9}\"\n");
+}
+
 TEST_F(IniStoreTest, SettingTheFileNameTouchesNoFile) {
     store.SetFileName(folder.Name("b.ini"));
     EXPECT_EQ(store.FileName(), folder.Name("b.ini"));

@@ -53,7 +53,12 @@ _quorconv_names() { # CURRENT NAME...
     for name; do
         case ${name,,} in
         "$current"*)
-            if [ $quoted ]; then COMPREPLY+=("$name"); else COMPREPLY+=("$(printf %q "$name")"); fi
+            # What the shell would take for more than a text inside quotes is not offered there.
+            if [ ! $quoted ]; then
+                COMPREPLY+=("$(printf %q "$name")")
+            elif [[ $name != *[\$\`\"\'\!\\]* ]]; then
+                COMPREPLY+=("$name")
+            fi
             ;;
         esac
     done

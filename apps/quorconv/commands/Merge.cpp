@@ -75,6 +75,11 @@ public:
         return std::any_of(probe.entries.begin(), probe.entries.end(), IsTelling);
     }
 
+    /// Whether a probe has more of them than one, which may be a nominal value.
+    [[nodiscard]] static bool IsUnmistakable(const ProbeValues& probe) {
+        return std::count_if(probe.entries.begin(), probe.entries.end(), IsTelling) > 1;
+    }
+
 private:
     static bool IsTelling(const RecordImage::Entry& entry) {
         const double* const number = std::get_if<double>(&entry.value);
@@ -246,14 +251,18 @@ class Merge final : public Command {
         RequireOnce(ours, m_ours);
         const NameMap<std::wstring> left = LeftSettings(file, ours);
         Plan plan;
-        FindRenamed({{base, theirs}, ours, left, touched}, plan); // the other way round
-        std::erase_if(plan.renamed, [&](const auto& pair) { return !touched.contains(pair.first); });
+        // The other way round. Two thermometers may have nominal values in common: theirs would get into
+        // another one by a guess.
+        FindRenamed({{base, theirs}, ours, left, touched}, plan, Alike::No);
+        std::erase_if(plan.renamed, [&](const auto& pair) {
+            return !touched.contains(pair.first) || !AddedProbes::IsUnmistakable(base.Read(pair.first));
+        });
         return std::move(plan.renamed);
     }
 
     [[nodiscard]] Plan PlanOf(const Tables& tables, Progress& progress) const {
         Plan plan;
-        FindRenamed(tables, plan);
+        FindRenamed(tables, plan, Alike::Too);
         for (const auto& [section, name] : plan.renamed)
             plan.nameBefore.emplace(name, section);
         tables.theirs.ForEach([&](const std::wstring& section) {
@@ -305,9 +314,12 @@ class Merge final : public Command {
             plan.conflicts.push_back(L"[" + section + L"]: changed here, removed in " + m_theirs);
     }
 
+    /// Whether a probe may be another one of which more than half of the values are the same.
+    enum class Alike : std::uint8_t { Too, No };
+
     /// The probes of the base that theirs have under another name: they are renamed, which keeps what the
     /// file has beside their values.
-    void FindRenamed(const Tables& tables, Plan& plan) const {
+    void FindRenamed(const Tables& tables, Plan& plan, Alike alike) const {
         std::vector<std::wstring> gone = Added(tables.base, tables.theirs);
         std::erase_if(gone, [&](const std::wstring& section) {
             return !tables.ours.Has(section) || LeftOf(tables, tables.base.Read(section));
@@ -317,7 +329,8 @@ class Merge final : public Command {
         if (gone.empty() || added.empty())
             return;
         FindUnchanged(tables, gone, added, plan);
-        FindAlike(tables, gone, added, plan);
+        if (alike == Alike::Too)
+            FindAlike(tables, gone, added, plan);
     }
 
     /// Of the probes that are gone and added, those that are the same to the last line. Where several are the

@@ -435,7 +435,7 @@ class ProbeFile(MutableMapping[str, Conversion]):
         steps = list(self._steps())
         if steps:
             self._take(steps)
-        elif self._file.Changed:
+        elif self._file.Changed or self._has_given_store:
             self._call(self._file.Reload)
         elif self._is_read_again and not self._has_given_store:
             return

@@ -28,9 +28,9 @@ def flag(value: object) -> int:
 
 class _Library:
     """The functions of the library. Their calls keep Python's global lock, so that threads which share an object by mistake
-    do not end the process; but in those that may wait for a person other threads go on."""
+    do not end the process; but in those that open a dialog other threads go on."""
 
-    _WAITING = ("_Edit", "_OpenFile", "_SaveFileAs", "_ReadFromFile", "_WriteToFile")
+    _WAITING = ("_Edit", "_OpenFile", "_SaveFileAs")
 
     def __init__(self, path: str) -> None:
         self._quick = ctypes.PyDLL(path)

@@ -443,7 +443,9 @@ TEST_F(ProbeDocumentTest, AFileInLatin1GetsNoNameThatLatin1CannotSpell) {
     EXPECT_EQ(document.CheckName(L"P\u00B5"), NameProblem::None);
     EXPECT_EQ(document.CheckName(L"P\u03A9"), NameProblem::CannotBeSpelled);
     EXPECT_EQ(document.CheckName(L"P\u00FC", 0), NameProblem::None) << "its own name";
-    EXPECT_EQ(document.FreeName(L"P\u03A9"), L"Probe (2)");
+    EXPECT_EQ(document.FreeName(L"\u03A9-Meter 1183"), L"-Meter 1183");
+    EXPECT_EQ(document.FreeName(L"P\u00FC\u03A9"), L"P\u00FC (2)");
+    EXPECT_EQ(document.FreeName(L"\u03A9"), L"Probe");
 }
 
 TEST_F(ProbeDocumentTest, EveryStepCanBeTakenBackAndDoneAgain) {

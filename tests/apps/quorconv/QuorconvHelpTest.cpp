@@ -82,6 +82,13 @@ TEST_F(QuorconvHelpTest, CompletesTheSectionsAndKeysOfTheFileThatIsNamed) {
               "NumCoefficients=\n");
     EXPECT_EQ(Completed("quorconv explain hpt Num"), "NumCoefficients\n");
     EXPECT_EQ(Completed("quorconv get none.ini ''"), "\n");
+    // A name in a file runs nothing: inside quotes those are not offered that the shell would take for more.
+    folder.Write("hostile.ini", "[A$(touch pwn)]\nConversionType=10\n[A'; touch pwn]\nConversionType=10\n"
+                                "[A b]\nConversionType=10\n");
+    EXPECT_EQ(Completed("quorconv get hostile.ini '\"A'"), "A b\n");
+    EXPECT_EQ(Completed("quorconv get hostile.ini \"'A\""), "A b\n");
+    EXPECT_EQ(Completed("quorconv get hostile.ini A"),
+              "A\\$\\(touch\\ pwn\\)\nA\\\'\\;\\ touch\\ pwn\nA\\ b\n");
 }
 
 TEST_F(QuorconvHelpTest, CompletesTheValueOfAnOptionBehindItsEqualsSignSplitByTheShellOrNot) {

@@ -177,11 +177,13 @@ TEST_F(QuorconvManyTest, GivesAProbeAnotherTypeWithNewSettings) {
 TEST_F(QuorconvManyTest, AProbeOfAnotherTypeKeepsTheKeysThatAreNoValuesOfItsType) {
     const std::string old = "[P]\nVersion=1.0\nConversionType=2\nBath=3\n\n[P - Settings]\nVersion=1.0\n"
                             "NumCoefficients=1\nUsePolynomial=0\nDue=2027 ; mine\nCoefficients0=100\n"
-                            "Coefficients7=1\nNote=\"K 17\"\nNote=2\n";
+                            "Coefficients7=1\nNote=\"K 17\"\nNote=2\nPart=00123 ; asset\nOn=True ; by M\n"
+                            "Big=12345678901234567891 ; sticker\n";
     folder.Write("a.ini", old);
     ExpectFine({"retype", "a.ini", "p", "w90", "RTPW=25"});
     const std::string now = "[P]\nVersion=1.0\nConversionType=14\nBath=3\n\n[P - Settings]\nVersion=1.0\n"
-                            "RTPW=25\nDue=2027 ; mine\nNote=K 17\n";
+                            "RTPW=25\nDue=2027 ; mine\nNote=\"K 17\"\nPart=00123 ; asset\nOn=True ; by M\n"
+                            "Big=12345678901234567891 ; sticker\n";
     EXPECT_EQ(folder.Read("a.ini"), now);
     folder.Write("base.ini", old);
     folder.Write("ours.ini", old);
@@ -191,7 +193,10 @@ TEST_F(QuorconvManyTest, AProbeOfAnotherTypeKeepsTheKeysThatAreNoValuesOfItsType
     ExpectRefused(
         {"retype", "base.ini", "P", "CONV_OHMS"},
         "quorconv: base.ini: [P]: CONV_OHMS has no settings, and keys beside the values would be lost "
-        "with them\n  [P - Settings] Due=2027\n  [P - Settings] Note=K 17\n");
+        "with them\n  [P - Settings] Due=2027 ; mine\n  [P - Settings] Note=\"K 17\"\n"
+        "  [P - Settings] Part=00123 ; asset\n"
+        "  [P - Settings] On=True ; by M\n"
+        "  [P - Settings] Big=12345678901234567891 ; sticker\n");
     EXPECT_EQ(folder.Read("base.ini"), old);
 }
 
