@@ -489,6 +489,34 @@ void RequireNothingWrittenOver(ProbeFile& file, const std::wstring& section, con
     Assigning::RefuseLoss(Place(file.Path(), section) + L" ", std::move(lost));
 }
 
+/// Raises Problem with the values that stand in the file and that a count leaves out which has taken the
+/// place of one that was refused: nobody knows how many were meant.
+void RequireNothingLeftOut(ProbeFile& file, const Probe& probe) {
+    constexpr int mostGaps = 64; // keys that are missing between others
+    const auto image = RecordImage::Of(*probe.Settings());
+    NameSet lists;
+    for (const RecordKey& key : RecordKeys(probe.Conversion().ConversionType()))
+        if (key.index >= 0)
+            lists.insert(key.list);
+    std::vector<std::wstring> lost;
+    for (const std::wstring& list : lists) {
+        for (int index = 0, gaps = 0; gaps < mostGaps; ++index) {
+            const std::wstring path = list + std::to_wstring(index);
+            std::wstring text;
+            if (!file.Store()->ReadString(SelectKey(*file.Store(), SettingsSection(probe.Section()), path),
+                                          text)) {
+                ++gaps;
+                continue;
+            }
+            const auto value = ParseAs(Value(0.0), text);
+            if (!image->Find(path) && (!value || SaysSomething(*value)))
+                lost.push_back(path + L"=" + text);
+        }
+    }
+    std::sort(lost.begin(), lost.end());
+    Assigning::RefuseLoss(Place(file.Path(), probe.Section()) + L" ", std::move(lost));
+}
+
 /// Whether the settings take a value in the place of another one, and nothing else changes with it.
 bool IsTakenAlone(const Value& value, const Value& before, const ValueRules& rules) {
     const double* const number = std::get_if<double>(&value);
@@ -602,6 +630,8 @@ void AssignInFile(ProbeFile& file, const std::wstring& section, const std::vecto
     if (!isWhole && WriteRefused(file, section, assignments)) {
         probe = Probe(section);
         isWhole = ReadWhole(file, probe) && probe.Settings();
+        if (isWhole && !rules.drops)
+            RequireNothingLeftOut(file, probe);
     }
     if (!isWhole)
         probe = ReadProbe(file, section, assignments); // which tells what is wrong with it

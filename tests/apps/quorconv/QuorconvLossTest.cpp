@@ -90,7 +90,10 @@ TEST_F(QuorconvLossTest, ARecordThatIsRefusedForItsCountIsMendedByTheCountAlone)
     ExpectFine({"set", "a.ini", "C", "NumCoefficients=3"});
     EXPECT_EQ(folder.Read("a.ini"), Replaced(file, "=-1", "=3"));
     folder.Write("a.ini", file);
-    ExpectFine({"set", "a.ini", "C", "Coefficients0=100.02", "NumCoefficients=2"});
+    ExpectRefused({"set", "a.ini", "C", "Coefficients0=100.02", "NumCoefficients=2"},
+                  "quorconv: a.ini: [C]" + lost + "  Coefficients2=1.5\n");
+    EXPECT_EQ(folder.Read("a.ini"), file);
+    ExpectFine({"set", "a.ini", "C", "Coefficients0=100.02", "NumCoefficients=2", "--drop"});
     EXPECT_EQ(folder.Read("a.ini"), Replaced(Replaced(file, "=-1", "=2"), "100.01", "100.02"));
 }
 
@@ -451,6 +454,23 @@ TEST_F(QuorconvLossTest, ACopyHasTheFirstOfTwoLinesOfAKeyWhichIsTheOneThatIsRead
     folder.Write("c.ini", "");
     ExpectShell("quorconv merge empty.ini c.ini a.ini", "", "quorconv: 1 probe merged\n");
     EXPECT_EQ(folder.Read("c.ini"), Replaced("[P]\n" + copy, "[Q", "[P"));
+}
+
+TEST_F(QuorconvLossTest, ACountThatMendsARecordLeavesNoValueOutWithoutDrop) {
+    const std::string table =
+        "[T]\nVersion=1.0\nConversionType=8\n\n[T - Settings]\nVersion=1.0\nNumPoints=20\n"
+        "Temperatures0=0\nVoltages0=0\nTemperatures1=10\nVoltages1=0.4\n"
+        "Temperatures2=20\nVoltages2=0.8\n";
+    folder.Write("a.ini", table);
+    ExpectRefused({"set", "a.ini", "T", "NumPoints=2"},
+                  "quorconv: a.ini: [T] values of the probe would be lost; use --drop to allow it\n"
+                  "  Temperatures2=20\n  Voltages2=0.8\n");
+    EXPECT_EQ(folder.Read("a.ini"), table);
+    ExpectFine({"set", "a.ini", "T", "NumPoints=3"});
+    EXPECT_EQ(folder.Read("a.ini"), Replaced(table, "=20\nTemp", "=3\nTemp"));
+    folder.Write("a.ini", table);
+    ExpectFine({"set", "a.ini", "T", "NumPoints=2", "--drop"});
+    EXPECT_EQ(folder.Read("a.ini"), Replaced(table, "=20\nTemp", "=2\nTemp"));
 }
 
 TEST_F(QuorconvLossTest, ARecordOfWhichAValueWouldBeAnotherOneIsRefusedAndMendedByThatValue) {
