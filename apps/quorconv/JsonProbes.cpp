@@ -6,9 +6,11 @@
 #include "apps/quorconv/Nearest.h"
 
 #include <algorithm>
+#include <charconv>
 #include <initializer_list>
 #include <map>
 #include <set>
+#include <system_error>
 #include <utility>
 
 namespace quorconv {
@@ -280,9 +282,15 @@ std::size_t JsonProbes::Match(Pattern& pattern, std::string_view text) {
     }
     for (const PlaceInObject& place : pattern.places) {
         const std::string_view bytes = text.substr(place.offset, place.length);
-        std::wstring& meant =
-            place.value == ofSection ? pattern.probe.section : pattern.probe.values[place.value].value;
-        meant.assign(bytes.begin(), bytes.end());
+        if (place.value == ofSection) {
+            pattern.probe.section.assign(bytes.begin(), bytes.end());
+            continue;
+        }
+        Assignment& assignment = pattern.probe.values[place.value];
+        assignment.value.assign(bytes.begin(), bytes.end());
+        double number = 0.0;
+        const auto read = std::from_chars(bytes.data(), bytes.data() + bytes.size(), number);
+        assignment.parsed = read.ec == std::errc() ? std::optional<Value>(number) : std::nullopt;
     }
     return at;
 }

@@ -510,7 +510,7 @@ void RequireNothingLeftOut(ProbeFile& file, const Probe& probe) {
             }
             const auto value = ParseAs(Value(0.0), text);
             if (!image->Find(path) && (!value || SaysSomething(*value)))
-                lost.push_back(path + L"=" + text);
+                lost.push_back(std::wstring(path).append(L"=").append(text));
         }
     }
     std::sort(lost.begin(), lost.end());
