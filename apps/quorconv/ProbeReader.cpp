@@ -36,22 +36,13 @@ ProbeValues ValuesOf(const Probe& probe) {
 namespace {
 
 /// Reads a value of a shape, in which whole numbers and flags are the same.
-struct ValueOfShape {
-    IniStore& store;
-    const std::wstring& key;
+struct ValueOfShape : StandsInFile {
+    using StandsInFile::operator();
     bool operator()(double& value) const {
         // Settings that hold 0.0 keep it when they are given -0.0.
         return store.ReadDouble(key, value) && !(value == 0.0 && std::signbit(value));
     }
     bool operator()(std::wstring& value) const { return store.ReadString(key, value); }
-    bool operator()(std::int16_t value) const {
-        std::int16_t present = 0;
-        return store.ReadInteger(key, present) && present == value;
-    }
-    bool operator()(bool value) const {
-        bool present = false;
-        return store.ReadBoolean(key, present) && present == value;
-    }
 };
 
 } // namespace
@@ -61,7 +52,7 @@ bool ProbeReader::Fill(Shape& shape, IniStore& store, const std::wstring& sectio
         const Key& key = shape.keys[at];
         if (!key.section.empty())
             store.SetSection(m_section.assign(section).append(key.section));
-        if (!std::visit(ValueOfShape{store, key.name}, shape.probe.entries[at].value))
+        if (!std::visit(ValueOfShape{{store, key.name}}, shape.probe.entries[at].value))
             return false;
     }
     shape.probe.section = section;

@@ -52,17 +52,8 @@ bool IsCompletedBy(const ReadOutcome& outcome, const std::vector<Assignment>& as
 /// out of their range without a message.
 bool HoldsWhatStands(const SettingsObject& settings, QuorIniFile::INIFile& store,
                      const std::wstring& section) {
-    struct Visitor {
-        QuorIniFile::INIFile& store;
-        const std::wstring& key;
-        bool operator()(std::int16_t held) const {
-            std::int16_t present = 0;
-            return store.ReadInteger(key, present) && present == held;
-        }
-        bool operator()(bool held) const {
-            bool present = false;
-            return store.ReadBoolean(key, present) && present == held;
-        }
+    struct Visitor : StandsInFile {
+        using StandsInFile::operator();
         bool operator()(double /*held*/) const { return true; }
         bool operator()(const std::wstring& /*held*/) const { return true; }
     };
@@ -70,11 +61,21 @@ bool HoldsWhatStands(const SettingsObject& settings, QuorIniFile::INIFile& store
     return std::all_of(image->Entries().begin(), image->Entries().end(),
                        [&](const RecordImage::Entry& entry) {
                            const std::wstring key = SelectKey(store, SettingsSection(section), entry.path);
-                           return std::visit(Visitor{store, key}, entry.value);
+                           return std::visit(Visitor{{store, key}}, entry.value);
                        });
 }
 
 } // namespace
+
+bool StandsInFile::operator()(std::int16_t value) const {
+    std::int16_t present = 0;
+    return store.ReadInteger(key, present) && present == value;
+}
+
+bool StandsInFile::operator()(bool value) const {
+    bool present = false;
+    return store.ReadBoolean(key, present) && present == value;
+}
 
 bool ReadWhole(ProbeFile& file, Probe& probe) {
     std::shared_ptr<QuorIniFile::INIFile> store = file.Store();

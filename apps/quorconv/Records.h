@@ -52,6 +52,14 @@ struct ValueRules {
 /// "file: [section]", with which a failure begins.
 [[nodiscard]] std::wstring Place(const std::wstring& file, const std::wstring& section);
 
+/// Whether a key of the selected section of a file has a whole number, or a flag.
+struct StandsInFile {
+    QuorIniFile::INIFile& store;
+    const std::wstring& key;
+    [[nodiscard]] bool operator()(std::int16_t value) const;
+    [[nodiscard]] bool operator()(bool value) const;
+};
+
 /// Reads the record of a probe of a host as it stands. False when something is wrong with it.
 [[nodiscard]] bool ReadWhole(QuorProbeFile::ProbeFile& file, Probe& probe);
 /// Reads the probe of a section; raises Problem when the library could not read all of it, but for what

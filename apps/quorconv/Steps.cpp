@@ -153,15 +153,24 @@ std::vector<CopiedKey> OtherKeys(ProbeFile& from, const NameMap<std::wstring>& c
     return keys;
 }
 
+/// The path of a key in the record of its probe.
+std::wstring PathOf(const CopiedKey& key) {
+    const auto mark = Folded(key.section).rfind(Folded(std::wstring(settingsMark)));
+    const std::wstring place = // " - Low Range"
+        mark == std::wstring::npos ? L"" : key.section.substr(mark + settingsMark.size());
+    return place.empty() ? key.name : place.substr(nestedMark.size()) + L"/" + key.name;
+}
+
+/// Whether a key may be a value of a record of any type.
+bool IsOfSomeRecord(const CopiedKey& key) {
+    return std::any_of(Types().begin(), Types().end(),
+                       [&](const TypeInfo& type) { return MayHaveKey(type.code, PathOf(key)); });
+}
+
 /// Whether the selected section has a value of a record already, in whatever spelling: it was written by its
 /// type.
 bool HasValue(QuorIniFile::IniStore& store, const CopiedKey& key) {
-    const auto mark = key.section.find(settingsMark);
-    const std::wstring place =
-        mark == std::wstring::npos ? L"" : key.section.substr(mark + settingsMark.size());
-    const std::wstring path = place.empty() ? key.name : place.substr(nestedMark.size()) + L"/" + key.name;
-    if (std::none_of(Types().begin(), Types().end(),
-                     [&](const TypeInfo& type) { return MayHaveKey(type.code, path); }))
+    if (!IsOfSomeRecord(key))
         return false;
     std::wstring text;
     bool flag = false;
@@ -181,14 +190,10 @@ void WriteKeys(ProbeFile& to, const std::vector<CopiedKey>& keys) {
     }
 }
 
-/// Whether a key of the settings of a probe is a value of one of two types.
-bool IsValue(const CopiedKey& key, const std::wstring& probe, const TypeInfo* before, const TypeInfo& now) {
-    const std::wstring place = key.section.substr(probe.size() + settingsMark.size()); // " - Low Range"
-    const std::wstring path = place.empty() ? key.name : place.substr(nestedMark.size()) + L"/" + key.name;
-    return MayHaveKey(now.code, path) ||
-           (before ? MayHaveKey(before->code, path)
-                   : std::any_of(Types().begin(), Types().end(),
-                                 [&](const TypeInfo& type) { return MayHaveKey(type.code, path); }));
+/// Whether a key of the settings of a probe is a value of one of two types; null for one that nobody knows.
+bool IsValue(const CopiedKey& key, const TypeInfo* before, const TypeInfo& now) {
+    return MayHaveKey(now.code, PathOf(key)) ||
+           (before ? MayHaveKey(before->code, PathOf(key)) : IsOfSomeRecord(key));
 }
 
 } // namespace
@@ -206,7 +211,7 @@ void WriteRetyped(ProbeFile& file, const std::wstring& section,
     const TypeInfo& now = *FindType(conversion.ConversionType());
     auto keys = OtherKeys(file, {{section, section}}, file, {});
     std::erase_if(keys, [&](const CopiedKey& key) {
-        return EqualFolded(key.section, section) || IsValue(key, section, before, now);
+        return EqualFolded(key.section, section) || IsValue(key, before, now);
     });
     if (!keys.empty() && !MayHaveSettings(now.code)) {
         std::vector<std::wstring> own;
@@ -235,6 +240,7 @@ Strings WordsFrom(const Strings& words, std::size_t first) {
 /// What a command needs, and what it does, by the words behind it.
 struct StepCommand {
     const wchar_t* name;
+    bool isForPresent; // the first word is a probe that is there
     const wchar_t* arguments;
     std::size_t least;
     std::size_t most; // words
@@ -243,23 +249,21 @@ struct StepCommand {
 
 constexpr std::size_t any = static_cast<std::size_t>(-1);
 
-constexpr std::wstring_view newStep = L"new";
-
 const std::vector<StepCommand>& StepCommands() {
     static const std::vector<StepCommand> commands{
-        {newStep.data(), L"SECTION TYPE [KEY=VALUE...]", 2, any,
+        {L"new", false, L"SECTION TYPE [KEY=VALUE...]", 2, any,
          [](const Strings& words, const ValueRules& rules) -> std::function<void(ProbeFile&)> {
              return [words, rules, values = Assignments(WordsFrom(words, 2))](ProbeFile& file) {
                  NewProbe(file, words[0], words[1], values, rules);
              };
          }},
-        {L"set", L"SECTION KEY=VALUE...", 2, any,
+        {L"set", true, L"SECTION KEY=VALUE...", 2, any,
          [](const Strings& words, const ValueRules& rules) -> std::function<void(ProbeFile&)> {
              return [section = words[0], rules, values = Assignments(WordsFrom(words, 1))](ProbeFile& file) {
                  SetValues(file, section, values, rules);
              };
          }},
-        {L"copy", L"SECTION TO-SECTION [--replace]", 2, 3,
+        {L"copy", true, L"SECTION TO-SECTION [--replace]", 2, 3,
          [](const Strings& words, const ValueRules& /*rules*/) -> std::function<void(ProbeFile&)> {
              if (words.size() == 3 && words[2] != L"--replace")
                  throw Problem{L"\"--replace\" expected: " + words[2]};
@@ -268,17 +272,17 @@ const std::vector<StepCommand>& StepCommands() {
                  CopyOtherKeys(file, {{words[0], words[1]}}, file);
              };
          }},
-        {L"rename", L"SECTION NAME", 2, 2,
+        {L"rename", true, L"SECTION NAME", 2, 2,
          [](const Strings& words, const ValueRules& /*rules*/) -> std::function<void(ProbeFile&)> {
              return [words](ProbeFile& file) { RenameProbe(file, words[0], words[1]); };
          }},
-        {L"retype", L"SECTION TYPE [KEY=VALUE...]", 2, any,
+        {L"retype", true, L"SECTION TYPE [KEY=VALUE...]", 2, any,
          [](const Strings& words, const ValueRules& rules) -> std::function<void(ProbeFile&)> {
              return [words, rules, values = Assignments(WordsFrom(words, 2))](ProbeFile& file) {
                  RetypeProbe(file, words[0], words[1], values, rules);
              };
          }},
-        {L"remove", L"SECTION", 1, 1,
+        {L"remove", true, L"SECTION", 1, 1,
          [](const Strings& words, const ValueRules& /*rules*/) -> std::function<void(ProbeFile&)> {
              return [words](ProbeFile& file) { file.Remove(words[0]); };
          }},
@@ -304,7 +308,7 @@ std::function<void(ProbeFile&)> MakeStep(Strings words, StepLanguage language, c
         throw Problem{(language == StepLanguage::Commands ? name + L" " : L"") + command->arguments +
                       L" expected"};
     auto step = command->make(words, rules);
-    if (command->name == newStep || !IsPattern(words.front()))
+    if (!command->isForPresent || !IsPattern(words.front()))
         return step;
     return [step = std::move(step), section = words.front()](ProbeFile& file) {
         if (!file.Find(section))

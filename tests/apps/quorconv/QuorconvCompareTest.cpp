@@ -357,6 +357,16 @@ TEST_F(QuorconvCompareTest, WhatTheOtherFileHasChangedOfAProbeThatIsRenamedHereI
         folder.Write("ours.ini", other);
         ExpectConflicts("  [A]: removed here, changed in theirs.ini\n");
     }
+    // So may one that has a single value, which many have.
+    const std::string single =
+        "[A]\nVersion=1.0\nConversionType=14\n\n[A - Settings]\nVersion=1.0\nRTPW=25.5\n";
+    folder.Write("single.ini", single);
+    folder.Write("ours.ini", Replaced(Replaced(single, "[A]", "[One]"), "[A -", "[One -"));
+    folder.Write("theirs.ini", Replaced(single, "25.5", "25.6"));
+    ExpectRefused({"merge", "single.ini", "ours.ini", "theirs.ini"},
+                  "quorconv: ours.ini: nothing was written, because both files have changed the same value\n"
+                  "  [A]: removed here, changed in theirs.ini\n");
+    folder.Write("theirs.ini", three);
     // Renamed alike in both.
     folder.Write("theirs.ini", three);
     ExpectFine({"rename", "theirs.ini", "A", "One"});
