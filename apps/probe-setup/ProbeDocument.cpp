@@ -131,6 +131,18 @@ private:
     IniStore& m_store;
 };
 
+/// Does what writes into a file, which a failure names.
+template <class Body>
+void NamingFile(const std::wstring& path, const Body& body) {
+    try {
+        body();
+    } catch (DocumentError& error) {
+        if (error.failure == Failure::CannotWrite)
+            error.file = path;
+        throw;
+    }
+}
+
 } // namespace
 
 ProbeDocument::ProbeDocument(std::shared_ptr<Platform> platform,
@@ -742,10 +754,14 @@ void ProbeDocument::WriteAll(ProbeFile& file) {
 }
 
 bool ProbeDocument::WriteChanges(ProbeFile& file, const OthersChanges& replaced) {
-    const auto requireWhole = [this](std::size_t probe) { RequireWhole(m_probes[probe]); };
     const bool othersWrote = ChangedByOthers();
-    DocumentSave(*m_file, m_probes, RemovedProbes(), requireWhole).WriteInto(file, othersWrote, replaced);
+    WriteChanges(file, othersWrote, replaced);
     return othersWrote;
+}
+
+void ProbeDocument::WriteChanges(ProbeFile& file, bool othersWrote, const OthersChanges& replaced) {
+    const auto requireWhole = [this](std::size_t probe) { RequireWhole(m_probes[probe]); };
+    DocumentSave(*m_file, m_probes, RemovedProbes(), requireWhole).WriteInto(file, othersWrote, replaced);
 }
 
 std::size_t ProbeDocument::ReadHistory() {
@@ -791,8 +807,14 @@ void ProbeDocument::SaveAs(const std::wstring& path, const OthersChanges& replac
 void ProbeDocument::SaveTo(const std::wstring& path, const OthersChanges& replaced, bool moves) {
     // Where somebody has removed the file, all of its text is still here.
     const bool isGone = m_file && IsGone();
-    if (isGone)
+    if (isGone) {
+        NamingFile(path, [&] { // what is refused is refused before anything is replaced
+            const auto trial = ProbeFile::Snapshot(*m_file);
+            const InMemory inMemory(*trial->Store());
+            WriteChanges(*trial, false, replaced);
+        });
         m_file->SaveAs(path);
+    }
     if (m_file && m_file->Store()->IsOwnFile(path)) {
         Save(replaced);
         return;
@@ -800,18 +822,14 @@ void ProbeDocument::SaveTo(const std::wstring& path, const OthersChanges& replac
     const auto file = m_file ? FileAt(isGone ? path : m_path) : FileThatDoesNotExist(path);
     const std::size_t lostSteps = moves ? ReadHistory() : 0;
     bool othersWrote = false;
-    try {
+    NamingFile(path, [&] {
         const InMemory inMemory(*file->Store());
         if (m_file)
             othersWrote = WriteChanges(*file, replaced) && !isGone;
         else
             WriteAll(*file);
         file->SaveAs(path);
-    } catch (DocumentError& error) {
-        if (error.failure == Failure::CannotWrite)
-            error.file = path;
-        throw;
-    }
+    });
     if (!moves)
         return;
     m_file = FileAt(path);

@@ -176,8 +176,8 @@ public:
     /// Saves the document, with all of the file around the probes, under another name, in place of what is
     /// there; when its own file is gone, with all that stood in it when it was read. The document stays with
     /// its own file, if it has one, and takes the new one otherwise; a file of its own that was gone is its
-    /// own again. Raises what Save raises; if its own file is gone, the other one then may hold what stood in
-    /// it, without the changes.
+    /// own again. Raises what Save raises, before anything is replaced; but if the disk fails while its own
+    /// file is gone, the other one may hold what stood in it, without the changes.
     void SaveCopyAs(const std::wstring& path, const OthersChanges& replaced = {});
     /// Saves as SaveCopyAs does, and the document goes over to the new file.
     void SaveAs(const std::wstring& path, const OthersChanges& replaced = {});
@@ -238,6 +238,8 @@ private:
     /// Writes what was done into the file as it is now, within an edit or in memory. Returns whether another
     /// program has written into it.
     [[nodiscard]] bool WriteChanges(QuorProbeFile::ProbeFile& file, const OthersChanges& replaced);
+    /// The same where it is known whether another program has.
+    void WriteChanges(QuorProbeFile::ProbeFile& file, bool othersWrote, const OthersChanges& replaced);
     void SaveTo(const std::wstring& path, const OthersChanges& replaced, bool moves);
     /// Reads the file, which holds what others have written, too, after a save.
     void TakeOthersChanges();

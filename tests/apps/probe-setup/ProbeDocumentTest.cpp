@@ -712,6 +712,13 @@ TEST_F(ProbeDocumentTest, AProbeThatCannotBeWrittenIsToldWithTheFileThatWasToGet
     expectRefused(ErrorOf([&] { document.Save(); }), "host.ini");
     expectRefused(ErrorOf([&] { document.SaveCopyAs(folder.Name("copy.ini")); }), "copy.ini");
     EXPECT_FALSE(fs::exists(folder.Path("copy.ini")));
+    // Nor is another file replaced by what stood in its own one, which is gone.
+    folder.Write("copy.ini", "; another laboratory's\n");
+    fs::remove(folder.Path("host.ini"));
+    const DocumentError error = ErrorOf([&] { document.SaveCopyAs(folder.Name("copy.ini")); });
+    EXPECT_EQ(error.failure, Failure::CannotWrite);
+    EXPECT_EQ(error.file, folder.Name("copy.ini"));
+    EXPECT_EQ(folder.Read("copy.ini"), "; another laboratory's\n");
 }
 
 TEST_F(ProbeDocumentTest, AStandAloneFileBecomesAProbeAndAProbeAStandAloneFile) {
